@@ -1,0 +1,30 @@
+# Each target works first on a fresh Debian 12 machine: it installs what it needs.
+.PHONY: demo test test-sanitized format lint clean
+
+# A little less than the machine has would be slower and no kinder.
+export CMAKE_BUILD_PARALLEL_LEVEL ?= $(shell nproc)
+export CTEST_PARALLEL_LEVEL ?= $(shell nproc)
+
+test: build/release/build.ninja
+	cmake --build --preset release
+	ctest --preset release
+
+test-sanitized: build/sanitized/build.ninja
+	cmake --build --preset sanitized
+	ctest --preset sanitized
+
+format:
+	scripts/install_packages lint
+	git ls-files '*.h' '*.cpp' | xargs clang-format -i
+
+lint: build/release/build.ninja
+	scripts/install_packages lint
+	scripts/lint
+
+clean:
+	rm -rf build
+
+build/%/build.ninja: CMakePresets.json scripts/install_packages
+	scripts/install_packages $(if $(filter demo,$*),demo,test)
+	cmake --preset $* >/dev/null
+	touch $@

@@ -1,0 +1,150 @@
+#pragma once
+
+#include <gdiplus.h>
+
+#include <cstdint>
+
+#include "host/device_geometry.h"
+#include "host/raster_data.h"
+#include "map_surround/element.h"
+#include "map_surround/export.h"
+
+/// The kind of a frame. 1 and 2 are free for the host's own kinds.
+enum FrameType : std::int32_t {
+    FrameBasic = 0,
+    FrameSurround = 3,
+};
+
+/// Where a page point lies relative to a frame.
+enum SpatialTopoRelation : std::int32_t {
+    TopoDisjoint = 0,  ///< outside the extent
+    TopoOnHandle = 2,  ///< on one of the eight handles
+    TopoWithin = 3,    ///< inside, on no handle or none asked for
+};
+
+/// A rectangle on the page with a border, a drop shadow and a background, that answers
+/// where a point lies and moves.
+///
+/// The extent is in page units, y growing upwards. The decoration fields are public and
+/// set by the host; their gaps and the border width are in device pixels.
+class MAP_SURROUND_API CFrameBase {
+public:
+    CFrameBase() = default;
+
+    /// Copies every field.
+    CFrameBase(const CFrameBase& other);
+    CFrameBase& operator=(const CFrameBase& other);
+
+    virtual ~CFrameBase();
+
+    /// Tells where a page point lies, and sets HitHandle to the handle found or to -1.
+    ///
+    /// The handles stand at the corners and the middles of the edges, numbered clockwise
+    /// from the top left: 0 top-left, 1 top-middle, 2 top-right, 3 right-middle,
+    /// 4 bottom-right, 5 bottom-middle, 6 bottom-left, 7 left-middle. A point is on a
+    /// handle when it is no further than the tolerance from it in x and in y; the first
+    /// in the order wins. With an extent from (0, 0) to (100, 50) and tolerance 3, the
+    /// point (47, 50) is on handle 1.
+    ///
+    /// Handles are caught only from inside: a point outside the extent is disjoint,
+    /// however near a corner it is.
+    /// @param point page units
+    /// @param tolerance page units; a negative or NaN one catches no handle
+    /// @param insideOnly do not look at the handles
+    virtual SpatialTopoRelation HitTest(CPoint2D point, double tolerance,
+                                        bool insideOnly);
+
+    /// Moves the extent, in page units.
+    virtual void SetOffset(double dx, double dy);
+
+    /// Draws the border, then the shadow, then the fill, as far as they are switched on,
+    /// so that the fill covers what lies inside it.
+    ///
+    /// The shadow is a strip along the right edge and one along the bottom edge, set off
+    /// by the shadow ratios. A border of width 0 is drawn in a transparent colour, for
+    /// GDI+ would draw a hairline. When the shadow is on and both its ratios are 0,
+    /// BorderWidth is 0 afterwards; that is meant.
+    /// @param graphics the surface, not null; failures become its last status
+    /// @param rect device pixels, y growing downwards. A rect (10, 20, 110, 70) with a
+    /// gap of 3 both ways has its border from (7, 17), 106 wide and 56 high
+    void DrawFrame(Gdiplus::Graphics* graphics, CRect rect);
+
+    CBoundingBox GetExtent() const { return m_extent; }
+    void SetExtent(CBoundingBox extent) { m_extent = extent; }
+
+    FrameType GetFrameType() const { return m_frameType; }
+
+    /// The handle that the last HitTest found, -1 when it found none.
+    std::int32_t HitHandle = 0;
+
+    bool DrawBorder = false;
+    bool DrawFill = false;
+    bool DrawShadow = false;
+    bool DashedBorder = false;
+
+    float BorderWidth = 1.0f;  ///< device pixels
+    Gdiplus::Color BorderColor{0xFF000000};
+    Gdiplus::Color FillColor{0x00FFFFFF};
+    Gdiplus::Color ShadowColor{0x00FFFFFF};
+
+    /// Words that the library copies and never reads.
+    std::int32_t Reserved1 = 0;
+    std::int32_t Reserved2 = 0;
+    std::int32_t Reserved3 = 0;
+
+    /// How far the border and the shadow stand out from the rectangle, in device pixels:
+    /// left and right, top and bottom.
+    std::int32_t BorderGapX = 0;
+    std::int32_t BorderGapY = 0;
+
+    std::int32_t Reserved4 = 5;
+    std::int32_t Reserved5 = 5;
+
+    /// The same for the fill.
+    std::int32_t FillGapX = 0;
+    std::int32_t FillGapY = 0;
+
+    /// How far the shadow falls, as a fraction of the rectangle's width and height. The
+    /// host sets them before it switches DrawShadow on.
+    float ShadowRatioX = 0.0f;
+    float ShadowRatioY = 0.0f;
+
+protected:
+    explicit CFrameBase(FrameType type) : m_frameType(type) {}
+
+private:
+    void DrawShadowStrips(Gdiplus::Graphics* graphics, CRect rect);
+
+    CBoundingBox m_extent;
+    FrameType m_frameType = FrameBasic;
+};
+
+/// The frame that holds one map surround element and deletes it in the end.
+///
+/// A copy of a frame points to the same element: the host takes it out of one of the two
+/// with SetMapSurround(nullptr) before both are destroyed.
+class MAP_SURROUND_API CSurroundFrame : public CFrameBase {
+public:
+    CSurroundFrame() : CFrameBase(FrameSurround) {}
+    CSurroundFrame(const CSurroundFrame&) = default;
+
+    /// Copies the pointer to the element; the element held before is not deleted.
+    CSurroundFrame& operator=(const CSurroundFrame&) = default;
+
+    /// Deletes the element.
+    ~CSurroundFrame() override;
+
+    /// Draws the element, when there is one, with the arguments as they are. The
+    /// decoration is drawn by DrawFrame, which the host calls by itself.
+    virtual void Draw(Gdiplus::Graphics* graphics, CPoint centre, double scale);
+
+    /// Takes the element over. One held before is neither deleted nor returned: a host
+    /// that replaces an element deletes the old one first.
+    void SetMapSurround(CMapSurround* mapSurround) { m_mapSurround = mapSurround; }
+
+    /// The element, which the frame goes on owning; null when there is none.
+    CMapSurround* GetMapSurround() const { return m_mapSurround; }
+
+private:
+    CMapSurround* m_mapSurround = nullptr;
+};

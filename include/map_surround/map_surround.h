@@ -1,0 +1,9 @@
+#pragma once
+
+/// @file
+/// Every public class of the library.
+
+#include "map_surround/element.h"
+#include "map_surround/frame.h"
+#include "map_surround/picture.h"
+#include "map_surround/title.h"

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "gdiplus/flat.h"
+
+namespace Gdiplus {
+
+/// What fills a shape or a text.
+class Brush : public detail::StatusKeeper {
+public:
+    virtual ~Brush() { DllExports::GdipDeleteBrush(native_); }
+
+    GpBrush* NativeObject() const { return native_; }
+
+protected:
+    Brush() = default;
+
+    GpBrush* native_ = nullptr;
+};
+
+/// A brush of one colour.
+class SolidBrush : public Brush {
+public:
+    explicit SolidBrush(const Color& color) {
+        GpSolidFill* brush = nullptr;
+        SetStatus(DllExports::GdipCreateSolidFill(color.GetValue(), &brush));
+        native_ = brush;
+    }
+
+    Status SetColor(const Color& color) {
+        return SetStatus(DllExports::GdipSetSolidFillColor(Solid(), color.GetValue()));
+    }
+    Status GetColor(Color* color) const {
+        if (color == nullptr) {
+            return SetStatus(InvalidParameter);
+        }
+        ARGB argb = 0;
+        const Status status =
+            SetStatus(DllExports::GdipGetSolidFillColor(Solid(), &argb));
+        *color = Color(argb);
+        return status;
+    }
+
+private:
+    GpSolidFill* Solid() const { return static_cast<GpSolidFill*>(native_); }
+};
+
+}  // namespace Gdiplus

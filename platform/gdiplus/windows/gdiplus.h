@@ -1,0 +1,25 @@
+#pragma once
+
+// The SDK's own header, with what it needs to stand before it. Windows' headers define
+// min and max as macros unless told not to, and the SDK's GDI+ header needs the
+// functions.
+#ifndef NOMINMAX
+#define NOMINMAX
+#endif
+#include <windows.h>
+//
+#include <objidl.h>
+
+#include <algorithm>
+
+#ifdef __GNUC__
+#pragma GCC system_header
+#include_next <gdiplus.h>
+#else
+namespace Gdiplus {
+using std::max;
+using std::min;
+}  // namespace Gdiplus
+#pragma comment(lib, "gdiplus.lib")
+#include <../um/gdiplus.h>
+#endif

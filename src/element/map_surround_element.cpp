@@ -1,0 +1,5 @@
+#include "map_surround/element.h"
+
+CMapSurround::~CMapSurround() = default;
+
+void CMapSurround::ResetAspectRatio() {}

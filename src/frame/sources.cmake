@@ -1,0 +1,3 @@
+set(frame_sources
+  frame_base.cpp
+  surround_frame.cpp)

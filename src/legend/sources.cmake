@@ -1,0 +1,1 @@
+set(legend_sources)

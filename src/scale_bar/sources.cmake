@@ -1,0 +1,1 @@
+set(scale_bar_sources)

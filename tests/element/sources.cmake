@@ -1,0 +1,2 @@
+set(element_test_sources
+  numbers_test.cpp)

@@ -1,0 +1,2 @@
+set(frame_test_sources
+  draw_frame_test.cpp)

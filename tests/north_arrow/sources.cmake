@@ -1,0 +1,1 @@
+set(north_arrow_test_sources)

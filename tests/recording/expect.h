@@ -1,0 +1,42 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "recording/recording.h"
+
+namespace recording {
+
+/// A call that a drawing must hold, under the name that its geometry gives it.
+struct Named {
+    std::string name;  ///< "tick 3"
+    std::string line;  ///< as lines.h writes it
+};
+
+/// Compares a trace with what it must be, call by call: the first that differs is told as
+/// `tick 3: expected … (126, 20), drawn … (125, 20)`.
+::testing::AssertionResult Equal(const std::vector<Named>& expected,
+                                 const std::vector<std::string>& drawn);
+
+/// No native object of this thread is alive, but for those named as they are listed.
+::testing::AssertionResult NothingAlive();
+
+/// A white bitmap and its surface, made and deleted outside of any trace.
+class Surface {
+public:
+    explicit Surface(int width = 400, int height = 300);
+
+    Gdiplus::Graphics* Graphics() { return &m_graphics; }
+    Gdiplus::Bitmap& Bitmap() { return m_bitmap; }
+
+    /// The six elements of the world transform; {1, 0, 0, 1, 0, 0} is the identity.
+    std::vector<float> WorldTransform();
+
+private:
+    Gdiplus::Bitmap m_bitmap;
+    Gdiplus::Graphics m_graphics;
+};
+
+}  // namespace recording

@@ -1,0 +1,141 @@
+#include "recording/lines.h"
+#include "recording/session.h"
+
+using namespace recording;
+
+namespace Gdiplus {
+namespace DllExports {
+extern "C" {
+
+GpStatus WINGDIPAPI GdipCreateFontFamilyFromName(const FlatChar* name,
+                                                 GpFontCollection* collection,
+                                                 GpFontFamily** family) {
+    static const auto real =
+        Real<decltype(&GdipCreateFontFamilyFromName)>("GdipCreateFontFamilyFromName");
+    Object object;
+    object.kind = "family";
+    object.content = Utf8(name, -1);
+    object.look = "family[" + Quoted(object.content) + "]";
+    const std::string line = "GdipCreateFontFamilyFromName " + Quoted(object.content);
+    return RunCreation(
+        "GdipCreateFontFamilyFromName", [&] { return line; },
+        [&] { return real(name, collection, family); }, family, std::move(object));
+}
+
+GpStatus WINGDIPAPI GdipDeleteFontFamily(GpFontFamily* family) {
+    static const auto real =
+        Real<decltype(&GdipDeleteFontFamily)>("GdipDeleteFontFamily");
+    return RunDeletion("GdipDeleteFontFamily", family, [&] { return real(family); });
+}
+
+GpStatus WINGDIPAPI GdipCreateFont(const GpFontFamily* family, REAL emSize, INT style,
+                                   Unit unit, GpFont** font) {
+    static const auto real = Real<decltype(&GdipCreateFont)>("GdipCreateFont");
+    Object object;
+    object.kind = "font";
+    object.content = family == nullptr ? "" : ThisThread().Of(family).content;
+    object.size = emSize;
+    object.style = style;
+    object.look = FontLook(object.content, emSize, style, unit);
+    const std::string line = "GdipCreateFont " + object.look;
+    Session& session = ThisThread();
+    if (session.active && !session.Forwards() && (family == nullptr || !(emSize > 0))) {
+        return Run(
+            "GdipCreateFont", Effect::Internal, [&] { return line; },
+            [] { return InvalidParameter; }, [] { return InvalidParameter; });
+    }
+    return RunCreation(
+        "GdipCreateFont", [&] { return line; },
+        [&] { return real(family, emSize, style, unit, font); }, font, std::move(object));
+}
+
+GpStatus WINGDIPAPI GdipDeleteFont(GpFont* font) {
+    static const auto real = Real<decltype(&GdipDeleteFont)>("GdipDeleteFont");
+    return RunDeletion("GdipDeleteFont", font, [&] { return real(font); });
+}
+
+GpStatus WINGDIPAPI GdipGetFontSize(GpFont* font, REAL* size) {
+    static const auto real = Real<decltype(&GdipGetFontSize)>("GdipGetFontSize");
+    return Run(
+        "GdipGetFontSize", Effect::Internal,
+        [&] { return "GdipGetFontSize " + ThisThread().LookOf(font); },
+        [&] { return real(font, size); },
+        [&] {
+            if (font != nullptr) {
+                *size = ThisThread().Of(font).size;
+            }
+            return NeedAll(font);
+        });
+}
+
+GpStatus WINGDIPAPI GdipGetFontStyle(GpFont* font, INT* style) {
+    static const auto real = Real<decltype(&GdipGetFontStyle)>("GdipGetFontStyle");
+    return Run(
+        "GdipGetFontStyle", Effect::Internal,
+        [&] { return "GdipGetFontStyle " + ThisThread().LookOf(font); },
+        [&] { return real(font, style); },
+        [&] {
+            if (font != nullptr) {
+                *style = ThisThread().Of(font).style;
+            }
+            return NeedAll(font);
+        });
+}
+
+GpStatus WINGDIPAPI GdipCreateStringFormat(INT flags, LANGID language,
+                                           GpStringFormat** format) {
+    static const auto real =
+        Real<decltype(&GdipCreateStringFormat)>("GdipCreateStringFormat");
+    Object object;
+    object.kind = "format";
+    object.style = flags;
+    object.look = FormatLook(flags, 0);
+    return RunCreation(
+        "GdipCreateStringFormat",
+        [&] {
+            return "GdipCreateStringFormat " + std::to_string(flags) + " " +
+                   std::to_string(language);
+        },
+        [&] { return real(flags, language, format); }, format, std::move(object));
+}
+
+GpStatus WINGDIPAPI GdipSetStringFormatAlign(GpStringFormat* format,
+                                             StringAlignment alignment) {
+    static const auto real =
+        Real<decltype(&GdipSetStringFormatAlign)>("GdipSetStringFormatAlign");
+    const GpStatus status = Run(
+        "GdipSetStringFormatAlign", Effect::Internal,
+        [&] { return "GdipSetStringFormatAlign " + std::to_string(alignment); },
+        [&] { return real(format, alignment); }, [&] { return NeedAll(format); });
+    if (status == Ok && ThisThread().depth == 0) {
+        Object& object = ThisThread().objects[format];
+        object.look = FormatLook(object.style, alignment);
+    }
+    return status;
+}
+
+GpStatus WINGDIPAPI GdipDeleteStringFormat(GpStringFormat* format) {
+    static const auto real =
+        Real<decltype(&GdipDeleteStringFormat)>("GdipDeleteStringFormat");
+    return RunDeletion("GdipDeleteStringFormat", format, [&] { return real(format); });
+}
+
+GpStatus WINGDIPAPI GdipDrawString(GpGraphics* graphics, const FlatChar* text, INT length,
+                                   const GpFont* font, const GpRectF* layout,
+                                   const GpStringFormat* format, const GpBrush* brush) {
+    static const auto real = Real<decltype(&GdipDrawString)>("GdipDrawString");
+    return Run(
+        "GdipDrawString", Effect::Visible,
+        [&] {
+            const Session& session = ThisThread();
+            return DrawString(Utf8(text, length), session.LookOf(font), layout->X,
+                              layout->Y, session.LookOf(brush), layout->Width,
+                              layout->Height, session.LookOf(format));
+        },
+        [&] { return real(graphics, text, length, font, layout, format, brush); },
+        [&] { return NeedAll(graphics, font, brush); });
+}
+
+}  // extern "C"
+}  // namespace DllExports
+}  // namespace Gdiplus

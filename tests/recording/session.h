@@ -1,0 +1,152 @@
+#pragma once
+
+#include <gdiplus.h>
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <type_traits>
+#include <unordered_map>
+#include <utility>
+
+#include "flat_lookup/flat_lookup.h"
+#include "recording/recording.h"
+
+#ifndef WINGDIPAPI
+#define WINGDIPAPI
+#endif
+
+namespace recording {
+
+/// What is known of a native object.
+struct Object {
+    std::string kind;
+    std::string look = "null";  ///< as lines.h writes it
+    std::string content;        ///< a path's, a family's name
+    Gdiplus::ARGB color = 0;
+    float size = 0.0f;  ///< a pen's width, a font's em size
+    int style = 0;      ///< a pen's dash style, a font's style, a format's flags
+    std::string cap;
+    std::unique_ptr<char> token;  ///< what stands for the object where GDI+ made none
+};
+
+/// The state of a thread's recording, and its live objects at any time.
+struct Session {
+    bool active = false;
+    int depth = 0;  ///< within a flat call already: GDI+ calling itself
+    Mode mode = Mode::Forward;
+    std::vector<Call> calls;
+    int count = 0;
+    std::vector<Gdiplus::Rect> bounds;
+    std::size_t nextBounds = 0;
+    std::function<Gdiplus::Rect(const std::string&)> boundsOf;
+    std::optional<std::pair<unsigned int, unsigned int>> imageSize;
+    int failAt = 0;
+    Gdiplus::Status failStatus = Gdiplus::GenericError;
+    std::optional<std::string> failPrefix;
+    std::unordered_map<const void*, Object> objects;
+
+    bool Forwards() const { return !active || mode == Mode::Forward; }
+    bool Writes() const { return active && depth == 0 && mode != Mode::Silent; }
+
+    /// Counts a call and tells the status it must fail with; Ok to go on.
+    Gdiplus::Status Enter(const char* function);
+
+    /// What is known of an object; of null and of one made elsewhere, nothing.
+    const Object& Of(const void* native) const;
+    std::string LookOf(const void* native) const { return Of(native).look; }
+};
+
+Session& ThisThread();
+
+/// The system's function of the same name as one that this program defines.
+template <typename Function>
+Function Real(const char* name) {
+    return reinterpret_cast<Function>(map_surround::FlatFunction(name));
+}
+
+enum class Effect {
+    Visible,   ///< draws, or changes the world transform
+    Internal,  ///< makes, changes, measures
+    Deletion,  ///< is carried out even when it is to fail
+};
+
+/// Carries one flat call out: writes it down, fails it on order, forwards it.
+/// @param describe its line without the function's name, or with it for a visible one
+/// @param real the call of the system's function
+/// @param tokenStatus what it answers where nothing is forwarded
+template <typename Describe, typename RealCall, typename TokenCall>
+Gdiplus::GpStatus Run(const char* function, Effect effect, Describe describe,
+                      RealCall real, TokenCall tokenCall) {
+    Session& session = ThisThread();
+    if (session.depth > 0) {
+        return real();
+    }
+    if (session.active) {
+        const Gdiplus::Status failure = session.Enter(function);
+        if (session.Writes()) {
+            session.calls.push_back({describe(), effect == Effect::Visible});
+        }
+        if (failure != Gdiplus::Ok && effect != Effect::Deletion) {
+            return failure;
+        }
+        if (failure != Gdiplus::Ok) {
+            session.Forwards() ? real() : tokenCall();
+            return failure;
+        }
+        if (!session.Forwards()) {
+            return tokenCall();
+        }
+    }
+    ++session.depth;
+    const Gdiplus::GpStatus status = real();
+    --session.depth;
+    return status;
+}
+
+/// Where nothing is forwarded, a call on a null object fails as GDI+'s would.
+template <typename... Natives>
+Gdiplus::GpStatus NeedAll(const Natives*... natives) {
+    return (... && (natives != nullptr)) ? Gdiplus::Ok : Gdiplus::InvalidParameter;
+}
+
+/// Makes a token that stands for an object.
+template <typename Native>
+Gdiplus::GpStatus MakeToken(Native** native) {
+    auto token = std::make_unique<char>();
+    *native = reinterpret_cast<Native*>(token.get());
+    ThisThread().objects[*native].token = std::move(token);
+    return Gdiplus::Ok;
+}
+
+/// Carries a creation out and notes the object made.
+template <typename Describe, typename RealCall, typename Native>
+Gdiplus::GpStatus RunCreation(const char* function, Describe describe, RealCall real,
+                              Native** native, Object object) {
+    const bool outermost = ThisThread().depth == 0;
+    const Gdiplus::GpStatus status = Run(function, Effect::Internal, describe, real,
+                                         [&] { return MakeToken(native); });
+    if (outermost && status == Gdiplus::Ok && *native != nullptr) {
+        Object& made = ThisThread().objects[*native];
+        object.token = std::move(made.token);
+        made = std::move(object);
+    }
+    return status;
+}
+
+/// Carries a deletion out and forgets the object.
+template <typename RealCall>
+Gdiplus::GpStatus RunDeletion(const char* function, const void* native, RealCall real) {
+    const bool outermost = ThisThread().depth == 0;
+    const std::string line = std::string(function) + " ";
+    const Gdiplus::GpStatus status = Run(
+        function, Effect::Deletion, [&] { return line + ThisThread().LookOf(native); },
+        real,
+        [&] { return native != nullptr ? Gdiplus::Ok : Gdiplus::InvalidParameter; });
+    if (outermost) {
+        ThisThread().objects.erase(native);
+    }
+    return status;
+}
+
+}  // namespace recording

@@ -1,0 +1,11 @@
+set(recording_test_sources
+  expect.cpp
+  flat_images.cpp
+  flat_paths.cpp
+  flat_pens_brushes.cpp
+  flat_shapes.cpp
+  flat_text.cpp
+  flat_transforms.cpp
+  lines.cpp
+  main.cpp
+  recording.cpp)

@@ -1,0 +1,2 @@
+set(title_picture_test_sources
+  map_title_test.cpp)
