@@ -1,0 +1,77 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "host/common_functions.h"
+#include "host/raster_data.h"
+
+namespace host {
+
+/// Told how far a long read has come, 0 to 1; answers false to stop it.
+using Progress = std::function<bool(double)>;
+
+/// Pixels of a drawn raster: 4 bytes each (blue, green, red, alpha, as GDI+ keeps
+/// PixelFormat32bppARGB in memory), rows from the top, no padding.
+struct PixelImage {
+    int width = 0;
+    int height = 0;
+    std::vector<std::uint8_t> bgra;
+};
+
+/// Any raster that GDAL opens, as the legend's data source and as the map's picture.
+///
+/// The display type follows from the bands: three or more are shown as RGB (by their
+/// colour interpretation where they have one, else the first three), one with a palette
+/// or an attribute table as classified, any other as grey.
+class GdalRaster : public CRasterSource {
+public:
+    /// @return null when the file is no raster that GDAL opens; `why` then says so in a
+    /// few words, without the file's name
+    static std::unique_ptr<GdalRaster> Open(const std::string& path, std::string& why);
+
+    ~GdalRaster() override;
+
+    // CGISDataSource
+    bool IsAvailable() override;  ///< false once the file cannot be read any more
+    GISDataSourceType GetDataSourceType() override;
+    std::wstring GetFileName() override;  ///< without its folder
+    DataDisplayType GetDisplayType() override;
+
+    // CRasterSource
+    int GetRedBandNum() override;
+    int GetGreenBandNum() override;
+    int GetBlueBandNum() override;
+    CRasterBand* GetRasterBand(int index) override;
+    CClassifyDisplayTable* GetClassifyDisplayTable() override;
+
+    const std::string& Path() const;
+    int Width() const;   ///< pixels
+    int Height() const;  ///< pixels
+
+    /// GDAL's six coefficients from pixel and line to map coordinates; the identity when
+    /// the raster has none.
+    const std::array<double, 6>& GeoTransform() const;
+    bool HasGeoTransform() const;
+
+    /// The coordinate system as WKT, empty when unknown.
+    const std::string& Projection() const;
+
+    /// The whole raster at the given size in pixels, read decimated or from overviews in
+    /// strips, so that memory does not follow the raster's size: RGB and grey stretched
+    /// from 2 % to 98 % of each band's values, classified in its own colours; no-data is
+    /// transparent. Throws std::runtime_error with the reason when it cannot be read or
+    /// is stopped.
+    PixelImage Render(int width, int height, const Progress& progress = {});
+
+private:
+    struct State;
+    explicit GdalRaster(std::unique_ptr<State> state);
+    std::unique_ptr<State> m_state;
+};
+
+}  // namespace host
