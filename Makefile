@@ -1,5 +1,5 @@
 # Each target works first on a fresh Debian 12 machine: it installs what it needs.
-.PHONY: demo test test-sanitized format lint clean
+.PHONY: demo test test-sanitized gallery format lint clean
 
 # A little less than the machine has would be slower and no kinder.
 export CMAKE_BUILD_PARALLEL_LEVEL ?= $(shell nproc)
@@ -12,6 +12,11 @@ test: build/release/build.ninja
 test-sanitized: build/sanitized/build.ninja
 	cmake --build --preset sanitized
 	ctest --preset sanitized
+
+gallery: build/release/build.ninja
+	cmake --build --preset release --target gallery
+	mkdir -p build/gallery
+	build/release/examples/gallery build/gallery
 
 format:
 	scripts/install_packages lint
