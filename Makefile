@@ -1,5 +1,5 @@
 # Each target works first on a fresh Debian 12 machine: it installs what it needs.
-.PHONY: demo test test-sanitized gallery format lint clean
+.PHONY: demo test test-sanitized test-windows gallery format lint clean
 
 # A little less than the machine has would be slower and no kinder.
 export CMAKE_BUILD_PARALLEL_LEVEL ?= $(shell nproc)
@@ -12,6 +12,12 @@ test: build/release/build.ninja
 test-sanitized: build/sanitized/build.ninja
 	cmake --build --preset sanitized
 	ctest --preset sanitized
+
+test-windows: build/windows-mingw/build.ninja
+	cmake --build --preset windows-mingw
+	ctest --preset windows-mingw
+	mkdir -p build/gallery-windows
+	scripts/run_in_wine build/windows-mingw/bin/gallery.exe build/gallery-windows
 
 gallery: build/release/build.ninja
 	cmake --build --preset release --target gallery
@@ -29,7 +35,10 @@ lint: build/release/build.ninja
 clean:
 	rm -rf build
 
+purpose_of_demo = demo
+purpose_of_windows-mingw = windows
+
 build/%/build.ninja: CMakePresets.json scripts/install_packages
-	scripts/install_packages $(if $(filter demo,$*),demo,test)
+	scripts/install_packages $(or $(purpose_of_$*),test)
 	cmake --preset $* >/dev/null
 	touch $@

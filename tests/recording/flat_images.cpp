@@ -27,7 +27,7 @@ GpStatus WINGDIPAPI GdipDisposeImage(GpImage* image) {
 GpStatus WINGDIPAPI GdipGetImageWidth(GpImage* image, UINT* width) {
     static const auto real = Real<decltype(&GdipGetImageWidth)>("GdipGetImageWidth");
     const GpStatus status = Run(
-        "GdipGetImageWidth", Effect::Internal, [] { return "GdipGetImageWidth"; },
+        "GdipGetImageWidth", CallKind::Internal, [] { return "GdipGetImageWidth"; },
         [&] { return real(image, width); }, [&] { return NeedAll(image); });
     if (status == Ok && ThisThread().active && ThisThread().imageSize) {
         *width = ThisThread().imageSize->first;
@@ -38,7 +38,7 @@ GpStatus WINGDIPAPI GdipGetImageWidth(GpImage* image, UINT* width) {
 GpStatus WINGDIPAPI GdipGetImageHeight(GpImage* image, UINT* height) {
     static const auto real = Real<decltype(&GdipGetImageHeight)>("GdipGetImageHeight");
     const GpStatus status = Run(
-        "GdipGetImageHeight", Effect::Internal, [] { return "GdipGetImageHeight"; },
+        "GdipGetImageHeight", CallKind::Internal, [] { return "GdipGetImageHeight"; },
         [&] { return real(image, height); }, [&] { return NeedAll(image); });
     if (status == Ok && ThisThread().active && ThisThread().imageSize) {
         *height = ThisThread().imageSize->second;
@@ -50,7 +50,7 @@ GpStatus WINGDIPAPI GdipDrawImageRectI(GpGraphics* graphics, GpImage* image, INT
                                        INT width, INT height) {
     static const auto real = Real<decltype(&GdipDrawImageRectI)>("GdipDrawImageRectI");
     return Run(
-        "GdipDrawImageRectI", Effect::Visible,
+        "GdipDrawImageRectI", CallKind::Visible,
         [&] { return DrawImage(ThisThread().LookOf(image), x, y, width, height); },
         [&] { return real(graphics, image, x, y, width, height); },
         [&] { return NeedAll(graphics, image); });

@@ -59,7 +59,7 @@ GpStatus WINGDIPAPI GdipDeletePath(GpPath* path) {
 GpStatus WINGDIPAPI GdipResetPath(GpPath* path) {
     static const auto real = Real<decltype(&GdipResetPath)>("GdipResetPath");
     const GpStatus status = Run(
-        "GdipResetPath", Effect::Internal, [] { return "GdipResetPath"; },
+        "GdipResetPath", CallKind::Internal, [] { return "GdipResetPath"; },
         [&] { return real(path); }, [&] { return NeedAll(path); });
     Fill(path, status, "");
     return status;
@@ -74,7 +74,7 @@ GpStatus WINGDIPAPI GdipAddPathString(GpPath* path, const FlatChar* text, INT le
                                 Quoted(ThisThread().Of(family).content) + " " +
                                 Number(emSize);
     const GpStatus status = Run(
-        "GdipAddPathString", Effect::Internal,
+        "GdipAddPathString", CallKind::Internal,
         [&] {
             return "GdipAddPathString " + content + " style " + std::to_string(style) +
                    " at " + Number(layout->X) + " " + Number(layout->Y) + " " +
@@ -95,7 +95,7 @@ GpStatus WINGDIPAPI GdipAddPathRectangleI(GpPath* path, INT x, INT y, INT width,
                                 std::to_string(y) + " " + std::to_string(width) + " " +
                                 std::to_string(height);
     const GpStatus status = Run(
-        "GdipAddPathRectangleI", Effect::Internal,
+        "GdipAddPathRectangleI", CallKind::Internal,
         [&] { return "GdipAddPathRectangleI " + content; },
         [&] { return real(path, x, y, width, height); }, [&] { return NeedAll(path); });
     Fill(path, status, content);
@@ -107,7 +107,7 @@ GpStatus WINGDIPAPI GdipAddPathLine2I(GpPath* path, const GpPoint* points, INT c
     const std::string look =
         LinesPath(std::vector<GpPoint>(points, points + (count > 0 ? count : 0)));
     const GpStatus status = Run(
-        "GdipAddPathLine2I", Effect::Internal,
+        "GdipAddPathLine2I", CallKind::Internal,
         [&] { return "GdipAddPathLine2I " + look; },
         [&] { return real(path, points, count); }, [&] { return NeedAll(path); });
     Fill(path, status, look.substr(5, look.size() - 6));
@@ -117,7 +117,7 @@ GpStatus WINGDIPAPI GdipAddPathLine2I(GpPath* path, const GpPoint* points, INT c
 GpStatus WINGDIPAPI GdipTransformPath(GpPath* path, GpMatrix* matrix) {
     static const auto real = Real<decltype(&GdipTransformPath)>("GdipTransformPath");
     return Run(
-        "GdipTransformPath", Effect::Internal,
+        "GdipTransformPath", CallKind::Internal,
         [&] { return "GdipTransformPath " + ThisThread().LookOf(path); },
         [&] { return real(path, matrix); }, [&] { return NeedAll(path, matrix); });
 }
@@ -127,7 +127,7 @@ GpStatus WINGDIPAPI GdipGetPathWorldBoundsI(GpPath* path, GpRect* bounds,
     static const auto real =
         Real<decltype(&GdipGetPathWorldBoundsI)>("GdipGetPathWorldBoundsI");
     const GpStatus status = Run(
-        "GdipGetPathWorldBoundsI", Effect::Internal,
+        "GdipGetPathWorldBoundsI", CallKind::Internal,
         [&] {
             return "GdipGetPathWorldBoundsI " + ThisThread().LookOf(path) +
                    (matrix == nullptr ? "" : " matrix") + (pen == nullptr ? "" : " pen");
@@ -142,7 +142,7 @@ GpStatus WINGDIPAPI GdipGetPathWorldBoundsI(GpPath* path, GpRect* bounds,
 GpStatus WINGDIPAPI GdipDrawPath(GpGraphics* graphics, GpPen* pen, GpPath* path) {
     static const auto real = Real<decltype(&GdipDrawPath)>("GdipDrawPath");
     return Run(
-        "GdipDrawPath", Effect::Visible,
+        "GdipDrawPath", CallKind::Visible,
         [&] { return DrawPath(ThisThread().LookOf(pen), ThisThread().LookOf(path)); },
         [&] { return real(graphics, pen, path); },
         [&] { return NeedAll(graphics, pen, path); });

@@ -46,7 +46,7 @@ GpStatus WINGDIPAPI GdipDeletePen(GpPen* pen) {
 GpStatus WINGDIPAPI GdipSetPenColor(GpPen* pen, ARGB color) {
     static const auto real = Real<decltype(&GdipSetPenColor)>("GdipSetPenColor");
     const GpStatus status = Run(
-        "GdipSetPenColor", Effect::Internal,
+        "GdipSetPenColor", CallKind::Internal,
         [&] { return "GdipSetPenColor " + Hex(color); }, [&] { return real(pen, color); },
         [&] { return NeedAll(pen); });
     return After(status, pen, [&](Object& object) {
@@ -58,7 +58,7 @@ GpStatus WINGDIPAPI GdipSetPenColor(GpPen* pen, ARGB color) {
 GpStatus WINGDIPAPI GdipSetPenDashStyle(GpPen* pen, GpDashStyle style) {
     static const auto real = Real<decltype(&GdipSetPenDashStyle)>("GdipSetPenDashStyle");
     const GpStatus status = Run(
-        "GdipSetPenDashStyle", Effect::Internal,
+        "GdipSetPenDashStyle", CallKind::Internal,
         [&] { return "GdipSetPenDashStyle " + std::to_string(style); },
         [&] { return real(pen, style); }, [&] { return NeedAll(pen); });
     return After(status, pen, [&](Object& object) {
@@ -72,7 +72,7 @@ GpStatus WINGDIPAPI GdipSetPenCustomEndCap(GpPen* pen, GpCustomLineCap* cap) {
         Real<decltype(&GdipSetPenCustomEndCap)>("GdipSetPenCustomEndCap");
     const std::string look = ThisThread().LookOf(cap);
     const GpStatus status = Run(
-        "GdipSetPenCustomEndCap", Effect::Internal,
+        "GdipSetPenCustomEndCap", CallKind::Internal,
         [&] { return "GdipSetPenCustomEndCap " + look; }, [&] { return real(pen, cap); },
         [&] { return NeedAll(pen, cap); });
     return After(status, pen, [&](Object& object) {
@@ -114,7 +114,7 @@ GpStatus WINGDIPAPI GdipSetSolidFillColor(GpSolidFill* brush, ARGB color) {
     static const auto real =
         Real<decltype(&GdipSetSolidFillColor)>("GdipSetSolidFillColor");
     const GpStatus status = Run(
-        "GdipSetSolidFillColor", Effect::Internal,
+        "GdipSetSolidFillColor", CallKind::Internal,
         [&] { return "GdipSetSolidFillColor " + Hex(color); },
         [&] { return real(brush, color); }, [&] { return NeedAll(brush); });
     return After(status, brush, [&](Object& object) { object.look = BrushLook(color); });

@@ -19,7 +19,7 @@ GpStatus WINGDIPAPI GdipDrawLineI(GpGraphics* graphics, GpPen* pen, INT x1, INT 
                                   INT x2, INT y2) {
     static const auto real = Real<decltype(&GdipDrawLineI)>("GdipDrawLineI");
     return Run(
-        "GdipDrawLineI", Effect::Visible,
+        "GdipDrawLineI", CallKind::Visible,
         [&] { return DrawLine(ThisThread().LookOf(pen), x1, y1, x2, y2); },
         [&] { return real(graphics, pen, x1, y1, x2, y2); },
         [&] { return NeedAll(graphics, pen); });
@@ -29,7 +29,7 @@ GpStatus WINGDIPAPI GdipDrawRectangleI(GpGraphics* graphics, GpPen* pen, INT x, 
                                        INT width, INT height) {
     static const auto real = Real<decltype(&GdipDrawRectangleI)>("GdipDrawRectangleI");
     return Run(
-        "GdipDrawRectangleI", Effect::Visible,
+        "GdipDrawRectangleI", CallKind::Visible,
         [&] { return DrawRectangle(ThisThread().LookOf(pen), x, y, width, height); },
         [&] { return real(graphics, pen, x, y, width, height); },
         [&] { return NeedAll(graphics, pen); });
@@ -39,7 +39,7 @@ GpStatus WINGDIPAPI GdipDrawPolygonI(GpGraphics* graphics, GpPen* pen,
                                      const GpPoint* points, INT count) {
     static const auto real = Real<decltype(&GdipDrawPolygonI)>("GdipDrawPolygonI");
     return Run(
-        "GdipDrawPolygonI", Effect::Visible,
+        "GdipDrawPolygonI", CallKind::Visible,
         [&] { return DrawPolygon(ThisThread().LookOf(pen), All(points, count)); },
         [&] { return real(graphics, pen, points, count); },
         [&] { return NeedAll(graphics, pen, points); });
@@ -49,7 +49,7 @@ GpStatus WINGDIPAPI GdipFillRectangle(GpGraphics* graphics, GpBrush* brush, REAL
                                       REAL y, REAL width, REAL height) {
     static const auto real = Real<decltype(&GdipFillRectangle)>("GdipFillRectangle");
     return Run(
-        "GdipFillRectangle", Effect::Visible,
+        "GdipFillRectangle", CallKind::Visible,
         [&] { return FillRectangle(ThisThread().LookOf(brush), x, y, width, height); },
         [&] { return real(graphics, brush, x, y, width, height); },
         [&] { return NeedAll(graphics, brush); });
@@ -59,7 +59,7 @@ GpStatus WINGDIPAPI GdipFillRectangleI(GpGraphics* graphics, GpBrush* brush, INT
                                        INT width, INT height) {
     static const auto real = Real<decltype(&GdipFillRectangleI)>("GdipFillRectangleI");
     return Run(
-        "GdipFillRectangleI", Effect::Visible,
+        "GdipFillRectangleI", CallKind::Visible,
         [&] { return FillRectangleI(ThisThread().LookOf(brush), x, y, width, height); },
         [&] { return real(graphics, brush, x, y, width, height); },
         [&] { return NeedAll(graphics, brush); });
@@ -69,7 +69,7 @@ GpStatus WINGDIPAPI GdipFillPolygonI(GpGraphics* graphics, GpBrush* brush,
                                      const GpPoint* points, INT count, GpFillMode mode) {
     static const auto real = Real<decltype(&GdipFillPolygonI)>("GdipFillPolygonI");
     return Run(
-        "GdipFillPolygonI", Effect::Visible,
+        "GdipFillPolygonI", CallKind::Visible,
         [&] { return FillPolygon(ThisThread().LookOf(brush), All(points, count), mode); },
         [&] { return real(graphics, brush, points, count, mode); },
         [&] { return NeedAll(graphics, brush, points); });

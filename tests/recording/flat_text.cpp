@@ -41,7 +41,7 @@ GpStatus WINGDIPAPI GdipCreateFont(const GpFontFamily* family, REAL emSize, INT 
     Session& session = ThisThread();
     if (session.active && !session.Forwards() && (family == nullptr || !(emSize > 0))) {
         return Run(
-            "GdipCreateFont", Effect::Internal, [&] { return line; },
+            "GdipCreateFont", CallKind::Internal, [&] { return line; },
             [] { return InvalidParameter; }, [] { return InvalidParameter; });
     }
     return RunCreation(
@@ -57,7 +57,7 @@ GpStatus WINGDIPAPI GdipDeleteFont(GpFont* font) {
 GpStatus WINGDIPAPI GdipGetFontSize(GpFont* font, REAL* size) {
     static const auto real = Real<decltype(&GdipGetFontSize)>("GdipGetFontSize");
     return Run(
-        "GdipGetFontSize", Effect::Internal,
+        "GdipGetFontSize", CallKind::Internal,
         [&] { return "GdipGetFontSize " + ThisThread().LookOf(font); },
         [&] { return real(font, size); },
         [&] {
@@ -71,7 +71,7 @@ GpStatus WINGDIPAPI GdipGetFontSize(GpFont* font, REAL* size) {
 GpStatus WINGDIPAPI GdipGetFontStyle(GpFont* font, INT* style) {
     static const auto real = Real<decltype(&GdipGetFontStyle)>("GdipGetFontStyle");
     return Run(
-        "GdipGetFontStyle", Effect::Internal,
+        "GdipGetFontStyle", CallKind::Internal,
         [&] { return "GdipGetFontStyle " + ThisThread().LookOf(font); },
         [&] { return real(font, style); },
         [&] {
@@ -104,7 +104,7 @@ GpStatus WINGDIPAPI GdipSetStringFormatAlign(GpStringFormat* format,
     static const auto real =
         Real<decltype(&GdipSetStringFormatAlign)>("GdipSetStringFormatAlign");
     const GpStatus status = Run(
-        "GdipSetStringFormatAlign", Effect::Internal,
+        "GdipSetStringFormatAlign", CallKind::Internal,
         [&] { return "GdipSetStringFormatAlign " + std::to_string(alignment); },
         [&] { return real(format, alignment); }, [&] { return NeedAll(format); });
     if (status == Ok && ThisThread().depth == 0) {
@@ -125,7 +125,7 @@ GpStatus WINGDIPAPI GdipDrawString(GpGraphics* graphics, const FlatChar* text, I
                                    const GpStringFormat* format, const GpBrush* brush) {
     static const auto real = Real<decltype(&GdipDrawString)>("GdipDrawString");
     return Run(
-        "GdipDrawString", Effect::Visible,
+        "GdipDrawString", CallKind::Visible,
         [&] {
             const Session& session = ThisThread();
             return DrawString(Utf8(text, length), session.LookOf(font), layout->X,

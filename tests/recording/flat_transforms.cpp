@@ -20,7 +20,7 @@ GpStatus WINGDIPAPI GdipTranslateWorldTransform(GpGraphics* graphics, REAL dx, R
     static const auto real =
         Real<decltype(&GdipTranslateWorldTransform)>("GdipTranslateWorldTransform");
     return Run(
-        "GdipTranslateWorldTransform", Effect::Visible,
+        "GdipTranslateWorldTransform", CallKind::Visible,
         [&] { return TranslateWorld(dx, dy) + Order(order); },
         [&] { return real(graphics, dx, dy, order); }, [&] { return NeedAll(graphics); });
 }
@@ -30,7 +30,7 @@ GpStatus WINGDIPAPI GdipRotateWorldTransform(GpGraphics* graphics, REAL angle,
     static const auto real =
         Real<decltype(&GdipRotateWorldTransform)>("GdipRotateWorldTransform");
     return Run(
-        "GdipRotateWorldTransform", Effect::Visible,
+        "GdipRotateWorldTransform", CallKind::Visible,
         [&] { return RotateWorld(angle) + Order(order); },
         [&] { return real(graphics, angle, order); }, [&] { return NeedAll(graphics); });
 }
@@ -39,7 +39,7 @@ GpStatus WINGDIPAPI GdipResetWorldTransform(GpGraphics* graphics) {
     static const auto real =
         Real<decltype(&GdipResetWorldTransform)>("GdipResetWorldTransform");
     return Run(
-        "GdipResetWorldTransform", Effect::Visible, [&] { return ResetWorld(); },
+        "GdipResetWorldTransform", CallKind::Visible, [&] { return ResetWorld(); },
         [&] { return real(graphics); }, [&] { return NeedAll(graphics); });
 }
 
@@ -62,7 +62,7 @@ GpStatus WINGDIPAPI GdipTranslateMatrix(GpMatrix* matrix, REAL dx, REAL dy,
                                         GpMatrixOrder order) {
     static const auto real = Real<decltype(&GdipTranslateMatrix)>("GdipTranslateMatrix");
     return Run(
-        "GdipTranslateMatrix", Effect::Internal,
+        "GdipTranslateMatrix", CallKind::Internal,
         [&] {
             return "GdipTranslateMatrix " + Number(dx) + " " + Number(dy) + Order(order);
         },
@@ -72,7 +72,7 @@ GpStatus WINGDIPAPI GdipTranslateMatrix(GpMatrix* matrix, REAL dx, REAL dy,
 GpStatus WINGDIPAPI GdipRotateMatrix(GpMatrix* matrix, REAL angle, GpMatrixOrder order) {
     static const auto real = Real<decltype(&GdipRotateMatrix)>("GdipRotateMatrix");
     return Run(
-        "GdipRotateMatrix", Effect::Internal,
+        "GdipRotateMatrix", CallKind::Internal,
         [&] { return "GdipRotateMatrix " + Number(angle) + Order(order); },
         [&] { return real(matrix, angle, order); }, [&] { return NeedAll(matrix); });
 }

@@ -65,7 +65,7 @@ Function Real(const char* name) {
     return reinterpret_cast<Function>(map_surround::FlatFunction(name));
 }
 
-enum class Effect {
+enum class CallKind {
     Visible,   ///< draws, or changes the world transform
     Internal,  ///< makes, changes, measures
     Deletion,  ///< is carried out even when it is to fail
@@ -76,7 +76,7 @@ enum class Effect {
 /// @param real the call of the system's function
 /// @param tokenStatus what it answers where nothing is forwarded
 template <typename Describe, typename RealCall, typename TokenCall>
-Gdiplus::GpStatus Run(const char* function, Effect effect, Describe describe,
+Gdiplus::GpStatus Run(const char* function, CallKind kind, Describe describe,
                       RealCall real, TokenCall tokenCall) {
     Session& session = ThisThread();
     if (session.depth > 0) {
@@ -85,9 +85,9 @@ Gdiplus::GpStatus Run(const char* function, Effect effect, Describe describe,
     if (session.active) {
         const Gdiplus::Status failure = session.Enter(function);
         if (session.Writes()) {
-            session.calls.push_back({describe(), effect == Effect::Visible});
+            session.calls.push_back({describe(), kind == CallKind::Visible});
         }
-        if (failure != Gdiplus::Ok && effect != Effect::Deletion) {
+        if (failure != Gdiplus::Ok && kind != CallKind::Deletion) {
             return failure;
         }
         if (failure != Gdiplus::Ok) {
@@ -124,7 +124,7 @@ template <typename Describe, typename RealCall, typename Native>
 Gdiplus::GpStatus RunCreation(const char* function, Describe describe, RealCall real,
                               Native** native, Object object) {
     const bool outermost = ThisThread().depth == 0;
-    const Gdiplus::GpStatus status = Run(function, Effect::Internal, describe, real,
+    const Gdiplus::GpStatus status = Run(function, CallKind::Internal, describe, real,
                                          [&] { return MakeToken(native); });
     if (outermost && status == Gdiplus::Ok && *native != nullptr) {
         Object& made = ThisThread().objects[*native];
@@ -140,7 +140,7 @@ Gdiplus::GpStatus RunDeletion(const char* function, const void* native, RealCall
     const bool outermost = ThisThread().depth == 0;
     const std::string line = std::string(function) + " ";
     const Gdiplus::GpStatus status = Run(
-        function, Effect::Deletion, [&] { return line + ThisThread().LookOf(native); },
+        function, CallKind::Deletion, [&] { return line + ThisThread().LookOf(native); },
         real,
         [&] { return native != nullptr ? Gdiplus::Ok : Gdiplus::InvalidParameter; });
     if (outermost) {

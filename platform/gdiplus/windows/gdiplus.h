@@ -23,3 +23,10 @@ using std::min;
 #pragma comment(lib, "gdiplus.lib")
 #include <../um/gdiplus.h>
 #endif
+
+namespace Gdiplus {
+
+/// The text unit of the flat functions.
+typedef wchar_t FlatChar;
+
+}  // namespace Gdiplus
