@@ -56,9 +56,11 @@ void CDrawPicture::ResetAspectRatio() {
 
     Gdiplus::GraphicsPath box(Gdiplus::FillModeAlternate);
     box.AddRectangle(Gdiplus::Rect(0, 0, width, height));
+    const int centreX = width / 2;
+    const int centreY = height / 2;
     Gdiplus::Matrix turn;
-    map_surround::TurnAbout(turn, static_cast<float>(width / 2),
-                            static_cast<float>(height / 2), GetAngle());
+    map_surround::TurnAbout(turn, static_cast<float>(centreX), static_cast<float>(centreY),
+                            GetAngle());
     box.Transform(&turn);
     Gdiplus::Rect bounds;
     box.GetBounds(&bounds, nullptr, nullptr);
