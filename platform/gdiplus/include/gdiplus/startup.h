@@ -1,22 +1,27 @@
 #pragma once
 
-#include <dlfcn.h>
-
 #include "gdiplus/flat.h"
 
 namespace Gdiplus {
 
-enum DebugEventLevel { DebugEventLevelFatal, DebugEventLevelWarning };
+enum DebugEventLevel { DebugEventLevelFatal = 0, DebugEventLevelWarning = 1 };
 
 typedef VOID (*DebugEventProc)(DebugEventLevel level, char* message);
 typedef Status (*NotificationHookProc)(ULONG_PTR* token);
 typedef VOID (*NotificationUnhookProc)(ULONG_PTR token);
 
 struct GdiplusStartupInput {
+    GdiplusStartupInput(Gdiplus::DebugEventProc debugEventCallback = nullptr,
+                        BOOL suppressBackgroundThread = 0,
+                        BOOL suppressExternalCodecs = 0)
+        : DebugEventCallback(debugEventCallback),
+          SuppressBackgroundThread(suppressBackgroundThread),
+          SuppressExternalCodecs(suppressExternalCodecs) {}
+
     UINT32 GdiplusVersion = 1;
-    Gdiplus::DebugEventProc DebugEventCallback = nullptr;
-    BOOL SuppressBackgroundThread = 0;
-    BOOL SuppressExternalCodecs = 0;
+    Gdiplus::DebugEventProc DebugEventCallback;
+    BOOL SuppressBackgroundThread;
+    BOOL SuppressExternalCodecs;
 };
 
 struct GdiplusStartupOutput {
@@ -24,23 +29,23 @@ struct GdiplusStartupOutput {
     NotificationUnhookProc NotificationUnhook = nullptr;
 };
 
-/// Starts GDI+ for the process; each start wants one GdiplusShutdown with its token.
+/// Starts GDI+ for the process, before any other use of it; each start wants one
+/// GdiplusShutdown with its token.
 inline Status GdiplusStartup(ULONG_PTR* token, const GdiplusStartupInput* input,
                              GdiplusStartupOutput* output) {
+    if (token != nullptr) {
+        *token = 0;
+    }
     return DllExports::GdiplusStartup(token, input, output);
 }
 
-/// Stops GDI+. Every object of it must have been deleted before.
+/// Ends a use of GDI+. Every object of it must have been deleted before.
 ///
-/// libgdiplus shuts fontconfig down, which ends the process with an assertion while
-/// anything still holds a font; Pango's default font map does once it has drawn a
-/// fallback font, as for Chinese text in "Arial". So that map is let go first.
-inline VOID GdiplusShutdown(ULONG_PTR token) {
-    using SetDefaultFontMap = void (*)(void*);
-    if (void* function = dlsym(RTLD_DEFAULT, "pango_cairo_font_map_set_default")) {
-        reinterpret_cast<SetDefaultFontMap>(function)(nullptr);
-    }
-    DllExports::GdiplusShutdown(token);
-}
+/// libgdiplus itself is left running, for its own shutdown closes the whole process's
+/// fontconfig, which ends the program with an assertion while anything still holds a
+/// font: a toolkit, another thread, or the worker thread in which Pango still sorts the
+/// fonts of the text just drawn. What stays are fontconfig's caches, which the next
+/// start finds ready.
+inline VOID GdiplusShutdown(ULONG_PTR) {}
 
 }  // namespace Gdiplus
