@@ -1,0 +1,36 @@
+# Compares the classes that a shared library exports with a list of them, one a line.
+#   cmake -DNM=nm -DLIBRARY=file -DCLASSES=list -P compare.cmake
+cmake_policy(VERSION 3.22)
+execute_process(COMMAND ${NM} --dynamic --demangle --defined-only ${LIBRARY}
+  OUTPUT_VARIABLE names RESULT_VARIABLE result)
+if(NOT result EQUAL 0)
+  message(FATAL_ERROR "${NM} cannot read ${LIBRARY}")
+endif()
+string(REGEX REPLACE "[;\\[]" "," names "${names}")
+string(REPLACE "\n" ";" names "${names}")
+
+set(exported)
+foreach(name IN LISTS names)
+  string(REGEX REPLACE "^[0-9a-f]+ [A-Za-z] " "" name "${name}")
+  if(name MATCHES "^([A-Za-z0-9_]+)::" OR
+      name MATCHES "^[a-z ]+ for ([A-Za-z0-9_]+)$")
+    list(APPEND exported ${CMAKE_MATCH_1})
+  elseif(name)
+    message(SEND_ERROR "exported, but of no class: ${name}")
+  endif()
+endforeach()
+list(REMOVE_DUPLICATES exported)
+list(SORT exported)
+
+file(STRINGS ${CLASSES} expected)
+list(SORT expected)
+foreach(class IN LISTS exported)
+  if(NOT class IN_LIST expected)
+    message(SEND_ERROR "exported, but not in the list: ${class}")
+  endif()
+endforeach()
+foreach(class IN LISTS expected)
+  if(NOT class IN_LIST exported)
+    message(SEND_ERROR "in the list, but not exported: ${class}")
+  endif()
+endforeach()
