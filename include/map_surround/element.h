@@ -4,7 +4,10 @@
 
 #include <cstdint>
 
-#include "host/device_geometry.h"
+// In angle brackets: our own declarations stand beside a source of ours, and must not
+// be found there where a host has replaced them.
+#include <host/device_geometry.h>
+
 #include "map_surround/export.h"
 
 /// The kind of a map surround element, as each class's constructor sets it.

@@ -4,8 +4,11 @@
 
 #include <cstdint>
 
-#include "host/device_geometry.h"
-#include "host/raster_data.h"
+// In angle brackets: our own declarations stand beside a source of ours, and must not
+// be found there where a host has replaced them.
+#include <host/device_geometry.h>
+#include <host/raster_data.h>
+
 #include "map_surround/element.h"
 #include "map_surround/export.h"
 

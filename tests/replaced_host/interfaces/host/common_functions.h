@@ -1,0 +1,4 @@
+#pragma once
+
+// The sibling library's own header has it all.
+#include "sibling/common_fun.h"
