@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "recording/session.h"
+
 namespace recording {
 
 ::testing::AssertionResult Equal(const std::vector<Named>& expected,
@@ -37,16 +39,29 @@ namespace recording {
     return failure;
 }
 
-Surface::Surface(int width, int height)
-    : m_bitmap(width, height, PixelFormat32bppARGB), m_graphics(&m_bitmap) {
-    m_graphics.Clear(Gdiplus::Color(255, 255, 255, 255));
+Surface::Surface(int width, int height) {
+    Forward([&] {
+        m_bitmap = std::make_unique<Gdiplus::Bitmap>(width, height, PixelFormat32bppARGB);
+        m_graphics = std::make_unique<Gdiplus::Graphics>(m_bitmap.get());
+        return m_graphics->Clear(Gdiplus::Color(255, 255, 255, 255));
+    });
+}
+
+Surface::~Surface() {
+    Forward([&] {
+        m_graphics.reset();
+        m_bitmap.reset();
+        return Gdiplus::Ok;
+    });
 }
 
 std::vector<float> Surface::WorldTransform() {
-    Gdiplus::Matrix matrix;
-    m_graphics.GetTransform(&matrix);
     std::vector<float> elements(6);
-    matrix.GetElements(elements.data());
+    Forward([&] {
+        Gdiplus::Matrix matrix;
+        m_graphics->GetTransform(&matrix);
+        return matrix.GetElements(elements.data());
+    });
     return elements;
 }
 

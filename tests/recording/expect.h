@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -23,20 +24,25 @@ struct Named {
 /// No native object of this thread is alive, but for those named as they are listed.
 ::testing::AssertionResult NothingAlive();
 
-/// A white bitmap and its surface, made and deleted outside of any trace.
+/// A white bitmap and its surface, made and deleted outside of any trace: what GDI+ makes
+/// for them within itself is not recorded.
 class Surface {
 public:
     explicit Surface(int width = 400, int height = 300);
+    ~Surface();
+    Surface(const Surface&) = delete;
+    Surface& operator=(const Surface&) = delete;
 
-    Gdiplus::Graphics* Graphics() { return &m_graphics; }
-    Gdiplus::Bitmap& Bitmap() { return m_bitmap; }
+    Gdiplus::Graphics* Graphics() { return m_graphics.get(); }
+    Gdiplus::Bitmap& Bitmap() { return *m_bitmap; }
 
     /// The six elements of the world transform; {1, 0, 0, 1, 0, 0} is the identity.
+    /// Asking for it leaves no trace.
     std::vector<float> WorldTransform();
 
 private:
-    Gdiplus::Bitmap m_bitmap;
-    Gdiplus::Graphics m_graphics;
+    std::unique_ptr<Gdiplus::Bitmap> m_bitmap;
+    std::unique_ptr<Gdiplus::Graphics> m_graphics;
 };
 
 }  // namespace recording

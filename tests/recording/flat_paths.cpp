@@ -5,13 +5,13 @@ using namespace recording;
 
 namespace {
 
-/// Sets the content of a path, and with it its look.
-void Fill(const Gdiplus::GpPath* path, Gdiplus::GpStatus status,
-          const std::string& content) {
+/// Adds to the content of a path, and with it to its look.
+void Add(const Gdiplus::GpPath* path, Gdiplus::GpStatus status,
+         const std::string& content) {
     if (status == Gdiplus::Ok && ThisThread().depth == 0) {
         Object& object = ThisThread().objects[path];
-        object.content = content;
-        object.look = "path[" + content + "]";
+        object.content += (object.content.empty() ? "" : ", ") + content;
+        object.look = "path[" + object.content + "]";
     }
 }
 
@@ -61,7 +61,10 @@ GpStatus WINGDIPAPI GdipResetPath(GpPath* path) {
     const GpStatus status = Run(
         "GdipResetPath", CallKind::Internal, [] { return "GdipResetPath"; },
         [&] { return real(path); }, [&] { return NeedAll(path); });
-    Fill(path, status, "");
+    if (status == Ok && ThisThread().depth == 0) {
+        ThisThread().objects[path].content.clear();
+        ThisThread().objects[path].look = "path[]";
+    }
     return status;
 }
 
@@ -83,7 +86,7 @@ GpStatus WINGDIPAPI GdipAddPathString(GpPath* path, const FlatChar* text, INT le
         },
         [&] { return real(path, text, length, family, style, emSize, layout, format); },
         [&] { return NeedAll(path, family); });
-    Fill(path, status, content);
+    Add(path, status, content);
     return status;
 }
 
@@ -98,7 +101,7 @@ GpStatus WINGDIPAPI GdipAddPathRectangleI(GpPath* path, INT x, INT y, INT width,
         "GdipAddPathRectangleI", CallKind::Internal,
         [&] { return "GdipAddPathRectangleI " + content; },
         [&] { return real(path, x, y, width, height); }, [&] { return NeedAll(path); });
-    Fill(path, status, content);
+    Add(path, status, content);
     return status;
 }
 
@@ -110,7 +113,7 @@ GpStatus WINGDIPAPI GdipAddPathLine2I(GpPath* path, const GpPoint* points, INT c
         "GdipAddPathLine2I", CallKind::Internal,
         [&] { return "GdipAddPathLine2I " + look; },
         [&] { return real(path, points, count); }, [&] { return NeedAll(path); });
-    Fill(path, status, look.substr(5, look.size() - 6));
+    Add(path, status, look.substr(5, look.size() - 6));
     return status;
 }
 

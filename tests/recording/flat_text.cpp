@@ -17,9 +17,11 @@ GpStatus WINGDIPAPI GdipCreateFontFamilyFromName(const FlatChar* name,
     object.content = Utf8(name, -1);
     object.look = "family[" + Quoted(object.content) + "]";
     const std::string line = "GdipCreateFontFamilyFromName " + Quoted(object.content);
+    const bool nameless = object.content.empty();
     return RunCreation(
         "GdipCreateFontFamilyFromName", [&] { return line; },
-        [&] { return real(name, collection, family); }, family, std::move(object));
+        [&] { return real(name, collection, family); }, family, std::move(object),
+        nameless ? FontFamilyNotFound : Ok);
 }
 
 GpStatus WINGDIPAPI GdipDeleteFontFamily(GpFontFamily* family) {
@@ -38,15 +40,11 @@ GpStatus WINGDIPAPI GdipCreateFont(const GpFontFamily* family, REAL emSize, INT 
     object.style = style;
     object.look = FontLook(object.content, emSize, style, unit);
     const std::string line = "GdipCreateFont " + object.look;
-    Session& session = ThisThread();
-    if (session.active && !session.Forwards() && (family == nullptr || !(emSize > 0))) {
-        return Run(
-            "GdipCreateFont", CallKind::Internal, [&] { return line; },
-            [] { return InvalidParameter; }, [] { return InvalidParameter; });
-    }
+    const bool possible = family != nullptr && emSize > 0.0f;
     return RunCreation(
         "GdipCreateFont", [&] { return line; },
-        [&] { return real(family, emSize, style, unit, font); }, font, std::move(object));
+        [&] { return real(family, emSize, style, unit, font); }, font, std::move(object),
+        possible ? Ok : InvalidParameter);
 }
 
 GpStatus WINGDIPAPI GdipDeleteFont(GpFont* font) {

@@ -71,10 +71,19 @@ enum class CallKind {
     Deletion,  ///< is carried out even when it is to fail
 };
 
+/// Calls the system's function; what it calls in turn is not recorded.
+template <typename RealCall>
+Gdiplus::GpStatus Forward(RealCall real) {
+    ++ThisThread().depth;
+    const Gdiplus::GpStatus status = real();
+    --ThisThread().depth;
+    return status;
+}
+
 /// Carries one flat call out: writes it down, fails it on order, forwards it.
 /// @param describe its line without the function's name, or with it for a visible one
 /// @param real the call of the system's function
-/// @param tokenStatus what it answers where nothing is forwarded
+/// @param tokenCall answers where nothing is forwarded
 template <typename Describe, typename RealCall, typename TokenCall>
 Gdiplus::GpStatus Run(const char* function, CallKind kind, Describe describe,
                       RealCall real, TokenCall tokenCall) {
@@ -90,18 +99,10 @@ Gdiplus::GpStatus Run(const char* function, CallKind kind, Describe describe,
         if (failure != Gdiplus::Ok && kind != CallKind::Deletion) {
             return failure;
         }
-        if (failure != Gdiplus::Ok) {
-            session.Forwards() ? real() : tokenCall();
-            return failure;
-        }
-        if (!session.Forwards()) {
-            return tokenCall();
-        }
+        const Gdiplus::GpStatus status = session.Forwards() ? Forward(real) : tokenCall();
+        return failure != Gdiplus::Ok ? failure : status;
     }
-    ++session.depth;
-    const Gdiplus::GpStatus status = real();
-    --session.depth;
-    return status;
+    return Forward(real);
 }
 
 /// Where nothing is forwarded, a call on a null object fails as GDI+'s would.
@@ -120,12 +121,16 @@ Gdiplus::GpStatus MakeToken(Native** native) {
 }
 
 /// Carries a creation out and notes the object made.
+/// @param tokenStatus Ok, or how GDI+ refuses to make this object, for where it is not
+/// asked
 template <typename Describe, typename RealCall, typename Native>
 Gdiplus::GpStatus RunCreation(const char* function, Describe describe, RealCall real,
-                              Native** native, Object object) {
+                              Native** native, Object object,
+                              Gdiplus::GpStatus tokenStatus = Gdiplus::Ok) {
     const bool outermost = ThisThread().depth == 0;
-    const Gdiplus::GpStatus status = Run(function, CallKind::Internal, describe, real,
-                                         [&] { return MakeToken(native); });
+    const Gdiplus::GpStatus status =
+        Run(function, CallKind::Internal, describe, real,
+            [&] { return tokenStatus == Gdiplus::Ok ? MakeToken(native) : tokenStatus; });
     if (outermost && status == Gdiplus::Ok && *native != nullptr) {
         Object& made = ThisThread().objects[*native];
         object.token = std::move(made.token);
@@ -134,15 +139,20 @@ Gdiplus::GpStatus RunCreation(const char* function, Describe describe, RealCall 
     return status;
 }
 
-/// Carries a deletion out and forgets the object.
+/// Carries a deletion out and forgets the object. A token never reaches GDI+ and a real
+/// object always does, whatever is recorded when they are deleted.
 template <typename RealCall>
 Gdiplus::GpStatus RunDeletion(const char* function, const void* native, RealCall real) {
     const bool outermost = ThisThread().depth == 0;
-    const std::string line = std::string(function) + " ";
+    const bool isToken = ThisThread().Of(native).token != nullptr;
+    const auto deleteObject = [&] { return isToken ? Gdiplus::Ok : real(); };
     const Gdiplus::GpStatus status = Run(
-        function, CallKind::Deletion, [&] { return line + ThisThread().LookOf(native); },
-        real,
-        [&] { return native != nullptr ? Gdiplus::Ok : Gdiplus::InvalidParameter; });
+        function, CallKind::Deletion,
+        [&] { return std::string(function) + " " + ThisThread().LookOf(native); },
+        deleteObject,
+        [&] {
+            return native == nullptr ? Gdiplus::InvalidParameter : Forward(deleteObject);
+        });
     if (outermost) {
         ThisThread().objects.erase(native);
     }

@@ -8,4 +8,5 @@ set(recording_test_sources
   flat_transforms.cpp
   lines.cpp
   main.cpp
-  recording.cpp)
+  recording.cpp
+  recording_test.cpp)

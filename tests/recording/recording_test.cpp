@@ -1,0 +1,342 @@
+#include "recording/recording.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+#include <memory>
+#include <stdexcept>
+
+#include "recording/expect.h"
+#include "recording/lines.h"
+
+namespace {
+
+using namespace recording;
+
+void DrawCorner(Gdiplus::Graphics* graphics) {
+    const Gdiplus::Pen pen(Gdiplus::Color(0xFF102030), 2.5f);
+    graphics->DrawLine(&pen, 1, 2, 3, 4);
+    graphics->DrawRectangle(&pen, 5, 6, 7, 8);
+}
+
+const std::string kCornerPen = PenLook(0xFF102030, 2.5f);
+
+const std::vector<Named> kCorner = {
+    {"pen", "GdipCreatePen1 #FF102030 2.5 unit 0"},
+    {"line", "GdipDrawLineI pen[#FF102030 width 2.5] (1, 2) (3, 4)"},
+    {"rectangle", "GdipDrawRectangleI pen[#FF102030 width 2.5] (5, 6) 7 x 8"},
+    {"pen", "GdipDeletePen pen[#FF102030 width 2.5]"},
+};
+
+TEST(Recording, WritesEachCallWithWhatItUses) {
+    for (const Mode mode : {Mode::Forward, Mode::RecordOnly}) {
+        Surface surface;
+        Recording recording(mode);
+        DrawCorner(surface.Graphics());
+        EXPECT_TRUE(Equal(kCorner, recording.Lines()));
+        EXPECT_TRUE(Equal({{"line", DrawLine(kCornerPen, 1, 2, 3, 4)},
+                           {"rectangle", DrawRectangle(kCornerPen, 5, 6, 7, 8)}},
+                          recording.Drawing()));
+        EXPECT_EQ(recording.Count(), 4);
+        recording.Clear();
+        EXPECT_EQ(recording.Count(), 0);
+        EXPECT_TRUE(recording.Lines().empty());
+    }
+}
+
+TEST(Recording, ForwardsOnlyWhenAskedTo) {
+    struct Row {
+        Mode mode;
+        Gdiplus::ARGB pixel;
+        std::size_t lines;
+    };
+    const Row rows[] = {
+        {Mode::Forward, 0xFF00FF00, 3},
+        {Mode::RecordOnly, 0xFFFFFFFF, 3},
+        {Mode::Silent, 0xFFFFFFFF, 0},
+    };
+    for (const Row& row : rows) {
+        Surface surface(8, 8);
+        {
+            Recording recording(row.mode);
+            const Gdiplus::SolidBrush brush(Gdiplus::Color(0xFF00FF00));
+            surface.Graphics()->FillRectangle(&brush, 0, 0, 8, 8);
+            EXPECT_EQ(LiveObjects().size(), 1u);
+            EXPECT_EQ(recording.Count(), 2);
+            EXPECT_EQ(recording.Lines().size(), row.lines == 0 ? 0u : 2u);
+        }
+        Gdiplus::Color pixel;
+        surface.Bitmap().GetPixel(4, 4, &pixel);
+        EXPECT_EQ(pixel.GetValue(), row.pixel);
+        EXPECT_TRUE(NothingAlive());
+    }
+}
+
+TEST(Recording, ShowsObjectsAsTheyAreWhenUsed) {
+    Surface surface;
+    Recording recording;
+    {
+        Gdiplus::Pen pen(Gdiplus::Color(0xFF000000), 1.0f);
+        surface.Graphics()->DrawLine(&pen, 0, 0, 9, 9);
+        pen.SetDashStyle(Gdiplus::DashStyleDash);
+        pen.SetColor(Gdiplus::Color(0x80FF0000));
+        surface.Graphics()->DrawLine(&pen, 0, 0, 9, 9);
+        const Gdiplus::AdjustableArrowCap cap(4.0f, 3.0f, 1);
+        pen.SetCustomEndCap(&cap);
+        surface.Graphics()->DrawLine(&pen, 0, 0, 9, 9);
+        Gdiplus::SolidBrush brush(Gdiplus::Color(0xFF0000FF));
+        brush.SetColor(Gdiplus::Color(0xFF00FF00));
+        surface.Graphics()->FillRectangle(&brush, 1.5f, 2.0f, 3.0f, 4.25f);
+    }
+    EXPECT_TRUE(
+        Equal({{"plain", DrawLine("pen[#FF000000 width 1]", 0, 0, 9, 9)},
+               {"dashed", DrawLine("pen[#80FF0000 width 1 dash 1]", 0, 0, 9, 9)},
+               {"arrow",
+                DrawLine("pen[#80FF0000 width 1 dash 1 cap[4 x 3 filled]]", 0, 0, 9, 9)},
+               {"box", "GdipFillRectangle brush[#FF00FF00] (1.5, 2) 3 x 4.25"}},
+              recording.Drawing()));
+}
+
+TEST(Recording, ShowsTextsFontsAndFormats) {
+    Surface surface;
+    Recording recording;
+    {
+        const Gdiplus::FontFamily family(L"Arial");
+        const Gdiplus::Font font(&family, 12.5f, Gdiplus::FontStyleBold,
+                                 Gdiplus::UnitPixel);
+        const Gdiplus::SolidBrush brush(Gdiplus::Color(0xFF000000));
+        surface.Graphics()->DrawString(L"\u6BD4\u4F8B\u5C3A", 3, &font,
+                                       Gdiplus::PointF(1.0f, 2.0f), &brush);
+        Gdiplus::StringFormat format(0, 0);
+        format.SetAlignment(Gdiplus::StringAlignmentCenter);
+        surface.Graphics()->DrawString(L"\U0001F5FAx", -1, &font,
+                                       Gdiplus::RectF(1.0f, 2.0f, 3.0f, 4.0f), &format,
+                                       &brush);
+    }
+    const std::string font = "font[\"Arial\" 12.5 style 1 unit 2]";
+    EXPECT_TRUE(
+        Equal({{"Chinese",
+                "GdipDrawString \"\xE6\xAF\x94\xE4\xBE\x8B\xE5\xB0\xBA\" (1, 2)"
+                " 0 x 0 " +
+                    font + " brush[#FF000000] format null"},
+               {"past U+FFFF", "GdipDrawString \"\xF0\x9F\x97\xBAx\" (1, 2) 3 x 4 " +
+                                   font + " brush[#FF000000] format format[0 align 1]"}},
+              recording.Drawing()));
+}
+
+TEST(Recording, ShowsAllThatAPathHolds) {
+    Recording recording;
+    {
+        Gdiplus::GraphicsPath path;
+        const Gdiplus::Point line[] = {{1, 2}, {3, 4}};
+        path.AddLines(line, 2);
+        path.AddRectangle(Gdiplus::Rect(5, 6, 7, 8));
+        path.GetBounds(std::make_unique<Gdiplus::Rect>().get(), nullptr, nullptr);
+        path.Reset();
+    }
+    EXPECT_TRUE(
+        Equal({{"path", "GdipCreatePath 0"},
+               {"line", "GdipAddPathLine2I path[lines (1, 2) (3, 4)]"},
+               {"box", "GdipAddPathRectangleI rectangle 5 6 7 8"},
+               {"bounds",
+                "GdipGetPathWorldBoundsI path[lines (1, 2) (3, 4), rectangle 5 6 7 8]"},
+               {"emptied", "GdipResetPath"},
+               {"path", "GdipDeletePath path[]"}},
+              recording.Lines()));
+}
+
+TEST(Recording, LeavesOutWhatGdiPlusCallsWithinItself) {
+    Surface surface;
+    const Gdiplus::FontFamily family(L"Arial");
+    Recording recording;
+    Gdiplus::GraphicsPath path;
+    path.AddString(L"Map", 3, &family, 0, 20.0f, Gdiplus::RectF(), nullptr);
+    EXPECT_EQ(recording.Count(), 2);
+    surface.WorldTransform();
+    EXPECT_EQ(recording.Count(), 2);
+    EXPECT_EQ(LiveObjects().size(), 2u);
+}
+
+Gdiplus::Rect BoundsOf(const Gdiplus::GraphicsPath& path) {
+    Gdiplus::Rect bounds;
+    path.GetBounds(&bounds, nullptr, nullptr);
+    return bounds;
+}
+
+TEST(Recording, AnswersBoundsInOrderAndTheLastForEver) {
+    for (const Mode mode : {Mode::Forward, Mode::RecordOnly, Mode::Silent}) {
+        Recording recording(mode);
+        Gdiplus::GraphicsPath path;
+        path.AddRectangle(Gdiplus::Rect(1, 2, 3, 4));
+        recording.ScriptBounds({{5, 6, 7, 8}, {9, 10, 11, 12}});
+        EXPECT_TRUE(BoundsOf(path).Equals({5, 6, 7, 8}));
+        EXPECT_TRUE(BoundsOf(path).Equals({9, 10, 11, 12}));
+        EXPECT_TRUE(BoundsOf(path).Equals({9, 10, 11, 12}));
+    }
+}
+
+TEST(Recording, AnswersBoundsFromTheContent) {
+    for (const Mode mode : {Mode::Forward, Mode::RecordOnly}) {
+        Recording recording(mode);
+        recording.ScriptBounds([](const std::string& content) {
+            return Gdiplus::Rect(0, 0, static_cast<int>(content.size()), 1);
+        });
+        const Gdiplus::FontFamily family(L"Arial");
+        Gdiplus::GraphicsPath path;
+        path.AddString(L"Band_1", -1, &family, 0, 15.0f, Gdiplus::RectF(), nullptr);
+        EXPECT_EQ(BoundsOf(path).Width, 19) << "\"Band_1\" \"Arial\" 15";
+    }
+}
+
+TEST(Recording, AnswersNoBoundsWhereTheCallFails) {
+    Recording recording;
+    Gdiplus::GraphicsPath path;
+    recording.ScriptBounds({{5, 6, 7, 8}});
+    recording.FailCall(1);
+    EXPECT_TRUE(BoundsOf(path).Equals({0, 0, 0, 0}));
+    EXPECT_EQ(path.GetLastStatus(), Gdiplus::GenericError);
+    EXPECT_TRUE(BoundsOf(path).Equals({5, 6, 7, 8}));
+}
+
+TEST(Recording, FailsTheCallThatIsNamed) {
+    for (const Mode mode : {Mode::Forward, Mode::RecordOnly, Mode::Silent}) {
+        for (int n = 1; n <= 5; ++n) {
+            Surface surface;
+            Recording recording(mode);
+            recording.FailCall(n, Gdiplus::OutOfMemory);
+            DrawCorner(surface.Graphics());
+            EXPECT_EQ(recording.Count(), 4) << "the rest goes on";
+            const Gdiplus::Status expected = n == 1   ? Gdiplus::InvalidParameter
+                                             : n <= 3 ? Gdiplus::OutOfMemory
+                                                      : Gdiplus::Ok;
+            EXPECT_EQ(surface.Graphics()->GetLastStatus(), expected)
+                << "failing call " << n << " (1: the pen, so that none is drawn with)";
+            EXPECT_TRUE(NothingAlive()) << "failing call " << n;
+        }
+    }
+}
+
+TEST(Recording, FailsCallsByTheirNames) {
+    struct Row {
+        const char* prefix;
+        Gdiplus::Status ofLine;
+        std::size_t alive;
+    };
+    const Row rows[] = {
+        {"", Gdiplus::FileNotFound, 0},
+        {"GdipCreate", Gdiplus::InvalidParameter, 0},
+        {"GdipDrawLine", Gdiplus::FileNotFound, 1},
+        {"GdipDelete", Gdiplus::Ok, 1},
+        {"Gdip_", Gdiplus::Ok, 1},
+    };
+    for (const Row& row : rows) {
+        Surface surface;
+        Recording recording;
+        recording.FailCallsOf(row.prefix, Gdiplus::FileNotFound);
+        {
+            const Gdiplus::Pen pen(Gdiplus::Color(0xFF000000), 1.0f);
+            EXPECT_EQ(LiveObjects().size(), row.alive) << row.prefix;
+            EXPECT_EQ(surface.Graphics()->DrawLine(&pen, 0, 0, 9, 9), row.ofLine)
+                << row.prefix;
+        }
+        EXPECT_TRUE(NothingAlive()) << row.prefix;
+    }
+}
+
+TEST(Recording, ListsWhatIsAlive) {
+    Recording recording(Mode::RecordOnly);
+    auto brush = std::make_unique<Gdiplus::SolidBrush>(Gdiplus::Color(0xFF123456));
+    EXPECT_EQ(LiveObjects(), std::vector<std::string>{"brush brush[#FF123456]"});
+    EXPECT_FALSE(NothingAlive());
+    brush.reset();
+    EXPECT_TRUE(NothingAlive());
+}
+
+TEST(Recording, RefusesWithoutGdiPlusWhatGdiPlusRefuses) {
+    Surface surface;
+    Recording recording(Mode::RecordOnly);
+    const Gdiplus::FontFamily nameless(std::wstring().c_str());
+    const Gdiplus::FontFamily family(L"Arial");
+    EXPECT_EQ(nameless.IsAvailable(), 0);
+    EXPECT_NE(family.IsAvailable(), 0);
+    struct Row {
+        const Gdiplus::FontFamily* family;
+        float emSize;
+        bool made;
+    };
+    const float nan = std::numeric_limits<float>::quiet_NaN();
+    const Row rows[] = {
+        {&nameless, 10.0f, false}, {&family, 10.0f, true}, {&family, 0.0f, false},
+        {&family, -1.0f, false},   {&family, nan, false},
+    };
+    for (const Row& row : rows) {
+        const Gdiplus::Font font(row.family, row.emSize, 0, Gdiplus::UnitPixel);
+        EXPECT_EQ(font.GetLastStatus() == Gdiplus::Ok, row.made) << row.emSize;
+        EXPECT_EQ(font.GetSize(), row.made ? row.emSize : 0.0f);
+    }
+}
+
+TEST(Recording, LetsObjectsOutliveIt) {
+    auto real = std::make_unique<Gdiplus::Matrix>();
+    std::unique_ptr<Gdiplus::Matrix> token;
+    {
+        Recording recording(Mode::RecordOnly);
+        token = std::make_unique<Gdiplus::Matrix>();
+        real.reset();
+        EXPECT_EQ(LiveObjects().size(), 1u);
+    }
+    token.reset();
+    EXPECT_TRUE(NothingAlive());
+}
+
+TEST(Recording, ScriptsTheSizeOfImages) {
+    Recording recording(Mode::RecordOnly);
+    recording.ScriptImageSize(640, 480);
+    Gdiplus::Image image(L"a.png");
+    EXPECT_EQ(image.GetWidth(), 640u);
+    EXPECT_EQ(image.GetHeight(), 480u);
+}
+
+TEST(Recording, IsOneAtATime) {
+    {
+        const Recording recording;
+        EXPECT_THROW(Recording(), std::logic_error);
+    }
+    Recording next;
+    EXPECT_EQ(next.Count(), 0);
+}
+
+TEST(Recording, StartsAnewEachTime) {
+    {
+        Recording recording;
+        recording.ScriptBounds({{5, 6, 7, 8}});
+        recording.ScriptImageSize(1, 1);
+        recording.FailCallsOf("");
+        recording.FailCall(100);
+    }
+    Recording recording(Mode::RecordOnly);
+    Gdiplus::GraphicsPath path;
+    EXPECT_EQ(path.GetLastStatus(), Gdiplus::Ok);
+    EXPECT_TRUE(BoundsOf(path).Equals({0, 0, 0, 0}));
+}
+
+TEST(Equal, TellsTheFirstDifference) {
+    const std::vector<Named> expected = {{"tick 1", "a"}, {"tick 2", "b"}};
+    EXPECT_TRUE(Equal(expected, {"a", "b"}));
+    EXPECT_STREQ(Equal(expected, {"a", "c"}).message(),
+                 "tick 2 (call 2):\n  expected b\n  drawn    c");
+    EXPECT_STREQ(Equal(expected, {"a"}).message(),
+                 "tick 2: expected b, but the drawing ends after 1 calls");
+    EXPECT_STREQ(Equal(expected, {"a", "b", "c"}).message(), "call 3 is one too many: c");
+}
+
+TEST(NumberLine, IsWrittenShortAndExactly) {
+    EXPECT_EQ(Number(-0.0f), "0");
+    EXPECT_EQ(Number(0.1f), "0.1");
+    EXPECT_EQ(Number(46.875f), "46.875");
+    EXPECT_EQ(Number(-1e30f), "-1e+30");
+    EXPECT_EQ(Number(std::numeric_limits<float>::infinity()), "inf");
+    EXPECT_EQ(Number(-std::numeric_limits<float>::quiet_NaN()), "nan");
+}
+
+}  // namespace
