@@ -1,17 +1,28 @@
 # Compares the classes that a shared library exports with a list of them, one a line.
-#   cmake -DNM=nm -DLIBRARY=file -DCLASSES=list -P compare.cmake
+#   cmake -DLIBRARY=file -DCLASSES=list -DNM=nm -P compare.cmake
+#   cmake -DLIBRARY=file -DCLASSES=list -DOBJDUMP=objdump -DCXXFILT=c++filt -P compare.cmake
+# The second is for a DLL, whose table of exports nm does not show.
 cmake_policy(VERSION 3.22)
-execute_process(COMMAND ${NM} --dynamic --demangle --defined-only ${LIBRARY}
-  OUTPUT_VARIABLE names RESULT_VARIABLE result)
-if(NOT result EQUAL 0)
-  message(FATAL_ERROR "${NM} cannot read ${LIBRARY}")
+if(OBJDUMP)
+  execute_process(COMMAND ${OBJDUMP} --private-headers ${LIBRARY} COMMAND ${CXXFILT}
+    OUTPUT_VARIABLE names RESULTS_VARIABLE results)
+  set(before_name "^\t,[ 0-9]+, ")
+else()
+  execute_process(COMMAND ${NM} --dynamic --demangle --defined-only ${LIBRARY}
+    OUTPUT_VARIABLE names RESULTS_VARIABLE results)
+  set(before_name "^[0-9a-f]+ [A-Za-z] ")
 endif()
-string(REGEX REPLACE "[;\\[]" "," names "${names}")
+if(NOT results MATCHES "^0(;0)?$")
+  message(FATAL_ERROR "the names of ${LIBRARY} cannot be read")
+endif()
+string(REGEX REPLACE "[];\\[]" "," names "${names}")
 string(REPLACE "\n" ";" names "${names}")
+list(FILTER names INCLUDE REGEX "${before_name}")
+list(FILTER names EXCLUDE REGEX "Export RVA$")  # the same exports by address
 
 set(exported)
 foreach(name IN LISTS names)
-  string(REGEX REPLACE "^[0-9a-f]+ [A-Za-z] " "" name "${name}")
+  string(REGEX REPLACE "${before_name}" "" name "${name}")
   if(name MATCHES "^([A-Za-z0-9_]+)::" OR
       name MATCHES "^[a-z ]+ for ([A-Za-z0-9_]+)$")
     list(APPEND exported ${CMAKE_MATCH_1})
