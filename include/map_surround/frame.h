@@ -83,7 +83,7 @@ public:
     bool DrawBorder = false;
     bool DrawFill = false;
     bool DrawShadow = false;
-    bool DashedBorder = false;
+    bool DashedBorder = false;  ///< only true, the byte 1, counts
 
     float BorderWidth = 1.0f;  ///< device pixels
     Gdiplus::Color BorderColor{0xFF000000};

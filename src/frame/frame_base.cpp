@@ -1,4 +1,5 @@
 #include <cmath>
+#include <cstring>
 
 #include "element/numbers.h"
 #include "map_surround/frame.h"
@@ -20,6 +21,14 @@ constexpr Handle kHandles[] = {
     {0.0, 0.0}, {0.5, 0.0}, {1.0, 0.0}, {1.0, 0.5},
     {1.0, 1.0}, {0.5, 1.0}, {0.0, 1.0}, {0.0, 0.5},
 };
+
+/// Whether the byte of a flag is 1: what a host wrote there by other means than C++ does
+/// not count.
+bool IsOne(const bool& flag) {
+    unsigned char byte = 0;
+    std::memcpy(&byte, &flag, sizeof flag);
+    return byte == 1;
+}
 
 Gdiplus::Rect Outset(CRect rect, Length gapX, Length gapY) {
     return {ToDevice(rect.left - gapX), ToDevice(rect.top - gapY),
@@ -92,7 +101,7 @@ SpatialTopoRelation CFrameBase::HitTest(CPoint2D point, double tolerance,
 void CFrameBase::DrawFrame(Gdiplus::Graphics* graphics, CRect rect) {
     if (DrawBorder) {
         Gdiplus::Pen pen(BorderColor, BorderWidth);
-        if (DashedBorder) {
+        if (IsOne(DashedBorder)) {
             pen.SetDashStyle(Gdiplus::DashStyleDash);
         }
         if (BorderWidth == 0.0f) {

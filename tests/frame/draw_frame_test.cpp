@@ -1,5 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <cstring>
+#include <limits>
+#include <string>
+
 #include "map_surround/frame.h"
 #include "recording/expect.h"
 #include "recording/lines.h"
@@ -8,26 +12,370 @@ namespace {
 
 using namespace recording;
 
-TEST(DrawFrame, DrawsNothingWithAllSwitchesOff) {
+constexpr int kLowest = std::numeric_limits<int>::min();
+constexpr int kHighest = std::numeric_limits<int>::max();
+constexpr Gdiplus::ARGB kBorder = 0xFF204060;
+constexpr Gdiplus::ARGB kFill = 0xFFFFF0E0;
+constexpr Gdiplus::ARGB kShadow = 0x80404040;
+constexpr Gdiplus::ARGB kTransparent = 0x00FFFFFF;
+
+std::vector<std::string> FrameTrace(CFrameBase& frame, CRect rect) {
     Surface surface;
-    CFrameBase frame;
-    Recording recording;
-    frame.DrawFrame(surface.Graphics(), CRect(10, 20, 110, 70));
-    EXPECT_EQ(recording.Count(), 0);
+    Recording recording(Mode::RecordOnly);
+    frame.DrawFrame(surface.Graphics(), rect);
+    return recording.Lines();
 }
 
-TEST(DrawFrame, BorderStandsOutByItsGaps) {
-    Surface surface;
+CFrameBase ColouredFrame() {
     CFrameBase frame;
+    frame.BorderColor = Gdiplus::Color(kBorder);
+    frame.FillColor = Gdiplus::Color(kFill);
+    frame.ShadowColor = Gdiplus::Color(kShadow);
+    return frame;
+}
+
+// A rectangle 100 wide and 50 high from (10, 20), with border gaps 3 and 4, fill gaps 1
+// and 2, a border 2 wide, and a shadow that falls a quarter right and a half down.
+TEST(DrawFrame, DrawsWhatIsSwitchedOnInOrder) {
+    const std::string pen = PenLook(kBorder, 2);
+    const std::string dashedPen = PenLook(kBorder, 2, 1);
+    const std::string shadow = BrushLook(kShadow);
+    const std::string fill = BrushLook(kFill);
+    for (int switches = 0; switches < 16; ++switches) {
+        CFrameBase frame = ColouredFrame();
+        frame.DrawBorder = (switches & 1) != 0;
+        frame.DrawFill = (switches & 2) != 0;
+        frame.DrawShadow = (switches & 4) != 0;
+        frame.DashedBorder = (switches & 8) != 0;
+        frame.BorderWidth = 2.0f;
+        frame.BorderGapX = 3;
+        frame.BorderGapY = 4;
+        frame.FillGapX = 1;
+        frame.FillGapY = 2;
+        frame.ShadowRatioX = 0.25f;
+        frame.ShadowRatioY = 0.5f;
+
+        std::vector<Named> expected;
+        if (frame.DrawBorder) {
+            expected.push_back({"border pen", "GdipCreatePen1 #FF204060 2 unit 0"});
+            if (frame.DashedBorder) {
+                expected.push_back({"dashes", "GdipSetPenDashStyle 1"});
+            }
+            const std::string& used = frame.DashedBorder ? dashedPen : pen;
+            // 10 - 3, 20 - 4, 100 + 2 * 3, 50 + 2 * 4
+            expected.push_back({"border", DrawRectangle(used, 7, 16, 106, 58)});
+            expected.push_back({"border pen", "GdipDeletePen " + used});
+        }
+        if (frame.DrawShadow) {
+            expected.push_back({"shadow brush", "GdipCreateSolidFill #80404040"});
+            // 110 + 2 + 3, 20 + 25 + 2 + 4, 25 + 2 + 3, 50 + 2 + 4
+            expected.push_back({"right strip", FillRectangle(shadow, 115, 51, 30, 56)});
+            // 10 + 25 + 2 + 3, 70 + 2 + 4, 100 + 2 + 3, 25 + 2 + 4
+            expected.push_back({"bottom strip", FillRectangle(shadow, 40, 76, 105, 31)});
+            expected.push_back({"shadow brush", "GdipDeleteBrush " + shadow});
+        }
+        if (frame.DrawFill) {
+            expected.push_back({"fill brush", "GdipCreateSolidFill #FFFFF0E0"});
+            // 10 - 1, 20 - 2, 100 + 2 * 1, 50 + 2 * 2
+            expected.push_back({"fill", FillRectangleI(fill, 9, 18, 102, 54)});
+            expected.push_back({"fill brush", "GdipDeleteBrush " + fill});
+        }
+        EXPECT_TRUE(Equal(expected, FrameTrace(frame, CRect(10, 20, 110, 70))))
+            << "switches " << switches;
+        EXPECT_EQ(frame.BorderWidth, 2.0f) << "switches " << switches;
+    }
+}
+
+TEST(DrawFrame, CountsOnlyTheValueOneAsDashed) {
+    struct Row {
+        unsigned char byte;
+        bool dashed;
+    };
+    for (const Row& row : {Row{0, false}, Row{1, true}, Row{2, false}, Row{255, false}}) {
+        CFrameBase frame = ColouredFrame();
+        frame.DrawBorder = true;
+        std::memcpy(&frame.DashedBorder, &row.byte, 1);
+        const std::vector<std::string> lines = FrameTrace(frame, CRect(0, 0, 9, 9));
+        EXPECT_EQ(lines.at(1) == "GdipSetPenDashStyle 1", row.dashed) << +row.byte;
+        EXPECT_EQ(lines.size(), row.dashed ? 4u : 3u) << +row.byte;
+    }
+}
+
+TEST(DrawFrame, DrawsABorderOfNoWidthTransparent) {
+    for (const float width : {0.0f, -0.0f}) {
+        for (const bool dashed : {false, true}) {
+            CFrameBase frame = ColouredFrame();
+            frame.DrawBorder = true;
+            frame.DashedBorder = dashed;
+            frame.BorderWidth = width;
+            std::vector<Named> expected = {{"pen", "GdipCreatePen1 #FF204060 0 unit 0"}};
+            if (dashed) {
+                expected.push_back({"dashes", "GdipSetPenDashStyle 1"});
+            }
+            const std::string pen = PenLook(kTransparent, 0, dashed ? 1 : 0);
+            expected.push_back({"colour", "GdipSetPenColor #00FFFFFF"});
+            expected.push_back({"border", DrawRectangle(pen, 10, 20, 100, 50)});
+            expected.push_back({"pen", "GdipDeletePen " + pen});
+            EXPECT_TRUE(Equal(expected, FrameTrace(frame, CRect(10, 20, 110, 70))));
+        }
+    }
+}
+
+struct ShadowRow {
+    const char* name;
+    float ratioX;
+    float ratioY;
+    float widthBefore;
+    float right[4];
+    float bottom[4];
+    float widthAfter;
+};
+
+// The rectangle is 101 wide and 51 high from (10, 20); the gaps are 3 and 4.
+TEST(DrawFrame, DropsTheShadowByItsRatios) {
+    const float third = 1.0f / 3.0f;
+    const float nan = std::numeric_limits<float>::quiet_NaN();
+    const ShadowRow rows[] = {
+        {"exact",
+         0.5f,   // 50.5, of which 50 move the bottom strip
+         0.25f,  // 12.75, of which 12 move the right strip
+         2.0f,
+         {111 + 2 + 3, 20 + 12 + 2 + 4, 50.5f + 2 + 3, 51 + 2 + 4},
+         {10 + 50 + 2 + 3, 71 + 2 + 4, 101 + 2 + 3, 12.75f + 2 + 4},
+         2.0f},
+        {"thirds, in floats",
+         third,  // 33.666668
+         third,  // 17.0: the product is rounded up to a whole
+         1.5f,
+         {111 + 1.5f + 3, 20 + 17 + 1.5f + 4, 101.0f * third + 1.5f + 3, 51 + 1.5f + 4},
+         {10 + 33 + 1.5f + 3, 71 + 1.5f + 4, 101 + 1.5f + 3, 17.0f + 1.5f + 4},
+         1.5f},
+        {"up and left",
+         -0.5f,   // -50.5, toward zero
+         -0.25f,  // -12.75
+         2.0f,
+         {111 + 2 + 3, 20 - 12 + 2 + 4, -50.5f + 2 + 3, 51 + 2 + 4},
+         {10 - 50 + 2 + 3, 71 + 2 + 4, 101 + 2 + 3, -12.75f + 2 + 4},
+         2.0f},
+        {"not right: both strips without the border's width",
+         0.0f,
+         0.25f,
+         2.0f,
+         {111 + 3, 20 + 12 + 4, 0 + 3, 51 + 4},
+         {10 + 0 + 3, 71 + 4, 101 + 3, 12.75f + 4},
+         2.0f},
+        {"not down: the bottom strip without the border's width",
+         0.5f,
+         0.0f,
+         2.0f,
+         {111 + 2 + 3, 20 + 0 + 2 + 4, 50.5f + 2 + 3, 51 + 2 + 4},
+         {10 + 50 + 3, 71 + 4, 101 + 3, 0 + 4},
+         2.0f},
+        {"neither: the width stays 0",
+         0.0f,
+         0.0f,
+         2.0f,
+         {111 + 3, 20 + 4, 0 + 3, 51 + 4},
+         {10 + 3, 71 + 4, 101 + 3, 0 + 4},
+         0.0f},
+        {"minus zero is zero",
+         -0.0f,
+         -0.0f,
+         2.0f,
+         {111 + 3, 20 + 4, 0 + 3, 51 + 4},
+         {10 + 3, 71 + 4, 101 + 3, 0 + 4},
+         0.0f},
+        {"no number moves nothing",
+         nan,
+         nan,
+         2.0f,
+         {111 + 2 + 3, 20 + 0 + 2 + 4, nan, 51 + 2 + 4},
+         {10 + 0 + 2 + 3, 71 + 2 + 4, 101 + 2 + 3, nan},
+         2.0f},
+    };
+    const std::string brush = BrushLook(kShadow);
+    for (const ShadowRow& row : rows) {
+        CFrameBase frame = ColouredFrame();
+        frame.DrawShadow = true;
+        frame.BorderWidth = row.widthBefore;
+        frame.BorderGapX = 3;
+        frame.BorderGapY = 4;
+        frame.ShadowRatioX = row.ratioX;
+        frame.ShadowRatioY = row.ratioY;
+        const float* right = row.right;
+        const float* bottom = row.bottom;
+        EXPECT_TRUE(Equal(
+            {{"brush", "GdipCreateSolidFill #80404040"},
+             {"right", FillRectangle(brush, right[0], right[1], right[2], right[3])},
+             {"bottom", FillRectangle(brush, bottom[0], bottom[1], bottom[2], bottom[3])},
+             {"brush", "GdipDeleteBrush " + brush}},
+            FrameTrace(frame, CRect(10, 20, 111, 71))))
+            << row.name;
+        EXPECT_EQ(frame.BorderWidth, row.widthAfter) << row.name;
+    }
+}
+
+// 0.7 as a float is a little less; times 10 and times 50 it is rounded to 7 and 35 as a
+// float, where a double would stay below and lose a pixel.
+TEST(DrawFrame, TruncatesTheShadowsFallAsAFloat) {
+    CFrameBase frame = ColouredFrame();
+    frame.DrawShadow = true;
+    frame.BorderWidth = 1.0f;
+    frame.ShadowRatioX = frame.ShadowRatioY = 0.7f;
+    const std::string brush = BrushLook(kShadow);
+    const std::vector<std::string> lines = FrameTrace(frame, CRect(0, 0, 50, 10));
+    EXPECT_EQ(lines.at(1), FillRectangle(brush, 50 + 1, 7 + 1, 35 + 1, 10 + 1));
+    EXPECT_EQ(lines.at(2), FillRectangle(brush, 35 + 1, 10 + 1, 50 + 1, 7 + 1));
+}
+
+TEST(DrawFrame, DrawsTheNextBorderTransparentAfterAShadowThatFallsNowhere) {
+    CFrameBase frame = ColouredFrame();
     frame.DrawBorder = true;
-    frame.BorderGapX = 3;
-    frame.BorderGapY = 3;
-    Recording recording;
-    frame.DrawFrame(surface.Graphics(), CRect(10, 20, 110, 70));
-    EXPECT_TRUE(Equal({{"pen", "GdipCreatePen1 #FF000000 1 unit 0"},
-                       {"border", DrawRectangle(PenLook(0xFF000000, 1), 7, 17, 106, 56)},
-                       {"pen", "GdipDeletePen " + PenLook(0xFF000000, 1)}},
-                      recording.Lines()));
+    frame.DrawShadow = true;
+    frame.BorderWidth = 2.0f;
+    const std::vector<std::string> first = FrameTrace(frame, CRect(0, 0, 9, 9));
+    const std::vector<std::string> second = FrameTrace(frame, CRect(0, 0, 9, 9));
+    EXPECT_EQ(first.at(1), DrawRectangle(PenLook(kBorder, 2), 0, 0, 9, 9));
+    EXPECT_EQ(second.at(2), DrawRectangle(PenLook(kTransparent, 0), 0, 0, 9, 9));
+}
+
+struct RectRow {
+    const char* name;
+    CRect rect;
+    int gapX;
+    int gapY;
+    Gdiplus::Rect drawn;
+};
+
+TEST(DrawFrame, KeepsRectanglesWithin32Bits) {
+    const RectRow rows[] = {
+        {"empty", CRect(5, 6, 5, 6), 0, 0, {5, 6, 0, 0}},
+        {"turned inside out", CRect(110, 70, 10, 20), 0, 0, {110, 70, -100, -50}},
+        {"gaps inwards", CRect(10, 20, 110, 70), -3, -4, {13, 24, 94, 42}},
+        {"gaps wider than the rectangle",
+         CRect(0, 0, 10, 10),
+         -20,
+         -30,
+         {20, 30, -30, -50}},
+        {"the whole plane",
+         CRect(kLowest, kLowest, kHighest, kHighest),
+         0,
+         0,
+         {kLowest, kLowest, kHighest, kHighest}},
+        {"the whole plane, inside out",
+         CRect(kHighest, kHighest, kLowest, kLowest),
+         0,
+         0,
+         {kHighest, kHighest, kLowest, kLowest}},
+        {"huge gaps",
+         CRect(0, 0, 10, 10),
+         kHighest,
+         kHighest,
+         {-kHighest, -kHighest, kHighest, kHighest}},
+        {"huge gaps at the corner",
+         CRect(-10, -10, 0, 0),
+         kHighest,
+         kHighest,
+         {kLowest, kLowest, kHighest, kHighest}},
+        {"huge gaps inwards",
+         CRect(0, 0, 10, 10),
+         kLowest,
+         kLowest,
+         {kHighest, kHighest, kLowest, kLowest}},
+        // -2^31 - (2^31 - 1) is below; the width is 2 * (2^31 - 1) more than 2^32 - 1
+        {"everything at once",
+         CRect(kLowest, kLowest, kHighest, kHighest),
+         kHighest,
+         kHighest,
+         {kLowest, kLowest, kHighest, kHighest}},
+    };
+    for (const RectRow& row : rows) {
+        CFrameBase frame = ColouredFrame();
+        frame.DrawBorder = true;
+        frame.DrawFill = true;
+        frame.DrawShadow = true;
+        frame.ShadowRatioX = frame.ShadowRatioY = 0.5f;
+        frame.BorderGapX = frame.FillGapX = row.gapX;
+        frame.BorderGapY = frame.FillGapY = row.gapY;
+        const std::vector<std::string> lines = FrameTrace(frame, row.rect);
+        ASSERT_EQ(lines.size(), 10u) << row.name;
+        const Gdiplus::Rect& box = row.drawn;
+        EXPECT_EQ(lines[1],
+                  DrawRectangle(PenLook(kBorder, 1), box.X, box.Y, box.Width, box.Height))
+            << row.name;
+        EXPECT_EQ(lines[8],
+                  FillRectangleI(BrushLook(kFill), box.X, box.Y, box.Width, box.Height))
+            << row.name;
+    }
+}
+
+TEST(DrawFrame, DropsTheShadowOfAHugeRectangleInFloats) {
+    const float side = 4294967296.0f;  // 2^32 - 1, as a float
+    const float edge = 2147483648.0f;  // 2^31 - 1, as a float
+    CFrameBase frame = ColouredFrame();
+    frame.DrawShadow = true;
+    frame.BorderWidth = 0.0f;
+    frame.ShadowRatioX = 0.25f;  // 2^30 to the right
+    frame.ShadowRatioY = 1.0f;   // 2^32 down, which moves the edge by 2^31 - 1 at most
+    const std::string brush = BrushLook(kShadow);
+    const std::vector<std::string> lines =
+        FrameTrace(frame, CRect(kLowest, kLowest, kHighest, kHighest));
+    EXPECT_EQ(lines.at(1), FillRectangle(brush, edge, -1.0f, side / 4, side));
+    EXPECT_EQ(lines.at(2), FillRectangle(brush, -edge / 2, edge, side, side));
+}
+
+TEST(DrawFrame, GoesOnWhenACallFails) {
+    for (int n = 1; n <= 14; ++n) {
+        Surface surface;
+        CFrameBase frame = ColouredFrame();
+        frame.DrawBorder = frame.DrawFill = frame.DrawShadow = frame.DashedBorder = true;
+        frame.BorderWidth = 0.0f;
+        frame.ShadowRatioX = 0.1f;
+        Recording recording;
+        recording.FailCall(n, Gdiplus::OutOfMemory);
+        frame.DrawFrame(surface.Graphics(), CRect(10, 20, 110, 70));
+        // 5 for the border, 4 for the shadow, 3 for the fill
+        EXPECT_EQ(recording.Count(), 12) << "failing call " << n;
+        const bool draws = n == 4 || n == 7 || n == 8 || n == 11;
+        const bool makes = n == 1 || n == 6 || n == 10;
+        EXPECT_EQ(surface.Graphics()->GetLastStatus(), draws   ? Gdiplus::OutOfMemory
+                                                       : makes ? Gdiplus::InvalidParameter
+                                                               : Gdiplus::Ok)
+            << "failing call " << n;
+        EXPECT_TRUE(NothingAlive()) << "failing call " << n;
+    }
+}
+
+TEST(DrawFrame, CoversTheShadowWithTheFill) {
+    Surface surface(60, 60);
+    CFrameBase frame = ColouredFrame();
+    frame.DrawBorder = frame.DrawFill = frame.DrawShadow = true;
+    frame.BorderColor = Gdiplus::Color(0xFF0000FF);
+    frame.ShadowColor = Gdiplus::Color(0xFF808080);
+    frame.FillColor = Gdiplus::Color(0xFF00FF00);
+    frame.BorderGapX = frame.BorderGapY = 3;
+    frame.BorderWidth = 2.0f;
+    frame.ShadowRatioX = frame.ShadowRatioY = 0.2f;
+    frame.DrawFrame(surface.Graphics(), CRect(10, 10, 40, 40));
+    struct Row {
+        const char* name;
+        int x;
+        int y;
+        Gdiplus::ARGB color;
+    };
+    const Row rows[] = {
+        {"fill", 25, 25, 0xFF00FF00},
+        {"between fill and border", 8, 25, 0xFFFFFFFF},
+        {"border", 7, 25, 0xFF0000FF},
+        {"right strip", 50, 40, 0xFF808080},
+        {"bottom strip", 40, 50, 0xFF808080},
+        {"page", 3, 3, 0xFFFFFFFF},
+    };
+    for (const Row& row : rows) {
+        Gdiplus::Color color;
+        surface.Bitmap().GetPixel(row.x, row.y, &color);
+        EXPECT_EQ(Hex(color.GetValue()), Hex(row.color)) << row.name;
+    }
 }
 
 }  // namespace

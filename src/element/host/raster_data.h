@@ -46,6 +46,9 @@ public:
 
     /// Moves the whole box; an empty one stays empty.
     void OffsetBoundingBox(double dx, double dy) {
+        if (IsEmpty()) {
+            return;
+        }
         m_left += dx;
         m_right += dx;
         m_bottom += dy;

@@ -1,0 +1,261 @@
+#include "map_surround/frame.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <type_traits>
+
+#include "recording/expect.h"
+
+namespace {
+
+using namespace recording;
+
+static_assert(std::has_virtual_destructor_v<CFrameBase>);
+static_assert(std::is_base_of_v<CFrameBase, CSurroundFrame>);
+
+TEST(Frame, HasItsDefaults) {
+    CFrameBase base;
+    CSurroundFrame surround;
+    for (const CFrameBase* frame : {&base, static_cast<CFrameBase*>(&surround)}) {
+        EXPECT_EQ(frame->HitHandle, 0);
+        EXPECT_EQ(frame->DrawBorder, false);
+        EXPECT_EQ(frame->DrawFill, false);
+        EXPECT_EQ(frame->DrawShadow, false);
+        EXPECT_EQ(frame->DashedBorder, false);
+        EXPECT_EQ(frame->BorderWidth, 1.0f);
+        EXPECT_EQ(frame->BorderColor.GetValue(), 0xFF000000);
+        EXPECT_EQ(frame->FillColor.GetValue(), 0x00FFFFFFu);
+        EXPECT_EQ(frame->ShadowColor.GetValue(), 0x00FFFFFFu);
+        EXPECT_EQ(frame->Reserved1, 0);
+        EXPECT_EQ(frame->Reserved2, 0);
+        EXPECT_EQ(frame->Reserved3, 0);
+        EXPECT_EQ(frame->BorderGapX, 0);
+        EXPECT_EQ(frame->BorderGapY, 0);
+        EXPECT_EQ(frame->Reserved4, 5);
+        EXPECT_EQ(frame->Reserved5, 5);
+        EXPECT_EQ(frame->FillGapX, 0);
+        EXPECT_EQ(frame->FillGapY, 0);
+        EXPECT_EQ(frame->ShadowRatioX, 0.0f);
+        EXPECT_EQ(frame->ShadowRatioY, 0.0f);
+        EXPECT_EQ(frame->GetExtent().GetWidth(), 0.0);
+        EXPECT_EQ(frame->GetExtent().GetHeight(), 0.0);
+    }
+    EXPECT_EQ(base.GetFrameType(), FrameBasic);
+    EXPECT_EQ(surround.GetFrameType(), FrameSurround);
+    EXPECT_EQ(surround.GetMapSurround(), nullptr);
+}
+
+TEST(Frame, NamesItsValuesAsTheHostKnowsThem) {
+    EXPECT_EQ(FrameBasic, 0);
+    EXPECT_EQ(FrameSurround, 3);
+    EXPECT_EQ(TopoDisjoint, 0);
+    EXPECT_EQ(TopoOnHandle, 2);
+    EXPECT_EQ(TopoWithin, 3);
+}
+
+/// A value of its own in every field.
+void FillIn(CFrameBase& frame) {
+    frame.HitHandle = 1;
+    frame.DrawBorder = frame.DrawFill = frame.DrawShadow = frame.DashedBorder = true;
+    frame.BorderWidth = 2.5f;
+    frame.BorderColor = Gdiplus::Color(0x03030303);
+    frame.FillColor = Gdiplus::Color(0x04040404);
+    frame.ShadowColor = Gdiplus::Color(0x05050505);
+    frame.Reserved1 = 6;
+    frame.Reserved2 = 7;
+    frame.Reserved3 = 8;
+    frame.BorderGapX = 9;
+    frame.BorderGapY = 10;
+    frame.Reserved4 = 11;
+    frame.Reserved5 = 12;
+    frame.FillGapX = 13;
+    frame.FillGapY = 14;
+    frame.ShadowRatioX = 15.5f;
+    frame.ShadowRatioY = 16.5f;
+    frame.SetExtent(CBoundingBox(17, 18, 117, 68));
+}
+
+void ExpectFilledIn(const CFrameBase& frame) {
+    EXPECT_EQ(frame.HitHandle, 1);
+    EXPECT_TRUE(frame.DrawBorder);
+    EXPECT_TRUE(frame.DrawFill);
+    EXPECT_TRUE(frame.DrawShadow);
+    EXPECT_TRUE(frame.DashedBorder);
+    EXPECT_EQ(frame.BorderWidth, 2.5f);
+    EXPECT_EQ(frame.BorderColor.GetValue(), 0x03030303u);
+    EXPECT_EQ(frame.FillColor.GetValue(), 0x04040404u);
+    EXPECT_EQ(frame.ShadowColor.GetValue(), 0x05050505u);
+    EXPECT_EQ(frame.Reserved1, 6);
+    EXPECT_EQ(frame.Reserved2, 7);
+    EXPECT_EQ(frame.Reserved3, 8);
+    EXPECT_EQ(frame.BorderGapX, 9);
+    EXPECT_EQ(frame.BorderGapY, 10);
+    EXPECT_EQ(frame.Reserved4, 11);
+    EXPECT_EQ(frame.Reserved5, 12);
+    EXPECT_EQ(frame.FillGapX, 13);
+    EXPECT_EQ(frame.FillGapY, 14);
+    EXPECT_EQ(frame.ShadowRatioX, 15.5f);
+    EXPECT_EQ(frame.ShadowRatioY, 16.5f);
+    const CBoundingBox extent = frame.GetExtent();
+    EXPECT_EQ(extent.TopLeft().x, 17.0);
+    EXPECT_EQ(extent.TopLeft().y, 68.0);
+    EXPECT_EQ(extent.GetWidth(), 100.0);
+    EXPECT_EQ(extent.GetHeight(), 50.0);
+}
+
+TEST(Frame, CopiesEveryField) {
+    CFrameBase frame;
+    FillIn(frame);
+    ExpectFilledIn(frame);
+    const CFrameBase copy(frame);
+    ExpectFilledIn(copy);
+    CFrameBase assigned;
+    EXPECT_EQ(&(assigned = frame), &assigned);
+    ExpectFilledIn(assigned);
+    assigned = static_cast<const CFrameBase&>(assigned);
+    ExpectFilledIn(assigned);
+    EXPECT_EQ(copy.GetFrameType(), FrameBasic);
+
+    CSurroundFrame surround;
+    CFrameBase base(surround);
+    EXPECT_EQ(base.GetFrameType(), FrameSurround);
+    base = frame;
+    EXPECT_EQ(base.GetFrameType(), FrameBasic);
+}
+
+TEST(Frame, CopiesEachSwitchByItself) {
+    for (int on = 0; on < 4; ++on) {
+        CFrameBase frame;
+        bool* switches[] = {&frame.DrawBorder, &frame.DrawFill, &frame.DrawShadow,
+                            &frame.DashedBorder};
+        *switches[on] = true;
+        const CFrameBase copy(frame);
+        EXPECT_EQ(copy.DrawBorder, on == 0);
+        EXPECT_EQ(copy.DrawFill, on == 1);
+        EXPECT_EQ(copy.DrawShadow, on == 2);
+        EXPECT_EQ(copy.DashedBorder, on == 3);
+    }
+}
+
+/// What became of an element, kept where it outlives it.
+struct Fate {
+    int deleted = 0;
+    int drawn = 0;
+    Gdiplus::Graphics* graphics = nullptr;
+    CPoint centre;
+    double scale = 0.0;
+};
+
+class Probe : public CMapSurround {
+public:
+    explicit Probe(Fate& fate) : m_fate(fate) {}
+    Probe(const Probe&) = delete;
+    Probe& operator=(const Probe&) = delete;
+    ~Probe() override { ++m_fate.deleted; }
+
+    void Draw(Gdiplus::Graphics* graphics, CPoint centre, double scale) override {
+        ++m_fate.drawn;
+        m_fate.graphics = graphics;
+        m_fate.centre = centre;
+        m_fate.scale = scale;
+    }
+
+private:
+    Fate& m_fate;
+};
+
+TEST(SurroundFrame, DeletesItsElementOnce) {
+    Fate fate;
+    {
+        CSurroundFrame frame;
+        auto* element = new Probe(fate);
+        frame.SetMapSurround(element);
+        EXPECT_EQ(frame.GetMapSurround(), element);
+        EXPECT_EQ(fate.deleted, 0);
+    }
+    EXPECT_EQ(fate.deleted, 1);
+
+    std::unique_ptr<CFrameBase> base = std::make_unique<CSurroundFrame>();
+    static_cast<CSurroundFrame&>(*base).SetMapSurround(new Probe(fate));
+    base.reset();
+    EXPECT_EQ(fate.deleted, 2) << "through the base";
+}
+
+TEST(SurroundFrame, DeletesNothingWithoutElement) {
+    Recording recording;
+    { const CSurroundFrame frame; }
+    EXPECT_EQ(recording.Count(), 0);
+}
+
+TEST(SurroundFrame, LeavesAReplacedElementToTheHost) {
+    Fate first;
+    Fate second;
+    const auto replaced = std::make_unique<Probe>(first);
+    {
+        CSurroundFrame frame;
+        frame.SetMapSurround(replaced.get());
+        frame.SetMapSurround(new Probe(second));
+        EXPECT_EQ(first.deleted, 0);
+    }
+    EXPECT_EQ(first.deleted, 0);
+    EXPECT_EQ(second.deleted, 1);
+}
+
+TEST(SurroundFrame, SharesItsElementWithCopies) {
+    Fate fate;
+    Fate other;
+    {
+        CSurroundFrame frame;
+        FillIn(frame);
+        frame.SetMapSurround(new Probe(fate));
+        CSurroundFrame copy(frame);
+        ExpectFilledIn(copy);
+        EXPECT_EQ(copy.GetMapSurround(), frame.GetMapSurround());
+        EXPECT_EQ(copy.GetFrameType(), FrameSurround);
+
+        const auto held = std::make_unique<Probe>(other);
+        CSurroundFrame assigned;
+        assigned.SetMapSurround(held.get());
+        EXPECT_EQ(&(assigned = frame), &assigned);
+        ExpectFilledIn(assigned);
+        EXPECT_EQ(assigned.GetMapSurround(), frame.GetMapSurround());
+        EXPECT_EQ(other.deleted, 0) << "an assignment deletes nothing";
+
+        frame.SetMapSurround(nullptr);
+        assigned.SetMapSurround(nullptr);
+        EXPECT_EQ(fate.deleted, 0);
+    }
+    EXPECT_EQ(fate.deleted, 1);
+}
+
+TEST(SurroundFrame, HandsDrawingOnAsItIs) {
+    Surface surface;
+    Fate fate;
+    CSurroundFrame frame;
+    frame.DrawBorder = frame.DrawFill = frame.DrawShadow = true;
+    frame.SetMapSurround(new Probe(fate));
+    Recording recording;
+    frame.Draw(surface.Graphics(), CPoint(-7, 2147483647), -0.1);
+    EXPECT_EQ(fate.drawn, 1);
+    EXPECT_EQ(fate.graphics, surface.Graphics());
+    EXPECT_EQ(fate.centre.x, -7);
+    EXPECT_EQ(fate.centre.y, 2147483647);
+    EXPECT_EQ(fate.scale, -0.1);
+    EXPECT_EQ(recording.Count(), 0) << "the decoration is drawn by DrawFrame alone";
+
+    frame.DrawFrame(surface.Graphics(), CRect(0, 0, 9, 9));
+    EXPECT_EQ(fate.drawn, 1) << "and the element by Draw alone";
+}
+
+TEST(SurroundFrame, DrawsNothingWithoutElement) {
+    Surface surface;
+    CSurroundFrame frame;
+    frame.DrawBorder = frame.DrawFill = frame.DrawShadow = true;
+    Recording recording;
+    frame.Draw(surface.Graphics(), CPoint(10, 10), 1.0);
+    frame.Draw(nullptr, CPoint(10, 10), 1.0);
+    EXPECT_EQ(recording.Count(), 0);
+}
+
+}  // namespace
