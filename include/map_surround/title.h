@@ -26,8 +26,8 @@ enum FontProcess : std::int32_t {
 /// *style* is the name of the font family, the font *process* is the style.
 ///
 /// The host sets text, family, style and size, then calls ResetAspectRatio(), and again
-/// after each change. There is no default family; an empty name draws and measures
-/// nothing.
+/// after each change. There is no default family; where GDI+ finds none of the name,
+/// nothing is drawn and measured (libgdiplus finds a substitute for any name).
 class MAP_SURROUND_API CMapTitle : public CMapSurround {
 public:
     CMapTitle();

@@ -1,2 +1,3 @@
 set(element_test_sources
+  element_test.cpp
   numbers_test.cpp)

@@ -1,6 +1,11 @@
+#include "map_surround/title.h"
+
 #include <gtest/gtest.h>
 
-#include "map_surround/title.h"
+#include <cmath>
+#include <cstdlib>
+#include <limits>
+
 #include "recording/expect.h"
 #include "recording/lines.h"
 
@@ -8,13 +13,332 @@ namespace {
 
 using namespace recording;
 
+CMapTitle Title(const std::wstring& text = L"Olinda") {
+    CMapTitle title;
+    title.SetFontValue(text);
+    title.SetFontStyle(L"Arial");
+    title.SetFontProcess(FontProcessBold);
+    return title;
+}
+
+std::vector<Named> Measuring(const std::string& text, const Gdiplus::Rect& bounds,
+                             float centreX, float centreY, float angle) {
+    const std::string family = "family[\"Arial\"]";
+    const std::string font = FontLook("Arial", 15, 1);
+    const std::string format = FormatLook(0, 0);
+    const std::string outline = "\"" + text + "\" \"Arial\" 15";
+    const std::string box =
+        "rectangle " + std::to_string(bounds.X) + " " + std::to_string(bounds.Y) + " " +
+        std::to_string(bounds.Width) + " " + std::to_string(bounds.Height);
+    return {
+        {"family", "GdipCreateFontFamilyFromName \"Arial\""},
+        {"font", "GdipCreateFont " + font},
+        {"format", "GdipCreateStringFormat 0 0"},
+        {"alignment", "GdipSetStringFormatAlign 0"},
+        {"outline", "GdipCreatePath 0"},
+        {"em size", "GdipGetFontSize " + font},
+        {"style", "GdipGetFontStyle " + font},
+        {"text", "GdipAddPathString " + outline + " style 1 at 0 0 0 0 " + format},
+        {"text bounds", "GdipGetPathWorldBoundsI path[" + outline + "]"},
+        {"matrix", "GdipCreateMatrix"},
+        {"to the centre",
+         "GdipTranslateMatrix " + Number(centreX) + " " + Number(centreY)},
+        {"turn", "GdipRotateMatrix " + Number(angle)},
+        {"back", "GdipTranslateMatrix " + Number(-centreX) + " " + Number(-centreY)},
+        {"box", "GdipCreatePath 0"},
+        {"box", "GdipAddPathRectangleI " + box},
+        {"turned box", "GdipTransformPath path[" + box + "]"},
+        {"turned bounds", "GdipGetPathWorldBoundsI path[" + box + "]"},
+        {"box", "GdipDeletePath path[" + box + "]"},
+        {"matrix", "GdipDeleteMatrix matrix"},
+        {"outline", "GdipDeletePath path[" + outline + "]"},
+        {"format", "GdipDeleteStringFormat " + format},
+        {"font", "GdipDeleteFont " + font},
+        {"family", "GdipDeleteFontFamily " + family},
+    };
+}
+
+struct MeasuredRow {
+    const char* name;
+    Gdiplus::Rect bounds;
+    float centreX;
+    float centreY;
+    float angle;
+    Gdiplus::Rect turned;
+    int size;
+    float aspectRatio;
+};
+
+TEST(MapTitle, MeasuresTheBoxAroundItsTurnedOutline) {
+    constexpr int highest = std::numeric_limits<int>::max();
+    constexpr int lowest = std::numeric_limits<int>::min();
+    const float infinity = std::numeric_limits<float>::infinity();
+    const MeasuredRow rows[] = {
+        {"unturned", {1, 3, 60, 20}, 31, 13, 0, {1, 3, 60, 20}, 20, 3.0f},
+        {"a little", {1, 3, 60, 20}, 31, 13, 30, {0, -10, 62, 47}, 47, 62.0f / 47.0f},
+        {"upright", {1, 3, 60, 20}, 31, 13, 90, {21, -17, 20, 60}, 60, 20.0f / 60.0f},
+        {"back", {1, 3, 60, 20}, 31, 13, -45, {3, -15, 57, 57}, 57, 1.0f},
+        // (61 + 2 * 2) / 2 and (15 + 2 * -4) / 2
+        {"odd sides",
+         {2, -4, 61, 15},
+         32.5f,
+         3.5f,
+         0,
+         {2, -4, 61, 15},
+         15,
+         61.0f / 15.0f},
+        {"left of its origin", {-3, 0, 5, 9}, -0.5f, 4.5f, 0, {-3, 0, 5, 9}, 9, 5.0f / 9},
+        // 3 * (2^31 - 1) / 2 is 3221225470.5
+        {"huge",
+         {highest, highest, highest, highest},
+         3221225470.5f,
+         3221225470.5f,
+         0,
+         {0, 0, highest, 1},
+         1,
+         2147483648.0f},
+        {"huge and negative",
+         {lowest, lowest, lowest, lowest},
+         -3221225472.0f,
+         -3221225472.0f,
+         0,
+         {0, 0, 1, lowest},
+         lowest,
+         -1.0f / 2147483648.0f},
+        {"no height", {1, 3, 60, 0}, 31, 3, 0, {1, 3, 60, 0}, 0, infinity},
+    };
+    for (const MeasuredRow& row : rows) {
+        CMapTitle title = Title();
+        title.SetAngle(row.angle);
+        Recording recording(Mode::RecordOnly);
+        recording.ScriptBounds({row.bounds, row.turned});
+        title.ResetAspectRatio();
+        EXPECT_TRUE(
+            Equal(Measuring("Olinda", row.bounds, row.centreX, row.centreY, row.angle),
+                  recording.Lines()))
+            << row.name;
+        EXPECT_EQ(title.GetSize(), row.size) << row.name;
+        EXPECT_EQ(title.GetAspectRatio(), row.aspectRatio) << row.name;
+    }
+}
+
+TEST(MapTitle, MeasuresEveryText) {
+    struct Row {
+        std::wstring text;
+        std::string utf8;
+    };
+    const Row rows[] = {
+        {L"", ""},
+        {L"Olinda, Brasil", "Olinda, Brasil"},
+        {L"\u6BD4\u4F8B\u5C3A", "\xE6\xAF\x94\xE4\xBE\x8B\xE5\xB0\xBA"},
+        {L"\U0001F5FA \U00020000", "\xF0\x9F\x97\xBA \xF0\xA0\x80\x80"},
+    };
+    for (const Row& row : rows) {
+        CMapTitle title = Title(row.text);
+        Recording recording(Mode::RecordOnly);
+        recording.ScriptBounds({{0, 0, 8, 4}});
+        title.ResetAspectRatio();
+        EXPECT_TRUE(Equal(Measuring(row.utf8, {0, 0, 8, 4}, 4, 2, 0), recording.Lines()));
+    }
+}
+
+TEST(MapTitle, MeasuresAtScaleOneInItsOwnSize) {
+    CMapTitle title = Title();
+    title.SetFontSize(1.0 / 3.0);
+    title.SetFontProcess(static_cast<FontProcess>(13));
+    Recording recording(Mode::RecordOnly);
+    title.ResetAspectRatio();
+    EXPECT_EQ(recording.Lines().at(1),
+              "GdipCreateFont " + FontLook("Arial", 1.0f / 3.0f, 13));
+}
+
+// libgdiplus finds a substitute for any name, GDI+ does not: each is made to fail here.
+TEST(MapTitle, MeasuresAndDrawsNothingWithoutAFamily) {
+    for (const Mode mode : {Mode::Forward, Mode::RecordOnly}) {
+        Surface surface;
+        CMapTitle title = Title();
+        title.SetSize(12);
+        Recording recording(mode);
+        recording.FailCallsOf("GdipCreateFontFamily", Gdiplus::FontFamilyNotFound);
+        title.ResetAspectRatio();
+        EXPECT_EQ(title.GetSize(), 0);
+        EXPECT_TRUE(std::isnan(title.GetAspectRatio())) << "0 / 0";
+        EXPECT_TRUE(NothingAlive());
+
+        recording.Clear();
+        title.Draw(surface.Graphics(), CPoint(100, 50), 1.0);
+        EXPECT_EQ(recording.Drawing().at(3),
+                  DrawString("Olinda", "null", 100, 50, BrushLook(0xFF000000)));
+        EXPECT_EQ(surface.Graphics()->GetLastStatus(), Gdiplus::InvalidParameter);
+    }
+}
+
+struct DrawnRow {
+    double scale;
+    float x;
+    float y;
+    float emSize;
+};
+
+// The outline is 60 x 20 from (1, 3), the centre (200, 150), the em size 15. Where the
+// outline starts does not matter.
+TEST(MapTitle, DrawsItsTextAboutTheCentre) {
+    struct Text {
+        std::wstring text;
+        std::string utf8;
+    };
+    const Text texts[] = {
+        {L"Olinda", "Olinda"},
+        {L"\u56FE\u4F8B", "\xE5\x9B\xBE\xE4\xBE\x8B"},
+        {L"\U0001F5FA map", "\xF0\x9F\x97\xBA map"},
+    };
+    const DrawnRow rows[] = {
+        {0.5, 200 - 15, 150 - 5, 7.5f},
+        {1.0, 200 - 30, 150 - 10, 15.0f},
+        {2.0, 200 - 60, 150 - 20, 30.0f},
+        {3.125, 200 - 93.75f, 150 - 31.25f, 46.875f},
+        {-1.0, 200 + 30, 150 + 10, -15.0f},
+        // 60 / 6 and 20 / 6 are subtracted as doubles
+        {1.0 / 3.0, 190.0f, static_cast<float>(150 - 20 * (1.0 / 3.0) * 0.5), 5.0f},
+    };
+    for (const Text& text : texts) {
+        for (const DrawnRow& row : rows) {
+            for (const float angle : {0.0f, 30.0f, 90.0f, -45.0f}) {
+                CMapTitle title = Title(text.text);
+                title.SetFrontColor(Gdiplus::Color(0xFF103050));
+                title.SetAngle(angle);
+                Surface surface;
+                Recording recording(Mode::RecordOnly);
+                recording.ScriptBounds({{1, 3, 60, 20}});
+                title.ResetAspectRatio();
+                recording.Clear();
+                title.Draw(surface.Graphics(), CPoint(200, 150), row.scale);
+
+                const std::string brush = BrushLook(0xFF103050);
+                const bool made = row.emSize > 0.0f;
+                const std::string font = FontLook("Arial", row.emSize, 1);
+                const std::string used = made ? font : "null";
+                EXPECT_TRUE(
+                    Equal({{"family", "GdipCreateFontFamilyFromName \"Arial\""},
+                           {"font", "GdipCreateFont " + font},
+                           {"to the centre", TranslateWorld(200, 150)},
+                           {"turn", RotateWorld(angle)},
+                           {"back", TranslateWorld(-200, -150)},
+                           {"brush", "GdipCreateSolidFill #FF103050"},
+                           {"text", DrawString(text.utf8, used, row.x, row.y, brush)},
+                           {"reset", ResetWorld()},
+                           {"brush", "GdipDeleteBrush " + brush},
+                           {"font", "GdipDeleteFont " + used},
+                           {"family", "GdipDeleteFontFamily family[\"Arial\"]"}},
+                          recording.Lines()))
+                    << "scale " << row.scale << " angle " << angle;
+            }
+        }
+    }
+}
+
+// The font size becomes a float before it is scaled as a double, and a float again.
+TEST(MapTitle, ScalesTheFontSizeThatItMeasuredWith) {
+    CMapTitle title = Title();
+    title.SetFontSize(0.1);
+    Surface surface;
+    Recording recording(Mode::RecordOnly);
+    title.Draw(surface.Graphics(), CPoint(0, 0), 16777216.0 * 3);
+    // 0.1 as a float is 13421773 / 2^27, times 3 * 2^24 is 13421773 * 3 / 8.
+    EXPECT_EQ(recording.Lines().at(1),
+              "GdipCreateFont " + FontLook("Arial", 5033165.0f, 1));
+}
+
 TEST(MapTitle, DrawsNothingWithoutText) {
     Surface surface;
-    CMapTitle title;
-    title.SetFontStyle(L"Arial");
+    CMapTitle title = Title(L"");
+    title.SetAngle(30.0f);
     Recording recording;
     title.Draw(surface.Graphics(), CPoint(100, 100), 1.0);
     EXPECT_EQ(recording.Count(), 0);
+}
+
+TEST(MapTitle, DrawsAtTheCentreBeforeItIsMeasured) {
+    Surface surface;
+    CMapTitle title = Title();
+    Recording recording(Mode::RecordOnly);
+    title.Draw(surface.Graphics(), CPoint(100, 50), 3.0);
+    EXPECT_EQ(recording.Drawing().at(3), DrawString("Olinda", FontLook("Arial", 45, 1),
+                                                    100, 50, BrushLook(0xFF000000)));
+}
+
+TEST(MapTitle, LeavesTheIdentityBehind) {
+    Surface surface;
+    CMapTitle title = Title();
+    title.SetAngle(30.0f);
+    surface.Graphics()->TranslateTransform(5.0f, 7.0f);
+    title.Draw(surface.Graphics(), CPoint(100, 50), 1.0);
+    EXPECT_EQ(surface.WorldTransform(), (std::vector<float>{1, 0, 0, 1, 0, 0}));
+}
+
+TEST(MapTitle, GoesOnWhenACallFails) {
+    for (int n = 1; n <= 12; ++n) {
+        Surface surface;
+        CMapTitle title = Title();
+        Recording recording(Mode::RecordOnly);
+        recording.FailCall(n, Gdiplus::OutOfMemory);
+        title.Draw(surface.Graphics(), CPoint(100, 50), 1.0);
+        EXPECT_EQ(recording.Count(), 11) << "failing call " << n;
+        EXPECT_TRUE(NothingAlive()) << "failing call " << n;
+        const bool draws = (n >= 3 && n <= 5) || n == 7 || n == 8;
+        const bool makes = n == 1 || n == 2 || n == 6;
+        EXPECT_EQ(surface.Graphics()->GetLastStatus(), draws   ? Gdiplus::OutOfMemory
+                                                       : makes ? Gdiplus::InvalidParameter
+                                                               : Gdiplus::Ok)
+            << "failing call " << n;
+    }
+    for (const Mode mode : {Mode::Forward, Mode::RecordOnly}) {
+        for (int n = 1; n <= 24; ++n) {
+            CMapTitle title = Title();
+            Recording recording(mode);
+            recording.FailCall(n);
+            title.ResetAspectRatio();
+            // Without a font there is no outline to add.
+            const bool noFont = n <= 2 || n == 6 || n == 7;
+            EXPECT_EQ(recording.Count(), noFont ? 22 : 23) << "failing call " << n;
+            EXPECT_TRUE(NothingAlive()) << "failing call " << n;
+        }
+    }
+}
+
+/// The bounds of the outline of a title's text, as GDI+ measures it.
+Gdiplus::Rect OutlineOf(const CMapTitle& title) {
+    const Gdiplus::FontFamily family(title.GetFontStyle().c_str());
+    const Gdiplus::StringFormat format(0, 0);
+    Gdiplus::GraphicsPath path;
+    path.AddString(title.GetFontValue().c_str(), -1, &family, title.GetFontProcess(),
+                   static_cast<float>(title.GetFontSize()), Gdiplus::RectF(), &format);
+    Gdiplus::Rect bounds;
+    path.GetBounds(&bounds, nullptr, nullptr);
+    return bounds;
+}
+
+TEST(MapTitle, TakesTheSizeOfRealOutlines) {
+    for (const double fontSize : {15.0, 48.0, 120.5}) {
+        for (const wchar_t* text : {L"Olinda", L"\u5730\u56FE"}) {
+            CMapTitle title = Title(text);
+            title.SetFontSize(fontSize);
+            const Gdiplus::Rect outline = OutlineOf(title);
+            ASSERT_GT(outline.Width, outline.Height);
+
+            title.ResetAspectRatio();
+            EXPECT_EQ(title.GetSize(), outline.Height);
+            EXPECT_EQ(title.GetAspectRatio(), static_cast<float>(outline.Width) /
+                                                  static_cast<float>(outline.Height));
+
+            title.SetAngle(90.0f);
+            title.ResetAspectRatio();
+            const float width =
+                static_cast<float>(title.GetSize()) * title.GetAspectRatio();
+            EXPECT_NEAR(title.GetSize(), outline.Width, 1);
+            EXPECT_NEAR(width, outline.Height, 1.01);
+        }
+    }
 }
 
 }  // namespace

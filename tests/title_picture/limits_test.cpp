@@ -1,0 +1,222 @@
+#include <gtest/gtest.h>
+
+#include <limits>
+
+#include "map_surround/frame.h"
+#include "map_surround/picture.h"
+#include "map_surround/title.h"
+#include "recording/expect.h"
+#include "recording/lines.h"
+
+namespace {
+
+using namespace recording;
+
+constexpr int kLowest = std::numeric_limits<int>::min();
+constexpr int kHighest = std::numeric_limits<int>::max();
+constexpr float kInfinity = std::numeric_limits<float>::infinity();
+constexpr float kNaN = std::numeric_limits<float>::quiet_NaN();
+
+constexpr int kInts[] = {kLowest, -1, 0, 1, kHighest};
+constexpr float kFloats[] = {kNaN, -kInfinity, -1e30f, -1.0f, -0.0f,
+                             0.0f, 1e-40f,     0.5f,   1e30f, kInfinity};
+constexpr double kDoubles[] = {kNaN,   -kInfinity, -1e300, -1.0,  0.0,
+                               1e-300, 1.0 / 3.0,  1e9,    1e300, kInfinity};
+
+/// The same number for each side and both corners.
+Gdiplus::Rect Square(int number) { return {number, number, number, number}; }
+
+// Under the sanitizers this shows that no property, scale or centre overflows.
+TEST(Limits, ATitleIsDrawnWhateverItHolds) {
+    Surface surface;
+    Recording recording(Mode::Silent);
+    for (const int side : kInts) {
+        recording.ScriptBounds({Square(side)});
+        for (const double fontSize : kDoubles) {
+            for (const float angle : kFloats) {
+                CMapTitle title;
+                title.SetFontValue(L"Olinda");
+                title.SetFontStyle(L"Arial");
+                title.SetFontProcess(static_cast<FontProcess>(side));
+                title.SetFontSize(fontSize);
+                title.SetAngle(angle);
+                recording.Clear();
+                title.ResetAspectRatio();
+                const bool made = static_cast<float>(fontSize) > 0.0f;
+                EXPECT_EQ(recording.Count(), made ? 23 : 22);
+                EXPECT_EQ(title.GetSize(), side);
+                for (const double scale : kDoubles) {
+                    for (const int centre : kInts) {
+                        recording.Clear();
+                        title.Draw(surface.Graphics(), CPoint(centre, centre), scale);
+                        EXPECT_EQ(recording.Count(), 11);
+                    }
+                }
+            }
+        }
+    }
+}
+
+TEST(Limits, APictureIsDrawnWhateverItHolds) {
+    Surface surface;
+    Recording recording(Mode::Silent);
+    for (const unsigned int side : {0u, 1u, 4294967295u}) {
+        for (const int size : kInts) {
+            for (const float value : kFloats) {
+                recording.ScriptImageSize(side, 1u);
+                recording.ScriptBounds({Square(size)});
+                CDrawPicture picture;
+                EXPECT_TRUE(picture.Open(L"a"));
+                picture.SetSize(size);
+                picture.SetAngle(value);
+                recording.Clear();
+                picture.ResetAspectRatio();
+                EXPECT_EQ(recording.Count(), 10);
+                EXPECT_EQ(picture.GetNewHeight(), size);
+                for (const double scale : kDoubles) {
+                    for (const int centre : kInts) {
+                        picture.SetAspectRatio(value);
+                        recording.Clear();
+                        picture.Draw(surface.Graphics(), CPoint(centre, centre), scale);
+                        EXPECT_EQ(recording.Count(), 5);
+                    }
+                }
+            }
+        }
+    }
+}
+
+TEST(Limits, AFrameIsDrawnAndAskedWhateverItHolds) {
+    Surface surface;
+    Recording recording(Mode::Silent);
+    for (const int gap : kInts) {
+        for (const float ratio : kFloats) {
+            for (const float width : kFloats) {
+                for (const int from : kInts) {
+                    for (const int to : kInts) {
+                        CFrameBase frame;
+                        frame.DrawBorder = frame.DrawFill = frame.DrawShadow = true;
+                        frame.BorderGapX = frame.BorderGapY = gap;
+                        frame.FillGapX = frame.FillGapY = gap;
+                        frame.ShadowRatioX = frame.ShadowRatioY = ratio;
+                        frame.BorderWidth = width;
+                        recording.Clear();
+                        frame.DrawFrame(surface.Graphics(), CRect(from, from, to, to));
+                        EXPECT_EQ(recording.Count(), width == 0.0f ? 11 : 10);
+                    }
+                }
+            }
+        }
+    }
+    for (const double from : kDoubles) {
+        for (const double to : kDoubles) {
+            for (const double at : kDoubles) {
+                CFrameBase frame;
+                frame.SetExtent(CBoundingBox(from, from, to, to));
+                frame.SetOffset(at, -at);
+                const SpatialTopoRelation relation =
+                    frame.HitTest(CPoint2D(at, to), at, false);
+                EXPECT_EQ(frame.HitHandle >= 0, relation == TopoOnHandle);
+            }
+        }
+    }
+}
+
+struct PictureRow {
+    const char* name;
+    int size;
+    float aspectRatio;
+    double scale;
+    int centre;
+    Gdiplus::Rect drawn;
+};
+
+// 2^30 - 1 is half of the largest height; twice that is one less than it.
+TEST(Limits, APictureIsCutToWhatGdiPlusTakes) {
+    const int half = 1073741823;
+    const PictureRow rows[] = {
+        {"highest", kHighest, 1.0f, 1.0, 0, {-half - 1, -half, kHighest, 2 * half}},
+        {"highest, far out",
+         kHighest,
+         1.0f,
+         1.0,
+         kLowest,
+         {kLowest, kLowest, kHighest, 2 * half}},
+        {"lowest", kLowest, 1.0f, 1.0, 0, {half + 1, half + 1, kLowest, kLowest}},
+        {"lowest, far out",
+         kLowest,
+         1.0f,
+         1.0,
+         kHighest,
+         {kHighest, kHighest, kLowest, kLowest}},
+        {"past the highest", 1, 1.0f, 1e300, 0, {-half - 1, -half, kHighest, 2 * half}},
+        {"endless", 1, 1.0f, kInfinity, 0, {-half - 1, -half, kHighest, 2 * half}},
+        {"backwards without end",
+         1,
+         1.0f,
+         -kInfinity,
+         0,
+         {half + 1, half + 1, kLowest, kLowest}},
+        {"endlessly wide", 2, kInfinity, 1.0, 5, {5 - kHighest, 4, kHighest, 2}},
+        {"endless times nothing", 0, 1.0f, kInfinity, 5, {5, 5, 0, 0}},
+        {"no number for a scale", 40, 1.0f, kNaN, 5, {5, 5, 0, 0}},
+        {"no number for a ratio", 40, kNaN, 1.0, 5, {5, -15, 0, 40}},
+    };
+    for (const PictureRow& row : rows) {
+        Surface surface;
+        Recording recording(Mode::RecordOnly);
+        CDrawPicture picture;
+        picture.Open(L"a");
+        picture.SetSize(row.size);
+        picture.SetAspectRatio(row.aspectRatio);
+        picture.Draw(surface.Graphics(), CPoint(row.centre, row.centre), row.scale);
+        EXPECT_EQ(recording.Drawing().at(3),
+                  DrawImage("image[\"a\"]", row.drawn.X, row.drawn.Y, row.drawn.Width,
+                            row.drawn.Height))
+            << row.name;
+    }
+}
+
+struct TitleRow {
+    const char* name;
+    double fontSize;
+    double scale;
+    int centre;
+    std::string emSize;
+    std::string at;
+};
+
+// The outline is 60 x 20.
+TEST(Limits, ATitleIsPlacedInDoubles) {
+    const TitleRow rows[] = {
+        {"endless", 15.0, kInfinity, 0, "inf", "(-inf, -inf)"},
+        {"no number", 15.0, kNaN, 0, "nan", "(nan, nan)"},
+        {"past a float", 15.0, 1e300, 0, "inf", "(-inf, -inf)"},
+        {"a font size past a float", 1e300, 1.0, 100, "inf", "(70, 90)"},
+        {"no font size", kNaN, 1.0, 100, "nan", "(70, 90)"},
+        {"a far centre", 15.0, 0.0, kHighest, "0", "(2147483648, 2147483648)"},
+        // 2^31 - 1 - 30 * 4 is 2147483527, exact only as a double; floats are 128 apart
+        {"a far centre, back", 15.0, 4.0, kHighest, "60", "(2147483520, 2147483648)"},
+    };
+    for (const TitleRow& row : rows) {
+        Surface surface;
+        CMapTitle title;
+        title.SetFontValue(L"Map");
+        title.SetFontStyle(L"Arial");
+        Recording recording(Mode::RecordOnly);
+        recording.ScriptBounds({{1, 3, 60, 20}});
+        title.ResetAspectRatio();
+        title.SetFontSize(row.fontSize);
+        recording.Clear();
+        title.Draw(surface.Graphics(), CPoint(row.centre, row.centre), row.scale);
+        EXPECT_EQ(recording.Lines().at(1),
+                  "GdipCreateFont font[\"Arial\" " + row.emSize + " style 0 unit 2]")
+            << row.name;
+        EXPECT_EQ(recording.Drawing().at(3).rfind(
+                      "GdipDrawString \"Map\" " + row.at + " 0 x 0 ", 0),
+                  0u)
+            << row.name << ": " << recording.Drawing().at(3);
+    }
+}
+
+}  // namespace
