@@ -59,8 +59,8 @@ void CDrawPicture::ResetAspectRatio() {
     const int centreX = width / 2;
     const int centreY = height / 2;
     Gdiplus::Matrix turn;
-    map_surround::TurnAbout(turn, static_cast<float>(centreX), static_cast<float>(centreY),
-                            GetAngle());
+    map_surround::TurnAbout(turn, static_cast<float>(centreX),
+                            static_cast<float>(centreY), GetAngle());
     box.Transform(&turn);
     Gdiplus::Rect bounds;
     box.GetBounds(&bounds, nullptr, nullptr);

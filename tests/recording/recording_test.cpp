@@ -183,7 +183,8 @@ TEST(Recording, AnswersBoundsFromTheContent) {
         });
         const Gdiplus::FontFamily family(L"Arial");
         Gdiplus::GraphicsPath path;
-        path.AddString(L"Band_1", -1, &family, 0, 15.0f, Gdiplus::RectF(), nullptr);
+        const Gdiplus::StringFormat format(0, 0);
+        path.AddString(L"Band_1", 6, &family, 0, 15.0f, Gdiplus::RectF(), &format);
         EXPECT_EQ(BoundsOf(path).Width, 19) << "\"Band_1\" \"Arial\" 15";
     }
 }
