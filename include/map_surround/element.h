@@ -72,7 +72,7 @@ public:
     float GetAspectRatio() const { return m_aspectRatio; }
     void SetAspectRatio(float aspectRatio) { m_aspectRatio = aspectRatio; }
 
-    /// Degrees, clockwise on the device surface.
+    /// Degrees, clockwise on the device surface; one that is not finite turns nothing.
     float GetAngle() const { return m_angle; }
     void SetAngle(float angle) { m_angle = angle; }
 

@@ -64,7 +64,8 @@ public:
     /// so that the fill covers what lies inside it.
     ///
     /// The shadow is a strip along the right edge and one along the bottom edge, set off
-    /// by the shadow ratios. A border of width 0 is drawn in a transparent colour, for
+    /// by the shadow ratios; they overlap in the corner, which shows where the shadow's
+    /// colour is not opaque. A border of width 0 is drawn in a transparent colour, for
     /// GDI+ would draw a hairline. When the shadow is on and both its ratios are 0,
     /// BorderWidth is 0 afterwards; that is meant.
     /// @param graphics the surface, not null; failures become its last status

@@ -37,6 +37,12 @@ public:
 
     /// Stretches the image into the element's rectangle, turned by the angle about the
     /// centre; nothing before the first Open.
+    ///
+    /// The rectangle is as high as the size and has the aspect ratio as it stands. That
+    /// is the turned box's after ResetAspectRatio(): the 200 x 100 image turned by 90
+    /// degrees is then drawn 25 wide and 50 high before it is turned. A host that wants
+    /// the image's own proportions sets the aspect ratio to those once it has read the
+    /// box's.
     void Draw(Gdiplus::Graphics* graphics, CPoint centre, double scale) override;
 
     /// What the last Open was given.

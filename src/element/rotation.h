@@ -2,7 +2,15 @@
 
 #include <gdiplus.h>
 
+#include <cmath>
+
 namespace map_surround {
+
+/// An angle that is not finite turns nothing: it would leave a surface on which nothing
+/// can be drawn any more, whatever is drawn afterwards.
+inline Gdiplus::REAL FiniteAngle(Gdiplus::REAL angle) {
+    return std::isfinite(angle) ? angle : 0.0f;
+}
 
 /// Turns a world transform or a matrix by an angle in degrees about a point: what is
 /// drawn afterwards in unturned coordinates comes out turned, clockwise on a device
@@ -10,14 +18,14 @@ namespace map_surround {
 inline void TurnAbout(Gdiplus::Graphics& graphics, Gdiplus::REAL x, Gdiplus::REAL y,
                       Gdiplus::REAL angle) {
     graphics.TranslateTransform(x, y, Gdiplus::MatrixOrderPrepend);
-    graphics.RotateTransform(angle, Gdiplus::MatrixOrderPrepend);
+    graphics.RotateTransform(FiniteAngle(angle), Gdiplus::MatrixOrderPrepend);
     graphics.TranslateTransform(-x, -y, Gdiplus::MatrixOrderPrepend);
 }
 
 inline void TurnAbout(Gdiplus::Matrix& matrix, Gdiplus::REAL x, Gdiplus::REAL y,
                       Gdiplus::REAL angle) {
     matrix.Translate(x, y, Gdiplus::MatrixOrderPrepend);
-    matrix.Rotate(angle, Gdiplus::MatrixOrderPrepend);
+    matrix.Rotate(FiniteAngle(angle), Gdiplus::MatrixOrderPrepend);
     matrix.Translate(-x, -y, Gdiplus::MatrixOrderPrepend);
 }
 

@@ -122,6 +122,31 @@ TEST(Limits, AFrameIsDrawnAndAskedWhateverItHolds) {
     }
 }
 
+TEST(Limits, AnAngleThatIsNotFiniteTurnsNothingAndSpoilsNoSurface) {
+    for (const float angle : {kNaN, kInfinity, -kInfinity}) {
+        Surface surface(60, 40);
+        CMapTitle title;
+        title.SetFontValue(L"Map");
+        title.SetFontStyle(L"Arial");
+        title.ResetAspectRatio();
+        const int size = title.GetSize();
+        title.SetAngle(angle);
+        title.ResetAspectRatio();
+        EXPECT_EQ(title.GetSize(), size);
+        {
+            Recording recording;
+            title.Draw(surface.Graphics(), CPoint(30, 20), 1.0);
+            EXPECT_EQ(recording.Drawing().at(1), RotateWorld(0));
+        }
+        const Gdiplus::SolidBrush brush(Gdiplus::Color(0xFF208040));
+        surface.Graphics()->FillRectangle(&brush, 0, 0, 60, 40);
+        EXPECT_EQ(surface.Graphics()->GetLastStatus(), Gdiplus::Ok);
+        Gdiplus::Color color;
+        surface.Bitmap().GetPixel(30, 20, &color);
+        EXPECT_EQ(Hex(color.GetValue()), "#FF208040");
+    }
+}
+
 struct PictureRow {
     const char* name;
     int size;
