@@ -127,14 +127,14 @@ struct DrawnRow {
 
 TEST(DrawPicture, StretchesTheImageIntoItsRectangle) {
     const DrawnRow rows[] = {
-        {"half scale", 50, 2.0f, 0.5, 25, 12},    // 25 high
-        {"full scale", 50, 2.0f, 1.0, 50, 25},    // 50 high
-        {"enlarged", 50, 2.0f, 3.125, 156, 78},   // 156.25 is 156 high
-        {"odd", 7, 1.0f, 1.0, 3, 3},              // 7 high, 3.5 each way
-        {"below a pixel", 1, 2.0f, 0.999, 0, 0},  // not drawn larger than it is
-        {"one pixel", 1, 2.0f, 1.0, 1, 0},        // 2 wide, 1 high
-        {"in doubles", 3, 1.0f, 0.7, 1, 1},       // 2.0999 is 2 high
-        {"rounded up", 20, 0.7f, 1.0, 7, 10},     // 13.9999998 is 14 as a float
+        {"half scale", 50, 2.0f, 0.5, 25, 12},       // 25 high
+        {"full scale", 50, 2.0f, 1.0, 50, 25},       // 50 high
+        {"enlarged", 50, 2.0f, 3.125, 156, 78},      // 156.25 is 156 high
+        {"odd", 7, 1.0f, 1.0, 3, 3},                 // 7 high, 3.5 each way
+        {"below a pixel", 1, 2.0f, 0.999, 0, 0},     // not drawn larger than it is
+        {"one pixel", 1, 2.0f, 1.0, 1, 0},           // 2 wide, 1 high
+        {"in doubles", 20, 1.0f, 0.69999999, 6, 6},  // not 14 high
+        {"rounded up", 20, 0.7f, 1.0, 7, 10},        // 13.9999998 is 14 as a float
         {"turned over", 50, 2.0f, -1.0, -50, -25},
         {"mirrored", 50, -2.0f, 1.0, -50, 25},
         {"no scale", 50, 2.0f, 0.0, 0, 0},

@@ -239,14 +239,27 @@ TEST(MapTitle, DrawsItsTextAboutTheCentre) {
 
 // The font size becomes a float before it is scaled as a double, and a float again.
 TEST(MapTitle, ScalesTheFontSizeThatItMeasuredWith) {
-    CMapTitle title = Title();
-    title.SetFontSize(0.1);
-    Surface surface;
-    Recording recording(Mode::RecordOnly);
-    title.Draw(surface.Graphics(), CPoint(0, 0), 16777216.0 * 3);
-    // 0.1 as a float is 13421773 / 2^27, times 3 * 2^24 is 13421773 * 3 / 8.
-    EXPECT_EQ(recording.Lines().at(1),
-              "GdipCreateFont " + FontLook("Arial", 5033165.0f, 1));
+    struct Row {
+        double fontSize;
+        double scale;
+        float emSize;
+    };
+    const Row rows[] = {
+        // 0.3 as a float is 5033165 / 2^24, three times that a float as it is; 0.3 as a
+        // double would give the float below.
+        {0.3, 3.0, 15099495.0f / 16777216.0f},
+        // 31.5 as a double; 2.1 as a float is a little less and would give less.
+        {15.0, 2.1, 31.5f},
+    };
+    for (const Row& row : rows) {
+        CMapTitle title = Title();
+        title.SetFontSize(row.fontSize);
+        Surface surface;
+        Recording recording(Mode::RecordOnly);
+        title.Draw(surface.Graphics(), CPoint(0, 0), row.scale);
+        EXPECT_EQ(recording.Lines().at(1),
+                  "GdipCreateFont " + FontLook("Arial", row.emSize, 1));
+    }
 }
 
 TEST(MapTitle, DrawsNothingWithoutText) {
