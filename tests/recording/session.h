@@ -27,6 +27,7 @@ struct Object {
     float size = 0.0f;  ///< a pen's width, a font's em size
     int style = 0;      ///< a pen's dash style, a font's style, a format's flags
     std::string cap;
+    int timesMade = 0;            ///< more than 1 for a family that GDI+ hands out again
     std::unique_ptr<char> token;  ///< what stands for the object where GDI+ made none
 };
 
@@ -133,14 +134,16 @@ Gdiplus::GpStatus RunCreation(const char* function, Describe describe, RealCall 
             [&] { return tokenStatus == Gdiplus::Ok ? MakeToken(native) : tokenStatus; });
     if (outermost && status == Gdiplus::Ok && *native != nullptr) {
         Object& made = ThisThread().objects[*native];
+        object.timesMade = made.timesMade + 1;
         object.token = std::move(made.token);
         made = std::move(object);
     }
     return status;
 }
 
-/// Carries a deletion out and forgets the object. A token never reaches GDI+ and a real
-/// object always does, whatever is recorded when they are deleted.
+/// Carries a deletion out and forgets an object that was deleted as often as it was made.
+/// A token never reaches GDI+ and a real object always does, whatever is recorded when
+/// they are deleted.
 template <typename RealCall>
 Gdiplus::GpStatus RunDeletion(const char* function, const void* native, RealCall real) {
     const bool outermost = ThisThread().depth == 0;
@@ -153,7 +156,7 @@ Gdiplus::GpStatus RunDeletion(const char* function, const void* native, RealCall
         [&] {
             return native == nullptr ? Gdiplus::InvalidParameter : Forward(deleteObject);
         });
-    if (outermost) {
+    if (outermost && --ThisThread().objects[native].timesMade <= 0) {
         ThisThread().objects.erase(native);
     }
     return status;
