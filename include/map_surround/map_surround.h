@@ -5,5 +5,6 @@
 
 #include "map_surround/element.h"
 #include "map_surround/frame.h"
+#include "map_surround/north_arrow.h"
 #include "map_surround/picture.h"
 #include "map_surround/title.h"

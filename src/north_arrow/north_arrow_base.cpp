@@ -1,0 +1,3 @@
+#include "map_surround/north_arrow.h"
+
+CNorthArrowBase::CNorthArrowBase() { SetItemType(SurroundNorthArrow); }
