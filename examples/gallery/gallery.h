@@ -60,6 +60,7 @@ struct Family {
     Sheet (*draw)();
 };
 
+Sheet DrawNorthArrows();
 Sheet DrawTitles();
 
 }  // namespace gallery

@@ -11,6 +11,7 @@ namespace {
 
 constexpr gallery::Family kFamilies[] = {
     {L"titles", gallery::DrawTitles},
+    {L"north_arrows", gallery::DrawNorthArrows},
 };
 
 int DrawAll(const std::wstring& folder) {
