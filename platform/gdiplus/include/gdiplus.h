@@ -18,15 +18,20 @@
 /// leaves unset is 0, where the SDK leaves it undefined.
 
 #include "gdiplus/brush.h"
+#include "gdiplus/codec.h"
+#include "gdiplus/color.h"
 #include "gdiplus/enums.h"
 #include "gdiplus/flat.h"
 #include "gdiplus/font.h"
+#include "gdiplus/geometry.h"
 #include "gdiplus/graphics.h"
 #include "gdiplus/image.h"
+#include "gdiplus/line_cap.h"
 #include "gdiplus/matrix.h"
 #include "gdiplus/path.h"
 #include "gdiplus/pen.h"
 #include "gdiplus/startup.h"
+#include "gdiplus/string_format.h"
 #include "gdiplus/text.h"
 #include "gdiplus/types.h"
 
@@ -36,17 +41,36 @@
 using Gdiplus::BOOL;
 using Gdiplus::BYTE;
 using Gdiplus::CLSID;
+using Gdiplus::DWORD;
 using Gdiplus::GUID;
 using Gdiplus::INT;
 using Gdiplus::LANGID;
 using Gdiplus::PixelFormat;
+using Gdiplus::PixelFormat1bppIndexed;
 using Gdiplus::PixelFormat24bppRGB;
 using Gdiplus::PixelFormat32bppARGB;
 using Gdiplus::PixelFormat32bppPARGB;
 using Gdiplus::PixelFormat32bppRGB;
+using Gdiplus::PixelFormat4bppIndexed;
+using Gdiplus::PixelFormat8bppIndexed;
+using Gdiplus::PixelFormatAlpha;
+using Gdiplus::PixelFormatDontCare;
+using Gdiplus::PixelFormatIndexed;
+using Gdiplus::PixelFormatUndefined;
 using Gdiplus::UINT;
+using Gdiplus::UINT16;
 using Gdiplus::UINT32;
+using Gdiplus::ULONG;
 using Gdiplus::ULONG_PTR;
 using Gdiplus::VOID;
 using Gdiplus::WCHAR;
+#ifndef TRUE
+#define TRUE 1
+#endif
+#ifndef FALSE
+#define FALSE 0
+#endif
+#ifndef LF_FACESIZE
+#define LF_FACESIZE 32
+#endif
 #endif

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "gdiplus/flat.h"
+#include "gdiplus/object.h"
 
 namespace Gdiplus {
 
@@ -20,7 +21,7 @@ protected:
 /// A brush of one colour.
 class SolidBrush : public Brush {
 public:
-    explicit SolidBrush(const Color& color) {
+    SolidBrush(const Color& color) {
         GpSolidFill* brush = nullptr;
         SetStatus(DllExports::GdipCreateSolidFill(color.GetValue(), &brush));
         native_ = brush;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "gdiplus/flat.h"
+#include "gdiplus/object.h"
 #include "gdiplus/text.h"
 
 namespace Gdiplus {
@@ -19,7 +19,7 @@ private:
 class FontFamily : public detail::StatusKeeper {
 public:
     FontFamily() = default;
-    explicit FontFamily(const WCHAR* name, const FontCollection* collection = nullptr) {
+    FontFamily(const WCHAR* name, const FontCollection* collection = nullptr) {
         const detail::Utf16Text text(name);
         SetStatus(text.GetStatus() != Ok
                       ? text.GetStatus()
@@ -30,9 +30,50 @@ public:
 
     BOOL IsAvailable() const { return native_ != nullptr; }
 
+    /// The name of the family that was found, into room for LF_FACESIZE (32) characters.
+    Status GetFamilyName(WCHAR* name, LANGID language = 0) const {
+        if (name == nullptr) {
+            return SetStatus(InvalidParameter);
+        }
+        FlatChar found[kRoom] = {};
+        const Status status =
+            SetStatus(DllExports::GdipGetFamilyName(native_, found, language));
+        found[kRoom - 1] = 0;
+        detail::WriteWide(found, name, 32);
+        return status;
+    }
+
+    // In the font's own design units, of which the em has GetEmHeight.
+    UINT16 GetEmHeight(INT style) const {
+        return Metric(DllExports::GdipGetEmHeight, style);
+    }
+    UINT16 GetCellAscent(INT style) const {
+        return Metric(DllExports::GdipGetCellAscent, style);
+    }
+    UINT16 GetCellDescent(INT style) const {
+        return Metric(DllExports::GdipGetCellDescent, style);
+    }
+    UINT16 GetLineSpacing(INT style) const {
+        return Metric(DllExports::GdipGetLineSpacing, style);
+    }
+    BOOL IsStyleAvailable(INT style) const {
+        return Metric(DllExports::GdipIsStyleAvailable, style);
+    }
+
     GpFontFamily* NativeObject() const { return native_; }
 
 private:
+    friend class Font;
+
+    static constexpr int kRoom = 256;
+
+    template <typename Value>
+    Value Metric(Status (*flat)(const GpFontFamily*, INT, Value*), INT style) const {
+        Value value = 0;
+        SetStatus(flat(native_, style, &value));
+        return value;
+    }
+
     GpFontFamily* native_ = nullptr;
 };
 
@@ -44,17 +85,38 @@ public:
         SetStatus(DllExports::GdipCreateFont(detail::Native(family), emSize, style, unit,
                                              &native_));
     }
+    Font(const WCHAR* familyName, REAL emSize, INT style = FontStyleRegular,
+         Unit unit = UnitPoint, const FontCollection* collection = nullptr) {
+        const FontFamily family(familyName, collection);
+        SetStatus(family.GetLastStatus());
+        SetStatus(DllExports::GdipCreateFont(family.NativeObject(), emSize, style, unit,
+                                             &native_));
+    }
     ~Font() { DllExports::GdipDeleteFont(native_); }
 
-    REAL GetSize() const {
-        REAL size = 0.0f;
-        SetStatus(DllExports::GdipGetFontSize(native_, &size));
-        return size;
+    REAL GetSize() const { return Query(DllExports::GdipGetFontSize, native_); }
+    INT GetStyle() const { return Query(DllExports::GdipGetFontStyle, native_); }
+    Unit GetUnit() const { return Query(DllExports::GdipGetFontUnit, native_); }
+
+    /// The spacing of lines in pixels at a resolution.
+    REAL GetHeight(REAL dpi) const {
+        REAL height = 0.0f;
+        SetStatus(DllExports::GdipGetFontHeightGivenDPI(native_, dpi, &height));
+        return height;
     }
-    INT GetStyle() const {
-        INT style = 0;
-        SetStatus(DllExports::GdipGetFontStyle(native_, &style));
-        return style;
+
+    /// The family becomes the font's; what it was before is let go.
+    Status GetFamily(FontFamily* family) const {
+        if (family == nullptr) {
+            return SetStatus(InvalidParameter);
+        }
+        GpFontFamily* native = nullptr;
+        const Status status = SetStatus(DllExports::GdipGetFamily(native_, &native));
+        if (family->native_ != nullptr) {
+            DllExports::GdipDeleteFontFamily(family->native_);
+        }
+        family->native_ = native;
+        return family->SetStatus(status);
     }
     BOOL IsAvailable() const { return native_ != nullptr; }
 
@@ -62,24 +124,6 @@ public:
 
 private:
     GpFont* native_ = nullptr;
-};
-
-/// How a text is laid out in its rectangle.
-class StringFormat : public detail::StatusKeeper {
-public:
-    explicit StringFormat(INT flags = 0, LANGID language = 0) {
-        SetStatus(DllExports::GdipCreateStringFormat(flags, language, &native_));
-    }
-    ~StringFormat() { DllExports::GdipDeleteStringFormat(native_); }
-
-    Status SetAlignment(StringAlignment alignment) {
-        return SetStatus(DllExports::GdipSetStringFormatAlign(native_, alignment));
-    }
-
-    GpStringFormat* NativeObject() const { return native_; }
-
-private:
-    GpStringFormat* native_ = nullptr;
 };
 
 }  // namespace Gdiplus

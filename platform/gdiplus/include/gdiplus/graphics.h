@@ -6,16 +6,20 @@
 #include "gdiplus/matrix.h"
 #include "gdiplus/path.h"
 #include "gdiplus/pen.h"
+#include "gdiplus/string_format.h"
 
 namespace Gdiplus {
 
-/// A surface to draw on, with its world transform.
+/// A surface to draw on, with its world transform. The image it draws into is to outlive
+/// it.
 class Graphics : public detail::StatusKeeper {
 public:
-    explicit Graphics(Image* image) {
+    Graphics(Image* image) {
         SetStatus(
             DllExports::GdipGetImageGraphicsContext(detail::Native(image), &native_));
     }
+    /// A surface of the caller's, made with new.
+    static Graphics* FromImage(Image* image) { return new Graphics(image); }
     ~Graphics() { DllExports::GdipDeleteGraphics(native_); }
 
     Status Clear(const Color& color) {
@@ -25,24 +29,47 @@ public:
         return SetStatus(DllExports::GdipSetSmoothingMode(native_, mode));
     }
     SmoothingMode GetSmoothingMode() const {
-        SmoothingMode mode = SmoothingModeDefault;
-        SetStatus(DllExports::GdipGetSmoothingMode(native_, &mode));
-        return mode;
+        return Query(DllExports::GdipGetSmoothingMode, native_);
     }
     Status SetTextRenderingHint(TextRenderingHint hint) {
         return SetStatus(DllExports::GdipSetTextRenderingHint(native_, hint));
     }
     TextRenderingHint GetTextRenderingHint() const {
-        TextRenderingHint hint = TextRenderingHintSystemDefault;
-        SetStatus(DllExports::GdipGetTextRenderingHint(native_, &hint));
-        return hint;
+        return Query(DllExports::GdipGetTextRenderingHint, native_);
     }
     Status SetInterpolationMode(InterpolationMode mode) {
         return SetStatus(DllExports::GdipSetInterpolationMode(native_, mode));
     }
+    InterpolationMode GetInterpolationMode() const {
+        return Query(DllExports::GdipGetInterpolationMode, native_);
+    }
     Status SetPixelOffsetMode(PixelOffsetMode mode) {
         return SetStatus(DllExports::GdipSetPixelOffsetMode(native_, mode));
     }
+    PixelOffsetMode GetPixelOffsetMode() const {
+        return Query(DllExports::GdipGetPixelOffsetMode, native_);
+    }
+    REAL GetDpiX() const { return Query(DllExports::GdipGetDpiX, native_); }
+    REAL GetDpiY() const { return Query(DllExports::GdipGetDpiY, native_); }
+    VOID Flush(FlushIntention intention = FlushIntentionFlush) {
+        SetStatus(DllExports::GdipFlush(native_, intention));
+    }
+
+    /// Keeps the transform, the clip and the modes, for Restore to bring back.
+    GraphicsState Save() const { return Query(DllExports::GdipSaveGraphics, native_); }
+    Status Restore(GraphicsState state) {
+        return SetStatus(DllExports::GdipRestoreGraphics(native_, state));
+    }
+
+    Status SetClip(const Rect& rect, CombineMode mode = CombineModeReplace) {
+        return SetStatus(DllExports::GdipSetClipRectI(native_, rect.X, rect.Y, rect.Width,
+                                                      rect.Height, mode));
+    }
+    Status SetClip(const RectF& rect, CombineMode mode = CombineModeReplace) {
+        return SetStatus(DllExports::GdipSetClipRect(native_, rect.X, rect.Y, rect.Width,
+                                                     rect.Height, mode));
+    }
+    Status ResetClip() { return SetStatus(DllExports::GdipResetClip(native_)); }
 
     Status TranslateTransform(REAL dx, REAL dy, MatrixOrder order = MatrixOrderPrepend) {
         return SetStatus(DllExports::GdipTranslateWorldTransform(native_, dx, dy, order));
@@ -52,6 +79,11 @@ public:
     }
     Status ScaleTransform(REAL sx, REAL sy, MatrixOrder order = MatrixOrderPrepend) {
         return SetStatus(DllExports::GdipScaleWorldTransform(native_, sx, sy, order));
+    }
+    Status MultiplyTransform(const Matrix* matrix,
+                             MatrixOrder order = MatrixOrderPrepend) {
+        return SetStatus(DllExports::GdipMultiplyWorldTransform(
+            native_, detail::Native(matrix), order));
     }
     Status SetTransform(const Matrix* matrix) {
         return SetStatus(
@@ -72,6 +104,21 @@ public:
     Status DrawLine(const Pen* pen, const Point& from, const Point& to) {
         return DrawLine(pen, from.X, from.Y, to.X, to.Y);
     }
+    Status DrawLine(const Pen* pen, REAL x1, REAL y1, REAL x2, REAL y2) {
+        return SetStatus(
+            DllExports::GdipDrawLine(native_, detail::Native(pen), x1, y1, x2, y2));
+    }
+    Status DrawLine(const Pen* pen, const PointF& from, const PointF& to) {
+        return DrawLine(pen, from.X, from.Y, to.X, to.Y);
+    }
+    Status DrawLines(const Pen* pen, const Point* points, INT count) {
+        return SetStatus(
+            DllExports::GdipDrawLinesI(native_, detail::Native(pen), points, count));
+    }
+    Status DrawLines(const Pen* pen, const PointF* points, INT count) {
+        return SetStatus(
+            DllExports::GdipDrawLines(native_, detail::Native(pen), points, count));
+    }
     Status DrawRectangle(const Pen* pen, INT x, INT y, INT width, INT height) {
         return SetStatus(DllExports::GdipDrawRectangleI(native_, detail::Native(pen), x,
                                                         y, width, height));
@@ -79,9 +126,20 @@ public:
     Status DrawRectangle(const Pen* pen, const Rect& rect) {
         return DrawRectangle(pen, rect.X, rect.Y, rect.Width, rect.Height);
     }
+    Status DrawRectangle(const Pen* pen, REAL x, REAL y, REAL width, REAL height) {
+        return SetStatus(DllExports::GdipDrawRectangle(native_, detail::Native(pen), x, y,
+                                                       width, height));
+    }
+    Status DrawRectangle(const Pen* pen, const RectF& rect) {
+        return DrawRectangle(pen, rect.X, rect.Y, rect.Width, rect.Height);
+    }
     Status DrawPolygon(const Pen* pen, const Point* points, INT count) {
         return SetStatus(
             DllExports::GdipDrawPolygonI(native_, detail::Native(pen), points, count));
+    }
+    Status DrawPolygon(const Pen* pen, const PointF* points, INT count) {
+        return SetStatus(
+            DllExports::GdipDrawPolygon(native_, detail::Native(pen), points, count));
     }
     Status DrawPath(const Pen* pen, const GraphicsPath* path) {
         return SetStatus(
@@ -107,35 +165,73 @@ public:
         return SetStatus(DllExports::GdipFillPolygonI(native_, detail::Native(brush),
                                                       points, count, mode));
     }
+    Status FillPolygon(const Brush* brush, const PointF* points, INT count,
+                       FillMode mode = FillModeAlternate) {
+        return SetStatus(DllExports::GdipFillPolygon(native_, detail::Native(brush),
+                                                     points, count, mode));
+    }
     Status FillPath(const Brush* brush, const GraphicsPath* path) {
         return SetStatus(DllExports::GdipFillPath(native_, detail::Native(brush),
                                                   detail::Native(path)));
     }
 
+    /// A rectangle of width or height 0 does not bound the text on that side.
     Status DrawString(const WCHAR* string, INT length, const Font* font,
                       const RectF& layout, const StringFormat* format,
                       const Brush* brush) {
         const detail::Utf16Text text(string, length);
-        return SetStatus(text.GetStatus() != Ok
-                             ? text.GetStatus()
-                             : DllExports::GdipDrawString(
-                                   native_, text.Text(), text.Length(),
-                                   detail::Native(font), &layout, detail::Native(format),
-                                   detail::Native(brush)));
+        if (text.GetStatus() != Ok || string == nullptr) {
+            return SetStatus(InvalidUnless(text));
+        }
+        // Without a brush libgdiplus would draw in black; without a surface it draws
+        // nothing and answers InvalidParameter, as is right.
+        GpBrush* const native = detail::Native(brush);
+        return SetStatus(DllExports::GdipDrawString(
+            native == nullptr ? nullptr : native_, text.Text(), text.Length(),
+            detail::Native(font), &layout, detail::Native(format), native));
+    }
+    Status DrawString(const WCHAR* string, INT length, const Font* font,
+                      const PointF& origin, const StringFormat* format,
+                      const Brush* brush) {
+        return DrawString(string, length, font, RectF(origin.X, origin.Y, 0.0f, 0.0f),
+                          format, brush);
     }
     Status DrawString(const WCHAR* string, INT length, const Font* font,
                       const PointF& origin, const Brush* brush) {
-        return DrawString(string, length, font, RectF(origin.X, origin.Y, 0.0f, 0.0f),
-                          nullptr, brush);
+        return DrawString(string, length, font, origin, nullptr, brush);
+    }
+
+    /// @param codepointsFitted how many UTF-16 units of the text the rectangle holds
+    Status MeasureString(const WCHAR* string, INT length, const Font* font,
+                         const RectF& layout, const StringFormat* format, RectF* bounds,
+                         INT* codepointsFitted = nullptr,
+                         INT* linesFilled = nullptr) const {
+        const detail::Utf16Text text(string, length);
+        if (text.GetStatus() != Ok || string == nullptr || bounds == nullptr) {
+            return SetStatus(InvalidUnless(text));
+        }
+        *bounds = RectF();
+        return SetStatus(DllExports::GdipMeasureString(
+            native_, text.Text(), text.Length(), detail::Native(font), &layout,
+            detail::Native(format), bounds, codepointsFitted, linesFilled));
     }
     Status MeasureString(const WCHAR* string, INT length, const Font* font,
                          const RectF& layout, RectF* bounds) const {
-        const detail::Utf16Text text(string, length);
-        return SetStatus(text.GetStatus() != Ok ? text.GetStatus()
-                                                : DllExports::GdipMeasureString(
-                                                      native_, text.Text(), text.Length(),
-                                                      detail::Native(font), &layout,
-                                                      nullptr, bounds, nullptr, nullptr));
+        return MeasureString(string, length, font, layout, nullptr, bounds);
+    }
+    Status MeasureString(const WCHAR* string, INT length, const Font* font,
+                         const PointF& origin, RectF* bounds) const {
+        return MeasureString(string, length, font, RectF(origin.X, origin.Y, 0.0f, 0.0f),
+                             nullptr, bounds);
+    }
+
+    /// In the image's own size, by its resolution and the surface's.
+    Status DrawImage(Image* image, INT x, INT y) {
+        return SetStatus(
+            DllExports::GdipDrawImageI(native_, detail::Native(image), x, y));
+    }
+    Status DrawImage(Image* image, REAL x, REAL y) {
+        return SetStatus(DllExports::GdipDrawImage(native_, detail::Native(image), x, y));
     }
 
     /// Stretches the image into a rectangle.
@@ -143,10 +239,26 @@ public:
         return SetStatus(DllExports::GdipDrawImageRectI(native_, detail::Native(image), x,
                                                         y, width, height));
     }
+    Status DrawImage(Image* image, const Rect& rect) {
+        return DrawImage(image, rect.X, rect.Y, rect.Width, rect.Height);
+    }
+    Status DrawImage(Image* image, REAL x, REAL y, REAL width, REAL height) {
+        return SetStatus(DllExports::GdipDrawImageRect(native_, detail::Native(image), x,
+                                                       y, width, height));
+    }
+    Status DrawImage(Image* image, const RectF& rect) {
+        return DrawImage(image, rect.X, rect.Y, rect.Width, rect.Height);
+    }
 
     GpGraphics* NativeObject() const { return native_; }
 
 private:
+    /// libgdiplus reads a null text whose length it is to find, and writes to null
+    /// bounds; neither reaches it.
+    static Status InvalidUnless(const detail::Utf16Text& text) {
+        return text.GetStatus() != Ok ? text.GetStatus() : InvalidParameter;
+    }
+
     GpGraphics* native_ = nullptr;
 };
 

@@ -1,28 +1,16 @@
 #pragma once
 
-#include "gdiplus/flat.h"
-#include "gdiplus/text.h"
+#include "gdiplus/codec.h"
+#include "gdiplus/object.h"
 
 namespace Gdiplus {
-
-/// The encoders that every GDI+ has, for Image::Save.
-constexpr CLSID kEncoderBmp = {
-    0x557CF400, 0x1A04, 0x11D3, {0x9A, 0x73, 0x00, 0x00, 0xF8, 0x1E, 0xF3, 0x2E}};
-constexpr CLSID kEncoderJpeg = {
-    0x557CF401, 0x1A04, 0x11D3, {0x9A, 0x73, 0x00, 0x00, 0xF8, 0x1E, 0xF3, 0x2E}};
-constexpr CLSID kEncoderTiff = {
-    0x557CF405, 0x1A04, 0x11D3, {0x9A, 0x73, 0x00, 0x00, 0xF8, 0x1E, 0xF3, 0x2E}};
-constexpr CLSID kEncoderPng = {
-    0x557CF406, 0x1A04, 0x11D3, {0x9A, 0x73, 0x00, 0x00, 0xF8, 0x1E, 0xF3, 0x2E}};
-
-class EncoderParameters;
 
 /// A picture, loaded from a file in any format that GDI+ decodes.
 class Image : public detail::StatusKeeper {
 public:
     /// A file that cannot be loaded leaves the image without a native object and the
     /// reason as its last status.
-    explicit Image(const WCHAR* filename) {
+    Image(const WCHAR* filename) {
         const detail::Utf16Text text(filename);
         SetStatus(text.GetStatus() != Ok
                       ? text.GetStatus()
@@ -31,17 +19,23 @@ public:
     virtual ~Image() { DllExports::GdipDisposeImage(native_); }
 
     /// In pixels; 0 for an image that was not loaded.
-    UINT GetWidth() {
-        UINT width = 0;
-        SetStatus(DllExports::GdipGetImageWidth(native_, &width));
-        return width;
-    }
-    UINT GetHeight() {
-        UINT height = 0;
-        SetStatus(DllExports::GdipGetImageHeight(native_, &height));
-        return height;
-    }
+    UINT GetWidth() { return Query(DllExports::GdipGetImageWidth, native_); }
+    UINT GetHeight() { return Query(DllExports::GdipGetImageHeight, native_); }
 
+    /// In dots per inch.
+    REAL GetHorizontalResolution() {
+        return Query(DllExports::GdipGetImageHorizontalResolution, native_);
+    }
+    REAL GetVerticalResolution() {
+        return Query(DllExports::GdipGetImageVerticalResolution, native_);
+    }
+    PixelFormat GetPixelFormat() {
+        return Query(DllExports::GdipGetImagePixelFormat, native_);
+    }
+    ImageType GetType() { return Query(DllExports::GdipGetImageType, native_); }
+
+    /// Writes the image in the format of an encoder, whose Clsid GetImageEncoders tells.
+    /// libgdiplus does not notice a disk that runs full.
     Status Save(const WCHAR* filename, const CLSID* encoder,
                 const EncoderParameters* parameters = nullptr) {
         const detail::Utf16Text text(filename);
@@ -62,15 +56,21 @@ protected:
 /// A picture of pixels in memory.
 class Bitmap : public Image {
 public:
-    explicit Bitmap(const WCHAR* filename) : Image(filename) {}
+    Bitmap(const WCHAR* filename) : Image(filename) {}
     Bitmap(INT width, INT height, PixelFormat format = PixelFormat32bppARGB)
         : Bitmap(width, height, 0, format, nullptr) {}
 
-    /// Over the caller's memory, which must outlive the bitmap.
+    /// Over the caller's memory, which must outlive the bitmap. A stride is the bytes
+    /// from one row to the next, at least as many as the pixels of a row take; negative
+    /// where the rows go upwards from scan0. Formats of 24 bits are NotImplemented:
+    /// libgdiplus writes four bytes for each of their pixels, past the end of such
+    /// memory.
     Bitmap(INT width, INT height, INT stride, PixelFormat format, BYTE* scan0) {
+        const Status memory = CheckMemory(width, stride, format, scan0);
         GpBitmap* bitmap = nullptr;
-        SetStatus(DllExports::GdipCreateBitmapFromScan0(width, height, stride, format,
-                                                        scan0, &bitmap));
+        SetStatus(memory != Ok ? memory
+                               : DllExports::GdipCreateBitmapFromScan0(
+                                     width, height, stride, format, scan0, &bitmap));
         native_ = bitmap;
     }
 
@@ -102,6 +102,20 @@ public:
     }
 
 private:
+    static Status CheckMemory(INT width, INT stride, PixelFormat format,
+                              const BYTE* scan0) {
+        if (scan0 == nullptr) {
+            return Ok;
+        }
+        if (format == PixelFormat24bppRGB) {
+            return NotImplemented;
+        }
+        const std::int64_t rowBits = std::int64_t{width} * GetPixelFormatSize(format);
+        const std::int64_t strideBits = std::int64_t{stride} * 8;
+        return (strideBits < 0 ? -strideBits : strideBits) < rowBits ? InvalidParameter
+                                                                     : Ok;
+    }
+
     GpBitmap* Pixels() const { return static_cast<GpBitmap*>(native_); }
 };
 

@@ -3,18 +3,27 @@
 #include "gdiplus/font.h"
 #include "gdiplus/matrix.h"
 #include "gdiplus/pen.h"
+#include "gdiplus/string_format.h"
 
 namespace Gdiplus {
 
 /// A figure of lines and outlines.
 class GraphicsPath : public detail::StatusKeeper {
 public:
-    explicit GraphicsPath(FillMode mode = FillModeAlternate) {
+    GraphicsPath(FillMode mode = FillModeAlternate) {
         SetStatus(DllExports::GdipCreatePath(mode, &native_));
     }
     ~GraphicsPath() { DllExports::GdipDeletePath(native_); }
 
     Status Reset() { return SetStatus(DllExports::GdipResetPath(native_)); }
+    FillMode GetFillMode() const {
+        return Query(DllExports::GdipGetPathFillMode, native_);
+    }
+    Status SetFillMode(FillMode mode) {
+        return SetStatus(DllExports::GdipSetPathFillMode(native_, mode));
+    }
+    Status StartFigure() { return SetStatus(DllExports::GdipStartPathFigure(native_)); }
+    Status CloseFigure() { return SetStatus(DllExports::GdipClosePathFigure(native_)); }
 
     /// Adds the outline of a text in the given em size.
     Status AddString(const WCHAR* string, INT length, const FontFamily* family, INT style,
@@ -32,14 +41,55 @@ public:
         return AddString(string, length, family, style, emSize,
                          RectF(origin.X, origin.Y, 0.0f, 0.0f), format);
     }
-    Status AddRectangle(const Rect& rect) {
-        return SetStatus(DllExports::GdipAddPathRectangleI(native_, rect.X, rect.Y,
-                                                           rect.Width, rect.Height));
+    Status AddString(const WCHAR* string, INT length, const FontFamily* family, INT style,
+                     REAL emSize, const Rect& layout, const StringFormat* format) {
+        return AddString(
+            string, length, family, style, emSize,
+            RectF(static_cast<REAL>(layout.X), static_cast<REAL>(layout.Y),
+                  static_cast<REAL>(layout.Width), static_cast<REAL>(layout.Height)),
+            format);
+    }
+    Status AddString(const WCHAR* string, INT length, const FontFamily* family, INT style,
+                     REAL emSize, const Point& origin, const StringFormat* format) {
+        return AddString(string, length, family, style, emSize,
+                         PointF(static_cast<REAL>(origin.X), static_cast<REAL>(origin.Y)),
+                         format);
+    }
+
+    Status AddLine(INT x1, INT y1, INT x2, INT y2) {
+        return SetStatus(DllExports::GdipAddPathLineI(native_, x1, y1, x2, y2));
+    }
+    Status AddLine(REAL x1, REAL y1, REAL x2, REAL y2) {
+        return SetStatus(DllExports::GdipAddPathLine(native_, x1, y1, x2, y2));
+    }
+    Status AddLine(const Point& from, const Point& to) {
+        return AddLine(from.X, from.Y, to.X, to.Y);
+    }
+    Status AddLine(const PointF& from, const PointF& to) {
+        return AddLine(from.X, from.Y, to.X, to.Y);
     }
     Status AddLines(const Point* points, INT count) {
         return SetStatus(DllExports::GdipAddPathLine2I(native_, points, count));
     }
+    Status AddLines(const PointF* points, INT count) {
+        return SetStatus(DllExports::GdipAddPathLine2(native_, points, count));
+    }
+    Status AddPolygon(const Point* points, INT count) {
+        return SetStatus(DllExports::GdipAddPathPolygonI(native_, points, count));
+    }
+    Status AddPolygon(const PointF* points, INT count) {
+        return SetStatus(DllExports::GdipAddPathPolygon(native_, points, count));
+    }
+    Status AddRectangle(const Rect& rect) {
+        return SetStatus(DllExports::GdipAddPathRectangleI(native_, rect.X, rect.Y,
+                                                           rect.Width, rect.Height));
+    }
+    Status AddRectangle(const RectF& rect) {
+        return SetStatus(DllExports::GdipAddPathRectangle(native_, rect.X, rect.Y,
+                                                          rect.Width, rect.Height));
+    }
 
+    /// Without a matrix the path stays as it is, and GDI+ is not asked.
     Status Transform(const Matrix* matrix) {
         return matrix == nullptr ? Ok
                                  : SetStatus(DllExports::GdipTransformPath(
@@ -52,10 +102,16 @@ public:
         return SetStatus(DllExports::GdipGetPathWorldBoundsI(
             native_, bounds, detail::Native(matrix), detail::Native(pen)));
     }
-    INT GetPointCount() const {
-        INT count = 0;
-        SetStatus(DllExports::GdipGetPointCount(native_, &count));
-        return count;
+    Status GetBounds(RectF* bounds, const Matrix* matrix = nullptr,
+                     const Pen* pen = nullptr) const {
+        return SetStatus(DllExports::GdipGetPathWorldBounds(
+            native_, bounds, detail::Native(matrix), detail::Native(pen)));
+    }
+    INT GetPointCount() const { return Query(DllExports::GdipGetPointCount, native_); }
+
+    /// Into room for count points, which is to be at least GetPointCount().
+    Status GetPathPoints(PointF* points, INT count) const {
+        return SetStatus(DllExports::GdipGetPathPoints(native_, points, count));
     }
 
     GpPath* NativeObject() const { return native_; }

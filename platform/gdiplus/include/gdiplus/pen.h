@@ -1,37 +1,14 @@
 #pragma once
 
-#include "gdiplus/flat.h"
+#include "gdiplus/line_cap.h"
 
 namespace Gdiplus {
 
-/// A line end of the caller's own shape; made through a derived class.
-class CustomLineCap : public detail::StatusKeeper {
-public:
-    virtual ~CustomLineCap() { DllExports::GdipDeleteCustomLineCap(native_); }
-
-    GpCustomLineCap* NativeObject() const { return native_; }
-
-protected:
-    CustomLineCap() = default;
-
-    GpCustomLineCap* native_ = nullptr;
-};
-
-/// An arrowhead. Height and width are in units of the width of the pen that carries it.
-class AdjustableArrowCap : public CustomLineCap {
-public:
-    AdjustableArrowCap(REAL height, REAL width, BOOL isFilled = 1) {
-        GpAdjustableArrowCap* cap = nullptr;
-        SetStatus(
-            DllExports::GdipCreateAdjustableArrowCap(height, width, isFilled, &cap));
-        native_ = cap;
-    }
-};
-
-/// What draws lines and outlines. The width is in world units; 0 draws a hairline.
+/// What draws lines and outlines. The width is in world units, so that it scales with
+/// the world transform; a line is never thinner than a pixel.
 class Pen : public detail::StatusKeeper {
 public:
-    explicit Pen(const Color& color, REAL width = 1.0f) {
+    Pen(const Color& color, REAL width = 1.0f) {
         SetStatus(
             DllExports::GdipCreatePen1(color.GetValue(), width, UnitWorld, &native_));
     }
@@ -40,11 +17,46 @@ public:
     Status SetColor(const Color& color) {
         return SetStatus(DllExports::GdipSetPenColor(native_, color.GetValue()));
     }
+    Status GetColor(Color* color) const {
+        if (color == nullptr) {
+            return SetStatus(InvalidParameter);
+        }
+        ARGB argb = 0;
+        const Status status = SetStatus(DllExports::GdipGetPenColor(native_, &argb));
+        *color = Color(argb);
+        return status;
+    }
+    Status SetWidth(REAL width) {
+        return SetStatus(DllExports::GdipSetPenWidth(native_, width));
+    }
+    REAL GetWidth() const { return Query(DllExports::GdipGetPenWidth, native_); }
     Status SetDashStyle(DashStyle style) {
         return SetStatus(DllExports::GdipSetPenDashStyle(native_, style));
     }
+    DashStyle GetDashStyle() const {
+        return Query(DllExports::GdipGetPenDashStyle, native_);
+    }
+    Status SetLineJoin(LineJoin join) {
+        return SetStatus(DllExports::GdipSetPenLineJoin(native_, join));
+    }
+    LineJoin GetLineJoin() const {
+        return Query(DllExports::GdipGetPenLineJoin, native_);
+    }
+
+    Status SetStartCap(LineCap cap) {
+        return SetStatus(DllExports::GdipSetPenStartCap(native_, cap));
+    }
+    LineCap GetStartCap() const { return Query(DllExports::GdipGetPenStartCap, native_); }
+    Status SetEndCap(LineCap cap) {
+        return SetStatus(DllExports::GdipSetPenEndCap(native_, cap));
+    }
+    LineCap GetEndCap() const { return Query(DllExports::GdipGetPenEndCap, native_); }
 
     /// The pen takes a copy of the cap.
+    Status SetCustomStartCap(const CustomLineCap* cap) {
+        return SetStatus(
+            DllExports::GdipSetPenCustomStartCap(native_, detail::Native(cap)));
+    }
     Status SetCustomEndCap(const CustomLineCap* cap) {
         return SetStatus(
             DllExports::GdipSetPenCustomEndCap(native_, detail::Native(cap)));

@@ -10,6 +10,11 @@
 namespace Gdiplus {
 namespace detail {
 
+inline bool IsHighSurrogate(std::uint32_t c) { return c >= 0xD800 && c <= 0xDBFF; }
+inline bool IsLowSurrogate(std::uint32_t c) { return c >= 0xDC00 && c <= 0xDFFF; }
+
+constexpr FlatChar kReplacement = 0xFFFD;
+
 /// A wide text as the UTF-16 that the flat functions take, for the time of one call.
 ///
 /// A character past U+FFFF becomes a surrogate pair: L"\U0001F5FA" is D83D DDFA,
@@ -59,9 +64,6 @@ private:
     static constexpr std::size_t kBufferUnits = 128;
     static constexpr std::size_t kMostCharacters = 0x3FFFFFFF;
 
-    static bool IsHighSurrogate(std::uint32_t c) { return c >= 0xD800 && c <= 0xDBFF; }
-    static bool IsLowSurrogate(std::uint32_t c) { return c >= 0xDC00 && c <= 0xDFFF; }
-
     static INT Convert(const wchar_t* text, std::size_t count, FlatChar* out) {
         const FlatChar* const start = out;
         for (std::size_t i = 0; i < count; ++i) {
@@ -71,7 +73,7 @@ private:
                 *out++ = static_cast<FlatChar>(c);
                 *out++ = static_cast<FlatChar>(text[++i]);
             } else if (c > 0x10FFFF || IsHighSurrogate(c) || IsLowSurrogate(c)) {
-                *out++ = 0xFFFD;
+                *out++ = kReplacement;
             } else if (c > 0xFFFF) {
                 *out++ = static_cast<FlatChar>(0xD800 + ((c - 0x10000) >> 10));
                 *out++ = static_cast<FlatChar>(0xDC00 + ((c - 0x10000) & 0x3FF));
@@ -89,6 +91,33 @@ private:
     INT length_ = 0;
     Status status_ = Ok;
 };
+
+/// How many wide characters a UTF-16 text needs, with its terminating null.
+inline std::size_t WideSize(const FlatChar* text) {
+    std::size_t size = 1;
+    for (; *text != 0; ++text, ++size) {
+        if (IsHighSurrogate(text[0]) && IsLowSurrogate(text[1])) {
+            ++text;
+        }
+    }
+    return size;
+}
+
+/// Writes a UTF-16 text as wide characters with a terminating null, at most size of them
+/// together, and gives the place after the null.
+inline wchar_t* WriteWide(const FlatChar* text, wchar_t* out, std::size_t size) {
+    for (; *text != 0 && size > 1; ++text, --size) {
+        std::uint32_t c = *text;
+        if (IsHighSurrogate(c) && IsLowSurrogate(text[1])) {
+            c = 0x10000 + ((c - 0xD800) << 10) + (*++text - 0xDC00U);
+        } else if (IsHighSurrogate(c) || IsLowSurrogate(c)) {
+            c = kReplacement;
+        }
+        *out++ = static_cast<wchar_t>(c);
+    }
+    *out++ = 0;
+    return out;
+}
 
 }  // namespace detail
 }  // namespace Gdiplus

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <string>
+
+/// Watches the flat functions that take texts: this program defines them, and each
+/// forwards to libgdiplus.
+namespace flat_spy {
+
+struct Text {
+    int calls = 0;
+    bool null = false;     ///< of the last call
+    std::u16string text;   ///< by its length where there is one, else up to the null
+    int length = 0;        ///< as handed on; the text's own for a name
+    bool surface = false;  ///< whether there was a graphics or path to draw on
+};
+
+/// Since the last Clear.
+Text& Last();
+
+void Clear();
+
+}  // namespace flat_spy

@@ -1,0 +1,11 @@
+# The small program draws the picture that it is to draw.
+file(REMOVE north.png)
+execute_process(COMMAND ./ten_lines RESULT_VARIABLE result)
+if(NOT result EQUAL 0)
+  message(FATAL_ERROR "ten_lines: ${result}")
+endif()
+file(READ north.png signature LIMIT 4 HEX)
+file(SIZE north.png size)
+if(NOT signature STREQUAL "89504e47" OR size LESS 1000)
+  message(FATAL_ERROR "ten_lines: north.png has ${size} bytes and begins ${signature}")
+endif()
