@@ -5,7 +5,7 @@ void DrawNorth(const CLSID& png) {
     Gdiplus::Font font(L"Arial", 40, Gdiplus::FontStyleBold, Gdiplus::UnitPixel);
     Gdiplus::SolidBrush ink(Gdiplus::Color::SteelBlue);
     Gdiplus::Graphics(&page).DrawString(L"North 北", -1, &font, {20, 20}, &ink);
-    page.Save(L"north.png", &png);
+    page.Save(L"north.png", &png, nullptr);
 }
 
 int main() {
