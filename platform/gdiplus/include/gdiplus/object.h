@@ -2,8 +2,7 @@
 
 #include "gdiplus/types.h"
 
-namespace Gdiplus {
-namespace detail {
+namespace Gdiplus::detail {
 
 /// What every class around a native object shares: it keeps the last failure, and is
 /// not copied.
@@ -48,5 +47,4 @@ auto Native(const Wrapper* wrapper) -> decltype(wrapper->NativeObject()) {
     return wrapper == nullptr ? nullptr : wrapper->NativeObject();
 }
 
-}  // namespace detail
-}  // namespace Gdiplus
+}  // namespace Gdiplus::detail

@@ -7,8 +7,7 @@
 
 #include "gdiplus/flat.h"
 
-namespace Gdiplus {
-namespace detail {
+namespace Gdiplus::detail {
 
 inline bool IsHighSurrogate(std::uint32_t c) { return c >= 0xD800 && c <= 0xDBFF; }
 inline bool IsLowSurrogate(std::uint32_t c) { return c >= 0xDC00 && c <= 0xDFFF; }
@@ -119,5 +118,4 @@ inline wchar_t* WriteWide(const FlatChar* text, wchar_t* out, std::size_t size) 
     return out;
 }
 
-}  // namespace detail
-}  // namespace Gdiplus
+}  // namespace Gdiplus::detail
