@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <charconv>
+#include <cmath>
 #include <string>
 
 #include "host/common_functions.h"
@@ -20,6 +21,9 @@ bool IsZero(const char* begin, const char* end) {
 }  // namespace
 
 std::wstring CommonFun::double2wstring(double value, int digits) {
+    if (std::isnan(value)) {
+        return L"nan";  // a NaN has a sign, which means nothing to a reader
+    }
     char buffer[kMostCharacters];
     const int places = std::clamp(digits, 0, kMostDigits);
     const std::to_chars_result result = std::to_chars(

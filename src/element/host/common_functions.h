@@ -32,8 +32,10 @@ class CommonFun {
 public:
     /// The decimal text of a value, correctly rounded to exactly `digits` places; no
     /// negative zero. `double2wstring(0.125, 2)` is "0.12": a tie between two decimals is
-    /// one of the exact binary value, and goes to the even digit.
-    /// @param digits a count below 0 is taken as 0
+    /// one of the exact binary value, and goes to the even digit. What is no number is
+    /// "nan", what is none any more "inf" or "-inf", whatever the digits.
+    /// @param digits a count below 0 is taken as 0, one above 1074 as 1074: no double has
+    /// more decimal places
     static std::wstring double2wstring(double value, int digits);
 
     /// The decimal text of an integer, with a leading "-" when it is negative.
