@@ -1,0 +1,306 @@
+#include "raster_data/raster_picture.h"
+
+#include <gdal_priv.h>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstddef>
+#include <initializer_list>
+#include <iterator>
+#include <set>
+#include <type_traits>
+
+#include "raster_data/raster_reader.h"
+
+namespace host {
+
+namespace {
+
+constexpr double kDarkest = 0.02;
+constexpr double kLightest = 0.98;
+
+// Whole codes up to here are looked up, others searched for.
+constexpr int kCodes = 1 << 16;
+
+constexpr int kCountedSide = 1 << 12;
+constexpr std::size_t kMostClasses = 10'000;
+
+// Where the components of a pixel stand in memory.
+constexpr std::size_t kBlue = 0;
+constexpr std::size_t kGreen = 1;
+constexpr std::size_t kRed = 2;
+constexpr std::size_t kAlpha = 3;
+constexpr std::size_t kPixelBytes = 4;
+
+PixelImage MakeImage(int width, int height) {
+    PixelImage image;
+    image.width = width;
+    image.height = height;
+    image.bgra.resize(static_cast<std::size_t>(width) * static_cast<std::size_t>(height) *
+                      kPixelBytes);
+    return image;
+}
+
+std::size_t Offset(int width, int x, int y) {
+    return static_cast<std::size_t>(y) * static_cast<std::size_t>(width) +
+           static_cast<std::size_t>(x);
+}
+
+/// The values shown as black and as white.
+struct Stretch {
+    double black = 0.0;
+    double white = 0.0;
+
+    std::uint8_t Shade(double value) const {
+        if (!(black < white)) {
+            return 128;
+        }
+        // Halves, since the difference of two doubles may be no double.
+        const double t = (value / 2 - black / 2) / (white / 2 - black / 2);
+        if (!(t > 0.0)) {
+            return 0;
+        }
+        return t < 1.0 ? static_cast<std::uint8_t>(t * 255.0 + 0.5) : std::uint8_t{255};
+    }
+};
+
+/// The place of a share of `count` sorted values: 2 % of 101 is the third.
+std::size_t Rank(double share, std::size_t count) {
+    return static_cast<std::size_t>(share * static_cast<double>(count - 1) + 0.5);
+}
+
+/// The value at a rank; reorders the values.
+template <class T>
+double SelectRanked(std::vector<T>& values, std::size_t rank) {
+    const auto at = values.begin() + static_cast<std::ptrdiff_t>(rank);
+    std::nth_element(values.begin(), at, values.end());
+    return static_cast<double>(*at);
+}
+
+/// Reorders the values.
+template <class T>
+Stretch StretchOf(std::vector<T>& values) {
+    if (values.empty()) {
+        return {};
+    }
+    const double black = SelectRanked(values, Rank(kDarkest, values.size()));
+    const double white = SelectRanked(values, Rank(kLightest, values.size()));
+    if (black < white) {
+        return {black, white};
+    }
+    const auto [least, most] = std::minmax_element(values.begin(), values.end());
+    return {static_cast<double>(*least), static_cast<double>(*most)};
+}
+
+template <class T>
+PixelImage DrawStretchedAs(const std::vector<GDALRasterBand*>& bands, int width,
+                           int height, const Progress& progress) {
+    PixelImage image = MakeImage(width, height);
+    std::vector<std::vector<T>> planes(bands.size(),
+                                       std::vector<T>(image.bgra.size() / kPixelBytes));
+    ReadRows<T>(
+        bands, width, height, Sampling::kAverage, progress, [&](const SampleRow<T>& row) {
+            const std::size_t at = Offset(width, row.x, row.y);
+            for (std::size_t b = 0; b < planes.size(); ++b) {
+                std::copy_n(row.bands[b], row.count, planes[b].data() + at);
+            }
+            for (int i = 0; i < row.count; ++i) {
+                image.bgra[(at + static_cast<std::size_t>(i)) * kPixelBytes + kAlpha] =
+                    row.alpha[i];
+            }
+        });
+
+    constexpr std::array<std::size_t, 3> kChannels{kRed, kGreen, kBlue};
+    std::vector<T> visible;
+    for (std::size_t b = 0; b < planes.size(); ++b) {
+        const std::vector<T>& plane = planes[b];
+        visible.clear();
+        for (std::size_t i = 0; i < plane.size(); ++i) {
+            if (image.bgra[i * kPixelBytes + kAlpha] != 0) {
+                visible.push_back(plane[i]);
+            }
+        }
+        const Stretch stretch = StretchOf(visible);
+        for (std::size_t i = 0; i < plane.size(); ++i) {
+            std::uint8_t* const pixel = image.bgra.data() + i * kPixelBytes;
+            const std::uint8_t shade = pixel[kAlpha] == 0
+                                           ? std::uint8_t{0}
+                                           : stretch.Shade(static_cast<double>(plane[i]));
+            if (planes.size() == 1) {
+                std::fill_n(pixel, kAlpha, shade);
+            } else {
+                pixel[kChannels[b]] = shade;
+            }
+        }
+    }
+    return image;
+}
+
+bool AllOf(const std::vector<GDALRasterBand*>& bands,
+           std::initializer_list<GDALDataType> types) {
+    return std::all_of(bands.begin(), bands.end(), [&](GDALRasterBand* band) {
+        return std::find(types.begin(), types.end(), band->GetRasterDataType()) !=
+               types.end();
+    });
+}
+
+/// A code that is looked up in a table, else -1.
+int Code(double value) {
+    return value >= 0.0 && value < kCodes && value == std::floor(value)
+               ? static_cast<int>(value)
+               : -1;
+}
+
+/// The classes of the values seen; of those that are no codes only the lowest.
+class SeenClasses {
+public:
+    explicit SeenClasses(const RasterClasses& classes)
+        : m_classes(classes), m_codes(kCodes) {}
+
+    void Add(double value) {
+        if (const int code = Code(value); code >= 0) {
+            m_codes[static_cast<std::size_t>(code)] = true;
+            return;
+        }
+        const double classValue = m_classes.ClassOf(value);
+        if (m_others.size() >= kMostClasses && classValue > *m_others.rbegin()) {
+            return;
+        }
+        m_others.insert(classValue);
+        if (m_others.size() > kMostClasses) {
+            m_others.erase(std::prev(m_others.end()));
+        }
+    }
+
+    /// In order.
+    std::set<double> Values() const {
+        std::set<double> values = m_others;
+        for (int code = 0; code < kCodes; ++code) {
+            if (m_codes[static_cast<std::size_t>(code)]) {
+                values.insert(m_classes.ClassOf(code));
+            }
+        }
+        return values;
+    }
+
+private:
+    const RasterClasses& m_classes;
+    std::vector<bool> m_codes;
+    std::set<double> m_others;
+};
+
+/// The colour of each value, asked of the classes once for each code.
+class ClassColours {
+public:
+    explicit ClassColours(const RasterClasses& classes)
+        : m_classes(classes), m_known(kCodes), m_colours(kCodes) {}
+
+    ClassColour Of(double value) {
+        const int code = Code(value);
+        if (code < 0) {
+            return m_classes.Colour(m_classes.ClassOf(value));
+        }
+        const auto at = static_cast<std::size_t>(code);
+        if (!m_known[at]) {
+            m_colours[at] = m_classes.Colour(m_classes.ClassOf(value));
+            m_known[at] = true;
+        }
+        return m_colours[at];
+    }
+
+private:
+    const RasterClasses& m_classes;
+    std::vector<bool> m_known;
+    std::vector<ClassColour> m_colours;
+};
+
+}  // namespace
+
+PixelImage DrawStretched(const std::vector<GDALRasterBand*>& bands, int width, int height,
+                         const Progress& progress) {
+    if (AllOf(bands, {GDT_Byte})) {
+        return DrawStretchedAs<std::uint8_t>(bands, width, height, progress);
+    }
+    // What a float holds without loss.
+    if (AllOf(bands,
+              {GDT_Byte, GDT_UInt16, GDT_Int16, GDT_CInt16, GDT_Float32, GDT_CFloat32})) {
+        return DrawStretchedAs<float>(bands, width, height, progress);
+    }
+    return DrawStretchedAs<double>(bands, width, height, progress);
+}
+
+PixelImage DrawClasses(GDALRasterBand* band, const RasterClasses& classes, int width,
+                       int height, const Progress& progress) {
+    PixelImage image = MakeImage(width, height);
+    ClassColours colours(classes);
+    ReadRows<double>({band}, width, height, Sampling::kNearest, progress,
+                     [&](const SampleRow<double>& row) {
+                         std::uint8_t* pixel = image.bgra.data() +
+                                               Offset(width, row.x, row.y) * kPixelBytes;
+                         for (int i = 0; i < row.count; ++i, pixel += kPixelBytes) {
+                             if (row.alpha[i] == 0) {
+                                 continue;
+                             }
+                             const ClassColour colour = colours.Of(row.bands[0][i]);
+                             pixel[kBlue] = colour.blue;
+                             pixel[kGreen] = colour.green;
+                             pixel[kRed] = colour.red;
+                             pixel[kAlpha] = std::min(colour.alpha, row.alpha[i]);
+                         }
+                     });
+    return image;
+}
+
+std::unique_ptr<ClassificationTable> OccurringClasses(GDALRasterBand* band,
+                                                      const RasterClasses& classes) {
+    int width = band->GetXSize();
+    int height = band->GetYSize();
+    if (std::int64_t{width} * height > std::int64_t{kCountedSide} * kCountedSide) {
+        width = std::min(width, kCountedSide);
+        height = std::min(height, kCountedSide);
+    }
+    SeenClasses seen(classes);
+    ReadRows<double>({band}, width, height, Sampling::kNearest, {},
+                     [&](const SampleRow<double>& row) {
+                         for (int i = 0; i < row.count; ++i) {
+                             if (row.alpha[i] != 0) {
+                                 seen.Add(row.bands[0][i]);
+                             }
+                         }
+                     });
+
+    auto table = std::make_unique<ClassificationTable>();
+    for (const double value : seen.Values()) {
+        const ClassColour colour = classes.Colour(value);
+        if (colour.alpha != 0 &&
+            table->GetClassesCount() < static_cast<int>(kMostClasses)) {
+            table->Add(classes.Name(value), colour);
+        }
+    }
+    return table;
+}
+
+PixelImage Enlarge(PixelImage image, int width, int height) {
+    if (width == image.width && height == image.height) {
+        return image;
+    }
+    PixelImage large = MakeImage(width, height);
+    std::vector<std::size_t> columns;
+    for (std::int64_t x = 0; x < width; ++x) {
+        columns.push_back(
+            static_cast<std::size_t>((2 * x + 1) * image.width / (2 * width)));
+    }
+    std::uint8_t* to = large.bgra.data();
+    for (std::int64_t y = 0; y < height; ++y) {
+        const auto row = static_cast<int>((2 * y + 1) * image.height / (2 * height));
+        const std::uint8_t* const from =
+            image.bgra.data() + Offset(image.width, 0, row) * kPixelBytes;
+        for (const std::size_t column : columns) {
+            to = std::copy_n(from + column * kPixelBytes, kPixelBytes, to);
+        }
+    }
+    return large;
+}
+
+}  // namespace host

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <functional>
+#include <vector>
+
+#include "raster_data/gdal_raster.h"
+
+class GDALRasterBand;
+
+namespace host {
+
+/// How many pixels of the file become one that is read.
+enum class Sampling {
+    kNearest,  ///< the file's pixel at the centre; for class codes, which have no mean
+    kAverage,  ///< the mean of all that have a value
+};
+
+/// At most this many bands are read together: red, green and blue.
+constexpr std::size_t kMostBands = 3;
+
+/// A piece of one row of what is read. The pointers hold for the call that it is given
+/// to.
+template <class T>
+struct SampleRow {
+    int x = 0;                                 ///< first column
+    int y = 0;                                 ///< row, from the top
+    int count = 0;                             ///< columns
+    std::array<const T*, kMostBands> bands{};  ///< null beyond the bands asked for
+
+    /// 255 where every band has a value, 0 where one has none (no-data, masked out,
+    /// transparent, or no finite number), between the two at edges and by the alpha band.
+    const std::uint8_t* alpha = nullptr;
+};
+
+template <class T>
+using TakeRow = std::function<void(const SampleRow<T>&)>;
+
+/// Reads one to three bands of a dataset, all of one size, at `width` x `height`, both at
+/// most the bands' own: each row in one piece or in several, from the top in each column.
+///
+/// Memory follows the width of the file, not its size. An average is taken from the
+/// smallest overview that is large enough, else in one pass over the file; rasters of
+/// more than four thousand million pixels are sampled instead. Values of another type
+/// than T are converted to it, complex ones by their real part. T is std::uint8_t, float
+/// or double.
+///
+/// Throws std::runtime_error when the file cannot be read or `progress` answers false.
+template <class T>
+void ReadRows(const std::vector<GDALRasterBand*>& bands, int width, int height,
+              Sampling sampling, const Progress& progress, const TakeRow<T>& take);
+
+}  // namespace host
