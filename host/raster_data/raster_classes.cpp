@@ -38,7 +38,8 @@ constexpr std::array<ClassColour, 12> kQualitative{{
     {121, 112, 110, 255},
 }};
 
-/// The column of a usage, else one of those names; -1 when there is neither.
+/// The column of a usage, else one of those names that is of no other usage; -1 when
+/// there is neither.
 int Column(const GDALRasterAttributeTable& table, GDALRATFieldUsage usage,
            std::initializer_list<const char*> names) {
     const int byUsage = table.GetColOfUsage(usage);
@@ -47,7 +48,8 @@ int Column(const GDALRasterAttributeTable& table, GDALRATFieldUsage usage,
     }
     for (const char* name : names) {
         for (int i = 0; i < table.GetColumnCount(); ++i) {
-            if (EQUAL(table.GetNameOfCol(i), name)) {
+            if (table.GetUsageOfCol(i) == GFU_Generic &&
+                EQUAL(table.GetNameOfCol(i), name)) {
                 return i;
             }
         }
@@ -71,29 +73,46 @@ int NameColumn(const GDALRasterAttributeTable& table) {
     return -1;
 }
 
-/// The columns of a row's colour.
-struct ColourColumns {
-    explicit ColourColumns(const GDALRasterAttributeTable& table)
-        : red(Column(table, GFU_Red, {"Red", "R"})),
-          green(Column(table, GFU_Green, {"Green", "G"})),
-          blue(Column(table, GFU_Blue, {"Blue", "B"})),
-          alpha(Column(table, GFU_Alpha, {"Alpha", "Opacity", "A"})) {}
+/// The columns of a row's colour: 0 to 255, or fractions where none is above 1.
+class ColourColumns {
+public:
+    ColourColumns(const GDALRasterAttributeTable& table, int rows)
+        : m_table(table),
+          m_red(Column(table, GFU_Red, {"Red", "R"})),
+          m_green(Column(table, GFU_Green, {"Green", "G"})),
+          m_blue(Column(table, GFU_Blue, {"Blue", "B"})),
+          m_alpha(Column(table, GFU_Alpha, {"Alpha", "Opacity", "A"})) {
+        if (Any() && table.GetTypeOfCol(m_red) == GFT_Real) {
+            m_scale = 255.0;
+            for (int row = 0; row < rows; ++row) {
+                for (const int column : {m_red, m_green, m_blue}) {
+                    m_scale = table.GetValueAsDouble(row, column) > 1.0 ? 1.0 : m_scale;
+                }
+            }
+        }
+    }
 
-    bool Any() const { return red >= 0 && green >= 0 && blue >= 0; }
+    bool Any() const { return m_red >= 0 && m_green >= 0 && m_blue >= 0; }
 
-    int red;
-    int green;
-    int blue;
-    int alpha;
+    ClassColour Of(int row) const {
+        return {Component(row, m_red), Component(row, m_green), Component(row, m_blue),
+                m_alpha < 0 ? static_cast<unsigned char>(255) : Component(row, m_alpha)};
+    }
+
+private:
+    unsigned char Component(int row, int column) const {
+        const double value = m_table.GetValueAsDouble(row, column) * m_scale;
+        return value > 0.0 ? static_cast<unsigned char>(std::min(value + 0.5, 255.0))
+                           : static_cast<unsigned char>(0);
+    }
+
+    const GDALRasterAttributeTable& m_table;
+    int m_red;
+    int m_green;
+    int m_blue;
+    int m_alpha;
+    double m_scale = 1.0;
 };
-
-/// A column of whole numbers holds 0 to 255, one of fractions 0 to 1.
-unsigned char Component(const GDALRasterAttributeTable& table, int row, int column) {
-    const double scale = table.GetTypeOfCol(column) == GFT_Real ? 255.0 : 1.0;
-    const double value = table.GetValueAsDouble(row, column) * scale;
-    return value > 0.0 ? static_cast<unsigned char>(std::min(value + 0.5, 255.0))
-                       : static_cast<unsigned char>(0);
-}
 
 /// Which values a row of the table stands for.
 class RowValues {
@@ -190,12 +209,12 @@ void RasterClasses::ReadAttributeTable(GDALRasterBand& band) {
         return;
     }
     const int nameColumn = NameColumn(*table);
-    const ColourColumns colours(*table);
+    const int count = std::min(table->GetRowCount(), kMostRows);
+    const ColourColumns colours(*table, count);
     if (table->GetTableType() == GRTT_ATHEMATIC && nameColumn < 0 && !colours.Any()) {
         return;  // the histogram of a continuous raster
     }
     const RowValues values(*table);
-    const int count = std::min(table->GetRowCount(), kMostRows);
     for (int i = 0; i < count; ++i) {
         Row row;
         row.low = values.Low(i);
@@ -207,11 +226,7 @@ void RasterClasses::ReadAttributeTable(GDALRasterBand& band) {
             row.name = WideText(table->GetValueAsString(i, nameColumn));
         }
         if (colours.Any()) {
-            row.colour = ClassColour{
-                Component(*table, i, colours.red), Component(*table, i, colours.green),
-                Component(*table, i, colours.blue),
-                colours.alpha < 0 ? static_cast<unsigned char>(255)
-                                  : Component(*table, i, colours.alpha)};
+            row.colour = colours.Of(i);
         } else if (m_palette.empty()) {
             row.colour = kQualitative[static_cast<std::size_t>(i) % kQualitative.size()];
         }

@@ -1,0 +1,361 @@
+#include "raster_data/gdal_raster.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <ogr_spatialref.h>
+
+#include <cmath>
+#include <filesystem>
+#include <fstream>
+#include <limits>
+
+#include "raster_data/make_raster.h"
+
+namespace {
+
+using raster_test::Dataset;
+using raster_test::Open;
+using raster_test::Ramp;
+using raster_test::Raster;
+using raster_test::TemporaryFolder;
+using raster_test::WriteAndOpen;
+
+constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
+
+/// Why a path does not open; fails the test when it does.
+std::string WhyNot(const std::string& path) {
+    std::string why;
+    EXPECT_EQ(host::GdalRaster::Open(path, why), nullptr) << path;
+    return why;
+}
+
+std::string FileWith(const TemporaryFolder& folder, const std::string& name,
+                     const std::string& content) {
+    const std::string path = folder / name;
+    std::ofstream(path, std::ios::binary) << content;
+    return path;
+}
+
+TEST(GdalRasterOpen, SaysInAFewWordsWhyItCannot) {
+    const TemporaryFolder folder;
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(WhyNot(folder / "missing.tif"), "no such file");
+    EXPECT_EQ(WhyNot(""), "no such file");
+    EXPECT_EQ(WhyNot(folder.Path()), "is a folder");
+    EXPECT_EQ(WhyNot(FileWith(folder, "empty.tif", "")), "is empty");
+    EXPECT_EQ(WhyNot(FileWith(folder, "notes.txt", "Not a raster.\n")), "not a raster");
+    EXPECT_EQ(WhyNot(FileWith(folder, "名.txt", std::string(100000, 'x'))),
+              "not a raster");
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+}
+
+TEST(GdalRasterOpen, ReasonsOfGdalHaveNoFileNameAndOneLine) {
+    const TemporaryFolder folder;
+    // A TIFF header that points to a directory beyond the end.
+    const std::string headerOnly(std::string("II*\0\xff\x00\x00\x00", 8));
+    testing::internal::CaptureStderr();
+    const std::string why = WhyNot(FileWith(folder, "header_only.tif", headerOnly));
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+    EXPECT_FALSE(why.empty());
+    EXPECT_LE(why.size(), 123U);
+    EXPECT_THAT(why, testing::Not(testing::HasSubstr("header_only")));
+    EXPECT_THAT(why, testing::Not(testing::HasSubstr("\n")));
+}
+
+TEST(GdalRasterOpen, AFileOfShapesIsNoRaster) {
+    const TemporaryFolder folder;
+    const std::string shapes = FileWith(
+        folder, "shapes.geojson",
+        R"({"type":"FeatureCollection","features":[{"type":"Feature","properties":{},)"
+        R"("geometry":{"type":"Point","coordinates":[1,2]}}]})");
+    EXPECT_FALSE(WhyNot(shapes).empty());
+}
+
+TEST(GdalRasterName, IsTheFilesWithoutItsFolder) {
+    const TemporaryFolder folder;
+    for (const auto& [name, wide] :
+         {std::pair<std::string, std::wstring>{"a b.tif", L"a b.tif"},
+          {"Île_影像.tif", L"Île_影像.tif"},
+          {"𝄞.tif", L"𝄞.tif"}}) {
+        raster_test::Write(folder / name, {1, {{7}}});
+        const auto raster = Open(folder / name);
+        ASSERT_NE(raster, nullptr);
+        EXPECT_EQ(raster->GetFileName(), wide);
+        EXPECT_EQ(raster->Path(), folder / name);
+        EXPECT_EQ(raster->GetDataSourceType(), DataSourceRaster);
+    }
+}
+
+TEST(GdalRasterAvailable, UntilItsFileIsGone) {
+    const TemporaryFolder folder;
+    const std::string path = folder / "raster.tif";
+    raster_test::Write(path, {1, {{7}}});
+    const auto raster = Open(path);
+    EXPECT_TRUE(raster->IsAvailable());
+    EXPECT_TRUE(raster->IsAvailable());
+
+    std::filesystem::rename(path, folder / "renamed.tif");
+    EXPECT_FALSE(raster->IsAvailable());
+    std::filesystem::rename(folder / "renamed.tif", path);
+    EXPECT_TRUE(raster->IsAvailable());
+    std::filesystem::resize_file(path, 0);
+    EXPECT_FALSE(raster->IsAvailable());
+    std::filesystem::remove(path);
+    EXPECT_FALSE(raster->IsAvailable());
+    std::filesystem::create_directory(path);
+    EXPECT_FALSE(raster->IsAvailable());
+}
+
+struct DisplayRow {
+    const char* name;
+    int bands;
+    std::vector<GDALColorInterp> colours;  ///< as far as they are set
+    DataDisplayType type;
+    int red, green, blue;
+};
+
+const DisplayRow kDisplays[] = {
+    {"one band", 1, {}, DisplayGray, 0, 0, 0},
+    {"two bands", 2, {}, DisplayGray, 0, 0, 0},
+    {"grey and alpha", 2, {GCI_GrayIndex, GCI_AlphaBand}, DisplayGray, 0, 0, 0},
+    {"three bands", 3, {}, DisplayRGB, 0, 1, 2},
+    {"six bands", 6, {}, DisplayRGB, 0, 1, 2},
+    {"red, green, blue",
+     3,
+     {GCI_RedBand, GCI_GreenBand, GCI_BlueBand},
+     DisplayRGB,
+     0,
+     1,
+     2},
+    {"blue, green, red",
+     3,
+     {GCI_BlueBand, GCI_GreenBand, GCI_RedBand},
+     DisplayRGB,
+     2,
+     1,
+     0},
+    {"near infrared first",
+     4,
+     {GCI_Undefined, GCI_RedBand, GCI_GreenBand, GCI_BlueBand},
+     DisplayRGB,
+     1,
+     2,
+     3},
+    {"alpha first",
+     4,
+     {GCI_AlphaBand, GCI_Undefined, GCI_Undefined, GCI_Undefined},
+     DisplayRGB,
+     1,
+     2,
+     3},
+    {"red alone is not enough", 4, {GCI_Undefined, GCI_RedBand}, DisplayRGB, 0, 1, 2},
+    {"fewer than three colours",
+     3,
+     {GCI_GrayIndex, GCI_Undefined, GCI_AlphaBand},
+     DisplayRGB,
+     0,
+     1,
+     2},
+};
+
+TEST(GdalRasterDisplay, FollowsFromTheBands) {
+    const TemporaryFolder folder;
+    for (const DisplayRow& row : kDisplays) {
+        SCOPED_TRACE(row.name);
+        Raster raster;
+        raster.width = 1;
+        raster.bands.assign(static_cast<std::size_t>(row.bands), {7});
+        raster.options = {"PHOTOMETRIC=MINISBLACK", "ALPHA=NO"};
+        raster.describe = [&](GDALDataset& dataset) {
+            for (std::size_t i = 0; i < row.colours.size(); ++i) {
+                dataset.GetRasterBand(static_cast<int>(i) + 1)
+                    ->SetColorInterpretation(row.colours[i]);
+            }
+        };
+        const auto opened = WriteAndOpen(folder, raster);
+        EXPECT_EQ(opened->GetDisplayType(), row.type);
+        EXPECT_EQ(opened->GetRedBandNum(), row.red);
+        EXPECT_EQ(opened->GetGreenBandNum(), row.green);
+        EXPECT_EQ(opened->GetBlueBandNum(), row.blue);
+        EXPECT_NE(opened->GetRasterBand(0), nullptr);
+        EXPECT_NE(opened->GetRasterBand(row.bands - 1), nullptr);
+        EXPECT_EQ(opened->GetRasterBand(row.bands), nullptr);
+        EXPECT_EQ(opened->GetRasterBand(-1), nullptr);
+        ASSERT_NE(opened->GetClassifyDisplayTable(), nullptr);
+        EXPECT_EQ(opened->GetClassifyDisplayTable()->GetClassesCount(), 0);
+    }
+}
+
+TEST(GdalRasterPlace, IsTheFilesOrNone) {
+    const TemporaryFolder folder;
+    const auto unplaced = WriteAndOpen(folder, {3, {Ramp(1, 6)}});
+    EXPECT_FALSE(unplaced->HasGeoTransform());
+    EXPECT_EQ(unplaced->GeoTransform(), (std::array<double, 6>{0, 1, 0, 0, 0, 1}));
+    EXPECT_EQ(unplaced->Projection(), "");
+    EXPECT_EQ(unplaced->Width(), 3);
+    EXPECT_EQ(unplaced->Height(), 2);
+
+    Raster raster{3, {Ramp(1, 6)}};
+    std::array<double, 6> place{500000, 30, 0, 4000000, 0, -30};
+    raster.describe = [&](GDALDataset& dataset) {
+        dataset.SetGeoTransform(place.data());
+        OGRSpatialReference utm;
+        utm.SetWellKnownGeogCS("WGS84");
+        utm.SetUTM(33);
+        dataset.SetSpatialRef(&utm);
+    };
+    const auto placed = WriteAndOpen(folder, raster);
+    EXPECT_TRUE(placed->HasGeoTransform());
+    EXPECT_EQ(placed->GeoTransform(), place);
+    EXPECT_THAT(placed->Projection(), testing::HasSubstr("UTM zone 33N"));
+}
+
+struct RangeRow {
+    const char* name;
+    GDALDataType type;
+    std::vector<double> values;
+    std::optional<double> noData;
+    std::optional<std::pair<double, double>> range;
+};
+
+const RangeRow kRanges[] = {
+    {"bytes", GDT_Byte, {3, 200, 17}, {}, {{3, 200}}},
+    {"one value", GDT_Byte, {42}, {}, {{42, 42}}},
+    {"no-data is no value", GDT_Byte, {0, 3, 200, 255}, 255, {{0, 200}}},
+    {"nothing but no-data", GDT_Byte, {9, 9, 9}, 9, {}},
+    {"UInt16", GDT_UInt16, {65535, 1}, {}, {{1, 65535}}},
+    {"Int16", GDT_Int16, {-32768, 12, 32767}, {}, {{-32768, 32767}}},
+    {"Int16 with no-data", GDT_Int16, {-32768, -12, 5}, -32768, {{-12, 5}}},
+    {"UInt32", GDT_UInt32, {4294967295.0, 7}, {}, {{7, 4294967295.0}}},
+    {"Int32", GDT_Int32, {-2147483648.0, 7}, {}, {{-2147483648.0, 7}}},
+    {"Float32", GDT_Float32, {-1.5, 2.25}, {}, {{-1.5, 2.25}}},
+    {"Float32, NaN is no value", GDT_Float32, {kNan, -1.5, 2.25}, {}, {{-1.5, 2.25}}},
+    {"Float32, NaN as no-data", GDT_Float32, {kNan, -1.5, 2.25}, kNan, {{-1.5, 2.25}}},
+    {"Float32, only NaN", GDT_Float32, {kNan, kNan}, {}, {}},
+    {"Float32, the usual no-data", GDT_Float32, {-9999, 1, 2}, -9999, {{1, 2}}},
+    {"Float64", GDT_Float64, {-1e300, 1e-300}, {}, {{-1e300, 1e-300}}},
+    {"Float64, infinite", GDT_Float64, {-kInfinity, 1}, {}, {{-kInfinity, 1}}},
+    {"complex, by its real part", GDT_CFloat32, {3, -4}, {}, {{-4, 3}}},
+};
+
+TEST(GdalRasterRange, IsOfTheValuesWithoutNoData) {
+    const TemporaryFolder folder;
+    for (const RangeRow& row : kRanges) {
+        for (const bool approximate : {true, false}) {
+            SCOPED_TRACE(row.name);
+            Raster raster{static_cast<int>(row.values.size()), {row.values}, row.type};
+            raster.noData = row.noData;
+            const auto opened = WriteAndOpen(folder, raster);
+            double min = -7.0;
+            double max = -8.0;
+            // Twice: the second answer comes from memory.
+            for (int i = 0; i < 2; ++i) {
+                EXPECT_EQ(
+                    opened->GetRasterBand(0)->ComputeMinMax(&min, &max, approximate),
+                    row.range.has_value());
+                EXPECT_EQ(min, row.range ? row.range->first : -7.0);
+                EXPECT_EQ(max, row.range ? row.range->second : -8.0);
+            }
+        }
+    }
+}
+
+TEST(GdalRasterRange, IsOfEachBandByItself) {
+    const TemporaryFolder folder;
+    const auto raster = WriteAndOpen(folder, {2, {{1, 2}, {30, 40}, {5, 6}}});
+    double min = 0.0;
+    double max = 0.0;
+    EXPECT_TRUE(raster->GetRasterBand(1)->ComputeMinMax(&min, &max, true));
+    EXPECT_EQ(min, 30);
+    EXPECT_EQ(max, 40);
+}
+
+TEST(GdalRasterRange, OfALargeRasterIsAnEstimateOrExact) {
+    const TemporaryFolder folder;
+    const std::string path = folder / "large.tif";
+    {
+        // 17 640 000 pixels, of which one is not 0.
+        const Dataset dataset =
+            raster_test::Create(path, 4200, 4200, 1, GDT_Byte, {"SPARSE_OK=TRUE"});
+        unsigned char value = 200;
+        ASSERT_EQ(dataset->GetRasterBand(1)->RasterIO(GF_Write, 4199, 4197, 1, 1, &value,
+                                                      1, 1, GDT_Byte, 0, 0, nullptr),
+                  CE_None);
+    }
+    const auto raster = Open(path);
+    double min = -1.0;
+    double max = -1.0;
+    EXPECT_TRUE(raster->GetRasterBand(0)->ComputeMinMax(&min, &max, true));
+    EXPECT_EQ(min, 0);
+    EXPECT_LE(max, 200);
+    EXPECT_TRUE(raster->GetRasterBand(0)->ComputeMinMax(&min, &max, false));
+    EXPECT_EQ(min, 0);
+    EXPECT_EQ(max, 200);
+}
+
+TEST(GdalRasterRange, OfALargeRasterIsFoundWhereAnEstimateMeetsNoValue) {
+    const TemporaryFolder folder;
+    const std::string path = folder / "large.tif";
+    {
+        const Dataset dataset =
+            raster_test::Create(path, 4200, 4200, 1, GDT_Byte, {"SPARSE_OK=TRUE"});
+        dataset->GetRasterBand(1)->SetNoDataValue(0);
+        unsigned char value = 200;
+        ASSERT_EQ(dataset->GetRasterBand(1)->RasterIO(GF_Write, 4199, 4197, 1, 1, &value,
+                                                      1, 1, GDT_Byte, 0, 0, nullptr),
+                  CE_None);
+    }
+    const auto raster = Open(path);
+    double min = -1.0;
+    double max = -1.0;
+    EXPECT_TRUE(raster->GetRasterBand(0)->ComputeMinMax(&min, &max, true));
+    EXPECT_EQ(min, 200);
+    EXPECT_EQ(max, 200);
+}
+
+TEST(GdalRasterDamaged, IsReportedAndNothingIsWrittenToTheTerminal) {
+    const TemporaryFolder folder;
+    const std::string path = folder / "cut.tif";
+    std::vector<double> values;
+    for (int i = 0; i < 300 * 300; ++i) {
+        values.push_back(i % 251);
+    }
+    raster_test::Write(path, {300, {values, values, values}, GDT_Byte});
+    std::filesystem::resize_file(path, std::filesystem::file_size(path) / 2);
+
+    testing::internal::CaptureStderr();
+    const auto raster = Open(path);
+    ASSERT_NE(raster, nullptr);
+    double min = -7.0;
+    double max = -8.0;
+    EXPECT_FALSE(raster->GetRasterBand(2)->ComputeMinMax(&min, &max, true));
+    EXPECT_EQ(min, -7.0);
+    EXPECT_EQ(max, -8.0);
+    std::string why;
+    try {
+        raster->Render(100, 100);
+    } catch (const std::runtime_error& e) {
+        why = e.what();
+    }
+    EXPECT_THAT(why, testing::StartsWith("reading failed: "));
+    EXPECT_THAT(why, testing::Not(testing::HasSubstr("cut.tif")));
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+}
+
+TEST(GdalRasterFolder, IsLeftAsItWas) {
+    const TemporaryFolder folder;
+    const std::string path = folder / "raster.tif";
+    raster_test::Write(path, {2, {{1, 2}, {3, 4}, {5, 6}}});
+    {
+        const auto raster = Open(path);
+        double min = 0.0;
+        double max = 0.0;
+        raster->GetRasterBand(0)->ComputeMinMax(&min, &max, false);
+        raster->GetClassifyDisplayTable();
+        raster->Render(4, 4);
+    }
+    EXPECT_EQ(folder.Files(), std::vector<std::string>{"raster.tif"});
+}
+
+}  // namespace

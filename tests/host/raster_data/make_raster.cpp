@@ -1,0 +1,116 @@
+#include "raster_data/make_raster.h"
+
+#include <cpl_string.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <atomic>
+#include <filesystem>
+#include <numeric>
+#include <random>
+
+namespace raster_test {
+
+TemporaryFolder::TemporaryFolder() {
+    namespace fs = std::filesystem;
+    std::random_device random;
+    do {
+        m_path = (fs::temp_directory_path() / ("raster_data_" + std::to_string(random())))
+                     .string();
+    } while (!fs::create_directory(m_path));
+}
+
+TemporaryFolder::~TemporaryFolder() {
+    std::error_code ignored;
+    std::filesystem::remove_all(m_path, ignored);
+}
+
+std::vector<std::string> TemporaryFolder::Files() const {
+    std::vector<std::string> names;
+    for (const auto& entry : std::filesystem::directory_iterator(m_path)) {
+        names.push_back(entry.path().filename().string());
+    }
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
+Dataset Create(const std::string& path, int width, int height, int bands,
+               GDALDataType type, const std::vector<std::string>& options) {
+    GDALAllRegister();
+    CPLStringList list;
+    for (const std::string& option : options) {
+        list.AddString(option.c_str());
+    }
+    Dataset dataset(GetGDALDriverManager()->GetDriverByName("GTiff")->Create(
+                        path.c_str(), width, height, bands, type, list.List()),
+                    [](GDALDataset* opened) { GDALClose(opened); });
+    EXPECT_NE(dataset, nullptr) << path;
+    return dataset;
+}
+
+void Write(const std::string& path, const Raster& raster) {
+    const int height = static_cast<int>(raster.bands.front().size()) / raster.width;
+    const int bands = static_cast<int>(raster.bands.size());
+    const Dataset dataset =
+        Create(path, raster.width, height, bands, raster.type, raster.options);
+    ASSERT_NE(dataset, nullptr);
+    if (raster.noData) {
+        for (int band = 1; band <= bands; ++band) {
+            dataset->GetRasterBand(band)->SetNoDataValue(*raster.noData);
+        }
+    }
+    if (raster.describe) {
+        raster.describe(*dataset);
+    }
+    for (int band = 1; band <= bands; ++band) {
+        std::vector<double> values = raster.bands[static_cast<std::size_t>(band - 1)];
+        ASSERT_EQ(dataset->GetRasterBand(band)->RasterIO(
+                      GF_Write, 0, 0, raster.width, height, values.data(), raster.width,
+                      height, GDT_Float64, 0, 0, nullptr),
+                  CE_None);
+    }
+}
+
+std::unique_ptr<host::GdalRaster> Open(const std::string& path) {
+    std::string why;
+    std::unique_ptr<host::GdalRaster> raster = host::GdalRaster::Open(path, why);
+    EXPECT_NE(raster, nullptr) << path << ": " << why;
+    return raster;
+}
+
+std::unique_ptr<host::GdalRaster> WriteAndOpen(const TemporaryFolder& folder,
+                                               const Raster& raster) {
+    static std::atomic<int> count{0};
+    const std::string path = folder / ("raster_" + std::to_string(++count) + ".tif");
+    Write(path, raster);
+    return Open(path);
+}
+
+std::vector<double> Ramp(int first, int last) {
+    std::vector<double> values(static_cast<std::size_t>(last - first + 1));
+    std::iota(values.begin(), values.end(), first);
+    return values;
+}
+
+unsigned int Pixel(const host::PixelImage& image, int x, int y) {
+    const std::size_t at =
+        (static_cast<std::size_t>(y) * static_cast<std::size_t>(image.width) +
+         static_cast<std::size_t>(x)) *
+        4;
+    const auto byte = [&](std::size_t i) -> unsigned int {
+        return image.bgra.at(at + i);
+    };
+    return byte(3) << 24U | byte(2) << 16U | byte(1) << 8U | byte(0);
+}
+
+std::vector<unsigned int> Pixels(const host::PixelImage& image) {
+    std::vector<unsigned int> pixels;
+    for (int y = 0; y < image.height; ++y) {
+        for (int x = 0; x < image.width; ++x) {
+            pixels.push_back(Pixel(image, x, y));
+        }
+    }
+    return pixels;
+}
+
+}  // namespace raster_test

@@ -1,0 +1,71 @@
+#pragma once
+
+#include <gdal_priv.h>
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "raster_data/gdal_raster.h"
+
+namespace raster_test {
+
+/// An empty folder of its own under the system's temporary one; gone with all that is in
+/// it at the end.
+class TemporaryFolder {
+public:
+    TemporaryFolder();
+    TemporaryFolder(const TemporaryFolder&) = delete;
+    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+    ~TemporaryFolder();
+
+    std::string operator/(const std::string& name) const { return m_path + "/" + name; }
+    const std::string& Path() const { return m_path; }
+
+    /// The names of the files in it, sorted.
+    std::vector<std::string> Files() const;
+
+private:
+    std::string m_path;
+};
+
+using Dataset = std::unique_ptr<GDALDataset, void (*)(GDALDataset*)>;
+
+/// A GeoTIFF to be written: the same number of values for each band, row by row.
+struct Raster {
+    int width = 0;
+    std::vector<std::vector<double>> bands = {};
+    GDALDataType type = GDT_Byte;
+    std::optional<double> noData = {};
+    std::vector<std::string> options = {};
+
+    /// What else it has: palette, tables, colours of bands.
+    std::function<void(GDALDataset&)> describe = {};
+};
+
+/// Writes the raster; fails the test when that cannot be done.
+void Write(const std::string& path, const Raster& raster);
+
+/// An empty file of the raster's form, open for changes.
+Dataset Create(const std::string& path, int width, int height, int bands,
+               GDALDataType type, const std::vector<std::string>& options = {});
+
+/// Opens a raster that is there; null, and a failed test, when it does not open.
+std::unique_ptr<host::GdalRaster> Open(const std::string& path);
+
+/// Writes a raster and opens it.
+std::unique_ptr<host::GdalRaster> WriteAndOpen(const TemporaryFolder& folder,
+                                               const Raster& raster);
+
+/// The whole numbers from first to last.
+std::vector<double> Ramp(int first, int last);
+
+/// A drawn pixel as 0xAARRGGBB.
+unsigned int Pixel(const host::PixelImage& image, int x, int y);
+
+/// All pixels of a drawn image, row by row.
+std::vector<unsigned int> Pixels(const host::PixelImage& image);
+
+}  // namespace raster_test

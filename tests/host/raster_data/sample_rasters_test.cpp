@@ -1,0 +1,88 @@
+#include "raster_data/sample_rasters.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <stdexcept>
+
+#include "raster_data/make_raster.h"
+#include "raster_data/sample_terrain.h"
+
+namespace {
+
+using raster_test::TemporaryFolder;
+
+std::string Content(const std::string& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+TEST(SampleRasters, AreASceneAnElevationModelAndALandCoverMapOfOneArea) {
+    const TemporaryFolder folder;
+    const host::SampleRasters samples = host::MakeSampleRasters(folder / "new/samples");
+    const auto scene = raster_test::Open(samples.scene);
+    const auto elevation = raster_test::Open(samples.elevation);
+    const auto landCover = raster_test::Open(samples.landCover);
+    EXPECT_EQ(scene->GetFileName(), L"landscape.tif");
+    EXPECT_EQ(scene->GetDisplayType(), DisplayRGB);
+    EXPECT_EQ(elevation->GetFileName(), L"elevation.tif");
+    EXPECT_EQ(elevation->GetDisplayType(), DisplayGray);
+    EXPECT_EQ(landCover->GetFileName(), L"land_cover.tif");
+    EXPECT_EQ(landCover->GetDisplayType(), DisplayClassified);
+    for (host::GdalRaster* raster : {scene.get(), elevation.get(), landCover.get()}) {
+        EXPECT_EQ(raster->Width(), 600);
+        EXPECT_EQ(raster->Height(), 450);
+        EXPECT_TRUE(raster->HasGeoTransform());
+        EXPECT_EQ(raster->GeoTransform(), scene->GeoTransform());
+        EXPECT_THAT(raster->Projection(), testing::HasSubstr("UTM zone 33N"));
+    }
+
+    double lowest = 0.0;
+    double highest = 0.0;
+    EXPECT_TRUE(elevation->GetRasterBand(0)->ComputeMinMax(&lowest, &highest, false));
+    EXPECT_GT(lowest, 0.0);  // the sea has no value
+    EXPECT_GT(highest, 1000.0);
+    EXPECT_LT(highest, 3000.0);
+
+    CClassifyDisplayTable* const classes = landCover->GetClassifyDisplayTable();
+    ASSERT_EQ(classes->GetClassesCount(), 9);
+    EXPECT_EQ(classes->GetClassifyItem(0)->GetLable(), L"Water");
+    EXPECT_EQ(classes->GetClassifyItem(8)->GetLable(), L"Built-up area");
+}
+
+TEST(SampleRasters, AreTheSameEachTime) {
+    const TemporaryFolder folder;
+    const host::SampleRasters first = host::MakeSampleRasters(folder / "first");
+    host::MakeSampleRasters(folder / "second");
+    const host::SampleRasters second = host::MakeSampleRasters(folder / "second");
+    EXPECT_EQ(Content(first.scene), Content(second.scene));
+    EXPECT_EQ(Content(first.elevation), Content(second.elevation));
+    EXPECT_EQ(Content(first.landCover), Content(second.landCover));
+}
+
+TEST(SampleRasters, SayWhyTheyCannotBeWritten) {
+    const TemporaryFolder folder;
+    std::ofstream(folder / "file") << "in the way";
+    EXPECT_THROW(host::MakeSampleRasters(folder / "file"), std::runtime_error);
+    EXPECT_THROW(host::MakeSampleRasters(folder / "file/below"), std::runtime_error);
+}
+
+TEST(SampleTerrain, HasWaterAndHillsAndAllKindsOfLand) {
+    const host::SampleTerrain terrain = host::MakeSampleTerrain();
+    const std::size_t pixels = 600 * 450;
+    ASSERT_EQ(terrain.elevation.size(), pixels);
+    ASSERT_EQ(terrain.cover.size(), pixels);
+    ASSERT_EQ(terrain.appearance.size(), pixels);
+    std::array<std::size_t, 10> counts{};
+    for (std::size_t i = 0; i < pixels; ++i) {
+        ++counts.at(static_cast<std::size_t>(terrain.cover[i]));
+        EXPECT_EQ(terrain.cover[i] == host::LandCover::kWater, terrain.elevation[i] <= 0);
+    }
+    EXPECT_EQ(counts[0], 0U);
+    for (std::size_t kind = 1; kind < counts.size(); ++kind) {
+        EXPECT_GT(counts[kind], pixels / 1000) << kind;
+    }
+}
+
+}  // namespace
