@@ -1,0 +1,36 @@
+#pragma once
+
+#include "host/device_geometry.h"
+#include "host/raster_data.h"
+
+namespace host {
+
+/// A page seen at a resolution: page units, y growing upwards from the bottom left
+/// corner, to device pixels, y growing downwards from the top left corner.
+///
+/// Every edge is rounded by itself, to the nearest pixel boundary and a half up, so that
+/// frames which touch on the page touch on the device. On a page 200 units high at
+/// 150 dpi, the extent from (10, 20) to (50, 100) is the rectangle (16, 156, 78, 281).
+class DeviceView {
+public:
+    /// @param pageHeight page units
+    /// @param dpi device pixels an inch
+    DeviceView(double pageHeight, double dpi);
+
+    /// Device pixels in one page unit: 1.5625 at 150 dpi.
+    double Scale() const { return m_scale; }
+
+    /// A length of the page in whole pixels.
+    int ToDevice(double length) const;
+    CPoint ToDevice(CPoint2D point) const;
+    CRect ToDevice(const CBoundingBox& extent) const;
+
+private:
+    double m_pageHeight;
+    double m_scale;
+};
+
+/// The pixel in the middle of a rectangle.
+CPoint Centre(const CRect& rect);
+
+}  // namespace host

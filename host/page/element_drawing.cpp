@@ -1,0 +1,86 @@
+#include "page/element_drawing.h"
+
+#include <cmath>
+#include <string>
+
+#include "map_surround/title.h"
+
+namespace host {
+namespace {
+
+/// How an element of a kind is drawn.
+struct Finish {
+    MapSurroundType kind;
+    Gdiplus::SmoothingMode smoothing;
+};
+
+// Slanted edges need smoothing. Lines and boxes along the axes are sharper without it,
+// and the thin strips of a legend's ramp would never reach their full colour with it.
+constexpr Finish kFinishes[] = {
+    {SurroundNorthArrow, Gdiplus::SmoothingModeAntiAlias},
+    {SurroundScaleBar, Gdiplus::SmoothingModeDefault},
+    {SurroundMapTitle, Gdiplus::SmoothingModeAntiAlias},
+    {SurroundLegend, Gdiplus::SmoothingModeDefault},
+    {SurroundPicture, Gdiplus::SmoothingModeAntiAlias},
+};
+
+Gdiplus::SmoothingMode SmoothingOf(MapSurroundType kind) {
+    for (const Finish& finish : kFinishes) {
+        if (finish.kind == kind) {
+            return finish.smoothing;
+        }
+    }
+    return Gdiplus::SmoothingModeAntiAlias;
+}
+
+/// The box around the ink of the unturned title at a scale, from its layout point.
+Gdiplus::Rect InkOf(const CMapTitle& title, double scale) {
+    const std::wstring text = title.GetFontValue();
+    const Gdiplus::FontFamily family(title.GetFontStyle().c_str());
+    const Gdiplus::StringFormat format(0, 0);
+    Gdiplus::GraphicsPath outline(Gdiplus::FillModeAlternate);
+    outline.AddString(text.c_str(), -1, &family, title.GetFontProcess(),
+                      static_cast<float>(title.GetFontSize() * scale),
+                      Gdiplus::PointF(0.0f, 0.0f), &format);
+    Gdiplus::Rect ink;
+    outline.GetBounds(&ink, nullptr, nullptr);
+    return ink;
+}
+
+/// A title hangs from its layout point by the side bearing and the ascent of its font.
+/// The centre that brings the middle of its ink to the given one.
+CPoint CentreForInk(const CMapTitle& title, CPoint centre, double scale) {
+    constexpr double kRadians = 3.14159265358979323846 / 180.0;
+    const Gdiplus::Rect measured = InkOf(title, 1.0);
+    const Gdiplus::Rect drawn = InkOf(title, scale);
+    const double right = drawn.X + drawn.Width * 0.5 - measured.Width * scale * 0.5;
+    const double down = drawn.Y + drawn.Height * 0.5 - measured.Height * scale * 0.5;
+    const double cosine = std::cos(double{title.GetAngle()} * kRadians);
+    const double sine = std::sin(double{title.GetAngle()} * kRadians);
+    return {centre.x - static_cast<int>(std::lround(right * cosine - down * sine)),
+            centre.y - static_cast<int>(std::lround(right * sine + down * cosine))};
+}
+
+}  // namespace
+
+void PrepareDecoration(Gdiplus::Graphics& graphics) {
+    graphics.ResetTransform();
+    graphics.SetSmoothingMode(Gdiplus::SmoothingModeDefault);
+}
+
+void DrawElement(Gdiplus::Graphics& graphics, CSurroundFrame& frame, CPoint centre,
+                 double scale) {
+    const CMapSurround* element = frame.GetMapSurround();
+    if (element == nullptr) {
+        return;
+    }
+    graphics.ResetTransform();
+    graphics.SetSmoothingMode(SmoothingOf(element->GetItemType()));
+    graphics.SetTextRenderingHint(Gdiplus::TextRenderingHintAntiAlias);
+    graphics.SetInterpolationMode(Gdiplus::InterpolationModeHighQualityBicubic);
+    const auto* title = dynamic_cast<const CMapTitle*>(element);
+    frame.Draw(&graphics, title == nullptr ? centre : CentreForInk(*title, centre, scale),
+               scale);
+}
+
+}  // namespace host

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <string>
+
+namespace host {
+
+/// Whether text in a font family is drawn in that family, or in one made to the same
+/// measures: Liberation Sans for Arial. GDI+ would draw an unknown family in any other
+/// without a word. Generic names (sans-serif, serif, monospace) are known.
+/// @param family UTF-8
+bool IsFontFamilyKnown(const std::string& family);
+
+}  // namespace host

@@ -1,0 +1,81 @@
+#include "page/layout.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "page/layout_steps.h"
+
+namespace host {
+namespace {
+
+bool HasPanel(const PageDesign& design) { return !design.picture.path.empty(); }
+
+/// The map and the panel next to it.
+struct Body {
+    Room map;
+    Room panel;
+};
+
+/// The panel to the right of the map and as high, both together in the middle.
+Body PanelBeside(const Room& room, double aspectRatio, const Measures& measures) {
+    Room left = room;
+    left.right -= measures.gap + measures.panel;
+    Body body;
+    body.map = FitMap(left, aspectRatio);
+    body.panel = {body.map.right + measures.gap, body.map.bottom,
+                  body.map.right + measures.gap + measures.panel, body.map.top};
+    return body;
+}
+
+/// The map on top, the panel as wide below it, down to the end of the room.
+Body PanelBelow(const Room& room, double aspectRatio, const Measures& measures) {
+    Room above = room;
+    above.bottom += measures.gap + measures.panel;
+    Body body;
+    body.map = FitMap(above, aspectRatio);
+    const double rise = room.top - body.map.top;
+    body.map.bottom += rise;
+    body.map.top += rise;
+    body.panel = {body.map.left, room.bottom, body.map.right,
+                  body.map.bottom - measures.gap};
+    return body;
+}
+
+/// The panel goes where it leaves the larger map.
+Body Divide(const PageDesign& design, const Room& room, double aspectRatio,
+            const Measures& measures) {
+    if (!HasPanel(design)) {
+        return {FitMap(room, aspectRatio), {}};
+    }
+    const Body beside = PanelBeside(room, aspectRatio, measures);
+    const Body below = PanelBelow(room, aspectRatio, measures);
+    return beside.map.Height() >= below.map.Height() ? beside : below;
+}
+
+void AddUnlessEmpty(Page& page, std::unique_ptr<CSurroundFrame> frame) {
+    if (frame != nullptr) {
+        page.Add(std::move(frame));
+    }
+}
+
+}  // namespace
+
+LaidOutPage LayOut(const PageDesign& design, std::shared_ptr<MapPicture> map,
+                   double aspectRatio) {
+    LaidOutPage result{Page(design.paper.width, design.paper.height), {}};
+    const Measures measures(design.paper);
+    Room room =
+        Inset({0.0, 0.0, design.paper.width, design.paper.height}, measures.margin);
+
+    std::unique_ptr<CSurroundFrame> title =
+        PlaceTitle(design, measures, room, result.remarks);
+    const Body body = Divide(design, room, aspectRatio, measures);
+
+    result.page.Add(PlaceNeatLine(design.paper, measures));
+    result.page.Add(PlaceMap(body.map, std::move(map), measures));
+    AddUnlessEmpty(result.page, std::move(title));
+    AddUnlessEmpty(result.page, PlacePicture(design, measures, body.panel));
+    return result;
+}
+
+}  // namespace host

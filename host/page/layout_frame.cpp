@@ -1,0 +1,46 @@
+#include <algorithm>
+
+#include "page/layout_steps.h"
+
+namespace host {
+
+Measures::Measures(const PaperSize& paper)
+    : module(std::min(paper.width, paper.height) / 40.0),
+      neatLine(1.0 * module),
+      margin(2.4 * module),
+      gap(1.2 * module),
+      panel(8.0 * module),
+      shadow(0.2 * module),
+      borderWidth(0.04 * module) {}
+
+std::unique_ptr<CSurroundFrame> PlaceNeatLine(const PaperSize& paper,
+                                              const Measures& measures) {
+    const Room sheet = {0.0, 0.0, paper.width, paper.height};
+    auto frame = std::make_unique<CSurroundFrame>();
+    frame->SetExtent(Inset(sheet, measures.neatLine).Box());
+    frame->DrawBorder = true;
+    frame->BorderColor = Gdiplus::Color(kLineColor);
+    frame->BorderWidth = static_cast<float>(2.0 * measures.borderWidth);
+    return frame;
+}
+
+std::unique_ptr<CSurroundFrame> MakeFrame(std::unique_ptr<CMapSurround> element,
+                                          const Room& extent, const FrameStyle& style,
+                                          const Measures& measures) {
+    auto frame = std::make_unique<CSurroundFrame>();
+    frame->SetMapSurround(element.release());
+    frame->SetExtent(extent.Box());
+    frame->DrawBorder = style.border.has_value();
+    frame->BorderColor = style.border.value_or(Gdiplus::Color(0));
+    frame->BorderWidth = static_cast<float>(measures.borderWidth);
+    frame->DrawShadow = style.shadow.has_value();
+    frame->ShadowColor = style.shadow.value_or(Gdiplus::Color(0));
+    // Both ratios come to the same distance whatever the frame's proportions.
+    frame->ShadowRatioX = static_cast<float>(measures.shadow / extent.Width());
+    frame->ShadowRatioY = static_cast<float>(measures.shadow / extent.Height());
+    frame->DrawFill = style.background.has_value();
+    frame->FillColor = style.background.value_or(Gdiplus::Color(0));
+    return frame;
+}
+
+}  // namespace host

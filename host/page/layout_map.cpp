@@ -1,0 +1,31 @@
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "page/layout_steps.h"
+
+namespace host {
+
+Room FitMap(const Room& room, double aspectRatio) {
+    // A map a hundred times as long as wide is a line; nothing is shown of it beyond.
+    const double ratio =
+        std::isnan(aspectRatio) ? 1.0 : std::clamp(aspectRatio, 0.01, 100.0);
+    const double width = std::min(room.Width(), room.Height() * ratio);
+    const double height = std::min(room.Height(), room.Width() / ratio);
+    const double left = room.left + (room.Width() - width) / 2.0;
+    const double bottom = room.bottom + (room.Height() - height) / 2.0;
+    return {left, bottom, left + width, bottom + height};
+}
+
+MapFrame PlaceMap(const Room& extent, std::shared_ptr<MapPicture> picture,
+                  const Measures& measures) {
+    MapFrame map;
+    map.picture = std::move(picture);
+    map.frame.SetExtent(extent.Box());
+    map.frame.DrawBorder = true;
+    map.frame.BorderColor = Gdiplus::Color(kLineColor);
+    map.frame.BorderWidth = static_cast<float>(measures.borderWidth);
+    return map;
+}
+
+}  // namespace host

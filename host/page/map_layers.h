@@ -1,0 +1,70 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "page/map_picture.h"
+#include "raster_data/gdal_raster.h"
+
+namespace host {
+
+/// A rectangle of the map, in the units of its coordinate system; y grows upwards.
+struct MapExtent {
+    double left = 0.0;
+    double bottom = 0.0;
+    double right = 0.0;
+    double top = 0.0;
+
+    double Width() const { return right - left; }
+    double Height() const { return top - bottom; }
+};
+
+/// A raster that is not on the map, and why.
+struct LeftOutRaster {
+    std::shared_ptr<GdalRaster> raster;
+    std::string why;
+};
+
+/// A map of rasters that lie on each other as in a list of layers: the first on top.
+///
+/// The first raster is always on the map and sets its coordinate system. The others are
+/// placed by their own georeference; one that cannot be (no georeference, a turned one,
+/// or another coordinate system) is left out. The map spans all that are placed, north
+/// up, east to the right; what would stand out from the first by no more than a hundredth
+/// of it is cut off, for grids of one area seldom end on the same line. A raster without
+/// georeference, and a turned one, is shown as it is stored, and alone.
+class MapLayers : public MapPicture {
+public:
+    /// @param rasters at least one, none null
+    explicit MapLayers(std::vector<std::shared_ptr<GdalRaster>> rasters);
+
+    PixelImage Render(int width, int height, const Progress& progress) override;
+
+    /// What the map spans: pixels and lines for a raster without georeference.
+    const MapExtent& Extent() const { return m_extent; }
+
+    /// Width divided by height.
+    double AspectRatio() const { return m_extent.Width() / m_extent.Height(); }
+
+    const std::vector<LeftOutRaster>& LeftOut() const { return m_leftOut; }
+
+private:
+    struct Layer {
+        std::shared_ptr<GdalRaster> raster;
+        MapExtent extent;
+        bool mirrored = false;    // stored from east to west
+        bool upsideDown = false;  // stored from south to north
+    };
+
+    static Layer AsStored(std::shared_ptr<GdalRaster> raster);
+    static Layer Placed(std::shared_ptr<GdalRaster> raster);
+    static PixelImage RenderLayer(const Layer& layer, int width, int height,
+                                  const Progress& progress);
+
+    std::vector<Layer> m_layers;  // the first on top
+    std::vector<LeftOutRaster> m_leftOut;
+    MapExtent m_extent;
+};
+
+}  // namespace host

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace host {
+
+/// A file that appears under its name only when it is complete.
+///
+/// It is written under a temporary name in the same folder, which goes when the object
+/// does, and on the signals that end a program (see RemoveUnfinishedOutputOnSignals).
+/// What stood under the name before stays until Commit, and stays for good when anything
+/// fails. At most one at a time.
+class OutputFile {
+public:
+    /// Begins the temporary file. Throws std::runtime_error with the reason, so that a
+    /// folder that cannot be written to is found before the work. A link is followed;
+    /// what is neither a file nor yet there (a folder, a device) is refused.
+    explicit OutputFile(const std::string& path);
+    OutputFile(const OutputFile&) = delete;
+    OutputFile& operator=(const OutputFile&) = delete;
+    ~OutputFile();
+
+    /// Writes everything, sees it onto the disk and gives it its name. Throws
+    /// std::runtime_error with the reason.
+    void Commit(const std::vector<std::uint8_t>& bytes);
+
+private:
+    std::string m_path;
+    int m_descriptor = -1;
+};
+
+/// Has the unfinished output removed when the program is interrupted, terminated or hung
+/// up on; it then ends as it would have.
+void RemoveUnfinishedOutputOnSignals();
+
+}  // namespace host

@@ -1,0 +1,62 @@
+#pragma once
+
+#include <gdiplus.h>
+
+#include <memory>
+#include <variant>
+#include <vector>
+
+#include "map_surround/frame.h"
+#include "page/map_picture.h"
+
+namespace host {
+
+/// The map on the page: a picture that fills its frame.
+struct MapFrame {
+    CFrameBase frame;
+    std::shared_ptr<MapPicture> picture;
+};
+
+/// What stands on a page: a map, or a frame with one element in it.
+using PageItem = std::variant<MapFrame, std::unique_ptr<CSurroundFrame>>;
+
+/// A sheet with maps and framed elements, drawn at any resolution.
+///
+/// Extents and sizes are in page units, y growing upwards from the bottom left corner.
+/// Items are drawn in their order; of each, its shadow and background, the map's picture,
+/// its border, its element. What a frame measures in device pixels (its border
+/// width and its gaps) is meant as on a page at 96 dpi and grows with the resolution, so
+/// that the same page looks the same at 96 and at 300 dpi.
+class Page {
+public:
+    /// A blank white sheet. @param width, height page units, above 0
+    Page(double width, double height) : m_width(width), m_height(height) {}
+
+    double Width() const { return m_width; }
+    double Height() const { return m_height; }
+
+    void Add(MapFrame map) { m_items.emplace_back(std::move(map)); }
+    void Add(std::unique_ptr<CSurroundFrame> frame) {
+        m_items.emplace_back(std::move(frame));
+    }
+
+    /// In drawing order.
+    const std::vector<PageItem>& Items() const { return m_items; }
+
+    /// Draws the sheet and every item on it. The surface's world transform is the
+    /// identity before each item. Throws what a map's picture throws.
+    /// @param dpi device pixels an inch: an A4 page is 1754 x 1240 pixels at 150 dpi
+    /// @param progress told how far the maps have been read
+    void Draw(Gdiplus::Graphics& graphics, double dpi,
+              const Progress& progress = {}) const;
+
+private:
+    double m_width;
+    double m_height;
+    std::vector<PageItem> m_items;
+};
+
+/// The size of a page in whole device pixels, at least 1 x 1.
+Gdiplus::Size PixelSize(const Page& page, double dpi);
+
+}  // namespace host

@@ -1,0 +1,11 @@
+#pragma once
+
+#include <string>
+
+namespace host {
+
+/// UTF-8 as wide text.
+/// @return false when the bytes are not valid UTF-8; `wide` then stays as it was
+bool Widen(const std::string& utf8, std::wstring& wide);
+
+}  // namespace host

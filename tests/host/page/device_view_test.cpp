@@ -1,0 +1,142 @@
+#include "page/device_view.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+
+#include "page/page.h"
+#include "page/paper.h"
+#include "page/units.h"
+
+namespace {
+
+using host::DeviceView;
+
+TEST(DeviceView, ScalesByTheResolution) {
+    EXPECT_DOUBLE_EQ(DeviceView(200.0, 96.0).Scale(), 1.0);
+    EXPECT_DOUBLE_EQ(DeviceView(200.0, 150.0).Scale(), 1.5625);
+    EXPECT_DOUBLE_EQ(DeviceView(200.0, 300.0).Scale(), 3.125);
+}
+
+struct ExtentRow {
+    double dpi;
+    CBoundingBox extent;  // of a page 200 units high
+    CRect rect;
+};
+
+TEST(DeviceView, TurnsExtentsUpsideDown) {
+    const ExtentRow rows[] = {
+        {96.0, {0.0, 0.0, 300.0, 200.0}, {0, 0, 300, 200}},
+        {96.0, {10.0, 20.0, 50.0, 100.0}, {10, 100, 50, 180}},
+        // 1.5625 pixels a unit: 15.625, 78.125; 100 x 1.5625 = 156.25, 180 x = 281.25
+        {150.0, {10.0, 20.0, 50.0, 100.0}, {16, 156, 78, 281}},
+        // 3.125 pixels a unit: 31.25, 156.25; 312.5 goes up, 562.5 too
+        {300.0, {10.0, 20.0, 50.0, 100.0}, {31, 313, 156, 563}},
+        {48.0, {1.0, 199.0, 3.0, 200.0}, {1, 0, 2, 1}},
+        // Beyond the sheet on every side: -0.5 goes up to 0, -1.5 to -1.
+        {96.0, {-0.5, -10.0, 310.0, 201.5}, {0, -1, 310, 210}},
+    };
+    for (const ExtentRow& row : rows) {
+        const CRect rect = DeviceView(200.0, row.dpi).ToDevice(row.extent);
+        EXPECT_EQ(rect.left, row.rect.left) << row.dpi;
+        EXPECT_EQ(rect.top, row.rect.top) << row.dpi;
+        EXPECT_EQ(rect.right, row.rect.right) << row.dpi;
+        EXPECT_EQ(rect.bottom, row.rect.bottom) << row.dpi;
+    }
+}
+
+TEST(DeviceView, KeepsNeighboursTouching) {
+    for (const double dpi : {72.0, 96.0, 133.0, 150.0, 300.0}) {
+        const DeviceView view(500.0, dpi);
+        for (double edge = 1.1; edge < 400.0; edge += 7.3) {
+            const CRect left = view.ToDevice(CBoundingBox(0.0, 0.0, edge, edge));
+            const CRect right = view.ToDevice(CBoundingBox(edge, edge, 450.0, 450.0));
+            EXPECT_EQ(left.right, right.left);
+            EXPECT_EQ(left.top, right.bottom);
+        }
+    }
+}
+
+TEST(DeviceView, TakesAnyNumber) {
+    const double infinity = std::numeric_limits<double>::infinity();
+    const DeviceView view(100.0, 96.0);
+    EXPECT_EQ(view.ToDevice(std::nan("")), 0);
+    EXPECT_EQ(view.ToDevice(infinity), 1000000000);
+    EXPECT_EQ(view.ToDevice(-infinity), -1000000000);
+    EXPECT_EQ(view.ToDevice(1.0e300), 1000000000);
+}
+
+TEST(DeviceView, FindsTheMiddleOfARectangle) {
+    EXPECT_EQ(host::Centre(CRect(10, 20, 30, 60)).x, 20);
+    EXPECT_EQ(host::Centre(CRect(10, 20, 30, 60)).y, 40);
+    EXPECT_EQ(host::Centre(CRect(10, 20, 31, 61)).x, 20);
+    EXPECT_EQ(host::Centre(CRect(10, 20, 31, 61)).y, 40);
+}
+
+struct PaperRow {
+    const char* text;
+    double widthMillimetres;
+    double heightMillimetres;
+};
+
+TEST(Paper, IsReadByNameOrByItsSides) {
+    const PaperRow rows[] = {
+        {"A4", 297.0, 210.0},      {"a3", 420.0, 297.0},
+        {"A0", 1189.0, 841.0},     {"b5", 250.0, 176.0},
+        {"Letter", 279.4, 215.9},  {"LEGAL", 355.6, 215.9},
+        {"tabloid", 431.8, 279.4}, {"100x50", 100.0, 50.0},
+        {"20x5000", 20.0, 5000.0}, {"100.5X50.25", 100.5, 50.25},
+    };
+    for (const PaperRow& row : rows) {
+        host::PaperSize paper;
+        ASSERT_TRUE(host::ParsePaperSize(row.text, paper)) << row.text;
+        EXPECT_DOUBLE_EQ(paper.width, row.widthMillimetres * 96.0 / 25.4) << row.text;
+        EXPECT_DOUBLE_EQ(paper.height, row.heightMillimetres * 96.0 / 25.4) << row.text;
+    }
+}
+
+TEST(Paper, RefusesWhatIsNone) {
+    for (const char* text :
+         {"", "A7", "A", "x", "100x", "x50", "100", "100x50x20", "100 x 50", "19.9x50",
+          "100x5001", "-100x50", "1e999x50", "nanx50", "infx50", "100,5x50", "0x0"}) {
+        host::PaperSize paper{1.0, 2.0};
+        EXPECT_FALSE(host::ParsePaperSize(text, paper)) << text;
+        EXPECT_EQ(paper.width, 1.0) << text;
+        EXPECT_EQ(paper.height, 2.0) << text;
+    }
+}
+
+struct PixelRow {
+    const char* paper;
+    double dpi;
+    int width;
+    int height;
+};
+
+TEST(Paper, HasWholePixels) {
+    const PixelRow rows[] = {
+        {"A4", 96.0, 1123, 794},    // 1122.5 x 793.7
+        {"A4", 150.0, 1754, 1240},  // 1753.9 x 1240.2
+        {"A4", 300.0, 3508, 2480},  // 3507.9 x 2480.3
+        {"Letter", 100.0, 1100, 850}, {"100x50", 254.0, 1000, 500},
+        {"20x20", 1.0, 1, 1},  // 0.79
+        {"20x20", 0.1, 1, 1},  // never none
+    };
+    for (const PixelRow& row : rows) {
+        host::PaperSize paper;
+        ASSERT_TRUE(host::ParsePaperSize(row.paper, paper));
+        const Gdiplus::Size size =
+            host::PixelSize(host::Page(paper.width, paper.height), row.dpi);
+        EXPECT_EQ(size.Width, row.width) << row.paper << " " << row.dpi;
+        EXPECT_EQ(size.Height, row.height) << row.paper << " " << row.dpi;
+    }
+}
+
+TEST(Units, AreNinetySixthsOfAnInch) {
+    EXPECT_DOUBLE_EQ(host::UnitsFromMillimetres(25.4), 96.0);
+    EXPECT_DOUBLE_EQ(host::UnitsFromPoints(18.0), 24.0);
+    EXPECT_DOUBLE_EQ(host::PointsFromUnits(24.0), 18.0);
+}
+
+}  // namespace
