@@ -1,0 +1,167 @@
+#include "map_page/draw_page.h"
+
+#include <sys/stat.h>
+
+#include <cerrno>
+#include <cstddef>
+#include <cstdint>
+#include <cstdio>
+#include <memory>
+#include <system_error>
+#include <utility>
+#include <vector>
+
+#include "map_page/error.h"
+#include "map_page/progress_line.h"
+#include "map_page/quiet.h"
+#include "page/fonts.h"
+#include "page/image_file.h"
+#include "page/layout.h"
+#include "page/map_layers.h"
+#include "page/output_file.h"
+
+namespace map_page {
+namespace {
+
+// libgdiplus draws on surfaces of at most 32767 pixels a side; A0 at 400 dpi is 248
+// million pixels.
+constexpr int kLongestSide = 32767;
+constexpr std::int64_t kMostPixels = 250'000'000;
+
+void Warn(const std::string& what) {
+    std::fprintf(stderr, "map_page: warning: %s\n", what.c_str());
+}
+
+void CheckIsFile(const std::string& path) {
+    struct stat status = {};
+    if (stat(path.c_str(), &status) != 0) {
+        throw Error(path, std::generic_category().message(errno));
+    }
+    if (S_ISDIR(status.st_mode)) {
+        throw Error(path, std::generic_category().message(EISDIR));
+    }
+}
+
+std::vector<std::shared_ptr<host::GdalRaster>> OpenRasters(
+    const std::vector<std::string>& paths) {
+    std::vector<std::shared_ptr<host::GdalRaster>> rasters;
+    for (const std::string& path : paths) {
+        std::string why;
+        std::shared_ptr<host::GdalRaster> raster = host::GdalRaster::Open(path, why);
+        if (raster == nullptr) {
+            throw Error(path, why);
+        }
+        rasters.push_back(std::move(raster));
+    }
+    return rasters;
+}
+
+/// The picture element takes any file; so it is opened once before.
+void CheckPicture(const Options& options) {
+    if (options.picture.empty()) {
+        return;
+    }
+    CheckIsFile(options.picture);
+    const Quiet quiet;
+    Gdiplus::Image image(options.design.picture.path.c_str());
+    if (image.GetLastStatus() != Gdiplus::Ok || image.GetWidth() == 0 ||
+        image.GetHeight() == 0) {
+        throw Error(options.picture, "is no image that can be read");
+    }
+}
+
+void CheckFont(const Options& options) {
+    if (!host::IsFontFamilyKnown(options.titleFamily)) {
+        throw Error("--title-font",
+                    "no font family \"" + options.titleFamily + "\" is installed");
+    }
+}
+
+host::ImageFormat CheckFormat(const std::string& output) {
+    const std::optional<host::ImageFormat> format = host::FormatOf(output);
+    if (!format) {
+        throw Error(output, "ends in none of .png .jpg .jpeg .bmp .tif .tiff");
+    }
+    return *format;
+}
+
+Gdiplus::Size CheckPixels(const host::Page& page, double dpi) {
+    const Gdiplus::Size size = host::PixelSize(page, dpi);
+    if (size.Width > kLongestSide || size.Height > kLongestSide ||
+        std::int64_t{size.Width} * size.Height > kMostPixels) {
+        throw Error("--dpi", "the page would have " + std::to_string(size.Width) + " x " +
+                                 std::to_string(size.Height) +
+                                 " pixels; at most 32767 a side and 250 million are "
+                                 "drawn");
+    }
+    return size;
+}
+
+/// Runs a step whose exception has the reason but not the thing.
+template <typename Step>
+auto Naming(const std::string& thing, Step step) {
+    try {
+        return step();
+    } catch (const Error&) {
+        throw;
+    } catch (const std::runtime_error& error) {
+        throw Error(thing, error.what());
+    }
+}
+
+void Draw(const host::Page& page, Gdiplus::Bitmap& bitmap, double dpi,
+          ProgressLine& line) {
+    line.Begin("reading the rasters");
+    Gdiplus::Graphics graphics(&bitmap);
+    page.Draw(graphics, dpi, [&line](double part) {
+        line.Show(part);
+        return true;
+    });
+}
+
+std::vector<std::uint8_t> DrawAndEncode(const host::Page& page, Gdiplus::Size size,
+                                        double dpi, host::ImageFormat format,
+                                        ProgressLine& line) {
+    Gdiplus::Bitmap bitmap(size.Width, size.Height, PixelFormat24bppRGB);
+    if (bitmap.GetLastStatus() != Gdiplus::Ok) {
+        throw std::bad_alloc();
+    }
+    Draw(page, bitmap, dpi, line);
+    line.Begin("encoding the image");
+    const Quiet quiet;
+    return host::Encode(bitmap, format, dpi);
+}
+
+}  // namespace
+
+void DrawPage(const Options& options) {
+    const host::ImageFormat format = CheckFormat(options.output);
+    CheckFont(options);
+    CheckPicture(options);
+    const auto map = std::make_shared<host::MapLayers>(OpenRasters(options.rasters));
+    for (const host::LeftOutRaster& raster : map->LeftOut()) {
+        Warn(raster.raster->Path() + ": left off the map: " + raster.why);
+    }
+
+    const host::LaidOutPage laidOut =
+        host::LayOut(options.design, map, map->AspectRatio());
+    for (const std::string& remark : laidOut.remarks) {
+        Warn(remark);
+    }
+    const Gdiplus::Size size = CheckPixels(laidOut.page, options.dpi);
+
+    std::size_t written = 0;
+    Naming(options.output, [&] {
+        host::OutputFile output(options.output);
+        ProgressLine line;
+        const std::vector<std::uint8_t> bytes =
+            DrawAndEncode(laidOut.page, size, options.dpi, format, line);
+        line.Begin("writing the file");
+        output.Commit(bytes);
+        written = bytes.size();
+    });
+    std::printf("%s: %d x %d pixels, %zu bytes\n", options.output.c_str(), size.Width,
+                size.Height, written);
+}
+
+}  // namespace map_page

@@ -1,0 +1,151 @@
+#include "map_page/options.h"
+
+#include <CLI/CLI.hpp>
+#include <iostream>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "map_page/error.h"
+#include "map_page/values.h"
+
+namespace map_page {
+namespace {
+
+constexpr const char* kDescription =
+    "Draws rasters as a map on a page with a title and a picture, into an image file.";
+
+constexpr const char* kFooter = R"(
+The rasters lie on each other as in a list of layers: the first is on top and sets the
+coordinate system. The map spans all of them. A raster that has another coordinate system
+or no georeference is left off the map, with a warning.
+
+COLOR is on (the default colour), off, #RRGGBB, #RRGGBBAA or one of black white gray
+silver red maroon yellow olive lime green aqua teal blue navy fuchsia purple orange.
+
+Exit status: 0 when the page was drawn, 1 when it could not be, 2 for a wrong call.
+
+Examples:
+  map_page scene.tif -o page.png --title "Olinda" --picture logo.png
+  map_page west.tif east.tif -o page.jpg --size A3 --dpi 300 --shadow off)";
+
+/// The option values as they were given.
+struct Given {
+    std::vector<std::string> rasters;
+    std::string output;
+    std::string title;
+    std::string titleFont = "Arial";
+    std::optional<std::string> titleSize;
+    std::string titleStyle = "bold";
+    std::string picture;
+    std::string size = "A4";
+    bool portrait = false;
+    std::string dpi = "150";
+    std::string border = "on";
+    std::string shadow = "on";
+    std::string background = "on";
+};
+
+// Every value is read as text, so that one that makes no sense is told from a call that
+// does not.
+void Declare(CLI::App& app, Given& given) {
+    app.set_version_flag("--version", "map_page " MAP_SURROUND_VERSION,
+                         "Print the version and exit");
+    app.set_help_flag("-h,--help", "Print this help and exit");
+    app.footer(kFooter);
+
+    app.add_option("RASTER", given.rasters,
+                   "Any raster that GDAL opens; the first on top")
+        ->required()
+        ->type_name("");
+    app.add_option("-o,--output", given.output, "Image to write: .png .jpg .bmp or .tif")
+        ->required()
+        ->type_name("FILE");
+
+    app.add_option("--title", given.title, "Title above the map")
+        ->type_name("TEXT")
+        ->group("Title");
+    app.add_option("--title-font", given.titleFont, "Font family (Arial)")
+        ->type_name("NAME")
+        ->group("Title");
+    app.add_option("--title-size", given.titleSize,
+                   "Type size, 1 to 1000 points (what suits the page)")
+        ->type_name("POINTS")
+        ->group("Title");
+    app.add_option("--title-style", given.titleStyle,
+                   "regular, bold, italic or bold-italic (bold)")
+        ->type_name("STYLE")
+        ->group("Title");
+
+    app.add_option("--picture", given.picture,
+                   "Image beside the map, such as a logo: PNG, JPEG, BMP, TIFF or GIF")
+        ->type_name("FILE")
+        ->group("Picture");
+
+    app.add_option("--size", given.size,
+                   "A0 to A6, B0 to B5, Letter, Legal, Tabloid, or millimetres as "
+                   "WIDTHxHEIGHT (A4)")
+        ->type_name("SIZE")
+        ->group("Page");
+    app.add_flag("--portrait", given.portrait, "Stand the page upright")->group("Page");
+    app.add_option("--dpi", given.dpi, "Resolution, 10 to 2400 pixels an inch (150)")
+        ->type_name("NUMBER")
+        ->group("Page");
+
+    app.add_option("--border", given.border, "Border of the frames (on)")
+        ->type_name("COLOR")
+        ->group("Frames");
+    app.add_option("--shadow", given.shadow, "Shadow of the frames (on)")
+        ->type_name("COLOR")
+        ->group("Frames");
+    app.add_option("--background", given.background, "Background of the frames (on)")
+        ->type_name("COLOR")
+        ->group("Frames");
+}
+
+Options Check(const Given& given) {
+    Options options;
+    options.rasters = given.rasters;
+    options.output = given.output;
+    options.dpi = ReadNumber("--dpi", given.dpi, 10.0, 2400.0);
+
+    host::PageDesign& design = options.design;
+    design.paper = ReadPaper("--size", given.size, given.portrait);
+
+    options.titleFamily = given.titleFont;
+    design.title.text = ReadText("--title", given.title);
+    design.title.family = ReadText("--title-font", given.titleFont);
+    design.title.style = ReadFontStyle("--title-style", given.titleStyle);
+    if (given.titleSize) {
+        design.title.points = ReadNumber("--title-size", *given.titleSize, 1.0, 1000.0);
+    }
+
+    options.picture = given.picture;
+    design.picture.path = ReadText("--picture", given.picture);
+
+    const host::FrameStyle byDefault;
+    design.frames.border = ReadColor("--border", given.border, byDefault.border);
+    design.frames.shadow = ReadColor("--shadow", given.shadow, byDefault.shadow);
+    design.frames.background =
+        ReadColor("--background", given.background, byDefault.background);
+    return options;
+}
+
+}  // namespace
+
+std::optional<Options> ReadCommandLine(int argc, const char* const* argv) {
+    CLI::App app(kDescription, "map_page");
+    Given given;
+    Declare(app, given);
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::Success& asked) {
+        app.exit(asked, std::cout, std::cerr);
+        return std::nullopt;
+    } catch (const CLI::ParseError& error) {
+        throw UsageError(error.what(), "see map_page --help");
+    }
+    return Check(given);
+}
+
+}  // namespace map_page

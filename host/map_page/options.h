@@ -1,0 +1,26 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "page/page_design.h"
+
+namespace map_page {
+
+/// What the command line asks for, checked as far as it can be without opening a file.
+struct Options {
+    std::vector<std::string> rasters;
+    std::string output;
+    double dpi = 150.0;
+    host::PageDesign design;
+    std::string picture;      ///< as given; design.picture holds it as wide text
+    std::string titleFamily;  ///< likewise
+};
+
+/// Reads the command line.
+/// @return none when only help or the version was asked for, which is then printed.
+/// Throws UsageError for a wrong call and Error for a value that makes no sense.
+std::optional<Options> ReadCommandLine(int argc, const char* const* argv);
+
+}  // namespace map_page

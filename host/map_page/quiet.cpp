@@ -1,0 +1,29 @@
+#include "map_page/quiet.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cstdio>
+
+namespace map_page {
+
+Quiet::Quiet() : m_standardError(fcntl(STDERR_FILENO, F_DUPFD_CLOEXEC, 3)) {
+    const int nowhere = open("/dev/null", O_WRONLY | O_CLOEXEC);
+    if (m_standardError >= 0 && nowhere >= 0) {
+        std::fflush(stderr);
+        dup2(nowhere, STDERR_FILENO);
+    }
+    if (nowhere >= 0) {
+        close(nowhere);
+    }
+}
+
+Quiet::~Quiet() {
+    if (m_standardError >= 0) {
+        std::fflush(stderr);
+        dup2(m_standardError, STDERR_FILENO);
+        close(m_standardError);
+    }
+}
+
+}  // namespace map_page

@@ -1,0 +1,130 @@
+#include "map_page/values.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cstdint>
+#include <string_view>
+#include <utility>
+
+#include "map_page/error.h"
+#include "page/numbers_from_text.h"
+#include "page/text.h"
+
+namespace map_page {
+namespace {
+
+template <typename Value>
+struct Named {
+    std::string_view name;
+    Value value;
+};
+
+constexpr Named<Gdiplus::ARGB> kColors[] = {
+    {"black", 0xFF000000},   {"white", 0xFFFFFFFF},  {"gray", 0xFF808080},
+    {"grey", 0xFF808080},    {"silver", 0xFFC0C0C0}, {"red", 0xFFFF0000},
+    {"maroon", 0xFF800000},  {"yellow", 0xFFFFFF00}, {"olive", 0xFF808000},
+    {"lime", 0xFF00FF00},    {"green", 0xFF008000},  {"aqua", 0xFF00FFFF},
+    {"teal", 0xFF008080},    {"blue", 0xFF0000FF},   {"navy", 0xFF000080},
+    {"fuchsia", 0xFFFF00FF}, {"purple", 0xFF800080}, {"orange", 0xFFFFA500},
+};
+
+constexpr Named<FontProcess> kFontStyles[] = {
+    {"regular", FontProcessRegular},
+    {"bold", FontProcessBold},
+    {"italic", FontProcessItalic},
+    {"bold-italic", FontProcessBoldItalic},
+};
+
+std::string Quoted(const std::string& text) { return "\"" + text + "\""; }
+
+/// "12", not "12.000000".
+std::string Plain(double value) {
+    char buffer[32];
+    const std::to_chars_result end =
+        std::to_chars(std::begin(buffer), std::end(buffer), value);
+    return {std::begin(buffer), end.ptr};
+}
+
+/// Reads #RRGGBB and #RRGGBBAA.
+std::optional<Gdiplus::Color> ReadHexColor(const std::string& text) {
+    if ((text.size() != 7 && text.size() != 9) || text.front() != '#') {
+        return std::nullopt;
+    }
+    std::uint32_t value = 0;
+    const char* const end = text.data() + text.size();
+    const std::from_chars_result result =
+        std::from_chars(text.data() + 1, end, value, 16);
+    if (result.ec != std::errc() || result.ptr != end) {
+        return std::nullopt;
+    }
+    return text.size() == 7 ? Gdiplus::Color(0xFF000000 | value)
+                            : Gdiplus::Color((value << 24) | (value >> 8));
+}
+
+}  // namespace
+
+double ReadNumber(const std::string& option, const std::string& text, double lowest,
+                  double highest) {
+    double value = 0.0;
+    if (!host::ParseNumber(text, value) || value < lowest || value > highest) {
+        throw Error(option, Quoted(text) + " is no number from " + Plain(lowest) +
+                                " to " + Plain(highest));
+    }
+    return value;
+}
+
+std::optional<Gdiplus::Color> ReadColor(const std::string& option,
+                                        const std::string& text,
+                                        std::optional<Gdiplus::Color> byDefault) {
+    if (text == "on") {
+        return byDefault;
+    }
+    if (text == "none" || text == "off") {
+        return std::nullopt;
+    }
+    for (const Named<Gdiplus::ARGB>& color : kColors) {
+        if (color.name == text) {
+            return Gdiplus::Color(color.value);
+        }
+    }
+    if (const std::optional<Gdiplus::Color> color = ReadHexColor(text)) {
+        return color;
+    }
+    throw Error(option, Quoted(text) +
+                            " is neither on, off, #RRGGBB, #RRGGBBAA nor the name of a "
+                            "colour");
+}
+
+FontProcess ReadFontStyle(const std::string& option, const std::string& text) {
+    for (const Named<FontProcess>& style : kFontStyles) {
+        if (style.name == text) {
+            return style.value;
+        }
+    }
+    throw Error(option,
+                Quoted(text) + " is neither regular, bold, italic nor bold-italic");
+}
+
+std::wstring ReadText(const std::string& option, const std::string& text) {
+    std::wstring wide;
+    if (!host::Widen(text, wide)) {
+        throw Error(option, "is not valid UTF-8");
+    }
+    return wide;
+}
+
+host::PaperSize ReadPaper(const std::string& option, const std::string& text,
+                          bool portrait) {
+    host::PaperSize paper;
+    if (!host::ParsePaperSize(text, paper)) {
+        throw Error(option, Quoted(text) +
+                                " is neither a paper size (A4, Letter, ...) nor "
+                                "WIDTHxHEIGHT with sides from 20 to 5000 mm");
+    }
+    if (portrait && paper.width > paper.height) {
+        std::swap(paper.width, paper.height);
+    }
+    return paper;
+}
+
+}  // namespace map_page

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <gdiplus.h>
+
+#include <optional>
+#include <string>
+
+#include "map_surround/title.h"
+#include "page/page_design.h"
+
+namespace map_page {
+
+// Readers of option values. Each throws Error that names the option and says what it
+// takes.
+
+/// A number from `lowest` to `highest`.
+double ReadNumber(const std::string& option, const std::string& text, double lowest,
+                  double highest);
+
+/// "none" is no colour; else one of a few names, #RRGGBB or #RRGGBBAA. "on" leaves the
+/// colour as it is by default, "off" is none.
+std::optional<Gdiplus::Color> ReadColor(const std::string& option,
+                                        const std::string& text,
+                                        std::optional<Gdiplus::Color> byDefault);
+
+FontProcess ReadFontStyle(const std::string& option, const std::string& text);
+
+/// UTF-8 as wide text.
+std::wstring ReadText(const std::string& option, const std::string& text);
+
+/// A sheet; upright when `portrait` is set and it is wider than high.
+host::PaperSize ReadPaper(const std::string& option, const std::string& text,
+                          bool portrait);
+
+}  // namespace map_page

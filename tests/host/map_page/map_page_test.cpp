@@ -1,0 +1,427 @@
+#include <gdiplus.h>
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <array>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+#include <vector>
+
+#include "page/made_raster.h"
+#include "png_encoder.h"
+#include "scratch_folder.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+using Arguments = std::vector<std::string>;
+
+/// GDI+ for reading the pictures back.
+class GdiplusRunning : public ::testing::Environment {
+    void SetUp() override {
+        const Gdiplus::GdiplusStartupInput input;
+        ASSERT_EQ(Gdiplus::GdiplusStartup(&m_token, &input, nullptr), Gdiplus::Ok);
+    }
+    void TearDown() override { Gdiplus::GdiplusShutdown(m_token); }
+    ULONG_PTR m_token = 0;
+};
+const auto* const kRunning = ::testing::AddGlobalTestEnvironment(new GdiplusRunning);
+
+struct Result {
+    int status = -1;  ///< 128 and the signal when it was killed
+    std::string out;
+    std::string err;
+};
+
+std::string ContentsOf(const std::string& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+/// Runs map_page in a folder.
+Result RunMapPage(const ScratchFolder& folder, const Arguments& arguments) {
+    const std::string out =
+        ::testing::TempDir() + "map_page_out." + std::to_string(getpid());
+    const std::string err =
+        ::testing::TempDir() + "map_page_err." + std::to_string(getpid());
+    const pid_t child = fork();
+    if (child == 0) {
+        std::vector<char*> argv;
+        std::string program = MAP_PAGE_PROGRAM;
+        argv.push_back(program.data());
+        Arguments kept = arguments;
+        for (std::string& argument : kept) {
+            argv.push_back(argument.data());
+        }
+        argv.push_back(nullptr);
+        if (chdir(folder.Path().c_str()) == 0 &&
+            std::freopen(out.c_str(), "w", stdout) != nullptr &&
+            std::freopen(err.c_str(), "w", stderr) != nullptr) {
+            execv(program.c_str(), argv.data());
+        }
+        _exit(127);
+    }
+    int status = 0;
+    waitpid(child, &status, 0);
+    Result result;
+    result.status = WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
+    result.out = ContentsOf(out);
+    result.err = ContentsOf(err);
+    fs::remove(out);
+    fs::remove(err);
+    return result;
+}
+
+/// A picture file, read back.
+class Pixels {
+public:
+    explicit Pixels(const std::string& path)
+        : m_bitmap(std::wstring(path.begin(), path.end()).c_str()) {}
+
+    int Width() { return static_cast<int>(m_bitmap.GetWidth()); }
+    int Height() { return static_cast<int>(m_bitmap.GetHeight()); }
+
+    Gdiplus::Color At(int x, int y) {
+        Gdiplus::Color color;
+        m_bitmap.GetPixel(x, y, &color);
+        return color;
+    }
+
+    /// The share of pixels that are not white in a part of the page, whose sides are
+    /// fractions of it from the top left.
+    double Ink(double left, double top, double right, double bottom) {
+        int inked = 0;
+        int all = 0;
+        for (int y = static_cast<int>(top * Height()); y < bottom * Height(); ++y) {
+            for (int x = static_cast<int>(left * Width()); x < right * Width(); ++x) {
+                ++all;
+                const Gdiplus::Color color = At(x, y);
+                const bool white =
+                    color.GetR() > 250 && color.GetG() > 250 && color.GetB() > 250;
+                inked += white ? 0 : 1;
+            }
+        }
+        return static_cast<double>(inked) / all;
+    }
+
+private:
+    Gdiplus::Bitmap m_bitmap;
+};
+
+class MapPage : public ::testing::Test {
+protected:
+    MapPage() {
+        WriteScene(folder.Path("scene.tif"), 120, 120);
+        Gdiplus::Bitmap logo(64, 64, PixelFormat32bppARGB);
+        {
+            Gdiplus::Graphics graphics(&logo);
+            graphics.Clear(Gdiplus::Color(0, 128, 0));
+        }
+        const std::string path = folder.Path("logo.png");
+        logo.Save(std::wstring(path.begin(), path.end()).c_str(),
+                  &host_tests::kPngEncoder);
+    }
+
+    Result Draw(Arguments arguments) const { return RunMapPage(folder, arguments); }
+
+    ScratchFolder folder;
+};
+
+struct SizeRow {
+    Arguments options;
+    int width;
+    int height;
+};
+
+TEST_F(MapPage, HasTheSizeAskedFor) {
+    const SizeRow rows[] = {
+        {{}, 1754, 1240},
+        {{"--dpi", "96"}, 1123, 794},
+        {{"--dpi", "300"}, 3508, 2480},
+        {{"--portrait"}, 1240, 1754},
+        {{"--size", "Letter", "--dpi", "100"}, 1100, 850},
+        {{"--size", "a5", "--portrait", "--dpi", "96"}, 559, 794},
+        {{"--size", "100x50", "--dpi", "254"}, 1000, 500},
+        {{"--size", "50x100", "--dpi", "254", "--portrait"}, 500, 1000},
+    };
+    for (const SizeRow& row : rows) {
+        Arguments arguments = {"scene.tif", "-o", "page.png"};
+        arguments.insert(arguments.end(), row.options.begin(), row.options.end());
+        const Result result = Draw(arguments);
+        ASSERT_EQ(result.status, 0) << result.err;
+        EXPECT_EQ(result.err, "");
+        EXPECT_EQ(result.out, "page.png: " + std::to_string(row.width) + " x " +
+                                  std::to_string(row.height) + " pixels, " +
+                                  std::to_string(fs::file_size(folder.Path("page.png"))) +
+                                  " bytes\n");
+        Pixels pixels(folder.Path("page.png"));
+        EXPECT_EQ(pixels.Width(), row.width);
+        EXPECT_EQ(pixels.Height(), row.height);
+    }
+}
+
+TEST_F(MapPage, ShowsMapTitleAndPicture) {
+    ASSERT_EQ(Draw({"scene.tif", "-o", "page.png", "--title", "A scene", "--picture",
+                    "logo.png"})
+                  .status,
+              0);
+    Pixels page(folder.Path("page.png"));
+    EXPECT_GT(page.Ink(0.4, 0.06, 0.6, 0.13), 0.1) << "the title";
+    EXPECT_GT(page.Ink(0.25, 0.25, 0.6, 0.9), 0.99) << "the map";
+    EXPECT_GT(page.Ink(0.71, 0.73, 0.86, 0.95), 0.4) << "the picture";
+    EXPECT_LT(page.Ink(0.71, 0.3, 0.86, 0.7), 0.01) << "above the picture";
+    EXPECT_LT(page.Ink(0.03, 0.03, 0.97, 0.055), 0.01) << "above the title";
+    // North-west is dark and the scene gets redder eastwards, as it was made.
+    EXPECT_GT(page.At(1100, 700).GetR(), page.At(400, 700).GetR() + 50);
+
+    ASSERT_EQ(Draw({"scene.tif", "-o", "bare.png"}).status, 0);
+    Pixels bare(folder.Path("bare.png"));
+    EXPECT_LT(bare.Ink(0.83, 0.1, 0.97, 0.95), 0.01) << "no picture";
+    EXPECT_GT(bare.Ink(0.3, 0.1, 0.7, 0.9), 0.99) << "the map takes the title's room";
+}
+
+TEST_F(MapPage, DrawsFramesAsAskedFor) {
+    const Arguments base = {
+        "scene.tif", "-o",      "page.png", "--title", "Title",        "--dpi",    "96",
+        "--border",  "#FF0000", "--shadow", "lime",    "--background", "#0000FFFF"};
+    const auto count = [this](Gdiplus::ARGB argb) {
+        Pixels page(folder.Path("page.png"));
+        int found = 0;
+        for (int y = 0; y < page.Height() / 5; ++y) {
+            for (int x = 0; x < page.Width(); ++x) {
+                found += page.At(x, y).GetValue() == argb ? 1 : 0;
+            }
+        }
+        return found;
+    };
+    ASSERT_EQ(Draw(base).status, 0);
+    EXPECT_GT(count(0xFFFF0000), 100);
+    EXPECT_GT(count(0xFF00FF00), 100);
+    EXPECT_GT(count(0xFF0000FF), 1000);
+
+    Arguments off = base;
+    off[8] = off[10] = off[12] = "off";
+    ASSERT_EQ(Draw(off).status, 0);
+    EXPECT_EQ(count(0xFFFF0000), 0);
+    EXPECT_EQ(count(0xFF00FF00), 0);
+    EXPECT_EQ(count(0xFF0000FF), 0);
+}
+
+TEST_F(MapPage, WritesTheFormatOfTheEnding) {
+    const std::pair<std::string, std::string> rows[] = {
+        {"page.png", "\x89PNG\r\n\x1A\n"},
+        {"page.PNG", "\x89PNG\r\n\x1A\n"},
+        {"page.jpg", "\xFF\xD8\xFF"},
+        {"page.jpeg", "\xFF\xD8\xFF"},
+        {"page.bmp", "BM"},
+        {"page.tif", std::string("II*\0", 4)},
+        {"page.tiff", std::string("II*\0", 4)},
+    };
+    for (const auto& [name, magic] : rows) {
+        const Result result = Draw({"scene.tif", "-o", name, "--dpi", "40"});
+        ASSERT_EQ(result.status, 0) << name << result.err;
+        EXPECT_EQ(ContentsOf(folder.Path(name)).substr(0, magic.size()), magic) << name;
+        EXPECT_EQ(Pixels(folder.Path(name)).Width(), 468) << name;
+    }
+}
+
+TEST_F(MapPage, DrawsTheSameEachTime) {
+    const Arguments arguments = {"scene.tif", "-o",        "a.png",   "--title",
+                                 "Same",      "--picture", "logo.png"};
+    ASSERT_EQ(Draw(arguments).status, 0);
+    const std::string first = ContentsOf(folder.Path("a.png"));
+    ASSERT_EQ(Draw(arguments).status, 0);
+    EXPECT_TRUE(ContentsOf(folder.Path("a.png")) == first);
+    EXPECT_GT(first.size(), 10000u);
+}
+
+TEST_F(MapPage, EndsCleanlyAfterAnyTitle) {
+    for (const char* title : {"奥林达和累西腓", "Olinda 奥林达", "\xF0\x9F\x97\xBA map",
+                              "مدينة", " ", "", "%s %n \\ \"", "-"}) {
+        const Result result =
+            Draw({"scene.tif", "-o", "page.png", "--dpi", "60", "--title", title});
+        EXPECT_EQ(result.status, 0) << title << ": " << result.err;
+        EXPECT_EQ(result.err, "") << title;
+    }
+}
+
+TEST_F(MapPage, TakesTheFontAskedFor) {
+    const auto draw = [this](const std::string& font, const std::string& style) {
+        const Result result =
+            Draw({"scene.tif", "-o", "page.png", "--dpi", "60", "--title", "Recife",
+                  "--title-font", font, "--title-style", style});
+        EXPECT_EQ(result.status, 0) << result.err;
+        return ContentsOf(folder.Path("page.png"));
+    };
+    const std::string sans = draw("Arial", "bold");
+    EXPECT_TRUE(draw("Liberation Sans", "bold") == sans);
+    EXPECT_FALSE(draw("Times New Roman", "bold") == sans);
+    EXPECT_FALSE(draw("Arial", "regular") == sans);
+    EXPECT_FALSE(draw("Arial", "bold-italic") == sans);
+}
+
+TEST_F(MapPage, WarnsOfARasterItCannotPlace) {
+    MadeRaster other;
+    other.transform = {0.0, 1.0, 0.0, 0.0, 0.0, -1.0};
+    other.projection = "EPSG:4326";
+    WriteRaster(folder.Path("other.tif"), other);
+    const Result result = Draw({"scene.tif", "other.tif", "-o", "page.png"});
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.err,
+              "map_page: warning: other.tif: left off the map: its coordinate system is "
+              "not that of the first raster\n");
+}
+
+struct ErrorRow {
+    int status;
+    std::string line;  ///< after "map_page: "; a "*" at the end stands for anything
+    Arguments arguments;
+};
+
+TEST_F(MapPage, SaysWhatIsWrongInOneLine) {
+    std::ofstream(folder.Path("text.tif")) << "not a raster";
+    std::ofstream(folder.Path("text.png")) << "not a picture";
+    std::ofstream(folder.Path("empty.png")).close();
+    std::ofstream(folder.Path("cut.png"))
+        << ContentsOf(folder.Path("logo.png")).substr(0, 60);
+    fs::create_directory(folder.Path("folder"));
+    fs::create_directory(folder.Path("folder.png"));
+    const std::string before = "what was here before";
+    std::ofstream(folder.Path("page.png")) << before;
+    const std::vector<std::string> names = folder.Names();
+
+    const auto with = [](Arguments more) {
+        Arguments arguments = {"scene.tif", "-o", "page.png"};
+        arguments.insert(arguments.end(), more.begin(), more.end());
+        return arguments;
+    };
+    const std::string noImage = ": is no image that can be read";
+    const std::string noColor =
+        " is neither on, off, #RRGGBB, #RRGGBBAA nor the name of a colour";
+    const std::string noPaper =
+        " is neither a paper size (A4, Letter, ...) nor WIDTHxHEIGHT with sides from 20 "
+        "to 5000 mm";
+    const ErrorRow rows[] = {
+        {1, "missing.tif: *", {"missing.tif", "-o", "page.png"}},
+        {1, "text.tif: *", {"text.tif", "-o", "page.png"}},
+        {1, "folder: *", {"folder", "-o", "page.png"}},
+        {1, "missing.tif: *", with({"missing.tif"})},
+        {1, "--title-font: no font family \"No Such\" is installed",
+         with({"--title", "a", "--title-font", "No Such"})},
+        {1, "--title-font: no font family \"\" is installed", with({"--title-font", ""})},
+        {1, "--title: is not valid UTF-8", with({"--title", "\xFF\xFE"})},
+        {1, "missing.png: No such file or directory", with({"--picture", "missing.png"})},
+        {1, "folder: Is a directory", with({"--picture", "folder"})},
+        {1, "text.png" + noImage, with({"--picture", "text.png"})},
+        {1, "empty.png" + noImage, with({"--picture", "empty.png"})},
+        {1, "cut.png" + noImage, with({"--picture", "cut.png"})},
+        {1,
+         "missing/page.png: No such file or directory",
+         {"scene.tif", "-o", "missing/page.png"}},
+        {1,
+         "text.tif/page.png: Not a directory",
+         {"scene.tif", "-o", "text.tif/page.png"}},
+        {1, "folder.png: Is a directory", {"scene.tif", "-o", "folder.png"}},
+        {1, "/proc/page.png: *", {"scene.tif", "-o", "/proc/page.png"}},
+        {1,
+         "page.gif: ends in none of .png .jpg .jpeg .bmp .tif .tiff",
+         {"scene.tif", "-o", "page.gif"}},
+        {1,
+         "page: ends in none of .png .jpg .jpeg .bmp .tif .tiff",
+         {"scene.tif", "-o", "page"}},
+        {1, "--dpi: \"abc\" is no number from 10 to 2400", with({"--dpi", "abc"})},
+        {1, "--dpi: \"-150\" is no number from 10 to 2400", with({"--dpi", "-150"})},
+        {1, "--dpi: \"0\" is no number from 10 to 2400", with({"--dpi", "0"})},
+        {1, "--dpi: \"9.99\" is no number from 10 to 2400", with({"--dpi", "9.99"})},
+        {1, "--dpi: \"nan\" is no number from 10 to 2400", with({"--dpi", "nan"})},
+        {1, "--dpi: \"1e999\" is no number from 10 to 2400", with({"--dpi", "1e999"})},
+        {1, "--dpi: \"150dpi\" is no number from 10 to 2400", with({"--dpi", "150dpi"})},
+        {1, "--dpi: \"\" is no number from 10 to 2400", with({"--dpi", ""})},
+        {1,
+         "--dpi: the page would have 28063 x 19843 pixels; at most 32767 a side and "
+         "250 million are drawn",
+         with({"--dpi", "2400"})},
+        {1, "--title-size: \"big\" is no number from 1 to 1000",
+         with({"--title-size", "big"})},
+        {1, "--title-size: \"0.5\" is no number from 1 to 1000",
+         with({"--title-size", "0.5"})},
+        {1, "--title-size: \"\" is no number from 1 to 1000", with({"--title-size", ""})},
+        {1, "--title-style: \"fat\" is neither regular, bold, italic nor bold-italic",
+         with({"--title-style", "fat"})},
+        {1, "--size: \"A9\"" + noPaper, with({"--size", "A9"})},
+        {1, "--size: \"0x0\"" + noPaper, with({"--size", "0x0"})},
+        {1, "--border: \"reddish\"" + noColor, with({"--border", "reddish"})},
+        {1, "--shadow: \"#12345\"" + noColor, with({"--shadow", "#12345"})},
+        {1, "--background: \"#GGGGGG\"" + noColor, with({"--background", "#GGGGGG"})},
+        {2, "RASTER is required: see map_page --help", {"-o", "page.png"}},
+        {2, "--output is required: see map_page --help", {"scene.tif"}},
+        {2, "*", with({"--no-such-option"})},
+        {2, "*", with({"--dpi"})},
+        {2, "*", with({"--portrait=often"})},
+        {2, "*", {}},
+    };
+    for (const ErrorRow& row : rows) {
+        const Result result = Draw(row.arguments);
+        std::string what;
+        for (const std::string& argument : row.arguments) {
+            what += argument + " ";
+        }
+        EXPECT_EQ(result.status, row.status) << what << result.err;
+        EXPECT_EQ(result.out, "") << what;
+        const std::string expected = "map_page: " + row.line;
+        if (expected.back() == '*') {
+            const std::string start = expected.substr(0, expected.size() - 1);
+            EXPECT_EQ(result.err.substr(0, start.size()), start) << what;
+            EXPECT_GT(result.err.size(), start.size() + 1) << what;
+        } else {
+            EXPECT_EQ(result.err, expected + "\n") << what;
+        }
+        EXPECT_EQ(result.err.find('\n'), result.err.size() - 1) << what << result.err;
+        EXPECT_TRUE(ContentsOf(folder.Path("page.png")) == before) << what;
+        EXPECT_EQ(folder.Names(), names) << what;
+    }
+}
+
+TEST_F(MapPage, TellsItsOptionsAndItsVersion) {
+    const Result help = Draw({"--help"});
+    EXPECT_EQ(help.status, 0);
+    EXPECT_EQ(help.err, "");
+    for (const char* option :
+         {"RASTER", "--output", "--title ", "--title-font", "--title-size",
+          "--title-style", "--picture", "--size", "--portrait", "--dpi", "--border",
+          "--shadow", "--background", "--version", "--help"}) {
+        EXPECT_NE(help.out.find(option), std::string::npos) << option;
+    }
+    const Result version = Draw({"--version"});
+    EXPECT_EQ(version.status, 0);
+    EXPECT_EQ(version.out, "map_page " MAP_SURROUND_VERSION "\n");
+}
+
+// The real rasters, where a folder with them is named.
+TEST_F(MapPage, DrawsRealRasters) {
+    const char* const rasters = std::getenv("MAP_SURROUND_RASTERS");
+    if (rasters == nullptr) {
+        GTEST_SKIP() << "MAP_SURROUND_RASTERS names no folder";
+    }
+    const std::string in = std::string(rasters) + "/";
+    const Result result =
+        Draw({in + "L7_ETMs.tif", in + "olinda_dem_utm25s.tif", in + "lc.tif", "-o",
+              "page.png", "--title", "Olinda", "--picture", "logo.png"});
+    EXPECT_EQ(result.status, 0) << result.err;
+    EXPECT_EQ(result.err, "map_page: warning: " + in +
+                              "lc.tif: left off the map: its coordinate system is not "
+                              "that of the first raster\n");
+    Pixels page(folder.Path("page.png"));
+    EXPECT_GT(page.Ink(0.4, 0.06, 0.6, 0.13), 0.1) << "the title";
+    EXPECT_GT(page.Ink(0.25, 0.25, 0.6, 0.9), 0.95) << "the map";
+    EXPECT_GT(page.Ink(0.71, 0.73, 0.86, 0.95), 0.4) << "the picture";
+    for (const char* raster : {"olinda_dem_utm25s.tif", "lc.tif"}) {
+        EXPECT_EQ(Draw({in + raster, "-o", "page.png"}).status, 0) << raster;
+    }
+}
+
+}  // namespace
