@@ -5,6 +5,10 @@
 export CMAKE_BUILD_PARALLEL_LEVEL ?= $(shell nproc)
 export CTEST_PARALLEL_LEVEL ?= $(shell nproc)
 
+demo: build/demo/build.ninja
+	cmake --build --preset demo --target map_page make_sample_rasters
+	scripts/draw_demo build/demo
+
 test: build/release/build.ninja
 	cmake --build --preset release
 	ctest --preset release
