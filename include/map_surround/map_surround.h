@@ -7,4 +7,5 @@
 #include "map_surround/frame.h"
 #include "map_surround/north_arrow.h"
 #include "map_surround/picture.h"
+#include "map_surround/scale_bar.h"
 #include "map_surround/title.h"

@@ -1,1 +1,11 @@
-set(scale_bar_sources)
+set(scale_bar_sources
+  bar_drawing.cpp
+  division_value.cpp
+  scale_alternate.cpp
+  scale_bar_base.cpp
+  scale_equ_altenate.cpp
+  scale_line.cpp
+  scale_line2.cpp
+  scale_line3.cpp
+  ticked_line.cpp
+  units_name.cpp)
