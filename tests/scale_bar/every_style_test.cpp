@@ -1,0 +1,163 @@
+#include <gtest/gtest.h>
+#include "scale_bar/bar_row.h"
+
+namespace {
+
+using namespace recording;
+using namespace scale_bar_test;
+
+constexpr double kPaperToData[] = {1e-9, 0.037, 0.07, 0.3, 0.5,  0.999, 1.0,   1.0001,
+                                   7.0,  10.0,  37.0, 999, 1000, 2500,  123456};
+constexpr double kPaperToScreen[] = {25.0, 63.7, 100.25};
+constexpr int kCounts[] = {-1, 0, 1, 2, 5, 12};
+constexpr int kUnitPositions[] = {0, 1, 2};
+constexpr int kSizes[] = {1, 7, 40, 41, 101, 400};
+constexpr double kScales[] = {0.5, 1.0, 1.37, 3.125};
+constexpr float kAspectRatios[] = {5.8f, 2.1666f, 0.3f};
+
+/// Goes through the values of a table, one a call, so that tables of different lengths
+/// meet in every combination sooner or later.
+template <typename Value, std::size_t count>
+Value Turn(const Value (&values)[count], std::size_t turn) {
+    return values[turn % count];
+}
+
+void ExpectAsComputed(const BarRow& row) {
+    ASSERT_TRUE(Equal(ExpectedDrawing(row), DrawingOf(row))) << Describe(row);
+}
+
+class EveryStyle : public ::testing::TestWithParam<Style> {};
+
+// Every scale with every pair of counts at every unit position; sizes, drawing scales and
+// the rest by turns.
+TEST_P(EveryStyle, DrawsWhatTheFormulasSay) {
+    std::size_t turn = 0;
+    BarRow row;
+    row.style = GetParam();
+    for (const double paperToData : kPaperToData) {
+        for (const int mainCount : kCounts) {
+            for (const int subCount : kCounts) {
+                for (const int unitPosition : kUnitPositions) {
+                    row.paperToData = paperToData;
+                    row.mainCount = mainCount;
+                    row.subCount = subCount;
+                    row.unitPosition = unitPosition;
+                    row.size = Turn(kSizes, turn / 3);
+                    row.scale = Turn(kScales, turn / 7);
+                    row.paperToScreen = Turn(kPaperToScreen, turn / 5);
+                    row.aspectRatio = Turn(kAspectRatios, turn / 11);
+                    row.centre = CPoint(static_cast<int>(turn % 401) - 100,
+                                        static_cast<int>(turn % 307) - 50);
+                    row.color = turn % 2 == 0 ? 0xFF000000 : 0x80204060;
+                    ++turn;
+                    ASSERT_NO_FATAL_FAILURE(ExpectAsComputed(row));
+                }
+            }
+        }
+    }
+}
+
+// Every size at every drawing scale and unit position, where all rounding of the
+// rectangle happens.
+TEST_P(EveryStyle, DrawsAtEverySizeAndScale) {
+    BarRow row;
+    row.style = GetParam();
+    for (const int size : kSizes) {
+        for (const double scale : kScales) {
+            for (const int unitPosition : kUnitPositions) {
+                for (const double paperToData : {0.037, 1.0, 2500.0}) {
+                    for (const float aspectRatio : kAspectRatios) {
+                        row.size = size;
+                        row.scale = scale;
+                        row.unitPosition = unitPosition;
+                        row.paperToData = paperToData;
+                        row.aspectRatio = aspectRatio;
+                        ASSERT_NO_FATAL_FAILURE(ExpectAsComputed(row));
+                    }
+                }
+            }
+        }
+    }
+}
+
+// Every height in pixels up to a page's, so that each integer division meets each
+// remainder.
+TEST_P(EveryStyle, DrawsAtEveryHeight) {
+    BarRow row;
+    row.style = GetParam();
+    row.mainCount = 2;
+    for (int size = 0; size <= 500; ++size) {
+        row.size = size;
+        row.unitPosition = size / 7 % 2;
+        ASSERT_NO_FATAL_FAILURE(ExpectAsComputed(row));
+    }
+}
+
+TEST_P(EveryStyle, DrawsTheSameTwice) {
+    Surface surface;
+    const std::unique_ptr<CScaleBarBase> bar = NewBar(GetParam());
+    Recording recording;
+    bar->Draw(surface.Graphics(), CPoint(200, 150), 1.0);
+    const std::vector<std::string> first = recording.Lines();
+    recording.Clear();
+    bar->Draw(surface.Graphics(), CPoint(200, 150), 1.0);
+    EXPECT_EQ(recording.Lines(), first);
+    EXPECT_GT(first.size(), 20u);
+}
+
+TEST_P(EveryStyle, IgnoresTheAngle) {
+    Surface surface;
+    const std::unique_ptr<CScaleBarBase> bar = NewBar(GetParam());
+    bar->SetAngle(30.0f);
+    Recording recording;
+    bar->Draw(surface.Graphics(), CPoint(200, 150), 1.0);
+    BarRow row;
+    row.style = GetParam();
+    EXPECT_TRUE(Equal(ExpectedDrawing(row), recording.Drawing()));
+}
+
+TEST_P(EveryStyle, DrawsAlikeWhateverTypeAndUnitAreStored) {
+    Surface surface;
+    const std::unique_ptr<CScaleBarBase> bar = NewBar(GetParam());
+    bar->SetScaleBarType(static_cast<ScaleBarType>(4));
+    bar->SetDestUnitType(MeasureKilometer);
+    Recording recording;
+    bar->Draw(surface.Graphics(), CPoint(200, 150), 1.0);
+    BarRow row;
+    row.style = GetParam();
+    EXPECT_TRUE(Equal(ExpectedDrawing(row), recording.Drawing()));
+}
+
+std::string TestName(const ::testing::TestParamInfo<Style>& style) {
+    std::string name = NameOf(style.param);
+    for (char& c : name) {
+        c = c == ' ' ? '_' : c;
+    }
+    return name;
+}
+
+INSTANTIATE_TEST_SUITE_P(ScaleBar, EveryStyle, ::testing::ValuesIn(kStyles), TestName);
+
+// The row that tells one style from another is the style's own.
+TEST(ScaleBarStyles, SteppedDrawsAsLineCallForCall) {
+    for (const double paperToData : kPaperToData) {
+        for (const int count : kCounts) {
+            Surface surface;
+            std::vector<std::string> lines[2];
+            for (const Style style : {Style::Line, Style::Stepped}) {
+                BarRow row;
+                row.style = style;
+                row.paperToData = paperToData;
+                row.mainCount = count;
+                row.subCount = 5 - count;
+                Recording recording(Mode::RecordOnly);
+                NewBar(row)->Draw(surface.Graphics(), row.centre, 1.37);
+                lines[style == Style::Line ? 0 : 1] = recording.Lines();
+            }
+            EXPECT_FALSE(lines[0].empty());
+            EXPECT_EQ(lines[1], lines[0]) << paperToData << ", " << count;
+        }
+    }
+}
+
+}  // namespace

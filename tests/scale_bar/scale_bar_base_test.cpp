@@ -1,0 +1,283 @@
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+#include <type_traits>
+
+#include "recording/lines.h"
+#include "scale_bar/bar_row.h"
+
+namespace {
+
+using namespace recording;
+using namespace scale_bar_test;
+
+static_assert(std::is_abstract_v<CScaleBarBase>);
+static_assert(std::is_abstract_v<CSingleDivisionScaleBar>);
+static_assert(std::is_base_of_v<CScaleBarBase, CSingleDivisionScaleBar>);
+static_assert(std::is_base_of_v<CScaleLine, CSteppedScaleLine>);
+static_assert(std::has_virtual_destructor_v<CScaleBarBase>);
+static_assert(sizeof(ScaleBarType) == 4 && sizeof(ScaleBarPostion) == 4);
+
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
+constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
+
+/// A style that a host writes itself, over the base or over the style kept free.
+template <typename Base>
+class HostBar : public Base {
+    void Draw(Gdiplus::Graphics*, CPoint, double) override {}
+};
+
+void ExpectDefaults(const CScaleBarBase& bar, ScaleBarType type) {
+    EXPECT_EQ(bar.GetScaleBarType(), type);
+    EXPECT_EQ(bar.GetItemType(), SurroundScaleBar);
+    EXPECT_EQ(bar.GetUnitPos(), UnitPosAfter);
+    EXPECT_EQ(bar.GetMainDivCount(), 5);
+    EXPECT_EQ(bar.GetSubDivCount(), 4);
+    EXPECT_EQ(bar.GetSize(), 40);
+    EXPECT_EQ(bar.GetAspectRatio(), 5.8f);
+    EXPECT_EQ(bar.GetAngle(), 0.0f);
+    EXPECT_EQ(bar.GetFrontColor().GetValue(), 0xFF000000u);
+    EXPECT_EQ(bar.GetUnitsName(), L"\u5355\u4F4D");
+    EXPECT_EQ(bar.GetDestUnitType(), 0);
+}
+
+TEST(ScaleBarBase, StartsWithTheDefaultsOfItsStyle) {
+    ExpectDefaults(CScaleLine(), ScaleBarLine);
+    ExpectDefaults(CSteppedScaleLine(), ScaleBarLine);
+    ExpectDefaults(CScaleLine2(), ScaleBarLine2);
+    ExpectDefaults(CScaleLine3(), ScaleBarLine3);
+    ExpectDefaults(CScaleEquAltenate(), ScaleBarEquAlternate);
+    ExpectDefaults(CScaleAlternate(), ScaleBarAlternate);
+    ExpectDefaults(HostBar<CScaleBarBase>(), ScaleBarLine);
+    ExpectDefaults(HostBar<CSingleDivisionScaleBar>(), ScaleBarLine);
+}
+
+TEST(ScaleBarBase, TypesAndPositionsHaveTheirValues) {
+    EXPECT_EQ(static_cast<int>(ScaleBarLine), 1);
+    EXPECT_EQ(static_cast<int>(ScaleBarLine2), 2);
+    EXPECT_EQ(static_cast<int>(ScaleBarLine3), 3);
+    EXPECT_EQ(static_cast<int>(ScaleBarEquAlternate), 6);
+    EXPECT_EQ(static_cast<int>(ScaleBarAlternate), 7);
+    EXPECT_EQ(static_cast<int>(UnitPosAfter), 0);
+    EXPECT_EQ(static_cast<int>(UnitPosBefore), 1);
+}
+
+TEST(ScaleBarBase, StoresWhatItIsGiven) {
+    CScaleLine bar;
+    bar.SetMainDivCount(-7);
+    bar.SetSubDivCount(1000000);
+    bar.SetUnitPos(static_cast<ScaleBarPostion>(-3));
+    bar.SetScaleBarType(static_cast<ScaleBarType>(5));
+    bar.SetDestUnitType(MeasureDegree);
+    EXPECT_EQ(bar.GetMainDivCount(), -7);
+    EXPECT_EQ(bar.GetSubDivCount(), 1000000);
+    EXPECT_EQ(static_cast<int>(bar.GetUnitPos()), -3);
+    EXPECT_EQ(static_cast<int>(bar.GetScaleBarType()), 5);
+    EXPECT_EQ(bar.GetDestUnitType(), MeasureDegree);
+    EXPECT_EQ(bar.GetUnitsName(), L"\u5355\u4F4D");
+}
+
+struct UnitRow {
+    std::wstring given;
+    std::wstring stored;
+};
+
+TEST(ScaleBarBase, TranslatesTheUnitWordsOfHostsAndNoOthers) {
+    const std::wstring degree = L"\u5EA6";
+    const std::wstring unknown = L"\u672A\u77E5";
+    const std::wstring metre = L"\u7C73";
+    const std::wstring kilometre = L"\u516C\u91CC";
+    const UnitRow rows[] = {
+        {L"degree", degree},
+        {L"Degree", degree},
+        {L"unknown", unknown},
+        {L"Unknown", unknown},
+        {L"meter", metre},
+        {L"Meter", metre},
+        {L"metre", metre},
+        {L"Metre", metre},
+        {L"Kilometer", kilometre},
+        {L"Kilometre", kilometre},
+        {L"", L""},
+        {L"km", L"km"},
+        {L"METER", L"METER"},
+        {L"kilometer", L"kilometer"},
+        {L"kilometre", L"kilometre"},
+        {L"meters", L"meters"},
+        {L" meter", L" meter"},
+        {L"mete", L"mete"},
+        {L"DEGREE", L"DEGREE"},
+        {L"UNKNOWN", L"UNKNOWN"},
+        {std::wstring(L"meter\0", 6), std::wstring(L"meter\0", 6)},
+        {L"\u7C73", L"\u7C73"},
+    };
+    CScaleLine bar;
+    bar.SetDestUnitType(MeasureDegree);
+    for (const UnitRow& row : rows) {
+        bar.SetUnitsName(row.given);
+        EXPECT_EQ(bar.GetUnitsName(), row.stored);
+    }
+    EXPECT_EQ(bar.GetDestUnitType(), MeasureDegree);
+}
+
+TEST(ScaleBarBase, DrawsTheTranslatedNameAndTheEmptyOne) {
+    Surface surface;
+    CScaleLine bar;
+    bar.SetMainDivCount(0);
+    for (const auto& [name, drawn] :
+         {std::pair(L"metre", "米"), std::pair(L"km", "km"), std::pair(L"", "")}) {
+        bar.SetUnitsName(name);
+        Recording recording;
+        bar.Draw(surface.Graphics(), CPoint(200, 150), 1.0);
+        EXPECT_EQ(recording.Drawing().back(),
+                  DrawString(drawn, Times(40.0f / 3.0f), 93, 157, BlackBrush()));
+    }
+}
+
+struct AspectRow {
+    const char* why;
+    double paperToData;
+    double screenToPaper;
+    int mainCount;
+    int size;
+    float aspectRatio;
+};
+
+// The margins of size 40 are 8 + 1 + 26.6667 + 1 = 36.6667.
+TEST(ScaleBarBase, ResetsTheAspectRatioToTheDivisionsAndMargins) {
+    const AspectRow rows[] = {
+        {"50 + margins = 86.6667", 1.0, 10.0, 5, 40, 2.1666667f},
+        {"margins alone", 1.0, 10.0, 0, 40, 0.9166667f},
+        {"f 0.8: 40 + margins = 76.6667", 2500.0, 10.0, 5, 40, 1.9166667f},
+        {"f 0.03/0.037: 30 + margins = 66.6667", 0.037, 37.0, 1, 40, 1.6666667f},
+        {"f 1: 50 + margins", 0.5, 10.0, 5, 40, 2.1666667f},
+        {"f 1: 50 + margins", 1000.0, 10.0, 5, 40, 2.1666667f},
+        {"f 0.9/0.999", 0.999, 99.9, 1, 40, 3.1666667f},
+        {"size 80: 50 + 16 + 2 + 53.3333 + 2 = 123.3333", 1.0, 10.0, 5, 80, 1.5416667f},
+        {"a negative count shortens: -10 + margins", 1.0, 10.0, -1, 40, 0.6666667f},
+    };
+    for (const AspectRow& row : rows) {
+        CScaleLine bar;
+        bar.SetPaper2DataScale(row.paperToData);
+        bar.SetScreen2PaperByOneScale(row.screenToPaper);
+        bar.SetMainDivCount(row.mainCount);
+        bar.SetSize(row.size);
+        bar.ResetAspectRatio();
+        EXPECT_FLOAT_EQ(bar.GetAspectRatio(), row.aspectRatio) << row.why;
+        EXPECT_EQ(bar.GetSize(), row.size);
+    }
+}
+
+// Where the margins are added in single precision the last bit tells.
+TEST(ScaleBarBase, AddsEachMarginInSinglePrecision) {
+    for (int size = 1; size < 2000; ++size) {
+        CScaleAlternate bar;
+        bar.SetPaper2DataScale(37.0);
+        bar.SetScreen2PaperByOneScale(12.3);
+        bar.SetMainDivCount(7);
+        bar.SetSize(size);
+        bar.ResetAspectRatio();
+
+        const float S = static_cast<float>(size);
+        const float margins[] = {S / 5.0f, S / 40.0f, S * 2.0f / 3.0f, S / 40.0f};
+        double width = 7.0f * 12.3 * (30.0 / 37.0);
+        for (const float margin : margins) {
+            width = width + margin;
+        }
+        ASSERT_EQ(bar.GetAspectRatio(), static_cast<float>(width) / S) << size;
+    }
+}
+
+TEST(ScaleBarBase, KeepsTheAspectRatioAndDrawsNothingWithoutADivisionValue) {
+    Surface surface;
+    for (const Style style : kStyles) {
+        for (const double scale :
+             {1e-9, 9.99e-9, -1e-9, 0.0, -0.0, -1e-8, -1.0, -2500.0, -1e300, kInfinity,
+              -kInfinity, kNan, std::numeric_limits<double>::denorm_min(),
+              std::numeric_limits<double>::min()}) {
+            const std::unique_ptr<CScaleBarBase> bar = NewBar(style);
+            bar->SetPaper2DataScale(scale);
+            bar->SetScreen2PaperByOneScale(10.0);
+            bar->SetAspectRatio(3.25f);
+            Recording recording;
+            bar->ResetAspectRatio();
+            bar->Draw(surface.Graphics(), CPoint(200, 150), 1.0);
+            EXPECT_EQ(bar->GetAspectRatio(), 3.25f) << NameOf(style) << ", " << scale;
+            EXPECT_EQ(recording.Count(), 0) << NameOf(style) << ", " << scale;
+        }
+    }
+}
+
+struct ValueRow {
+    double paperToData;
+    const char* label;           ///< of one division
+    const char* alternateLabel;  ///< the same in the alternating style
+    int step;                    ///< at a paper-to-screen scale of 1000
+};
+
+// Rounded down to one digit. 0.07 loses the last bit when it is divided by ten twice, and
+// 7e-5 would come out as 6e-5 were it multiplied by 100000 at once.
+TEST(ScaleBarBase, RoundsTheDivisionValueDownToOneDigit) {
+    const ValueRow rows[] = {
+        {0.037, "0.03", "0.03", 810},
+        {0.07, "0.07", "0.07", 999},
+        {0.3, "0.3", "0.3", 1000},
+        {0.5, "0.5", "0.5", 1000},
+        {0.999, "0.9", "0.9", 900},
+        {1.0, "1", "1.0", 1000},
+        {1.0001, "1", "1", 999},
+        {7.0, "7", "7", 1000},
+        {10.0, "10", "10", 1000},
+        {19.9, "10", "10", 502},
+        {37.0, "30", "30", 810},
+        {999.0, "900", "900", 900},
+        {1000.0, "1000", "1000", 1000},
+        {2500.0, "2000", "2000", 800},
+        {123456.0, "100000", "100000", 810},
+        {8.5e9, "8000000000", "8000000000", 941},
+        {7e-5, "0.00007", "0.00007", 1000},
+        {0.00025, "0.0002", "0.0002", 800},
+    };
+    for (const ValueRow& row : rows) {
+        for (const Style style : kStyles) {
+            const bool alternates = style == Style::Alternate;
+            BarRow bar;
+            bar.style = style;
+            bar.paperToData = row.paperToData;
+            bar.paperToScreen = 1000.0;
+            bar.mainCount = 1;
+            bar.subCount = 0;
+            const std::vector<std::string> drawing = DrawingOf(bar);
+            // In every style the label of the last boundary is the second before the end,
+            // or the third where the base line follows; the first boundary is at x 89.
+            const bool hasBaseLine =
+                style != Style::Alternate && style != Style::EquAlternate;
+            const std::string& last = drawing[drawing.size() - (hasBaseLine ? 3 : 2)];
+            EXPECT_EQ(last, BlackLabel(alternates ? row.alternateLabel : row.label,
+                                       static_cast<float>(84 + row.step), 130))
+                << NameOf(style) << ", " << row.paperToData;
+        }
+    }
+}
+
+TEST(ScaleBarBase, LabelsOfAFractionHaveItsDecimals) {
+    BarRow row;
+    row.paperToData = 0.037;
+    row.paperToScreen = 100.0;  // a step of 81.08, so 81
+    row.subCount = -1;
+    const char* const labels[] = {"0.00", "0.03", "0.06", "0.09", "0.12", "0.15"};
+    for (const Style style : kLineStyles) {
+        row.style = style;
+        const std::vector<std::string> drawing = DrawingOf(row);
+        ASSERT_EQ(drawing.size(), 14u);  // six ticks with labels, line and unit name
+        for (std::size_t i = 0; i < 6; ++i) {
+            const int x = 89 + 81 * static_cast<int>(i);
+            EXPECT_EQ(drawing[2 * i], DrawLine(BlackPen(), x, 156, x, 170));
+            EXPECT_EQ(drawing[2 * i + 1],
+                      BlackLabel(labels[i], static_cast<float>(x - 5), 130));
+        }
+    }
+}
+
+}  // namespace
