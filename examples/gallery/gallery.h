@@ -61,6 +61,7 @@ struct Family {
 };
 
 Sheet DrawNorthArrows();
+Sheet DrawScaleBars();
 Sheet DrawTitles();
 
 }  // namespace gallery

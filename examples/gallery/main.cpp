@@ -10,6 +10,7 @@
 namespace {
 
 constexpr gallery::Family kFamilies[] = {
+    {L"scale_bars", gallery::DrawScaleBars},
     {L"titles", gallery::DrawTitles},
     {L"north_arrows", gallery::DrawNorthArrows},
 };
