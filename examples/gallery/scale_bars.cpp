@@ -58,7 +58,7 @@ gallery::Sheet gallery::DrawScaleBars() {
     light.SetSubDivCount(9);
     light.ResetAspectRatio();
     sheet.Add(L"light on dark, nine sub-divisions", light, 1.0, Paper::Dark);
-    auto rounded = Make<CScaleEquAltenate>(40, UnitPosAfter, {2500.0, 60.0, L"metre"});
+    auto rounded = Make<CScaleEquAltenate>(40, UnitPosBefore, {2500.0, 60.0, L"metre"});
     rounded.SetMainDivCount(3);
     rounded.ResetAspectRatio();
     sheet.Add(L"2500 m are rounded down to 2000: boxes overlap", rounded);
