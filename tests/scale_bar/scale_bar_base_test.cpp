@@ -220,8 +220,10 @@ struct ValueRow {
 // 7e-5 would come out as 6e-5 were it multiplied by 100000 at once.
 TEST(ScaleBarBase, RoundsTheDivisionValueDownToOneDigit) {
     const ValueRow rows[] = {
+        {0.01, "0.01", "0.01", 1000},
         {0.037, "0.03", "0.03", 810},
         {0.07, "0.07", "0.07", 999},
+        {0.1, "0.1", "0.1", 1000},
         {0.3, "0.3", "0.3", 1000},
         {0.5, "0.5", "0.5", 1000},
         {0.999, "0.9", "0.9", 900},
