@@ -1,1 +1,3 @@
-set(legend_sources)
+set(legend_sources
+  legend_drawing.cpp
+  legend_layout.cpp)

@@ -1,1 +1,6 @@
-set(legend_test_sources)
+set(legend_test_sources
+  legend_drawing_test.cpp
+  legend_properties_test.cpp
+  legend_layout_test.cpp
+  legend_lists_test.cpp
+  legend_model.cpp)

@@ -1,0 +1,178 @@
+#include <string>
+
+#include "element/numbers.h"
+#include "legend/lettering.h"
+#include "legend/proportions.h"
+#include "legend/source_queries.h"
+#include "map_surround/legend.h"
+
+using map_surround::Length;
+using map_surround::Lettering;
+using map_surround::Ruler;
+using map_surround::ToDevice;
+using map_surround::Truncate;
+
+namespace legend = map_surround::legend;
+
+namespace {
+
+constexpr wchar_t kEntryFamily[] = L"Arial";
+constexpr wchar_t kFileNameCaption[] = L"影像名：";
+constexpr wchar_t kBandCaption[] = L"波段_";
+constexpr wchar_t kHighCaption[] = L"高 : ";
+constexpr wchar_t kLowCaption[] = L"低 : ";
+
+constexpr Gdiplus::ARGB kBlack = 0xFF000000;
+constexpr Gdiplus::ARGB kRed = 0xFFFF0000;
+constexpr Gdiplus::ARGB kGreen = 0xFF008000;
+constexpr Gdiplus::ARGB kBlue = 0xFF0000FF;
+
+/// The ramp leaves out white and black.
+constexpr int kRampStrips = 254;
+
+/// The legend on its way down the page, in pixels.
+struct Column {
+    Gdiplus::Graphics* graphics;
+    Gdiplus::SolidBrush& brush;
+    const Gdiplus::Font& entryFont;
+    float left;
+    float y;  // top of what is drawn next
+    float rowHeight;
+    float swatchHeight;
+    float swatchWidth;
+    float gap;
+
+    void Fill(Gdiplus::Color color, float top, float height) {
+        brush.SetColor(color);
+        graphics->FillRectangle(&brush, left, top, swatchWidth, height);
+    }
+    /// In the colour that the brush has.
+    void Label(const std::wstring& text, float atSwatches, float top) {
+        map_surround::WriteText(graphics, text, entryFont,
+                                Gdiplus::PointF(left + atSwatches * swatchWidth, top),
+                                brush);
+    }
+
+    void DrawBands(CRasterSource& source);
+    void DrawRamp(CRasterSource& source);
+    void DrawClasses(CClassifyDisplayTable* table);
+    void DrawBand(Gdiplus::Color color, int index);
+};
+
+void Column::DrawBand(Gdiplus::Color color, int index) {
+    const int number = ToDevice(Length{index} + 1);
+    Fill(color, y, swatchHeight);
+    brush.SetColor(kBlack);
+    Label(kBandCaption + CommonFun::int2wstring(number), legend::kBandLabelAt, y);
+    y += swatchHeight + gap;
+}
+
+void Column::DrawBands(CRasterSource& source) {
+    DrawBand(kRed, source.GetRedBandNum());
+    DrawBand(kGreen, source.GetGreenBandNum());
+    DrawBand(kBlue, source.GetBlueBandNum());
+}
+
+void Column::DrawRamp(CRasterSource& source) {
+    const float rampHeight = legend::kRampSwatches * swatchHeight;
+    const float stripHeight = (3 * swatchHeight + 2 * rowHeight) / kRampStrips;
+
+    brush.SetColor(kBlack);
+    double lowest = 0.0;
+    double highest = 0.0;
+    CRasterBand* const band = source.GetRasterBand(0);
+    if (band != nullptr) {
+        band->ComputeMinMax(&lowest, &highest, true);
+    }
+    Label(kHighCaption + CommonFun::int2wstring(Truncate(highest)), legend::kBandLabelAt,
+          y + 0.5f * rowHeight);
+
+    // Strips overlap, and start one step down.
+    for (int k = 1; k <= kRampStrips; ++k) {
+        const auto grey = static_cast<unsigned char>(255 - k);
+        Fill(Gdiplus::Color(255, grey, grey, grey),
+             y + rampHeight * static_cast<float>(k) / kRampStrips, stripHeight);
+    }
+
+    // Just above the high value and in the colour of the last strip: both are meant.
+    y += rampHeight;
+    Label(kLowCaption + CommonFun::int2wstring(Truncate(lowest)), legend::kBandLabelAt,
+          y - 2 * rowHeight);
+    y += gap;
+}
+
+void Column::DrawClasses(CClassifyDisplayTable* table) {
+    for (int i = 0; i < map_surround::ClassesCount(table); ++i) {
+        CClassifyDisplayItem* const item = table->GetClassifyItem(i);
+        if (item != nullptr) {
+            unsigned char red = 0;
+            unsigned char green = 0;
+            unsigned char blue = 0;
+            unsigned char ignored = 0;
+            item->GetColor(red, green, blue, ignored);
+            Fill(Gdiplus::Color(255, red, green, blue), y, swatchHeight);
+            brush.SetColor(kBlack);
+            Label(item->GetLable(), legend::kClassLabelAt, y);
+        }
+        y += swatchHeight;
+        const bool last = i + 1 == map_surround::ClassesCount(table);
+        if (!last) {
+            y += gap;
+        }
+    }
+    y += gap;
+}
+
+}  // namespace
+
+void CMapLegend::Draw(Gdiplus::Graphics* graphics, CPoint centre, double scale) {
+    const int heightInPixels = Truncate(GetSize() * scale);
+    const auto height = static_cast<float>(heightInPixels);
+    const float width = height * GetAspectRatio();
+    const int halfHeight = Truncate(heightInPixels * 0.5 + 0.5);
+    const int halfWidth = Truncate(static_cast<double>(width) * 0.5 + 0.5);
+    const auto left = static_cast<float>(ToDevice(Length{centre.x} - halfWidth));
+    const auto top = static_cast<float>(ToDevice(Length{centre.y} - halfHeight));
+    const float rowHeight = height * m_rowHeightRatio;
+    const float gap = height * m_gapRatio;
+
+    const Lettering title(m_titleFamily, height * m_titleHeightRatio, m_titleStyle);
+    Gdiplus::SolidBrush brush(m_titleColor);
+    map_surround::WriteText(graphics, m_titleText, title.font, Gdiplus::PointF(left, top),
+                            brush);
+
+    const Lettering entry(kEntryFamily, rowHeight, m_fileNameStyle);
+    const Lettering fileName(m_fileNameFamily, rowHeight, m_fileNameStyle);
+    Ruler ruler;
+    Column column{graphics,
+                  brush,
+                  entry.font,
+                  left,
+                  top + legend::kTitleGaps * gap,
+                  rowHeight,
+                  height * m_swatchHeightRatio,
+                  height * m_swatchWidthRatio,
+                  gap};
+    // By its ink in this font, which is smaller than the title that was measured.
+    column.y += static_cast<float>(ruler.Measure(m_titleText, title).Height);
+
+    // By index: a source may hand the legend another list while it is asked.
+    std::size_t next = 0;
+    while (next < m_dataSources.size()) {
+        CRasterSource* const source = map_surround::TakingPart(m_dataSources[next++]);
+        if (source == nullptr) {
+            continue;
+        }
+        brush.SetColor(m_fileColor);
+        map_surround::WriteText(graphics, kFileNameCaption + source->GetFileName(),
+                                fileName.font, Gdiplus::PointF(left, column.y), brush);
+        column.y += rowHeight + gap;
+        if (source->GetDisplayType() == DisplayRGB) {
+            column.DrawBands(*source);
+        } else if (source->GetDisplayType() == DisplayGray) {
+            column.DrawRamp(*source);
+        } else if (source->GetDisplayType() == DisplayClassified) {
+            column.DrawClasses(source->GetClassifyDisplayTable());
+        }
+    }
+}

@@ -1,0 +1,111 @@
+#include <algorithm>
+
+#include "element/numbers.h"
+#include "legend/lettering.h"
+#include "legend/proportions.h"
+#include "legend/source_queries.h"
+#include "map_surround/legend.h"
+
+using map_surround::Length;
+using map_surround::Lettering;
+using map_surround::Ruler;
+using map_surround::ToDevice;
+
+namespace legend = map_surround::legend;
+
+namespace {
+
+/// The legend as far as it is measured, in pixels.
+struct Layout {
+    Length sampleWidth;
+    Length swatchHeight;
+    Length width;
+    Length height;
+
+    void Widen(Length least) { width = std::max(width, least); }
+    Length SwatchesAndGaps(int swatches, int gaps) const {
+        // Far beyond 32 bits for a table that tells of billions of classes: cut here, so
+        // that no number of them overflows the sum.
+        return ToDevice(swatches * swatchHeight + Length{gaps} * legend::kGap);
+    }
+
+    void AddBands() { height += SwatchesAndGaps(legend::kBandRows, legend::kBandRows); }
+    void AddRamp() { height += SwatchesAndGaps(legend::kRampSwatches, 1); }
+    void AddClasses(CClassifyDisplayTable* table, Ruler& ruler,
+                    const Lettering& lettering) {
+        const int count = map_surround::ClassesCount(table);
+        if (count < 1) {
+            return;
+        }
+        height += SwatchesAndGaps(count, count);
+        for (int i = 0; i < map_surround::ClassesCount(table); ++i) {
+            CClassifyDisplayItem* const item = table->GetClassifyItem(i);
+            if (item != nullptr) {
+                Widen(legend::kClassLabelMeasuredAt * sampleWidth +
+                      ruler.Measure(item->GetLable(), lettering).Width);
+            }
+        }
+    }
+};
+
+}  // namespace
+
+CMapLegend::CMapLegend() { SetItemType(SurroundLegend); }
+
+CMapLegend::~CMapLegend() = default;
+
+void CMapLegend::ResetAspectRatio() {
+    Ruler ruler;
+
+    m_titleSize *= m_sizeFactor;
+    const Lettering title(m_titleFamily, m_titleSize, m_titleStyle);
+    const Gdiplus::Rect titleBox = ruler.Measure(m_titleText, title);
+
+    // The sample is in the title's family, but as large as the file names.
+    m_fileNameSize *= m_sizeFactor;
+    const Lettering fileName(m_fileNameFamily, m_fileNameSize, m_fileNameStyle);
+    const Gdiplus::Rect sample =
+        ruler.Measure(legend::kSampleText, title.family, fileName.font);
+    const Length rowHeight = sample.Height;
+
+    Layout layout{};
+    layout.sampleWidth = sample.Width;
+    layout.swatchHeight = legend::kSwatchTenths * rowHeight / 10;
+    const Length leastWidth = legend::kLeastSwatches * layout.sampleWidth;
+    layout.width = std::max<Length>(titleBox.Width, leastWidth);
+    layout.height = titleBox.Height + legend::kTitleGaps * legend::kGap;
+
+    Length rasters = 0;
+    // By index: a source may hand the legend another list while it is asked.
+    std::size_t next = 0;
+    while (next < m_dataSources.size()) {
+        CRasterSource* const source = map_surround::TakingPart(m_dataSources[next++]);
+        if (source == nullptr) {
+            continue;
+        }
+        ++rasters;
+        layout.height += rowHeight;
+        // The name alone, without the caption that is drawn before it.
+        layout.Widen(ruler.Measure(source->GetFileName(), fileName).Width);
+        if (source->GetDisplayType() == DisplayRGB) {
+            layout.AddBands();
+        } else if (source->GetDisplayType() == DisplayGray) {
+            layout.AddRamp();
+        } else if (source->GetDisplayType() == DisplayClassified) {
+            layout.AddClasses(source->GetClassifyDisplayTable(), ruler, fileName);
+        }
+    }
+    if (layout.height == 0) {
+        return;
+    }
+
+    // A gap after every file name, and one less at the end even where there is none.
+    SetSize(ToDevice(layout.height + legend::kGap * (rasters - 1)));
+    const auto height = static_cast<float>(GetSize());
+    SetAspectRatio(static_cast<float>(layout.width) / height);
+    m_rowHeightRatio = static_cast<float>(rowHeight) / height;
+    m_swatchHeightRatio = static_cast<float>(layout.swatchHeight) / height;
+    m_swatchWidthRatio = static_cast<float>(leastWidth) / legend::kLeastSwatches / height;
+    m_titleHeightRatio = static_cast<float>(titleBox.Height) / height;
+    m_gapRatio = static_cast<float>(legend::kGap) / height;
+}

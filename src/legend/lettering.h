@@ -1,0 +1,43 @@
+#pragma once
+
+#include <gdiplus.h>
+
+#include <string>
+
+#include "element/text.h"
+
+namespace map_surround {
+
+/// A font together with the family that it is of, in pixels.
+struct Lettering {
+    Lettering(const std::wstring& familyName, float emSize, Gdiplus::FontStyle style)
+        : family(familyName.c_str()), font(&family, emSize, style, Gdiplus::UnitPixel) {}
+
+    Gdiplus::FontFamily family;
+    Gdiplus::Font font;
+};
+
+/// Measures texts by their ink, one after the other on the same path.
+class Ruler {
+public:
+    Ruler() { m_format.SetAlignment(Gdiplus::StringAlignmentNear); }
+
+    Gdiplus::Rect Measure(const std::wstring& text, const Gdiplus::FontFamily& family,
+                          const Gdiplus::Font& font) {
+        if (m_used) {
+            m_path.Reset();
+        }
+        m_used = true;
+        return MeasureOutline(m_path, text, family, font, m_format);
+    }
+    Gdiplus::Rect Measure(const std::wstring& text, const Lettering& lettering) {
+        return Measure(text, lettering.family, lettering.font);
+    }
+
+private:
+    Gdiplus::GraphicsPath m_path{Gdiplus::FillModeAlternate};
+    Gdiplus::StringFormat m_format{0, 0};
+    bool m_used = false;
+};
+
+}  // namespace map_surround

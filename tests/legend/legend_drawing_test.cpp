@@ -1,0 +1,402 @@
+// Drawing, with places worked out by hand.
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+
+#include "legend/fake_sources.h"
+#include "legend/scripted_ink.h"
+#include "map_surround/legend.h"
+#include "recording/expect.h"
+#include "recording/lines.h"
+
+namespace {
+
+using fakes::Raster;
+using namespace recording;
+
+const std::string kBlack = BrushLook(0xFF000000);
+const std::string kFileNameCaption = "\u5F71\u50CF\u540D\uFF1A";
+const std::string kBandCaption = "\u6CE2\u6BB5\u005F";
+const std::string kHighCaption = "\u9AD8\u0020\u003A\u0020";
+const std::string kLowCaption = "\u4F4E\u0020\u003A\u0020";
+
+/// A legend whose natural size is 256 x 256, so that every ratio is a whole number of
+/// 256ths and every length a float without error: title 12, rows 10, swatches 64 x 6.
+///     12 + 24 + (10 + 3 * 6 + 36) + (10 + 4 * 6 + 12) + 10 + (10 + 3 * 6 + 36)
+///     + 4 * 12 - 12 = 256, and 2 * 64 + 128 = 256 wide
+struct Square {
+    CMapLegend legend;
+    Raster rgb{L"rgb.tif", DisplayRGB};
+    Raster gray{L"高程.tif", DisplayGray};
+    Raster unknown{L"unknown.tif", static_cast<DataDisplayType>(7)};
+    Raster classes{L"classes.tif", DisplayClassified};
+
+    Square() {
+        rgb.red = 3;
+        rgb.green = 2;
+        rgb.blue = 0;
+        gray.band.lowest = -3.7;
+        gray.band.highest = 255.9;
+        classes.table.items = {
+            {L"water", 1, 2, 3, 0}, {L"", 255, 254, 253, 255}, {L"forest", 0, 100, 0, 7}};
+        legend.SetTitleValue(L"T");
+        legend.SetTitle(L"Serif");
+        legend.SetTitleColor(Gdiplus::Color(0xFF112233));
+        legend.SetFileName(L"Mono");
+        legend.SetFileNameStyle(Gdiplus::FontStyleUnderline);
+        legend.SetFileColor(Gdiplus::Color(0x80445566));
+        legend.SetDataSouce({&rgb, &gray, &unknown, &classes});
+        Recording recording(Mode::RecordOnly);
+        ink::Script(recording, Ink);
+        legend.ResetAspectRatio();
+    }
+
+    static ink::Size Ink(const std::string& text, const std::string&, float emSize) {
+        if (text == "T") {
+            // Smaller in the font that it is drawn in, as ink is.
+            return emSize == 20.0f ? ink::Size{50, 12} : ink::Size{40, 8};
+        }
+        return text == "Band_1"   ? ink::Size{64, 10}
+               : text == "forest" ? ink::Size{128, 10}
+                                  : ink::Size{0, 0};
+    }
+
+    std::vector<std::string> Draw(CPoint centre, double scale, bool everything = false) {
+        Surface surface;
+        Recording recording(Mode::RecordOnly);
+        ink::Script(recording, Ink);
+        legend.Draw(surface.Graphics(), centre, scale);
+        return everything ? recording.Lines() : recording.Drawing();
+    }
+};
+
+struct Scaled {
+    double scale;
+    float unit;  ///< pixels in a pixel of the measurement
+    CPoint centre;
+    float left, top;
+};
+
+/// The drawing of a Square. The title's own height, 8, is the only length that does not
+/// scale.
+std::vector<Named> SquareDrawing(const Scaled& s) {
+    std::vector<Named> calls;
+    const std::string entry = FontLook("Arial", 10 * s.unit, 4);
+    const std::string fileName = FontLook("Mono", 10 * s.unit, 4);
+    const float wide = 64 * s.unit;
+    const float high = 6 * s.unit;
+    const float valueX = s.left + 1.8f * wide;
+    const float classX = s.left + 1.2f * wide;
+    const auto y = [&](float down) { return s.top + 8 + down * s.unit; };
+    const auto name = [&](const std::string& text, float down) {
+        calls.push_back(
+            {"file " + text, DrawString(kFileNameCaption + text, fileName, s.left,
+                                        y(down), BrushLook(0x80445566))});
+    };
+    const auto label = [&](const std::string& text, float x, float down,
+                           const std::string& brush = kBlack) {
+        calls.push_back({"label " + text, DrawString(text, entry, x, y(down), brush)});
+    };
+    const auto swatch = [&](Gdiplus::ARGB color, float down) {
+        calls.push_back({"swatch " + Hex(color),
+                         FillRectangle(BrushLook(color), s.left, y(down), wide, high)});
+    };
+
+    calls.push_back({"title", DrawString("T", FontLook("Serif", 12 * s.unit, 1), s.left,
+                                         s.top, BrushLook(0xFF112233))});
+    name("rgb.tif", 24);
+    swatch(0xFFFF0000, 46);
+    label(kBandCaption + "4", valueX, 46);
+    swatch(0xFF008000, 64);
+    label(kBandCaption + "3", valueX, 64);
+    swatch(0xFF0000FF, 82);
+    label(kBandCaption + "1", valueX, 82);
+
+    name("\u9AD8\u7A0B.tif", 100);
+    label(kHighCaption + "255", valueX, 127);
+    for (int k = 1; k <= 254; ++k) {
+        const auto grey = static_cast<Gdiplus::ARGB>(255 - k);
+        calls.push_back({"strip " + std::to_string(k),
+                         FillRectangle(BrushLook(0xFF000000 + grey * 0x010101), s.left,
+                                       y(122) + 24 * s.unit * static_cast<float>(k) / 254,
+                                       wide, 38 * s.unit / 254)});
+    }
+    label(kLowCaption + "-3", valueX, 126, BrushLook(0xFF010101));
+
+    name("unknown.tif", 158);
+    name("classes.tif", 180);
+    swatch(0xFF010203, 202);
+    label("water", classX, 202);
+    swatch(0xFFFFFEFD, 220);
+    label("", classX, 220);
+    swatch(0xFF006400, 238);
+    label("forest", classX, 238);
+    return calls;
+}
+
+TEST(LegendDrawing, EveryPieceStandsAtItsPlace) {
+    const Scaled rows[] = {
+        {1.0, 1.0f, CPoint(300, 200), 300 - 128, 200 - 128},
+        {0.5, 0.5f, CPoint(300, 200), 300 - 64, 200 - 64},
+        {2.0, 2.0f, CPoint(300, 200), 300 - 256, 200 - 256},
+        {3.125, 3.125f, CPoint(-5, 7), -5 - 400, 7 - 400},
+        {8.0, 8.0f, CPoint(0, 0), -1024, -1024},
+    };
+    for (const Scaled& row : rows) {
+        SCOPED_TRACE(row.scale);
+        Square square;
+        ASSERT_EQ(square.legend.GetSize(), 256);
+        ASSERT_EQ(square.legend.GetAspectRatio(), 1.0f);
+        EXPECT_TRUE(Equal(SquareDrawing(row), square.Draw(row.centre, row.scale)));
+    }
+}
+
+TEST(LegendDrawing, EveryCallInItsOrder) {
+    Square square;
+    const std::string titleFont = FontLook("Serif", 12, 1);
+    const std::string entryFont = FontLook("Arial", 10, 4);
+    const std::string fileFont = FontLook("Mono", 10, 4);
+    const std::string nearFormat = FormatLook(0, 0);
+    const std::string measured = "path[\"T\" \"Serif\" 12]";
+    const std::vector<Named> drawing =
+        SquareDrawing({1.0, 1.0f, CPoint(300, 200), 172, 72});
+
+    std::vector<Named> expected = {
+        {"title family", "GdipCreateFontFamilyFromName \"Serif\""},
+        {"title font", "GdipCreateFont " + titleFont},
+        {"brush", "GdipCreateSolidFill #FF112233"},
+        drawing[0],
+        {"entry family", "GdipCreateFontFamilyFromName \"Arial\""},
+        {"entry font", "GdipCreateFont " + entryFont},
+        {"file-name family", "GdipCreateFontFamilyFromName \"Mono\""},
+        {"file-name font", "GdipCreateFont " + fileFont},
+        {"path", "GdipCreatePath 0"},
+        {"format", "GdipCreateStringFormat 0 0"},
+        {"near", "GdipSetStringFormatAlign 0"},
+        {"title size", "GdipGetFontSize " + titleFont},
+        {"title style", "GdipGetFontStyle " + titleFont},
+        {"title outline",
+         "GdipAddPathString \"T\" \"Serif\" 12 style 1 at 0 0 0 0 " + nearFormat},
+        {"title bounds", "GdipGetPathWorldBoundsI " + measured},
+    };
+    // The brush takes its colour before each piece, but for the low value of the ramp.
+    for (std::size_t i = 1; i < drawing.size(); ++i) {
+        const std::string& line = drawing[i].line;
+        const std::string color = line.substr(line.find("brush[") + 6, 9);
+        const bool low = line.find(kLowCaption) != std::string::npos;
+        if (!low) {
+            expected.push_back(
+                {drawing[i].name + ": colour", "GdipSetSolidFillColor " + color});
+        }
+        expected.push_back(drawing[i]);
+    }
+    expected.push_back({"format", "GdipDeleteStringFormat " + nearFormat});
+    expected.push_back({"path", "GdipDeletePath " + measured});
+    expected.push_back({"file-name font", "GdipDeleteFont " + fileFont});
+    expected.push_back({"file-name family", "GdipDeleteFontFamily family[\"Mono\"]"});
+    expected.push_back({"entry font", "GdipDeleteFont " + entryFont});
+    expected.push_back({"entry family", "GdipDeleteFontFamily family[\"Arial\"]"});
+    expected.push_back({"brush", "GdipDeleteBrush " + kBlack});
+    expected.push_back({"title font", "GdipDeleteFont " + titleFont});
+    expected.push_back({"title family", "GdipDeleteFontFamily family[\"Serif\"]"});
+    EXPECT_TRUE(Equal(expected, square.Draw(CPoint(300, 200), 1.0, true)));
+}
+
+TEST(LegendDrawing, HalvesOfHeightAndWidthAreRoundedUp) {
+    const struct {
+        int size;
+        float aspect;
+        double scale;
+        int halfHeight;
+        int halfWidth;
+    } rows[] = {
+        {101, 1.5f, 1.0, 51, 76},     // 50.5 + 0.5, 75.75 + 0.5
+        {100, 1.0f, 1.0, 50, 50},     // 50.5, 50.5
+        {100, 1.01f, 1.0, 50, 51},    // 101 / 2 = 50.5 + 0.5
+        {1, 1.0f, 1.0, 1, 1},         // 1.0, 1.0
+        {0, 1.0f, 1.0, 0, 0},         // 0.5, 0.5
+        {7, 2.0f, 0.5, 2, 3},         // 3.5 is 3 high: 2.0, 3.5
+        {101, 0.5f, 3.125, 158, 79},  // 315.625 is 315 high: 158.0, 79.25
+        {-3, 1.0f, 1.0, -1, -1},      // -1.0
+        {-4, 1.0f, 1.0, -1, -1},      // -1.5 toward zero
+        {4, -2.0f, 1.0, 2, -3},       // 2.5, -3.5
+    };
+    for (const auto& row : rows) {
+        CMapLegend legend;
+        legend.SetTitleValue(L"T");
+        legend.SetSize(row.size);
+        legend.SetAspectRatio(row.aspect);
+        Surface surface;
+        Recording recording(Mode::RecordOnly);
+        legend.Draw(surface.Graphics(), CPoint(500, 600), row.scale);
+        EXPECT_TRUE(Equal(
+            {{"title", DrawString("T", "null", static_cast<float>(500 - row.halfWidth),
+                                  static_cast<float>(600 - row.halfHeight), kBlack)}},
+            recording.Drawing()))
+            << row.size << " at " << row.scale;
+    }
+}
+
+TEST(LegendDrawing, ValuesAreTruncatedTowardZero) {
+    constexpr double infinity = std::numeric_limits<double>::infinity();
+    const struct {
+        double value;
+        const char* text;
+    } rows[] = {{255.9, "255"},
+                {-3.7, "-3"},
+                {0.0, "0"},
+                {-0.9, "0"},
+                {0.999, "0"},
+                {-1.0, "-1"},
+                {65535.0, "65535"},
+                {-32768.0, "-32768"},
+                {1e300, "2147483647"},
+                {-infinity, "-2147483648"},
+                {infinity, "2147483647"},
+                {std::nan(""), "0"}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.value);
+        Square square;
+        square.gray.band.lowest = row.value;
+        square.gray.band.highest = row.value;
+        const std::vector<std::string> drawing = square.Draw(CPoint(300, 200), 1.0);
+        const float x = 172 + 1.8f * 64;
+        const std::string font = FontLook("Arial", 10, 4);
+        EXPECT_EQ(drawing[9], DrawString(kHighCaption + row.text, font, x, 207, kBlack));
+        EXPECT_EQ(drawing[264], DrawString(kLowCaption + row.text, font, x, 206,
+                                           BrushLook(0xFF010101)));
+    }
+}
+
+TEST(LegendDrawing, BandNumbersAreShownFromOne) {
+    const struct {
+        int band;
+        const char* text;
+    } rows[] = {{0, "1"},
+                {6, "7"},
+                {-1, "0"},
+                {-2147483647 - 1, "-2147483647"},
+                {2147483646, "2147483647"},
+                {2147483647, "2147483647"}};
+    for (const auto& row : rows) {
+        Square square;
+        square.rgb.red = row.band;
+        EXPECT_EQ(square.Draw(CPoint(300, 200), 1.0)[3],
+                  DrawString(kBandCaption + row.text, FontLook("Arial", 10, 4),
+                             172 + 1.8f * 64, 126, kBlack));
+    }
+}
+
+TEST(LegendDrawing, TheRampAsksTheFirstBandForAnEstimate) {
+    Square square;
+    square.Draw(CPoint(300, 200), 1.0);
+    EXPECT_EQ(square.gray.askedForBand, 0);
+    EXPECT_TRUE(square.gray.band.askedToApproximate);
+}
+
+TEST(LegendDrawing, WithoutSourcesOnlyTheTitleIsDrawn) {
+    Square square;
+    square.legend.SetDataSouce({});
+    EXPECT_TRUE(Equal({{"title", DrawString("T", FontLook("Serif", 12, 1), 172, 72,
+                                            BrushLook(0xFF112233))}},
+                      square.Draw(CPoint(300, 200), 1.0)));
+}
+
+TEST(LegendDrawing, AnEmptyTitleIsHandedOnAllTheSame) {
+    Square square;
+    square.legend.SetTitleValue(L"");
+    square.legend.SetDataSouce({});
+    EXPECT_TRUE(Equal({{"title", DrawString("", FontLook("Serif", 12, 1), 172, 72,
+                                            BrushLook(0xFF112233))}},
+                      square.Draw(CPoint(300, 200), 1.0)));
+}
+
+/// Where the line of a source is that follows another one.
+TEST(LegendDrawing, HowFarEachSourceMovesTheNext) {
+    Square square;
+    Raster away(L"away", DisplayRGB);
+    away.available = false;
+    fakes::Vector vector;
+    Raster none(L"none", DisplayClassified);
+    Raster minus(L"minus", DisplayClassified);
+    minus.table.Claim(-5);
+    Raster tableless(L"tableless", DisplayClassified);
+    tableless.hasTable = false;
+    tableless.table.items = {{L"one", 0, 0, 0}};
+    Raster bandless(L"bandless", DisplayGray);
+    bandless.hasBand = false;
+    Raster holed(L"holed", DisplayClassified);
+    holed.table.items = {{L"one", 0, 0, 0}, {L"two", 0, 0, 0}};
+    holed.table.missing = 0;
+    Raster one(L"one", DisplayClassified);
+    one.table.items = {{L"one", 0, 0, 0}};
+
+    const struct {
+        const char* what;
+        CGISDataSource* source;
+        float down;
+        int pieces;
+    } rows[] = {
+        {"null", nullptr, 0, 0},
+        {"not available", &away, 0, 0},
+        {"no raster", &vector, 0, 0},
+        {"unknown display", &square.unknown, 22, 1},
+        {"rgb", &square.rgb, 22 + 54, 7},
+        {"gray", &square.gray, 22 + 36, 257},
+        {"gray without a band", &bandless, 22 + 36, 257},
+        {"no class: a gap that the layout has not", &none, 22 + 12, 1},
+        {"fewer than no class", &minus, 22 + 12, 1},
+        {"no table", &tableless, 22 + 12, 1},
+        {"one class", &one, 22 + 18, 3},
+        {"three classes", &square.classes, 22 + 54, 7},
+        {"a class missing: its row stays empty", &holed, 22 + 36, 3},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.what);
+        Raster after(L"after", static_cast<DataDisplayType>(7));
+        square.legend.SetDataSouce({row.source, &after});
+        const std::vector<std::string> drawing = square.Draw(CPoint(300, 200), 1.0);
+        ASSERT_EQ(drawing.size(), static_cast<std::size_t>(row.pieces + 2));
+        EXPECT_EQ(drawing.back(),
+                  DrawString(kFileNameCaption + "after", FontLook("Mono", 10, 4), 172,
+                             72 + 24 + 8 + row.down, BrushLook(0x80445566)));
+    }
+}
+
+TEST(LegendDrawing, ABandThatCannotTellItsValuesHasNought) {
+    Square square;
+    square.gray.band.computable = false;
+    const float x = 172 + 1.8f * 64;
+    std::vector<std::string> drawing = square.Draw(CPoint(300, 200), 1.0);
+    EXPECT_EQ(drawing[9],
+              DrawString(kHighCaption + "0", FontLook("Arial", 10, 4), x, 207, kBlack));
+    square.gray.hasBand = false;
+    EXPECT_EQ(square.Draw(CPoint(300, 200), 1.0), drawing);
+}
+
+TEST(LegendDrawing, AMissingClassLeavesItsRowEmpty) {
+    Square square;
+    square.classes.table.missing = 1;
+    const std::vector<std::string> drawing = square.Draw(CPoint(300, 200), 1.0);
+    std::vector<Named> expected = SquareDrawing({1.0, 1.0f, CPoint(300, 200), 172, 72});
+    expected.erase(expected.end() - 4, expected.end() - 2);
+    EXPECT_TRUE(Equal(expected, drawing));
+}
+
+TEST(LegendDrawing, GoesOnAfterAFailureAndLeavesItsStatus) {
+    Square square;
+    const std::vector<std::string> whole = square.Draw(CPoint(300, 200), 1.0);
+    for (const char* function : {"GdipDrawString", "GdipFillRectangle"}) {
+        Surface surface;
+        Recording recording(Mode::RecordOnly);
+        ink::Script(recording, Square::Ink);
+        recording.FailCallsOf(function, Gdiplus::OutOfMemory);
+        square.legend.Draw(surface.Graphics(), CPoint(300, 200), 1.0);
+        EXPECT_EQ(recording.Drawing(), whole);
+        EXPECT_EQ(surface.Graphics()->GetLastStatus(), Gdiplus::OutOfMemory);
+    }
+}
+
+}  // namespace

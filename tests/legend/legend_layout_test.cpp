@@ -1,0 +1,323 @@
+// Measuring, with sizes worked out by hand.
+
+#include <gtest/gtest.h>
+
+#include "legend/fake_sources.h"
+#include "legend/scripted_ink.h"
+#include "map_surround/legend.h"
+#include "recording/expect.h"
+#include "recording/lines.h"
+
+namespace {
+
+using fakes::Raster;
+using fakes::Vector;
+using namespace recording;
+
+constexpr auto kUnknown = static_cast<DataDisplayType>(7);
+
+/// Sources to choose from, by a letter each.
+struct Shelf {
+    Raster rgb{L"rgb", DisplayRGB};
+    Raster gray{L"gray", DisplayGray};
+    Raster unknown{L"unknown", kUnknown};
+    Raster away{L"away", DisplayRGB};
+    Vector vector;
+    Raster classes0{L"classes", DisplayClassified};
+    Raster classes1{L"classes", DisplayClassified};
+    Raster classes3{L"classes", DisplayClassified};
+
+    Shelf() {
+        away.available = false;
+        classes1.table.items = {{L"one", 0, 0, 0}};
+        classes3.table.items = {
+            {L"one", 0, 0, 0}, {L"two", 0, 0, 0}, {L"three", 0, 0, 0}};
+    }
+    CGISDataSource* Take(char letter) {
+        switch (letter) {
+            case 'r':
+                return &rgb;
+            case 'g':
+                return &gray;
+            case 'u':
+                return &unknown;
+            case 'a':
+                return &away;
+            case 'v':
+                return &vector;
+            case '0':
+                return &classes0;
+            case '1':
+                return &classes1;
+            case '3':
+                return &classes3;
+            default:
+                return nullptr;
+        }
+    }
+    std::vector<CGISDataSource*> Take(const std::string& letters) {
+        std::vector<CGISDataSource*> sources;
+        for (const char letter : letters) {
+            sources.push_back(Take(letter));
+        }
+        return sources;
+    }
+};
+
+struct Row {
+    const char* what;
+    const char* sources;
+    std::map<std::string, ink::Size> ink;
+    int height;
+    int width;  ///< the aspect ratio is width / height
+};
+
+TEST(LegendLayout, SizesByHand) {
+    const ink::Size title{50, 16};
+    const ink::Size band{40, 13};  // rows of 13, swatches of 78 / 10 = 7, 3 * 40 = 120
+    const Row rows[] = {
+        {"no source", "", {{"T", title}, {"Band_1", band}}, 16 + 12, 120},
+        {"no source, wide title", "", {{"T", {121, 16}}, {"Band_1", band}}, 28, 121},
+        {"no source, title of three samples",
+         "",
+         {{"T", {120, 16}}, {"Band_1", band}},
+         28,
+         120},
+        {"title without ink", "", {{"Band_1", band}}, 12, 120},
+        {"nothing has ink", "rg3", {}, 24 + 36 + 12 + 36 + 3 * 12 - 12, 0},
+        {"left out: not available",
+         "a",
+         {{"T", title}, {"Band_1", band}, {"away", {900, 9}}},
+         28,
+         120},
+        {"left out: no raster",
+         "v",
+         {{"T", title},
+          {"Band_1", band},
+          {"a very long name of a vector file", {900, 9}}},
+         28,
+         120},
+        {"left out: null", "??", {{"T", title}, {"Band_1", band}}, 28, 120},
+        {"unknown display",
+         "u",
+         {{"T", title}, {"Band_1", band}, {"unknown", {130, 9}}},
+         28 + 13 + 12,
+         130},
+        {"rgb", "r", {{"T", title}, {"Band_1", band}}, 28 + 25 + 57, 120},
+        {"rgb, rows of 10", "r", {{"T", title}, {"Band_1", {40, 10}}}, 28 + 22 + 54, 120},
+        {"gray", "g", {{"T", title}, {"Band_1", band}}, 28 + 25 + 40, 120},
+        {"gray, rows of 10",
+         "g",
+         {{"T", title}, {"Band_1", {40, 10}}},
+         28 + 22 + 36,
+         120},
+        {"no class", "0", {{"T", title}, {"Band_1", band}}, 28 + 25, 120},
+        {"one class", "1", {{"T", title}, {"Band_1", band}}, 28 + 25 + 19, 120},
+        {"three classes", "3", {{"T", title}, {"Band_1", band}}, 28 + 25 + 57, 120},
+        {"rgb and gray", "rg", {{"T", {50, 20}}, {"Band_1", band}}, 179, 120},
+        {"all of them",
+         "ravgu0?13",
+         {{"T", title}, {"Band_1", band}},
+         28 + 6 * 25 + 57 + 40 + 19 + 57,
+         120},
+        {"file name one wider",
+         "r",
+         {{"T", title}, {"Band_1", band}, {"rgb", {121, 13}}},
+         110,
+         121},
+        {"file name as wide",
+         "r",
+         {{"T", title}, {"Band_1", band}, {"rgb", {120, 13}}},
+         110,
+         120},
+        {"caption not measured",
+         "r",
+         {{"T", title}, {"Band_1", band}, {"\u5F71\u50CF\u540D\uFF1Argb", {900, 13}}},
+         110,
+         120},
+        {"band labels not measured",
+         "r",
+         {{"T", title}, {"Band_1", band}, {"\u6CE2\u6BB5_1", {900, 13}}},
+         110,
+         120},
+        {"label set off by two samples",
+         "3",
+         {{"T", title}, {"Band_1", band}, {"two", {41, 13}}},
+         110,
+         121},
+        {"label at the last class",
+         "3",
+         {{"T", title}, {"Band_1", band}, {"three", {60, 13}}},
+         110,
+         140},
+        {"label not wide enough",
+         "3",
+         {{"T", title}, {"Band_1", band}, {"one", {40, 13}}},
+         110,
+         120},
+        {"height of names and labels does not matter",
+         "3r",
+         {{"T", title}, {"Band_1", band}, {"one", {4, 99}}, {"rgb", {4, 99}}},
+         110 + 82,
+         120},
+    };
+    Shelf shelf;
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.what);
+        CMapLegend legend;
+        legend.SetTitleValue(L"T");
+        legend.SetDataSouce(shelf.Take(row.sources));
+        Recording recording(Mode::RecordOnly);
+        ink::Script(recording, ink::Of(row.ink));
+        legend.ResetAspectRatio();
+        EXPECT_EQ(legend.GetSize(), row.height);
+        EXPECT_EQ(legend.GetAspectRatio(),
+                  static_cast<float>(row.width) / static_cast<float>(row.height));
+    }
+}
+
+TEST(LegendLayout, ASwatchIsSixTenthsOfTheRowTruncated) {
+    const struct {
+        int row;
+        int swatch;
+    } rows[] = {{0, 0},  {1, 0},  {2, 1},  {3, 1},  {5, 3},  {10, 6},
+                {11, 6}, {13, 7}, {15, 9}, {16, 9}, {17, 10}};
+    Shelf shelf;
+    for (const auto& row : rows) {
+        CMapLegend legend;
+        legend.SetDataSouce({&shelf.rgb});
+        Recording recording(Mode::RecordOnly);
+        ink::Script(recording, ink::Of({{"Band_1", {40, row.row}}}));
+        legend.ResetAspectRatio();
+        EXPECT_EQ(legend.GetSize(), 24 + row.row + 3 * row.swatch + 36 + 12 - 12)
+            << row.row;
+    }
+}
+
+TEST(LegendLayout, TheSizeFactorCompounds) {
+    CMapLegend legend;
+    legend.SetSizeAspect(2.0f);
+    const struct {
+        float factor;
+        float title;
+        float fileName;
+    } calls[] = {{2, 40, 30},    {2, 80, 60},    {1, 80, 60},
+                 {0.5f, 40, 30}, {0.5f, 20, 15}, {1.1f, 20.0f * 1.1f, 15.0f * 1.1f}};
+    for (const auto& call : calls) {
+        legend.SetSizeAspect(call.factor);
+        Recording recording(Mode::RecordOnly);
+        legend.ResetAspectRatio();
+        EXPECT_EQ(legend.GetTitleSize(), call.title);
+        EXPECT_EQ(legend.GetFileNameSize(), call.fileName);
+    }
+}
+
+TEST(LegendLayout, WithoutAnyHeightNothingButTheFontSizesChanges) {
+    CMapLegend legend;
+    legend.SetTitleValue(L"T");
+    legend.SetSize(77);
+    legend.SetSizeAspect(2.0f);
+    Recording recording(Mode::RecordOnly);
+    ink::Script(recording, ink::Of({{"T", {50, -24}}, {"Band_1", {40, 13}}}));
+    legend.ResetAspectRatio();
+    EXPECT_EQ(legend.GetSize(), 77);
+    EXPECT_EQ(legend.GetAspectRatio(), 5.8f);
+    EXPECT_EQ(legend.GetTitleSize(), 40.0f);
+}
+
+TEST(LegendLayout, EveryCallInItsOrder) {
+    Shelf shelf;
+    CMapLegend legend;
+    legend.SetTitleValue(L"图例");
+    legend.SetTitle(L"Liberation Serif");
+    legend.SetFileName(L"Liberation Mono");
+    legend.SetFileNameStyle(Gdiplus::FontStyleItalic);
+    legend.SetSizeAspect(2.0f);
+    legend.SetDataSouce({&shelf.away, &shelf.rgb, &shelf.classes1});
+    Recording recording(Mode::RecordOnly);
+    legend.ResetAspectRatio();
+
+    const std::string titleFont = FontLook("Liberation Serif", 40, 1);
+    const std::string fileFont = FontLook("Liberation Mono", 30, 2);
+    const std::string nearFormat = FormatLook(0, 0);
+    std::vector<Named> expected = {
+        {"path", "GdipCreatePath 0"},
+        {"format", "GdipCreateStringFormat 0 0"},
+        {"near", "GdipSetStringFormatAlign 0"},
+        {"title family", "GdipCreateFontFamilyFromName \"Liberation Serif\""},
+        {"title font", "GdipCreateFont " + titleFont},
+    };
+    const auto measure = [&](const std::string& what, const std::string& font,
+                             const std::string& content, int style, bool afterAnother) {
+        if (afterAnother) {
+            expected.push_back({what + ": reset", "GdipResetPath"});
+        }
+        expected.push_back({what + ": size", "GdipGetFontSize " + font});
+        expected.push_back({what + ": style", "GdipGetFontStyle " + font});
+        expected.push_back({what + ": text", "GdipAddPathString " + content + " style " +
+                                                 std::to_string(style) + " at 0 0 0 0 " +
+                                                 nearFormat});
+        expected.push_back(
+            {what + ": bounds", "GdipGetPathWorldBoundsI path[" + content + "]"});
+    };
+    measure("title", titleFont, "\"\u56FE\u4F8B\" \"Liberation Serif\" 40", 1, false);
+    expected.push_back(
+        {"file family", "GdipCreateFontFamilyFromName \"Liberation Mono\""});
+    expected.push_back({"file font", "GdipCreateFont " + fileFont});
+    measure("sample", fileFont, "\"Band_1\" \"Liberation Serif\" 30", 2, true);
+    measure("rgb", fileFont, "\"rgb\" \"Liberation Mono\" 30", 2, true);
+    measure("classes", fileFont, "\"classes\" \"Liberation Mono\" 30", 2, true);
+    measure("label", fileFont, "\"one\" \"Liberation Mono\" 30", 2, true);
+    expected.push_back({"file font", "GdipDeleteFont " + fileFont});
+    expected.push_back(
+        {"file family", "GdipDeleteFontFamily family[\"Liberation Mono\"]"});
+    expected.push_back({"title font", "GdipDeleteFont " + titleFont});
+    expected.push_back(
+        {"title family", "GdipDeleteFontFamily family[\"Liberation Serif\"]"});
+    expected.push_back({"format", "GdipDeleteStringFormat " + nearFormat});
+    expected.push_back({"path", "GdipDeletePath path[\"one\" \"Liberation Mono\" 30]"});
+    EXPECT_TRUE(Equal(expected, recording.Lines()));
+}
+
+TEST(LegendLayout, AFontThatDoesNotExistMeasuresNothing) {
+    const ink::Rule sizes =
+        ink::Of({{"T", {50, 16}}, {"Band_1", {40, 13}}, {"rgb", {900, 9}}});
+    const struct {
+        const char* what;
+        float titleSize;
+        float fileNameSize;
+        int height;
+        int width;
+    } rows[] = {{"both there", 20, 15, 28 + 25 + 57, 900},
+                {"no title font", 0, 15, 12 + 25 + 57, 900},
+                {"no file-name font", 20, 0, 28 + 12 + 36, 50},
+                {"neither", -1, -1, 12 + 12 + 36, 0}};
+    Shelf shelf;
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.what);
+        CMapLegend legend;
+        legend.SetTitleValue(L"T");
+        legend.SetTitleSize(row.titleSize);
+        legend.SetFileNameSize(row.fileNameSize);
+        legend.SetDataSouce({&shelf.rgb});
+        Recording recording(Mode::RecordOnly);
+        ink::Script(recording, sizes);
+        legend.ResetAspectRatio();
+        EXPECT_EQ(legend.GetSize(), row.height);
+        EXPECT_EQ(legend.GetAspectRatio(),
+                  static_cast<float>(row.width) / static_cast<float>(row.height));
+    }
+}
+
+TEST(LegendLayout, ATitleFamilyThatDoesNotExistTakesTheSampleWithIt) {
+    CMapLegend legend;
+    legend.SetTitleValue(L"T");
+    Recording recording(Mode::RecordOnly);
+    ink::Script(recording, ink::Of({{"T", {50, 16}}, {"Band_1", {40, 13}}}));
+    recording.FailCall(4, Gdiplus::FontFamilyNotFound);
+    legend.ResetAspectRatio();
+    EXPECT_EQ(legend.GetSize(), 12);
+    EXPECT_EQ(legend.GetAspectRatio(), 0.0f);
+}
+
+}  // namespace
