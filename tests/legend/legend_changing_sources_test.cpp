@@ -139,7 +139,8 @@ TEST(LegendOfChangingSources, TheHeightTakesTheFirstCountAndTheWidthFreshOnes) {
 TEST(LegendOfChangingSources, TablesWithoutEndDoNotOverflowTogether) {
     std::vector<std::unique_ptr<Raster>> rasters;
     std::vector<CGISDataSource*> sources;
-    for (int i = 0; i < 16; ++i) {
+    // Each of them is 2^31 swatches of 1.3 * 10^9: the five would not fit into 64 bits.
+    for (int i = 0; i < 5; ++i) {
         rasters.push_back(std::make_unique<Raster>(L"raster", DisplayClassified));
         rasters.back()->table.Claim(std::vector<int>{2147483647, 0});
         sources.push_back(rasters.back().get());

@@ -296,21 +296,15 @@ TEST(LegendDrawing, TheRampAsksTheFirstBandForAnEstimate) {
     EXPECT_TRUE(square.gray.band.askedToApproximate);
 }
 
-TEST(LegendDrawing, WithoutSourcesOnlyTheTitleIsDrawn) {
-    Square square;
-    square.legend.SetDataSouce({});
-    EXPECT_TRUE(Equal({{"title", DrawString("T", FontLook("Serif", 12, 1), 172, 72,
-                                            BrushLook(0xFF112233))}},
-                      square.Draw(CPoint(300, 200), 1.0)));
-}
-
-TEST(LegendDrawing, AnEmptyTitleIsHandedOnAllTheSame) {
-    Square square;
-    square.legend.SetTitleValue(L"");
-    square.legend.SetDataSouce({});
-    EXPECT_TRUE(Equal({{"title", DrawString("", FontLook("Serif", 12, 1), 172, 72,
-                                            BrushLook(0xFF112233))}},
-                      square.Draw(CPoint(300, 200), 1.0)));
+TEST(LegendDrawing, WithoutSourcesOnlyTheTitleIsDrawnAndAnEmptyOneToo) {
+    for (const std::string text : {"T", ""}) {
+        Square square;
+        square.legend.SetTitleValue(std::wstring(text.begin(), text.end()));
+        square.legend.SetDataSouce({});
+        EXPECT_TRUE(Equal({{"title", DrawString(text, FontLook("Serif", 12, 1), 172, 72,
+                                                BrushLook(0xFF112233))}},
+                          square.Draw(CPoint(300, 200), 1.0)));
+    }
 }
 
 /// Where the line of a source is that follows another one.

@@ -279,6 +279,19 @@ TEST(LegendLayout, EveryCallInItsOrder) {
     EXPECT_TRUE(Equal(expected, recording.Lines()));
 }
 
+TEST(LegendLayout, AMissingClassIsNotMeasuredAndKeepsItsRow) {
+    Shelf shelf;
+    shelf.classes3.table.missing = 1;
+    CMapLegend legend;
+    legend.SetDataSouce({&shelf.classes3});
+    Recording recording(Mode::RecordOnly);
+    ink::Script(recording,
+                ink::Of({{"Band_1", {40, 10}}, {"two", {999, 10}}, {"three", {50, 10}}}));
+    legend.ResetAspectRatio();
+    EXPECT_EQ(legend.GetSize(), 24 + 10 + 3 * 18 + 12 - 12);
+    EXPECT_EQ(legend.GetAspectRatio(), 130.0f / 88.0f);
+}
+
 TEST(LegendLayout, AFontThatDoesNotExistMeasuresNothing) {
     const ink::Rule sizes =
         ink::Of({{"T", {50, 16}}, {"Band_1", {40, 13}}, {"rgb", {900, 9}}});
