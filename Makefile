@@ -1,5 +1,5 @@
 # Each target works first on a fresh Debian 12 machine: it installs what it needs.
-.PHONY: demo test test-sanitized test-windows gallery format lint clean
+.PHONY: demo test test-sanitized test-windows gallery bench format lint clean
 
 # A little less than the machine has would be slower and no kinder.
 export CMAKE_BUILD_PARALLEL_LEVEL ?= $(shell nproc)
@@ -28,6 +28,11 @@ gallery: build/release/build.ninja
 	mkdir -p build/gallery
 	build/release/examples/gallery build/gallery
 
+bench: build/bench/build.ninja
+	cmake --build --preset bench
+	build/bench/bench/legend_bench --benchmark_enable_random_interleaving=true
+	build/bench/bench/legend_bench_library_only --benchmark_enable_random_interleaving=true
+
 format:
 	scripts/install_packages lint
 	git ls-files '*.h' '*.cpp' | xargs clang-format -i
@@ -40,6 +45,7 @@ clean:
 	rm -rf build
 
 purpose_of_demo = demo
+purpose_of_bench = bench
 purpose_of_windows-mingw = windows
 
 build/%/build.ninja: CMakePresets.json scripts/install_packages

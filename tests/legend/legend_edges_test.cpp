@@ -158,4 +158,25 @@ TEST(LegendEdges, EveryCallMayFail) {
     EXPECT_EQ(surface.Graphics()->GetLastStatus(), Gdiplus::GenericError);
 }
 
+/// So does the time, whatever the number of classes.
+TEST(LegendEdges, CallsGrowInProportionToTheClasses) {
+    const auto calls = [](int classes, bool draw) {
+        Raster raster(L"classes", DisplayClassified);
+        raster.table.items.assign(static_cast<std::size_t>(classes), {L"class", 1, 2, 3});
+        CMapLegend legend;
+        legend.SetDataSouce({&raster});
+        Surface surface;
+        Recording recording(Mode::Silent);
+        if (draw) {
+            legend.Draw(surface.Graphics(), CPoint(0, 0), 1.0);
+        } else {
+            legend.ResetAspectRatio();
+        }
+        return recording.Count();
+    };
+    // Reset, size, style, outline, bounds; two colours, swatch, label.
+    EXPECT_EQ(calls(10000, false) - calls(100, false), 9900 * 5);
+    EXPECT_EQ(calls(10000, true) - calls(100, true), 9900 * 4);
+}
+
 }  // namespace

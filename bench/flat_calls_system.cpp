@@ -1,0 +1,4 @@
+#include "flat_calls.h"
+
+FlatCalls::FlatCalls() = default;
+FlatCalls::~FlatCalls() = default;
