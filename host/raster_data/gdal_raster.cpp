@@ -6,7 +6,9 @@
 #include <gdal_priv.h>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <cstdint>
 #include <new>
 #include <optional>
 #include <stdexcept>
@@ -139,7 +141,7 @@ std::string WhyNotOpened(const std::string& path, const QuietGdal& quiet) {
     if (empty) {
         return "is empty";
     }
-    const std::string reason = quiet.Reason(path);
+    std::string reason = quiet.Reason(path);
     if (reason.empty() || reason.find("not recognized") != std::string::npos) {
         return "not a raster";
     }

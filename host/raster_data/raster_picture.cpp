@@ -47,6 +47,12 @@ std::size_t Offset(int width, int x, int y) {
            static_cast<std::size_t>(x);
 }
 
+/// Which of `pixels` the centre of one of `drawn` falls on.
+int NearestOf(int index, int drawn, int pixels) {
+    return static_cast<int>((2 * std::int64_t{index} + 1) * pixels /
+                            (2 * std::int64_t{drawn}));
+}
+
 /// The values shown as black and as white.
 struct Stretch {
     double black = 0.0;
@@ -61,13 +67,14 @@ struct Stretch {
         if (!(t > 0.0)) {
             return 0;
         }
-        return t < 1.0 ? static_cast<std::uint8_t>(t * 255.0 + 0.5) : std::uint8_t{255};
+        return t < 1.0 ? static_cast<std::uint8_t>(std::lround(t * 255.0))
+                       : std::uint8_t{255};
     }
 };
 
 /// The place of a share of `count` sorted values: 2 % of 101 is the third.
 std::size_t Rank(double share, std::size_t count) {
-    return static_cast<std::size_t>(share * static_cast<double>(count - 1) + 0.5);
+    return static_cast<std::size_t>(std::llround(share * static_cast<double>(count - 1)));
 }
 
 /// The value at a rank; reorders the values.
@@ -287,13 +294,13 @@ PixelImage Enlarge(PixelImage image, int width, int height) {
     }
     PixelImage large = MakeImage(width, height);
     std::vector<std::size_t> columns;
-    for (std::int64_t x = 0; x < width; ++x) {
-        columns.push_back(
-            static_cast<std::size_t>((2 * x + 1) * image.width / (2 * width)));
+    columns.reserve(static_cast<std::size_t>(width));
+    for (int x = 0; x < width; ++x) {
+        columns.push_back(static_cast<std::size_t>(NearestOf(x, width, image.width)));
     }
     std::uint8_t* to = large.bgra.data();
-    for (std::int64_t y = 0; y < height; ++y) {
-        const auto row = static_cast<int>((2 * y + 1) * image.height / (2 * height));
+    for (int y = 0; y < height; ++y) {
+        const int row = NearestOf(y, height, image.height);
         const std::uint8_t* const from =
             image.bgra.data() + Offset(image.width, 0, row) * kPixelBytes;
         for (const std::size_t column : columns) {

@@ -8,6 +8,7 @@
 #include <filesystem>
 #include <fstream>
 #include <limits>
+#include <tuple>
 
 #include "raster_data/make_raster.h"
 
@@ -271,27 +272,40 @@ TEST(GdalRasterRange, IsOfEachBandByItself) {
     EXPECT_EQ(max, 40);
 }
 
-TEST(GdalRasterRange, OfALargeRasterIsAnEstimateOrExact) {
+/// A raster of zeros with one pixel of 200, and an overview of eighths that holds 50.
+void WriteWithOverview(const std::string& path, int size) {
+    const Dataset dataset =
+        raster_test::Create(path, size, size, 1, GDT_Byte, {"SPARSE_OK=TRUE"});
+    GDALRasterBand* const band = dataset->GetRasterBand(1);
+    int factor = 8;
+    ASSERT_EQ(
+        dataset->BuildOverviews("NEAREST", 1, &factor, 0, nullptr, nullptr, nullptr),
+        CE_None);
+    ASSERT_EQ(band->GetOverview(0)->Fill(50), CE_None);
+    unsigned char value = 200;
+    ASSERT_EQ(band->RasterIO(GF_Write, size - 1, size - 3, 1, 1, &value, 1, 1, GDT_Byte,
+                             0, 0, nullptr),
+              CE_None);
+}
+
+TEST(GdalRasterRange, IsEstimatedOnlyOfALargeRasterAndWhenThatWillDo) {
     const TemporaryFolder folder;
-    const std::string path = folder / "large.tif";
-    {
-        // 17 640 000 pixels, of which one is not 0.
-        const Dataset dataset =
-            raster_test::Create(path, 4200, 4200, 1, GDT_Byte, {"SPARSE_OK=TRUE"});
-        unsigned char value = 200;
-        ASSERT_EQ(dataset->GetRasterBand(1)->RasterIO(GF_Write, 4199, 4197, 1, 1, &value,
-                                                      1, 1, GDT_Byte, 0, 0, nullptr),
-                  CE_None);
+    // 16 777 216 pixels are the most that are always read; 4097 x 4097 are more.
+    for (const auto& [size, approximate, least, most] :
+         {std::tuple{4096, true, 0.0, 200.0},
+          {4096, false, 0.0, 200.0},
+          {4097, true, 50.0, 50.0},
+          {4097, false, 0.0, 200.0}}) {
+        SCOPED_TRACE(size);
+        const std::string path = folder / "overview.tif";
+        WriteWithOverview(path, size);
+        const auto raster = Open(path);
+        double min = -1.0;
+        double max = -1.0;
+        EXPECT_TRUE(raster->GetRasterBand(0)->ComputeMinMax(&min, &max, approximate));
+        EXPECT_EQ(min, least);
+        EXPECT_EQ(max, most);
     }
-    const auto raster = Open(path);
-    double min = -1.0;
-    double max = -1.0;
-    EXPECT_TRUE(raster->GetRasterBand(0)->ComputeMinMax(&min, &max, true));
-    EXPECT_EQ(min, 0);
-    EXPECT_LE(max, 200);
-    EXPECT_TRUE(raster->GetRasterBand(0)->ComputeMinMax(&min, &max, false));
-    EXPECT_EQ(min, 0);
-    EXPECT_EQ(max, 200);
 }
 
 TEST(GdalRasterRange, OfALargeRasterIsFoundWhereAnEstimateMeetsNoValue) {

@@ -151,20 +151,44 @@ TEST(RenderAlpha, IsTheAlphaBands) {
               (Colours{0xff0000ff, 0x80ffff00, 0}));
 }
 
+/// Gives a raster of four pixels a mask: in the file, where it is on or off, or beside
+/// it.
+void SetMask(GDALDataset& dataset, bool inFile, std::vector<unsigned char> mask) {
+    CPLSetConfigOption("GDAL_TIFF_INTERNAL_MASK", inFile ? "YES" : "NO");
+    ASSERT_EQ(dataset.CreateMaskBand(GMF_PER_DATASET), CE_None);
+    CPLSetConfigOption("GDAL_TIFF_INTERNAL_MASK", nullptr);
+    ASSERT_EQ(dataset.GetRasterBand(1)->GetMaskBand()->RasterIO(
+                  GF_Write, 0, 0, 4, 1, mask.data(), 4, 1, GDT_Byte, 0, 0, nullptr),
+              CE_None);
+}
+
 TEST(RenderAlpha, OfAMaskIsTheMasks) {
     const TemporaryFolder folder;
     Raster raster{4, {{0, 100, 130, 200}}};
     raster.describe = [](GDALDataset& dataset) {
-        CPLSetConfigOption("GDAL_TIFF_INTERNAL_MASK", "YES");
-        ASSERT_EQ(dataset.CreateMaskBand(GMF_PER_DATASET), CE_None);
-        CPLSetConfigOption("GDAL_TIFF_INTERNAL_MASK", nullptr);
-        unsigned char mask[] = {0, 255, 255, 255};
-        ASSERT_EQ(dataset.GetRasterBand(1)->GetMaskBand()->RasterIO(
-                      GF_Write, 0, 0, 4, 1, mask, 4, 1, GDT_Byte, 0, 0, nullptr),
-                  CE_None);
+        SetMask(dataset, true, {0, 255, 255, 255});
     };
     EXPECT_EQ(Pixels(WriteAndOpen(folder, raster)->Render(4, 1)),
               (Colours{0, Grey(0), Grey(77), Grey(255)}));
+    raster.describe = [](GDALDataset& dataset) {
+        SetMask(dataset, false, {0, 255, 100, 255});
+    };
+    EXPECT_EQ(Pixels(WriteAndOpen(folder, raster)->Render(4, 1)),
+              (Colours{0, Grey(0), 0x644d4d4d, Grey(255)}));
+}
+
+TEST(RenderAlpha, OfClassesIsTheMasksToo) {
+    const TemporaryFolder folder;
+    Raster raster{4, {{1, 1, 1, 1}}};
+    raster.describe = [](GDALDataset& dataset) {
+        GDALColorTable palette;
+        const GDALColorEntry entry{16, 32, 48, 255};
+        palette.SetColorEntry(1, &entry);
+        dataset.GetRasterBand(1)->SetColorTable(&palette);
+        SetMask(dataset, false, {0, 255, 100, 255});
+    };
+    EXPECT_EQ(Pixels(WriteAndOpen(folder, raster)->Render(4, 1)),
+              (Colours{0, 0xff102030, 0x64102030, 0xff102030}));
 }
 
 TEST(RenderColour, StretchesEachBandByItself) {
@@ -228,17 +252,18 @@ TEST(RenderSize, MeansOfBytesAreRounded) {
 
 TEST(RenderSize, NoDataIsLeftOutOfTheMeanAndThinsTheCell) {
     const TemporaryFolder folder;
-    // The second cell's mean is that of its three values; 3 / 4 of 255 is 191.25.
+    // Three of the second cell's four pixels have a value: their mean is 30, and 3 / 4 of
+    // 255 is 191.25. Two of the third's: 100, and 127.5.
     for (const double none : {255.0, kNan}) {
         Raster raster{6,
-                      {{0, 0, none, 50, 100, 100,  //
-                        0, 0, 20, 20, 0, 200}},
+                      {{0, 0, none, 50, 50, none,  //
+                        0, 0, 20, 20, none, 150}},
                       std::isnan(none) ? GDT_Float32 : GDT_Byte};
         if (!std::isnan(none)) {
             raster.noData = none;
         }
         EXPECT_EQ(Pixels(WriteAndOpen(folder, raster)->Render(3, 1)),
-                  (Colours{Grey(0), 0xbf4d4d4d, Grey(255)}));
+                  (Colours{Grey(0), 0xbf4d4d4d, 0x80ffffff}));
     }
 }
 
