@@ -34,8 +34,8 @@ void LayOut(benchmark::State& state) {
     fakes::Raster raster = Classified(static_cast<int>(state.range(0)));
     CMapLegend legend;
     legend.SetDataSouce({&raster});
-    const FlatCalls calls;
-    for (auto _ : state) {
+    const std::shared_ptr<void> calls = HoldFlatCalls();
+    while (state.KeepRunning()) {
         legend.ResetAspectRatio();
     }
     CountClasses(state);
@@ -53,8 +53,8 @@ void Draw(benchmark::State& state) {
     const int height = static_cast<int>(legend.GetSize() * kScale);
     Gdiplus::Bitmap bitmap(100, height, PixelFormat32bppARGB);
     Gdiplus::Graphics graphics(&bitmap);
-    const FlatCalls calls;
-    for (auto _ : state) {
+    const std::shared_ptr<void> calls = HoldFlatCalls();
+    while (state.KeepRunning()) {
         legend.Draw(&graphics, CPoint(50, height / 2), kScale);
     }
     CountClasses(state);

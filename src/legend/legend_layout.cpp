@@ -73,7 +73,7 @@ void CMapLegend::ResetAspectRatio() {
     layout.swatchHeight = legend::kSwatchTenths * rowHeight / 10;
     const Length leastWidth = legend::kLeastSwatches * layout.sampleWidth;
     layout.width = std::max<Length>(titleBox.Width, leastWidth);
-    layout.height = Length{titleBox.Height} + legend::kTitleGaps * legend::kGap;
+    layout.height = titleBox.Height + legend::kTitleGaps * Length{legend::kGap};
 
     Length rasters = 0;
     // By index: a source may hand the legend another list while it is asked.
