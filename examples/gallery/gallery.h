@@ -62,6 +62,7 @@ struct Family {
 
 Sheet DrawNorthArrows();
 Sheet DrawScaleBars();
+Sheet DrawLegends();
 Sheet DrawTitles();
 
 }  // namespace gallery

@@ -11,6 +11,7 @@ namespace {
 
 constexpr gallery::Family kFamilies[] = {
     {L"scale_bars", gallery::DrawScaleBars},
+    {L"legends", gallery::DrawLegends},
     {L"titles", gallery::DrawTitles},
     {L"north_arrows", gallery::DrawNorthArrows},
 };

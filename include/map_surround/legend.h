@@ -64,9 +64,12 @@ public:
     /// neither border nor background; empty texts are handed on to be drawn all the same.
     ///
     /// Entries are always in "Arial", whatever the family of the file names. A grey
-    /// source's low value stands just above its high value, in the last colour of the
-    /// ramp; a table without classes moves what follows down by a gap that the measured
-    /// height has not. All of that is meant.
+    /// source's low value stands a tenth of a row above its high value, so that the two
+    /// overlap, in the last colour of the ramp; a table without classes moves what
+    /// follows down by a gap that the measured height has not. All of that is meant.
+    ///
+    /// The strips of a ramp may be thinner than a pixel. With anti-aliasing on they never
+    /// come to black, so a host draws legends with GDI+'s default smoothing.
     ///
     /// The sources are asked anew for everything, so one that changed since the layout
     /// was measured is drawn as it is now.
