@@ -73,8 +73,12 @@ private:
     double m_left = 0.0;
 };
 
-enum GISDataSourceType { GisSourceVector = 0, GisSourceGrid = 1, GisSourceService = 2 };
-enum DataDisplayType { ShowComposite, ShowStretched, ShowClasses, ShowNothing };
+enum GISDataSourceType {
+    GisSourceVector = 0,
+    DataSourceRaster = 1,
+    GisSourceService = 2
+};
+enum DataDisplayType { DisplayRGB, DisplayGray, DisplayClassified, ShowNothing };
 
 /// A class of its own right: nothing is abstract.
 class CGISDataSource {
@@ -92,8 +96,8 @@ public:
     std::wstring GetFileName() { return m_name; }
     DataDisplayType GetDisplayType() { return m_display; }
 
-    GISDataSourceType m_type = GisSourceGrid;
-    DataDisplayType m_display = ShowComposite;
+    GISDataSourceType m_type = DataSourceRaster;
+    DataDisplayType m_display = DisplayRGB;
 
 private:
     std::wstring m_name;
