@@ -70,10 +70,9 @@ void CheckPicture(const Options& options) {
     }
 }
 
-void CheckFont(const Options& options) {
-    if (!host::IsFontFamilyKnown(options.titleFamily)) {
-        throw Error("--title-font",
-                    "no font family \"" + options.titleFamily + "\" is installed");
+void CheckFont(const std::string& option, const std::string& family) {
+    if (!host::IsFontFamilyKnown(family)) {
+        throw Error(option, "no font family \"" + family + "\" is installed");
     }
 }
 
@@ -109,6 +108,22 @@ auto Naming(const std::string& thing, Step step) {
     }
 }
 
+/// The sources belong to the rasters, which outlive the page.
+host::MapOnPage Describe(const std::shared_ptr<host::MapLayers>& map,
+                         const std::vector<std::shared_ptr<host::GdalRaster>>& rasters) {
+    host::MapOnPage onPage;
+    onPage.picture = map;
+    onPage.aspectRatio = map->AspectRatio();
+    if (map->IsPlaced()) {
+        onPage.extent = map->Extent();
+        onPage.projection = map->Projection();
+    }
+    for (const std::shared_ptr<host::GdalRaster>& raster : rasters) {
+        onPage.sources.push_back(raster.get());
+    }
+    return onPage;
+}
+
 void Draw(const host::Page& page, Gdiplus::Bitmap& bitmap, double dpi,
           ProgressLine& line) {
     line.Begin("reading the rasters");
@@ -136,15 +151,18 @@ std::vector<std::uint8_t> DrawAndEncode(const host::Page& page, Gdiplus::Size si
 
 void DrawPage(const Options& options) {
     const host::ImageFormat format = CheckFormat(options.output);
-    CheckFont(options);
+    CheckFont("--title-font", options.titleFamily);
+    CheckFont("--legend-font", options.legendFamily);
     CheckPicture(options);
-    const auto map = std::make_shared<host::MapLayers>(OpenRasters(options.rasters));
+    const std::vector<std::shared_ptr<host::GdalRaster>> rasters =
+        OpenRasters(options.rasters);
+    const auto map = std::make_shared<host::MapLayers>(rasters);
     for (const host::LeftOutRaster& raster : map->LeftOut()) {
         Warn(raster.raster->Path() + ": left off the map: " + raster.why);
     }
 
     const host::LaidOutPage laidOut =
-        host::LayOut(options.design, map, map->AspectRatio());
+        host::LayOut(options.design, Describe(map, rasters));
     for (const std::string& remark : laidOut.remarks) {
         Warn(remark);
     }

@@ -13,7 +13,8 @@ namespace map_page {
 namespace {
 
 constexpr const char* kDescription =
-    "Draws rasters as a map on a page with a title and a picture, into an image file.";
+    "Draws rasters as a map on a page with a title, a legend, a scale bar, a north arrow "
+    "and a picture, into an image file.";
 
 constexpr const char* kFooter = R"(
 The rasters lie on each other as in a list of layers: the first is on top and sets the
@@ -38,6 +39,17 @@ struct Given {
     std::optional<std::string> titleSize;
     std::string titleStyle = "bold";
     std::string picture;
+    std::string legendTitle = "Legend";
+    std::string legendFont = "Arial";
+    bool noLegend = false;
+    std::optional<std::string> scaleBar;
+    std::string divisions = "4";
+    std::string subdivisions = "2";
+    std::string unitPosition = "after";
+    std::optional<std::string> units;
+    bool ground = false;
+    std::optional<std::string> northArrow;
+    std::string northAngle = "0";
     std::string size = "A4";
     bool portrait = false;
     std::string dpi = "150";
@@ -45,6 +57,56 @@ struct Given {
     std::string shadow = "on";
     std::string background = "on";
 };
+
+void DeclareLegend(CLI::App& app, Given& given) {
+    app.add_option("--legend-title", given.legendTitle, "First line (Legend)")
+        ->type_name("TEXT")
+        ->group("Legend");
+    app.add_option("--legend-font", given.legendFont,
+                   "Font family of the first line and the file names (Arial)")
+        ->type_name("NAME")
+        ->group("Legend");
+    app.add_flag("--no-legend", given.noLegend, "Leave the legend out")->group("Legend");
+}
+
+void DeclareScaleBar(CLI::App& app, Given& given) {
+    app.add_option("--scale-bar", given.scaleBar,
+                   "line, stepped, line2, line3, alternating, equal-alternating or none "
+                   "(alternating, where the map has coordinates)")
+        ->type_name("STYLE")
+        ->group("Scale bar");
+    app.add_option("--divisions", given.divisions, "Main divisions, 1 to 100 (4)")
+        ->type_name("COUNT")
+        ->group("Scale bar");
+    app.add_option("--subdivisions", given.subdivisions,
+                   "Ticks or boxes within a division, 0 to 100 (2)")
+        ->type_name("COUNT")
+        ->group("Scale bar");
+    app.add_option("--unit-position", given.unitPosition, "after or before (after)")
+        ->type_name("WHERE")
+        ->group("Scale bar");
+    app.add_option("--units", given.units,
+                   "Name of the unit (what the coordinate system counts in)")
+        ->type_name("NAME")
+        ->group("Scale bar");
+    app.add_flag(
+           "--ground", given.ground,
+           "Lengths on the ground in the middle of the map, along the ellipsoid, in "
+           "metres or kilometres")
+        ->group("Scale bar");
+}
+
+void DeclareNorthArrow(CLI::App& app, Given& given) {
+    app.add_option("--north-arrow", given.northArrow,
+                   "one, two, four, eight or none (eight, where the map has coordinates)")
+        ->type_name("STYLE")
+        ->group("North arrow");
+    app.add_option("--north-angle", given.northAngle,
+                   "Degrees clockwise, or true: towards true north in the middle of the "
+                   "map (0)")
+        ->type_name("DEGREES")
+        ->group("North arrow");
+}
 
 // Every value is read as text, so that one that makes no sense is told from a call that
 // does not.
@@ -82,6 +144,10 @@ void Declare(CLI::App& app, Given& given) {
         ->type_name("FILE")
         ->group("Picture");
 
+    DeclareLegend(app, given);
+    DeclareScaleBar(app, given);
+    DeclareNorthArrow(app, given);
+
     app.add_option("--size", given.size,
                    "A0 to A6, B0 to B5, Letter, Legal, Tabloid, or millimetres as "
                    "WIDTHxHEIGHT (A4)")
@@ -103,6 +169,29 @@ void Declare(CLI::App& app, Given& given) {
         ->group("Frames");
 }
 
+void CheckScaleBar(const Given& given, host::ScaleBarDesign& scaleBar) {
+    if (given.scaleBar) {
+        scaleBar.style = ReadScaleBarStyle("--scale-bar", *given.scaleBar);
+    }
+    scaleBar.divisions = ReadCount("--divisions", given.divisions, 1, 100);
+    scaleBar.subdivisions = ReadCount("--subdivisions", given.subdivisions, 0, 100);
+    scaleBar.unitPosition = ReadUnitPosition("--unit-position", given.unitPosition);
+    if (given.units) {
+        scaleBar.units = ReadText("--units", *given.units);
+    }
+    scaleBar.ground = given.ground;
+}
+
+void CheckNorthArrow(const Given& given, host::NorthArrowDesign& northArrow) {
+    if (given.northArrow) {
+        northArrow.style = ReadNorthArrowStyle("--north-arrow", *given.northArrow);
+    }
+    northArrow.trueNorth = given.northAngle == "true";
+    if (!northArrow.trueNorth) {
+        northArrow.angle = ReadNumber("--north-angle", given.northAngle, -360.0, 360.0);
+    }
+}
+
 Options Check(const Given& given) {
     Options options;
     options.rasters = given.rasters;
@@ -122,6 +211,13 @@ Options Check(const Given& given) {
 
     options.picture = given.picture;
     design.picture.path = ReadText("--picture", given.picture);
+
+    options.legendFamily = given.legendFont;
+    design.legend.shown = !given.noLegend;
+    design.legend.title = ReadText("--legend-title", given.legendTitle);
+    design.legend.family = ReadText("--legend-font", given.legendFont);
+    CheckScaleBar(given, design.scaleBar);
+    CheckNorthArrow(given, design.northArrow);
 
     const host::FrameStyle byDefault;
     design.frames.border = ReadColor("--border", given.border, byDefault.border);

@@ -16,6 +16,7 @@ struct Options {
     host::PageDesign design;
     std::string picture;      ///< as given; design.picture holds it as wide text
     std::string titleFamily;  ///< likewise
+    std::string legendFamily;
 };
 
 /// Reads the command line.

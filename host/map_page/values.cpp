@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cmath>
+#include <cstddef>
 #include <cstdint>
 #include <string_view>
 #include <utility>
@@ -35,7 +37,45 @@ constexpr Named<FontProcess> kFontStyles[] = {
     {"bold-italic", FontProcessBoldItalic},
 };
 
+constexpr Named<host::ScaleBarStyle> kScaleBarStyles[] = {
+    {"line", host::ScaleBarStyle::Line},
+    {"stepped", host::ScaleBarStyle::Stepped},
+    {"line2", host::ScaleBarStyle::Line2},
+    {"line3", host::ScaleBarStyle::Line3},
+    {"alternating", host::ScaleBarStyle::Alternating},
+    {"equal-alternating", host::ScaleBarStyle::EqualAlternating},
+    {"none", host::ScaleBarStyle::None},
+};
+
+constexpr Named<ScaleBarPostion> kUnitPositions[] = {
+    {"after", UnitPosAfter},
+    {"before", UnitPosBefore},
+};
+
+constexpr Named<host::NorthArrowStyle> kNorthArrowStyles[] = {
+    {"one", host::NorthArrowStyle::OneAngle},
+    {"two", host::NorthArrowStyle::TwoAngle},
+    {"four", host::NorthArrowStyle::FourAngle},
+    {"eight", host::NorthArrowStyle::EightAngle},
+    {"none", host::NorthArrowStyle::None},
+};
+
 std::string Quoted(const std::string& text) { return "\"" + text + "\""; }
+
+/// The value of a name out of a table; the error lists them all.
+template <typename Value, std::size_t Count>
+Value ReadNamed(const std::string& option, const std::string& text,
+                const Named<Value> (&table)[Count]) {
+    std::string names;
+    for (std::size_t i = 0; i < Count; ++i) {
+        if (table[i].name == text) {
+            return table[i].value;
+        }
+        names += i == 0 ? "" : i + 1 == Count ? " nor " : ", ";
+        names += table[i].name;
+    }
+    throw Error(option, Quoted(text) + " is neither " + names);
+}
 
 /// "12", not "12.000000".
 std::string Plain(double value) {
@@ -96,13 +136,30 @@ std::optional<Gdiplus::Color> ReadColor(const std::string& option,
 }
 
 FontProcess ReadFontStyle(const std::string& option, const std::string& text) {
-    for (const Named<FontProcess>& style : kFontStyles) {
-        if (style.name == text) {
-            return style.value;
-        }
+    return ReadNamed(option, text, kFontStyles);
+}
+
+host::ScaleBarStyle ReadScaleBarStyle(const std::string& option,
+                                      const std::string& text) {
+    return ReadNamed(option, text, kScaleBarStyles);
+}
+
+ScaleBarPostion ReadUnitPosition(const std::string& option, const std::string& text) {
+    return ReadNamed(option, text, kUnitPositions);
+}
+
+host::NorthArrowStyle ReadNorthArrowStyle(const std::string& option,
+                                          const std::string& text) {
+    return ReadNamed(option, text, kNorthArrowStyles);
+}
+
+int ReadCount(const std::string& option, const std::string& text, int lowest,
+              int highest) {
+    const double value = ReadNumber(option, text, lowest, highest);
+    if (value != std::floor(value)) {
+        throw Error(option, Quoted(text) + " is no whole number");
     }
-    throw Error(option,
-                Quoted(text) + " is neither regular, bold, italic nor bold-italic");
+    return static_cast<int>(value);
 }
 
 std::wstring ReadText(const std::string& option, const std::string& text) {

@@ -25,6 +25,17 @@ std::optional<Gdiplus::Color> ReadColor(const std::string& option,
 
 FontProcess ReadFontStyle(const std::string& option, const std::string& text);
 
+host::ScaleBarStyle ReadScaleBarStyle(const std::string& option, const std::string& text);
+
+ScaleBarPostion ReadUnitPosition(const std::string& option, const std::string& text);
+
+host::NorthArrowStyle ReadNorthArrowStyle(const std::string& option,
+                                          const std::string& text);
+
+/// A whole number from `lowest` to `highest`.
+int ReadCount(const std::string& option, const std::string& text, int lowest,
+              int highest);
+
 /// UTF-8 as wide text.
 std::wstring ReadText(const std::string& option, const std::string& text);
 

@@ -8,8 +8,6 @@
 namespace host {
 namespace {
 
-bool HasPanel(const PageDesign& design) { return !design.picture.path.empty(); }
-
 /// The map and the panel next to it.
 struct Body {
     Room map;
@@ -42,14 +40,24 @@ Body PanelBelow(const Room& room, double aspectRatio, const Measures& measures) 
 }
 
 /// The panel goes where it leaves the larger map.
-Body Divide(const PageDesign& design, const Room& room, double aspectRatio,
+Body Divide(const PageDesign& design, const MapOnPage& map, const Room& room,
             const Measures& measures) {
-    if (!HasPanel(design)) {
+    const double aspectRatio = map.aspectRatio;
+    if (!HasPanel(design, map)) {
         return {FitMap(room, aspectRatio), {}};
     }
     const Body beside = PanelBeside(room, aspectRatio, measures);
     const Body below = PanelBelow(room, aspectRatio, measures);
     return beside.map.Height() >= below.map.Height() ? beside : below;
+}
+
+/// A panel with a picture only may be narrower than one with texts.
+Measures MeasuresFor(const PageDesign& design, const MapOnPage& map) {
+    Measures measures(design.paper);
+    if (HasPanelTexts(design, map)) {
+        measures.panel = measures.textPanel;
+    }
+    return measures;
 }
 
 void AddUnlessEmpty(Page& page, std::unique_ptr<CSurroundFrame> frame) {
@@ -60,21 +68,20 @@ void AddUnlessEmpty(Page& page, std::unique_ptr<CSurroundFrame> frame) {
 
 }  // namespace
 
-LaidOutPage LayOut(const PageDesign& design, std::shared_ptr<MapPicture> map,
-                   double aspectRatio) {
+LaidOutPage LayOut(const PageDesign& design, const MapOnPage& map) {
     LaidOutPage result{Page(design.paper.width, design.paper.height), {}};
-    const Measures measures(design.paper);
+    const Measures measures = MeasuresFor(design, map);
     Room room =
         Inset({0.0, 0.0, design.paper.width, design.paper.height}, measures.margin);
 
     std::unique_ptr<CSurroundFrame> title =
         PlaceTitle(design, measures, room, result.remarks);
-    const Body body = Divide(design, room, aspectRatio, measures);
+    const Body body = Divide(design, map, room, measures);
 
     result.page.Add(PlaceNeatLine(design.paper, measures));
-    result.page.Add(PlaceMap(body.map, std::move(map), measures));
+    result.page.Add(PlaceMap(body.map, map.picture, measures));
     AddUnlessEmpty(result.page, std::move(title));
-    AddUnlessEmpty(result.page, PlacePicture(design, measures, body.panel));
+    FillPanel(result.page, design, map, body.map, measures, body.panel, result.remarks);
     return result;
 }
 

@@ -10,6 +10,8 @@ Measures::Measures(const PaperSize& paper)
       margin(2.4 * module),
       gap(1.2 * module),
       panel(8.0 * module),
+      textPanel(11.5 * module),
+      picture(8.0 * module),
       shadow(0.2 * module),
       borderWidth(0.04 * module) {}
 
@@ -24,10 +26,10 @@ std::unique_ptr<CSurroundFrame> PlaceNeatLine(const PaperSize& paper,
     return frame;
 }
 
-std::unique_ptr<CSurroundFrame> MakeFrame(std::unique_ptr<CMapSurround> element,
-                                          const Room& extent, const FrameStyle& style,
-                                          const Measures& measures) {
-    auto frame = std::make_unique<CSurroundFrame>();
+std::unique_ptr<PlacedFrame> MakeFrame(std::unique_ptr<CMapSurround> element,
+                                       const Room& extent, const FrameStyle& style,
+                                       const Measures& measures) {
+    auto frame = std::make_unique<PlacedFrame>();
     frame->SetMapSurround(element.release());
     frame->SetExtent(extent.Box());
     frame->DrawBorder = style.border.has_value();
@@ -40,6 +42,23 @@ std::unique_ptr<CSurroundFrame> MakeFrame(std::unique_ptr<CMapSurround> element,
     frame->ShadowRatioY = static_cast<float>(measures.shadow / extent.Height());
     frame->DrawFill = style.background.has_value();
     frame->FillColor = style.background.value_or(Gdiplus::Color(0));
+    return frame;
+}
+
+std::unique_ptr<PlacedFrame> FrameInk(std::unique_ptr<CMapSurround> element,
+                                      const InkBox& ink, const Room& room, At at,
+                                      const FrameStyle& style, const Measures& measures) {
+    // Frames of nearly the room's width take all of it, so that they line up.
+    constexpr double kNearly = 0.8;
+    const double space = 0.6 * measures.module;
+    const double inkWidth = std::min(room.Width(), ink.Width() + 2.0 * space);
+    const double width = inkWidth > kNearly * room.Width() ? room.Width() : inkWidth;
+    const double height = std::min(room.Height(), ink.Height() + 2.0 * space);
+    const double bottom = at == At::Top ? room.top - height : room.bottom;
+    const Room extent = {room.left, bottom, room.left + width, bottom + height};
+    auto frame = MakeFrame(std::move(element), extent, style, measures);
+    // The ink stands at the left of its frame, in the middle of its height.
+    frame->SetElementOffset(space + ink.left - width / 2.0, (ink.down - ink.up) / 2.0);
     return frame;
 }
 

@@ -6,9 +6,8 @@
 
 namespace host {
 
-std::unique_ptr<CSurroundFrame> PlacePicture(const PageDesign& design,
-                                             const Measures& measures,
-                                             const Room& panel) {
+std::unique_ptr<PlacedFrame> PlacePicture(const PageDesign& design,
+                                          const Measures& measures, const Room& panel) {
     if (design.picture.path.empty()) {
         return nullptr;
     }
@@ -21,7 +20,7 @@ std::unique_ptr<CSurroundFrame> PlacePicture(const PageDesign& design,
 
     const double space = 0.6 * measures.module;
     const double most =
-        std::min({panel.Width(), panel.Height(), measures.panel}) - 2.0 * space;
+        std::min({panel.Width(), panel.Height(), measures.picture}) - 2.0 * space;
     const double height = std::max(1.0, std::floor(std::min(most, most / ratio)));
     picture->SetSize(static_cast<int>(height));
     picture->ResetAspectRatio();

@@ -63,7 +63,7 @@ std::unique_ptr<CSurroundFrame> PlaceTitle(const PageDesign& design,
     const Room extent = {centre - width / 2.0, room.top - height, centre + width / 2.0,
                          room.top};
     room.top = extent.bottom - measures.gap;
-    title->SetFrontColor(Gdiplus::Color(0xFF1E2832));
+    title->SetFrontColor(Gdiplus::Color(kInkColor));
     return MakeFrame(std::move(title), extent, design.frames, measures);
 }
 

@@ -223,7 +223,11 @@ MapLayers::MapLayers(std::vector<std::shared_ptr<GdalRaster>> rasters) {
     }
     const std::shared_ptr<GdalRaster> first = rasters.front();
     const std::string whyNotPlaced = WhyNotPlaced(*first, *first);
-    m_layers.push_back(whyNotPlaced.empty() ? Placed(first) : AsStored(first));
+    m_isPlaced = whyNotPlaced.empty();
+    m_layers.push_back(m_isPlaced ? Placed(first) : AsStored(first));
+    if (m_isPlaced) {
+        m_projection = first->Projection();
+    }
     MapExtent all = m_layers.front().extent;
     for (std::size_t i = 1; i < rasters.size(); ++i) {
         std::string why = WhyNotPlaced(*rasters[i], *first);

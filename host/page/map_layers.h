@@ -4,21 +4,11 @@
 #include <string>
 #include <vector>
 
+#include "page/map_extent.h"
 #include "page/map_picture.h"
 #include "raster_data/gdal_raster.h"
 
 namespace host {
-
-/// A rectangle of the map, in the units of its coordinate system; y grows upwards.
-struct MapExtent {
-    double left = 0.0;
-    double bottom = 0.0;
-    double right = 0.0;
-    double top = 0.0;
-
-    double Width() const { return right - left; }
-    double Height() const { return top - bottom; }
-};
 
 /// A raster that is not on the map, and why.
 struct LeftOutRaster {
@@ -44,6 +34,12 @@ public:
     /// What the map spans: pixels and lines for a raster without georeference.
     const MapExtent& Extent() const { return m_extent; }
 
+    /// The coordinate system as WKT; empty when the map is shown as it is stored.
+    const std::string& Projection() const { return m_projection; }
+
+    /// Whether the extent is in map coordinates.
+    bool IsPlaced() const { return m_isPlaced; }
+
     /// Width divided by height.
     double AspectRatio() const { return m_extent.Width() / m_extent.Height(); }
 
@@ -65,6 +61,8 @@ private:
     std::vector<Layer> m_layers;  // the first on top
     std::vector<LeftOutRaster> m_leftOut;
     MapExtent m_extent;
+    bool m_isPlaced = false;
+    std::string m_projection;
 };
 
 }  // namespace host

@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 
+#include "map_surround/scale_bar.h"
 #include "map_surround/title.h"
 #include "page/paper.h"
 
@@ -28,12 +29,50 @@ struct PictureDesign {
     std::wstring path;  ///< no picture when it is empty
 };
 
+enum class ScaleBarStyle {
+    None,
+    Line,
+    Stepped,
+    Line2,
+    Line3,
+    Alternating,
+    EqualAlternating
+};
+
+struct ScaleBarDesign {
+    /// When not set, an alternating bar where the map has coordinates.
+    std::optional<ScaleBarStyle> style;
+    int divisions = 4;
+    int subdivisions = 2;  ///< ticks between two main ones
+    ScaleBarPostion unitPosition = UnitPosAfter;
+    std::optional<std::wstring> units;  ///< else what the coordinate system counts in
+    bool ground = false;                ///< lengths on the ellipsoid, not on the map
+};
+
+enum class NorthArrowStyle { None, OneAngle, TwoAngle, FourAngle, EightAngle };
+
+struct NorthArrowDesign {
+    /// When not set, an eight-angle rose where the map has coordinates.
+    std::optional<NorthArrowStyle> style;
+    double angle = 0.0;      ///< degrees clockwise
+    bool trueNorth = false;  ///< the direction of true north instead
+};
+
+struct LegendDesign {
+    bool shown = true;
+    std::wstring title = L"Legend";
+    std::wstring family = L"Arial";
+};
+
 /// What an automatic page is to show.
 struct PageDesign {
     PaperSize paper;
     FrameStyle frames;
     TitleDesign title;
     PictureDesign picture;
+    ScaleBarDesign scaleBar;
+    NorthArrowDesign northArrow;
+    LegendDesign legend;
 };
 
 }  // namespace host

@@ -83,7 +83,7 @@ TEST_F(Layout, KeepsEverythingApartAndOnThePage) {
                 }
                 design.picture.path = logo;
                 const host::LaidOutPage laidOut =
-                    host::LayOut(design, nullptr, aspectRatio);
+                    host::LayOut(design, {nullptr, aspectRatio});
                 const Laid laid = Parts(laidOut.page);
                 const std::string what = std::string(paperText) + " " +
                                          std::to_string(aspectRatio) + " " +
@@ -109,7 +109,7 @@ TEST_F(Layout, KeepsTheProportionsOfMapAndPicture) {
         host::PageDesign design;
         design.title.text = L"Title";
         design.picture.path = logo;
-        const host::LaidOutPage laidOut = host::LayOut(design, nullptr, aspectRatio);
+        const host::LaidOutPage laidOut = host::LayOut(design, {nullptr, aspectRatio});
         const Laid laid = Parts(laidOut.page);
         EXPECT_NEAR(laid.map.GetWidth() / laid.map.GetHeight(), aspectRatio, 1.0e-9);
         EXPECT_FLOAT_EQ(laid.picture->GetMapSurround()->GetAspectRatio(), 2.0f);
@@ -118,22 +118,22 @@ TEST_F(Layout, KeepsTheProportionsOfMapAndPicture) {
 
 TEST_F(Layout, GivesThePanelsRoomToTheMapWhenThereIsNone) {
     host::PageDesign design;
-    const double bare = Parts(host::LayOut(design, nullptr, 1.6).page).map.GetWidth();
+    const double bare = Parts(host::LayOut(design, {nullptr, 1.6}).page).map.GetWidth();
     design.picture.path = logo;
-    const double beside = Parts(host::LayOut(design, nullptr, 1.6).page).map.GetWidth();
+    const double beside = Parts(host::LayOut(design, {nullptr, 1.6}).page).map.GetWidth();
     EXPECT_GT(bare, beside);
 }
 
 TEST_F(Layout, PutsThePanelWhereTheMapStaysLarger) {
     host::PageDesign design;
     design.picture.path = logo;
-    const host::LaidOutPage square = host::LayOut(design, nullptr, 1.0);
+    const host::LaidOutPage square = host::LayOut(design, {nullptr, 1.0});
     const CBoundingBox squareMap = Parts(square.page).map;
     const CBoundingBox beside = Parts(square.page).picture->GetExtent();
     EXPECT_GT(Left(beside), Right(squareMap));
     EXPECT_NEAR(Bottom(beside), Bottom(squareMap), 1.0e-9);
 
-    const host::LaidOutPage wide = host::LayOut(design, nullptr, 3.0);
+    const host::LaidOutPage wide = host::LayOut(design, {nullptr, 3.0});
     const CBoundingBox wideMap = Parts(wide.page).map;
     const CBoundingBox below = Parts(wide.page).picture->GetExtent();
     EXPECT_LT(Top(below), Bottom(wideMap));
@@ -143,7 +143,7 @@ TEST_F(Layout, PutsThePanelWhereTheMapStaysLarger) {
 TEST_F(Layout, PlacesTheTitleInTheMiddleOnTop) {
     host::PageDesign design;
     design.title.text = L"Title";
-    const host::LaidOutPage laidOut = host::LayOut(design, nullptr, 1.0);
+    const host::LaidOutPage laidOut = host::LayOut(design, {nullptr, 1.0});
     const CBoundingBox title = Parts(laidOut.page).title->GetExtent();
     EXPECT_NEAR(Left(title) + Right(title), laidOut.page.Width(), 1.0e-6);
     EXPECT_GT(Bottom(title), Top(Parts(laidOut.page).map));
@@ -153,7 +153,7 @@ TEST_F(Layout, SetsTheTitleInItsSize) {
     host::PageDesign design;
     design.title.text = L"Title";
     design.title.points = 36.0;
-    const host::LaidOutPage laidOut = host::LayOut(design, nullptr, 1.0);
+    const host::LaidOutPage laidOut = host::LayOut(design, {nullptr, 1.0});
     const auto* title =
         dynamic_cast<const CMapTitle*>(Parts(laidOut.page).title->GetMapSurround());
     ASSERT_NE(title, nullptr);
@@ -165,7 +165,7 @@ TEST_F(Layout, SetsATitleSmallerThatWouldNotFit) {
     host::PageDesign design;
     design.title.text = L"A title that is long enough to be wider than the page it is on";
     design.title.points = 100.0;
-    const host::LaidOutPage laidOut = host::LayOut(design, nullptr, 1.0);
+    const host::LaidOutPage laidOut = host::LayOut(design, {nullptr, 1.0});
     const CSurroundFrame* title = Parts(laidOut.page).title;
     EXPECT_TRUE(IsOnPage(title->GetExtent(), laidOut.page));
     EXPECT_EQ(laidOut.remarks,
@@ -173,14 +173,14 @@ TEST_F(Layout, SetsATitleSmallerThatWouldNotFit) {
 
     design.title.points.reset();
     design.title.text.append(design.title.text);
-    EXPECT_TRUE(host::LayOut(design, nullptr, 1.0).remarks.empty());
+    EXPECT_TRUE(host::LayOut(design, {nullptr, 1.0}).remarks.empty());
 }
 
 TEST_F(Layout, HasNoFrameForATitleWithoutInk) {
     for (const wchar_t* text : {L"", L"   "}) {
         host::PageDesign design;
         design.title.text = text;
-        EXPECT_EQ(Parts(host::LayOut(design, nullptr, 1.0).page).title, nullptr);
+        EXPECT_EQ(Parts(host::LayOut(design, {nullptr, 1.0}).page).title, nullptr);
     }
 }
 
@@ -190,7 +190,7 @@ TEST_F(Layout, DecoratesFramesAsAskedFor) {
     design.frames.border.reset();
     design.frames.shadow = Gdiplus::Color(0xFF112233);
     design.frames.background = Gdiplus::Color(0x80445566);
-    const host::LaidOutPage laidOut = host::LayOut(design, nullptr, 1.0);
+    const host::LaidOutPage laidOut = host::LayOut(design, {nullptr, 1.0});
     const CSurroundFrame* title = Parts(laidOut.page).title;
     EXPECT_FALSE(title->DrawBorder);
     EXPECT_TRUE(title->DrawShadow);
