@@ -12,6 +12,10 @@
 
 namespace {
 
+// The encoder that every GDI+ has for PNG.
+constexpr CLSID kPngEncoder = {
+    0x557CF406, 0x1A04, 0x11D3, {0x9A, 0x73, 0x00, 0x00, 0xF8, 0x1E, 0xF3, 0x2E}};
+
 using Points = std::vector<Gdiplus::Point>;
 
 constexpr int kPixels = 640;
@@ -147,7 +151,7 @@ bool DrawLogo(const std::string& file) {
         DrawRose(graphics);
     }
     const std::wstring name(file.begin(), file.end());
-    return bitmap.Save(name.c_str(), &Gdiplus::kEncoderPng) == Gdiplus::Ok;
+    return bitmap.Save(name.c_str(), &kPngEncoder) == Gdiplus::Ok;
 }
 
 }  // namespace
