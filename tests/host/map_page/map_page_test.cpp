@@ -426,7 +426,10 @@ TEST_F(MapPage, DrawsRealRasters) {
     Pixels page(folder.Path("page.png"));
     EXPECT_GT(page.Ink(0.4, 0.06, 0.6, 0.13), 0.1) << "the title";
     EXPECT_GT(page.Ink(0.25, 0.25, 0.6, 0.9), 0.95) << "the map";
-    EXPECT_GT(page.Ink(0.71, 0.73, 0.86, 0.95), 0.4) << "the picture";
+    EXPECT_GT(page.Ink(0.69, 0.17, 0.88, 0.65), 0.05) << "the legend";
+    EXPECT_GT(page.Ink(0.69, 0.71, 0.86, 0.77), 0.05) << "the scale bar";
+    EXPECT_GT(page.Ink(0.69, 0.83, 0.76, 0.93), 0.03) << "the north arrow";
+    EXPECT_GT(page.Ink(0.8, 0.83, 0.88, 0.95), 0.4) << "the picture";
     for (const char* raster : {"olinda_dem_utm25s.tif", "lc.tif"}) {
         EXPECT_EQ(Draw({in + raster, "-o", "page.png"}).status, 0) << raster;
     }
