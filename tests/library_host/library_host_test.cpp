@@ -3,7 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <initializer_list>
 #include <memory>
+#include <string>
 
 #include "map_surround/map_surround.h"
 
@@ -57,6 +59,63 @@ TEST(LibraryHost, DrawsAPictureFromAFile) {
     picture.ResetAspectRatio();
     // 60 by 40 pixels; the edges may be blended.
     EXPECT_NEAR(InkOf(picture), 60 * 40, 2 * (60 + 40) + 4);
+}
+
+TEST(LibraryHost, DrawsEveryNorthArrow) {
+    CNorthArrowOneAngle one;
+    CNorthArrowTwoAngle two;
+    CNorthArrowFourAngle four;
+    CNorthArrowEightAngle eight;
+    for (CNorthArrowBase* arrow :
+         std::initializer_list<CNorthArrowBase*>{&one, &two, &four, &eight}) {
+        EXPECT_EQ(arrow->GetItemType(), SurroundNorthArrow);
+        arrow->SetSize(150);
+        arrow->SetAngle(20.0f);
+        EXPECT_GT(InkOf(*arrow), 100) << arrow->GetNorthArrowType();
+    }
+}
+
+TEST(LibraryHost, DrawsEveryScaleBar) {
+    CScaleLine line;
+    CSteppedScaleLine stepped;
+    CScaleLine2 line2;
+    CScaleLine3 line3;
+    CScaleAlternate alternating;
+    CScaleEquAltenate equal;
+    for (CScaleBarBase* bar : std::initializer_list<CScaleBarBase*>{
+             &line, &stepped, &line2, &line3, &alternating, &equal}) {
+        bar->SetPaper2DataScale(37.0);
+        bar->SetPaper2ScreenScale(40.0);
+        bar->SetScreen2PaperByOneScale(40.0);
+        bar->SetUnitsName(L"Meter");
+        EXPECT_EQ(bar->GetUnitsName(), L"\u7C73");
+        bar->ResetAspectRatio();
+        EXPECT_GT(InkOf(*bar), 300) << bar->GetScaleBarType();
+    }
+}
+
+/// A raster source in memory, shown as three bands.
+class Source : public CRasterSource {
+public:
+    bool IsAvailable() override { return true; }
+    GISDataSourceType GetDataSourceType() override { return DataSourceRaster; }
+    std::wstring GetFileName() override { return L"scene.tif"; }
+    DataDisplayType GetDisplayType() override { return DisplayRGB; }
+    int GetRedBandNum() override { return 0; }
+    int GetGreenBandNum() override { return 1; }
+    int GetBlueBandNum() override { return 2; }
+    CRasterBand* GetRasterBand(int) override { return nullptr; }
+    CClassifyDisplayTable* GetClassifyDisplayTable() override { return nullptr; }
+};
+
+TEST(LibraryHost, DrawsTheLegend) {
+    Source source;
+    CMapLegend legend;
+    legend.SetTitleValue(L"Legend");
+    legend.SetDataSouce({&source});
+    legend.ResetAspectRatio();
+    EXPECT_GT(legend.GetSize(), 80);
+    EXPECT_GT(InkOf(legend), 3 * 30 * 5);
 }
 
 TEST(LibraryHost, FramesAndDeletesAnElement) {
