@@ -93,16 +93,20 @@ TEST_P(EveryStyle, DrawsAtEveryHeight) {
     }
 }
 
+// An even and an odd number of boxes: what was filled before must not show.
 TEST_P(EveryStyle, DrawsTheSameTwice) {
     Surface surface;
     const std::unique_ptr<CScaleBarBase> bar = NewBar(GetParam());
-    Recording recording;
-    bar->Draw(surface.Graphics(), CPoint(200, 150), 1.0);
-    const std::vector<std::string> first = recording.Lines();
-    recording.Clear();
-    bar->Draw(surface.Graphics(), CPoint(200, 150), 1.0);
-    EXPECT_EQ(recording.Lines(), first);
-    EXPECT_GT(first.size(), 20u);
+    for (const int mainCount : {4, 5}) {
+        bar->SetMainDivCount(mainCount);
+        Recording recording;
+        bar->Draw(surface.Graphics(), CPoint(200, 150), 1.0);
+        const std::vector<std::string> first = recording.Lines();
+        recording.Clear();
+        bar->Draw(surface.Graphics(), CPoint(200, 150), 1.0);
+        EXPECT_EQ(recording.Lines(), first);
+        EXPECT_GT(first.size(), 20u);
+    }
 }
 
 TEST_P(EveryStyle, IgnoresTheAngle) {
