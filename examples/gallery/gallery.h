@@ -64,5 +64,22 @@ Sheet DrawNorthArrows();
 Sheet DrawScaleBars();
 Sheet DrawLegends();
 Sheet DrawTitles();
+Sheet DrawPictures();
+
+/// One element in one style, drawn with the properties that a host would give it.
+struct Element {
+    const wchar_t* name;  ///< the file's, without its ending
+    const wchar_t* caption;
+    void (*draw)(Gdiplus::Graphics*, CPoint centre);
+};
+
+constexpr int kElementWidth = 320;
+constexpr int kElementHeight = 160;
+
+/// Each element in each style.
+const std::vector<Element>& Elements();
+
+/// All of those on one sheet.
+Sheet DrawContactSheet();
 
 }  // namespace gallery

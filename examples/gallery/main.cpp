@@ -1,45 +1,93 @@
-// Draws every element of the library in every style, from sources in memory: one picture
-// a family, for people to look at.
+// Draws every element of the library in every style, from sources in memory: pictures for
+// people to look at.
 
 #include <cstdio>
-#include <cstring>
+#include <filesystem>
+#include <map>
 #include <string>
 
+#include "annotated/annotated.h"
+#include "drawing.h"
 #include "gallery.h"
 
 namespace {
 
-constexpr gallery::Family kFamilies[] = {
-    {L"scale_bars", gallery::DrawScaleBars},
-    {L"legends", gallery::DrawLegends},
-    {L"titles", gallery::DrawTitles},
-    {L"north_arrows", gallery::DrawNorthArrows},
+using namespace gallery;
+
+constexpr Family kFamilies[] = {
+    {L"contact_sheet", DrawContactSheet},
+    {L"scale_bars", DrawScaleBars},
+    {L"legends", DrawLegends},
+    {L"titles", DrawTitles},
+    {L"north_arrows", DrawNorthArrows},
+    {L"pictures", DrawPictures},
 };
 
-int DrawAll(const std::wstring& folder) {
-    int failures = 0;
-    for (const gallery::Family& family : kFamilies) {
-        if (!family.draw().Save(folder + L"/" + family.name + L".png")) {
-            ++failures;
-        }
+bool DrawSheets(const std::wstring& folder) {
+    bool all = true;
+    for (const Family& family : kFamilies) {
+        all &= family.draw().Save(folder + family.name + L".png");
     }
-    return failures == 0 ? 0 : 1;
+    return all;
 }
+
+bool DrawElements(const std::wstring& folder) {
+    bool all = true;
+    for (const Element& element : Elements()) {
+        Gdiplus::Bitmap bitmap(kElementWidth, kElementHeight);
+        {
+            Gdiplus::Graphics graphics(&bitmap);
+            graphics.Clear(Gdiplus::Color(0xFFFFFFFF));
+            Smooth(&graphics);
+            element.draw(&graphics, CPoint(kElementWidth / 2, kElementHeight / 2));
+        }
+        all &= SavePng(bitmap, folder + element.name + L".png");
+    }
+    return all;
+}
+
+bool DrawAnnotated(const std::wstring& folder) {
+    bool all = true;
+    for (const annotated::Picture& picture : annotated::Pictures()) {
+        all &= picture.draw().Save(folder + picture.name + L".png");
+    }
+    return all;
+}
+
+using Draw = bool (*)(const std::wstring& folder);
+const std::map<std::string, Draw> kWhat = {{"--sheets", DrawSheets},
+                                           {"--elements", DrawElements},
+                                           {"--annotated", DrawAnnotated}};
+
+constexpr char kHelp[] =
+    "gallery [--sheets|--elements|--annotated] [FOLDER]\n"
+    "Draws into a folder, by default this one:\n"
+    "  --sheets     one picture a family, and one with all of them (the default)\n"
+    "  --elements   one picture for each element and style\n"
+    "  --annotated  elements drawn large, with the names of their lengths\n";
 
 }  // namespace
 
 int main(int argc, char** argv) {
-    if (argc == 2 && std::strcmp(argv[1], "--help") == 0) {
-        std::puts(
-            "gallery [FOLDER]\nDraws a picture of each element family into a folder "
-            "that exists, by default this one.");
-        return 0;
+    Draw draw = DrawSheets;
+    std::string folder = ".";
+    for (int i = 1; i < argc; ++i) {
+        const std::string argument = argv[i];
+        if (argument == "--help") {
+            std::fputs(kHelp, stdout);
+            return 0;
+        }
+        if (kWhat.count(argument) != 0) {
+            draw = kWhat.at(argument);
+        } else if (i == argc - 1) {
+            folder = argument;
+        } else {
+            std::fprintf(stderr, "gallery: %s: not understood\n%s", argv[i], kHelp);
+            return 2;
+        }
     }
-    if (argc > 2) {
-        std::fputs("gallery: at most one folder; see gallery --help\n", stderr);
-        return 2;
-    }
-    const std::string folder = argc == 2 ? argv[1] : ".";
+    std::error_code failed;
+    std::filesystem::create_directories(folder, failed);
 
     const Gdiplus::GdiplusStartupInput input;
     ULONG_PTR token = 0;
@@ -47,7 +95,8 @@ int main(int argc, char** argv) {
         std::fputs("gallery: GDI+ does not start\n", stderr);
         return 1;
     }
-    const int result = DrawAll(std::wstring(folder.begin(), folder.end()));
+    const bool all = draw(std::filesystem::path(folder).wstring() + L"/");
     Gdiplus::GdiplusShutdown(token);
-    return result;
+    std::printf("drawn into %s\n", folder.c_str());
+    return all ? 0 : 1;
 }

@@ -1,7 +1,7 @@
 #include <algorithm>
-#include <cstdio>
 #include <utility>
 
+#include "drawing.h"
 #include "gallery.h"
 
 namespace gallery {
@@ -11,19 +11,6 @@ constexpr int kMargin = 24;
 constexpr int kTitleHeight = 56;
 constexpr int kCaptionHeight = 30;
 constexpr int kGap = 12;
-
-constexpr CLSID kPngEncoder = {
-    0x557CF406, 0x1A04, 0x11D3, {0x9A, 0x73, 0x00, 0x00, 0xF8, 0x1E, 0xF3, 0x2E}};
-
-void Write(Gdiplus::Graphics* graphics, const std::wstring& text, float size, int style,
-           Gdiplus::Color color, int left, int top) {
-    const Gdiplus::FontFamily family(L"Arial");
-    const Gdiplus::Font font(&family, size, style, Gdiplus::UnitPixel);
-    const Gdiplus::SolidBrush brush(color);
-    graphics->DrawString(
-        text.c_str(), static_cast<int>(text.size()), &font,
-        Gdiplus::PointF(static_cast<float>(left), static_cast<float>(top)), &brush);
-}
 
 }  // namespace
 
@@ -46,8 +33,8 @@ void Sheet::DrawCell(Gdiplus::Graphics* graphics, const Cell& cell, int left,
                                         : Gdiplus::Color(0xFF26323F));
     graphics->FillRectangle(&paper, left, top, m_cellWidth, paperHeight);
     cell.draw(graphics, CPoint(left + m_cellWidth / 2, top + paperHeight / 2));
-    Write(graphics, cell.caption, 14.0f, Gdiplus::FontStyleRegular,
-          Gdiplus::Color(0xFF55606B), left + 2, top + paperHeight + 5);
+    Write(graphics, cell.caption, 14.0f, Gdiplus::FontStyleRegular, kCaptionInk, left + 2,
+          top + paperHeight + 5);
 }
 
 bool Sheet::Save(const std::wstring& file) const {
@@ -61,22 +48,15 @@ bool Sheet::Save(const std::wstring& file) const {
     {
         Gdiplus::Graphics graphics(&bitmap);
         graphics.Clear(Gdiplus::Color(0xFFEEF1F4));
-        graphics.SetSmoothingMode(Gdiplus::SmoothingModeAntiAlias);
-        graphics.SetTextRenderingHint(Gdiplus::TextRenderingHintAntiAlias);
-        Write(&graphics, m_title, 24.0f, Gdiplus::FontStyleBold,
-              Gdiplus::Color(0xFF1B2733), kMargin, 14);
+        Smooth(&graphics);
+        Write(&graphics, m_title, 24.0f, Gdiplus::FontStyleBold, kInk, kMargin, 14);
         for (int i = 0; i < count; ++i) {
             DrawCell(&graphics, m_cells[static_cast<std::size_t>(i)],
                      kMargin + i % columns * (m_cellWidth + kGap),
                      kTitleHeight + i / columns * (m_cellHeight + kGap));
         }
     }
-    if (bitmap.Save(file.c_str(), &kPngEncoder, nullptr) != Gdiplus::Ok) {
-        std::fprintf(stderr, "gallery: %ls: cannot be written\n", file.c_str());
-        return false;
-    }
-    std::printf("%ls\n", file.c_str());
-    return true;
+    return SavePng(bitmap, file);
 }
 
 }  // namespace gallery

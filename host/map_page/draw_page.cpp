@@ -5,7 +5,6 @@
 #include <cerrno>
 #include <cstddef>
 #include <cstdint>
-#include <cstdio>
 #include <memory>
 #include <system_error>
 #include <utility>
@@ -13,12 +12,10 @@
 
 #include "map_page/error.h"
 #include "map_page/progress_line.h"
-#include "map_page/quiet.h"
 #include "page/fonts.h"
 #include "page/image_file.h"
 #include "page/layout.h"
 #include "page/map_layers.h"
-#include "page/output_file.h"
 
 namespace map_page {
 namespace {
@@ -27,10 +24,6 @@ namespace {
 // million pixels.
 constexpr int kLongestSide = 32767;
 constexpr std::int64_t kMostPixels = 250'000'000;
-
-void Warn(const std::string& what) {
-    std::fprintf(stderr, "map_page: warning: %s\n", what.c_str());
-}
 
 void CheckIsFile(const std::string& path) {
     struct stat status = {};
@@ -62,11 +55,15 @@ void CheckPicture(const Options& options) {
         return;
     }
     CheckIsFile(options.picture);
-    const Quiet quiet;
     Gdiplus::Image image(options.design.picture.path.c_str());
     if (image.GetLastStatus() != Gdiplus::Ok || image.GetWidth() == 0 ||
         image.GetHeight() == 0) {
         throw Error(options.picture, "is no image that can be read");
+    }
+    if (image.GetWidth() > kLongestSide || image.GetHeight() > kLongestSide) {
+        throw Error(options.picture, "has " + std::to_string(image.GetWidth()) + " x " +
+                                         std::to_string(image.GetHeight()) +
+                                         " pixels; at most 32767 a side are drawn");
     }
 }
 
@@ -94,18 +91,6 @@ Gdiplus::Size CheckPixels(const host::Page& page, double dpi) {
                                  "drawn");
     }
     return size;
-}
-
-/// Runs a step whose exception has the reason but not the thing.
-template <typename Step>
-auto Naming(const std::string& thing, Step step) {
-    try {
-        return step();
-    } catch (const Error&) {
-        throw;
-    } catch (const std::runtime_error& error) {
-        throw Error(thing, error.what());
-    }
 }
 
 /// The sources belong to the rasters, which outlive the page.
@@ -137,19 +122,16 @@ void Draw(const host::Page& page, Gdiplus::Bitmap& bitmap, double dpi,
 std::vector<std::uint8_t> DrawAndEncode(const host::Page& page, Gdiplus::Size size,
                                         double dpi, host::ImageFormat format,
                                         ProgressLine& line) {
-    Gdiplus::Bitmap bitmap(size.Width, size.Height, PixelFormat24bppRGB);
-    if (bitmap.GetLastStatus() != Gdiplus::Ok) {
-        throw std::bad_alloc();
-    }
-    Draw(page, bitmap, dpi, line);
+    host::PageImage image(size);
+    Draw(page, image.Bitmap(), dpi, line);
     line.Begin("encoding the image");
-    const Quiet quiet;
-    return host::Encode(bitmap, format, dpi);
+    return host::Encode(image, format, dpi);
 }
 
 }  // namespace
 
-void DrawPage(const Options& options) {
+std::string DrawPage(const Options& options, host::OutputFile& output,
+                     const Quiet& quiet) {
     const host::ImageFormat format = CheckFormat(options.output);
     CheckFont("--title-font", options.titleFamily);
     CheckFont("--legend-font", options.legendFamily);
@@ -158,28 +140,26 @@ void DrawPage(const Options& options) {
         OpenRasters(options.rasters);
     const auto map = std::make_shared<host::MapLayers>(rasters);
     for (const host::LeftOutRaster& raster : map->LeftOut()) {
-        Warn(raster.raster->Path() + ": left off the map: " + raster.why);
+        quiet.Warn(raster.raster->Path() + ": left off the map: " + raster.why);
     }
 
     const host::LaidOutPage laidOut =
         host::LayOut(options.design, Describe(map, rasters));
     for (const std::string& remark : laidOut.remarks) {
-        Warn(remark);
+        quiet.Warn(remark);
     }
     const Gdiplus::Size size = CheckPixels(laidOut.page, options.dpi);
 
-    std::size_t written = 0;
+    std::vector<std::uint8_t> bytes;
     Naming(options.output, [&] {
-        host::OutputFile output(options.output);
-        ProgressLine line;
-        const std::vector<std::uint8_t> bytes =
-            DrawAndEncode(laidOut.page, size, options.dpi, format, line);
+        ProgressLine line(quiet.Voice());
+        bytes = DrawAndEncode(laidOut.page, size, options.dpi, format, line);
         line.Begin("writing the file");
-        output.Commit(bytes);
-        written = bytes.size();
+        output.Write(bytes);
     });
-    std::printf("%s: %d x %d pixels, %zu bytes\n", options.output.c_str(), size.Width,
-                size.Height, written);
+    return options.output + ": " + std::to_string(size.Width) + " x " +
+           std::to_string(size.Height) + " pixels, " + std::to_string(bytes.size()) +
+           " bytes";
 }
 
 }  // namespace map_page

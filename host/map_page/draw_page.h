@@ -1,12 +1,17 @@
 #pragma once
 
+#include <string>
+
 #include "map_page/options.h"
+#include "map_page/quiet.h"
+#include "page/output_file.h"
 
 namespace map_page {
 
-/// Draws the page that the options ask for and says on standard output where it is.
-/// Throws Error, and std::bad_alloc when the memory does not suffice. GDI+ must have been
-/// started.
-void DrawPage(const Options& options);
+/// Draws the page that the options ask for into the file, and returns the line that says
+/// where it will be once the file is committed. Throws Error, and std::bad_alloc when the
+/// memory does not suffice. GDI+ must have been started.
+std::string DrawPage(const Options& options, host::OutputFile& output,
+                     const Quiet& quiet);
 
 }  // namespace map_page

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <new>
 #include <stdexcept>
 #include <string>
 
@@ -10,6 +11,7 @@ class Error : public std::runtime_error {
 public:
     Error(const std::string& what, const std::string& why)
         : std::runtime_error(what + ": " + why) {}
+    explicit Error(const std::string& line) : std::runtime_error(line) {}
 };
 
 /// The program was called in a way that it does not know.
@@ -17,5 +19,23 @@ class UsageError : public Error {
 public:
     using Error::Error;
 };
+
+inline std::string LineFor(const std::exception& error) {
+    return dynamic_cast<const std::bad_alloc*>(&error) != nullptr
+               ? "memory: the page needs more than there is"
+               : error.what();
+}
+
+/// Runs a step whose exception has the reason but not the thing.
+template <typename Step>
+auto Naming(const std::string& thing, Step step) {
+    try {
+        return step();
+    } catch (const Error&) {
+        throw;
+    } catch (const std::runtime_error& error) {
+        throw Error(thing, error.what());
+    }
+}
 
 }  // namespace map_page

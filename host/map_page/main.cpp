@@ -1,14 +1,18 @@
 #include <cpl_error.h>
 #include <gdiplus.h>
+#include <unistd.h>
 
 #include <cstdio>
 #include <exception>
-#include <new>
 #include <optional>
+#include <string>
 
 #include "map_page/draw_page.h"
 #include "map_page/error.h"
 #include "map_page/options.h"
+#include "map_page/progress_line.h"
+#include "map_page/quiet.h"
+#include "map_page/separate_process.h"
 #include "page/output_file.h"
 
 namespace {
@@ -34,9 +38,24 @@ private:
     ULONG_PTR m_token = 0;
 };
 
-int Fail(int status, const char* line) {
-    std::fprintf(stderr, "map_page: %s\n", line);
+int Fail(int status, const std::exception& error) {
+    map_page::ProgressLine::Erase(STDERR_FILENO);
+    std::fprintf(stderr, "map_page: %s\n", map_page::LineFor(error).c_str());
     return status;
+}
+
+/// Whatever reads rasters and pictures and draws them is in the separate process; here is
+/// only what speaks to people and what gives the output its name.
+std::string DrawSeparately(const map_page::Options& options) {
+    host::OutputFile output(options.output);
+    std::string summary = map_page::InSeparateProcess([&] {
+        const map_page::Quiet quiet;
+        CPLSetErrorHandler(CPLQuietErrorHandler);
+        const GdiplusSession session;
+        return map_page::DrawPage(options, output, quiet);
+    });
+    output.Commit();
+    return summary;
 }
 
 void Run(int argc, const char* const* argv) {
@@ -45,10 +64,10 @@ void Run(int argc, const char* const* argv) {
     if (!options) {
         return;
     }
-    CPLSetErrorHandler(CPLQuietErrorHandler);
     host::RemoveUnfinishedOutputOnSignals();
-    const GdiplusSession session;
-    map_page::DrawPage(*options);
+    const std::string summary =
+        map_page::Naming(options->output, [&] { return DrawSeparately(*options); });
+    std::printf("%s\n", summary.c_str());
 }
 
 }  // namespace
@@ -58,10 +77,8 @@ int main(int argc, char** argv) {
         Run(argc, argv);
         return kDrawn;
     } catch (const map_page::UsageError& error) {
-        return Fail(kWrongUsage, error.what());
-    } catch (const std::bad_alloc&) {
-        return Fail(kNotDrawn, "memory: the page needs more than there is");
+        return Fail(kWrongUsage, error);
     } catch (const std::exception& error) {
-        return Fail(kNotDrawn, error.what());
+        return Fail(kNotDrawn, error);
     }
 }

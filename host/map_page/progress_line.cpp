@@ -1,6 +1,5 @@
 #include "map_page/progress_line.h"
 
-#include <fcntl.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -15,10 +14,8 @@ constexpr std::chrono::milliseconds kNext(100);
 
 }  // namespace
 
-ProgressLine::ProgressLine() {
-    if (isatty(STDERR_FILENO) != 0) {
-        m_terminal = fcntl(STDERR_FILENO, F_DUPFD_CLOEXEC, 3);
-    }
+ProgressLine::ProgressLine(int descriptor)
+    : m_terminal(isatty(descriptor) != 0 ? descriptor : -1) {
     if (m_terminal >= 0) {
         m_thread = std::thread([this] { Run(); });
     }
@@ -34,7 +31,6 @@ ProgressLine::~ProgressLine() {
     }
     m_changed.notify_one();
     m_thread.join();
-    close(m_terminal);
 }
 
 void ProgressLine::Begin(const std::string& step) {
@@ -60,7 +56,13 @@ void ProgressLine::Run() {
             dprintf(m_terminal, "\rmap_page: %s %d %%\033[K", m_step.c_str(), m_percent);
         }
     } while (!m_changed.wait_for(lock, kNext, [this] { return m_done; }));
-    dprintf(m_terminal, "\r\033[K");
+    Erase(m_terminal);
+}
+
+void ProgressLine::Erase(int descriptor) {
+    if (isatty(descriptor) != 0) {
+        dprintf(descriptor, "\r\033[K");
+    }
 }
 
 }  // namespace map_page

@@ -7,12 +7,13 @@
 
 namespace map_page {
 
-/// One line on standard error that says what is being done and how far it has come:
+/// One line on a terminal that says what is being done and how far it has come:
 /// `map_page: reading the rasters 40 %`. It shows itself when the work takes longer than
-/// a second and standard error is a terminal, and is gone when the object is.
+/// a second, and is gone when the object is.
 class ProgressLine {
 public:
-    ProgressLine();
+    /// @param descriptor of standard error; where that is no terminal nothing is shown
+    explicit ProgressLine(int descriptor);
     ProgressLine(const ProgressLine&) = delete;
     ProgressLine& operator=(const ProgressLine&) = delete;
     ~ProgressLine();
@@ -23,6 +24,9 @@ public:
     /// @param part of the step that is done, 0 to 1
     void Show(double part);
 
+    /// Removes the line of a process that was killed and could not do so itself.
+    static void Erase(int descriptor);
+
 private:
     void Run();
 
@@ -31,7 +35,7 @@ private:
     std::string m_step;
     int m_percent = -1;  // unknown
     bool m_done = false;
-    int m_terminal = -1;  // a descriptor of its own; none for no terminal
+    int m_terminal;  // none for no terminal
     std::thread m_thread;
 };
 

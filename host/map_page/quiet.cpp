@@ -26,4 +26,8 @@ Quiet::~Quiet() {
     }
 }
 
+void Quiet::Warn(const std::string& what) const {
+    dprintf(m_standardError, "map_page: warning: %s\n", what.c_str());
+}
+
 }  // namespace map_page

@@ -1,15 +1,23 @@
 #pragma once
 
+#include <string>
+
 namespace map_page {
 
-/// While it lives, nothing reaches standard error: the decoders behind GDI+ write there
-/// by themselves, and what is wrong is told in one line of ours.
+/// While it lives, nothing but what is told through it reaches standard error: the
+/// libraries that read and draw write there by themselves, and what is wrong is told in
+/// one line of ours. (AddressSanitizer's reports are kept with its option log_path.)
 class Quiet {
 public:
     Quiet();
     Quiet(const Quiet&) = delete;
     Quiet& operator=(const Quiet&) = delete;
     ~Quiet();
+
+    /// The descriptor of what was standard error.
+    int Voice() const { return m_standardError; }
+
+    void Warn(const std::string& what) const;
 
 private:
     int m_standardError;

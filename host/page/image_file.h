@@ -1,11 +1,11 @@
 #pragma once
 
-#include <gdiplus.h>
-
 #include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
+
+#include "page/page_image.h"
 
 namespace host {
 
@@ -18,7 +18,7 @@ std::optional<ImageFormat> FormatOf(const std::string& path);
 /// The bytes of an image file. PNG, JPEG and BMP record the resolution.
 ///
 /// Encoded in memory, because GDI+ reports Ok for some formats when the disk is full.
-/// Throws std::runtime_error with the reason when GDI+ cannot encode it.
-std::vector<std::uint8_t> Encode(Gdiplus::Bitmap& bitmap, ImageFormat format, double dpi);
+/// Throws std::runtime_error with the reason when it cannot be encoded.
+std::vector<std::uint8_t> Encode(PageImage& image, ImageFormat format, double dpi);
 
 }  // namespace host

@@ -7,6 +7,9 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "page/element_drawing.h"
+#include "page/placed_frame.h"
+
 namespace host {
 namespace {
 
@@ -44,15 +47,18 @@ PixelBox InkOf(Gdiplus::Bitmap& bitmap, int width, int height) {
     return box;
 }
 
-}  // namespace
-
-InkBox MeasureInk(CMapSurround& element) {
+/// The side of a square around an element's centre that its drawing does not leave: half
+/// as much again as its size all around, and room for a text that starts at an edge.
+double RoomFor(const CMapSurround& element) {
     const double height = std::max(1.0, static_cast<double>(element.GetSize()));
     const double ratio = std::isfinite(element.GetAspectRatio())
                              ? std::max(0.0, double{element.GetAspectRatio()})
                              : 0.0;
-    // Half as much again all around, and room for a text that starts at an edge.
-    const double room = std::max(2.0 * height, 2.0 * height * ratio) + 400.0;
+    return std::max(2.0 * height, 2.0 * height * ratio) + 400.0;
+}
+
+template <typename Drawing>
+InkBox Measure(double room, Drawing draw) {
     const double scale = std::min(1.0, kLargestSide / room);
     const int side = static_cast<int>(std::ceil(room * scale));
 
@@ -63,7 +69,7 @@ InkBox MeasureInk(CMapSurround& element) {
     {
         Gdiplus::Graphics graphics(&bitmap);
         graphics.SetTextRenderingHint(Gdiplus::TextRenderingHintAntiAlias);
-        element.Draw(&graphics, CPoint(side / 2, side / 2), scale);
+        draw(&graphics, CPoint(side / 2, side / 2), scale);
     }
     const PixelBox box = InkOf(bitmap, side, side);
     if (box.right < box.left) {
@@ -72,6 +78,29 @@ InkBox MeasureInk(CMapSurround& element) {
     const int middle = side / 2;
     return {(middle - box.left) / scale, (box.right + 1 - middle) / scale,
             (middle - box.top) / scale, (box.bottom + 1 - middle) / scale};
+}
+
+}  // namespace
+
+InkBox MeasureInk(CMapSurround& element) {
+    return Measure(RoomFor(element),
+                   [&element](Gdiplus::Graphics* graphics, CPoint centre, double scale) {
+                       element.Draw(graphics, centre, scale);
+                   });
+}
+
+InkBox MeasureInk(CSurroundFrame& frame) {
+    const CMapSurround* const element = frame.GetMapSurround();
+    if (element == nullptr) {
+        return {};
+    }
+    const auto* const placed = dynamic_cast<const PlacedFrame*>(&frame);
+    const CPoint2D offset = placed == nullptr ? CPoint2D() : placed->ElementOffset();
+    const double away = std::max(std::fabs(offset.x), std::fabs(offset.y));
+    return Measure(RoomFor(*element) + 2.0 * away,
+                   [&frame](Gdiplus::Graphics* graphics, CPoint centre, double scale) {
+                       DrawElement(*graphics, frame, centre, scale);
+                   });
 }
 
 }  // namespace host

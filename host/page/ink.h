@@ -1,6 +1,7 @@
 #pragma once
 
 #include "map_surround/element.h"
+#include "map_surround/frame.h"
 
 namespace host {
 
@@ -20,5 +21,8 @@ struct InkBox {
 /// Draws an element out of sight and looks how far it reaches, for texts may stand out
 /// from the rectangle that an element's size and aspect ratio describe.
 InkBox MeasureInk(CMapSurround& element);
+
+/// The same of a frame's element as DrawElement draws it, from the middle of the frame.
+InkBox MeasureInk(CSurroundFrame& frame);
 
 }  // namespace host

@@ -129,7 +129,7 @@ OutputFile::~OutputFile() {
     }
 }
 
-void OutputFile::Commit(const std::vector<std::uint8_t>& bytes) {
+void OutputFile::Write(const std::vector<std::uint8_t>& bytes) const {
     std::size_t done = 0;
     while (done < bytes.size()) {
         const ssize_t count =
@@ -139,6 +139,9 @@ void OutputFile::Commit(const std::vector<std::uint8_t>& bytes) {
         }
         done += count > 0 ? static_cast<std::size_t>(count) : 0;
     }
+}
+
+void OutputFile::Commit() {
     if (fchmod(m_descriptor, ModeFor(m_path)) != 0 || fsync(m_descriptor) != 0) {
         Fail(errno);
     }

@@ -11,7 +11,7 @@ namespace host {
 /// It is written under a temporary name in the same folder, which goes when the object
 /// does, and on the signals that end a program (see RemoveUnfinishedOutputOnSignals).
 /// What stood under the name before stays until Commit, and stays for good when anything
-/// fails. At most one at a time.
+/// fails. A forked process may do the writing. At most one at a time.
 class OutputFile {
 public:
     /// Begins the temporary file. Throws std::runtime_error with the reason, so that a
@@ -22,9 +22,12 @@ public:
     OutputFile& operator=(const OutputFile&) = delete;
     ~OutputFile();
 
-    /// Writes everything, sees it onto the disk and gives it its name. Throws
+    /// Appends. Throws std::runtime_error with the reason.
+    void Write(const std::vector<std::uint8_t>& bytes) const;
+
+    /// Sees what was written onto the disk and gives it its name. Throws
     /// std::runtime_error with the reason.
-    void Commit(const std::vector<std::uint8_t>& bytes);
+    void Commit();
 
 private:
     std::string m_path;

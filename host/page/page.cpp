@@ -46,14 +46,25 @@ private:
     }
 };
 
+/// GDI+ works through every pixel of an image with transparency once more.
+bool IsOpaque(const PixelImage& image) {
+    std::uint8_t alphas = 255;
+    for (std::size_t i = 3; i < image.bgra.size(); i += 4) {
+        alphas &= image.bgra[i];
+    }
+    return alphas == 255;
+}
+
 /// Pixel for pixel: the picture is rendered at exactly the frame's size.
 void DrawPicture(Gdiplus::Graphics& graphics, MapPicture& picture, const CRect& rect,
-                 const Progress& progress) {
+                 RenderedMaps& maps, const Progress& progress) {
     const int width = std::max(1, rect.right - rect.left);
     const int height = std::max(1, rect.bottom - rect.top);
-    PixelImage image = picture.Render(width, height, progress);
-    Gdiplus::Bitmap pixels(image.width, image.height, image.width * 4,
-                           PixelFormat32bppARGB, image.bgra.data());
+    PixelImage& image = maps.Of(picture, width, height, progress);
+    const Gdiplus::PixelFormat format =
+        IsOpaque(image) ? PixelFormat32bppRGB : PixelFormat32bppARGB;
+    Gdiplus::Bitmap pixels(image.width, image.height, image.width * 4, format,
+                           image.bgra.data());
     graphics.DrawImage(&pixels, rect.left, rect.top, width, height);
 }
 
@@ -61,6 +72,7 @@ void DrawPicture(Gdiplus::Graphics& graphics, MapPicture& picture, const CRect& 
 struct ItemDrawing {
     Gdiplus::Graphics& graphics;
     const DeviceView& view;
+    RenderedMaps& maps;
     const Progress& progress;
 
     void operator()(const MapFrame& map) const {
@@ -69,7 +81,7 @@ struct ItemDrawing {
         PrepareDecoration(graphics);
         decoration.behind.DrawFrame(&graphics, rect);
         if (map.picture != nullptr) {
-            DrawPicture(graphics, *map.picture, rect, progress);
+            DrawPicture(graphics, *map.picture, rect, maps, progress);
         }
         decoration.around.DrawFrame(&graphics, rect);
     }
@@ -84,14 +96,28 @@ struct ItemDrawing {
     }
 };
 
+void PaintPaper(Gdiplus::Graphics& graphics) {
+    graphics.ResetTransform();
+    graphics.Clear(Gdiplus::Color(kPaper));
+}
+
 }  // namespace
 
 void Page::Draw(Gdiplus::Graphics& graphics, double dpi, const Progress& progress) const {
     const DeviceView view(m_height, dpi);
-    graphics.ResetTransform();
-    graphics.Clear(Gdiplus::Color(kPaper));
+    PaintPaper(graphics);
     for (const PageItem& item : m_items) {
-        std::visit(ItemDrawing{graphics, view, progress}, item);
+        RenderedMaps forThisItem;  // one large image at a time
+        std::visit(ItemDrawing{graphics, view, forThisItem, progress}, item);
+    }
+}
+
+void Page::DrawItems(Gdiplus::Graphics& graphics, double dpi,
+                     const std::vector<std::size_t>& items, RenderedMaps& maps) const {
+    const DeviceView view(m_height, dpi);
+    PaintPaper(graphics);
+    for (const std::size_t item : items) {
+        std::visit(ItemDrawing{graphics, view, maps, {}}, m_items.at(item));
     }
 }
 

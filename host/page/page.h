@@ -2,12 +2,14 @@
 
 #include <gdiplus.h>
 
+#include <cstddef>
 #include <memory>
 #include <variant>
 #include <vector>
 
 #include "map_surround/frame.h"
 #include "page/map_picture.h"
+#include "page/rendered_maps.h"
 
 namespace host {
 
@@ -49,6 +51,11 @@ public:
     /// @param progress told how far the maps have been read
     void Draw(Gdiplus::Graphics& graphics, double dpi,
               const Progress& progress = {}) const;
+
+    /// As Draw, but draws only these items, in the order given, on blank paper, and takes
+    /// their maps from those rendered before. Where the surface has a clip, only in it.
+    void DrawItems(Gdiplus::Graphics& graphics, double dpi,
+                   const std::vector<std::size_t>& items, RenderedMaps& maps) const;
 
 private:
     double m_width;

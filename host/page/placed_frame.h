@@ -11,6 +11,7 @@ public:
     /// Where the element's centre stands from the middle of the frame: page units, y
     /// growing upwards.
     void SetElementOffset(double dx, double dy);
+    CPoint2D ElementOffset() const { return {m_offsetX, m_offsetY}; }
 
     /// The length on the page, in page units, of a scale bar's division before it is
     /// rounded to a nice value. Has no meaning for other elements.

@@ -5,6 +5,15 @@
 #include "raster_data/gdal_session.h"
 
 namespace host {
+namespace {
+
+/// Cut before it becomes an integer: the sum of a window's fractions can end a little
+/// beyond a raster that is as large as integers go.
+int PixelsUpTo(double edge, int size) {
+    return static_cast<int>(std::min(std::ceil(edge), 1.0 * size));
+}
+
+}  // namespace
 
 void ReadWindow(GDALRasterBand* band, const Window& window, int columns, int rows,
                 void* to, GDALDataType type) {
@@ -17,10 +26,8 @@ void ReadWindow(GDALRasterBand* band, const Window& window, int columns, int row
     exact.dfYSize = window.height;
     const int x = static_cast<int>(window.x);
     const int y = static_cast<int>(window.y);
-    const int right =
-        std::min(static_cast<int>(std::ceil(window.x + window.width)), band->GetXSize());
-    const int bottom =
-        std::min(static_cast<int>(std::ceil(window.y + window.height)), band->GetYSize());
+    const int right = PixelsUpTo(window.x + window.width, band->GetXSize());
+    const int bottom = PixelsUpTo(window.y + window.height, band->GetYSize());
     const QuietGdal quiet;
     if (band->RasterIO(GF_Read, x, y, right - x, bottom - y, to, columns, rows, type, 0,
                        0, &exact) != CE_None) {

@@ -1,5 +1,8 @@
 #pragma once
 
+/// @file
+/// What all elements are: CMapSurround and their kinds.
+
 #include <gdiplus.h>
 
 #include <cstdint>
@@ -32,9 +35,13 @@ enum MapSurroundType : std::int32_t {
 ///   GetSize() and GetAspectRatio().
 /// - Any value may be stored and drawn; lengths beyond 32 bits are drawn at the limit.
 /// - Elements are used by one thread at a time, and start and stop nothing.
+/// - Nothing throws of itself. Where memory runs out, std::bad_alloc leaves the
+/// operation,
+///   and the element is as it was before it; what was drawn until then stays drawn.
 class MAP_SURROUND_API CMapSurround {
 public:
     CMapSurround() = default;
+    /// Copies every property.
     CMapSurround(const CMapSurround&) = default;
     CMapSurround& operator=(const CMapSurround&) = default;
 
@@ -76,6 +83,8 @@ public:
     float GetAngle() const { return m_angle; }
     void SetAngle(float angle) { m_angle = angle; }
 
+    /// The kind of element, set by each class. Storing another changes nothing but the
+    /// answer.
     MapSurroundType GetItemType() const { return m_itemType; }
     void SetItemType(MapSurroundType type) { m_itemType = type; }
 

@@ -1,5 +1,8 @@
 #pragma once
 
+/// @file
+/// Frames on the page, their kinds, and where a point lies.
+
 #include <gdiplus.h>
 
 #include <cstdint>
@@ -73,20 +76,24 @@ public:
     /// gap of 3 both ways has its border from (7, 17), 106 wide and 56 high
     void DrawFrame(Gdiplus::Graphics* graphics, CRect rect);
 
+    /// The rectangle on the page, in page units.
     CBoundingBox GetExtent() const { return m_extent; }
     void SetExtent(CBoundingBox extent) { m_extent = extent; }
 
+    /// The kind of frame, which its constructor sets.
     FrameType GetFrameType() const { return m_frameType; }
 
     /// The handle that the last HitTest found, -1 when it found none.
     std::int32_t HitHandle = 0;
 
+    /// Which decorations DrawFrame draws.
     bool DrawBorder = false;
     bool DrawFill = false;
     bool DrawShadow = false;
     bool DashedBorder = false;  ///< only true, the byte 1, counts
 
     float BorderWidth = 1.0f;  ///< device pixels
+    /// Colours with their alpha.
     Gdiplus::Color BorderColor{0xFF000000};
     Gdiplus::Color FillColor{0x00FFFFFF};
     Gdiplus::Color ShadowColor{0x00FFFFFF};
@@ -101,6 +108,7 @@ public:
     std::int32_t BorderGapX = 0;
     std::int32_t BorderGapY = 0;
 
+    /// The same, with their own default.
     std::int32_t Reserved4 = 5;
     std::int32_t Reserved5 = 5;
 
@@ -114,6 +122,7 @@ public:
     float ShadowRatioY = 0.0f;
 
 protected:
+    /// For a frame of another kind.
     explicit CFrameBase(FrameType type) : m_frameType(type) {}
 
 private:
@@ -130,6 +139,7 @@ private:
 class MAP_SURROUND_API CSurroundFrame : public CFrameBase {
 public:
     CSurroundFrame() : CFrameBase(FrameSurround) {}
+    /// Copies every field and the pointer to the element, which both then share.
     CSurroundFrame(const CSurroundFrame&) = default;
 
     /// Copies the pointer to the element; the element held before is not deleted.

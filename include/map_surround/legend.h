@@ -1,5 +1,8 @@
 #pragma once
 
+/// @file
+/// The legend.
+
 #include <gdiplus.h>
 
 #include <string>
@@ -35,9 +38,11 @@ class MAP_SURROUND_API CMapLegend : public CMapSurround {
 public:
     CMapLegend();
 
-    /// Copies everything; the copy explains the same sources.
+    /// Copies everything; the copy explains the same sources. An assignment for which
+    /// there is not enough memory changes nothing.
     CMapLegend(const CMapLegend&) = default;
-    CMapLegend& operator=(const CMapLegend&) = default;
+    CMapLegend& operator=(const CMapLegend& other);
+    CMapLegend& operator=(CMapLegend&&) = default;
 
     /// Leaves the sources alive.
     ~CMapLegend() override;
@@ -55,6 +60,9 @@ public:
     /// + 24 + (13 + 3 * 7 + 36) + (13 + 4 * 7 + 12) + 24 - 12 = 179. The width is the
     /// widest of the title, three samples, each bare file name, and each class label set
     /// off by two samples.
+    ///
+    /// A measurement that memory runs out for, or that a source ends with an exception of
+    /// its own, changes nothing.
     ///
     /// A font that does not exist measures 0 by 0, and the legend shrinks accordingly. A
     /// height beyond 32 bits is taken as the limit.
@@ -97,9 +105,11 @@ public:
     float GetTitleSize() const { return m_titleSize; }
     void SetTitleSize(float size) { m_titleSize = size; }
 
+    /// The style of the title; bold until it is set.
     Gdiplus::FontStyle GetTitleStyle() const { return m_titleStyle; }
     void SetTitleStyle(Gdiplus::FontStyle style) { m_titleStyle = style; }
 
+    /// The colour of the title.
     Gdiplus::Color GetTitleColor() const { return m_titleColor; }
     void SetTitleColor(Gdiplus::Color color) { m_titleColor = color; }
 

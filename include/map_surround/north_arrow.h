@@ -1,5 +1,8 @@
 #pragma once
 
+/// @file
+/// North arrows and their styles.
+
 #include <gdiplus.h>
 
 #include <cstdint>

@@ -1,5 +1,8 @@
 #pragma once
 
+/// @file
+/// The picture from an image file.
+
 #include <gdiplus.h>
 
 #include <cstdint>
@@ -10,12 +13,14 @@
 
 /// An image file on the page: a logo, a photograph.
 ///
-/// Copies share the image: the host must not let two copies destroy it.
+/// Copies share the image: the host must not let two copies destroy it. An assignment
+/// for which there is not enough memory changes nothing.
 class MAP_SURROUND_API CDrawPicture : public CMapSurround {
 public:
     CDrawPicture();
+    /// Copies every property and the pointer to the image, which both then share.
     CDrawPicture(const CDrawPicture&) = default;
-    CDrawPicture& operator=(const CDrawPicture&) = default;
+    CDrawPicture& operator=(const CDrawPicture& other);
 
     /// Disposes of the image.
     ~CDrawPicture() override;
@@ -25,8 +30,9 @@ public:
     /// over 768; H / 20 when both are over 1920; H / 3 when both are under 768. An image
     /// of 1000 x 1000 pixels gets size 100. The aspect ratio becomes the image's.
     /// @param path a null pointer counts as an empty name, which no file has
-    /// @return whether there is an image object. One whose file could not be loaded is
-    /// one too, with size 0 and aspect ratio NaN (0/0): the host checks the file before.
+    /// @return whether there is an image object: false where there is no memory for it.
+    /// One whose file could not be loaded is one too, with size 0 and aspect ratio NaN
+    /// (0/0): the host checks the file before.
     bool Open(const wchar_t* path);
 
     /// Sets the aspect ratio and the new height to those of the box around the picture at

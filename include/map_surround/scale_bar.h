@@ -1,5 +1,8 @@
 #pragma once
 
+/// @file
+/// Scale bars, their styles and where their unit stands.
+
 #include <gdiplus.h>
 
 #include <cstdint>
@@ -52,11 +55,13 @@ enum ScaleBarPostion : std::int32_t {
 /// - Angles are ignored and the world transform is never touched.
 /// - The counts are taken as they come. A count of a thousand million is drawn, slowly.
 ///
-/// A copy has a font family and a brush of its own.
+/// A copy has a font family and a brush of its own. An assignment for which there is not
+/// enough memory changes nothing.
 class MAP_SURROUND_API CScaleBarBase : public CMapSurround {
 public:
     /// Item type SurroundScaleBar, size 40, aspect ratio 5.8.
     CScaleBarBase();
+    /// Copies every property.
     CScaleBarBase(const CScaleBarBase& other);
     CScaleBarBase& operator=(const CScaleBarBase& other);
 
@@ -89,6 +94,7 @@ public:
     int GetSubDivCount() const { return m_subDivCount; }
     void SetSubDivCount(int count) { m_subDivCount = count; }
 
+    /// Where the unit name stands.
     ScaleBarPostion GetUnitPos() const { return m_unitPos; }
     void SetUnitPos(ScaleBarPostion position) { m_unitPos = position; }
 
@@ -123,7 +129,7 @@ private:
     struct Resources {
         Resources() = default;
         Resources(const Resources&) {}
-        Resources& operator=(const Resources&) { return *this; }
+        Resources& operator=(const Resources&) = delete;
 
         Gdiplus::FontFamily fontFamily{L"Times New Roman"};
         Gdiplus::SolidBrush brush{Gdiplus::Color(0xFF000000)};  // no style draws with it

@@ -1,5 +1,8 @@
 #pragma once
 
+/// @file
+/// The title and its font styles.
+
 #include <gdiplus.h>
 
 #include <cstdint>
@@ -31,6 +34,11 @@ enum FontProcess : std::int32_t {
 class MAP_SURROUND_API CMapTitle : public CMapSurround {
 public:
     CMapTitle();
+    CMapTitle(const CMapTitle&) = default;
+
+    /// Copies everything, or changes nothing where memory runs out.
+    CMapTitle& operator=(const CMapTitle& other);
+    CMapTitle& operator=(CMapTitle&&) = default;
 
     /// Measures the outline of the text at scale 1, turned by the angle. The size becomes
     /// the height of the box around the turned outline and the aspect ratio its width
@@ -53,6 +61,7 @@ public:
     std::wstring GetFontStyle() const { return m_fontStyle; }
     void SetFontStyle(std::wstring family) { m_fontStyle = std::move(family); }
 
+    /// The style of the font; regular until it is set.
     FontProcess GetFontProcess() const { return m_fontProcess; }
     void SetFontProcess(FontProcess process) { m_fontProcess = process; }
 

@@ -45,7 +45,8 @@ CFrameBase& CFrameBase::operator=(const CFrameBase& other) {
     DrawBorder = other.DrawBorder;
     DrawFill = other.DrawFill;
     DrawShadow = other.DrawShadow;
-    DashedBorder = other.DashedBorder;
+    // Its byte may be none of a bool's, see IsOne.
+    std::memcpy(&DashedBorder, &other.DashedBorder, sizeof DashedBorder);
     BorderWidth = other.BorderWidth;
     BorderColor = other.BorderColor;
     FillColor = other.FillColor;

@@ -1,4 +1,6 @@
 #include <algorithm>
+#include <exception>
+#include <utility>
 
 #include "element/numbers.h"
 #include "legend/lettering.h"
@@ -48,21 +50,47 @@ struct Layout {
     }
 };
 
+/// Multiplies a font size, and takes that back where the measurement is given up: with
+/// memory at its end, or by a source that throws. Tried anew, it must not compound.
+class ScaledSize {
+public:
+    ScaledSize(float& size, float factor) : m_size(size), m_before(size) {
+        m_size *= factor;
+    }
+    ~ScaledSize() {
+        if (std::uncaught_exceptions() > m_exceptions) {
+            m_size = m_before;
+        }
+    }
+    ScaledSize(const ScaledSize&) = delete;
+    ScaledSize& operator=(const ScaledSize&) = delete;
+
+private:
+    float& m_size;
+    float m_before;
+    int m_exceptions = std::uncaught_exceptions();
+};
+
 }  // namespace
 
 CMapLegend::CMapLegend() { SetItemType(SurroundLegend); }
+
+CMapLegend& CMapLegend::operator=(const CMapLegend& other) {
+    CMapLegend copy(other);
+    return *this = std::move(copy);
+}
 
 CMapLegend::~CMapLegend() = default;
 
 void CMapLegend::ResetAspectRatio() {
     Ruler ruler;
 
-    m_titleSize *= m_sizeFactor;
+    const ScaledSize titleSize(m_titleSize, m_sizeFactor);
     const Lettering title(m_titleFamily, m_titleSize, m_titleStyle);
     const Gdiplus::Rect titleBox = ruler.Measure(m_titleText, title);
 
     // The sample is in the title's family, but as large as the file names.
-    m_fileNameSize *= m_sizeFactor;
+    const ScaledSize fileNameSize(m_fileNameSize, m_sizeFactor);
     const Lettering fileName(m_fileNameFamily, m_fileNameSize, m_fileNameStyle);
     const Gdiplus::Rect sample =
         ruler.Measure(legend::kSampleText, title.family, fileName.font);

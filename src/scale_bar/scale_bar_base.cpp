@@ -13,8 +13,23 @@ CScaleBarBase::CScaleBarBase(ScaleBarType type) : CScaleBarBase() {
 }
 
 CScaleBarBase::CScaleBarBase(const CScaleBarBase& other) = default;
-CScaleBarBase& CScaleBarBase::operator=(const CScaleBarBase& other) = default;
 CScaleBarBase::~CScaleBarBase() = default;
+
+CScaleBarBase& CScaleBarBase::operator=(const CScaleBarBase& other) {
+    m_unitsName = other.m_unitsName;  // first, for it is all that can fail
+    CMapSurround::operator=(other);
+    m_unitPos = other.m_unitPos;
+    m_paper2DataScale = other.m_paper2DataScale;
+    m_paper2ScreenScale = other.m_paper2ScreenScale;
+    m_scaleBarType = other.m_scaleBarType;
+    m_styleFlag = other.m_styleFlag;
+    m_styleValue = other.m_styleValue;
+    m_subDivCount = other.m_subDivCount;
+    m_mainDivCount = other.m_mainDivCount;
+    m_screen2PaperByOneScale = other.m_screen2PaperByOneScale;
+    m_destUnitType = other.m_destUnitType;
+    return *this;
+}
 
 void CScaleBarBase::ResetAspectRatio() {
     const auto value = map_surround::DivisionValueOf(m_paper2DataScale);

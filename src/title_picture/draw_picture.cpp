@@ -30,6 +30,18 @@ int SizeOf(unsigned int width, unsigned int height) {
 
 CDrawPicture::CDrawPicture() { SetItemType(SurroundPicture); }
 
+// Not the default, which would copy the base before it can fail; assigning to itself
+// changes nothing.
+// NOLINTNEXTLINE(bugprone-unhandled-self-assignment,modernize-use-equals-default)
+CDrawPicture& CDrawPicture::operator=(const CDrawPicture& other) {
+    m_path = other.m_path;  // first, for it is all that can fail
+    CMapSurround::operator=(other);
+    m_imageAspectRatio = other.m_imageAspectRatio;
+    m_image = other.m_image;
+    m_newHeight = other.m_newHeight;
+    return *this;
+}
+
 // The global operators, here and in Open, so that the wrapper is freed by what made it
 // whichever allocation functions GDI+'s classes bring along.
 CDrawPicture::~CDrawPicture() { ::delete m_image; }

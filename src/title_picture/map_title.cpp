@@ -1,3 +1,5 @@
+#include <utility>
+
 #include "element/numbers.h"
 #include "element/rotation.h"
 #include "element/text.h"
@@ -8,6 +10,11 @@ using map_surround::Length;
 CMapTitle::CMapTitle() {
     SetItemType(SurroundMapTitle);
     SetAspectRatio(5.0f);
+}
+
+CMapTitle& CMapTitle::operator=(const CMapTitle& other) {
+    CMapTitle copy(other);
+    return *this = std::move(copy);
 }
 
 void CMapTitle::ResetAspectRatio() {

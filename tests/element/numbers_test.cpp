@@ -10,6 +10,11 @@ using map_surround::Length;
 using map_surround::ToDevice;
 using map_surround::Truncate;
 
+// Compilers refuse a conversion that is not defined, where a processor may do as wished.
+static_assert(Truncate(-1e12) == std::numeric_limits<std::int32_t>::min());
+static_assert(Truncate(1e12) == std::numeric_limits<std::int32_t>::max());
+static_assert(Truncate(std::numeric_limits<double>::quiet_NaN()) == 0);
+
 struct Row {
     double value;
     std::int32_t truncated;

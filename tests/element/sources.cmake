@@ -1,3 +1,4 @@
 set(element_test_sources
   element_test.cpp
+  host_types_test.cpp
   numbers_test.cpp)

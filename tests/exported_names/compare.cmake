@@ -1,47 +1,57 @@
-# Compares the classes that a shared library exports with a list of them, one a line.
-#   cmake -DLIBRARY=file -DCLASSES=list -DNM=nm -P compare.cmake
-#   cmake -DLIBRARY=file -DCLASSES=list -DOBJDUMP=objdump -DCXXFILT=c++filt -P compare.cmake
-# The second is for a DLL, whose table of exports nm does not show.
+# Compares what a shared library exports with a list of names, one a line.
+#   cmake -DLIBRARY=file -DNAMES=list -DNM=nm -P compare.cmake
+#   cmake -DLIBRARY=file -DNAMES=list -DOBJDUMP=objdump -DCXXFILT=c++filt -P compare.cmake
+# The second is for a DLL, whose table of exports nm does not show: only the classes of
+# the names are compared.
 cmake_policy(VERSION 3.22)
 if(OBJDUMP)
   execute_process(COMMAND ${OBJDUMP} --private-headers ${LIBRARY} COMMAND ${CXXFILT}
-    OUTPUT_VARIABLE names RESULTS_VARIABLE results)
+    OUTPUT_VARIABLE exported RESULTS_VARIABLE results)
   set(before_name "^\t,[ 0-9]+, ")
 else()
   execute_process(COMMAND ${NM} --dynamic --demangle --defined-only ${LIBRARY}
-    OUTPUT_VARIABLE names RESULTS_VARIABLE results)
+    OUTPUT_VARIABLE exported RESULTS_VARIABLE results)
   set(before_name "^[0-9a-f]+ [A-Za-z] ")
 endif()
 if(NOT results MATCHES "^0(;0)?$")
   message(FATAL_ERROR "the names of ${LIBRARY} cannot be read")
 endif()
-string(REGEX REPLACE "[];\\[]" "," names "${names}")
-string(REPLACE "\n" ";" names "${names}")
-list(FILTER names INCLUDE REGEX "${before_name}")
-list(FILTER names EXCLUDE REGEX "Export RVA$")  # the same exports by address
+string(REGEX REPLACE "[];\\[]" "," exported "${exported}")
+string(REPLACE "\n" ";" exported "${exported}")
+list(FILTER exported INCLUDE REGEX "${before_name}")
+list(FILTER exported EXCLUDE REGEX "Export RVA$")  # the same exports by address
+list(TRANSFORM exported REPLACE "${before_name}" "")
 
-set(exported)
-foreach(name IN LISTS names)
-  string(REGEX REPLACE "${before_name}" "" name "${name}")
-  if(name MATCHES "^([A-Za-z0-9_]+)::" OR
-      name MATCHES "^[a-z ]+ for ([A-Za-z0-9_]+)$")
-    list(APPEND exported ${CMAKE_MATCH_1})
-  elseif(name)
-    message(SEND_ERROR "exported, but of no class: ${name}")
-  endif()
-endforeach()
+function(keep_classes names)
+  set(classes)
+  foreach(name IN LISTS ${names})
+    if(name MATCHES "^([A-Za-z0-9_]+)::" OR
+        name MATCHES "^[a-z ]+ for ([A-Za-z0-9_]+)$")
+      list(APPEND classes ${CMAKE_MATCH_1})
+    elseif(name)
+      message(SEND_ERROR "exported, but of no class: ${name}")
+    endif()
+  endforeach()
+  set(${names} ${classes} PARENT_SCOPE)
+endfunction()
+
+file(STRINGS ${NAMES} expected)
+if(OBJDUMP)
+  keep_classes(exported)
+  keep_classes(expected)
+endif()
 list(REMOVE_DUPLICATES exported)
-list(SORT exported)
+list(REMOVE_DUPLICATES expected)
 
-file(STRINGS ${CLASSES} expected)
-list(SORT expected)
-foreach(class IN LISTS exported)
-  if(NOT class IN_LIST expected)
-    message(SEND_ERROR "exported, but not in the list: ${class}")
+# Plain lines, which can be copied into the list.
+function(complain_of names not_in what)
+  set(others ${${names}})
+  list(REMOVE_ITEM others ${${not_in}})
+  if(others)
+    list(JOIN others "\n" lines)
+    message(NOTICE "${what}:\n${lines}")
+    message(SEND_ERROR "The exported names have changed.")
   endif()
-endforeach()
-foreach(class IN LISTS expected)
-  if(NOT class IN_LIST exported)
-    message(SEND_ERROR "in the list, but not exported: ${class}")
-  endif()
-endforeach()
+endfunction()
+complain_of(exported expected "exported, but not in the list")
+complain_of(expected exported "in the list, but not exported")

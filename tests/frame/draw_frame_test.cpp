@@ -98,6 +98,9 @@ TEST(DrawFrame, CountsOnlyTheValueOneAsDashed) {
         const std::vector<std::string> lines = FrameTrace(frame, CRect(0, 0, 9, 9));
         EXPECT_EQ(lines.at(1) == "GdipSetPenDashStyle 1", row.dashed) << +row.byte;
         EXPECT_EQ(lines.size(), row.dashed ? 4u : 3u) << +row.byte;
+
+        CFrameBase copy(frame);
+        EXPECT_EQ(FrameTrace(copy, CRect(0, 0, 9, 9)), lines) << +row.byte;
     }
 }
 
@@ -322,6 +325,22 @@ TEST(DrawFrame, DropsTheShadowOfAHugeRectangleInFloats) {
         FrameTrace(frame, CRect(kLowest, kLowest, kHighest, kHighest));
     EXPECT_EQ(lines.at(1), FillRectangle(brush, edge, -1.0f, side / 4, side));
     EXPECT_EQ(lines.at(2), FillRectangle(brush, -edge / 2, edge, side, side));
+}
+
+// The strips begin at 2^31 - 101 and four times 100 further: 2^31 + 299, of which a float
+// keeps 2^31 + 256.
+TEST(DrawFrame, DropsTheShadowBeyond32Bits) {
+    CFrameBase frame = ColouredFrame();
+    frame.DrawShadow = true;
+    frame.BorderWidth = 0.0f;
+    frame.ShadowRatioX = frame.ShadowRatioY = 4.0f;
+    const float begin = 2147483904.0f;
+    const float edge = 2147483648.0f;  // 2^31 - 1, as a float
+    const std::string brush = BrushLook(kShadow);
+    const std::vector<std::string> lines =
+        FrameTrace(frame, CRect(kHighest - 100, kHighest - 100, kHighest, kHighest));
+    EXPECT_EQ(lines.at(1), FillRectangle(brush, edge, begin, 400, 100));
+    EXPECT_EQ(lines.at(2), FillRectangle(brush, begin, edge, 100, 400));
 }
 
 TEST(DrawFrame, GoesOnWhenACallFails) {

@@ -42,10 +42,12 @@ struct Item : CClassifyDisplayItem {
     std::wstring GetLable() override { return label; }
     void GetColor(unsigned char& r, unsigned char& g, unsigned char& b,
                   unsigned char& other) override {
-        r = red;
-        g = green;
-        b = blue;
-        other = fourth;
+        if (tellsColour) {
+            r = red;
+            g = green;
+            b = blue;
+            other = fourth;
+        }
     }
 
     std::wstring label;
@@ -53,6 +55,7 @@ struct Item : CClassifyDisplayItem {
     unsigned char green;
     unsigned char blue;
     unsigned char fourth;
+    bool tellsColour = true;
 };
 
 struct Table : CClassifyDisplayTable {

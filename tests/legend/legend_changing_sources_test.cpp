@@ -4,6 +4,7 @@
 
 #include <cstdlib>
 #include <memory>
+#include <stdexcept>
 
 #include "legend/fake_sources.h"
 #include "legend/scripted_ink.h"
@@ -158,6 +159,18 @@ TEST(LegendOfChangingSources, TablesWithoutEndDoNotOverflowTogether) {
     }
 }
 
+TEST(LegendOfChangingSources, GapsWithoutEndDoNotOverflow) {
+    Raster raster(L"raster", DisplayClassified);
+    raster.table.Claim(std::vector<int>{200000000, 0});
+    CMapLegend legend;
+    legend.SetDataSouce({&raster});
+    Recording recording(Mode::RecordOnly);
+    // Swatches of no height, so that the gaps alone, 12 * 200000000, are past the limit.
+    ink::Script(recording, ink::Of({{"Band_1", {40, 1}}}));
+    legend.ResetAspectRatio();
+    EXPECT_EQ(legend.GetSize(), 2147483647);
+}
+
 TEST(LegendOfChangingSources, WhereTheDrawingAsksForTheCount) {
     // The count is asked for before each class, and after it: is it the last one?
     const struct {
@@ -228,6 +241,35 @@ TEST(LegendOfChangingSources, TheLengthOfTheListIsReadAfterEachSource) {
         legend.SetDataSouce(row.before);
         EXPECT_EQ(Draw(legend).size(), 1 + row.names);
     }
+}
+
+// The sizes are scaled before a source is asked for anything, and so are there for it to
+// see; a source that throws leaves all as it was.
+TEST(LegendOfChangingSources, OneThatThrowsDoesNotScaleTheFontSizes) {
+    Raster raster(L"one", DisplayRGB);
+    CMapLegend legend;
+    legend.SetDataSouce({&raster});
+    Measure(legend);
+    const std::vector<std::string> before = Draw(legend);
+    const int size = legend.GetSize();
+    const float aspectRatio = legend.GetAspectRatio();
+
+    legend.SetSizeAspect(2.0f);
+    raster.whenAsked = [&legend] {
+        EXPECT_EQ(legend.GetTitleSize(), 40.0f);
+        EXPECT_EQ(legend.GetFileNameSize(), 30.0f);
+        throw std::runtime_error("the file is gone");
+    };
+    for (int time = 1; time <= 2; ++time) {
+        EXPECT_THROW(Measure(legend), std::runtime_error);
+        EXPECT_EQ(legend.GetTitleSize(), 20.0f);
+        EXPECT_EQ(legend.GetFileNameSize(), 15.0f);
+        EXPECT_EQ(legend.GetSize(), size);
+        EXPECT_EQ(legend.GetAspectRatio(), aspectRatio);
+        EXPECT_TRUE(NothingAlive());
+    }
+    raster.whenAsked = nullptr;
+    EXPECT_EQ(Draw(legend), before);
 }
 
 }  // namespace

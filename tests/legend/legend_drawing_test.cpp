@@ -366,8 +366,20 @@ TEST(LegendDrawing, ABandThatCannotTellItsValuesHasNought) {
     std::vector<std::string> drawing = square.Draw(CPoint(300, 200), 1.0);
     EXPECT_EQ(drawing[9],
               DrawString(kHighCaption + "0", FontLook("Arial", 10, 4), x, 207, kBlack));
+    EXPECT_EQ(drawing[9 + 254 + 1],
+              DrawString(kLowCaption + "0", FontLook("Arial", 10, 4), x, 206,
+                         BrushLook(0xFF010101)));
     square.gray.hasBand = false;
     EXPECT_EQ(square.Draw(CPoint(300, 200), 1.0), drawing);
+}
+
+TEST(LegendDrawing, AClassThatTellsNoColourIsBlack) {
+    Square square;
+    for (fakes::Item& item : square.classes.table.items) {
+        item.tellsColour = false;
+    }
+    const std::vector<std::string> drawing = square.Draw(CPoint(300, 200), 1.0);
+    EXPECT_EQ(drawing.at(drawing.size() - 2), FillRectangle(kBlack, 172, 318, 64, 6));
 }
 
 TEST(LegendDrawing, AMissingClassLeavesItsRowEmpty) {

@@ -111,6 +111,38 @@ TEST(LegendEdges, HugeInkGivesTheLargestSize) {
               static_cast<float>(3 * std::int64_t{kMost}) / static_cast<float>(kMost));
 }
 
+TEST(LegendEdges, AHugeTitleAloneGivesTheLargestSize) {
+    CMapLegend legend;
+    legend.SetTitleValue(L"T");
+    Recording recording(Mode::RecordOnly);
+    ink::Script(recording, ink::Of({{"T", {10, kMost - 5}}}));
+    legend.ResetAspectRatio();
+    // 24 below the title, and 12 less for there is no source: past the limit by 7.
+    EXPECT_EQ(legend.GetSize(), kMost);
+}
+
+// Thrice 16777217 is 50331652 as a float, and a third of that 16777218, where the width
+// of the sample itself would be 16777216.
+TEST(LegendEdges, ASwatchIsAThirdOfTheLeastWidthAsAFloat) {
+    Raster rgb(L"", DisplayRGB);
+    CMapLegend legend;
+    legend.SetDataSouce({&rgb});
+    Surface surface;
+    Recording recording(Mode::RecordOnly);
+    // A row of 140, three swatches of 84 and 24 + 36 of gaps, then 60 of the title: 512.
+    ink::Script(recording, ink::Of({{"Band_1", {16777217, 140}}, {"T", {1, 60}}}));
+    legend.SetTitleValue(L"T");
+    legend.ResetAspectRatio();
+    ASSERT_EQ(legend.GetSize(), 512);
+    legend.SetAspectRatio(0.0f);
+    recording.Clear();
+    legend.Draw(surface.Graphics(), CPoint(0, 256), 1.0);
+    // Below the title, drawn as high as it was measured, two gaps, the row and a gap.
+    EXPECT_EQ(
+        recording.Drawing().at(2),
+        FillRectangle(BrushLook(0xFFFF0000), 0, 60 + 24 + 140 + 12, 16777218.0f, 84));
+}
+
 /// GDI+ itself at work, which must survive what comes out of the layout.
 TEST(LegendEdges, RealGdiplusTakesOddSizes) {
     for (const float size : {-3.0f, 0.0f, 0.01f, 15.0f, 400.0f}) {

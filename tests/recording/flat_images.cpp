@@ -8,6 +8,7 @@ namespace DllExports {
 extern "C" {
 
 GpStatus WINGDIPAPI GdipLoadImageFromFile(const FlatChar* file, GpImage** image) {
+    const AtWork atWork;
     static const auto real =
         Real<decltype(&GdipLoadImageFromFile)>("GdipLoadImageFromFile");
     Object object;
@@ -20,11 +21,13 @@ GpStatus WINGDIPAPI GdipLoadImageFromFile(const FlatChar* file, GpImage** image)
 }
 
 GpStatus WINGDIPAPI GdipDisposeImage(GpImage* image) {
+    const AtWork atWork;
     static const auto real = Real<decltype(&GdipDisposeImage)>("GdipDisposeImage");
     return RunDeletion("GdipDisposeImage", image, [&] { return real(image); });
 }
 
 GpStatus WINGDIPAPI GdipGetImageWidth(GpImage* image, UINT* width) {
+    const AtWork atWork;
     static const auto real = Real<decltype(&GdipGetImageWidth)>("GdipGetImageWidth");
     const GpStatus status = Run(
         "GdipGetImageWidth", CallKind::Internal, [] { return "GdipGetImageWidth"; },
@@ -36,6 +39,7 @@ GpStatus WINGDIPAPI GdipGetImageWidth(GpImage* image, UINT* width) {
 }
 
 GpStatus WINGDIPAPI GdipGetImageHeight(GpImage* image, UINT* height) {
+    const AtWork atWork;
     static const auto real = Real<decltype(&GdipGetImageHeight)>("GdipGetImageHeight");
     const GpStatus status = Run(
         "GdipGetImageHeight", CallKind::Internal, [] { return "GdipGetImageHeight"; },
@@ -46,8 +50,17 @@ GpStatus WINGDIPAPI GdipGetImageHeight(GpImage* image, UINT* height) {
     return status;
 }
 
+// Asked by the binding outside Windows of an image that it has loaded, not by the
+// library: it leaves no trace. A token has no format.
+GpStatus WINGDIPAPI GdipGetImagePixelFormat(GpImage* image, PixelFormat* format) {
+    static const auto real =
+        Real<decltype(&GdipGetImagePixelFormat)>("GdipGetImagePixelFormat");
+    return ThisThread().Of(image).token != nullptr ? NotImplemented : real(image, format);
+}
+
 GpStatus WINGDIPAPI GdipDrawImageRectI(GpGraphics* graphics, GpImage* image, INT x, INT y,
                                        INT width, INT height) {
+    const AtWork atWork;
     static const auto real = Real<decltype(&GdipDrawImageRectI)>("GdipDrawImageRectI");
     return Run(
         "GdipDrawImageRectI", CallKind::Visible,

@@ -42,6 +42,7 @@ namespace DllExports {
 extern "C" {
 
 GpStatus WINGDIPAPI GdipCreatePath(GpFillMode mode, GpPath** path) {
+    const AtWork atWork;
     static const auto real = Real<decltype(&GdipCreatePath)>("GdipCreatePath");
     Object object;
     object.kind = "path";
@@ -52,11 +53,13 @@ GpStatus WINGDIPAPI GdipCreatePath(GpFillMode mode, GpPath** path) {
 }
 
 GpStatus WINGDIPAPI GdipDeletePath(GpPath* path) {
+    const AtWork atWork;
     static const auto real = Real<decltype(&GdipDeletePath)>("GdipDeletePath");
     return RunDeletion("GdipDeletePath", path, [&] { return real(path); });
 }
 
 GpStatus WINGDIPAPI GdipResetPath(GpPath* path) {
+    const AtWork atWork;
     static const auto real = Real<decltype(&GdipResetPath)>("GdipResetPath");
     const GpStatus status = Run(
         "GdipResetPath", CallKind::Internal, [] { return "GdipResetPath"; },
@@ -72,6 +75,7 @@ GpStatus WINGDIPAPI GdipAddPathString(GpPath* path, const FlatChar* text, INT le
                                       const GpFontFamily* family, INT style, REAL emSize,
                                       const GpRectF* layout,
                                       const GpStringFormat* format) {
+    const AtWork atWork;
     static const auto real = Real<decltype(&GdipAddPathString)>("GdipAddPathString");
     const std::string content = Quoted(Utf8(text, length)) + " " +
                                 Quoted(ThisThread().Of(family).content) + " " +
@@ -92,6 +96,7 @@ GpStatus WINGDIPAPI GdipAddPathString(GpPath* path, const FlatChar* text, INT le
 
 GpStatus WINGDIPAPI GdipAddPathRectangleI(GpPath* path, INT x, INT y, INT width,
                                           INT height) {
+    const AtWork atWork;
     static const auto real =
         Real<decltype(&GdipAddPathRectangleI)>("GdipAddPathRectangleI");
     const std::string content = "rectangle " + std::to_string(x) + " " +
@@ -106,6 +111,7 @@ GpStatus WINGDIPAPI GdipAddPathRectangleI(GpPath* path, INT x, INT y, INT width,
 }
 
 GpStatus WINGDIPAPI GdipAddPathLine2I(GpPath* path, const GpPoint* points, INT count) {
+    const AtWork atWork;
     static const auto real = Real<decltype(&GdipAddPathLine2I)>("GdipAddPathLine2I");
     const std::string look =
         LinesPath(std::vector<GpPoint>(points, points + (count > 0 ? count : 0)));
@@ -118,6 +124,7 @@ GpStatus WINGDIPAPI GdipAddPathLine2I(GpPath* path, const GpPoint* points, INT c
 }
 
 GpStatus WINGDIPAPI GdipTransformPath(GpPath* path, GpMatrix* matrix) {
+    const AtWork atWork;
     static const auto real = Real<decltype(&GdipTransformPath)>("GdipTransformPath");
     return Run(
         "GdipTransformPath", CallKind::Internal,
@@ -127,6 +134,7 @@ GpStatus WINGDIPAPI GdipTransformPath(GpPath* path, GpMatrix* matrix) {
 
 GpStatus WINGDIPAPI GdipGetPathWorldBoundsI(GpPath* path, GpRect* bounds,
                                             const GpMatrix* matrix, const GpPen* pen) {
+    const AtWork atWork;
     static const auto real =
         Real<decltype(&GdipGetPathWorldBoundsI)>("GdipGetPathWorldBoundsI");
     const GpStatus status = Run(
@@ -143,6 +151,7 @@ GpStatus WINGDIPAPI GdipGetPathWorldBoundsI(GpPath* path, GpRect* bounds,
 }
 
 GpStatus WINGDIPAPI GdipDrawPath(GpGraphics* graphics, GpPen* pen, GpPath* path) {
+    const AtWork atWork;
     static const auto real = Real<decltype(&GdipDrawPath)>("GdipDrawPath");
     return Run(
         "GdipDrawPath", CallKind::Visible,

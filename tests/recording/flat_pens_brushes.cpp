@@ -23,6 +23,7 @@ namespace DllExports {
 extern "C" {
 
 GpStatus WINGDIPAPI GdipCreatePen1(ARGB color, REAL width, GpUnit unit, GpPen** pen) {
+    const AtWork atWork;
     static const auto real = Real<decltype(&GdipCreatePen1)>("GdipCreatePen1");
     Object object;
     object.kind = "pen";
@@ -39,11 +40,13 @@ GpStatus WINGDIPAPI GdipCreatePen1(ARGB color, REAL width, GpUnit unit, GpPen** 
 }
 
 GpStatus WINGDIPAPI GdipDeletePen(GpPen* pen) {
+    const AtWork atWork;
     static const auto real = Real<decltype(&GdipDeletePen)>("GdipDeletePen");
     return RunDeletion("GdipDeletePen", pen, [&] { return real(pen); });
 }
 
 GpStatus WINGDIPAPI GdipSetPenColor(GpPen* pen, ARGB color) {
+    const AtWork atWork;
     static const auto real = Real<decltype(&GdipSetPenColor)>("GdipSetPenColor");
     const GpStatus status = Run(
         "GdipSetPenColor", CallKind::Internal,
@@ -56,6 +59,7 @@ GpStatus WINGDIPAPI GdipSetPenColor(GpPen* pen, ARGB color) {
 }
 
 GpStatus WINGDIPAPI GdipSetPenDashStyle(GpPen* pen, GpDashStyle style) {
+    const AtWork atWork;
     static const auto real = Real<decltype(&GdipSetPenDashStyle)>("GdipSetPenDashStyle");
     const GpStatus status = Run(
         "GdipSetPenDashStyle", CallKind::Internal,
@@ -68,6 +72,7 @@ GpStatus WINGDIPAPI GdipSetPenDashStyle(GpPen* pen, GpDashStyle style) {
 }
 
 GpStatus WINGDIPAPI GdipSetPenCustomEndCap(GpPen* pen, GpCustomLineCap* cap) {
+    const AtWork atWork;
     static const auto real =
         Real<decltype(&GdipSetPenCustomEndCap)>("GdipSetPenCustomEndCap");
     const std::string look = ThisThread().LookOf(cap);
@@ -83,6 +88,7 @@ GpStatus WINGDIPAPI GdipSetPenCustomEndCap(GpPen* pen, GpCustomLineCap* cap) {
 
 GpStatus WINGDIPAPI GdipCreateAdjustableArrowCap(REAL height, REAL width, BOOL filled,
                                                  GpAdjustableArrowCap** cap) {
+    const AtWork atWork;
     static const auto real =
         Real<decltype(&GdipCreateAdjustableArrowCap)>("GdipCreateAdjustableArrowCap");
     Object object;
@@ -95,12 +101,14 @@ GpStatus WINGDIPAPI GdipCreateAdjustableArrowCap(REAL height, REAL width, BOOL f
 }
 
 GpStatus WINGDIPAPI GdipDeleteCustomLineCap(GpCustomLineCap* cap) {
+    const AtWork atWork;
     static const auto real =
         Real<decltype(&GdipDeleteCustomLineCap)>("GdipDeleteCustomLineCap");
     return RunDeletion("GdipDeleteCustomLineCap", cap, [&] { return real(cap); });
 }
 
 GpStatus WINGDIPAPI GdipCreateSolidFill(ARGB color, GpSolidFill** brush) {
+    const AtWork atWork;
     static const auto real = Real<decltype(&GdipCreateSolidFill)>("GdipCreateSolidFill");
     Object object;
     object.kind = "brush";
@@ -111,6 +119,7 @@ GpStatus WINGDIPAPI GdipCreateSolidFill(ARGB color, GpSolidFill** brush) {
 }
 
 GpStatus WINGDIPAPI GdipSetSolidFillColor(GpSolidFill* brush, ARGB color) {
+    const AtWork atWork;
     static const auto real =
         Real<decltype(&GdipSetSolidFillColor)>("GdipSetSolidFillColor");
     const GpStatus status = Run(
@@ -121,6 +130,7 @@ GpStatus WINGDIPAPI GdipSetSolidFillColor(GpSolidFill* brush, ARGB color) {
 }
 
 GpStatus WINGDIPAPI GdipDeleteBrush(GpBrush* brush) {
+    const AtWork atWork;
     static const auto real = Real<decltype(&GdipDeleteBrush)>("GdipDeleteBrush");
     return RunDeletion("GdipDeleteBrush", brush, [&] { return real(brush); });
 }

@@ -17,6 +17,7 @@ extern "C" {
 
 GpStatus WINGDIPAPI GdipDrawLineI(GpGraphics* graphics, GpPen* pen, INT x1, INT y1,
                                   INT x2, INT y2) {
+    const AtWork atWork;
     static const auto real = Real<decltype(&GdipDrawLineI)>("GdipDrawLineI");
     return Run(
         "GdipDrawLineI", CallKind::Visible,
@@ -27,6 +28,7 @@ GpStatus WINGDIPAPI GdipDrawLineI(GpGraphics* graphics, GpPen* pen, INT x1, INT 
 
 GpStatus WINGDIPAPI GdipDrawRectangleI(GpGraphics* graphics, GpPen* pen, INT x, INT y,
                                        INT width, INT height) {
+    const AtWork atWork;
     static const auto real = Real<decltype(&GdipDrawRectangleI)>("GdipDrawRectangleI");
     return Run(
         "GdipDrawRectangleI", CallKind::Visible,
@@ -37,6 +39,7 @@ GpStatus WINGDIPAPI GdipDrawRectangleI(GpGraphics* graphics, GpPen* pen, INT x, 
 
 GpStatus WINGDIPAPI GdipDrawPolygonI(GpGraphics* graphics, GpPen* pen,
                                      const GpPoint* points, INT count) {
+    const AtWork atWork;
     static const auto real = Real<decltype(&GdipDrawPolygonI)>("GdipDrawPolygonI");
     return Run(
         "GdipDrawPolygonI", CallKind::Visible,
@@ -47,6 +50,7 @@ GpStatus WINGDIPAPI GdipDrawPolygonI(GpGraphics* graphics, GpPen* pen,
 
 GpStatus WINGDIPAPI GdipFillRectangle(GpGraphics* graphics, GpBrush* brush, REAL x,
                                       REAL y, REAL width, REAL height) {
+    const AtWork atWork;
     static const auto real = Real<decltype(&GdipFillRectangle)>("GdipFillRectangle");
     return Run(
         "GdipFillRectangle", CallKind::Visible,
@@ -57,6 +61,7 @@ GpStatus WINGDIPAPI GdipFillRectangle(GpGraphics* graphics, GpBrush* brush, REAL
 
 GpStatus WINGDIPAPI GdipFillRectangleI(GpGraphics* graphics, GpBrush* brush, INT x, INT y,
                                        INT width, INT height) {
+    const AtWork atWork;
     static const auto real = Real<decltype(&GdipFillRectangleI)>("GdipFillRectangleI");
     return Run(
         "GdipFillRectangleI", CallKind::Visible,
@@ -67,6 +72,7 @@ GpStatus WINGDIPAPI GdipFillRectangleI(GpGraphics* graphics, GpBrush* brush, INT
 
 GpStatus WINGDIPAPI GdipFillPolygonI(GpGraphics* graphics, GpBrush* brush,
                                      const GpPoint* points, INT count, GpFillMode mode) {
+    const AtWork atWork;
     static const auto real = Real<decltype(&GdipFillPolygonI)>("GdipFillPolygonI");
     return Run(
         "GdipFillPolygonI", CallKind::Visible,

@@ -10,6 +10,7 @@ extern "C" {
 GpStatus WINGDIPAPI GdipCreateFontFamilyFromName(const FlatChar* name,
                                                  GpFontCollection* collection,
                                                  GpFontFamily** family) {
+    const AtWork atWork;
     static const auto real =
         Real<decltype(&GdipCreateFontFamilyFromName)>("GdipCreateFontFamilyFromName");
     Object object;
@@ -25,6 +26,7 @@ GpStatus WINGDIPAPI GdipCreateFontFamilyFromName(const FlatChar* name,
 }
 
 GpStatus WINGDIPAPI GdipDeleteFontFamily(GpFontFamily* family) {
+    const AtWork atWork;
     static const auto real =
         Real<decltype(&GdipDeleteFontFamily)>("GdipDeleteFontFamily");
     return RunDeletion("GdipDeleteFontFamily", family, [&] { return real(family); });
@@ -32,6 +34,7 @@ GpStatus WINGDIPAPI GdipDeleteFontFamily(GpFontFamily* family) {
 
 GpStatus WINGDIPAPI GdipCreateFont(const GpFontFamily* family, REAL emSize, INT style,
                                    Unit unit, GpFont** font) {
+    const AtWork atWork;
     static const auto real = Real<decltype(&GdipCreateFont)>("GdipCreateFont");
     Object object;
     object.kind = "font";
@@ -48,11 +51,13 @@ GpStatus WINGDIPAPI GdipCreateFont(const GpFontFamily* family, REAL emSize, INT 
 }
 
 GpStatus WINGDIPAPI GdipDeleteFont(GpFont* font) {
+    const AtWork atWork;
     static const auto real = Real<decltype(&GdipDeleteFont)>("GdipDeleteFont");
     return RunDeletion("GdipDeleteFont", font, [&] { return real(font); });
 }
 
 GpStatus WINGDIPAPI GdipGetFontSize(GpFont* font, REAL* size) {
+    const AtWork atWork;
     static const auto real = Real<decltype(&GdipGetFontSize)>("GdipGetFontSize");
     return Run(
         "GdipGetFontSize", CallKind::Internal,
@@ -67,6 +72,7 @@ GpStatus WINGDIPAPI GdipGetFontSize(GpFont* font, REAL* size) {
 }
 
 GpStatus WINGDIPAPI GdipGetFontStyle(GpFont* font, INT* style) {
+    const AtWork atWork;
     static const auto real = Real<decltype(&GdipGetFontStyle)>("GdipGetFontStyle");
     return Run(
         "GdipGetFontStyle", CallKind::Internal,
@@ -82,6 +88,7 @@ GpStatus WINGDIPAPI GdipGetFontStyle(GpFont* font, INT* style) {
 
 GpStatus WINGDIPAPI GdipCreateStringFormat(INT flags, LANGID language,
                                            GpStringFormat** format) {
+    const AtWork atWork;
     static const auto real =
         Real<decltype(&GdipCreateStringFormat)>("GdipCreateStringFormat");
     Object object;
@@ -99,6 +106,7 @@ GpStatus WINGDIPAPI GdipCreateStringFormat(INT flags, LANGID language,
 
 GpStatus WINGDIPAPI GdipSetStringFormatAlign(GpStringFormat* format,
                                              StringAlignment alignment) {
+    const AtWork atWork;
     static const auto real =
         Real<decltype(&GdipSetStringFormatAlign)>("GdipSetStringFormatAlign");
     const GpStatus status = Run(
@@ -113,6 +121,7 @@ GpStatus WINGDIPAPI GdipSetStringFormatAlign(GpStringFormat* format,
 }
 
 GpStatus WINGDIPAPI GdipDeleteStringFormat(GpStringFormat* format) {
+    const AtWork atWork;
     static const auto real =
         Real<decltype(&GdipDeleteStringFormat)>("GdipDeleteStringFormat");
     return RunDeletion("GdipDeleteStringFormat", format, [&] { return real(format); });
@@ -121,6 +130,7 @@ GpStatus WINGDIPAPI GdipDeleteStringFormat(GpStringFormat* format) {
 GpStatus WINGDIPAPI GdipDrawString(GpGraphics* graphics, const FlatChar* text, INT length,
                                    const GpFont* font, const GpRectF* layout,
                                    const GpStringFormat* format, const GpBrush* brush) {
+    const AtWork atWork;
     static const auto real = Real<decltype(&GdipDrawString)>("GdipDrawString");
     return Run(
         "GdipDrawString", CallKind::Visible,

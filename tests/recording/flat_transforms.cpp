@@ -17,6 +17,7 @@ extern "C" {
 
 GpStatus WINGDIPAPI GdipTranslateWorldTransform(GpGraphics* graphics, REAL dx, REAL dy,
                                                 GpMatrixOrder order) {
+    const AtWork atWork;
     static const auto real =
         Real<decltype(&GdipTranslateWorldTransform)>("GdipTranslateWorldTransform");
     return Run(
@@ -27,6 +28,7 @@ GpStatus WINGDIPAPI GdipTranslateWorldTransform(GpGraphics* graphics, REAL dx, R
 
 GpStatus WINGDIPAPI GdipRotateWorldTransform(GpGraphics* graphics, REAL angle,
                                              GpMatrixOrder order) {
+    const AtWork atWork;
     static const auto real =
         Real<decltype(&GdipRotateWorldTransform)>("GdipRotateWorldTransform");
     return Run(
@@ -36,6 +38,7 @@ GpStatus WINGDIPAPI GdipRotateWorldTransform(GpGraphics* graphics, REAL angle,
 }
 
 GpStatus WINGDIPAPI GdipResetWorldTransform(GpGraphics* graphics) {
+    const AtWork atWork;
     static const auto real =
         Real<decltype(&GdipResetWorldTransform)>("GdipResetWorldTransform");
     return Run(
@@ -44,6 +47,7 @@ GpStatus WINGDIPAPI GdipResetWorldTransform(GpGraphics* graphics) {
 }
 
 GpStatus WINGDIPAPI GdipCreateMatrix(GpMatrix** matrix) {
+    const AtWork atWork;
     static const auto real = Real<decltype(&GdipCreateMatrix)>("GdipCreateMatrix");
     Object object;
     object.kind = "matrix";
@@ -54,12 +58,14 @@ GpStatus WINGDIPAPI GdipCreateMatrix(GpMatrix** matrix) {
 }
 
 GpStatus WINGDIPAPI GdipDeleteMatrix(GpMatrix* matrix) {
+    const AtWork atWork;
     static const auto real = Real<decltype(&GdipDeleteMatrix)>("GdipDeleteMatrix");
     return RunDeletion("GdipDeleteMatrix", matrix, [&] { return real(matrix); });
 }
 
 GpStatus WINGDIPAPI GdipTranslateMatrix(GpMatrix* matrix, REAL dx, REAL dy,
                                         GpMatrixOrder order) {
+    const AtWork atWork;
     static const auto real = Real<decltype(&GdipTranslateMatrix)>("GdipTranslateMatrix");
     return Run(
         "GdipTranslateMatrix", CallKind::Internal,
@@ -70,6 +76,7 @@ GpStatus WINGDIPAPI GdipTranslateMatrix(GpMatrix* matrix, REAL dx, REAL dy,
 }
 
 GpStatus WINGDIPAPI GdipRotateMatrix(GpMatrix* matrix, REAL angle, GpMatrixOrder order) {
+    const AtWork atWork;
     static const auto real = Real<decltype(&GdipRotateMatrix)>("GdipRotateMatrix");
     return Run(
         "GdipRotateMatrix", CallKind::Internal,

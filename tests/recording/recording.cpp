@@ -17,7 +17,7 @@ Gdiplus::Status Session::Enter(const char* function) {
     if (failAt > 0 && --failAt == 0) {
         return failStatus;
     }
-    if (failPrefix && std::string(function).rfind(*failPrefix, 0) == 0) {
+    if (failPrefix && (std::string(function) + " ").rfind(*failPrefix, 0) == 0) {
         return failStatus;
     }
     return Gdiplus::Ok;
@@ -96,6 +96,8 @@ void Recording::FailCallsOf(const std::string& prefix, Gdiplus::Status status) {
     ThisThread().failPrefix = prefix;
     ThisThread().failStatus = status;
 }
+
+bool IsAtWork() { return ThisThread().atWork > 0; }
 
 std::vector<std::string> LiveObjects() {
     std::vector<std::string> live;

@@ -60,12 +60,17 @@ public:
     /// object's deletion is carried out and answers the failure all the same.
     void FailCall(int n, Gdiplus::Status status = Gdiplus::GenericError);
 
-    /// Fails every call whose function's name begins so: "" for all, "GdipCreate".
+    /// Fails every call whose function's name begins so: "" for all, "GdipCreate". A
+    /// name that ends in a blank is meant whole: "GdipCreateFont " is no font family.
     void FailCallsOf(const std::string& prefix,
                      Gdiplus::Status status = Gdiplus::GenericError);
 };
 
 /// Native objects of this thread that were made and not deleted, one line each.
 std::vector<std::string> LiveObjects();
+
+/// Whether this thread is within a flat function of the recorder's, so that what it
+/// allocates is not the library's.
+bool IsAtWork();
 
 }  // namespace recording

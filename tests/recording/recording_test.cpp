@@ -228,6 +228,8 @@ TEST(Recording, FailsCallsByTheirNames) {
         {"GdipCreate", Gdiplus::InvalidParameter, 0},
         {"GdipDrawLine", Gdiplus::FileNotFound, 1},
         {"GdipDelete", Gdiplus::Ok, 1},
+        {"GdipDrawLineI ", Gdiplus::FileNotFound, 1},
+        {"GdipDrawLine ", Gdiplus::Ok, 1},
         {"Gdip_", Gdiplus::Ok, 1},
     };
     for (const Row& row : rows) {

@@ -34,7 +34,8 @@ struct Object {
 /// The state of a thread's recording, and its live objects at any time.
 struct Session {
     bool active = false;
-    int depth = 0;  ///< within a flat call already: GDI+ calling itself
+    int depth = 0;   ///< within a flat call already: GDI+ calling itself
+    int atWork = 0;  ///< within a function of the recorder's
     Mode mode = Mode::Forward;
     std::vector<Call> calls;
     int count = 0;
@@ -59,6 +60,16 @@ struct Session {
 };
 
 Session& ThisThread();
+
+/// Stands in every flat function: what is allocated there is the recorder's, not the
+/// library's.
+class AtWork {
+public:
+    AtWork() { ++ThisThread().atWork; }
+    ~AtWork() { --ThisThread().atWork; }
+    AtWork(const AtWork&) = delete;
+    AtWork& operator=(const AtWork&) = delete;
+};
 
 /// The system's function of the same name as one that this program defines.
 template <typename Function>

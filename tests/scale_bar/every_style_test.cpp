@@ -80,6 +80,17 @@ TEST_P(EveryStyle, DrawsAtEverySizeAndScale) {
     }
 }
 
+// Heights just below the next whole pixel, and just above and below a half.
+TEST_P(EveryStyle, RoundsTheHeightItsOwnWay) {
+    BarRow row;
+    row.style = GetParam();
+    for (const double height : {40.95, 41.05, 41.45, 41.55, 41.95, 42.45, 42.55}) {
+        row.size = 1000;
+        row.scale = height / 1000.0;
+        ASSERT_NO_FATAL_FAILURE(ExpectAsComputed(row));
+    }
+}
+
 // Every height in pixels up to a page's, so that each integer division meets each
 // remainder.
 TEST_P(EveryStyle, DrawsAtEveryHeight) {

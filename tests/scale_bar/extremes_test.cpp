@@ -124,6 +124,39 @@ TEST(ScaleBarExtremes, LengthsStopAtTheLimits) {
     EXPECT_EQ(drawing[4], DrawLine(BlackPen(), 268435455, kHighest, kHighest, kHighest));
 }
 
+// A bar 232 wide and 40 high about the corner of the plane begins there.
+TEST(ScaleBarExtremes, RectanglesStopAtTheLimits) {
+    BarRow row;
+    row.style = Style::Line3;
+    row.mainCount = 0;
+    row.centre = CPoint(kLowest, kLowest);
+    EXPECT_EQ(DrawingOf(row).front(),
+              DrawLine(BlackPen(), kLowest + 5, kLowest + 26, kLowest + 5, kLowest + 40));
+}
+
+// Half the height is rounded up to 2^30, and twice that down to the limit again; two
+// thirds of it below 2^30 - 1 is past it.
+TEST(ScaleBarExtremes, BoxesStopAtTheLimits) {
+    BarRow row;
+    row.style = Style::EquAlternate;
+    row.size = kHighest;
+    row.aspectRatio = 0.0f;
+    row.mainCount = 2;
+    row.paperToScreen = 1e30;
+    row.centre = CPoint(0, kHighest);
+    const std::vector<std::string> drawing = DrawingOf(row);
+    ASSERT_EQ(drawing.size(), 8u);
+    // The first label and box, the label again and the box filled; the second label and
+    // box; the last label and the unit name. The second box begins a limit's length
+    // further.
+    EXPECT_EQ(drawing[1],
+              DrawRectangle(BlackPen(), 268435455, kHighest, kHighest, 715827882));
+    EXPECT_EQ(drawing[3],
+              FillRectangleI(BlackBrush(), 268435455, kHighest, kHighest, 715827882));
+    EXPECT_EQ(drawing[5],
+              DrawRectangle(BlackPen(), kHighest, kHighest, kHighest, 715827882));
+}
+
 TEST(ScaleBarExtremes, ScalesThatAreNoNumber) {
     BarRow row;
     row.mainCount = 0;

@@ -135,6 +135,17 @@ TEST(ScaleBarBase, DrawsTheTranslatedNameAndTheEmptyOne) {
     }
 }
 
+// 11 times the scale is 50331651, and a third of that 16777217, halfway between two
+// floats, of which the even one is taken. A third of the scale first would miss the half.
+TEST(ScaleBarBase, SizesTheUnitNameByAThirdOfTheHeight) {
+    BarRow row;
+    row.mainCount = 0;
+    row.size = 11;
+    row.scale = 50331651.0 / 11.0;
+    const std::string unitName = DrawingOf(row).back();
+    EXPECT_NE(unitName.find(Times(16777216.0f)), std::string::npos) << unitName;
+}
+
 struct AspectRow {
     const char* why;
     double paperToData;
@@ -189,6 +200,45 @@ TEST(ScaleBarBase, AddsEachMarginInSinglePrecision) {
     }
 }
 
+struct SumRow {
+    const char* why;
+    int size;
+    double screenToPaper;
+    int mainCount;
+    float aspectRatio;
+};
+
+// Where the division cancels the margins, or is so large that each sum is rounded, their
+// order and precision tell. At 2^53 + 2^29, halfway between two floats, doubles are 2
+// apart.
+TEST(ScaleBarBase, AddsTheMarginsInOrder) {
+    const double halfway = 9007199254740992.0 + 536870912.0;
+    const float below = 9007199254740992.0f;  // 2^53
+    const float above = 9007200328482816.0f;  // 2^53 + 2^30
+    const SumRow rows[] = {
+        // 0.2 + 0.025 + 0.6666667 + 0.025 as floats
+        {"the margins of size 1", 1,
+         -(double{1.0f / 5.0f} + double{1.0f / 40.0f} + double{2.0f / 3.0f} +
+           double{1.0f / 40.0f}),
+         1, 0.0f},
+        // 42 below: 9, 1.125, 30 and 1.125 come to 10, 12, 42 and 44
+        {"a fifth before a fortieth", 45, halfway - 42.0, 1, above / 45.0f},
+        // 34 below: 8, 1, 26.67 and 1 come to 8, 10, 36 and 38
+        {"a fortieth before two thirds", 40, halfway - 34.0, 1, above / 40.0f},
+        // 254 below: 56, 7, 186.67 and 7 come to 56, 62, 248 and 254
+        {"two thirds before a fortieth", 280, halfway - 254.0, 1, below / 280.0f},
+        {"a count that is no float", 40, 1.0, 16777217, 419431.3125f},
+    };
+    for (const SumRow& row : rows) {
+        CScaleLine bar;
+        bar.SetScreen2PaperByOneScale(row.screenToPaper);
+        bar.SetMainDivCount(row.mainCount);
+        bar.SetSize(row.size);
+        bar.ResetAspectRatio();
+        EXPECT_EQ(bar.GetAspectRatio(), row.aspectRatio) << row.why;
+    }
+}
+
 TEST(ScaleBarBase, KeepsTheAspectRatioAndDrawsNothingWithoutADivisionValue) {
     Surface surface;
     for (const Style style : kStyles) {
@@ -234,6 +284,7 @@ TEST(ScaleBarBase, RoundsTheDivisionValueDownToOneDigit) {
         {19.9, "10", "10", 502},
         {37.0, "30", "30", 810},
         {999.0, "900", "900", 900},
+        {11.0, "10", "10", 909},
         {1000.0, "1000", "1000", 1000},
         {2500.0, "2000", "2000", 800},
         {123456.0, "100000", "100000", 810},

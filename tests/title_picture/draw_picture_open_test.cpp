@@ -2,11 +2,23 @@
 
 #include <cmath>
 #include <limits>
+#include <new>
 
 #include "map_surround/picture.h"
 #include "recording/expect.h"
 #include "recording/lines.h"
 #include "title_picture/image_file.h"
+
+namespace {
+
+/// While set, there is no memory for an object that may do without.
+bool outOfMemory = false;
+
+}  // namespace
+
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
+    return outOfMemory ? nullptr : ::operator new(size);
+}
 
 namespace {
 
@@ -37,6 +49,10 @@ TEST(DrawPicture, TakesItsSizeFromTheImage) {
         {1921, 1920, 192},
         {1920, 1921, 192},
         {1921, 1921, 96},  // above 1920 both ways
+        {4000, 2000, 100},
+        {2000, 4000, 200},
+        {1000, 900, 90},
+        {300, 600, 200},
         {300, 3000, 600},
         {3000, 300, 60},
         {769, 3000, 300},
@@ -136,6 +152,31 @@ TEST(DrawPicture, HoldsAnEmptyImageWhereTheFileCannotBeLoaded) {
         picture.ResetAspectRatio();
         EXPECT_EQ(picture.GetSize(), 40) << "the size is the host's";
     }
+}
+
+TEST(DrawPicture, HoldsNoImageWhereThereIsNoMemoryForOne) {
+    Surface surface;
+    Recording recording(Mode::RecordOnly);
+    recording.ScriptImageSize(30, 20);
+    CDrawPicture picture;
+    EXPECT_TRUE(picture.Open(L"first.png"));
+    recording.Clear();
+
+    outOfMemory = true;
+    EXPECT_FALSE(picture.Open(L"second.png"));
+    outOfMemory = false;
+    EXPECT_TRUE(
+        Equal({{"first", "GdipDisposeImage image[\"first.png\"]"}}, recording.Lines()));
+    EXPECT_TRUE(NothingAlive());
+    EXPECT_EQ(picture.GetPath(), L"second.png");
+    EXPECT_EQ(picture.GetSize(), 6) << "as before";
+    EXPECT_EQ(picture.GetAspectRatio(), 1.5f) << "as before";
+
+    recording.Clear();
+    picture.Draw(surface.Graphics(), CPoint(100, 50), 1.0);
+    EXPECT_EQ(recording.Count(), 0);
+    EXPECT_TRUE(picture.Open(L"third.png"));
+    EXPECT_EQ(picture.GetPath(), L"third.png");
 }
 
 TEST(DrawPicture, CanBeOpenedAnewAfterAFailure) {

@@ -1,5 +1,8 @@
 #pragma once
 
+/// @file
+/// What a host formats numbers and tells classes with.
+
 #include <cstdint>
 #include <string>
 
@@ -8,6 +11,7 @@ class CClassifyDisplayItem {
 public:
     virtual ~CClassifyDisplayItem() = default;
 
+    /// The name of the class.
     virtual std::wstring GetLable() = 0;
 
     /// Writes the class colour: red, green, blue, and a fourth component that the
@@ -21,6 +25,7 @@ class CClassifyDisplayTable {
 public:
     virtual ~CClassifyDisplayTable() = default;
 
+    /// How many classes there are; none when it is below 1.
     virtual int GetClassesCount() = 0;
 
     /// The class at a zero-based index below the count.

@@ -1,5 +1,8 @@
 #pragma once
 
+/// @file
+/// Page geometry, and the data sources that a legend explains.
+
 #include <cstdint>
 #include <string>
 
@@ -8,10 +11,12 @@ class CClassifyDisplayTable;
 /// A point of the page in page units; y grows upwards.
 class CPoint2D {
 public:
+    /// Page units.
     double x = 0.0;
     double y = 0.0;
 
     CPoint2D() = default;
+    /// From both.
     CPoint2D(double pointX, double pointY) : x(pointX), y(pointY) {}
 };
 
@@ -41,6 +46,7 @@ public:
         return CPoint2D(IsEmpty() ? 0.0 : m_left, IsEmpty() ? 0.0 : m_top);
     }
 
+    /// Page units; 0 of an empty box.
     double GetWidth() const { return IsEmpty() ? 0.0 : m_right - m_left; }
     double GetHeight() const { return IsEmpty() ? 0.0 : m_top - m_bottom; }
 
@@ -82,8 +88,8 @@ class CGISDataSource {
 public:
     virtual ~CGISDataSource() = default;
 
-    // The library calls none of these four. With the destructor they stand before
-    // IsAvailable, which is the sixth operation of the interface.
+    /// The library calls none of these four. With the destructor they stand before
+    /// IsAvailable, which is the sixth operation of the interface.
     virtual void Reserved1() {}
     virtual void Reserved2() {}
     virtual void Reserved3() {}
@@ -92,11 +98,13 @@ public:
     /// Whether the source can be shown; the legend leaves it out when it cannot.
     virtual bool IsAvailable() = 0;
 
+    /// What it is, and so which class derives from this one.
     virtual GISDataSourceType GetDataSourceType() = 0;
 
     /// The name that the legend shows for the source.
     virtual std::wstring GetFileName() = 0;
 
+    /// How it is shown.
     virtual DataDisplayType GetDisplayType() = 0;
 };
 

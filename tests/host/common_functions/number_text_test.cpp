@@ -38,6 +38,7 @@ const NumberRow kNumbers[] = {
     {1e6, 0, L"1000000"},
     {1e23, 0, L"99999999999999991611392"},
     {9007199254740993.0, 0, L"9007199254740992"},  // 2^53 + 1 is no double
+    {900719925474099.5, 1, L"900719925474099.5"},  // nor is its product with 10
 
     // Ties of the exact value go to the even digit.
     {0.5, 0, L"0"},
@@ -110,6 +111,31 @@ TEST(NumberText, MultiplesOfAThousandthKeepTheirDecimals) {
         decimals.insert(0, 3 - decimals.size(), L'0');
         EXPECT_EQ(CommonFun::double2wstring(0.037 * k, 3),
                   std::to_wstring(thousandths / 1000) + L"." + decimals);
+    }
+}
+
+/// k with the point before its last digits.
+std::wstring WithPoint(long long k, int places) {
+    std::wstring digits = std::to_wstring(k);
+    const auto least = static_cast<std::size_t>(places) + 1;
+    digits.insert(0, digits.size() < least ? least - digits.size() : 0, L'0');
+    return places == 0 ? digits : digits.insert(digits.size() - least + 1, 1, L'.');
+}
+
+TEST(NumberText, WholeUnitsOfTheLastPlaceAreWrittenAsTheyAre) {
+    // k / 10^n is nearer to k units than a third of one, and so are its neighbours.
+    double power = 1.0;
+    for (int places = 0; places <= 12; ++places, power *= 10.0) {
+        for (const long long k : {0LL, 1LL, 5LL, 9LL, 10LL, 37LL, 99LL, 100LL, 4096LL,
+                                  65535LL, 999999LL, 123456789LL, 999999999999999LL}) {
+            const double value = static_cast<double>(k) / power;
+            const std::wstring text = WithPoint(k, places);
+            EXPECT_EQ(CommonFun::double2wstring(value, places), text);
+            EXPECT_EQ(CommonFun::double2wstring(std::nextafter(value, kInfinity), places),
+                      text);
+            EXPECT_EQ(CommonFun::double2wstring(std::nextafter(value, 0.0), places),
+                      text);
+        }
     }
 }
 

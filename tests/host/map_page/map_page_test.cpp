@@ -1,16 +1,13 @@
 #include <gdiplus.h>
 #include <gtest/gtest.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
-#include <array>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <string>
 #include <vector>
 
+#include "map_page/run_map_page.h"
 #include "page/made_raster.h"
 #include "png_encoder.h"
 #include "scratch_folder.h"
@@ -18,7 +15,10 @@
 namespace {
 
 namespace fs = std::filesystem;
-using Arguments = std::vector<std::string>;
+using host_tests::Arguments;
+using host_tests::ContentsOf;
+using host_tests::Result;
+using host_tests::RunMapPage;
 
 /// GDI+ for reading the pictures back.
 class GdiplusRunning : public ::testing::Environment {
@@ -30,51 +30,6 @@ class GdiplusRunning : public ::testing::Environment {
     ULONG_PTR m_token = 0;
 };
 const auto* const kRunning = ::testing::AddGlobalTestEnvironment(new GdiplusRunning);
-
-struct Result {
-    int status = -1;  ///< 128 and the signal when it was killed
-    std::string out;
-    std::string err;
-};
-
-std::string ContentsOf(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
-
-/// Runs map_page in a folder.
-Result RunMapPage(const ScratchFolder& folder, const Arguments& arguments) {
-    const std::string out =
-        ::testing::TempDir() + "map_page_out." + std::to_string(getpid());
-    const std::string err =
-        ::testing::TempDir() + "map_page_err." + std::to_string(getpid());
-    const pid_t child = fork();
-    if (child == 0) {
-        std::vector<char*> argv;
-        std::string program = MAP_PAGE_PROGRAM;
-        argv.push_back(program.data());
-        Arguments kept = arguments;
-        for (std::string& argument : kept) {
-            argv.push_back(argument.data());
-        }
-        argv.push_back(nullptr);
-        if (chdir(folder.Path().c_str()) == 0 &&
-            std::freopen(out.c_str(), "w", stdout) != nullptr &&
-            std::freopen(err.c_str(), "w", stderr) != nullptr) {
-            execv(program.c_str(), argv.data());
-        }
-        _exit(127);
-    }
-    int status = 0;
-    waitpid(child, &status, 0);
-    Result result;
-    result.status = WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
-    result.out = ContentsOf(out);
-    result.err = ContentsOf(err);
-    fs::remove(out);
-    fs::remove(err);
-    return result;
-}
 
 /// A picture file, read back.
 class Pixels {
@@ -121,9 +76,12 @@ protected:
             Gdiplus::Graphics graphics(&logo);
             graphics.Clear(Gdiplus::Color(0, 128, 0));
         }
-        const std::string path = folder.Path("logo.png");
-        logo.Save(std::wstring(path.begin(), path.end()).c_str(),
-                  &host_tests::kPngEncoder);
+        logo.Save(WidePath("logo.png").c_str(), &host_tests::kPngEncoder);
+    }
+
+    std::wstring WidePath(const std::string& name) const {
+        const std::string path = folder.Path(name);
+        return {path.begin(), path.end()};
     }
 
     Result Draw(Arguments arguments) const { return RunMapPage(folder, arguments); }
@@ -296,6 +254,8 @@ TEST_F(MapPage, SaysWhatIsWrongInOneLine) {
     std::ofstream(folder.Path("empty.png")).close();
     std::ofstream(folder.Path("cut.png"))
         << ContentsOf(folder.Path("logo.png")).substr(0, 60);
+    Gdiplus::Bitmap(40000, 2, PixelFormat24bppRGB)
+        .Save(WidePath("wide.png").c_str(), &host_tests::kPngEncoder);
     fs::create_directory(folder.Path("folder"));
     fs::create_directory(folder.Path("folder.png"));
     const std::string before = "what was here before";
@@ -327,6 +287,8 @@ TEST_F(MapPage, SaysWhatIsWrongInOneLine) {
         {1, "text.png" + noImage, with({"--picture", "text.png"})},
         {1, "empty.png" + noImage, with({"--picture", "empty.png"})},
         {1, "cut.png" + noImage, with({"--picture", "cut.png"})},
+        {1, "wide.png: has 40000 x 2 pixels; at most 32767 a side are drawn",
+         with({"--picture", "wide.png"})},
         {1,
          "missing/page.png: No such file or directory",
          {"scene.tif", "-o", "missing/page.png"}},

@@ -40,7 +40,8 @@ TEST_F(OutputFile, AppearsWhenItIsComplete) {
     {
         host::OutputFile output(folder.Path("page.png"));
         EXPECT_FALSE(fs::exists(folder.Path("page.png")));
-        output.Commit(BytesOf("whole"));
+        output.Write(BytesOf("whole"));
+        output.Commit();
         EXPECT_EQ(Contents("page.png"), "whole");
     }
     EXPECT_EQ(folder.Names(), std::vector<std::string>{"page.png"});
@@ -62,7 +63,8 @@ TEST_F(OutputFile, TakesThePermissionsOfWhatItReplaces) {
     Write("page.png", "before");
     chmod(folder.Path("page.png").c_str(), 0640);
     host::OutputFile output(folder.Path("page.png"));
-    output.Commit(BytesOf("after"));
+    output.Write(BytesOf("after"));
+    output.Commit();
     struct stat status = {};
     ASSERT_EQ(stat(folder.Path("page.png").c_str(), &status), 0);
     EXPECT_EQ(status.st_mode & 0777, 0640u);
@@ -72,7 +74,8 @@ TEST_F(OutputFile, HasThePermissionsOfAnyNewFile) {
     const mode_t mask = umask(027);
     {
         host::OutputFile output(folder.Path("page.png"));
-        output.Commit(BytesOf("new"));
+        output.Write(BytesOf("new"));
+        output.Commit();
     }
     umask(mask);
     struct stat status = {};
@@ -86,7 +89,8 @@ TEST_F(OutputFile, FollowsALink) {
     fs::create_symlink("real/page.png", folder.Path("link.png"));
     {
         host::OutputFile output(folder.Path("link.png"));
-        output.Commit(BytesOf("after"));
+        output.Write(BytesOf("after"));
+        output.Commit();
     }
     EXPECT_TRUE(fs::is_symlink(folder.Path("link.png")));
     EXPECT_EQ(Contents("real/page.png"), "after");

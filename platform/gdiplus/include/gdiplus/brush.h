@@ -10,23 +10,27 @@ class Brush : public detail::StatusKeeper {
 public:
     virtual ~Brush() { DllExports::GdipDeleteBrush(native_); }
 
+    /// The object behind, for the flat functions; null where none could be made.
     GpBrush* NativeObject() const { return native_; }
 
 protected:
     Brush() = default;
 
+    /// Owned; deleted with the brush.
     GpBrush* native_ = nullptr;
 };
 
 /// A brush of one colour.
 class SolidBrush : public Brush {
 public:
+    /// Fails where GDI+ has no memory.
     SolidBrush(const Color& color) {
         GpSolidFill* brush = nullptr;
         SetStatus(DllExports::GdipCreateSolidFill(color.GetValue(), &brush));
         native_ = brush;
     }
 
+    /// The colour, alpha included.
     Status SetColor(const Color& color) {
         return SetStatus(DllExports::GdipSetSolidFillColor(Solid(), color.GetValue()));
     }

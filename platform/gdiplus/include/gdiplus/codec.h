@@ -8,15 +8,20 @@ namespace Gdiplus {
 /// buffer, behind the array; one that the codec does not have is null.
 class ImageCodecInfo {
 public:
+    /// What Image::Save takes, and what names the format.
     CLSID Clsid;
     GUID FormatID;
+    /// Names for people.
     const WCHAR* CodecName;
     const WCHAR* DllName;
     const WCHAR* FormatDescription;
     const WCHAR* FilenameExtension;  ///< patterns: "*.JPG;*.JPEG;*.JPE;*.JFIF"
     const WCHAR* MimeType;           ///< "image/png"
     DWORD Flags;                     ///< of ImageCodecFlags
+    /// The version of this description.
     DWORD Version;
+    /// The bytes by which a file of the format is known: how many patterns, of how many
+    /// bytes, with the bits that count.
     DWORD SigCount;
     DWORD SigSize;
     const BYTE* SigPattern;
@@ -25,14 +30,17 @@ public:
 
 /// One setting of an encoder. Its values stand at Value.
 struct EncoderParameter {
+    /// Which setting it is: EncoderQuality.
     GUID Guid;
     ULONG NumberOfValues;
     ULONG Type;  ///< of EncoderParameterValueType
+    /// The caller's, and as many as said.
     VOID* Value;
 };
 
 /// The settings for one Image::Save: Count of them, of which the first is here.
 struct EncoderParameters {
+    /// How many settings there are, and the first of them.
     UINT Count;
     EncoderParameter Parameter[1];
 };

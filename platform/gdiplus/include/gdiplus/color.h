@@ -8,14 +8,17 @@ namespace Gdiplus {
 /// are opaque green, `Color(128, 0, 128, 0)` is half transparent.
 class Color {
 public:
+    /// Opaque black; a value as it stands; opaque; with an alpha of 0 (clear) to 255.
     Color() = default;
     Color(ARGB argb) : Argb(argb) {}
     Color(BYTE red, BYTE green, BYTE blue) : Argb(MakeARGB(255, red, green, blue)) {}
     Color(BYTE alpha, BYTE red, BYTE green, BYTE blue)
         : Argb(MakeARGB(alpha, red, green, blue)) {}
 
+    /// The value, alpha in its top byte.
     ARGB GetValue() const { return Argb; }
     VOID SetValue(ARGB argb) { Argb = argb; }
+    /// One component, 0 to 255.
     BYTE GetA() const { return static_cast<BYTE>(Argb >> 24); }
     BYTE GetR() const { return static_cast<BYTE>(Argb >> 16); }
     BYTE GetG() const { return static_cast<BYTE>(Argb >> 8); }
@@ -25,6 +28,7 @@ public:
     BYTE GetGreen() const { return GetG(); }
     BYTE GetBlue() const { return GetB(); }
 
+    /// A value from its components: `MakeARGB(255, 0, 128, 0)` is 0xFF008000.
     static ARGB MakeARGB(BYTE alpha, BYTE red, BYTE green, BYTE blue) {
         return (static_cast<ARGB>(alpha) << 24) | (static_cast<ARGB>(red) << 16) |
                (static_cast<ARGB>(green) << 8) | static_cast<ARGB>(blue);
@@ -176,6 +180,7 @@ public:
     };
 
 protected:
+    /// Alpha in the top byte, then red, green, blue.
     ARGB Argb = 0xFF000000;
 };
 

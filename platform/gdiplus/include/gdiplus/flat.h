@@ -17,6 +17,8 @@ struct EncoderParameters;
 /// one of these: UnlockBits wants it as LockBits left it.
 class BitmapData {
 public:
+    /// The area in pixels, the bytes from one row to the next (negative where rows go
+    /// upwards), the format that was asked for and the first row.
     UINT Width = 0;
     UINT Height = 0;
     INT Stride = 0;
@@ -26,7 +28,7 @@ public:
 
 private:
     /// libgdiplus keeps some 60 bytes more here than the SDK's class has.
-    ULONG_PTR notes_[12] = {};
+    [[maybe_unused]] ULONG_PTR notes_[12] = {};
 };
 
 /// A codec as the flat functions describe it; ImageCodecInfo is its wide form.
@@ -44,6 +46,13 @@ struct FlatCodecInfo {
     DWORD SigSize;
     const BYTE* SigPattern;
     const BYTE* SigMask;
+};
+
+/// The colours of an indexed image, as many as the longest has.
+struct FlatPalette {
+    UINT Flags;
+    UINT Count;
+    ARGB Entries[256];
 };
 
 namespace DllExports {
@@ -236,6 +245,9 @@ GpStatus GdipGetImageHorizontalResolution(GpImage* image, REAL* dpi);
 GpStatus GdipGetImageVerticalResolution(GpImage* image, REAL* dpi);
 GpStatus GdipGetImagePixelFormat(GpImage* image, PixelFormat* format);
 GpStatus GdipGetImageType(GpImage* image, ImageType* type);
+GpStatus GdipGetImagePaletteSize(GpImage* image, INT* bytes);
+GpStatus GdipGetImagePalette(GpImage* image, FlatPalette* palette, INT bytes);
+GpStatus GdipSetImagePalette(GpImage* image, const FlatPalette* palette);
 GpStatus GdipGetImageGraphicsContext(GpImage* image, GpGraphics** graphics);
 GpStatus GdipDrawImage(GpGraphics* graphics, GpImage* image, REAL x, REAL y);
 GpStatus GdipDrawImageI(GpGraphics* graphics, GpImage* image, INT x, INT y);

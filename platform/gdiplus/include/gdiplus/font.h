@@ -5,12 +5,33 @@
 
 namespace Gdiplus {
 
+namespace detail {
+
+/// Whether libgdiplus can draw text of an em size, in pixels, which FreeType counts in 16
+/// bits. One that is larger, or no number, must not reach it: FreeType gives up on the
+/// font for good, so that no text in it is drawn any more wherever in the process, Pango
+/// complains on standard error, and some sizes leave a surface that draws nothing more.
+inline bool CanCarry(REAL emSize) { return emSize >= -65535.0f && emSize <= 65535.0f; }
+
+inline REAL PixelsPer(Unit unit) {
+    switch (unit) {
+        case UnitPoint:
+            return 96.0f / 72.0f;
+        case UnitInch:
+            return 96.0f;
+        case UnitDocument:
+            return 96.0f / 300.0f;
+        case UnitMillimeter:
+            return 96.0f / 25.4f;
+        default:
+            return 1.0f;
+    }
+}
+
+}  // namespace detail
+
 /// A set of font families. None can be made here: null stands for the system's fonts.
 class FontCollection {
-public:
-    GpFontCollection* NativeObject() const { return nullptr; }
-
-private:
     FontCollection() = default;
 };
 
@@ -19,15 +40,16 @@ private:
 class FontFamily : public detail::StatusKeeper {
 public:
     FontFamily() = default;
-    FontFamily(const WCHAR* name, const FontCollection* collection = nullptr) {
+    /// A family by its name, which must not be empty.
+    FontFamily(const WCHAR* name, const FontCollection* = nullptr) {
         const detail::Utf16Text text(name);
-        SetStatus(text.GetStatus() != Ok
-                      ? text.GetStatus()
-                      : DllExports::GdipCreateFontFamilyFromName(
-                            text.Text(), detail::Native(collection), &native_));
+        SetStatus(text.GetStatus() != Ok ? text.GetStatus()
+                                         : DllExports::GdipCreateFontFamilyFromName(
+                                               text.Text(), nullptr, &native_));
     }
     ~FontFamily() { DllExports::GdipDeleteFontFamily(native_); }
 
+    /// Whether a family was found.
     BOOL IsAvailable() const { return native_ != nullptr; }
 
     /// The name of the family that was found, into room for LF_FACESIZE (32) characters.
@@ -43,7 +65,7 @@ public:
         return status;
     }
 
-    // In the font's own design units, of which the em has GetEmHeight.
+    /// In the font's own design units, of which the em has GetEmHeight.
     UINT16 GetEmHeight(INT style) const {
         return Metric(DllExports::GdipGetEmHeight, style);
     }
@@ -56,10 +78,12 @@ public:
     UINT16 GetLineSpacing(INT style) const {
         return Metric(DllExports::GdipGetLineSpacing, style);
     }
+    /// Whether the family has a style, of FontStyle.
     BOOL IsStyleAvailable(INT style) const {
         return Metric(DllExports::GdipIsStyleAvailable, style);
     }
 
+    /// The object behind, for the flat functions; null where none could be made.
     GpFontFamily* NativeObject() const { return native_; }
 
 private:
@@ -80,13 +104,16 @@ private:
 /// A font of a family: em size in the given unit, style flags of FontStyle.
 class Font : public detail::StatusKeeper {
 public:
+    /// A font of a family, or of the family of a name. The em size must be positive.
     Font(const FontFamily* family, REAL emSize, INT style = FontStyleRegular,
-         Unit unit = UnitPoint) {
+         Unit unit = UnitPoint)
+        : drawable_(detail::CanCarry(emSize * detail::PixelsPer(unit))) {
         SetStatus(DllExports::GdipCreateFont(detail::Native(family), emSize, style, unit,
                                              &native_));
     }
     Font(const WCHAR* familyName, REAL emSize, INT style = FontStyleRegular,
-         Unit unit = UnitPoint, const FontCollection* collection = nullptr) {
+         Unit unit = UnitPoint, const FontCollection* collection = nullptr)
+        : drawable_(detail::CanCarry(emSize * detail::PixelsPer(unit))) {
         const FontFamily family(familyName, collection);
         SetStatus(family.GetLastStatus());
         SetStatus(DllExports::GdipCreateFont(family.NativeObject(), emSize, style, unit,
@@ -94,6 +121,7 @@ public:
     }
     ~Font() { DllExports::GdipDeleteFont(native_); }
 
+    /// As the font was made; 0 where none could be.
     REAL GetSize() const { return Query(DllExports::GdipGetFontSize, native_); }
     INT GetStyle() const { return Query(DllExports::GdipGetFontStyle, native_); }
     Unit GetUnit() const { return Query(DllExports::GdipGetFontUnit, native_); }
@@ -120,10 +148,14 @@ public:
     }
     BOOL IsAvailable() const { return native_ != nullptr; }
 
+    /// The object behind, for the flat functions; null where none could be made.
     GpFont* NativeObject() const { return native_; }
 
 private:
+    friend class Graphics;
+
     GpFont* native_ = nullptr;
+    bool drawable_;
 };
 
 }  // namespace Gdiplus

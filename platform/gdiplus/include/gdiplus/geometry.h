@@ -153,33 +153,41 @@ private:
 
 }  // namespace detail
 
+/// Width and height in whole numbers.
 class Size : public detail::SizeOf<INT, Size> {
 public:
     using SizeOf::SizeOf;
 };
 
+/// Width and height.
 class SizeF : public detail::SizeOf<REAL, SizeF> {
 public:
     using SizeOf::SizeOf;
 };
 
+/// A point in whole numbers.
 class Point : public detail::PointOf<INT, Point> {
 public:
     using PointOf::PointOf;
+    /// The point that far from the origin.
     Point(const Size& size) : PointOf(size.Width, size.Height) {}
 };
 
+/// A point.
 class PointF : public detail::PointOf<REAL, PointF> {
 public:
     using PointOf::PointOf;
+    /// The point that far from the origin.
     PointF(const SizeF& size) : PointOf(size.Width, size.Height) {}
 };
 
+/// A rectangle in whole numbers: its top left corner and its size.
 class Rect : public detail::RectangleOf<INT, Rect, Point, Size> {
 public:
     using RectangleOf::RectangleOf;
 };
 
+/// A rectangle: its top left corner and its size.
 class RectF : public detail::RectangleOf<REAL, RectF, PointF, SizeF> {
 public:
     using RectangleOf::RectangleOf;

@@ -14,6 +14,7 @@ namespace Gdiplus {
 /// it.
 class Graphics : public detail::StatusKeeper {
 public:
+    /// A surface that draws into an image, which the caller keeps.
     Graphics(Image* image) {
         SetStatus(
             DllExports::GdipGetImageGraphicsContext(detail::Native(image), &native_));
@@ -22,35 +23,42 @@ public:
     static Graphics* FromImage(Image* image) { return new Graphics(image); }
     ~Graphics() { DllExports::GdipDeleteGraphics(native_); }
 
+    /// Gives every pixel within the clip a colour, alpha included.
     Status Clear(const Color& color) {
         return SetStatus(DllExports::GdipGraphicsClear(native_, color.GetValue()));
     }
+    /// Whether shapes have smooth edges.
     Status SetSmoothingMode(SmoothingMode mode) {
         return SetStatus(DllExports::GdipSetSmoothingMode(native_, mode));
     }
     SmoothingMode GetSmoothingMode() const {
         return Query(DllExports::GdipGetSmoothingMode, native_);
     }
+    /// Whether texts have smooth edges, and fit to the pixels.
     Status SetTextRenderingHint(TextRenderingHint hint) {
         return SetStatus(DllExports::GdipSetTextRenderingHint(native_, hint));
     }
     TextRenderingHint GetTextRenderingHint() const {
         return Query(DllExports::GdipGetTextRenderingHint, native_);
     }
+    /// How images are made larger and smaller.
     Status SetInterpolationMode(InterpolationMode mode) {
         return SetStatus(DllExports::GdipSetInterpolationMode(native_, mode));
     }
     InterpolationMode GetInterpolationMode() const {
         return Query(DllExports::GdipGetInterpolationMode, native_);
     }
+    /// Whether a pixel's middle or its corner is a whole number.
     Status SetPixelOffsetMode(PixelOffsetMode mode) {
         return SetStatus(DllExports::GdipSetPixelOffsetMode(native_, mode));
     }
     PixelOffsetMode GetPixelOffsetMode() const {
         return Query(DllExports::GdipGetPixelOffsetMode, native_);
     }
+    /// Device pixels an inch.
     REAL GetDpiX() const { return Query(DllExports::GdipGetDpiX, native_); }
     REAL GetDpiY() const { return Query(DllExports::GdipGetDpiY, native_); }
+    /// Finishes what was begun.
     VOID Flush(FlushIntention intention = FlushIntentionFlush) {
         SetStatus(DllExports::GdipFlush(native_, intention));
     }
@@ -61,6 +69,8 @@ public:
         return SetStatus(DllExports::GdipRestoreGraphics(native_, state));
     }
 
+    /// Where drawing has an effect: world coordinates, turned with the transform in force
+    /// at this call.
     Status SetClip(const Rect& rect, CombineMode mode = CombineModeReplace) {
         return SetStatus(DllExports::GdipSetClipRectI(native_, rect.X, rect.Y, rect.Width,
                                                       rect.Height, mode));
@@ -71,6 +81,9 @@ public:
     }
     Status ResetClip() { return SetStatus(DllExports::GdipResetClip(native_)); }
 
+    /// The world transform, which takes what is drawn to pixels. Prepended, a step comes
+    /// before all that are there; angles are degrees, clockwise on the surface. Resetting
+    /// gives the identity.
     Status TranslateTransform(REAL dx, REAL dy, MatrixOrder order = MatrixOrderPrepend) {
         return SetStatus(DllExports::GdipTranslateWorldTransform(native_, dx, dy, order));
     }
@@ -97,6 +110,7 @@ public:
         return SetStatus(DllExports::GdipResetWorldTransform(native_));
     }
 
+    /// Outlines with a pen, in world coordinates; points belong to the caller.
     Status DrawLine(const Pen* pen, INT x1, INT y1, INT x2, INT y2) {
         return SetStatus(
             DllExports::GdipDrawLineI(native_, detail::Native(pen), x1, y1, x2, y2));
@@ -146,6 +160,7 @@ public:
             DllExports::GdipDrawPath(native_, detail::Native(pen), detail::Native(path)));
     }
 
+    /// Fills with a brush, in world coordinates; an outline is closed by itself.
     Status FillRectangle(const Brush* brush, INT x, INT y, INT width, INT height) {
         return SetStatus(DllExports::GdipFillRectangleI(native_, detail::Native(brush), x,
                                                         y, width, height));
@@ -187,7 +202,7 @@ public:
         // nothing and answers InvalidParameter, as is right.
         GpBrush* const native = detail::Native(brush);
         return SetStatus(DllExports::GdipDrawString(
-            native == nullptr ? nullptr : native_, text.Text(), text.Length(),
+            native == nullptr ? nullptr : SurfaceFor(font), text.Text(), text.Length(),
             detail::Native(font), &layout, detail::Native(format), native));
     }
     Status DrawString(const WCHAR* string, INT length, const Font* font,
@@ -201,7 +216,8 @@ public:
         return DrawString(string, length, font, origin, nullptr, brush);
     }
 
-    /// @param codepointsFitted how many UTF-16 units of the text the rectangle holds
+    /// The box that DrawString fills, its margins included. Of the text,
+    /// `codepointsFitted` UTF-16 units fit into the rectangle.
     Status MeasureString(const WCHAR* string, INT length, const Font* font,
                          const RectF& layout, const StringFormat* format, RectF* bounds,
                          INT* codepointsFitted = nullptr,
@@ -212,7 +228,7 @@ public:
         }
         *bounds = RectF();
         return SetStatus(DllExports::GdipMeasureString(
-            native_, text.Text(), text.Length(), detail::Native(font), &layout,
+            SurfaceFor(font), text.Text(), text.Length(), detail::Native(font), &layout,
             detail::Native(format), bounds, codepointsFitted, linesFilled));
     }
     Status MeasureString(const WCHAR* string, INT length, const Font* font,
@@ -228,28 +244,30 @@ public:
     /// In the image's own size, by its resolution and the surface's.
     Status DrawImage(Image* image, INT x, INT y) {
         return SetStatus(
-            DllExports::GdipDrawImageI(native_, detail::Native(image), x, y));
+            DllExports::GdipDrawImageI(SurfaceFor(image), detail::Native(image), x, y));
     }
     Status DrawImage(Image* image, REAL x, REAL y) {
-        return SetStatus(DllExports::GdipDrawImage(native_, detail::Native(image), x, y));
+        return SetStatus(
+            DllExports::GdipDrawImage(SurfaceFor(image), detail::Native(image), x, y));
     }
 
     /// Stretches the image into a rectangle.
     Status DrawImage(Image* image, INT x, INT y, INT width, INT height) {
-        return SetStatus(DllExports::GdipDrawImageRectI(native_, detail::Native(image), x,
-                                                        y, width, height));
+        return SetStatus(DllExports::GdipDrawImageRectI(
+            SurfaceFor(image), detail::Native(image), x, y, width, height));
     }
     Status DrawImage(Image* image, const Rect& rect) {
         return DrawImage(image, rect.X, rect.Y, rect.Width, rect.Height);
     }
     Status DrawImage(Image* image, REAL x, REAL y, REAL width, REAL height) {
-        return SetStatus(DllExports::GdipDrawImageRect(native_, detail::Native(image), x,
-                                                       y, width, height));
+        return SetStatus(DllExports::GdipDrawImageRect(
+            SurfaceFor(image), detail::Native(image), x, y, width, height));
     }
     Status DrawImage(Image* image, const RectF& rect) {
         return DrawImage(image, rect.X, rect.Y, rect.Width, rect.Height);
     }
 
+    /// The object behind, for the flat functions; null where none could be made.
     GpGraphics* NativeObject() const { return native_; }
 
 private:
@@ -257,6 +275,15 @@ private:
     /// bounds; neither reaches it.
     static Status InvalidUnless(const detail::Utf16Text& text) {
         return text.GetStatus() != Ok ? text.GetStatus() : InvalidParameter;
+    }
+
+    /// None for what is beyond what libgdiplus can carry: the call then fails.
+    GpGraphics* SurfaceFor(const Font* font) const {
+        return font != nullptr && !font->drawable_ ? nullptr : native_;
+    }
+
+    GpGraphics* SurfaceFor(Image* image) const {
+        return image != nullptr && !image->IsDrawable() ? nullptr : native_;
     }
 
     GpGraphics* native_ = nullptr;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <algorithm>
+
 #include "gdiplus/codec.h"
 #include "gdiplus/object.h"
 
@@ -15,12 +17,23 @@ public:
         SetStatus(text.GetStatus() != Ok
                       ? text.GetStatus()
                       : DllExports::GdipLoadImageFromFile(text.Text(), &native_));
+        if (native_ != nullptr) {
+            CompletePalette();
+        }
     }
     virtual ~Image() { DllExports::GdipDisposeImage(native_); }
 
     /// In pixels; 0 for an image that was not loaded.
-    UINT GetWidth() { return Query(DllExports::GdipGetImageWidth, native_); }
-    UINT GetHeight() { return Query(DllExports::GdipGetImageHeight, native_); }
+    UINT GetWidth() {
+        const UINT width = Query(DllExports::GdipGetImageWidth, native_);
+        width_ = width;
+        return width;
+    }
+    UINT GetHeight() {
+        const UINT height = Query(DllExports::GdipGetImageHeight, native_);
+        height_ = height;
+        return height;
+    }
 
     /// In dots per inch.
     REAL GetHorizontalResolution() {
@@ -29,6 +42,7 @@ public:
     REAL GetVerticalResolution() {
         return Query(DllExports::GdipGetImageVerticalResolution, native_);
     }
+    /// What a pixel is made of, and whether the image has pixels at all.
     PixelFormat GetPixelFormat() {
         return Query(DllExports::GdipGetImagePixelFormat, native_);
     }
@@ -45,17 +59,58 @@ public:
                                                                encoder, parameters));
     }
 
+    /// The object behind, for the flat functions; null where none could be made.
     GpImage* NativeObject() const { return native_; }
 
 protected:
     Image() = default;
 
+    /// Owned; disposed of with the image.
     GpImage* native_ = nullptr;
+
+private:
+    friend class Graphics;
+
+    /// libgdiplus looks pixels up past the end of a palette that has fewer colours than
+    /// they can tell apart, as files may have: the colours that are missing become black.
+    void CompletePalette() {
+        PixelFormat format = PixelFormatUndefined;
+        INT bytes = 0;
+        FlatPalette palette = {};
+        DllExports::GdipGetImagePixelFormat(native_, &format);
+        if (!IsIndexedPixelFormat(format) ||
+            DllExports::GdipGetImagePaletteSize(native_, &bytes) != Ok ||
+            bytes > static_cast<INT>(sizeof palette) ||
+            DllExports::GdipGetImagePalette(native_, &palette, bytes) != Ok) {
+            return;
+        }
+        const UINT colors = 1U << GetPixelFormatSize(format);
+        if (palette.Count < colors) {
+            std::fill(palette.Entries + palette.Count, palette.Entries + colors,
+                      0xFF000000);
+            palette.Count = colors;
+            DllExports::GdipSetImagePalette(native_, &palette);
+        }
+    }
+
+    /// Whether libgdiplus can draw it. A surface on which one with a longer side was
+    /// drawn draws nothing any more. Asks only for what the caller did not ask before.
+    bool IsDrawable() {
+        constexpr std::int64_t longestSide = 32767;
+        return native_ == nullptr ||
+               ((width_ < 0 ? GetWidth() : width_) <= longestSide &&
+                (height_ < 0 ? GetHeight() : height_) <= longestSide);
+    }
+
+    // As they were last answered; -1 before.
+    std::int64_t width_ = -1;
+    std::int64_t height_ = -1;
 };
 
 /// A picture of pixels in memory.
 class Bitmap : public Image {
 public:
+    /// From an image file; or made anew, with all pixels clear.
     Bitmap(const WCHAR* filename) : Image(filename) {}
     Bitmap(INT width, INT height, PixelFormat format = PixelFormat32bppARGB)
         : Bitmap(width, height, 0, format, nullptr) {}
@@ -74,6 +129,7 @@ public:
         native_ = bitmap;
     }
 
+    /// One pixel, which must be within the bitmap: InvalidParameter otherwise.
     Status GetPixel(INT x, INT y, Color* color) {
         if (color == nullptr) {
             return SetStatus(InvalidParameter);
@@ -88,6 +144,7 @@ public:
         return SetStatus(
             DllExports::GdipBitmapSetPixel(Pixels(), x, y, color.GetValue()));
     }
+    /// Dots per inch, which a file keeps and DrawImage reads.
     Status SetResolution(REAL xdpi, REAL ydpi) {
         return SetStatus(DllExports::GdipBitmapSetResolution(Pixels(), xdpi, ydpi));
     }

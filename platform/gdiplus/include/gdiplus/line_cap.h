@@ -10,11 +10,13 @@ class CustomLineCap : public detail::StatusKeeper {
 public:
     virtual ~CustomLineCap() { DllExports::GdipDeleteCustomLineCap(native_); }
 
+    /// The object behind, for the flat functions; null where none could be made.
     GpCustomLineCap* NativeObject() const { return native_; }
 
 protected:
     CustomLineCap() = default;
 
+    /// Owned; deleted with the cap.
     GpCustomLineCap* native_ = nullptr;
 };
 
@@ -22,6 +24,7 @@ protected:
 /// a cap of height 5 on a pen of width 3 is 15 long.
 class AdjustableArrowCap : public CustomLineCap {
 public:
+    /// An arrowhead, filled or as two lines.
     AdjustableArrowCap(REAL height, REAL width, BOOL isFilled = 1) {
         GpAdjustableArrowCap* cap = nullptr;
         SetStatus(
@@ -29,6 +32,7 @@ public:
         native_ = cap;
     }
 
+    /// Units of the pen's width.
     Status SetHeight(REAL height) {
         return SetStatus(DllExports::GdipSetAdjustableArrowCapHeight(Arrow(), height));
     }
@@ -41,6 +45,7 @@ public:
     REAL GetWidth() const {
         return Query(DllExports::GdipGetAdjustableArrowCapWidth, Arrow());
     }
+    /// Filled, or two lines.
     Status SetFillState(BOOL isFilled) {
         return SetStatus(
             DllExports::GdipSetAdjustableArrowCapFillState(Arrow(), isFilled));

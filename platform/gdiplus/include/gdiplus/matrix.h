@@ -12,11 +12,13 @@ namespace Gdiplus {
 class Matrix : public detail::StatusKeeper {
 public:
     Matrix() { SetStatus(DllExports::GdipCreateMatrix(&native_)); }
+    /// From its elements: (x, y) becomes (m11 x + m21 y + dx, m12 x + m22 y + dy).
     Matrix(REAL m11, REAL m12, REAL m21, REAL m22, REAL dx, REAL dy) {
         SetStatus(DllExports::GdipCreateMatrix2(m11, m12, m21, m22, dx, dy, &native_));
     }
     ~Matrix() { DllExports::GdipDeleteMatrix(native_); }
 
+    /// Each puts one step before the others, or after them when appended.
     Status Translate(REAL dx, REAL dy, MatrixOrder order = MatrixOrderPrepend) {
         return SetStatus(DllExports::GdipTranslateMatrix(native_, dx, dy, order));
     }
@@ -30,7 +32,9 @@ public:
         return SetStatus(
             DllExports::GdipMultiplyMatrix(native_, detail::Native(matrix), order));
     }
+    /// The transform that leads back; fails where there is none.
     Status Invert() { return SetStatus(DllExports::GdipInvertMatrix(native_)); }
+    /// Gives it all elements anew: the identity, or those given.
     Status Reset() { return SetElements(1.0f, 0.0f, 0.0f, 1.0f, 0.0f, 0.0f); }
     Status SetElements(REAL m11, REAL m12, REAL m21, REAL m22, REAL dx, REAL dy) {
         return SetStatus(
@@ -41,6 +45,7 @@ public:
     Status GetElements(REAL* elements) const {
         return SetStatus(DllExports::GdipGetMatrixElements(native_, elements));
     }
+    /// What kind of transform it is; false of one that could not be made.
     BOOL IsIdentity() const { return Tells(DllExports::GdipIsMatrixIdentity); }
     BOOL IsInvertible() const { return Tells(DllExports::GdipIsMatrixInvertible); }
     BOOL Equals(const Matrix* other) const {
@@ -57,6 +62,7 @@ public:
         return SetStatus(DllExports::GdipTransformMatrixPointsI(native_, points, count));
     }
 
+    /// The object behind, for the flat functions; null where none could be made.
     GpMatrix* NativeObject() const { return native_; }
 
 private:

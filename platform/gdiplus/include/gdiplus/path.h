@@ -10,31 +10,35 @@ namespace Gdiplus {
 /// A figure of lines and outlines.
 class GraphicsPath : public detail::StatusKeeper {
 public:
+    /// A path with nothing in it.
     GraphicsPath(FillMode mode = FillModeAlternate) {
         SetStatus(DllExports::GdipCreatePath(mode, &native_));
     }
     ~GraphicsPath() { DllExports::GdipDeletePath(native_); }
 
+    /// Leaves nothing in it, and fills as a new path does.
     Status Reset() { return SetStatus(DllExports::GdipResetPath(native_)); }
+    /// What is inside where figures overlap.
     FillMode GetFillMode() const {
         return Query(DllExports::GdipGetPathFillMode, native_);
     }
     Status SetFillMode(FillMode mode) {
         return SetStatus(DllExports::GdipSetPathFillMode(native_, mode));
     }
+    /// What is added next begins a figure; the last figure gets its closing line.
     Status StartFigure() { return SetStatus(DllExports::GdipStartPathFigure(native_)); }
     Status CloseFigure() { return SetStatus(DllExports::GdipClosePathFigure(native_)); }
 
-    /// Adds the outline of a text in the given em size.
+    /// Adds the outline of a text in the given em size; none of more than 65,535.
     Status AddString(const WCHAR* string, INT length, const FontFamily* family, INT style,
                      REAL emSize, const RectF& layout, const StringFormat* format) {
         const detail::Utf16Text text(string, length);
-        return SetStatus(
-            text.GetStatus() != Ok
-                ? text.GetStatus()
-                : DllExports::GdipAddPathString(native_, text.Text(), text.Length(),
-                                                detail::Native(family), style, emSize,
-                                                &layout, detail::Native(format)));
+        return SetStatus(text.GetStatus() != Ok
+                             ? text.GetStatus()
+                             : DllExports::GdipAddPathString(
+                                   detail::CanCarry(emSize) ? native_ : nullptr,
+                                   text.Text(), text.Length(), detail::Native(family),
+                                   style, emSize, &layout, detail::Native(format)));
     }
     Status AddString(const WCHAR* string, INT length, const FontFamily* family, INT style,
                      REAL emSize, const PointF& origin, const StringFormat* format) {
@@ -56,6 +60,7 @@ public:
                          format);
     }
 
+    /// Adds to the figure; a polygon or rectangle is a closed figure of its own.
     Status AddLine(INT x1, INT y1, INT x2, INT y2) {
         return SetStatus(DllExports::GdipAddPathLineI(native_, x1, y1, x2, y2));
     }
@@ -107,6 +112,7 @@ public:
         return SetStatus(DllExports::GdipGetPathWorldBounds(
             native_, bounds, detail::Native(matrix), detail::Native(pen)));
     }
+    /// How many points the path has.
     INT GetPointCount() const { return Query(DllExports::GdipGetPointCount, native_); }
 
     /// Into room for count points, which is to be at least GetPointCount().
@@ -114,6 +120,7 @@ public:
         return SetStatus(DllExports::GdipGetPathPoints(native_, points, count));
     }
 
+    /// The object behind, for the flat functions; null where none could be made.
     GpPath* NativeObject() const { return native_; }
 
 private:

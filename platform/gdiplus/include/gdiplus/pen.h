@@ -8,12 +8,14 @@ namespace Gdiplus {
 /// the world transform; a line is never thinner than a pixel.
 class Pen : public detail::StatusKeeper {
 public:
+    /// A pen of one colour, its width in world units.
     Pen(const Color& color, REAL width = 1.0f) {
         SetStatus(
             DllExports::GdipCreatePen1(color.GetValue(), width, UnitWorld, &native_));
     }
     ~Pen() { DllExports::GdipDeletePen(native_); }
 
+    /// The colour, alpha included.
     Status SetColor(const Color& color) {
         return SetStatus(DllExports::GdipSetPenColor(native_, color.GetValue()));
     }
@@ -26,16 +28,19 @@ public:
         *color = Color(argb);
         return status;
     }
+    /// World units.
     Status SetWidth(REAL width) {
         return SetStatus(DllExports::GdipSetPenWidth(native_, width));
     }
     REAL GetWidth() const { return Query(DllExports::GdipGetPenWidth, native_); }
+    /// Dashes are as long as the pen is wide, times a small number.
     Status SetDashStyle(DashStyle style) {
         return SetStatus(DllExports::GdipSetPenDashStyle(native_, style));
     }
     DashStyle GetDashStyle() const {
         return Query(DllExports::GdipGetPenDashStyle, native_);
     }
+    /// What stands at the corners of an outline.
     Status SetLineJoin(LineJoin join) {
         return SetStatus(DllExports::GdipSetPenLineJoin(native_, join));
     }
@@ -43,6 +48,7 @@ public:
         return Query(DllExports::GdipGetPenLineJoin, native_);
     }
 
+    /// What stands at the two ends of a line.
     Status SetStartCap(LineCap cap) {
         return SetStatus(DllExports::GdipSetPenStartCap(native_, cap));
     }
@@ -62,6 +68,7 @@ public:
             DllExports::GdipSetPenCustomEndCap(native_, detail::Native(cap)));
     }
 
+    /// The object behind, for the flat functions; null where none could be made.
     GpPen* NativeObject() const { return native_; }
 
 private:

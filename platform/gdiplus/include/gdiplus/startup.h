@@ -10,7 +10,9 @@ typedef VOID (*DebugEventProc)(DebugEventLevel level, char* message);
 typedef Status (*NotificationHookProc)(ULONG_PTR* token);
 typedef VOID (*NotificationUnhookProc)(ULONG_PTR token);
 
+/// How GDI+ is to start; the defaults suit every program.
 struct GdiplusStartupInput {
+    /// All switched off.
     GdiplusStartupInput(Gdiplus::DebugEventProc debugEventCallback = nullptr,
                         BOOL suppressBackgroundThread = 0,
                         BOOL suppressExternalCodecs = 0)
@@ -18,13 +20,17 @@ struct GdiplusStartupInput {
           SuppressBackgroundThread(suppressBackgroundThread),
           SuppressExternalCodecs(suppressExternalCodecs) {}
 
+    /// 1; called on errors within GDI+, or null; no thread of its own; no codecs but its
+    /// own.
     UINT32 GdiplusVersion = 1;
     Gdiplus::DebugEventProc DebugEventCallback;
     BOOL SuppressBackgroundThread;
     BOOL SuppressExternalCodecs;
 };
 
+/// What a host without a background thread has to call; null otherwise.
 struct GdiplusStartupOutput {
+    /// Null here.
     NotificationHookProc NotificationHook = nullptr;
     NotificationUnhookProc NotificationUnhook = nullptr;
 };

@@ -9,11 +9,13 @@ namespace Gdiplus {
 /// otherwise along the line (Alignment) or across the lines (LineAlignment).
 class StringFormat : public detail::StatusKeeper {
 public:
+    /// A format with no more than the flags of StringFormatFlags.
     StringFormat(INT flags = 0, LANGID language = 0) {
         SetStatus(DllExports::GdipCreateStringFormat(flags, language, &native_));
     }
     ~StringFormat() { DllExports::GdipDeleteStringFormat(native_); }
 
+    /// Where a line, and where all lines, stand in the rectangle.
     Status SetAlignment(StringAlignment alignment) {
         return SetStatus(DllExports::GdipSetStringFormatAlign(native_, alignment));
     }
@@ -34,6 +36,7 @@ public:
     INT GetFormatFlags() const {
         return Query(DllExports::GdipGetStringFormatFlags, native_);
     }
+    /// What ends a text that is cut off.
     Status SetTrimming(StringTrimming trimming) {
         return SetStatus(DllExports::GdipSetStringFormatTrimming(native_, trimming));
     }
@@ -41,6 +44,7 @@ public:
         return Query(DllExports::GdipGetStringFormatTrimming, native_);
     }
 
+    /// The object behind, for the flat functions; null where none could be made.
     GpStringFormat* NativeObject() const { return native_; }
 
 private:

@@ -39,8 +39,9 @@ public:
             return;
         }
         FlatChar* out = buffer_;
-        if (2 * count + 1 > kBufferUnits) {
-            heap_.reset(new (std::nothrow) FlatChar[2 * count + 1]);
+        const auto units = static_cast<UINT>(2 * count + 1);
+        if (units > kBufferUnits) {
+            heap_.reset(new (std::nothrow) FlatChar[units]);
             out = heap_.get();
         }
         if (out == nullptr) {
@@ -67,8 +68,10 @@ private:
         const FlatChar* const start = out;
         for (std::size_t i = 0; i < count; ++i) {
             const auto c = static_cast<std::uint32_t>(text[i]);
-            if (IsHighSurrogate(c) && i + 1 < count &&
-                IsLowSurrogate(static_cast<std::uint32_t>(text[i + 1]))) {
+            if (c < 0xD800) {  // nearly all text
+                *out++ = static_cast<FlatChar>(c);
+            } else if (IsHighSurrogate(c) && i + 1 < count &&
+                       IsLowSurrogate(static_cast<std::uint32_t>(text[i + 1]))) {
                 *out++ = static_cast<FlatChar>(c);
                 *out++ = static_cast<FlatChar>(text[++i]);
             } else if (c > 0x10FFFF || IsHighSurrogate(c) || IsLowSurrogate(c)) {

@@ -24,7 +24,9 @@ typedef std::uint32_t ARGB;  ///< alpha in the top byte, then red, green, blue
 
 typedef UINT GraphicsState;  ///< what Graphics::Save gives for Graphics::Restore
 
+/// A number of 128 bits that names a codec or a setting.
 struct GUID {
+    /// The number in its four parts.
     std::uint32_t Data1;
     std::uint16_t Data2;
     std::uint16_t Data3;

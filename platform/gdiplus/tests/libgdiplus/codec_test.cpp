@@ -41,6 +41,23 @@ TEST(Encoders, KeepTheirTextsInTheCallersBuffer) {
     }
 }
 
+TEST(Encoders, ThatCannotBeCountedAreNotRead) {
+    static int reads;
+    reads = 0;
+    const detail::FlatCodecs codecs([](UINT*, UINT*) { return Win32Error; },
+                                    [](UINT, UINT, FlatCodecInfo*) {
+                                        ++reads;
+                                        return Ok;
+                                    });
+    UINT count = 1;
+    UINT bytes = 1;
+    EXPECT_EQ(detail::TellCodecsSize(codecs, &count, &bytes), Win32Error);
+    EXPECT_EQ(count, 0u);
+    EXPECT_EQ(bytes, 0u);
+    EXPECT_EQ(detail::TellCodecs(codecs, 0, 0, nullptr), Win32Error);
+    EXPECT_EQ(reads, 0);
+}
+
 TEST_F(ImageFiles, TakeTheQualityOfAJpeg) {
     Bitmap bitmap(64, 64, PixelFormat24bppRGB);
     for (int i = 0; i < 64 * 64; ++i) {

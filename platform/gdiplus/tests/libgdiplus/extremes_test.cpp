@@ -3,10 +3,14 @@
 
 #include <climits>
 #include <cmath>
+#include <filesystem>
+#include <fstream>
 #include <limits>
+#include <random>
 #include <string>
 #include <vector>
 
+#include "libgdiplus/flat_spy.h"
 #include "portable/pixels.h"
 
 using namespace Gdiplus;
@@ -135,6 +139,158 @@ TEST(CallersMemory, IsNotWrittenPastItsEnd) {
                   row.status == Ok ? Ok : InvalidParameter)
             << row.stride;
     }
+}
+
+struct FontRow {
+    REAL size;
+    Unit unit;
+    bool carried;
+};
+
+// 65,535 pixels are 49,151.25 points, 682.66 inches, 204,796.9 document units, 17,339.5
+// millimetres.
+constexpr FontRow kFonts[] = {
+    {20000.0f, UnitPixel, true},
+    {65535.0f, UnitPixel, true},
+    {65536.0f, UnitPixel, false},
+    {65535.0f, UnitWorld, true},
+    {65536.0f, UnitWorld, false},
+    {49151.0f, UnitPoint, true},
+    {49152.0f, UnitPoint, false},
+    {682.0f, UnitInch, true},
+    {683.0f, UnitInch, false},
+    {204796.0f, UnitDocument, true},
+    {204798.0f, UnitDocument, false},
+    {17339.0f, UnitMillimeter, true},
+    {17340.0f, UnitMillimeter, false},
+    {2097152.0f, UnitPixel, false},
+    {2147483648.0f, UnitPixel, false},
+    {std::numeric_limits<REAL>::infinity(), UnitPixel, false},
+};
+
+// FreeType would give up on the family for good.
+TEST_F(Extremes, OfFontsAreRefusedBeforeTheySpoilTheirFamily) {
+    const Font plain(&family, 40.0f, FontStyleRegular, UnitPixel);
+    for (const FontRow& row : kFonts) {
+        const Font font(&family, row.size, FontStyleRegular, row.unit);
+        EXPECT_EQ(font.GetLastStatus(), Ok);
+        EXPECT_EQ(font.GetSize(), row.size);
+        const Status expected = row.carried ? Ok : InvalidParameter;
+        RectF bounds;
+        EXPECT_EQ(graphics.DrawString(L"North", -1, &font, PointF(5, 5), &brush),
+                  expected)
+            << row.size;
+        EXPECT_EQ(graphics.MeasureString(L"North", -1, &font, PointF(5, 5), &bounds),
+                  expected)
+            << row.size;
+        EXPECT_EQ(bounds.Width > 0.0f, row.carried) << row.size;
+        if (row.unit == UnitPixel) {
+            GraphicsPath path;
+            EXPECT_EQ(path.AddString(L"North", -1, &family, FontStyleRegular, row.size,
+                                     PointF(), nullptr),
+                      expected)
+                << row.size;
+        }
+        graphics.Clear(Color(0xFFFFFFFF));
+        graphics.DrawString(L"H", -1, &plain, PointF(0.0f, 0.0f), &brush);
+        bool inked = false;
+        for (int x = 0; x < 40; ++x) {
+            inked = inked || PixelAt(bitmap, x, 24) != 0xFFFFFFFF;
+        }
+        EXPECT_TRUE(inked) << "after " << row.size;
+    }
+}
+
+struct ImageRow {
+    int width;
+    int height;
+    Status status;
+};
+
+TEST_F(Extremes, OfImagesAreRefusedBeforeTheySpoilTheSurface) {
+    for (const ImageRow& row :
+         {ImageRow{32767, 1, Ok}, ImageRow{1, 32767, Ok},
+          ImageRow{32768, 1, InvalidParameter}, ImageRow{1, 32768, InvalidParameter},
+          ImageRow{65500, 3, InvalidParameter}}) {
+        Bitmap image(row.width, row.height);
+        EXPECT_EQ(image.GetLastStatus(), Ok);
+        EXPECT_EQ(graphics.DrawImage(&image, 5, 5, 40, 30), row.status) << row.width;
+        EXPECT_EQ(graphics.DrawImage(&image, 5.0f, 5.0f, 40.0f, 30.0f), row.status);
+        EXPECT_EQ(graphics.DrawImage(&image, 5, 5), row.status);
+        EXPECT_EQ(graphics.DrawImage(&image, 5.0f, 5.0f), row.status);
+    }
+}
+
+/// A BMP file of 8 by 8 pixels, all of the same index into a palette of red shades.
+void WriteIndexedBmp(const std::filesystem::path& file, unsigned bits, unsigned colors,
+                     unsigned index) {
+    std::string bytes = "BM";
+    const auto append = [&bytes](unsigned value, int count) {
+        for (int i = 0; i < count; ++i) {
+            bytes.push_back(static_cast<char>(value >> (8 * i) & 0xFF));
+        }
+    };
+    const unsigned headers = 14 + 40;
+    for (const unsigned value : {0u, 0u, headers + 4 * colors, 40u, 8u, 8u}) {
+        append(value, 4);
+    }
+    append(1, 2);
+    append(bits, 2);
+    for (const unsigned value : {0u, 0u, 2835u, 2835u, colors, 0u}) {
+        append(value, 4);
+    }
+    for (unsigned i = 0; i < colors; ++i) {
+        append((i + 1) << 16, 4);
+    }
+    const unsigned pair = bits == 4 ? index << 4 | index : index;
+    bytes.append(8 * bits, static_cast<char>(pair));  // rows of 8 pixels, 4 or 8 bytes
+    std::ofstream(file, std::ios::binary) << bytes;
+}
+
+struct PaletteRow {
+    unsigned bits;
+    unsigned colors;
+    unsigned index;
+    ARGB drawn;
+};
+
+TEST_F(Extremes, OfPalettesEndInBlack) {
+    const std::filesystem::path file =
+        std::filesystem::temp_directory_path() /
+        ("gdiplus_palette_" + std::to_string(std::random_device()()) + ".bmp");
+    for (const PaletteRow& row :
+         {PaletteRow{4, 16, 15, 0xFF100000}, PaletteRow{4, 2, 1, 0xFF020000},
+          PaletteRow{4, 2, 15, 0xFF000000}, PaletteRow{8, 256, 200, 0xFFC90000},
+          PaletteRow{8, 3, 2, 0xFF030000}, PaletteRow{8, 3, 3, 0xFF000000},
+          PaletteRow{8, 1, 255, 0xFF000000}}) {
+        WriteIndexedBmp(file, row.bits, row.colors, row.index);
+        Bitmap image(file.wstring().c_str());
+        EXPECT_EQ(graphics.DrawImage(&image, 0, 0, 8, 8), Ok);
+        EXPECT_EQ(PixelAt(bitmap, 4, 4), row.drawn)
+            << row.bits << " bits, " << row.colors << " colours, index " << row.index;
+    }
+    std::filesystem::remove(file);
+}
+
+TEST_F(Extremes, OfPalettesThatCannotBeReadStayAsTheyAre) {
+    const std::filesystem::path file =
+        std::filesystem::temp_directory_path() /
+        ("gdiplus_palette_" + std::to_string(std::random_device()()) + ".bmp");
+    WriteIndexedBmp(file, 8, 3, 2);
+    const flat_spy::Palette rows[] = {{Ok, 0, Ok, 1},
+                                      {GenericError, 0, Ok, 0},
+                                      {Ok, 4 * 256, Ok, 0},
+                                      {Ok, 0, OutOfMemory, 0}};
+    for (const flat_spy::Palette& row : rows) {
+        flat_spy::Clear();
+        flat_spy::Palettes() = row;
+        flat_spy::Palettes().sets = 0;
+        const Image image(file.wstring().c_str());
+        EXPECT_EQ(flat_spy::Palettes().sets, row.sets);
+        EXPECT_EQ(image.GetLastStatus(), Ok);
+    }
+    flat_spy::Clear();
+    std::filesystem::remove(file);
 }
 
 TEST_F(Extremes, OfTexts) {

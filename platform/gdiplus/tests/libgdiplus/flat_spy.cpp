@@ -33,7 +33,15 @@ flat_spy::Text& flat_spy::Last() {
     return last;
 }
 
-void flat_spy::Clear() { Last() = Text(); }
+flat_spy::Palette& flat_spy::Palettes() {
+    static Palette palettes;
+    return palettes;
+}
+
+void flat_spy::Clear() {
+    Last() = Text();
+    Palettes() = Palette();
+}
 
 namespace Gdiplus {
 namespace DllExports {
@@ -82,6 +90,29 @@ GpStatus GdipSaveImageToFile(GpImage* image, const FlatChar* file, const CLSID* 
     WatchName(file);
     return Real<decltype(&GdipSaveImageToFile)>("GdipSaveImageToFile")(
         image, file, encoder, parameters);
+}
+
+GpStatus GdipGetImagePaletteSize(GpImage* image, INT* bytes) {
+    if (flat_spy::Palettes().sizeStatus != Ok) {
+        return flat_spy::Palettes().sizeStatus;
+    }
+    const GpStatus status =
+        Real<decltype(&GdipGetImagePaletteSize)>("GdipGetImagePaletteSize")(image, bytes);
+    *bytes += flat_spy::Palettes().moreBytes;
+    return status;
+}
+
+GpStatus GdipGetImagePalette(GpImage* image, FlatPalette* palette, INT bytes) {
+    if (flat_spy::Palettes().status != Ok) {
+        return flat_spy::Palettes().status;
+    }
+    return Real<decltype(&GdipGetImagePalette)>("GdipGetImagePalette")(image, palette,
+                                                                       bytes);
+}
+
+GpStatus GdipSetImagePalette(GpImage* image, const FlatPalette* palette) {
+    ++flat_spy::Palettes().sets;
+    return Real<decltype(&GdipSetImagePalette)>("GdipSetImagePalette")(image, palette);
 }
 
 }  // extern "C"

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <gdiplus.h>
+
 #include <string>
 
-/// Watches the flat functions that take texts: this program defines them, and each
-/// forwards to libgdiplus.
+/// Watches the flat functions that take texts or palettes: this program defines them, and
+/// each forwards to libgdiplus.
 namespace flat_spy {
 
 struct Text {
@@ -16,6 +18,16 @@ struct Text {
 
 /// Since the last Clear.
 Text& Last();
+
+/// What asking for a palette answers, and how often one was set since the last Clear.
+struct Palette {
+    Gdiplus::Status sizeStatus = Gdiplus::Ok;
+    Gdiplus::INT moreBytes = 0;  ///< than it has
+    Gdiplus::Status status = Gdiplus::Ok;
+    int sets = 0;
+};
+
+Palette& Palettes();
 
 void Clear();
 

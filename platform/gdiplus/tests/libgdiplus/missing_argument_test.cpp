@@ -100,6 +100,40 @@ TEST(MissingArgument, OfAPathMeasuresNothing) {
     EXPECT_EQ(path.GetPointCount(), 0);
 }
 
+TEST(NativeObject, IsThereForTheFlatFunctionsUnlessItCouldNotBeMade) {
+    Bitmap bitmap(4, 4);
+    const Graphics graphics(&bitmap);
+    REAL dpi = 0.0f;
+    ASSERT_NE(graphics.NativeObject(), nullptr);
+    EXPECT_EQ(DllExports::GdipGetDpiX(graphics.NativeObject(), &dpi), Ok);
+    EXPECT_EQ(dpi, graphics.GetDpiX());
+    const Graphics none(nullptr);
+    EXPECT_EQ(none.NativeObject(), nullptr);
+}
+
+TEST(MissingArgument, OfAPenLeavesItAsItIs) {
+    Pen pen(Color(0xFF000000));
+    EXPECT_EQ(pen.SetCustomEndCap(nullptr), InvalidParameter);
+    EXPECT_EQ(pen.SetCustomStartCap(nullptr), InvalidParameter);
+    EXPECT_EQ(pen.GetEndCap(), LineCapFlat);
+    EXPECT_EQ(pen.GetStartCap(), LineCapFlat);
+}
+
+TEST(MissingArgument, TellsNothing) {
+    Bitmap bitmap(4, 4);
+    EXPECT_EQ(bitmap.GetPixel(0, 0, nullptr), InvalidParameter);
+    EXPECT_EQ(bitmap.GetLastStatus(), InvalidParameter);
+    const Pen pen(Color(0xFF000000));
+    EXPECT_EQ(pen.GetColor(nullptr), InvalidParameter);
+    EXPECT_EQ(pen.GetLastStatus(), InvalidParameter);
+    const SolidBrush brush(Color(0xFF000000));
+    EXPECT_EQ(brush.GetColor(nullptr), InvalidParameter);
+    EXPECT_EQ(brush.GetLastStatus(), InvalidParameter);
+    const Font font(L"Arial", 12.0f);
+    EXPECT_EQ(font.GetFamily(nullptr), InvalidParameter);
+    EXPECT_EQ(font.GetLastStatus(), InvalidParameter);
+}
+
 TEST(WrongArgument, ChangesNothing) {
     Bitmap bitmap(4, 4);
     Graphics graphics(&bitmap);

@@ -186,8 +186,18 @@ TEST_F(Text, WithoutMemoryIsNotHandedOn) {
     UINT bytes = 1;
     EXPECT_EQ(GetImageEncodersSize(&count, &bytes), OutOfMemory);
     EXPECT_EQ(count, 0u);
+    ImageCodecInfo encoder;
+    EXPECT_EQ(GetImageEncoders(1, sizeof encoder, &encoder), OutOfMemory);
     EXPECT_EQ(flat_spy::Last().calls, 0);
     EXPECT_EQ(Add(L"a short text needs none"), Ok);
+}
+
+TEST_F(Text, OfMoreThanAGigaCharacterIsNotRead) {
+    for (const int length : {0x40000000, INT32_MAX}) {
+        EXPECT_EQ(Add(L"short", length), OutOfMemory) << length;
+    }
+    EXPECT_EQ(flat_spy::Last().calls, 0);
+    EXPECT_EQ(path.GetLastStatus(), OutOfMemory);
 }
 
 TEST_F(Text, WithoutAFontOrBrushIsOneCallThatDrawsNothing) {
@@ -210,6 +220,9 @@ TEST_F(Text, ThatLibgdiplusWouldFailOnDoesNotReachIt) {
     const SolidBrush brush(Color(0xFF000000));
     flat_spy::Clear();
     EXPECT_EQ(graphics.DrawString(nullptr, -1, &font, PointF(), &brush),
+              InvalidParameter);
+    RectF bounds;
+    EXPECT_EQ(graphics.MeasureString(nullptr, -1, &font, RectF(), &bounds),
               InvalidParameter);
     EXPECT_EQ(graphics.MeasureString(L"N", -1, &font, RectF(), nullptr),
               InvalidParameter);
@@ -241,6 +254,24 @@ TEST(WideText, ComesBackFromUtf16) {
     detail::WriteWide(u"long", small, 2);
     EXPECT_EQ(std::wstring(small), L"l") << "cut to its room";
     EXPECT_EQ(small[2], L'?');
+}
+
+TEST(FontFamily, TakesTheFontsFamilyForWhatItHeld) {
+    const Font sans(L"Arial", 12.0f);
+    const Font serif(L"Times New Roman", 12.0f);
+    FontFamily family;
+    WCHAR name[LF_FACESIZE];
+    WCHAR expected[LF_FACESIZE];
+    for (const Font* font : {&sans, &serif, &sans}) {
+        EXPECT_EQ(font->GetFamily(&family), Ok);
+        EXPECT_EQ(family.GetFamilyName(name), Ok);
+        FontFamily(font == &sans ? L"Arial" : L"Times New Roman").GetFamilyName(expected);
+        EXPECT_STREQ(name, expected);
+    }
+    const Font none(static_cast<const FontFamily*>(nullptr), 12.0f);
+    EXPECT_EQ(none.GetFamily(&family), InvalidParameter);
+    EXPECT_FALSE(family.IsAvailable());
+    EXPECT_EQ(family.GetLastStatus(), InvalidParameter);
 }
 
 TEST(FontFamily, OfAnUnknownNameIsASubstitute) {

@@ -116,6 +116,74 @@ TEST(Rect, MeetsAndJoinsOthers) {
     EXPECT_TRUE(self.Equals(Rect(5, 6, 5, 4)));
 }
 
+/// Values that differ in one thing are not equal, in whole numbers and in floats.
+template <typename SizeType, typename PointType, typename RectType>
+void ExpectEachNumberToCount() {
+    EXPECT_TRUE(SizeType(0, 0).Empty());
+    EXPECT_FALSE(SizeType(1, 0).Empty());
+    EXPECT_FALSE(SizeType(0, 1).Empty());
+    EXPECT_TRUE(SizeType(1, 2).Equals(SizeType(1, 2)));
+    EXPECT_FALSE(SizeType(1, 2).Equals(SizeType(3, 2)));
+    EXPECT_FALSE(SizeType(1, 2).Equals(SizeType(1, 3)));
+    EXPECT_TRUE((SizeType(5, 7) - SizeType(4, 5)).Equals(SizeType(1, 2)));
+    EXPECT_TRUE(PointType(SizeType(3, 4)).Equals(PointType(3, 4)));
+    EXPECT_FALSE(PointType(1, 2).Equals(PointType(3, 2)));
+    EXPECT_FALSE(PointType(1, 2).Equals(PointType(1, 3)));
+
+    const RectType rect(10, 20, 30, 40);
+    EXPECT_TRUE(rect.Equals(RectType(10, 20, 30, 40)));
+    const RectType others[] = {
+        {11, 20, 30, 40}, {10, 21, 30, 40}, {10, 20, 31, 40}, {10, 20, 30, 41}};
+    for (const RectType& other : others) {
+        EXPECT_FALSE(rect.Equals(other));
+    }
+
+    EXPECT_FALSE(rect.IsEmptyArea());
+    EXPECT_TRUE(RectType(10, 20, 0, 40).IsEmptyArea());
+    EXPECT_TRUE(RectType(10, 20, 30, 0).IsEmptyArea());
+
+    const PointType outside[] = {{9, 30}, {40, 30}, {30, 19}, {30, 60}};
+    for (const PointType& point : outside) {
+        EXPECT_FALSE(rect.Contains(point)) << point.X << ',' << point.Y;
+    }
+    EXPECT_TRUE(rect.Contains(PointType(10, 20)));
+
+    const RectType standingOut[] = {
+        {9, 21, 20, 20}, {11, 21, 30, 20}, {11, 19, 20, 20}, {11, 21, 20, 40}};
+    for (const RectType& other : standingOut) {
+        EXPECT_FALSE(rect.Contains(other)) << other.X << ',' << other.Y;
+        EXPECT_TRUE(rect.IntersectsWith(other)) << other.X << ',' << other.Y;
+    }
+    EXPECT_TRUE(rect.Contains(RectType(11, 21, 20, 20)));
+
+    const RectType beside[] = {
+        {0, 30, 10, 10}, {40, 30, 10, 10}, {20, 10, 10, 10}, {20, 60, 10, 10}};
+    for (const RectType& other : beside) {
+        EXPECT_FALSE(rect.IntersectsWith(other)) << other.X << ',' << other.Y;
+    }
+}
+
+TEST(Values, CompareEachNumber) {
+    ExpectEachNumberToCount<Size, Point, Rect>();
+    ExpectEachNumberToCount<SizeF, PointF, RectF>();
+}
+
+TEST(Guid, IsAllItsParts) {
+    const GUID guid = {1, 2, 3, {4, 5, 6, 7, 8, 9, 10, 11}};
+    GUID same = guid;
+    EXPECT_TRUE(guid == same);
+    EXPECT_FALSE(guid != same);
+    const GUID others[] = {{0, 2, 3, {4, 5, 6, 7, 8, 9, 10, 11}},
+                           {1, 0, 3, {4, 5, 6, 7, 8, 9, 10, 11}},
+                           {1, 2, 0, {4, 5, 6, 7, 8, 9, 10, 11}},
+                           {1, 2, 3, {0, 5, 6, 7, 8, 9, 10, 11}},
+                           {1, 2, 3, {4, 5, 6, 7, 8, 9, 10, 0}}};
+    for (const GUID& other : others) {
+        EXPECT_TRUE(guid != other);
+        EXPECT_FALSE(guid == other);
+    }
+}
+
 TEST(Rect, MovesAndGrows) {
     Rect rect(10, 20, 30, 40);
     rect.Inflate(1, 2);

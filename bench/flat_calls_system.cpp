@@ -1,3 +1,0 @@
-#include "flat_calls.h"
-
-std::shared_ptr<void> HoldFlatCalls() { return nullptr; }

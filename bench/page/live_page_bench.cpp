@@ -1,0 +1,80 @@
+// A page with a map and twelve elements at 1600 x 1131 pixels, of which one is dragged.
+
+#include <benchmark/benchmark.h>
+#include <gdiplus.h>
+
+#include <memory>
+#include <variant>
+
+#include "page/live_page.h"
+#include "page/twelve_elements.h"
+
+namespace {
+
+constexpr double kDpi = 1600.0 * 96.0 / 1123.0;
+
+/// To and fro, so that the element stays where it is.
+void Drag(const host::Page& page, std::size_t item, int move) {
+    const double step = move % 2 == 0 ? 3.0 : -3.0;
+    std::get<std::unique_ptr<CSurroundFrame>>(page.Items()[item])->SetOffset(step, step);
+}
+
+void RedrawAll(benchmark::State& state) {
+    const host::Page page = host_tests::TwelveElements();
+    host::LivePage live(page, kDpi);
+    int move = 0;
+    while (state.KeepRunning()) {
+        Drag(page, static_cast<std::size_t>(state.range(0)), move++);
+        live.DrawAll();
+    }
+}
+
+void RedrawWhatMoved(benchmark::State& state) {
+    const host::Page page = host_tests::TwelveElements();
+    host::LivePage live(page, kDpi);
+    const auto item = static_cast<std::size_t>(state.range(0));
+    int move = 0;
+    while (state.KeepRunning()) {
+        Drag(page, item, move++);
+        live.DrawMoved(item);
+    }
+}
+
+void WholePage(benchmark::State& state) {
+    const host::Page page = host_tests::TwelveElements();
+    host::PageImage image(host::PixelSize(page, kDpi));
+    Gdiplus::Graphics graphics(&image.Bitmap());
+    while (state.KeepRunning()) {
+        page.Draw(graphics, kDpi);
+    }
+}
+
+void Repeat(benchmark::internal::Benchmark* bench) {
+    bench->Unit(benchmark::kMillisecond)->Repetitions(5)->ReportAggregatesOnly();
+}
+
+void EachElement(benchmark::internal::Benchmark* bench) {
+    Repeat(bench);
+    bench->ArgName("item")->DenseRange(1, 12);
+}
+
+BENCHMARK(WholePage)->Apply(Repeat);
+BENCHMARK(RedrawAll)->Apply(Repeat)->Arg(1);
+BENCHMARK(RedrawWhatMoved)->Apply(EachElement);
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
+        return 2;
+    }
+    const Gdiplus::GdiplusStartupInput input;
+    ULONG_PTR token = 0;
+    if (Gdiplus::GdiplusStartup(&token, &input, nullptr) != Gdiplus::Ok) {
+        return 1;
+    }
+    benchmark::RunSpecifiedBenchmarks();
+    Gdiplus::GdiplusShutdown(token);
+    return 0;
+}

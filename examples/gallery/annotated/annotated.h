@@ -1,0 +1,67 @@
+#pragma once
+
+#include <gdiplus.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "map_surround/map_surround.h"
+
+namespace gallery::annotated {
+
+/// A drawing of an element with the names of its lengths, as a draughtsman adds them:
+/// dimension lines between arrows, thin lines to what they measure, and marked points.
+/// All coordinates are pixels.
+class Drawing {
+public:
+    Drawing(int width, int height);
+
+    Gdiplus::Graphics* Surface() { return m_graphics.get(); }
+
+    /// A length from x1 to x2, its name above the middle of the line.
+    void Across(int x1, int x2, int y, const std::wstring& name);
+    /// A length from y1 to y2, its name to the right of the middle of the line.
+    void Down(int y1, int y2, int x, const std::wstring& name);
+
+    /// A thin line from an element to a dimension line.
+    void Guide(int x1, int y1, int x2, int y2);
+    void Outline(const std::vector<Gdiplus::Point>& corners);
+
+    /// A marked point, with its name set off from it.
+    void Mark(int x, int y, const std::wstring& name, int dx = 6, int dy = -18);
+    void Note(int x, int y, const std::wstring& text);
+
+    bool Save(const std::wstring& file);
+
+private:
+    void Arrowed(Gdiplus::Point from, Gdiplus::Point to);
+    Gdiplus::RectF Measure(const std::wstring& text);
+
+    std::unique_ptr<Gdiplus::Bitmap> m_bitmap;
+    std::unique_ptr<Gdiplus::Graphics> m_graphics;
+};
+
+struct Picture {
+    const wchar_t* name;  ///< the file's, without its ending
+    Drawing (*draw)();
+};
+
+const std::vector<Picture>& Pictures();
+
+Drawing DrawTitle();
+Drawing DrawPicture();
+Drawing DrawLegend();
+Drawing DrawLegendRamp();
+Drawing DrawFrame();
+Drawing DrawOneAngle();
+Drawing DrawTwoAngle();
+Drawing DrawFourAngle();
+Drawing DrawEightAngle();
+Drawing DrawScaleLine();
+Drawing DrawScaleLine2();
+Drawing DrawScaleLine3();
+Drawing DrawScaleAlternate();
+Drawing DrawScaleEquAltenate();
+
+}  // namespace gallery::annotated

@@ -1,0 +1,33 @@
+#include "drawing.h"
+
+#include <cstdio>
+
+namespace gallery {
+
+constexpr CLSID kPngEncoder = {
+    0x557CF406, 0x1A04, 0x11D3, {0x9A, 0x73, 0x00, 0x00, 0xF8, 0x1E, 0xF3, 0x2E}};
+
+void Write(Gdiplus::Graphics* graphics, const std::wstring& text, float size, int style,
+           Gdiplus::Color color, int left, int top) {
+    const Gdiplus::FontFamily family(L"Arial");
+    const Gdiplus::Font font(&family, size, style, Gdiplus::UnitPixel);
+    const Gdiplus::SolidBrush brush(color);
+    graphics->DrawString(
+        text.c_str(), static_cast<int>(text.size()), &font,
+        Gdiplus::PointF(static_cast<float>(left), static_cast<float>(top)), &brush);
+}
+
+void Smooth(Gdiplus::Graphics* graphics) {
+    graphics->SetSmoothingMode(Gdiplus::SmoothingModeAntiAlias);
+    graphics->SetTextRenderingHint(Gdiplus::TextRenderingHintAntiAlias);
+}
+
+bool SavePng(Gdiplus::Bitmap& bitmap, const std::wstring& file) {
+    if (bitmap.Save(file.c_str(), &kPngEncoder, nullptr) != Gdiplus::Ok) {
+        std::fprintf(stderr, "gallery: %ls: cannot be written\n", file.c_str());
+        return false;
+    }
+    return true;
+}
+
+}  // namespace gallery

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <gdiplus.h>
+
+#include <string>
+
+namespace gallery {
+
+inline const Gdiplus::Color kInk{0xFF1B2733};
+inline const Gdiplus::Color kCaptionInk{0xFF55606B};
+
+/// Writes a text in Arial with its top left corner on a point.
+void Write(Gdiplus::Graphics* graphics, const std::wstring& text, float size, int style,
+           Gdiplus::Color color, int left, int top);
+
+/// Smooth shapes and smooth text.
+void Smooth(Gdiplus::Graphics* graphics);
+
+/// False with a message on standard error when the file cannot be written.
+bool SavePng(Gdiplus::Bitmap& bitmap, const std::wstring& file);
+
+}  // namespace gallery

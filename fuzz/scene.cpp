@@ -1,0 +1,371 @@
+#include "scene.h"
+
+#include <cstdlib>
+#include <cstring>
+#include <memory>
+#include <type_traits>
+
+namespace fuzz {
+namespace {
+
+/// Calls with a null pointer of the type of element that a number stands for.
+template <typename Visit>
+void VisitElementType(int number, Visit visit) {
+    switch (number) {
+        case 0:
+            return visit(static_cast<CMapTitle*>(nullptr));
+        case 1:
+            return visit(static_cast<CDrawPicture*>(nullptr));
+        case 2:
+            return visit(static_cast<CNorthArrowOneAngle*>(nullptr));
+        case 3:
+            return visit(static_cast<CNorthArrowTwoAngle*>(nullptr));
+        case 4:
+            return visit(static_cast<CNorthArrowFourAngle*>(nullptr));
+        case 5:
+            return visit(static_cast<CNorthArrowEightAngle*>(nullptr));
+        case 6:
+            return visit(static_cast<CScaleLine*>(nullptr));
+        case 7:
+            return visit(static_cast<CSteppedScaleLine*>(nullptr));
+        case 8:
+            return visit(static_cast<CScaleLine2*>(nullptr));
+        case 9:
+            return visit(static_cast<CScaleLine3*>(nullptr));
+        case 10:
+            return visit(static_cast<CScaleAlternate*>(nullptr));
+        case 11:
+            return visit(static_cast<CScaleEquAltenate*>(nullptr));
+        default:
+            return visit(static_cast<CMapLegend*>(nullptr));
+    }
+}
+
+constexpr int kElementTypes = 13;
+
+void GiveUp(CMapSurround&) {}
+void GiveUp(CDrawPicture& copy) { copy = CDrawPicture(); }
+void GiveUp(CFrameBase&) {}
+void GiveUp(CSurroundFrame& copy) { copy.SetMapSurround(nullptr); }
+
+/// Copies point to the same image or element: this one gives it up before both are
+/// destroyed.
+template <typename Thing>
+struct SharingCopy {
+    explicit SharingCopy(const Thing& thing) : copy(thing) {}
+    SharingCopy(const SharingCopy&) = delete;
+    SharingCopy& operator=(const SharingCopy&) = delete;
+    ~SharingCopy() { GiveUp(copy); }
+
+    Thing copy;
+};
+
+void Check(bool held) {
+    if (!held) {
+        std::abort();
+    }
+}
+
+/// As a host might that keeps its flags in bytes.
+void SetByte(bool& flag, int value) {
+    const auto byte = static_cast<unsigned char>(value);
+    std::memcpy(&flag, &byte, 1);
+}
+
+}  // namespace
+
+void Scene::Play() {
+    const int kind = m_input.Choice(16);
+    if (kind == 14) {
+        CFrameBase frame;
+        PlayFrame(frame);
+    } else if (kind == 15) {
+        CSurroundFrame frame;
+        VisitElementType(m_input.Choice(kElementTypes), [&](auto* type) {
+            auto element = std::make_unique<std::remove_pointer_t<decltype(type)>>();
+            SetBaseProperty(*element);
+            SetProperty(*element);
+            element->ResetAspectRatio();
+            frame.SetMapSurround(element.release());
+        });
+        PlayFrame(frame);
+    } else {
+        VisitElementType(kind, [&](auto* type) {
+            PlayElement<std::remove_pointer_t<decltype(type)>>();
+        });
+    }
+}
+
+template <typename Element>
+void Scene::PlayElement() {
+    Element element;
+    while (!m_input.IsEmpty()) {
+        switch (m_input.Choice(8)) {
+            case 0:
+                element.ResetAspectRatio();
+                break;
+            case 1:
+                Draw(element);
+                break;
+            case 2:
+                Copy(element);
+                break;
+            case 3:
+            case 4:
+                SetBaseProperty(element);
+                break;
+            default:
+                SetProperty(element);
+                break;
+        }
+    }
+    element.ResetAspectRatio();
+    element.Draw(m_means.graphics, CPoint(70, 50), 1.25);
+}
+
+template <typename Frame>
+void Scene::PlayFrame(Frame& frame) {
+    while (!m_input.IsEmpty()) {
+        switch (m_input.Choice(8)) {
+            case 0:
+                Ask(frame);
+                break;
+            case 1:
+                DrawAny(frame);
+                break;
+            case 2:
+                Copy(frame);
+                break;
+            default:
+                SetField(frame);
+                break;
+        }
+    }
+    frame.DrawFrame(m_means.graphics, CRect(10, 20, 110, 70));
+}
+
+template <typename Thing>
+void Scene::Copy(Thing& thing) {
+    SharingCopy<Thing> sharing(thing);
+    DrawAny(sharing.copy);
+    thing = sharing.copy;
+}
+
+void Scene::Draw(CMapSurround& element) {
+    const int size = element.GetSize();
+    const CPoint centre = Point();
+    element.Draw(m_means.graphics, centre, m_input.Real<double>());
+    Check(element.GetSize() == size);
+}
+
+void Scene::DrawAny(CFrameBase& frame) {
+    const CPoint corner = Point();
+    const CPoint opposite = Point();
+    frame.DrawFrame(m_means.graphics, CRect(corner.x, corner.y, opposite.x, opposite.y));
+}
+
+void Scene::DrawAny(CSurroundFrame& frame) {
+    DrawAny(static_cast<CFrameBase&>(frame));
+    const CPoint centre = Point();
+    frame.Draw(m_means.graphics, centre, m_input.Real<double>());
+}
+
+void Scene::SetBaseProperty(CMapSurround& element) {
+    switch (m_input.Choice(5)) {
+        case 0:
+            return element.SetFrontColor(Color());
+        case 1:
+            return element.SetSize(m_input.Whole());
+        case 2:
+            return element.SetAspectRatio(m_input.Real<float>());
+        case 3:
+            return element.SetAngle(m_input.Real<float>());
+        default:
+            return element.SetItemType(static_cast<MapSurroundType>(m_input.Whole()));
+    }
+}
+
+void Scene::SetProperty(CMapTitle& title) {
+    switch (m_input.Choice(4)) {
+        case 0:
+            return title.SetFontValue(m_input.Text());
+        case 1:
+            return title.SetFontStyle(Family());
+        case 2:
+            return title.SetFontProcess(static_cast<FontProcess>(m_input.Whole()));
+        default:
+            return title.SetFontSize(m_input.Real<double>());
+    }
+}
+
+void Scene::SetProperty(CDrawPicture& picture) {
+    const auto& names = m_means.pictures;
+    const auto chosen =
+        static_cast<std::size_t>(m_input.Choice(static_cast<int>(names.size()) + 1));
+    Check(picture.Open(chosen < names.size() ? names[chosen].c_str() : nullptr));
+}
+
+void Scene::SetProperty(CNorthArrowBase& arrow) {
+    arrow.SetNorthArrowType(static_cast<NorthArrowType>(m_input.Whole()));
+}
+
+void Scene::SetProperty(CNorthArrowFourAngle& arrow) {
+    Gdiplus::Point points[4];
+    for (Gdiplus::Point& point : points) {
+        point = Gdiplus::Point(m_input.Whole(), m_input.Whole());
+    }
+    arrow.FillSolidPath(m_means.graphics, points);
+    arrow.DrawPath(m_means.graphics, points);
+}
+
+void Scene::SetProperty(CScaleBarBase& bar) {
+    switch (m_input.Choice(9)) {
+        case 0:
+            return bar.SetPaper2DataScale(m_input.Real<double>());
+        case 1:
+            return bar.SetPaper2ScreenScale(m_input.Real<double>());
+        case 2:
+            return bar.SetScreen2PaperByOneScale(m_input.Real<double>());
+        case 3:
+            return bar.SetMainDivCount(Divisions());
+        case 4:
+            return bar.SetSubDivCount(Divisions());
+        case 5:
+            return bar.SetUnitPos(static_cast<ScaleBarPostion>(m_input.Whole()));
+        case 6:
+            return bar.SetScaleBarType(static_cast<ScaleBarType>(m_input.Whole()));
+        case 7:
+            return bar.SetDestUnitType(static_cast<CommonMeasureUnits>(m_input.Whole()));
+        default:
+            return bar.SetUnitsName(m_input.Flag() ? L"Metre" : m_input.Text());
+    }
+}
+
+void Scene::SetProperty(CMapLegend& legend) {
+    switch (m_input.Choice(12)) {
+        case 0:
+            return legend.SetTitleValue(m_input.Text());
+        case 1:
+            return legend.SetTitle(Family());
+        case 2:
+            return legend.SetTitleSize(m_input.Real<float>());
+        case 3:
+            return legend.SetTitleStyle(
+                static_cast<Gdiplus::FontStyle>(m_input.Choice(16)));
+        case 4:
+            return legend.SetTitleColor(Color());
+        case 5:
+            return legend.SetFileName(Family());
+        case 6:
+            return legend.SetFileNameSize(m_input.Real<float>());
+        case 7:
+            return legend.SetFileNameStyle(
+                static_cast<Gdiplus::FontStyle>(m_input.Choice(16)));
+        case 8:
+            return legend.SetFileColor(Color());
+        case 9:
+            return legend.SetSizeAspect(m_input.Real<float>());
+        default:
+            return SetSources(legend);
+    }
+}
+
+void Scene::SetSources(CMapLegend& legend) {
+    std::vector<CGISDataSource*> sources;
+    for (int i = m_input.Choice(4); i >= 0; --i) {
+        if (m_input.Choice(8) == 0) {
+            sources.push_back(nullptr);
+            continue;
+        }
+        // Among the properties that it may change under the legend's hands is the list
+        // that it stands in itself.
+        sources.push_back(
+            &m_sources.emplace_back(m_input, [this, &legend] { SetProperty(legend); }));
+    }
+    legend.SetDataSouce(sources);
+}
+
+void Scene::SetField(CFrameBase& frame) {
+    switch (m_input.Choice(16)) {
+        case 0:
+            frame.HitHandle = m_input.Whole();
+            break;
+        case 1:
+            frame.DrawBorder = frame.DrawFill = frame.DrawShadow = true;
+            break;
+        case 2:
+            frame.DrawBorder = m_input.Flag();
+            break;
+        case 3:
+            frame.DrawFill = m_input.Flag();
+            break;
+        case 4:
+            frame.DrawShadow = m_input.Flag();
+            break;
+        case 5:
+            SetByte(frame.DashedBorder, m_input.Choice(256));
+            break;
+        case 6:
+            frame.BorderWidth = m_input.Real<float>();
+            break;
+        case 7:
+            frame.BorderColor = Color();
+            break;
+        case 8:
+            frame.FillColor = frame.ShadowColor = Color();
+            break;
+        case 9:
+            frame.BorderGapX = m_input.Whole();
+            break;
+        case 10:
+            frame.BorderGapY = m_input.Whole();
+            break;
+        case 11:
+            frame.FillGapX = m_input.Whole();
+            break;
+        case 12:
+            frame.FillGapY = m_input.Whole();
+            break;
+        case 13:
+            frame.ShadowRatioX = m_input.Real<float>();
+            break;
+        case 14:
+            frame.ShadowRatioY = m_input.Real<float>();
+            break;
+        default:
+            frame.SetExtent(CBoundingBox(m_input.Real<double>(), m_input.Real<double>(),
+                                         m_input.Real<double>(), m_input.Real<double>()));
+            break;
+    }
+}
+
+void Scene::Ask(CFrameBase& frame) {
+    frame.SetOffset(m_input.Real<double>(), m_input.Real<double>());
+    const CPoint2D point(m_input.Real<double>(), m_input.Real<double>());
+    const double tolerance = m_input.Real<double>();
+    const SpatialTopoRelation relation = frame.HitTest(point, tolerance, m_input.Flag());
+    Check(relation == TopoOnHandle ? frame.HitHandle >= 0 && frame.HitHandle < 8
+                                   : frame.HitHandle == -1);
+    Check(frame.GetExtent().IsContain(point) == (relation != TopoDisjoint));
+}
+
+int Scene::Divisions() {
+    const int count = m_input.Whole();
+    return count > m_means.mostDivisions ? m_means.mostDivisions : count;
+}
+
+std::wstring Scene::Family() {
+    const int kind = m_input.Choice(8);
+    return kind == 0 ? m_input.Text() : kind == 1 ? L"" : L"Arial";
+}
+
+CPoint Scene::Point() {
+    const int x = m_input.Whole();
+    return CPoint(x, m_input.Whole());
+}
+
+Gdiplus::Color Scene::Color() {
+    return Gdiplus::Color(static_cast<Gdiplus::ARGB>(m_input.Whole()));
+}
+
+}  // namespace fuzz

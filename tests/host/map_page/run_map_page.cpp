@@ -1,0 +1,72 @@
+#include "map_page/run_map_page.h"
+
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
+namespace host_tests {
+
+std::string ContentsOf(const std::string& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+RunningMapPage::RunningMapPage(const ScratchFolder& folder, const Arguments& arguments,
+                               const std::function<void()>& prepare)
+    : m_out(::testing::TempDir() + "map_page_out." + std::to_string(getpid())),
+      m_err(::testing::TempDir() + "map_page_err." + std::to_string(getpid())),
+      m_process(fork()) {
+    if (m_process != 0) {
+        return;
+    }
+    std::vector<char*> argv;
+    std::string program = MAP_PAGE_PROGRAM;
+    argv.push_back(program.data());
+    Arguments kept = arguments;
+    for (std::string& argument : kept) {
+        argv.push_back(argument.data());
+    }
+    argv.push_back(nullptr);
+    if (chdir(folder.Path().c_str()) == 0 &&
+        std::freopen(m_out.c_str(), "w", stdout) != nullptr &&
+        std::freopen(m_err.c_str(), "w", stderr) != nullptr) {
+        if (prepare) {
+            prepare();
+        }
+        execv(program.c_str(), argv.data());
+    }
+    _exit(127);
+}
+
+pid_t RunningMapPage::DrawingProcess() const {
+    const std::string process = std::to_string(m_process);
+    for (int tries = 0; tries < 1000; ++tries) {
+        std::ifstream children("/proc/" + process + "/task/" + process + "/children");
+        pid_t child = 0;
+        if (children >> child) {
+            return child;
+        }
+        usleep(10'000);
+    }
+    ADD_FAILURE() << "nothing draws";
+    return -1;
+}
+
+Result RunningMapPage::Wait() const {
+    int status = 0;
+    waitpid(m_process, &status, 0);
+    Result result;
+    result.status = WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
+    result.out = ContentsOf(m_out);
+    result.err = ContentsOf(m_err);
+    std::filesystem::remove(m_out);
+    std::filesystem::remove(m_err);
+    return result;
+}
+
+}  // namespace host_tests

@@ -1,0 +1,3 @@
+set(subjects_test_sources
+  stage.cpp
+  subjects.cpp)

@@ -1,0 +1,1 @@
+set(threads_test_sources threads_test.cpp)
