@@ -1,17 +1,15 @@
 #include "map_page/draw_page.h"
 
-#include <sys/stat.h>
-
-#include <cerrno>
-#include <cstddef>
 #include <cstdint>
 #include <memory>
-#include <system_error>
 #include <utility>
+#include <variant>
 #include <vector>
 
 #include "map_page/error.h"
 #include "map_page/progress_line.h"
+#include "page/document/page_text.h"
+#include "page/document/raster_store.h"
 #include "page/fonts.h"
 #include "page/image_file.h"
 #include "page/layout.h"
@@ -25,45 +23,11 @@ namespace {
 constexpr int kLongestSide = 32767;
 constexpr std::int64_t kMostPixels = 250'000'000;
 
-void CheckIsFile(const std::string& path) {
-    struct stat status = {};
-    if (stat(path.c_str(), &status) != 0) {
-        throw Error(path, std::generic_category().message(errno));
-    }
-    if (S_ISDIR(status.st_mode)) {
-        throw Error(path, std::generic_category().message(EISDIR));
-    }
-}
-
-std::vector<std::shared_ptr<host::GdalRaster>> OpenRasters(
-    const std::vector<std::string>& paths) {
-    std::vector<std::shared_ptr<host::GdalRaster>> rasters;
-    for (const std::string& path : paths) {
-        std::string why;
-        std::shared_ptr<host::GdalRaster> raster = host::GdalRaster::Open(path, why);
-        if (raster == nullptr) {
-            throw Error(path, why);
-        }
-        rasters.push_back(std::move(raster));
-    }
-    return rasters;
-}
-
 /// The picture element takes any file; so it is opened once before.
-void CheckPicture(const Options& options) {
-    if (options.picture.empty()) {
-        return;
-    }
-    CheckIsFile(options.picture);
-    Gdiplus::Image image(options.design.picture.path.c_str());
-    if (image.GetLastStatus() != Gdiplus::Ok || image.GetWidth() == 0 ||
-        image.GetHeight() == 0) {
-        throw Error(options.picture, "is no image that can be read");
-    }
-    if (image.GetWidth() > kLongestSide || image.GetHeight() > kLongestSide) {
-        throw Error(options.picture, "has " + std::to_string(image.GetWidth()) + " x " +
-                                         std::to_string(image.GetHeight()) +
-                                         " pixels; at most 32767 a side are drawn");
+void CheckPicture(const std::string& path) {
+    const std::string why = path.empty() ? "" : host::CheckImageFile(path);
+    if (!why.empty()) {
+        throw Error(why);
     }
 }
 
@@ -93,9 +57,15 @@ Gdiplus::Size CheckPixels(const host::Page& page, double dpi) {
     return size;
 }
 
-/// The sources belong to the rasters, which outlive the page.
+/// A page and what its items point to.
+struct OpenedPage {
+    host::RasterStore store;
+    host::Page page{1.0, 1.0};
+};
+
 host::MapOnPage Describe(const std::shared_ptr<host::MapLayers>& map,
-                         const std::vector<std::shared_ptr<host::GdalRaster>>& rasters) {
+                         const std::vector<std::string>& paths,
+                         host::RasterStore& store) {
     host::MapOnPage onPage;
     onPage.picture = map;
     onPage.aspectRatio = map->AspectRatio();
@@ -103,10 +73,51 @@ host::MapOnPage Describe(const std::shared_ptr<host::MapLayers>& map,
         onPage.extent = map->Extent();
         onPage.projection = map->Projection();
     }
-    for (const std::shared_ptr<host::GdalRaster>& raster : rasters) {
-        onPage.sources.push_back(raster.get());
+    for (const std::string& path : paths) {
+        onPage.sources.push_back(store.Raster(path).get());
     }
     return onPage;
+}
+
+void WarnOfLeftOut(const host::MapLayers& map, const Quiet& quiet) {
+    for (const host::LeftOutRaster& raster : map.LeftOut()) {
+        quiet.Warn(raster.raster->Path() + ": left off the map: " + raster.why);
+    }
+}
+
+/// The automatic page around the rasters.
+void LayOut(const Options& options, const Quiet& quiet, OpenedPage& opened) {
+    CheckFont("--title-font", options.titleFamily);
+    CheckFont("--legend-font", options.legendFamily);
+    CheckPicture(options.picture);
+    const std::shared_ptr<host::MapLayers> map =
+        opened.store.Map(options.rasters, std::nullopt);
+    WarnOfLeftOut(*map, quiet);
+    host::LaidOutPage laidOut = host::LayOut(
+        options.design, Describe(map, options.rasters, opened.store));
+    for (const std::string& remark : laidOut.remarks) {
+        quiet.Warn(remark);
+    }
+    host::NameRasters(laidOut.page, options.rasters);
+    opened.page = std::move(laidOut.page);
+}
+
+/// The page of the page file.
+void Load(const Options& options, const Quiet& quiet, OpenedPage& opened) {
+    Naming(options.pageFile, [&] {
+        opened.page = host::LoadPage(options.pageFile);
+        host::CheckFilesAndFonts(opened.page);
+        host::OpenRasters(opened.page, opened.store);
+    });
+    for (const host::PageItem& item : opened.page.Items()) {
+        const auto* const map = std::get_if<host::MapFrame>(&item);
+        const auto* const layers =
+            map == nullptr ? nullptr
+                           : dynamic_cast<const host::MapLayers*>(map->picture.get());
+        if (layers != nullptr) {
+            WarnOfLeftOut(*layers, quiet);
+        }
+    }
 }
 
 void Draw(const host::Page& page, Gdiplus::Bitmap& bitmap, double dpi,
@@ -128,38 +139,51 @@ std::vector<std::uint8_t> DrawAndEncode(const host::Page& page, Gdiplus::Size si
     return host::Encode(image, format, dpi);
 }
 
-}  // namespace
-
-std::string DrawPage(const Options& options, host::OutputFile& output,
-                     const Quiet& quiet) {
+std::string DrawInto(const Options& options, const host::Page& page,
+                     host::OutputFile& output, const Quiet& quiet) {
+    const Gdiplus::Size size = CheckPixels(page, options.dpi);
     const host::ImageFormat format = CheckFormat(options.output);
-    CheckFont("--title-font", options.titleFamily);
-    CheckFont("--legend-font", options.legendFamily);
-    CheckPicture(options);
-    const std::vector<std::shared_ptr<host::GdalRaster>> rasters =
-        OpenRasters(options.rasters);
-    const auto map = std::make_shared<host::MapLayers>(rasters);
-    for (const host::LeftOutRaster& raster : map->LeftOut()) {
-        quiet.Warn(raster.raster->Path() + ": left off the map: " + raster.why);
-    }
-
-    const host::LaidOutPage laidOut =
-        host::LayOut(options.design, Describe(map, rasters));
-    for (const std::string& remark : laidOut.remarks) {
-        quiet.Warn(remark);
-    }
-    const Gdiplus::Size size = CheckPixels(laidOut.page, options.dpi);
-
     std::vector<std::uint8_t> bytes;
     Naming(options.output, [&] {
         ProgressLine line(quiet.Voice());
-        bytes = DrawAndEncode(laidOut.page, size, options.dpi, format, line);
+        bytes = DrawAndEncode(page, size, options.dpi, format, line);
         line.Begin("writing the file");
         output.Write(bytes);
     });
     return options.output + ": " + std::to_string(size.Width) + " x " +
            std::to_string(size.Height) + " pixels, " + std::to_string(bytes.size()) +
            " bytes";
+}
+
+std::string Save(const Options& options, const host::Page& page) {
+    return Naming(options.save, [&] {
+        const std::string text =
+            host::WritePage(page, host::FilePaths(options.save));
+        host::OutputFile file(options.save);
+        file.Write({text.begin(), text.end()});
+        file.Commit();
+        return options.save + ": " + std::to_string(page.Items().size()) +
+               " elements, " + std::to_string(text.size()) + " bytes";
+    });
+}
+
+}  // namespace
+
+std::string DrawPage(const Options& options, host::OutputFile* output,
+                     const Quiet& quiet) {
+    if (output != nullptr) {
+        CheckFormat(options.output);
+    }
+    OpenedPage opened;
+    (options.pageFile.empty() ? LayOut : Load)(options, quiet, opened);
+    std::string summary;
+    if (output != nullptr) {
+        summary = DrawInto(options, opened.page, *output, quiet);
+    }
+    if (!options.save.empty()) {
+        summary += (summary.empty() ? "" : "\n") + Save(options, opened.page);
+    }
+    return summary;
 }
 
 }  // namespace map_page

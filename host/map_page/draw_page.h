@@ -8,10 +8,11 @@
 
 namespace map_page {
 
-/// Draws the page that the options ask for into the file, and returns the line that says
-/// where it will be once the file is committed. Throws Error, and std::bad_alloc when the
-/// memory does not suffice. GDI+ must have been started.
-std::string DrawPage(const Options& options, host::OutputFile& output,
+/// Draws the page that the options ask for into the file, when there is one, saves it as
+/// a page file when they ask for that, and returns the lines that say where both will be
+/// once the file is committed. Throws Error, and std::bad_alloc when the memory does not
+/// suffice. GDI+ must have been started.
+std::string DrawPage(const Options& options, host::OutputFile* output,
                      const Quiet& quiet);
 
 }  // namespace map_page

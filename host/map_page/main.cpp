@@ -47,14 +47,19 @@ int Fail(int status, const std::exception& error) {
 /// Whatever reads rasters and pictures and draws them is in the separate process; here is
 /// only what speaks to people and what gives the output its name.
 std::string DrawSeparately(const map_page::Options& options) {
-    host::OutputFile output(options.output);
+    std::optional<host::OutputFile> output;
+    if (!options.output.empty()) {
+        output.emplace(options.output);
+    }
     std::string summary = map_page::InSeparateProcess([&] {
         const map_page::Quiet quiet;
         CPLSetErrorHandler(CPLQuietErrorHandler);
         const GdiplusSession session;
-        return map_page::DrawPage(options, output, quiet);
+        return map_page::DrawPage(options, output ? &*output : nullptr, quiet);
     });
-    output.Commit();
+    if (output) {
+        output->Commit();
+    }
     return summary;
 }
 
@@ -66,7 +71,7 @@ void Run(int argc, const char* const* argv) {
     }
     host::RemoveUnfinishedOutputOnSignals();
     const std::string summary =
-        map_page::Naming(options->output, [&] { return DrawSeparately(*options); });
+        map_page::Naming(options->output.empty() ? options->save : options->output, [&] { return DrawSeparately(*options); });
     std::printf("%s\n", summary.c_str());
 }
 

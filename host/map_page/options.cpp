@@ -1,9 +1,12 @@
 #include "map_page/options.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <iostream>
+#include <iterator>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "map_page/error.h"
@@ -14,12 +17,16 @@ namespace {
 
 constexpr const char* kDescription =
     "Draws rasters as a map on a page with a title, a legend, a scale bar, a north arrow "
-    "and a picture, into an image file.";
+    "and a picture, into an image file; or draws a page file.";
 
 constexpr const char* kFooter = R"(
 The rasters lie on each other as in a list of layers: the first is on top and sets the
 coordinate system. The map spans all of them. A raster that has another coordinate system
 or no georeference is left off the map, with a warning.
+
+A single name that ends in .json is a page file: drawn as it says, and with no other
+options than --output and --dpi. --save writes one, of the page that would be drawn, to be
+changed by hand; what it says is in docs/page_file.md.
 
 COLOR is on (the default colour), off, #RRGGBB, #RRGGBBAA or one of black white gray
 silver red maroon yellow olive lime green aqua teal blue navy fuchsia purple orange.
@@ -28,12 +35,15 @@ Exit status: 0 when the page was drawn, 1 when it could not be, 2 for a wrong ca
 
 Examples:
   map_page scene.tif -o page.png --title "Olinda" --picture logo.png
-  map_page west.tif east.tif -o page.jpg --size A3 --dpi 300 --shadow off)";
+  map_page west.tif east.tif -o page.jpg --size A3 --dpi 300 --shadow off
+  map_page scene.tif --title "Olinda" --save page.json
+  map_page page.json -o page.png)";
 
 /// The option values as they were given.
 struct Given {
     std::vector<std::string> rasters;
     std::string output;
+    std::string save;
     std::string title;
     std::string titleFont = "Arial";
     std::optional<std::string> titleSize;
@@ -117,11 +127,12 @@ void Declare(CLI::App& app, Given& given) {
     app.footer(kFooter);
 
     app.add_option("RASTER", given.rasters,
-                   "Any raster that GDAL opens; the first on top")
+                   "Any raster that GDAL opens, the first on top; or one page file, .json")
         ->required()
         ->type_name("");
     app.add_option("-o,--output", given.output, "Image to write: .png .jpg .bmp or .tif")
-        ->required()
+        ->type_name("FILE");
+    app.add_option("--save", given.save, "Page file to write, .json; needs no --output")
         ->type_name("FILE");
 
     app.add_option("--title", given.title, "Title above the map")
@@ -192,10 +203,43 @@ void CheckNorthArrow(const Given& given, host::NorthArrowDesign& northArrow) {
     }
 }
 
+bool IsPageFile(const std::string& path) {
+    constexpr std::string_view kEnding = ".json";
+    return path.size() > kEnding.size() &&
+           path.compare(path.size() - kEnding.size(), kEnding.size(), kEnding) == 0;
+}
+
+/// The options that go with a page file, which says the rest itself.
+constexpr std::string_view kWithPageFile[] = {"RASTER", "--output", "--dpi"};
+
+void CheckCall(const CLI::App& app, const Given& given) {
+    if (given.output.empty() && given.save.empty()) {
+        throw UsageError("--output is required, or --save", "see map_page --help");
+    }
+    if (!given.save.empty() && !IsPageFile(given.save)) {
+        throw Error(given.save, "does not end in .json");
+    }
+    if (given.rasters.size() != 1 || !IsPageFile(given.rasters.front())) {
+        return;
+    }
+    for (const CLI::Option* option : app.get_options()) {
+        const std::string name = option->get_name();
+        const bool goes = std::find(std::begin(kWithPageFile), std::end(kWithPageFile),
+                                    name) != std::end(kWithPageFile);
+        if (option->count() > 0 && !goes) {
+            throw UsageError(name, "does not go with a page file, which says it itself");
+        }
+    }
+}
+
 Options Check(const Given& given) {
     Options options;
+    if (given.rasters.size() == 1 && IsPageFile(given.rasters.front())) {
+        options.pageFile = given.rasters.front();
+    }
     options.rasters = given.rasters;
     options.output = given.output;
+    options.save = given.save;
     options.dpi = ReadNumber("--dpi", given.dpi, 10.0, 2400.0);
 
     host::PageDesign& design = options.design;
@@ -241,6 +285,7 @@ std::optional<Options> ReadCommandLine(int argc, const char* const* argv) {
     } catch (const CLI::ParseError& error) {
         throw UsageError(error.what(), "see map_page --help");
     }
+    CheckCall(app, given);
     return Check(given);
 }
 

@@ -11,7 +11,9 @@ namespace map_page {
 /// What the command line asks for, checked as far as it can be without opening a file.
 struct Options {
     std::vector<std::string> rasters;
-    std::string output;
+    std::string pageFile;  ///< drawn instead of rasters; empty for none
+    std::string output;    ///< empty for none
+    std::string save;      ///< the page file to write; empty for none
     double dpi = 150.0;
     host::PageDesign design;
     std::string picture;      ///< as given; design.picture holds it as wide text

@@ -18,7 +18,7 @@ Measures::Measures(const PaperSize& paper)
 std::unique_ptr<CSurroundFrame> PlaceNeatLine(const PaperSize& paper,
                                               const Measures& measures) {
     const Room sheet = {0.0, 0.0, paper.width, paper.height};
-    auto frame = std::make_unique<CSurroundFrame>();
+    auto frame = std::make_unique<PlacedFrame>();
     frame->SetExtent(Inset(sheet, measures.neatLine).Box());
     frame->DrawBorder = true;
     frame->BorderColor = Gdiplus::Color(kLineColor);

@@ -139,6 +139,7 @@ std::unique_ptr<PlacedFrame> PlaceScaleBar(const PageDesign& design, const MapOn
     }
     auto frame = FrameInk(std::move(bar), ink, room, At::Bottom, design.frames, measures);
     frame->SetDivisionLength(division.length);
+    frame->SetDivisionValue(division.value);
     return frame;
 }
 

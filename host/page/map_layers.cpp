@@ -183,11 +183,24 @@ struct Span {
 /// The pixels of a picture that the part from `from` to `to`, fractions of it, covers,
 /// at least one.
 Span PixelsOf(double from, double to, int size) {
+    // Far out of the picture, and small enough that differences stay within 32 bits.
+    static constexpr double kFarthest = 1.0e9;
     const auto edge = [size](double fraction) {
-        return static_cast<int>(std::lround(fraction * static_cast<double>(size)));
+        return static_cast<int>(std::lround(
+            std::clamp(fraction * static_cast<double>(size), -kFarthest, kFarthest)));
     };
     const int first = edge(from);
     return {first, std::max(1, edge(to) - first)};
+}
+
+/// The pixels or lines of a raster, from `origin` on and each of a `step`, that a stretch
+/// of the map touches; none where it passes the raster by.
+Span TouchedBy(double low, double high, double origin, double step, int count) {
+    const auto [first, last] =
+        std::minmax({(low - origin) / step, (high - origin) / step});
+    const double from = std::floor(std::clamp(first, 0.0, 1.0 * count));
+    const double to = std::ceil(std::clamp(last, 0.0, 1.0 * count));
+    return {static_cast<int>(from), static_cast<int>(to - from)};
 }
 
 }  // namespace
@@ -217,7 +230,8 @@ MapLayers::Layer MapLayers::Placed(std::shared_ptr<GdalRaster> raster) {
     return layer;
 }
 
-MapLayers::MapLayers(std::vector<std::shared_ptr<GdalRaster>> rasters) {
+MapLayers::MapLayers(std::vector<std::shared_ptr<GdalRaster>> rasters,
+                     const std::optional<MapExtent>& extent) {
     if (rasters.empty()) {
         throw std::invalid_argument("a map needs a raster");
     }
@@ -243,6 +257,31 @@ MapLayers::MapLayers(std::vector<std::shared_ptr<GdalRaster>> rasters) {
                 MapEdge(all.bottom, own.bottom, own.Height()),
                 MapEdge(all.right, own.right, own.Width()),
                 MapEdge(all.top, own.top, own.Height())};
+    if (extent && m_isPlaced) {
+        CutTo(*extent);
+    }
+}
+
+/// Keeps of each raster the pixels that show, so that no others are read.
+void MapLayers::CutTo(const MapExtent& extent) {
+    m_extent = extent;
+    std::vector<Layer> whole;
+    whole.swap(m_layers);
+    for (Layer& layer : whole) {
+        const GdalRaster& raster = *layer.raster;
+        const std::array<double, 6>& transform = raster.GeoTransform();
+        const Span columns = TouchedBy(extent.left, extent.right, transform[0],
+                                       transform[1], raster.Width());
+        const Span rows = TouchedBy(extent.bottom, extent.top, transform[3],
+                                    transform[5], raster.Height());
+        if (columns.size > 0 && rows.size > 0) {
+            m_layers.push_back(
+                columns.size == raster.Width() && rows.size == raster.Height()
+                    ? std::move(layer)
+                    : Placed(raster.Part({columns.first, rows.first, columns.size,
+                                          rows.size})));
+        }
+    }
 }
 
 PixelImage MapLayers::RenderLayer(const Layer& layer, int width, int height,
@@ -262,8 +301,13 @@ PixelImage MapLayers::RenderLayer(const Layer& layer, int width, int height,
     return image;
 }
 
+bool MapLayers::Fills(const MapExtent& extent) const {
+    return extent.left == m_extent.left && extent.bottom == m_extent.bottom &&
+           extent.right == m_extent.right && extent.top == m_extent.top;
+}
+
 PixelImage MapLayers::Render(int width, int height, const Progress& progress) {
-    if (m_layers.size() == 1) {
+    if (m_layers.size() == 1 && Fills(m_layers.front().extent)) {
         return RenderLayer(m_layers.front(), width, height, progress);
     }
     PixelImage map;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -27,7 +28,10 @@ struct LeftOutRaster {
 class MapLayers : public MapPicture {
 public:
     /// @param rasters at least one, none null
-    explicit MapLayers(std::vector<std::shared_ptr<GdalRaster>> rasters);
+    /// @param extent the part of the map to show; all of it when there is none, and when
+    /// the map is shown as it is stored. What of it no raster covers stays empty.
+    explicit MapLayers(std::vector<std::shared_ptr<GdalRaster>> rasters,
+                       const std::optional<MapExtent>& extent = std::nullopt);
 
     PixelImage Render(int width, int height, const Progress& progress) override;
 
@@ -55,6 +59,8 @@ private:
 
     static Layer AsStored(std::shared_ptr<GdalRaster> raster);
     static Layer Placed(std::shared_ptr<GdalRaster> raster);
+    void CutTo(const MapExtent& extent);
+    bool Fills(const MapExtent& extent) const;
     static PixelImage RenderLayer(const Layer& layer, int width, int height,
                                   const Progress& progress);
 

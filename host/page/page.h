@@ -4,10 +4,13 @@
 
 #include <cstddef>
 #include <memory>
+#include <optional>
+#include <string>
 #include <variant>
 #include <vector>
 
 #include "map_surround/frame.h"
+#include "page/map_extent.h"
 #include "page/map_picture.h"
 #include "page/rendered_maps.h"
 
@@ -16,7 +19,10 @@ namespace host {
 /// The map on the page: a picture that fills its frame.
 struct MapFrame {
     CFrameBase frame;
-    std::shared_ptr<MapPicture> picture;
+    std::shared_ptr<MapPicture> picture;  ///< none while the rasters are not open
+    std::string name = {};                ///< what people call it; UTF-8
+    std::vector<std::string> rasterPaths = {};            ///< the first on top
+    std::optional<MapExtent> extent = std::nullopt;  ///< shown; else all of the rasters
 };
 
 /// What stands on a page: a map, or a frame with one element in it.
@@ -44,6 +50,7 @@ public:
 
     /// In drawing order.
     const std::vector<PageItem>& Items() const { return m_items; }
+    std::vector<PageItem>& Items() { return m_items; }
 
     /// Draws the sheet and every item on it. The surface's world transform is the
     /// identity before each item. Throws what a map's picture throws.

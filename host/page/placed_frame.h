@@ -1,13 +1,24 @@
 #pragma once
 
+#include <string>
+#include <utility>
+#include <vector>
+
 #include "map_surround/frame.h"
 
 namespace host {
 
 /// A frame that holds its element off the middle, and keeps a scale bar true to the map
 /// at any resolution.
+///
+/// Scale bars and legends take some values that they do not give back. They are set
+/// through the frame, once it holds the element, and the frame remembers them.
 class PlacedFrame : public CSurroundFrame {
 public:
+    /// What people call it; drawn nowhere. UTF-8.
+    const std::string& Name() const { return m_name; }
+    void SetName(std::string name) { m_name = std::move(name); }
+
     /// Where the element's centre stands from the middle of the frame: page units, y
     /// growing upwards.
     void SetElementOffset(double dx, double dy);
@@ -15,14 +26,34 @@ public:
 
     /// The length on the page, in page units, of a scale bar's division before it is
     /// rounded to a nice value. Has no meaning for other elements.
-    void SetDivisionLength(double length) { m_divisionLength = length; }
+    void SetDivisionLength(double length);
+    double DivisionLength() const { return m_divisionLength; }
+
+    /// What that length stands for, in the bar's unit.
+    void SetDivisionValue(double value);
+    double DivisionValue() const { return m_divisionValue; }
+
+    /// What a legend's font sizes are multiplied by when it is measured. Has no meaning
+    /// for other elements.
+    void SetLegendSizeFactor(float factor);
+    float LegendSizeFactor() const { return m_legendSizeFactor; }
+
+    /// The rasters that a legend explains, by path. Naming them opens nothing.
+    void SetRasterPaths(std::vector<std::string> paths) {
+        m_rasterPaths = std::move(paths);
+    }
+    const std::vector<std::string>& RasterPaths() const { return m_rasterPaths; }
 
     void Draw(Gdiplus::Graphics* graphics, CPoint centre, double scale) override;
 
 private:
+    std::string m_name;
     double m_offsetX = 0.0;
     double m_offsetY = 0.0;
-    double m_divisionLength = 0.0;
+    double m_divisionLength = 25.0;
+    double m_divisionValue = 1.0;
+    float m_legendSizeFactor = 1.0f;
+    std::vector<std::string> m_rasterPaths;
 };
 
 }  // namespace host

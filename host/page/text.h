@@ -8,4 +8,7 @@ namespace host {
 /// @return false when the bytes are not valid UTF-8; `wide` then stays as it was
 bool Widen(const std::string& utf8, std::wstring& wide);
 
+/// Wide text as UTF-8; what is no character becomes U+FFFD.
+std::string Narrow(const std::wstring& wide);
+
 }  // namespace host

@@ -4,6 +4,7 @@
 #include <cpl_string.h>
 #include <cpl_vsi.h>
 #include <gdal_priv.h>
+#include <gdal_utils.h>
 
 #include <algorithm>
 #include <array>
@@ -278,6 +279,28 @@ const std::array<double, 6>& GdalRaster::GeoTransform() const {
 bool GdalRaster::HasGeoTransform() const { return m_state->hasGeoTransform; }
 
 const std::string& GdalRaster::Projection() const { return m_state->projection; }
+
+std::unique_ptr<GdalRaster> GdalRaster::Part(const Window& window) const {
+    const QuietGdal quiet;
+    CPLStringList arguments;
+    for (const std::string& argument :
+         {std::string("-of"), std::string("VRT"), std::string("-srcwin"),
+          std::to_string(window.x), std::to_string(window.y),
+          std::to_string(window.width), std::to_string(window.height)}) {
+        arguments.AddString(argument.c_str());
+    }
+    const std::unique_ptr<GDALTranslateOptions, decltype(&GDALTranslateOptionsFree)>
+        options(GDALTranslateOptionsNew(arguments.List(), nullptr),
+                GDALTranslateOptionsFree);
+    Dataset part(GDALDataset::FromHandle(
+        GDALTranslate("", GDALDataset::ToHandle(m_state->dataset.get()), options.get(),
+                      nullptr)));
+    if (part == nullptr) {
+        throw std::runtime_error(m_state->path + ": no part of it can be had");
+    }
+    return std::unique_ptr<GdalRaster>(
+        new GdalRaster(std::make_unique<State>(m_state->path, std::move(part))));
+}
 
 PixelImage GdalRaster::Render(int width, int height, const Progress& progress) {
     if (width < 1 || height < 1) {

@@ -61,6 +61,20 @@ public:
     /// The coordinate system as WKT, empty when unknown.
     const std::string& Projection() const;
 
+    /// A rectangle of a raster's pixels.
+    struct Window {
+        int x = 0;  ///< first column
+        int y = 0;  ///< first line
+        int width = 0;
+        int height = 0;
+    };
+
+    /// A part of the raster as a raster of its own, which keeps the file open and has the
+    /// same name, colours and coordinates. Throws std::runtime_error when it cannot be
+    /// made.
+    /// @param window inside the raster, at least one pixel
+    std::unique_ptr<GdalRaster> Part(const Window& window) const;
+
     /// The whole raster at the given size in pixels, read decimated or from overviews in
     /// strips, so that memory does not follow the raster's size: RGB and grey stretched
     /// from 2 % to 98 % of each band's values, classified in its own colours; no-data is

@@ -1,0 +1,49 @@
+#include "page/document/file_paths.h"
+
+#include <filesystem>
+#include <system_error>
+
+namespace host {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Whether a name tells its driver before the first slash, or begins in one of GDAL's
+/// virtual folders.
+bool IsNoPath(const std::string& name) {
+    const std::size_t colon = name.find(':');
+    return name.rfind("/vsi", 0) == 0 ||
+           (colon != std::string::npos && colon < name.find('/'));
+}
+
+bool Exists(const std::string& path) {
+    std::error_code ignored;
+    return fs::exists(path, ignored);
+}
+
+}  // namespace
+
+FilePaths::FilePaths(const std::string& pageFile)
+    : m_keeps(false), m_folder(fs::path(pageFile).parent_path().string()) {}
+
+std::string FilePaths::FromFile(const std::string& path) const {
+    if (m_keeps || path.empty() || IsNoPath(path)) {
+        return path;
+    }
+    return (fs::path(m_folder) / path).lexically_normal().string();
+}
+
+std::string FilePaths::ToFile(const std::string& path) const {
+    if (m_keeps || path.empty() || (IsNoPath(path) && !Exists(path))) {
+        return path;
+    }
+    const fs::path given = fs::path(path);
+    const fs::path folder = fs::absolute(m_folder.empty() ? "." : m_folder);
+    const std::string relative =
+        fs::absolute(given).lexically_normal().lexically_relative(
+            folder.lexically_normal()).string();
+    // A file whose name looks like none.
+    return IsNoPath(relative) ? "./" + relative : relative;
+}
+
+}  // namespace host

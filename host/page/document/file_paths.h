@@ -1,0 +1,27 @@
+#pragma once
+
+#include <string>
+
+namespace host {
+
+/// Paths in a page file are relative to its folder, those in memory to where the program
+/// runs. What GDAL reads but is no path (`NETCDF:grid.nc:depth`, `/vsizip/a.zip/b.tif`)
+/// stays as it is.
+class FilePaths {
+public:
+    /// Leaves every path as it is: for items that stay in memory.
+    FilePaths() = default;
+
+    /// @param pageFile the page file's path; `maps/page.json`: the file's `a.tif` is
+    /// `maps/a.tif` here, and `b.tif` here is `../b.tif` in the file
+    explicit FilePaths(const std::string& pageFile);
+
+    std::string FromFile(const std::string& path) const;
+    std::string ToFile(const std::string& path) const;
+
+private:
+    bool m_keeps = true;
+    std::string m_folder;  // empty for the one where the program runs
+};
+
+}  // namespace host

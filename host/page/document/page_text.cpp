@@ -1,0 +1,210 @@
+#include "page/document/page_text.h"
+
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <fstream>
+#include <iterator>
+#include <stdexcept>
+#include <system_error>
+#include <utility>
+#include <vector>
+
+#include "page/document/item_type.h"
+#include "page/document/json_text.h"
+#include "page/document/page_error.h"
+#include "page/document/page_format.h"
+#include "page/document/value_json.h"
+
+namespace host {
+namespace {
+
+using nlohmann::json;
+using nlohmann::ordered_json;
+
+constexpr int kIndent = 2;
+
+void WriteProperties(ordered_json& object, const std::vector<Property>& properties,
+                     const PageItem& item, const FilePaths& paths,
+                     const std::string& place) {
+    for (const Property& property : properties) {
+        object[property.name] = ValueToJson(property, property.read(item), paths,
+                                            PlaceOf(place, property.name));
+    }
+}
+
+ordered_json ItemToJson(const PageItem& item, const FilePaths& paths,
+                        const std::string& place) {
+    const ItemType* const type = TypeOf(item);
+    if (type == nullptr) {
+        throw PageError(place, "is of a type that no page file knows");
+    }
+    ordered_json object;
+    object[kTypeKey] = type->name;
+    WriteProperties(object, type->properties, item, paths, place);
+    WriteProperties(object[kFrameKey], FrameProperties(), item, paths,
+                    PlaceOf(place, kFrameKey));
+    return object;
+}
+
+const json& ObjectAt(const json& value, const std::string& place) {
+    if (!value.is_object()) {
+        throw PageError(place, "must be an object");
+    }
+    return value;
+}
+
+/// Writes those of the properties into the item that the object has.
+void ReadProperties(const json& object, const std::vector<Property>& properties,
+                    PageItem& item, const FilePaths& paths, const std::string& place) {
+    for (const Property& property : properties) {
+        const auto found = object.find(property.name);
+        if (found != object.end()) {
+            property.write(item, ValueFromJson(property, *found, paths,
+                                               PlaceOf(place, property.name)));
+        }
+    }
+}
+
+/// Throws for a key that is none of the properties nor of the others.
+void CheckKeys(const json& object, const std::vector<Property>& properties,
+               const std::vector<std::string>& others, const std::string& place) {
+    for (const auto& entry : object.items()) {
+        const bool isOther =
+            std::find(others.begin(), others.end(), entry.key()) != others.end();
+        if (!isOther && FindProperty(properties, entry.key()) == nullptr) {
+            throw PageError(PlaceOf(place, entry.key()), "is not known");
+        }
+    }
+}
+
+const json& MemberOf(const json& object, const char* key, const std::string& place) {
+    const auto found = object.find(key);
+    if (found == object.end()) {
+        throw PageError(PlaceOf(place, key), "is missing");
+    }
+    return *found;
+}
+
+const ItemType& TypeIn(const json& object, const std::string& place) {
+    const json& name = MemberOf(object, kTypeKey, place);
+    const ItemType* const type =
+        name.is_string() ? FindItemType(name.get_ref<const std::string&>()) : nullptr;
+    if (type == nullptr) {
+        std::string names;
+        for (const ItemType& known : ItemTypes()) {
+            names += names.empty() ? "" : ", ";
+            names += known.name;
+        }
+        throw PageError(PlaceOf(place, kTypeKey), "must be one of " + names);
+    }
+    return *type;
+}
+
+/// What was measured, but is given, is as it is given.
+void ReadMeasured(const json& object, const ItemType& type, PageItem& item,
+                  const FilePaths& paths, const std::string& place) {
+    std::vector<Property> measured;
+    std::copy_if(type.properties.begin(), type.properties.end(),
+                 std::back_inserter(measured),
+                 [](const Property& property) { return property.isMeasured; });
+    ReadProperties(object, measured, item, paths, place);
+}
+
+PageItem ItemFromJson(const json& value, const FilePaths& paths,
+                      const std::string& place) {
+    const json& object = ObjectAt(value, place);
+    const ItemType& type = TypeIn(object, place);
+    CheckKeys(object, type.properties, {kTypeKey, kFrameKey}, place);
+    PageItem item = type.make();
+    ReadProperties(object, type.properties, item, paths, place);
+    const auto frame = object.find(kFrameKey);
+    if (frame != object.end()) {
+        const std::string framePlace = PlaceOf(place, kFrameKey);
+        CheckKeys(ObjectAt(*frame, framePlace), FrameProperties(), {}, framePlace);
+        ReadProperties(*frame, FrameProperties(), item, paths, framePlace);
+    }
+    MeasureItem(item);
+    ReadMeasured(object, type, item, paths, place);
+    return item;
+}
+
+double SideOf(const json& page, const char* key) {
+    const double side = NumberFromJson(MemberOf(page, key, ""), key);
+    if (!(side >= kSmallestSide && side <= kLargestSide)) {
+        throw PageError(key, "must be from 20 to 5000 mm in units of 1/96 inch");
+    }
+    return side;
+}
+
+void CheckVersion(const json& page) {
+    const json& version = MemberOf(page, kVersionKey, "");
+    if (!version.is_number_integer() || version != kPageVersion) {
+        throw PageError(kVersionKey, "must be " + std::to_string(kPageVersion));
+    }
+}
+
+std::string BytesOf(const std::string& path) {
+    struct stat status = {};
+    if (stat(path.c_str(), &status) != 0) {
+        throw std::runtime_error(std::generic_category().message(errno));
+    }
+    if (!S_ISREG(status.st_mode)) {
+        throw std::runtime_error("is not a file");
+    }
+    if (status.st_size > static_cast<off_t>(kMostJsonBytes)) {
+        throw std::runtime_error("is too large for a page file");
+    }
+    std::ifstream file(path, std::ios::binary);
+    std::string text{std::istreambuf_iterator<char>(file), {}};
+    if (!file) {
+        throw std::runtime_error("cannot be read");
+    }
+    return text;
+}
+
+}  // namespace
+
+std::string WriteItem(const PageItem& item) { return ItemToJson(item, {}, "").dump(); }
+
+PageItem ReadItem(const std::string& text) {
+    return ItemFromJson(ParseJson(text), {}, "");
+}
+
+std::string WritePage(const Page& page, const FilePaths& paths) {
+    ordered_json object;
+    object[kVersionKey] = kPageVersion;
+    object[kWidthKey] = page.Width();
+    object[kHeightKey] = page.Height();
+    ordered_json& elements = object[kElementsKey] = ordered_json::array();
+    for (const PageItem& item : page.Items()) {
+        const std::string place =
+            kElementsKey + ("[" + std::to_string(elements.size())) + "]";
+        elements.push_back(ItemToJson(item, paths, place));
+    }
+    return object.dump(kIndent) + "\n";
+}
+
+Page ReadPage(const std::string& text, const FilePaths& paths) {
+    const json object = ParseJson(text);
+    ObjectAt(object, "");
+    CheckVersion(object);
+    CheckKeys(object, {}, {kVersionKey, kWidthKey, kHeightKey, kElementsKey}, "");
+    Page page(SideOf(object, kWidthKey), SideOf(object, kHeightKey));
+    const json& elements = MemberOf(object, kElementsKey, "");
+    if (!elements.is_array()) {
+        throw PageError(kElementsKey, "must be a list");
+    }
+    for (std::size_t i = 0; i < elements.size(); ++i) {
+        page.Items().push_back(
+            ItemFromJson(elements[i], paths, kElementsKey + ("[" + std::to_string(i)) + "]"));
+    }
+    return page;
+}
+
+Page LoadPage(const std::string& path) {
+    return ReadPage(BytesOf(path), FilePaths(path));
+}
+
+}  // namespace host

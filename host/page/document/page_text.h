@@ -1,0 +1,35 @@
+#pragma once
+
+// Pages and single items as JSON text. docs/page_file.md describes the format.
+
+#include <string>
+
+#include "page/document/file_paths.h"
+#include "page/page.h"
+
+namespace host {
+
+/// An item as JSON text on one line, with every property. Throws PageError for an item of
+/// no type (see TypeOf) and for a value out of its property's range.
+///
+/// ReadItem makes the same item again: an editor keeps these texts for undoing, copying
+/// and the clipboard.
+std::string WriteItem(const PageItem& item);
+
+/// The item that a text describes, measured. What the text leaves out has its default;
+/// a size and proportions left out are the natural ones. Opens a picture's file but no
+/// rasters (see OpenRasters). Throws PageError. GDI+ must have been started.
+PageItem ReadItem(const std::string& text);
+
+/// A page as JSON text, of which reading and writing again makes the same bytes. Throws
+/// PageError as WriteItem does.
+/// @param paths those of the file that the text is for
+std::string WritePage(const Page& page, const FilePaths& paths);
+
+/// The page that a text describes; as ReadItem.
+Page ReadPage(const std::string& text, const FilePaths& paths);
+
+/// Reads a page file. Throws std::runtime_error with the reason, without the file's name.
+Page LoadPage(const std::string& path);
+
+}  // namespace host

@@ -1,0 +1,104 @@
+#include "page/document/property.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <iterator>
+
+#include "page/text.h"
+
+namespace host {
+namespace {
+
+// A line of type that long is over a hundred metres.
+constexpr std::size_t kLongestText = 10'000;
+constexpr std::size_t kMostRasters = 1'000;
+
+std::string Plain(double value) {
+    char buffer[32];
+    const std::to_chars_result end =
+        std::to_chars(std::begin(buffer), std::end(buffer), value);
+    return {std::begin(buffer), end.ptr};
+}
+
+std::string CheckNumber(const NumberRange& range, double value) {
+    // Written so that what is no number is refused, too.
+    return value >= range.lowest && value <= range.highest
+               ? ""
+               : "must be from " + Plain(range.lowest) + " to " + Plain(range.highest);
+}
+
+std::string CheckText(const std::string& text) {
+    std::wstring ignored;
+    if (text.find('\0') != std::string::npos || !Widen(text, ignored)) {
+        return "must be text without zero characters";
+    }
+    return text.size() <= kLongestText
+               ? ""
+               : "must have at most " + std::to_string(kLongestText) + " bytes";
+}
+
+std::string CheckPaths(const std::vector<std::string>& paths) {
+    if (paths.size() > kMostRasters) {
+        return "must have at most " + std::to_string(kMostRasters) + " files";
+    }
+    for (const std::string& path : paths) {
+        const std::string why = path.empty() ? "must name a file" : CheckText(path);
+        if (!why.empty()) {
+            return why;
+        }
+    }
+    return {};
+}
+
+std::string CheckExtent(const std::optional<MapExtent>& extent) {
+    const bool isGood = !extent || (std::isfinite(extent->Width()) &&
+                                    std::isfinite(extent->Height()) &&
+                                    extent->Width() > 0.0 && extent->Height() > 0.0);
+    return isGood ? "" : "must have its left below its right and its bottom below its top";
+}
+
+std::string CheckChoice(const Choices& choices, std::int32_t value) {
+    std::string names;
+    for (const Choice& choice : choices) {
+        if (choice.value == value) {
+            return {};
+        }
+        names += names.empty() ? "" : ", ";
+        names += choice.name;
+    }
+    return "must be one of " + names;
+}
+
+}  // namespace
+
+std::string CheckValue(const Property& property, const PropertyValue& value) {
+    switch (property.kind) {
+        case PropertyKind::Integer:
+            return CheckNumber(property.range, std::get<std::int32_t>(value));
+        case PropertyKind::Ratio:
+            if (!std::isfinite(std::get<double>(value))) {
+                return {};
+            }
+            [[fallthrough]];
+        case PropertyKind::Number:
+        case PropertyKind::Angle:
+            return CheckNumber(property.range, std::get<double>(value));
+        case PropertyKind::Text:
+        case PropertyKind::Font:
+        case PropertyKind::File:
+            return CheckText(std::get<std::string>(value));
+        case PropertyKind::Rasters:
+            return CheckPaths(std::get<std::vector<std::string>>(value));
+        case PropertyKind::MapExtent:
+            return CheckExtent(std::get<std::optional<MapExtent>>(value));
+        case PropertyKind::Choice:
+            return CheckChoice(property.choices, std::get<std::int32_t>(value));
+        case PropertyKind::Switch:
+        case PropertyKind::Colour:
+            break;
+    }
+    return {};
+}
+
+}  // namespace host

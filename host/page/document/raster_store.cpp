@@ -1,0 +1,185 @@
+#include "page/document/raster_store.h"
+
+#include <sys/stat.h>
+
+#include <cerrno>
+#include <system_error>
+
+#include "map_surround/legend.h"
+#include "page/document/item_type.h"
+#include "page/document/json_text.h"
+#include "page/document/page_format.h"
+#include "page/fonts.h"
+#include "page/placed_frame.h"
+#include "page/text.h"
+
+namespace host {
+namespace {
+
+// GDI+ reads no larger images.
+constexpr unsigned kLongestImageSide = 32767;
+
+constexpr const char* kRastersKey = "rasters";
+
+/// Adds the property, and the element of a page, to an error's place.
+template <typename Step>
+void Placing(const std::string& place, Step step) {
+    try {
+        step();
+    } catch (const PageError& error) {
+        throw PageError(place, error.what());
+    }
+}
+
+std::string PlaceOfElement(std::size_t index) {
+    return std::string(kElementsKey) + "[" + std::to_string(index) + "]";
+}
+
+CMapLegend* LegendIn(const PlacedFrame* frame) {
+    return frame == nullptr ? nullptr
+                            : dynamic_cast<CMapLegend*>(frame->GetMapSurround());
+}
+
+/// A legend multiplies its font sizes each time it is measured; here they have been.
+void Measure(CMapLegend& legend, float sizeFactor) {
+    const int size = legend.GetSize();
+    const float aspectRatio = legend.GetAspectRatio();
+    legend.SetSizeAspect(1.0f);
+    legend.ResetAspectRatio();
+    legend.SetSizeAspect(sizeFactor);
+    if (size != 0) {
+        legend.SetSize(size);
+        legend.SetAspectRatio(aspectRatio);
+    }
+}
+
+void OpenLegend(const PlacedFrame& frame, CMapLegend& legend, RasterStore& store) {
+    std::vector<CGISDataSource*> sources;
+    for (const std::string& path : frame.RasterPaths()) {
+        sources.push_back(store.Raster(path).get());
+    }
+    legend.SetDataSouce(std::move(sources));
+    Measure(legend, frame.LegendSizeFactor());
+}
+
+std::string WhyNot(const Property& property, const PageItem& item) {
+    if (property.kind == PropertyKind::File) {
+        return CheckImageFile(std::get<std::string>(property.read(item)));
+    }
+    if (property.kind == PropertyKind::Font) {
+        const auto family = std::get<std::string>(property.read(item));
+        if (!IsFontFamilyKnown(family)) {
+            return "no font family \"" + family + "\" is installed";
+        }
+    }
+    return {};
+}
+
+}  // namespace
+
+std::shared_ptr<GdalRaster> RasterStore::Raster(const std::string& path) {
+    std::shared_ptr<GdalRaster>& raster = m_rasters[path];
+    if (raster == nullptr) {
+        std::string why;
+        raster = GdalRaster::Open(path, why);
+        if (raster == nullptr) {
+            throw PageError(path, why);
+        }
+    }
+    return raster;
+}
+
+std::shared_ptr<MapLayers> RasterStore::Map(const std::vector<std::string>& paths,
+                                            const std::optional<MapExtent>& extent) {
+    MapKey key{paths, {}};
+    if (extent) {
+        key.second = {extent->left, extent->bottom, extent->right, extent->top};
+    }
+    std::shared_ptr<MapLayers>& map = m_maps[key];
+    if (map == nullptr) {
+        std::vector<std::shared_ptr<GdalRaster>> rasters;
+        rasters.reserve(paths.size());
+        for (const std::string& path : paths) {
+            rasters.push_back(Raster(path));
+        }
+        map = std::make_shared<MapLayers>(std::move(rasters), extent);
+    }
+    return map;
+}
+
+void OpenRasters(PageItem& item, RasterStore& store) {
+    Placing(kRastersKey, [&] {
+        if (auto* const map = std::get_if<MapFrame>(&item)) {
+            map->picture = map->rasterPaths.empty()
+                               ? nullptr
+                               : store.Map(map->rasterPaths, map->extent);
+            return;
+        }
+        const auto& frame = std::get<std::unique_ptr<CSurroundFrame>>(item);
+        const auto* const placed = dynamic_cast<const PlacedFrame*>(frame.get());
+        if (CMapLegend* const legend = LegendIn(placed)) {
+            OpenLegend(*placed, *legend, store);
+        }
+    });
+}
+
+void OpenRasters(Page& page, RasterStore& store) {
+    for (std::size_t i = 0; i < page.Items().size(); ++i) {
+        try {
+            OpenRasters(page.Items()[i], store);
+        } catch (const PageError& error) {
+            throw PageError("", PlaceOfElement(i) + "." + error.what());
+        }
+    }
+}
+
+void NameRasters(Page& page, const std::vector<std::string>& paths) {
+    for (PageItem& item : page.Items()) {
+        const ItemType* const type = TypeOf(item);
+        const Property* const rasters =
+            type == nullptr ? nullptr : FindProperty(type->properties, kRastersKey);
+        if (rasters != nullptr) {
+            rasters->write(item, paths);
+        }
+    }
+}
+
+void CheckFilesAndFonts(const Page& page) {
+    for (std::size_t i = 0; i < page.Items().size(); ++i) {
+        const PageItem& item = page.Items()[i];
+        const ItemType* const type = TypeOf(item);
+        for (const Property& property :
+             type == nullptr ? std::vector<Property>() : type->properties) {
+            const std::string why = WhyNot(property, item);
+            if (!why.empty()) {
+                throw PageError(PlaceOf(PlaceOfElement(i), property.name), why);
+            }
+        }
+    }
+}
+
+std::string CheckImageFile(const std::string& path) {
+    struct stat status = {};
+    if (stat(path.c_str(), &status) != 0) {
+        return path + ": " + std::generic_category().message(errno);
+    }
+    if (S_ISDIR(status.st_mode)) {
+        return path + ": " + std::generic_category().message(EISDIR);
+    }
+    std::wstring wide;
+    Widen(path, wide);
+    Gdiplus::Image image(wide.c_str());
+    const unsigned width = image.GetWidth();
+    const unsigned height = image.GetHeight();
+    if (image.GetLastStatus() != Gdiplus::Ok || width == 0 || height == 0) {
+        return path + ": is no image that can be read";
+    }
+    if (width > kLongestImageSide || height > kLongestImageSide) {
+        return path + ": has " + std::to_string(width) + " x " + std::to_string(height) +
+               " pixels; at most " + std::to_string(kLongestImageSide) +
+               " a side are drawn";
+    }
+    return {};
+}
+
+}  // namespace host

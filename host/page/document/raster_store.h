@@ -1,0 +1,57 @@
+#pragma once
+
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "page/document/page_error.h"
+#include "page/map_layers.h"
+#include "page/page.h"
+
+namespace host {
+
+/// The rasters of pages, opened once each, by path, and the maps made of them: items that
+/// name the same rasters share them, also after an item was written and read again. So
+/// undoing a change reads no raster (see RenderedMaps, which knows maps by their object).
+///
+/// Must outlive the pages that were given rasters from it.
+class RasterStore {
+public:
+    /// A raster. Throws PageError that names the path when it cannot be opened.
+    std::shared_ptr<GdalRaster> Raster(const std::string& path);
+
+    /// A map of at least one raster. Throws as Raster does.
+    std::shared_ptr<MapLayers> Map(const std::vector<std::string>& paths,
+                                   const std::optional<MapExtent>& extent);
+
+private:
+    using MapKey = std::pair<std::vector<std::string>, std::vector<double>>;
+
+    std::map<std::string, std::shared_ptr<GdalRaster>> m_rasters;
+    std::map<MapKey, std::shared_ptr<MapLayers>> m_maps;
+};
+
+/// Opens what an item names: gives a map its picture, and a legend its sources, by which
+/// it is measured; a legend whose size is set keeps size and proportions. Items of other
+/// kinds stay as they are. Throws PageError that names the property; the item then stays
+/// as it was.
+void OpenRasters(PageItem& item, RasterStore& store);
+
+/// The same for every item of a page; the error names the element.
+void OpenRasters(Page& page, RasterStore& store);
+
+/// Names the rasters of every map and legend of a page that was laid out from them.
+void NameRasters(Page& page, const std::vector<std::string>& paths);
+
+/// Throws PageError that names the first property whose file or font cannot be used: a
+/// picture that is missing, no image or over 32767 pixels a side, a font family that is
+/// not installed.
+void CheckFilesAndFonts(const Page& page);
+
+/// What is wrong with an image file for a picture; empty when nothing is.
+std::string CheckImageFile(const std::string& path);
+
+}  // namespace host

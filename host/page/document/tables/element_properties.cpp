@@ -1,0 +1,118 @@
+#include "map_surround/map_surround.h"
+#include "page/document/tables/subject.h"
+#include "page/document/tables/tables.h"
+
+namespace host::tables {
+namespace {
+
+constexpr Choice kItemTypes[] = {
+    {"none", SurroundNone},    {"north-arrow", SurroundNorthArrow},
+    {"scale-bar", SurroundScaleBar}, {"title", SurroundMapTitle},
+    {"legend", SurroundLegend}, {"picture", SurroundPicture},
+};
+
+constexpr Choice kNorthArrowTypes[] = {
+    {"one", NorthArrowOne},
+    {"two", NorthArrowTwo},
+    {"four", NorthArrowFour},
+    {"eight", NorthArrowEight},
+};
+
+template <double CPoint2D::* Side>
+Property OfOffset(const char* name, const char* about) {
+    Property property{};
+    property.name = name;
+    property.about = about;
+    property.kind = PropertyKind::Number;
+    property.range = kPositions;
+    property.read = [](const PageItem& item) {
+        return PropertyValue(SubjectOf<PlacedFrame>(item).ElementOffset().*Side);
+    };
+    property.write = [](PageItem& item, const PropertyValue& value) {
+        auto& frame = SubjectOf<PlacedFrame>(item);
+        CPoint2D offset = frame.ElementOffset();
+        offset.*Side = std::get<double>(value);
+        frame.SetElementOffset(offset.x, offset.y);
+    };
+    return property;
+}
+
+void OpenPicture(PageItem& item, const PropertyValue& value) {
+    std::wstring path;
+    Widen(std::get<std::string>(value), path);
+    SubjectOf<CDrawPicture>(item).Open(path.c_str());
+}
+
+}  // namespace
+
+std::vector<Property> PlacedFrameProperties() {
+    return {
+        Of<&PlacedFrame::Name, &PlacedFrame::SetName>(
+            "name", "What people call it; drawn nowhere", PropertyKind::Text),
+        OfOffset<&CPoint2D::x>(
+            "offsetX", "How far right of the frame's middle the element stands, "
+                       "page units"),
+        OfOffset<&CPoint2D::y>(
+            "offsetY", "How far above the frame's middle the element stands, page units"),
+    };
+}
+
+std::vector<Property> ElementProperties() {
+    return {
+        Measured(Within(Of<&CMapSurround::GetSize, &CMapSurround::SetSize>(
+                            "size", "Height, page units", PropertyKind::Integer),
+                        kSizes)),
+        Measured(
+            Within(Of<&CMapSurround::GetAspectRatio, &CMapSurround::SetAspectRatio>(
+                       "aspectRatio", "Width divided by height; null while unknown",
+                       PropertyKind::Ratio),
+                   kRatios)),
+        Within(Of<&CMapSurround::GetAngle, &CMapSurround::SetAngle>(
+                   "angle", "Degrees clockwise; legends and scale bars do not turn",
+                   PropertyKind::Angle),
+               kTurns),
+        Of<&CMapSurround::GetFrontColor, &CMapSurround::SetFrontColor>(
+            "color", "Main colour; legends have none", PropertyKind::Colour),
+        OneOf(Of<&CMapSurround::GetItemType, &CMapSurround::SetItemType>(
+                  "itemType", "What the element answers when asked for its kind",
+                  PropertyKind::Choice),
+              kItemTypes),
+    };
+}
+
+std::vector<Property> TitleProperties() {
+    return {
+        Of<&CMapTitle::GetFontValue, &CMapTitle::SetFontValue>("text", "The text",
+                                                               PropertyKind::Text),
+        Of<&CMapTitle::GetFontStyle, &CMapTitle::SetFontStyle>("font", "Font family",
+                                                               PropertyKind::Font),
+        Within(Of<&CMapTitle::GetFontSize, &CMapTitle::SetFontSize>(
+                   "fontSize", "Em size, page units", PropertyKind::Number),
+               kLengths),
+        OneOf(Of<&CMapTitle::GetFontProcess, &CMapTitle::SetFontProcess>(
+                  "fontStyle", "Style of the font", PropertyKind::Choice),
+              kFontStyles),
+    };
+}
+
+std::vector<Property> PictureProperties() {
+    Property path{};
+    path.name = "path";
+    path.about = "Image file";
+    path.kind = PropertyKind::File;
+    path.read = [](const PageItem& item) {
+        return PropertyValue(Narrow(SubjectOf<CDrawPicture>(item).GetPath()));
+    };
+    path.write = OpenPicture;
+    return {path};
+}
+
+std::vector<Property> NorthArrowProperties() {
+    return {OneOf(Of<&CNorthArrowBase::GetNorthArrowType,
+                     &CNorthArrowBase::SetNorthArrowType>(
+                      "northArrowType", "What the arrow answers when asked for its style",
+                      PropertyKind::Choice),
+                  kNorthArrowTypes)};
+}
+
+}  // namespace host::tables

@@ -1,0 +1,44 @@
+#include "map_surround/legend.h"
+#include "page/document/tables/subject.h"
+#include "page/document/tables/tables.h"
+
+namespace host::tables {
+
+std::vector<Property> LegendProperties() {
+    return {
+        Of<&PlacedFrame::RasterPaths, &PlacedFrame::SetRasterPaths>(
+            "rasters", "Files that it explains, in order", PropertyKind::Rasters),
+        Of<&CMapLegend::GetTitleValue, &CMapLegend::SetTitleValue>("title", "First line",
+                                                                   PropertyKind::Text),
+        Of<&CMapLegend::GetTitle, &CMapLegend::SetTitle>(
+            "titleFont", "Font family of the first line", PropertyKind::Font),
+        Within(Of<&CMapLegend::GetTitleSize, &CMapLegend::SetTitleSize>(
+                   "titleSize", "Em size of the first line when it is measured",
+                   PropertyKind::Number),
+               kLengths),
+        OneOf(Of<&CMapLegend::GetTitleStyle, &CMapLegend::SetTitleStyle>(
+                  "titleStyle", "Font style of the first line", PropertyKind::Choice),
+              kFontStyles),
+        Of<&CMapLegend::GetTitleColor, &CMapLegend::SetTitleColor>(
+            "titleColor", "Colour of the first line", PropertyKind::Colour),
+        Of<&CMapLegend::GetFileName, &CMapLegend::SetFileName>(
+            "fileNameFont", "Font family of the file names", PropertyKind::Font),
+        Within(Of<&CMapLegend::GetFileNameSize, &CMapLegend::SetFileNameSize>(
+                   "fileNameSize",
+                   "Em size of file names and entries when they are measured",
+                   PropertyKind::Number),
+               kLengths),
+        OneOf(Of<&CMapLegend::GetFileNameStyle, &CMapLegend::SetFileNameStyle>(
+                  "fileNameStyle", "Font style of file names and entries",
+                  PropertyKind::Choice),
+              kFontStyles),
+        Of<&CMapLegend::GetFileColor, &CMapLegend::SetFileColor>(
+            "fileNameColor", "Colour of the file names", PropertyKind::Colour),
+        Within(Of<&PlacedFrame::LegendSizeFactor, &PlacedFrame::SetLegendSizeFactor>(
+                   "sizeFactor", "What both em sizes are multiplied by when it is measured",
+                   PropertyKind::Number),
+               {0.0, 1000.0}),
+    };
+}
+
+}  // namespace host::tables

@@ -1,0 +1,64 @@
+#include "map_surround/scale_bar.h"
+#include "page/document/tables/subject.h"
+#include "page/document/tables/tables.h"
+
+namespace host::tables {
+namespace {
+
+constexpr Choice kUnitPositions[] = {{"after", UnitPosAfter}, {"before", UnitPosBefore}};
+
+constexpr Choice kScaleBarTypes[] = {
+    {"line", ScaleBarLine},
+    {"line2", ScaleBarLine2},
+    {"line3", ScaleBarLine3},
+    {"equal-alternating", ScaleBarEquAlternate},
+    {"alternating", ScaleBarAlternate},
+};
+
+constexpr Choice kUnits[] = {
+    {"unknown", MeasureUnknown},
+    {"meter", MeasureMeter},
+    {"kilometer", MeasureKilometer},
+    {"degree", MeasureDegree},
+};
+
+}  // namespace
+
+std::vector<Property> ScaleBarProperties() {
+    return {
+        Within(Of<&PlacedFrame::DivisionValue, &PlacedFrame::SetDivisionValue>(
+                   "divisionValue",
+                   "What a division stands for, before the bar rounds it down to one "
+                   "digit",
+                   PropertyKind::Number),
+               kDistances),
+        Within(Of<&PlacedFrame::DivisionLength, &PlacedFrame::SetDivisionLength>(
+                   "divisionLength", "Length of that division, page units",
+                   PropertyKind::Number),
+               kLengths),
+        Within(Of<&CScaleBarBase::GetMainDivCount, &CScaleBarBase::SetMainDivCount>(
+                   "divisions", "Main divisions", PropertyKind::Integer),
+               kCounts),
+        Within(Of<&CScaleBarBase::GetSubDivCount, &CScaleBarBase::SetSubDivCount>(
+                   "subdivisions", "Ticks or boxes within a division",
+                   PropertyKind::Integer),
+               kCounts),
+        OneOf(Of<&CScaleBarBase::GetUnitPos, &CScaleBarBase::SetUnitPos>(
+                  "unitPosition", "Where the name of the unit stands",
+                  PropertyKind::Choice),
+              kUnitPositions),
+        Of<&CScaleBarBase::GetUnitsName, &CScaleBarBase::SetUnitsName>(
+            "units", "Name of the unit; the bar translates a few words",
+            PropertyKind::Text),
+        OneOf(Of<&CScaleBarBase::GetDestUnitType, &CScaleBarBase::SetDestUnitType>(
+                  "unitType", "The unit as hosts know it; converts nothing",
+                  PropertyKind::Choice),
+              kUnits),
+        OneOf(Of<&CScaleBarBase::GetScaleBarType, &CScaleBarBase::SetScaleBarType>(
+                  "scaleBarType", "What the bar answers when asked for its style",
+                  PropertyKind::Choice),
+              kScaleBarTypes),
+    };
+}
+
+}  // namespace host::tables

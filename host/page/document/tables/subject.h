@@ -1,0 +1,145 @@
+#pragma once
+
+// Making properties of pairs of accessors and of fields.
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <type_traits>
+#include <utility>
+
+#include "page/document/property.h"
+#include "page/page.h"
+#include "page/placed_frame.h"
+#include "page/text.h"
+
+namespace host::tables {
+
+/// What of an item has the member functions of a class: its frame, or its element.
+template <class Class>
+Class& SubjectOf(PageItem& item) {
+    if constexpr (std::is_same_v<Class, MapFrame>) {
+        return std::get<MapFrame>(item);
+    } else if constexpr (std::is_same_v<Class, CFrameBase>) {
+        auto* const map = std::get_if<MapFrame>(&item);
+        return map != nullptr
+                   ? map->frame
+                   : static_cast<CFrameBase&>(
+                         *std::get<std::unique_ptr<CSurroundFrame>>(item));
+    } else {
+        CSurroundFrame& frame = *std::get<std::unique_ptr<CSurroundFrame>>(item);
+        if constexpr (std::is_same_v<Class, PlacedFrame>) {
+            return static_cast<PlacedFrame&>(frame);
+        } else {
+            return static_cast<Class&>(*frame.GetMapSurround());
+        }
+    }
+}
+
+template <class Class>
+const Class& SubjectOf(const PageItem& item) {
+    return SubjectOf<Class>(const_cast<PageItem&>(item));  // NOLINT: reads only
+}
+
+// A property's value and what the accessors of a class call it.
+
+template <class Type>
+PropertyValue ToValue(Type value) {
+    if constexpr (std::is_same_v<Type, Gdiplus::Color>) {
+        return value.GetValue();
+    } else if constexpr (std::is_same_v<Type, std::wstring>) {
+        return Narrow(value);
+    } else if constexpr (std::is_same_v<Type, float>) {
+        return double{value};
+    } else if constexpr (std::is_enum_v<Type>) {
+        return static_cast<std::int32_t>(value);
+    } else {
+        return PropertyValue(std::move(value));
+    }
+}
+
+template <class Type>
+Type FromValue(const PropertyValue& value) {
+    if constexpr (std::is_same_v<Type, Gdiplus::Color>) {
+        return Gdiplus::Color(std::get<Gdiplus::ARGB>(value));
+    } else if constexpr (std::is_same_v<Type, std::wstring>) {
+        std::wstring wide;
+        Widen(std::get<std::string>(value), wide);
+        return wide;
+    } else if constexpr (std::is_same_v<Type, float>) {
+        return static_cast<float>(std::get<double>(value));
+    } else if constexpr (std::is_enum_v<Type>) {
+        return static_cast<Type>(std::get<std::int32_t>(value));
+    } else {
+        return std::get<Type>(value);
+    }
+}
+
+template <class>
+struct Accessor;
+template <class C, class T>
+struct Accessor<T (C::*)() const> {
+    using Class = C;
+    using Type = std::decay_t<T>;
+};
+template <class C, class T>
+struct Accessor<T C::*> {
+    using Class = C;
+    using Type = T;
+};
+
+/// A property that a class has a getter and a setter for.
+template <auto Get, auto Set>
+Property Of(const char* name, const char* about, PropertyKind kind) {
+    using Class = typename Accessor<decltype(Get)>::Class;
+    using Type = typename Accessor<decltype(Get)>::Type;
+    Property property{};
+    property.name = name;
+    property.about = about;
+    property.kind = kind;
+    property.isFloat = std::is_same_v<Type, float>;
+    property.read = [](const PageItem& item) {
+        return ToValue<Type>((SubjectOf<Class>(item).*Get)());
+    };
+    property.write = [](PageItem& item, const PropertyValue& value) {
+        (SubjectOf<Class>(item).*Set)(FromValue<Type>(value));
+    };
+    return property;
+}
+
+/// A property that is a field.
+template <auto Field>
+Property OfField(const char* name, const char* about, PropertyKind kind) {
+    using Class = typename Accessor<decltype(Field)>::Class;
+    using Type = typename Accessor<decltype(Field)>::Type;
+    Property property{};
+    property.name = name;
+    property.about = about;
+    property.kind = kind;
+    property.isFloat = std::is_same_v<Type, float>;
+    property.read = [](const PageItem& item) {
+        return ToValue<Type>(SubjectOf<Class>(item).*Field);
+    };
+    property.write = [](PageItem& item, const PropertyValue& value) {
+        SubjectOf<Class>(item).*Field = FromValue<Type>(value);
+    };
+    return property;
+}
+
+inline Property Within(Property property, NumberRange range) {
+    property.range = range;
+    return property;
+}
+
+inline Property Measured(Property property) {
+    property.isMeasured = true;
+    return property;
+}
+
+template <std::size_t Count>
+Property OneOf(Property property, const Choice (&choices)[Count]) {
+    property.choices = {choices, Count};
+    return property;
+}
+
+}  // namespace host::tables
