@@ -93,8 +93,8 @@ void LayOut(const Options& options, const Quiet& quiet, OpenedPage& opened) {
     const std::shared_ptr<host::MapLayers> map =
         opened.store.Map(options.rasters, std::nullopt);
     WarnOfLeftOut(*map, quiet);
-    host::LaidOutPage laidOut = host::LayOut(
-        options.design, Describe(map, options.rasters, opened.store));
+    host::LaidOutPage laidOut =
+        host::LayOut(options.design, Describe(map, options.rasters, opened.store));
     for (const std::string& remark : laidOut.remarks) {
         quiet.Warn(remark);
     }
@@ -157,13 +157,12 @@ std::string DrawInto(const Options& options, const host::Page& page,
 
 std::string Save(const Options& options, const host::Page& page) {
     return Naming(options.save, [&] {
-        const std::string text =
-            host::WritePage(page, host::FilePaths(options.save));
+        const std::string text = host::WritePage(page, host::FilePaths(options.save));
         host::OutputFile file(options.save);
         file.Write({text.begin(), text.end()});
         file.Commit();
-        return options.save + ": " + std::to_string(page.Items().size()) +
-               " elements, " + std::to_string(text.size()) + " bytes";
+        return options.save + ": " + std::to_string(page.Items().size()) + " elements, " +
+               std::to_string(text.size()) + " bytes";
     });
 }
 

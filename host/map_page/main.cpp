@@ -71,7 +71,8 @@ void Run(int argc, const char* const* argv) {
     }
     host::RemoveUnfinishedOutputOnSignals();
     const std::string summary =
-        map_page::Naming(options->output.empty() ? options->save : options->output, [&] { return DrawSeparately(*options); });
+        map_page::Naming(options->output.empty() ? options->save : options->output,
+                         [&] { return DrawSeparately(*options); });
     std::printf("%s\n", summary.c_str());
 }
 

@@ -11,6 +11,7 @@
 
 #include "map_page/error.h"
 #include "map_page/values.h"
+#include "page/document/schema.h"
 
 namespace map_page {
 namespace {
@@ -124,10 +125,18 @@ void Declare(CLI::App& app, Given& given) {
     app.set_version_flag("--version", "map_page " MAP_SURROUND_VERSION,
                          "Print the version and exit");
     app.set_help_flag("-h,--help", "Print this help and exit");
+    app.add_flag_callback(
+        "--schema",
+        [] {
+            std::cout << host::PageSchema();
+            throw CLI::Success();
+        },
+        "Print the JSON Schema of page files and exit");
     app.footer(kFooter);
 
-    app.add_option("RASTER", given.rasters,
-                   "Any raster that GDAL opens, the first on top; or one page file, .json")
+    app.add_option(
+           "RASTER", given.rasters,
+           "Any raster that GDAL opens, the first on top; or one page file, .json")
         ->required()
         ->type_name("");
     app.add_option("-o,--output", given.output, "Image to write: .png .jpg .bmp or .tif")
@@ -214,7 +223,7 @@ constexpr std::string_view kWithPageFile[] = {"RASTER", "--output", "--dpi"};
 
 void CheckCall(const CLI::App& app, const Given& given) {
     if (given.output.empty() && given.save.empty()) {
-        throw UsageError("--output is required, or --save", "see map_page --help");
+        throw UsageError("--output or --save is required", "see map_page --help");
     }
     if (!given.save.empty() && !IsPageFile(given.save)) {
         throw Error(given.save, "does not end in .json");

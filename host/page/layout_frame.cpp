@@ -19,6 +19,7 @@ std::unique_ptr<CSurroundFrame> PlaceNeatLine(const PaperSize& paper,
                                               const Measures& measures) {
     const Room sheet = {0.0, 0.0, paper.width, paper.height};
     auto frame = std::make_unique<PlacedFrame>();
+    frame->SetName("neat line");
     frame->SetExtent(Inset(sheet, measures.neatLine).Box());
     frame->DrawBorder = true;
     frame->BorderColor = Gdiplus::Color(kLineColor);

@@ -49,7 +49,9 @@ std::unique_ptr<PlacedFrame> PlaceLegend(const PageDesign& design, const MapOnPa
     if (ink.IsEmpty()) {
         return nullptr;
     }
-    return FrameInk(std::move(legend), ink, room, At::Top, design.frames, measures);
+    auto frame = FrameInk(std::move(legend), ink, room, At::Top, design.frames, measures);
+    frame->SetName("legend");
+    return frame;
 }
 
 }  // namespace host

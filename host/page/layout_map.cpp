@@ -20,6 +20,7 @@ Room FitMap(const Room& room, double aspectRatio) {
 MapFrame PlaceMap(const Room& extent, std::shared_ptr<MapPicture> picture,
                   const Measures& measures) {
     MapFrame map;
+    map.name = "map";
     map.picture = std::move(picture);
     map.frame.SetExtent(extent.Box());
     map.frame.DrawBorder = true;

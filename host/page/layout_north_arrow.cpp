@@ -61,6 +61,7 @@ std::unique_ptr<PlacedFrame> PlaceNorthArrow(const PageDesign& design,
     const Room extent = {room.left, room.bottom, room.left + side, room.bottom + side};
     const InkBox ink = MeasureInk(*arrow);
     auto frame = MakeFrame(std::move(arrow), extent, design.frames, measures);
+    frame->SetName("north arrow");
     frame->SetElementOffset((ink.left - ink.right) / 2.0, (ink.down - ink.up) / 2.0);
     return frame;
 }

@@ -29,7 +29,9 @@ std::unique_ptr<PlacedFrame> PlacePicture(const PageDesign& design,
     const double frameHeight = height + 2.0 * space;
     const Room extent = {panel.right - frameWidth, panel.bottom, panel.right,
                          panel.bottom + frameHeight};
-    return MakeFrame(std::move(picture), extent, design.frames, measures);
+    auto frame = MakeFrame(std::move(picture), extent, design.frames, measures);
+    frame->SetName("picture");
+    return frame;
 }
 
 }  // namespace host

@@ -138,6 +138,7 @@ std::unique_ptr<PlacedFrame> PlaceScaleBar(const PageDesign& design, const MapOn
         return nullptr;
     }
     auto frame = FrameInk(std::move(bar), ink, room, At::Bottom, design.frames, measures);
+    frame->SetName("scale bar");
     frame->SetDivisionLength(division.length);
     frame->SetDivisionValue(division.value);
     return frame;

@@ -64,7 +64,9 @@ std::unique_ptr<CSurroundFrame> PlaceTitle(const PageDesign& design,
                          room.top};
     room.top = extent.bottom - measures.gap;
     title->SetFrontColor(Gdiplus::Color(kInkColor));
-    return MakeFrame(std::move(title), extent, design.frames, measures);
+    auto frame = MakeFrame(std::move(title), extent, design.frames, measures);
+    frame->SetName("title");
+    return frame;
 }
 
 }  // namespace host

@@ -272,14 +272,14 @@ void MapLayers::CutTo(const MapExtent& extent) {
         const std::array<double, 6>& transform = raster.GeoTransform();
         const Span columns = TouchedBy(extent.left, extent.right, transform[0],
                                        transform[1], raster.Width());
-        const Span rows = TouchedBy(extent.bottom, extent.top, transform[3],
-                                    transform[5], raster.Height());
+        const Span rows = TouchedBy(extent.bottom, extent.top, transform[3], transform[5],
+                                    raster.Height());
         if (columns.size > 0 && rows.size > 0) {
-            m_layers.push_back(
-                columns.size == raster.Width() && rows.size == raster.Height()
-                    ? std::move(layer)
-                    : Placed(raster.Part({columns.first, rows.first, columns.size,
-                                          rows.size})));
+            m_layers.push_back(columns.size == raster.Width() &&
+                                       rows.size == raster.Height()
+                                   ? std::move(layer)
+                                   : Placed(raster.Part({columns.first, rows.first,
+                                                         columns.size, rows.size})));
         }
     }
 }

@@ -19,9 +19,9 @@ namespace host {
 /// The map on the page: a picture that fills its frame.
 struct MapFrame {
     CFrameBase frame;
-    std::shared_ptr<MapPicture> picture;  ///< none while the rasters are not open
-    std::string name = {};                ///< what people call it; UTF-8
-    std::vector<std::string> rasterPaths = {};            ///< the first on top
+    std::shared_ptr<MapPicture> picture;        ///< none while the rasters are not open
+    std::string name = {};                      ///< what people call it; UTF-8
+    std::vector<std::string> rasterPaths = {};  ///< the first on top
     std::optional<MapExtent> extent = std::nullopt;  ///< shown; else all of the rasters
 };
 

@@ -23,8 +23,8 @@ void Append(std::string& utf8, std::uint32_t character) {
         {0x7F, 0x00, 0}, {0x7FF, 0xC0, 1}, {0xFFFF, 0xE0, 2}, {kLastCharacter, 0xF0, 3}};
     for (const Length& length : kLengths) {
         if (character <= length.highest) {
-            utf8 += static_cast<char>(length.firstByte |
-                                      (character >> (6 * length.more)));
+            utf8 +=
+                static_cast<char>(length.firstByte | (character >> (6 * length.more)));
             for (int i = length.more - 1; i >= 0; --i) {
                 utf8 += static_cast<char>(0x80 | ((character >> (6 * i)) & 0x3F));
             }
@@ -51,6 +51,7 @@ bool Widen(const std::string& utf8, std::wstring& wide) {
 std::string Narrow(const std::wstring& wide) {
     std::string utf8;
     for (const wchar_t given : wide) {
+        // NOLINTNEXTLINE(bugprone-signed-char-misuse): has 32 bits
         const auto value = static_cast<std::uint32_t>(given);
         const bool isCharacter =
             value <= kLastCharacter && !(value >= 0xD800 && value <= 0xDFFF);

@@ -152,7 +152,7 @@ std::string WhyNotOpened(const std::string& path, const QuietGdal& quiet) {
 struct CloseDataset {
     void operator()(GDALDataset* dataset) const {
         const QuietGdal quiet;
-        GDALClose(dataset);
+        dataset->ReleaseRef();  // a part of it may go on reading from it
     }
 };
 
@@ -292,9 +292,8 @@ std::unique_ptr<GdalRaster> GdalRaster::Part(const Window& window) const {
     const std::unique_ptr<GDALTranslateOptions, decltype(&GDALTranslateOptionsFree)>
         options(GDALTranslateOptionsNew(arguments.List(), nullptr),
                 GDALTranslateOptionsFree);
-    Dataset part(GDALDataset::FromHandle(
-        GDALTranslate("", GDALDataset::ToHandle(m_state->dataset.get()), options.get(),
-                      nullptr)));
+    Dataset part(GDALDataset::FromHandle(GDALTranslate(
+        "", GDALDataset::ToHandle(m_state->dataset.get()), options.get(), nullptr)));
     if (part == nullptr) {
         throw std::runtime_error(m_state->path + ": no part of it can be had");
     }

@@ -39,9 +39,10 @@ std::string FilePaths::ToFile(const std::string& path) const {
     }
     const fs::path given = fs::path(path);
     const fs::path folder = fs::absolute(m_folder.empty() ? "." : m_folder);
-    const std::string relative =
-        fs::absolute(given).lexically_normal().lexically_relative(
-            folder.lexically_normal()).string();
+    const std::string relative = fs::absolute(given)
+                                     .lexically_normal()
+                                     .lexically_relative(folder.lexically_normal())
+                                     .string();
     // A file whose name looks like none.
     return IsNoPath(relative) ? "./" + relative : relative;
 }

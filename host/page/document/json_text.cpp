@@ -17,8 +17,7 @@ constexpr std::size_t kLongestKeyShown = 60;
 
 /// "line 3, column 7" of the byte at a position, counted from 1; columns are bytes.
 std::string LineAndColumn(const std::string& text, std::size_t position) {
-    const std::size_t before =
-        std::min(position == 0 ? 0 : position - 1, text.size());
+    const std::size_t before = std::min(position == 0 ? 0 : position - 1, text.size());
     const auto end = text.begin() + static_cast<std::ptrdiff_t>(before);
     const auto line = std::count(text.begin(), end, '\n') + 1;
     const std::size_t lastBreak =
@@ -51,8 +50,8 @@ public:
             case json::parse_event_t::array_start:
                 Count();
                 if (m_open.size() == kDeepest) {
-                    throw PageError(Place(), "nests more than " +
-                                                 std::to_string(kDeepest) + " deep");
+                    throw PageError(
+                        Place(), "nests more than " + std::to_string(kDeepest) + " deep");
                 }
                 m_open.push_back({event == json::parse_event_t::array_start, 0, {}, {}});
                 break;
@@ -100,8 +99,11 @@ private:
     std::string Place() const {
         std::string place;
         for (const Open& open : m_open) {
-            place = open.isArray ? place + "[" + std::to_string(open.count - 1) + "]"
-                                 : PlaceOf(place, open.key);
+            if (open.isArray) {
+                place.append("[").append(std::to_string(open.count - 1)).append("]");
+            } else {
+                place = PlaceOf(place, open.key);
+            }
         }
         return place;
     }

@@ -191,14 +191,16 @@ Page ReadPage(const std::string& text, const FilePaths& paths) {
     ObjectAt(object, "");
     CheckVersion(object);
     CheckKeys(object, {}, {kVersionKey, kWidthKey, kHeightKey, kElementsKey}, "");
-    Page page(SideOf(object, kWidthKey), SideOf(object, kHeightKey));
+    const double width = SideOf(object, kWidthKey);
+    const double height = SideOf(object, kHeightKey);
+    Page page(width, height);
     const json& elements = MemberOf(object, kElementsKey, "");
     if (!elements.is_array()) {
         throw PageError(kElementsKey, "must be a list");
     }
     for (std::size_t i = 0; i < elements.size(); ++i) {
-        page.Items().push_back(
-            ItemFromJson(elements[i], paths, kElementsKey + ("[" + std::to_string(i)) + "]"));
+        page.Items().push_back(ItemFromJson(
+            elements[i], paths, kElementsKey + ("[" + std::to_string(i)) + "]"));
     }
     return page;
 }

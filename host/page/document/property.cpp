@@ -10,10 +10,6 @@
 namespace host {
 namespace {
 
-// A line of type that long is over a hundred metres.
-constexpr std::size_t kLongestText = 10'000;
-constexpr std::size_t kMostRasters = 1'000;
-
 std::string Plain(double value) {
     char buffer[32];
     const std::to_chars_result end =
@@ -29,13 +25,13 @@ std::string CheckNumber(const NumberRange& range, double value) {
 }
 
 std::string CheckText(const std::string& text) {
-    std::wstring ignored;
-    if (text.find('\0') != std::string::npos || !Widen(text, ignored)) {
+    std::wstring wide;
+    if (text.find('\0') != std::string::npos || !Widen(text, wide)) {
         return "must be text without zero characters";
     }
-    return text.size() <= kLongestText
+    return wide.size() <= kLongestText
                ? ""
-               : "must have at most " + std::to_string(kLongestText) + " bytes";
+               : "must have at most " + std::to_string(kLongestText) + " characters";
 }
 
 std::string CheckPaths(const std::vector<std::string>& paths) {
@@ -43,7 +39,7 @@ std::string CheckPaths(const std::vector<std::string>& paths) {
         return "must have at most " + std::to_string(kMostRasters) + " files";
     }
     for (const std::string& path : paths) {
-        const std::string why = path.empty() ? "must name a file" : CheckText(path);
+        std::string why = path.empty() ? "must name a file" : CheckText(path);
         if (!why.empty()) {
             return why;
         }
@@ -52,10 +48,11 @@ std::string CheckPaths(const std::vector<std::string>& paths) {
 }
 
 std::string CheckExtent(const std::optional<MapExtent>& extent) {
-    const bool isGood = !extent || (std::isfinite(extent->Width()) &&
-                                    std::isfinite(extent->Height()) &&
-                                    extent->Width() > 0.0 && extent->Height() > 0.0);
-    return isGood ? "" : "must have its left below its right and its bottom below its top";
+    const bool isGood =
+        !extent || (std::isfinite(extent->Width()) && std::isfinite(extent->Height()) &&
+                    extent->Width() > 0.0 && extent->Height() > 0.0);
+    return isGood ? ""
+                  : "must have its left below its right and its bottom below its top";
 }
 
 std::string CheckChoice(const Choices& choices, std::int32_t value) {

@@ -29,9 +29,8 @@ enum class PropertyKind {
 };
 
 /// The value of a property; its kind says which of these it is.
-using PropertyValue =
-    std::variant<bool, std::int32_t, double, Gdiplus::ARGB, std::string,
-                 std::vector<std::string>, std::optional<MapExtent>>;
+using PropertyValue = std::variant<bool, std::int32_t, double, Gdiplus::ARGB, std::string,
+                                   std::vector<std::string>, std::optional<MapExtent>>;
 
 /// One value of an enumeration, and what people call it.
 struct Choice {
@@ -55,22 +54,29 @@ struct NumberRange {
 };
 
 /// One thing that can be set of a page item. Reading, writing, checking, describing and
-/// editing items all walk lists of these, so that a property exists everywhere or nowhere.
+/// editing items all walk lists of these, so that a property exists everywhere or
+/// nowhere.
 ///
 /// `read` and `write` are for items of the type that the property belongs to. What `read`
-/// gives, `write` takes back without loss. `write` stores and, for a picture's path, opens
-/// the image; it never measures (see MeasureItem) and never checks (see CheckValue).
+/// gives, `write` takes back without loss. `write` stores and, for a picture's path,
+/// opens the image; it never measures (see MeasureItem) and never checks (see
+/// CheckValue).
 struct Property {
     const char* name;   ///< as in the page file: "borderWidth"
     const char* about;  ///< one line for people, with the unit
     PropertyKind kind;
     PropertyValue (*read)(const PageItem&);
     void (*write)(PageItem&, const PropertyValue&);
-    NumberRange range = {};  ///< of Integer, Number, Ratio and Angle
-    Choices choices = {};    ///< of Choice
-    bool isFloat = false;    ///< held with the precision of a float
+    NumberRange range = {};   ///< of Integer, Number, Ratio and Angle
+    Choices choices = {};     ///< of Choice
+    bool isFloat = false;     ///< held with the precision of a float
     bool isMeasured = false;  ///< measuring the element changes it
 };
+
+/// Characters of a text: a line of type that long is over a hundred metres.
+constexpr std::size_t kLongestText = 10'000;
+/// Files of a list.
+constexpr std::size_t kMostRasters = 1'000;
 
 /// What is wrong with a value for a property, as the end of a sentence that begins with
 /// its name: "must be from 0 to 100". Empty when nothing is.

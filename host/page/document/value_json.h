@@ -14,10 +14,10 @@ nlohmann::ordered_json ValueToJson(const Property& property, const PropertyValue
                                    const FilePaths& paths, const std::string& place);
 
 /// The value that stands in a page file; checked. Throws PageError that names the place.
-PropertyValue ValueFromJson(const Property& property, const nlohmann::json& json,
+PropertyValue ValueFromJson(const Property& property, const nlohmann::json& value,
                             const FilePaths& paths, const std::string& place);
 
 /// A finite number. Throws PageError that names the place.
-double NumberFromJson(const nlohmann::json& json, const std::string& place);
+double NumberFromJson(const nlohmann::json& value, const std::string& place);
 
 }  // namespace host

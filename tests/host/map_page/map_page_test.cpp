@@ -328,7 +328,7 @@ TEST_F(MapPage, SaysWhatIsWrongInOneLine) {
         {1, "--shadow: \"#12345\"" + noColor, with({"--shadow", "#12345"})},
         {1, "--background: \"#GGGGGG\"" + noColor, with({"--background", "#GGGGGG"})},
         {2, "RASTER is required: see map_page --help", {"-o", "page.png"}},
-        {2, "--output is required: see map_page --help", {"scene.tif"}},
+        {2, "--output or --save is required: see map_page --help", {"scene.tif"}},
         {2, "*", with({"--no-such-option"})},
         {2, "*", with({"--dpi"})},
         {2, "*", with({"--portrait=often"})},

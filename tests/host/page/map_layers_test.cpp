@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -41,7 +42,8 @@ unsigned At(const host::PixelImage& image, int x, int y) {
 
 class MapLayers : public ::testing::Test {
 protected:
-    host::MapLayers Layers(const std::vector<MadeRaster>& made) {
+    host::MapLayers Layers(const std::vector<MadeRaster>& made,
+                           const std::optional<host::MapExtent>& extent = std::nullopt) {
         std::vector<std::shared_ptr<host::GdalRaster>> rasters;
         for (const MadeRaster& raster : made) {
             const std::string path =
@@ -51,7 +53,7 @@ protected:
             rasters.emplace_back(host::GdalRaster::Open(path, why));
             EXPECT_NE(rasters.back(), nullptr) << why;
         }
-        return host::MapLayers(std::move(rasters));
+        return host::MapLayers(std::move(rasters), extent);
     }
 
     ScratchFolder folder;
@@ -225,6 +227,77 @@ TEST_F(MapLayers, TellOneProgressForAll) {
         return true;
     });
     EXPECT_GT(last, 0.5);
+}
+
+/// The square from (0, 0) to (80, 80), stored from any of its corners, where it is red.
+MadeRaster Cornered(double xStep, double yStep) {
+    MadeRaster raster =
+        Square(xStep > 0.0 ? 0.0 : 80.0, yStep < 0.0 ? 80.0 : 0.0, kGreen);
+    raster.transform[1] = xStep;
+    raster.transform[5] = yStep;
+    raster.cornerArgb = kRed;
+    return raster;
+}
+
+struct PartRow {
+    MadeRaster raster;
+    host::MapExtent extent;  ///< 4 x 4 pixels, of which 3 x 3 lie on the raster
+    int redX;                ///< where the corner pixel is then
+    int redY;
+};
+
+TEST_F(MapLayers, ShowTheExtentAskedFor) {
+    const PartRow rows[] = {
+        {Cornered(10.0, -10.0), {-10.0, 50.0, 30.0, 90.0}, 1, 1},
+        {Cornered(-10.0, -10.0), {50.0, 50.0, 90.0, 90.0}, 2, 1},
+        {Cornered(10.0, 10.0), {-10.0, -10.0, 30.0, 30.0}, 1, 2},
+    };
+    for (const PartRow& row : rows) {
+        host::MapLayers map = Layers({row.raster}, row.extent);
+        ExpectExtent(map.Extent(), row.extent.left, row.extent.bottom, row.extent.right,
+                     row.extent.top);
+        const host::PixelImage image = map.Render(4, 4, {});
+        EXPECT_EQ(At(image, row.redX, row.redY), kRed);
+        int red = 0, green = 0, nothing = 0;
+        for (int i = 0; i < 16; ++i) {
+            const unsigned argb = At(image, i % 4, i / 4);
+            red += argb == kRed ? 1 : 0;
+            green += argb == kGreen ? 1 : 0;
+            nothing += argb == kNothing ? 1 : 0;
+        }
+        EXPECT_EQ(red, 1);
+        EXPECT_EQ(nothing, 7);
+        EXPECT_EQ(green, 8);
+    }
+}
+
+TEST_F(MapLayers, ShowAnExtentInsideOnePixelAndOneBesideEverything) {
+    host::MapLayers inside =
+        Layers({Cornered(10.0, -10.0)}, host::MapExtent{2.0, 73.0, 4.0, 75.0});
+    const host::PixelImage image = inside.Render(3, 3, {});
+    EXPECT_EQ(At(image, 0, 0), kRed);
+    EXPECT_EQ(At(image, 2, 2), kRed);
+    host::MapLayers beside =
+        Layers({Cornered(10.0, -10.0)}, host::MapExtent{500.0, 500.0, 600.0, 600.0});
+    EXPECT_EQ(At(beside.Render(3, 3, {}), 1, 1), kNothing);
+    host::MapLayers tiny = Layers({Cornered(10.0, -10.0)},
+                                  host::MapExtent{2.0, 73.0, 2.0 + 1e-9, 73.0 + 1e-9});
+    EXPECT_THROW(tiny.Render(30, 30, {}), std::runtime_error) << "picture too large";
+}
+
+TEST_F(MapLayers, ShowAnExtentOfSeveralRasters) {
+    host::MapLayers map = Layers({Square(0.0, 80.0, kRed), Square(80.0, 80.0, kBlue)},
+                                 host::MapExtent{60.0, 0.0, 100.0, 40.0});
+    const host::PixelImage image = map.Render(4, 4, {});
+    EXPECT_EQ(At(image, 1, 2), kRed);
+    EXPECT_EQ(At(image, 2, 2), kBlue);
+}
+
+TEST_F(MapLayers, ShowAllOfARasterAsStored) {
+    MadeRaster raster;
+    raster.argb = raster.cornerArgb = kRed;
+    const host::MapLayers map = Layers({raster}, host::MapExtent{1.0, 1.0, 2.0, 2.0});
+    ExpectExtent(map.Extent(), 0.0, 0.0, 8.0, 8.0);
 }
 
 }  // namespace

@@ -6,9 +6,9 @@ namespace host::tables {
 namespace {
 
 constexpr Choice kItemTypes[] = {
-    {"none", SurroundNone},    {"north-arrow", SurroundNorthArrow},
+    {"none", SurroundNone},          {"north-arrow", SurroundNorthArrow},
     {"scale-bar", SurroundScaleBar}, {"title", SurroundMapTitle},
-    {"legend", SurroundLegend}, {"picture", SurroundPicture},
+    {"legend", SurroundLegend},      {"picture", SurroundPicture},
 };
 
 constexpr Choice kNorthArrowTypes[] = {
@@ -18,7 +18,7 @@ constexpr Choice kNorthArrowTypes[] = {
     {"eight", NorthArrowEight},
 };
 
-template <double CPoint2D::* Side>
+template <double CPoint2D::*Side>
 Property OfOffset(const char* name, const char* about) {
     Property property{};
     property.name = name;
@@ -49,9 +49,9 @@ std::vector<Property> PlacedFrameProperties() {
     return {
         Of<&PlacedFrame::Name, &PlacedFrame::SetName>(
             "name", "What people call it; drawn nowhere", PropertyKind::Text),
-        OfOffset<&CPoint2D::x>(
-            "offsetX", "How far right of the frame's middle the element stands, "
-                       "page units"),
+        OfOffset<&CPoint2D::x>("offsetX",
+                               "How far right of the frame's middle the element stands, "
+                               "page units"),
         OfOffset<&CPoint2D::y>(
             "offsetY", "How far above the frame's middle the element stands, page units"),
     };
@@ -62,11 +62,10 @@ std::vector<Property> ElementProperties() {
         Measured(Within(Of<&CMapSurround::GetSize, &CMapSurround::SetSize>(
                             "size", "Height, page units", PropertyKind::Integer),
                         kSizes)),
-        Measured(
-            Within(Of<&CMapSurround::GetAspectRatio, &CMapSurround::SetAspectRatio>(
-                       "aspectRatio", "Width divided by height; null while unknown",
-                       PropertyKind::Ratio),
-                   kRatios)),
+        Measured(Within(Of<&CMapSurround::GetAspectRatio, &CMapSurround::SetAspectRatio>(
+                            "aspectRatio", "Width divided by height; null while unknown",
+                            PropertyKind::Ratio),
+                        kRatios)),
         Within(Of<&CMapSurround::GetAngle, &CMapSurround::SetAngle>(
                    "angle", "Degrees clockwise; legends and scale bars do not turn",
                    PropertyKind::Angle),
@@ -108,11 +107,11 @@ std::vector<Property> PictureProperties() {
 }
 
 std::vector<Property> NorthArrowProperties() {
-    return {OneOf(Of<&CNorthArrowBase::GetNorthArrowType,
-                     &CNorthArrowBase::SetNorthArrowType>(
-                      "northArrowType", "What the arrow answers when asked for its style",
-                      PropertyKind::Choice),
-                  kNorthArrowTypes)};
+    return {OneOf(
+        Of<&CNorthArrowBase::GetNorthArrowType, &CNorthArrowBase::SetNorthArrowType>(
+            "northArrowType", "What the arrow answers when asked for its style",
+            PropertyKind::Choice),
+        kNorthArrowTypes)};
 }
 
 }  // namespace host::tables

@@ -38,11 +38,11 @@ double FarEdge(double edge, double length) {
 }
 
 void SetBox(CFrameBase& frame, const Box& box) {
-    frame.SetExtent({box.left, FarEdge(box.top, -box.height),
-                     FarEdge(box.left, box.width), box.top});
+    frame.SetExtent(
+        {box.left, FarEdge(box.top, -box.height), FarEdge(box.left, box.width), box.top});
 }
 
-template <double Box::* Side>
+template <double Box::*Side>
 Property OfBox(const char* name, const char* about) {
     Property property{};
     property.name = name;
@@ -52,7 +52,7 @@ Property OfBox(const char* name, const char* about) {
         return PropertyValue(BoxOf(SubjectOf<CFrameBase>(item)).*Side);
     };
     property.write = [](PageItem& item, const PropertyValue& value) {
-        CFrameBase& frame = SubjectOf<CFrameBase>(item);
+        auto& frame = SubjectOf<CFrameBase>(item);
         Box box = BoxOf(frame);
         box.*Side = std::get<double>(value);
         SetBox(frame, box);
@@ -78,9 +78,8 @@ std::vector<Property> FrameProperties() {
         Within(OfBox<&Box::height>("height", "Height, page units"), kSizes),
         OfField<&CFrameBase::DrawBorder>("border", "Whether the border is drawn",
                                          kSwitch),
-        Within(OfField<&CFrameBase::BorderWidth>("borderWidth",
-                                                 "Width of the border, page units",
-                                                 kNumber),
+        Within(OfField<&CFrameBase::BorderWidth>(
+                   "borderWidth", "Width of the border, page units", kNumber),
                {0.0, 10'000.0}),
         OfField<&CFrameBase::BorderColor>("borderColor", "Colour of the border", kColour),
         OfField<&CFrameBase::DashedBorder>("borderDashed", "Whether the border is dashed",
@@ -98,11 +97,11 @@ std::vector<Property> FrameProperties() {
         OfField<&CFrameBase::DrawFill>("fill", "Whether the background is drawn",
                                        kSwitch),
         OfField<&CFrameBase::FillColor>("fillColor", "Colour of the background", kColour),
-        Within(OfField<&CFrameBase::FillGapX>(
-                   "fillGapX",
-                   "How far the background stands out left and right, page units",
-                   kInteger),
-               kPixels),
+        Within(
+            OfField<&CFrameBase::FillGapX>(
+                "fillGapX",
+                "How far the background stands out left and right, page units", kInteger),
+            kPixels),
         Within(OfField<&CFrameBase::FillGapY>(
                    "fillGapY",
                    "How far the background stands out above and below, page units",

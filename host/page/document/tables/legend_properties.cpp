@@ -34,10 +34,11 @@ std::vector<Property> LegendProperties() {
               kFontStyles),
         Of<&CMapLegend::GetFileColor, &CMapLegend::SetFileColor>(
             "fileNameColor", "Colour of the file names", PropertyKind::Colour),
-        Within(Of<&PlacedFrame::LegendSizeFactor, &PlacedFrame::SetLegendSizeFactor>(
-                   "sizeFactor", "What both em sizes are multiplied by when it is measured",
-                   PropertyKind::Number),
-               {0.0, 1000.0}),
+        Within(
+            Of<&PlacedFrame::LegendSizeFactor, &PlacedFrame::SetLegendSizeFactor>(
+                "sizeFactor", "What both em sizes are multiplied by when it is measured",
+                PropertyKind::Number),
+            {0.0, 1000.0}),
     };
 }
 

@@ -22,10 +22,9 @@ Class& SubjectOf(PageItem& item) {
         return std::get<MapFrame>(item);
     } else if constexpr (std::is_same_v<Class, CFrameBase>) {
         auto* const map = std::get_if<MapFrame>(&item);
-        return map != nullptr
-                   ? map->frame
-                   : static_cast<CFrameBase&>(
-                         *std::get<std::unique_ptr<CSurroundFrame>>(item));
+        return map != nullptr ? map->frame
+                              : static_cast<CFrameBase&>(
+                                    *std::get<std::unique_ptr<CSurroundFrame>>(item));
     } else {
         CSurroundFrame& frame = *std::get<std::unique_ptr<CSurroundFrame>>(item);
         if constexpr (std::is_same_v<Class, PlacedFrame>) {

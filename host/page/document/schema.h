@@ -1,0 +1,11 @@
+#pragma once
+
+#include <string>
+
+namespace host {
+
+/// The JSON Schema (draft 7) of page files, which follows from the tables of properties.
+/// Kept in docs/page.schema.json.
+std::string PageSchema();
+
+}  // namespace host

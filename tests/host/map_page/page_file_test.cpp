@@ -1,0 +1,184 @@
+// map_page with page files: saving the automatic page, and drawing what was saved.
+
+#include <gdiplus.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <vector>
+
+#include "map_page/run_map_page.h"
+#include "page/made_raster.h"
+#include "png_encoder.h"
+#include "scratch_folder.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+using host_tests::Arguments;
+using host_tests::ContentsOf;
+using host_tests::Result;
+using host_tests::RunMapPage;
+
+class PageFile : public ::testing::Test {
+protected:
+    PageFile() {
+        fs::create_directory(folder.Path("data"));
+        WriteScene(folder.Path("data/scene.tif"), 120, 120);
+        MadeRaster classes;
+        classes.transform = {500000.0, 450.0, 0.0, 9000000.0, 0.0, -450.0};
+        classes.projection = "EPSG:32725";
+        WriteRaster(folder.Path("data/classes.tif"), classes);
+        Gdiplus::Bitmap logo(64, 48, PixelFormat32bppARGB);
+        {
+            Gdiplus::Graphics graphics(&logo);
+            graphics.Clear(Gdiplus::Color(0, 128, 0));
+        }
+        const std::string path = folder.Path("logo.png");
+        logo.Save(std::wstring(path.begin(), path.end()).c_str(),
+                  &host_tests::kPngEncoder);
+    }
+
+    Result Run(const Arguments& arguments) const { return RunMapPage(folder, arguments); }
+
+    ScratchFolder folder;
+};
+
+TEST_F(PageFile, DrawsThePixelsOfThePageThatWasSaved) {
+    const Arguments designs[] = {
+        {"--title", "A scene", "--picture", "logo.png"},
+        {"--size", "A5", "--portrait", "--scale-bar", "stepped", "--units", "m",
+         "--north-arrow", "two", "--north-angle", "33.3", "--shadow", "off"},
+        {"--scale-bar", "equal-alternating", "--ground", "--unit-position", "before",
+         "--north-arrow", "one", "--no-legend", "--background", "#11223344"},
+        {"--scale-bar", "line3", "--north-arrow", "four", "--legend-title", "", "--title",
+         "Ünïted", "--title-style", "italic", "--border", "none"},
+        {"--scale-bar", "line2", "--north-angle", "true"},
+        {"--scale-bar", "line", "--divisions", "2", "--subdivisions", "5"},
+    };
+    for (const Arguments& design : designs) {
+        for (const char* dpi : {"96", "300"}) {
+            Arguments arguments = {
+                "data/classes.tif", "data/scene.tif",  "-o",    "drawn.png",
+                "--save",           "pages/page.json", "--dpi", dpi};
+            fs::create_directory(folder.Path("pages"));
+            arguments.insert(arguments.end(), design.begin(), design.end());
+            const Result drawn = Run(arguments);
+            ASSERT_EQ(drawn.status, 0) << drawn.err;
+            const Result again =
+                Run({"pages/page.json", "-o", "again.png", "--dpi", dpi});
+            ASSERT_EQ(again.status, 0) << again.err;
+            EXPECT_EQ(again.err, "");
+            EXPECT_TRUE(ContentsOf(folder.Path("drawn.png")) ==
+                        ContentsOf(folder.Path("again.png")))
+                << design.front() << " at " << dpi;
+        }
+    }
+}
+
+TEST_F(PageFile, IsSavedWithoutDrawingAndSaysWhereItIs) {
+    const Result result = Run({"data/scene.tif", "--save", "page.json"});
+    EXPECT_EQ(result.status, 0) << result.err;
+    EXPECT_EQ(result.out, "page.json: 5 elements, " +
+                              std::to_string(fs::file_size(folder.Path("page.json"))) +
+                              " bytes\n");
+    EXPECT_EQ(folder.Names(),
+              (std::vector<std::string>{"data", "logo.png", "page.json"}));
+    EXPECT_NE(ContentsOf(folder.Path("page.json")).find("\"data/scene.tif\""),
+              std::string::npos);
+}
+
+TEST_F(PageFile, MovesWithItsRasters) {
+    fs::create_directories(folder.Path("a/data"));
+    fs::rename(folder.Path("data/scene.tif"), folder.Path("a/data/scene.tif"));
+    ASSERT_EQ(Run({"a/data/scene.tif", "--save", "a/page.json"}).status, 0);
+    fs::rename(folder.Path("a"), folder.Path("b"));
+    const Result result = Run({"b/page.json", "-o", "page.jpg", "--dpi", "50"});
+    EXPECT_EQ(result.status, 0) << result.err;
+}
+
+struct ErrorRow {
+    int status;
+    std::string line;
+    Arguments arguments;
+};
+
+TEST_F(PageFile, SaysWhatIsWrongInOneLineAndOverwritesNothing) {
+    const std::string before = "what was here before";
+    std::ofstream(folder.Path("page.png")) << before;
+    const auto write = [this](const std::string& name, const std::string& elements) {
+        std::ofstream(folder.Path(name))
+            << R"({"version": 1, "width": 400, "height": 300, "elements": [)" << elements
+            << "]}";
+    };
+    write("good.json", "");
+    write("size.json", R"({"type": "frame"}, {"type": "title", "size": "big"})");
+    write("raster.json", R"({"type": "map", "rasters": ["none.tif"]})");
+    write("picture.json", R"({"type": "picture", "path": "none.png"})");
+    write("font.json", R"({"type": "title", "font": "No Such"})");
+    std::ofstream(folder.Path("broken.json")) << "{\n\"version\": }";
+    std::ofstream(folder.Path("empty.json"));
+    fs::create_directory(folder.Path("folder.json"));
+    const std::vector<std::string> names = folder.Names();
+    const ErrorRow rows[] = {
+        {1,
+         "size.json: elements[1].size: must be a whole number",
+         {"size.json", "-o", "page.png"}},
+        {1,
+         "raster.json: elements[0].rasters: none.tif: no such file",
+         {"raster.json", "-o", "page.png"}},
+        {1,
+         "picture.json: elements[0].path: none.png: No such file or directory",
+         {"picture.json", "-o", "page.png"}},
+        {1,
+         "font.json: elements[0].font: no font family \"No Such\" is installed",
+         {"font.json", "-o", "page.png"}},
+        {1,
+         "broken.json: line 2, column 12: is not valid JSON: unexpected '}'; expected "
+         "'[', '{', or a literal",
+         {"broken.json", "-o", "page.png"}},
+        {1,
+         "empty.json: line 1, column 1: is not valid JSON: unexpected end of input; "
+         "expected '[', '{', or a literal",
+         {"empty.json", "-o", "page.png"}},
+        {1, "none.json: No such file or directory", {"none.json", "-o", "page.png"}},
+        {1, "folder.json: is not a file", {"folder.json", "-o", "page.png"}},
+        {1,
+         "page.gif: ends in none of .png .jpg .jpeg .bmp .tif .tiff",
+         {"good.json", "-o", "page.gif"}},
+        {2,
+         "--title: does not go with a page file, which says it itself",
+         {"good.json", "-o", "page.png", "--title", "A"}},
+        {2,
+         "--size: does not go with a page file, which says it itself",
+         {"good.json", "-o", "page.png", "--size", "A4"}},
+        {2,
+         "--save: does not go with a page file, which says it itself",
+         {"good.json", "--save", "other.json"}},
+        {2, "--output or --save is required: see map_page --help", {"good.json"}},
+        {1, "page.txt: does not end in .json", {"data/scene.tif", "--save", "page.txt"}},
+        {1,
+         "none/page.json: No such file or directory",
+         {"data/scene.tif", "--save", "none/page.json"}},
+        {1,
+         "none/page.json: No such file or directory",
+         {"data/scene.tif", "-o", "page.png", "--save", "none/page.json"}},
+    };
+    for (const ErrorRow& row : rows) {
+        const Result result = Run(row.arguments);
+        EXPECT_EQ(result.status, row.status) << row.line;
+        EXPECT_EQ(result.err, "map_page: " + row.line + "\n");
+        EXPECT_EQ(result.out, "");
+        EXPECT_EQ(ContentsOf(folder.Path("page.png")), before) << row.line;
+        EXPECT_EQ(folder.Names(), names) << row.line;
+    }
+}
+
+TEST_F(PageFile, TellsItsSchema) {
+    const Result result = Run({"--schema"});
+    EXPECT_EQ(result.status, 0) << result.err;
+    EXPECT_EQ(result.out, ContentsOf(MAP_SURROUND_PAGE_SCHEMA));
+}
+
+}  // namespace

@@ -1,0 +1,254 @@
+// Texts of pages: what is read, and what is told of those that cannot be.
+
+#include "page/document/page_text.h"
+
+#include <gmock/gmock.h>
+
+#include <fstream>
+#include <memory>
+#include <random>
+
+#include "hostile_files/damage.h"
+#include "map_surround/title.h"
+#include "page/document/document_test.h"
+#include "page/document/item_type.h"
+#include "page/document/page_error.h"
+#include "page/text.h"
+
+namespace {
+
+using host::FilePaths;
+using host::ReadPage;
+using PageText = host_tests::DocumentTest;
+
+std::string PageWith(const std::string& elements) {
+    return R"({"version": 1, "width": 400, "height": 300, "elements": [)" + elements +
+           "]}";
+}
+
+std::string ErrorOf(const std::string& text) {
+    try {
+        ReadPage(text, {});
+    } catch (const host::PageError& error) {
+        return error.what();
+    }
+    return "no error";
+}
+
+struct ErrorRow {
+    std::string text;
+    std::string error;
+};
+
+TEST_F(PageText, WrongPagesAreToldInOneLineThatNamesThePlace) {
+    const std::string deep(100'000, '[');
+    const ErrorRow rows[] = {
+        // No JSON.
+        {"",
+         "line 1, column 1: is not valid JSON: unexpected end of input; "
+         "expected '[', '{', or a literal"},
+        {"{\n  \"version\": 1,\n  \"width\" 5\n}",
+         "line 3, column 11: is not valid JSON: unexpected number literal; "
+         "expected ':'"},
+        {"{\"version\": 1} x", "line 1, column 16: is not valid JSON: invalid literal"},
+        {deep,
+         "[0][0][0][0][0][0][0][0][0][0][0][0][0][0][0][0]: nests more than 16 "
+         "deep"},
+        {"{\"a\":" + deep,
+         "a[0][0][0][0][0][0][0][0][0][0][0][0][0][0][0]: nests more "
+         "than 16 deep"},
+        {"{\"title\": \"\xC3\x28\"}", "line 1, column 13: is not valid UTF-8"},
+        {"{\"a\": 1, \"a\": 2}", "a: is given twice"},
+        {PageWith(R"({"type": "frame"}, {"frame": {"left": 1, "left": 2}})"),
+         "elements[1].frame.left: is given twice"},
+        {PageWith(R"({"type": "title", "size": 1e999})"),
+         "elements[0].size: is a number that no double can hold"},
+        {"[1, 2, 1e999]", "[2]: is a number that no double can hold"},
+        // No page.
+        {"[]", "must be an object"},
+        {"5", "must be an object"},
+        {"{}", "version: is missing"},
+        {R"({"version": 2})", "version: must be 1"},
+        {R"({"version": "1"})", "version: must be 1"},
+        {R"({"version": 1, "colour": 1})", "colour: is not known"},
+        {R"({"version": 1, "a)" + std::string(100, 'b') + R"(": 1})",
+         "a" + std::string(59, 'b') + "...: is not known"},
+        {"{\"version\": 1, \"a\\u0007\\u001b[1m\xC3\xA4\": 1}", "a??[1m??: is not known"},
+        {R"({"version": 1})", "width: is missing"},
+        {R"({"version": 1, "width": "400", "height": 300})", "width: must be a number"},
+        {R"({"version": 1, "width": 1e300, "height": 300})",
+         "width: must be from 20 to 5000 mm in units of 1/96 inch"},
+        {R"({"version": 1, "width": 400, "height": 75})",
+         "height: must be from 20 to 5000 mm in units of 1/96 inch"},
+        {R"({"version": 1, "width": 400, "height": 300})", "elements: is missing"},
+        {R"({"version": 1, "width": 400, "height": 300, "elements": {}})",
+         "elements: must be a list"},
+        // No element.
+        {PageWith("5"), "elements[0]: must be an object"},
+        {PageWith("{}"), "elements[0].type: is missing"},
+        {PageWith(R"({"type": "frame", "text": ""})"), "elements[0].text: is not known"},
+        {PageWith(R"({"type": "frame", "frame": []})"),
+         "elements[0].frame: must be an object"},
+        {PageWith(R"({"type": "frame", "frame": {"name": ""}})"),
+         "elements[0].frame.name: is not known"},
+        // No value.
+        {PageWith(R"({"type": "frame"}, {"type": "frame"},
+                     {"type": "title", "size": "40"})"),
+         "elements[2].size: must be a whole number"},
+        {PageWith(R"({"type": "title", "size": 4.5})"),
+         "elements[0].size: must be a whole number"},
+        {PageWith(R"({"type": "title", "size": -1})"),
+         "elements[0].size: must be from 0 to 1e+06"},
+        {PageWith(R"({"type": "title", "size": 4294967297})"),
+         "elements[0].size: must have at most 32 bits"},
+        {PageWith(R"({"type": "title", "size": 123456789012345678901234567890})"),
+         "elements[0].size: must have at most 32 bits"},
+        {PageWith(R"({"type": "title", "fontSize": "big"})"),
+         "elements[0].fontSize: must be a number"},
+        {PageWith(R"({"type": "title", "fontSize": 1e300})"),
+         "elements[0].fontSize: must be from 0 to 20000"},
+        {PageWith(R"({"type": "title", "fontSize": null})"),
+         "elements[0].fontSize: must be a number"},
+        {PageWith(R"({"type": "title", "angle": 361})"),
+         "elements[0].angle: must be from -360 to 360"},
+        {PageWith(R"({"type": "title", "aspectRatio": -1})"),
+         "elements[0].aspectRatio: must be from 0 to 1e+06"},
+        {PageWith(R"({"type": "title", "text": 5})"), "elements[0].text: must be a text"},
+        {PageWith(R"({"type": "title", "text": "a\u0000b"})"),
+         "elements[0].text: must be text without zero characters"},
+        {PageWith(R"({"type": "title", "text": ")" + std::string(10'001, 'x') + "\"}"),
+         "elements[0].text: must have at most 10000 characters"},
+        {PageWith(R"({"type": "title", "color": "#12345"})"),
+         "elements[0].color: must be #RRGGBB or #AARRGGBB"},
+        {PageWith(R"({"type": "title", "color": "#-12345"})"),
+         "elements[0].color: must be #RRGGBB or #AARRGGBB"},
+        {PageWith(R"({"type": "title", "color": 5})"),
+         "elements[0].color: must be a text"},
+        {PageWith(R"({"type": "scale-bar-line", "unitPosition": "above"})"),
+         "elements[0].unitPosition: must be one of after, before"},
+        {PageWith(R"({"type": "scale-bar-line", "unitPosition": 0})"),
+         "elements[0].unitPosition: must be a text"},
+        {PageWith(R"({"type": "frame", "frame": {"border": 1}})"),
+         "elements[0].frame.border: must be true or false"},
+        {PageWith(R"({"type": "map", "rasters": "a.tif"})"),
+         "elements[0].rasters: must be a list of files"},
+        {PageWith(R"({"type": "map", "rasters": ["a.tif", 5]})"),
+         "elements[0].rasters[1]: must be a text"},
+        {PageWith(R"({"type": "map", "rasters": [""]})"),
+         "elements[0].rasters: must name a file"},
+        {PageWith(R"({"type": "map", "extent": [0, 0, 1, 1]})"),
+         "elements[0].extent: must be null or have left, bottom, right and top"},
+        {PageWith(R"({"type": "map", "extent":
+                      {"left": 0, "bottom": 0, "right": 1, "up": 1}})"),
+         "elements[0].extent.top: is missing"},
+        {PageWith(R"({"type": "map", "extent":
+                      {"left": 0, "bottom": 0, "right": "1", "top": 1}})"),
+         "elements[0].extent.right: must be a number"},
+        {PageWith(R"({"type": "map", "extent":
+                      {"left": 1, "bottom": 0, "right": 0, "top": 1}})"),
+         "elements[0].extent: must have its left below its right and its bottom below "
+         "its top"},
+    };
+    for (const ErrorRow& row : rows) {
+        EXPECT_EQ(ErrorOf(row.text), row.error) << row.text.substr(0, 200);
+    }
+    EXPECT_THAT(ErrorOf(PageWith(R"({"type": "logo"})")),
+                ::testing::StartsWith("elements[0].type: must be one of map, frame, "
+                                      "title, picture"));
+}
+
+TEST_F(PageText, WhatIsLeftOutHasItsDefaultAndIsMeasured) {
+    const host::Page page =
+        ReadPage(PageWith(R"({"type": "title", "text": "Olinda", "font": "Arial"})"), {});
+    ASSERT_EQ(page.Items().size(), 1u);
+    const auto& frame = std::get<std::unique_ptr<CSurroundFrame>>(page.Items().front());
+    CMapTitle expected;
+    expected.SetFontValue(L"Olinda");
+    expected.SetFontStyle(L"Arial");
+    expected.ResetAspectRatio();
+    EXPECT_EQ(frame->GetMapSurround()->GetSize(), expected.GetSize());
+    EXPECT_EQ(frame->GetMapSurround()->GetAspectRatio(), expected.GetAspectRatio());
+    EXPECT_EQ(frame->Reserved4, 5);
+}
+
+TEST_F(PageText, IntegersMayHaveAPointAndNumbersNone) {
+    const host::Page page = ReadPage(
+        PageWith(R"({"type": "title", "size": 40.0, "fontSize": 12, "angle": -90})"), {});
+    const auto& frame = std::get<std::unique_ptr<CSurroundFrame>>(page.Items().front());
+    EXPECT_EQ(frame->GetMapSurround()->GetSize(), 40);
+    EXPECT_EQ(frame->GetMapSurround()->GetAngle(), -90.0f);
+}
+
+TEST_F(PageText, PagesOfEveryTypeTakeTheSameBytesAgain) {
+    host::Page page(793.7007874015749, 1122.5196850393702);
+    for (const host::ItemType& type : host::ItemTypes()) {
+        page.Items().push_back(type.make());
+    }
+    const FilePaths paths(folder.Path("page.json"));
+    const std::string text = WritePage(page, paths);
+    const host::Page again = ReadPage(text, paths);
+    EXPECT_EQ(again.Width(), 793.7007874015749);
+    EXPECT_EQ(again.Height(), 1122.5196850393702);
+    EXPECT_EQ(again.Items().size(), host::ItemTypes().size());
+    EXPECT_EQ(WritePage(again, paths), text);
+}
+
+struct PathRow {
+    std::string inMemory;
+    std::string inFile;
+};
+
+TEST_F(PageText, PathsAreRelativeToTheFile) {
+    const std::string above = folder.Path();
+    const FilePaths paths(above + "/maps/page.json");
+    const PathRow rows[] = {
+        {above + "/maps/a.tif", "a.tif"},
+        {above + "/b.tif", "../b.tif"},
+        {above + "/maps/deep/c d.tif", "deep/c d.tif"},
+        {"/vsizip/a.zip/b.tif", "/vsizip/a.zip/b.tif"},
+        {"NETCDF:grid.nc:depth", "NETCDF:grid.nc:depth"},
+    };
+    for (const PathRow& row : rows) {
+        EXPECT_EQ(paths.ToFile(row.inMemory), row.inFile);
+        EXPECT_EQ(paths.FromFile(row.inFile), row.inMemory);
+    }
+    EXPECT_EQ(paths.FromFile("/data/x.tif"), "/data/x.tif");
+    EXPECT_EQ(FilePaths("page.json").FromFile("a.tif"), "a.tif");
+    EXPECT_EQ(FilePaths("page.json").ToFile("a.tif"), "a.tif");
+    EXPECT_EQ(FilePaths().ToFile(above + "/b.tif"), above + "/b.tif");
+    const std::string odd = above + "/maps/a:b.tif";
+    std::filesystem::create_directory(above + "/maps");
+    std::ofstream(odd) << "x";
+    EXPECT_EQ(paths.ToFile(odd), "./a:b.tif");
+    EXPECT_EQ(paths.FromFile("./a:b.tif"), odd);
+}
+
+TEST_F(PageText, LoadingTellsWhyAFileCannotBeRead) {
+    EXPECT_THROW(host::LoadPage(folder.Path("none.json")), std::runtime_error);
+    EXPECT_THROW(host::LoadPage(folder.Path()), std::runtime_error);
+    std::filesystem::resize_file(folder.Path("scene.tif"), 17u << 20);
+    EXPECT_THROW(host::LoadPage(folder.Path("scene.tif")), std::runtime_error);
+}
+
+TEST_F(PageText, DamagedPagesAreReadOrRefused) {
+    host::Page page(400.0, 300.0);
+    for (const host::ItemType& type : host::ItemTypes()) {
+        page.Items().push_back(type.make());
+    }
+    const std::string text = WritePage(page, {});
+    int refused = 0;
+    for (unsigned seed = 0; seed < 2000; ++seed) {
+        std::mt19937 random(seed);
+        const bool asText = seed % 2 == 0;
+        const std::string error = ErrorOf(asText ? hostile_files::DamageText(text, random)
+                                                 : hostile_files::Damage(text, random));
+        refused += error == "no error" ? 0 : 1;
+        EXPECT_EQ(error.find('\n'), std::string::npos) << error;
+        std::wstring valid;
+        EXPECT_TRUE(host::Widen(error, valid)) << error;
+    }
+    EXPECT_GT(refused, 1000);
+    EXPECT_LT(refused, 2000);
+}
+
+}  // namespace

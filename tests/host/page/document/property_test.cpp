@@ -1,0 +1,229 @@
+// What is said of every property of every type, with changes made through the classes.
+
+#include <gmock/gmock.h>
+
+#include <cmath>
+#include <memory>
+#include <nlohmann/json.hpp>
+#include <random>
+
+#include "map_surround/map_surround.h"
+#include "page/document/changes.h"
+#include "page/document/document_test.h"
+#include "page/document/item_type.h"
+#include "page/document/page_error.h"
+#include "page/document/page_text.h"
+#include "page/document/raster_store.h"
+#include "page/placed_frame.h"
+
+namespace {
+
+using host::ItemType;
+using host::ItemTypes;
+using host::PageItem;
+using host_tests::Change;
+using host_tests::ChangesOf;
+using host_tests::FrameChanges;
+using host_tests::PixelsOf;
+using nlohmann::json;
+
+using PropertyTable = host_tests::DocumentTest;
+
+std::vector<std::string> NamesOf(const std::vector<host::Property>& properties) {
+    std::vector<std::string> names;
+    for (const host::Property& property : properties) {
+        names.emplace_back(property.name);
+    }
+    return names;
+}
+
+std::vector<std::string> NamesOf(const std::vector<Change>& changes) {
+    std::vector<std::string> names;
+    for (const Change& change : changes) {
+        names.push_back(change.property);
+    }
+    return names;
+}
+
+/// An item of a type that can be seen: with the least that its element needs for that.
+PageItem MakeVisible(const ItemType& type, const std::string& folder) {
+    PageItem item = type.make();
+    const std::string name = type.name;
+    auto* const held = std::get_if<std::unique_ptr<CSurroundFrame>>(&item);
+    auto& frame = held == nullptr ? std::get<host::MapFrame>(item).frame
+                                  : static_cast<CFrameBase&>(**held);
+    frame.SetExtent({20.0, 20.0, 280.0, 180.0});
+    CMapSurround* const element = held == nullptr ? nullptr : (*held)->GetMapSurround();
+    if (auto* const title = dynamic_cast<CMapTitle*>(element)) {
+        title->SetFontValue(L"Title");
+        title->SetFontStyle(L"Arial");
+    }
+    if (auto* const picture = dynamic_cast<CDrawPicture*>(element)) {
+        const std::string path = folder + "/logo.png";
+        picture->Open(std::wstring(path.begin(), path.end()).c_str());
+    }
+    if (dynamic_cast<CMapLegend*>(element) != nullptr) {
+        dynamic_cast<host::PlacedFrame&>(**held).SetRasterPaths({folder + "/scene.tif"});
+    } else if (element != nullptr) {
+        element->SetSize(40);
+        element->ResetAspectRatio();
+    }
+    return item;
+}
+
+/// Whether two texts differ in a member ("left" of "frame").
+bool Differs(const std::string& a, const std::string& b, const std::string& object,
+             const std::string& member) {
+    const auto valueIn = [&](const std::string& text) {
+        const json item = json::parse(text);
+        return (object.empty() ? item : item.at(object)).at(member);
+    };
+    return valueIn(a) != valueIn(b);
+}
+
+TEST_F(PropertyTable, HasAChangeForEveryPropertyAndAPropertyForEveryChange) {
+    EXPECT_THAT(NamesOf(FrameChanges()),
+                ::testing::UnorderedElementsAreArray(NamesOf(host::FrameProperties())));
+    ASSERT_EQ(ItemTypes().size(), 15u);
+    for (const ItemType& type : ItemTypes()) {
+        EXPECT_THAT(NamesOf(ChangesOf(type.name, folder.Path())),
+                    ::testing::UnorderedElementsAreArray(NamesOf(type.properties)))
+            << type.name;
+    }
+}
+
+TEST_F(PropertyTable, EveryChangeComesBackAndTakesTheSameBytes) {
+    for (const ItemType& type : ItemTypes()) {
+        const auto check = [&](const Change& change, const std::string& object) {
+            SCOPED_TRACE(std::string(type.name) + " " + object + " " + change.property);
+            PageItem item = type.make();
+            EXPECT_FALSE(change.isMade(item)) << "changes nothing";
+            const std::string before = WriteItem(item);
+            change.make(item);
+            const std::string text = WriteItem(item);
+            EXPECT_TRUE(Differs(before, text, object, change.property)) << text;
+            const PageItem again = host::ReadItem(text);
+            EXPECT_EQ(host::TypeOf(again), &type);
+            EXPECT_TRUE(change.isMade(again)) << text;
+            EXPECT_EQ(WriteItem(again), text);
+        };
+        for (const Change& change : FrameChanges()) {
+            check(change, "frame");
+        }
+        for (const Change& change : ChangesOf(type.name, folder.Path())) {
+            check(change, "");
+        }
+    }
+}
+
+TEST_F(PropertyTable, AllChangesAtOnceComeBack) {
+    for (const ItemType& type : ItemTypes()) {
+        PageItem item = type.make();
+        for (const Change& change : ChangesOf(type.name, folder.Path())) {
+            if (change.property.rfind("offset", 0) != 0) {
+                change.make(item);
+            }
+        }
+        for (const Change& change : FrameChanges()) {
+            if (change.property != "left" && change.property != "top" &&
+                change.property != "width") {
+                change.make(item);
+            }
+        }
+        const PageItem again = host::ReadItem(WriteItem(item));
+        for (const Change& change : ChangesOf(type.name, folder.Path())) {
+            EXPECT_TRUE(change.isMade(again) || change.property.rfind("offset", 0) == 0)
+                << type.name << " " << change.property;
+        }
+        EXPECT_EQ(WriteItem(again), WriteItem(item));
+    }
+}
+
+TEST_F(PropertyTable, WhatIsReadBackIsDrawnTheSame) {
+    host::RasterStore store;
+    for (const ItemType& type : ItemTypes()) {
+        std::vector<Change> changes = FrameChanges();
+        for (Change& change : ChangesOf(type.name, folder.Path())) {
+            if (type.name != std::string("map")) {  // of files that do not exist
+                changes.push_back(std::move(change));
+            }
+        }
+        for (const Change& change : changes) {
+            PageItem item = MakeVisible(type, folder.Path());
+            OpenRasters(item, store);
+            change.make(item);
+            host::MeasureItem(item);
+            PageItem again = host::ReadItem(WriteItem(item));
+            OpenRasters(item, store);
+            OpenRasters(again, store);
+            EXPECT_TRUE(PixelsOf(again) == PixelsOf(item))
+                << type.name << " " << change.property;
+        }
+    }
+}
+
+TEST_F(PropertyTable, EveryNumberAtTheEndsOfItsRangeIsDrawn) {
+    host::RasterStore store;
+    for (const ItemType& type : ItemTypes()) {
+        std::vector<host::Property> properties = type.properties;
+        properties.insert(properties.end(), host::FrameProperties().begin(),
+                          host::FrameProperties().end());
+        for (const host::Property& property : properties) {
+            for (const double end : {property.range.lowest, property.range.highest}) {
+                PageItem item = MakeVisible(type, folder.Path());
+                if (property.kind == host::PropertyKind::Integer) {
+                    property.write(item, static_cast<std::int32_t>(end));
+                } else if (property.range.lowest < property.range.highest) {
+                    property.write(item, end);
+                } else {
+                    continue;
+                }
+                SCOPED_TRACE(std::string(type.name) + " " + property.name);
+                PageItem again = host::ReadItem(WriteItem(item));
+                OpenRasters(again, store);
+                EXPECT_FALSE(PixelsOf(again).empty());
+                EXPECT_EQ(WriteItem(host::ReadItem(WriteItem(again))), WriteItem(again));
+            }
+        }
+    }
+}
+
+TEST_F(PropertyTable, ABoxOfAnyNumbersKeepsEveryDigit) {
+    std::mt19937 random(1);
+    std::uniform_real_distribution<double> anywhere(-2000.0, 2000.0);
+    std::uniform_real_distribution<double> exponent(-9.0, 4.0);
+    for (int i = 0; i < 20'000; ++i) {
+        const double left = anywhere(random);
+        const double bottom = anywhere(random);
+        const CBoundingBox box(left, bottom, left + std::pow(10.0, exponent(random)),
+                               bottom + std::pow(10.0, exponent(random)));
+        PageItem item = host::FindItemType("frame")->make();
+        std::get<std::unique_ptr<CSurroundFrame>>(item)->SetExtent(box);
+        const PageItem again = host::ReadItem(WriteItem(item));
+        const CBoundingBox read =
+            std::get<std::unique_ptr<CSurroundFrame>>(again)->GetExtent();
+        ASSERT_EQ(read.TopLeft().x, box.TopLeft().x);
+        ASSERT_EQ(read.TopLeft().y, box.TopLeft().y);
+        ASSERT_EQ(read.GetWidth(), box.GetWidth()) << left;
+        ASSERT_EQ(read.GetHeight(), box.GetHeight()) << bottom;
+    }
+}
+
+TEST_F(PropertyTable, ATitleOfNothingHasUnknownProportions) {
+    PageItem item = host::FindItemType("title")->make();
+    host::MeasureItem(item);
+    const std::string text = WriteItem(item);
+    EXPECT_THAT(text, ::testing::HasSubstr("\"aspectRatio\":null"));
+    const PageItem again = host::ReadItem(text);
+    const auto& frame = std::get<std::unique_ptr<CSurroundFrame>>(again);
+    EXPECT_TRUE(std::isnan(frame->GetMapSurround()->GetAspectRatio()));
+    EXPECT_EQ(WriteItem(again), text);
+}
+
+TEST_F(PropertyTable, AFrameOfAnotherClassIsNotWritten) {
+    const PageItem item = std::make_unique<CSurroundFrame>();
+    EXPECT_EQ(host::TypeOf(item), nullptr);
+    EXPECT_THROW(WriteItem(item), host::PageError);
+}
+
+}  // namespace

@@ -1,0 +1,135 @@
+#include "page/document/raster_store.h"
+
+#include <gmock/gmock.h>
+
+#include <memory>
+#include <stdexcept>
+
+#include "map_surround/legend.h"
+#include "page/document/document_test.h"
+#include "page/document/item_type.h"
+#include "page/document/page_text.h"
+#include "page/placed_frame.h"
+
+namespace {
+
+using host::MapExtent;
+using host::MapFrame;
+using host::PageItem;
+using OpeningRasters = host_tests::DocumentTest;
+
+PageItem MapOf(const std::vector<std::string>& paths) {
+    PageItem item = host::FindItemType("map")->make();
+    std::get<MapFrame>(item).rasterPaths = paths;
+    return item;
+}
+
+PageItem LegendOf(const std::vector<std::string>& paths) {
+    PageItem item = host::FindItemType("legend")->make();
+    auto& frame = *std::get<std::unique_ptr<CSurroundFrame>>(item);
+    dynamic_cast<host::PlacedFrame&>(frame).SetRasterPaths(paths);
+    return item;
+}
+
+CMapLegend& LegendIn(PageItem& item) {
+    return dynamic_cast<CMapLegend&>(
+        *std::get<std::unique_ptr<CSurroundFrame>>(item)->GetMapSurround());
+}
+
+TEST_F(OpeningRasters, AnItemReadAgainSharesItsMap) {
+    host::RasterStore store;
+    PageItem item = MapOf({folder.Path("scene.tif")});
+    OpenRasters(item, store);
+    PageItem again = host::ReadItem(WriteItem(item));
+    EXPECT_EQ(std::get<MapFrame>(again).picture, nullptr) << "before it is opened";
+    OpenRasters(again, store);
+    EXPECT_NE(std::get<MapFrame>(item).picture, nullptr);
+    EXPECT_EQ(std::get<MapFrame>(item).picture, std::get<MapFrame>(again).picture);
+    EXPECT_EQ(store.Raster(folder.Path("scene.tif")),
+              store.Raster(folder.Path("scene.tif")));
+
+    std::get<MapFrame>(again).extent =
+        MapExtent{500000.0, 8999700.0, 500300.0, 9000000.0};
+    OpenRasters(again, store);
+    EXPECT_NE(std::get<MapFrame>(item).picture, std::get<MapFrame>(again).picture);
+}
+
+TEST_F(OpeningRasters, ALegendIsMeasuredButKeepsItsSize) {
+    host::RasterStore store;
+    PageItem natural = LegendOf({folder.Path("scene.tif")});
+    OpenRasters(natural, store);
+    EXPECT_GT(LegendIn(natural).GetSize(), 40);
+    EXPECT_EQ(LegendIn(natural).GetTitleSize(), 20.0f);
+
+    PageItem smaller = LegendOf({folder.Path("scene.tif")});
+    LegendIn(smaller).SetSize(40);
+    LegendIn(smaller).SetAspectRatio(0.7f);
+    OpenRasters(smaller, store);
+    EXPECT_EQ(LegendIn(smaller).GetSize(), 40);
+    EXPECT_EQ(LegendIn(smaller).GetAspectRatio(), 0.7f);
+}
+
+TEST_F(OpeningRasters, MeasuringAgainDoesNotMultiplyTheFontsOfALegendAgain) {
+    host::RasterStore store;
+    PageItem item = LegendOf({folder.Path("scene.tif")});
+    dynamic_cast<host::PlacedFrame&>(*std::get<std::unique_ptr<CSurroundFrame>>(item))
+        .SetLegendSizeFactor(2.0f);
+    OpenRasters(item, store);
+    OpenRasters(item, store);
+    EXPECT_EQ(LegendIn(item).GetTitleSize(), 20.0f);
+    LegendIn(item).ResetAspectRatio();
+    EXPECT_EQ(LegendIn(item).GetTitleSize(), 40.0f) << "the factor is kept";
+}
+
+TEST_F(OpeningRasters, WhatIsMissingIsToldWithItsPlace) {
+    host::RasterStore store;
+    host::Page page(400.0, 300.0);
+    page.Items().push_back(host::FindItemType("frame")->make());
+    page.Items().push_back(MapOf({folder.Path("scene.tif"), folder.Path("none.tif")}));
+    try {
+        OpenRasters(page, store);
+        FAIL();
+    } catch (const host::PageError& error) {
+        EXPECT_EQ(std::string(error.what()),
+                  "elements[1].rasters: " + folder.Path("none.tif") + ": no such file");
+    }
+    EXPECT_EQ(std::get<MapFrame>(page.Items()[1]).picture, nullptr);
+}
+
+struct FileRow {
+    std::string element;
+    std::string error;
+};
+
+TEST_F(OpeningRasters, FilesAndFontsThatCannotBeUsedAreTold) {
+    const FileRow rows[] = {
+        {R"({"type": "picture", "path": "logo.png"})", ""},
+        {R"({"type": "picture", "path": "none.png"})",
+         "elements[0].path: " + folder.Path("none.png") + ": No such file or directory"},
+        {R"({"type": "picture", "path": "."})",
+         "elements[0].path: " + folder.Path("") + ": Is a directory"},
+        {R"({"type": "picture", "path": "scene.json"})",
+         "elements[0].path: " + folder.Path("scene.json") +
+             ": No such file or directory"},
+        {R"({"type": "title", "font": "Arial"})", ""},
+        {R"({"type": "title", "font": "Nosuch Grotesk"})",
+         "elements[0].font: no font family \"Nosuch Grotesk\" is installed"},
+        {R"({"type": "legend", "titleFont": "Nosuch Grotesk"})",
+         "elements[0].titleFont: no font family \"Nosuch Grotesk\" is installed"},
+    };
+    for (const FileRow& row : rows) {
+        const host::Page page = host::ReadPage(
+            R"({"version": 1, "width": 400, "height": 300, "elements": [)" + row.element +
+                "]}",
+            host::FilePaths(folder.Path("page.json")));
+        std::string error;
+        try {
+            CheckFilesAndFonts(page);
+        } catch (const host::PageError& caught) {
+            error = caught.what();
+        }
+        EXPECT_EQ(error, row.error);
+    }
+}
+
+}  // namespace
