@@ -245,6 +245,8 @@ GpStatus GdipGetImageHorizontalResolution(GpImage* image, REAL* dpi);
 GpStatus GdipGetImageVerticalResolution(GpImage* image, REAL* dpi);
 GpStatus GdipGetImagePixelFormat(GpImage* image, PixelFormat* format);
 GpStatus GdipGetImageType(GpImage* image, ImageType* type);
+GpStatus GdipImageGetFrameDimensionsList(GpImage* image, GUID* dimensions, UINT count);
+GpStatus GdipImageGetFrameCount(GpImage* image, const GUID* dimension, UINT* count);
 GpStatus GdipGetImagePaletteSize(GpImage* image, INT* bytes);
 GpStatus GdipGetImagePalette(GpImage* image, FlatPalette* palette, INT bytes);
 GpStatus GdipSetImagePalette(GpImage* image, const FlatPalette* palette);

@@ -11,12 +11,17 @@ namespace Gdiplus {
 class Image : public detail::StatusKeeper {
 public:
     /// A file that cannot be loaded leaves the image without a native object and the
-    /// reason as its last status.
+    /// reason as its last status: OutOfMemory where no decoder knows what it is.
     Image(const WCHAR* filename) {
         const detail::Utf16Text text(filename);
         SetStatus(text.GetStatus() != Ok
                       ? text.GetStatus()
                       : DllExports::GdipLoadImageFromFile(text.Text(), &native_));
+        if (native_ != nullptr && !HasFrames()) {
+            DllExports::GdipDisposeImage(native_);
+            native_ = nullptr;
+            SetStatus(OutOfMemory);
+        }
         if (native_ != nullptr) {
             CompletePalette();
         }
@@ -70,6 +75,16 @@ protected:
 
 private:
     friend class Graphics;
+
+    /// From a TIFF file that ends within the list of its pages, libgdiplus makes an image
+    /// without any, and follows a null pointer when that is asked anything.
+    bool HasFrames() const {
+        GUID dimension = {};
+        UINT frames = 1;  // where the file's format has no such count
+        DllExports::GdipImageGetFrameDimensionsList(native_, &dimension, 1);
+        DllExports::GdipImageGetFrameCount(native_, &dimension, &frames);
+        return frames != 0;
+    }
 
     /// libgdiplus looks pixels up past the end of a palette that has fewer colours than
     /// they can tell apart, as files may have: the colours that are missing become black.
