@@ -12,6 +12,7 @@
     format \
     fuzz \
     gallery \
+    hostile-images \
     hostile-rasters \
     images \
     install-tests \
@@ -19,6 +20,7 @@
     lint \
     mutants \
     package \
+    soak \
     test \
     test-sanitized \
     test-threads \
@@ -61,10 +63,19 @@ mutants:
 	scripts/install_packages mutants
 	nice scripts/mutate --jobs $(CMAKE_BUILD_PARALLEL_LEVEL)
 
+hostile-images: build/release/build.ninja
+	cmake --build --preset release --target map_page_tests
+	HOSTILE_IMAGES=$(or $(COUNT),5000) HOSTILE_IMAGES_FIRST=$(or $(FIRST),0) \
+	    build/release/tests/host/map_page/map_page_tests --gtest_filter='HostileImages.*'
+
 hostile-rasters: build/release/build.ninja
 	cmake --build --preset release --target map_page_tests
 	ulimit -v 6000000; HOSTILE_RASTERS=$(or $(COUNT),2000) \
 	    build/release/tests/host/map_page/map_page_tests --gtest_filter='HostileRasters.*'
+
+soak: build/release/build.ninja
+	cmake --build --preset release --target soak
+	SOAK_DRAWS=$(or $(COUNT),1000000) build/release/tests/soak
 
 interruptions: build/release/build.ninja
 	cmake --build --preset release --target map_page_tests

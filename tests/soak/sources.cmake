@@ -1,0 +1,2 @@
+set(soak_test_sources
+  soak_test.cpp)
