@@ -1,5 +1,3 @@
-#include <gdal_priv.h>
-#include <gdal_utils.h>
 #include <gtest/gtest.h>
 #include <unistd.h>
 
@@ -15,7 +13,7 @@
 
 #include "hostile_files/damage.h"
 #include "map_page/run_map_page.h"
-#include "raster_data/sample_rasters.h"
+#include "map_page/seed_rasters.h"
 #include "scratch_folder.h"
 
 namespace {
@@ -23,13 +21,9 @@ namespace {
 using host_tests::ContentsOf;
 using host_tests::Result;
 using host_tests::RunningMapPage;
+using host_tests::WriteFile;
 
 constexpr unsigned kSecondsAllowed = 120;
-
-void WriteFile(const std::string& path, const std::string& contents) {
-    std::ofstream(path, std::ios::binary)
-        .write(contents.data(), static_cast<std::streamsize>(contents.size()));
-}
 
 std::vector<std::string> LinesOf(const std::string& text) {
     std::vector<std::string> lines;
@@ -90,48 +84,20 @@ Ending Draw(const ScratchFolder& out, const std::string& raster, std::string& sa
 class HostileRasters : public ::testing::Test {
 protected:
     HostileRasters() {
-        GDALAllRegister();
-        m_samples = host::MakeSampleRasters(m_samplesFolder.Path());
-        Convert(m_samples.scene, "scene.tif",
-                {"-outsize", "60", "45", "-co", "TILED=YES", "-co", "COMPRESS=LZW"});
-        Convert(m_samples.elevation, "elevation.tif",
-                {"-outsize", "60", "45", "-co", "COMPRESS=DEFLATE", "-ot", "Float32"});
-        Convert(m_samples.landCover, "classes.tif", {"-outsize", "60", "45"});
-        Convert(m_samples.scene, "scene.png", {"-of", "PNG", "-outsize", "60", "45"});
-        Convert(m_samples.scene, "scene.jpg", {"-of", "JPEG", "-outsize", "60", "45"});
-        Convert(m_samples.scene, "scene.bmp", {"-of", "BMP", "-outsize", "60", "45"});
-        Convert(m_samples.landCover, "classes.img",
-                {"-of", "HFA", "-outsize", "60", "45"});
-        Convert(m_samples.elevation, "elevation.asc",
-                {"-of", "AAIGrid", "-outsize", "20", "15"});
-        Convert(m_seeds.Path("classes.tif"), "classes.vrt", {"-of", "VRT"});
+        seeds.AddScene("scene.tif", {"-co", "TILED=YES", "-co", "COMPRESS=LZW"});
+        seeds.AddElevation("elevation.tif",
+                           {"-co", "COMPRESS=DEFLATE", "-ot", "Float32"});
+        seeds.AddClasses("classes.tif", {});
+        seeds.AddScene("scene.png", {"-of", "PNG"});
+        seeds.AddScene("scene.jpg", {"-of", "JPEG"});
+        seeds.AddScene("scene.bmp", {"-of", "BMP"});
+        seeds.AddClasses("classes.img", {"-of", "HFA"});
+        seeds.AddElevation("elevation.asc", {"-of", "AAIGrid", "-outsize", "20", "15"});
+        seeds.Add(seeds.Path("classes.tif"), "classes.vrt", {"-of", "VRT"});
     }
 
-    void Convert(const std::string& from, const std::string& name,
-                 const std::vector<std::string>& options) {
-        std::vector<char*> arguments;
-        std::vector<std::string> kept = options;
-        for (std::string& option : kept) {
-            arguments.push_back(option.data());
-        }
-        arguments.push_back(nullptr);
-        GDALTranslateOptions* const how =
-            GDALTranslateOptionsNew(arguments.data(), nullptr);
-        GDALDatasetH source = GDALOpen(from.c_str(), GA_ReadOnly);
-        GDALDatasetH made =
-            GDALTranslate(m_seeds.Path(name).c_str(), source, how, nullptr);
-        ASSERT_NE(made, nullptr) << name;
-        GDALClose(made);
-        GDALClose(source);
-        GDALTranslateOptionsFree(how);
-        m_names.push_back(name);
-    }
-
-    ScratchFolder m_samplesFolder;
-    ScratchFolder m_seeds;
-    ScratchFolder m_out;
-    host::SampleRasters m_samples;
-    std::vector<std::string> m_names;
+    host_tests::SeedRasters seeds;
+    ScratchFolder out;
 };
 
 /// How many are tried: a few with the other tests, more when asked.
@@ -144,17 +110,18 @@ TEST_F(HostileRasters, EndWithAPageOrOneLine) {
     std::map<Ending, int> endings;
     const int count = HowMany();
     for (int i = 0; i < count; ++i) {
-        const std::string& name = m_names[static_cast<std::size_t>(i) % m_names.size()];
+        const std::string& name =
+            seeds.Names()[static_cast<std::size_t>(i) % seeds.Names().size()];
         const bool isText = name.find(".vrt") != std::string::npos ||
                             name.find(".asc") != std::string::npos;
         std::mt19937 random(static_cast<unsigned>(i));
-        const std::string seed = ContentsOf(m_seeds.Path(name));
+        const std::string seed = ContentsOf(seeds.Path(name));
         // Beside the seeds, for some of them have companions.
-        const std::string path = m_seeds.Path("damaged_" + name);
+        const std::string path = seeds.Path("damaged_" + name);
         WriteFile(path, isText ? hostile_files::DamageText(seed, random)
                                : hostile_files::Damage(seed, random));
         std::string said;
-        const Ending ending = Draw(m_out, path, said);
+        const Ending ending = Draw(out, path, said);
         ++endings[ending];
         EXPECT_NE(ending, Ending::Wrong)
             << "number " << i << ", " << name << ": " << said;
@@ -181,7 +148,7 @@ std::string Band(const std::string& source, const std::string& more = "") {
 TEST_F(HostileRasters, OfUnusualKindsEndAsTheyShould) {
     const std::string size = "rasterXSize=\"60\" rasterYSize=\"45\"";
     const std::string place = "<GeoTransform>0, 30, 0, 0, 0, -30</GeoTransform>";
-    const std::string elevation = m_seeds.Path("elevation.tif");
+    const std::string elevation = seeds.Path("elevation.tif");
     const struct {
         std::string name;
         std::string vrt;
@@ -217,10 +184,10 @@ TEST_F(HostileRasters, OfUnusualKindsEndAsTheyShould) {
         {"no raster", "Dear Sir or Madam,\n", Ending::Refused},
     };
     for (const auto& row : rows) {
-        const std::string path = m_seeds.Path("unusual.vrt");
+        const std::string path = seeds.Path("unusual.vrt");
         WriteFile(path, row.vrt);
         std::string said;
-        EXPECT_EQ(Draw(m_out, path, said), row.ending) << row.name << ": " << said;
+        EXPECT_EQ(Draw(out, path, said), row.ending) << row.name << ": " << said;
     }
 }
 

@@ -16,6 +16,11 @@ std::string ContentsOf(const std::string& path) {
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
+void WriteFile(const std::string& path, const std::string& contents) {
+    std::ofstream(path, std::ios::binary)
+        .write(contents.data(), static_cast<std::streamsize>(contents.size()));
+}
+
 RunningMapPage::RunningMapPage(const ScratchFolder& folder, const Arguments& arguments,
                                const std::function<void()>& prepare)
     : m_out(::testing::TempDir() + "map_page_out." + std::to_string(getpid())),

@@ -19,6 +19,7 @@ struct Result {
 };
 
 std::string ContentsOf(const std::string& path);
+void WriteFile(const std::string& path, const std::string& contents);
 
 /// map_page, started in a folder.
 class RunningMapPage {
