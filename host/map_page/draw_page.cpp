@@ -107,7 +107,7 @@ void Load(const Options& options, const Quiet& quiet, OpenedPage& opened) {
     Naming(options.pageFile, [&] {
         opened.page = host::LoadPage(options.pageFile);
         host::CheckFilesAndFonts(opened.page);
-        host::OpenRasters(opened.page, opened.store);
+        ChangeAndOpen(opened.page, options.changes, opened.store);
     });
     for (const host::PageItem& item : opened.page.Items()) {
         const auto* const map = std::get_if<host::MapFrame>(&item);
@@ -145,7 +145,8 @@ std::string DrawInto(const Options& options, const host::Page& page,
     const host::ImageFormat format = CheckFormat(options.output);
     std::vector<std::uint8_t> bytes;
     Naming(options.output, [&] {
-        ProgressLine line(quiet.Voice());
+        // Of a series, the pages that are done are shown.
+        ProgressLine line(options.series.empty() ? quiet.Voice() : -1);
         bytes = DrawAndEncode(page, size, options.dpi, format, line);
         line.Begin("writing the file");
         output.Write(bytes);
@@ -183,6 +184,19 @@ std::string DrawPage(const Options& options, host::OutputFile* output,
         summary += (summary.empty() ? "" : "\n") + Save(options, opened.page);
     }
     return summary;
+}
+
+void CheckSeries(const Options& options, const std::vector<std::string>& columns) {
+    CheckFormat(options.output);
+    const host::Page page =
+        Naming(options.pageFile, [&] { return host::LoadPage(options.pageFile); });
+    for (const std::string& column : columns) {
+        if (!HasText(page, column)) {
+            throw Error(options.series,
+                        "the column \"" + column + "\" is no element with a text in " +
+                            options.pageFile + ", and not in the output's name");
+        }
+    }
 }
 
 }  // namespace map_page

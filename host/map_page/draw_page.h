@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "map_page/options.h"
 #include "map_page/quiet.h"
@@ -14,5 +15,9 @@ namespace map_page {
 /// suffice. GDI+ must have been started.
 std::string DrawPage(const Options& options, host::OutputFile* output,
                      const Quiet& quiet);
+
+/// Throws Error for outputs of no known format, and for the first of the columns that
+/// names no element with a text in the page file. GDI+ must have been started.
+void CheckSeries(const Options& options, const std::vector<std::string>& columns);
 
 }  // namespace map_page

@@ -6,6 +6,7 @@
 #include <exception>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "map_page/draw_page.h"
 #include "map_page/error.h"
@@ -13,6 +14,7 @@
 #include "map_page/progress_line.h"
 #include "map_page/quiet.h"
 #include "map_page/separate_process.h"
+#include "map_page/series.h"
 #include "page/output_file.h"
 
 namespace {
@@ -46,13 +48,13 @@ int Fail(int status, const std::exception& error) {
 
 /// Whatever reads rasters and pictures and draws them is in the separate process; here is
 /// only what speaks to people and what gives the output its name.
-std::string DrawSeparately(const map_page::Options& options) {
+std::string DrawSeparately(const map_page::Options& options, const std::string& place) {
     std::optional<host::OutputFile> output;
     if (!options.output.empty()) {
         output.emplace(options.output);
     }
     std::string summary = map_page::InSeparateProcess([&] {
-        const map_page::Quiet quiet;
+        const map_page::Quiet quiet(place);
         CPLSetErrorHandler(CPLQuietErrorHandler);
         const GdiplusSession session;
         return map_page::DrawPage(options, output ? &*output : nullptr, quiet);
@@ -63,6 +65,32 @@ std::string DrawSeparately(const map_page::Options& options) {
     return summary;
 }
 
+std::string DrawOne(const map_page::Options& options, const std::string& place) {
+    return map_page::Naming(options.output.empty() ? options.save : options.output,
+                            [&] { return DrawSeparately(options, place); });
+}
+
+/// A page file may name pictures, and those are read.
+void CheckColumns(const map_page::Options& options,
+                  const std::vector<std::string>& columns) {
+    map_page::InSeparateProcess([&] {
+        const map_page::Quiet quiet;
+        const GdiplusSession session;
+        map_page::CheckSeries(options, columns);
+        return std::string();
+    });
+}
+
+std::string Draw(const map_page::Options& options) {
+    return options.series.empty() ? DrawOne(options, "")
+                                  : map_page::DrawSeries(
+                                        options,
+                                        [&](const std::vector<std::string>& columns) {
+                                            CheckColumns(options, columns);
+                                        },
+                                        DrawOne);
+}
+
 void Run(int argc, const char* const* argv) {
     const std::optional<map_page::Options> options =
         map_page::ReadCommandLine(argc, argv);
@@ -70,9 +98,7 @@ void Run(int argc, const char* const* argv) {
         return;
     }
     host::RemoveUnfinishedOutputOnSignals();
-    const std::string summary =
-        map_page::Naming(options->output.empty() ? options->save : options->output,
-                         [&] { return DrawSeparately(*options); });
+    const std::string summary = Draw(*options);
     std::printf("%s\n", summary.c_str());
 }
 

@@ -29,6 +29,12 @@ A single name that ends in .json is a page file: drawn as it says, and with no o
 options than --output and --dpi. --save writes one, of the page that would be drawn, to be
 changed by hand; what it says is in docs/page_file.md.
 
+A series draws one page for each row of a list of comma-separated values. Its first row
+names the columns: rasters (files with ; between), extent (left bottom right top), and
+names of elements, such as title, whose text the row has. Any column may be part of the
+output's name. An empty cell leaves what the page file says. Outputs that are there are
+not drawn again. docs/series.md tells the rest.
+
 COLOR is on (the default colour), off, #RRGGBB, #RRGGBBAA or one of black white gray
 silver red maroon yellow olive lime green aqua teal blue navy fuchsia purple orange.
 
@@ -38,13 +44,16 @@ Examples:
   map_page scene.tif -o page.png --title "Olinda" --picture logo.png
   map_page west.tif east.tif -o page.jpg --size A3 --dpi 300 --shadow off
   map_page scene.tif --title "Olinda" --save page.json
-  map_page page.json -o page.png)";
+  map_page page.json -o page.png
+  map_page page.json --series sheets.csv -o 'sheets/{name}.png' --jobs 4)";
 
 /// The option values as they were given.
 struct Given {
     std::vector<std::string> rasters;
     std::string output;
     std::string save;
+    std::string series;
+    std::optional<std::string> jobs;
     std::string title;
     std::string titleFont = "Arial";
     std::optional<std::string> titleSize;
@@ -144,6 +153,14 @@ void Declare(CLI::App& app, Given& given) {
     app.add_option("--save", given.save, "Page file to write, .json; needs no --output")
         ->type_name("FILE");
 
+    app.add_option("--series", given.series,
+                   "List of pages, .csv: one page a row; --output has {column}s")
+        ->type_name("FILE")
+        ->group("Series of a page file");
+    app.add_option("--jobs", given.jobs, "Pages drawn at a time, 1 to 256 (1)")
+        ->type_name("COUNT")
+        ->group("Series of a page file");
+
     app.add_option("--title", given.title, "Title above the map")
         ->type_name("TEXT")
         ->group("Title");
@@ -219,7 +236,8 @@ bool IsPageFile(const std::string& path) {
 }
 
 /// The options that go with a page file, which says the rest itself.
-constexpr std::string_view kWithPageFile[] = {"RASTER", "--output", "--dpi"};
+constexpr std::string_view kWithPageFile[] = {"RASTER", "--output", "--dpi", "--series",
+                                              "--jobs"};
 
 void CheckCall(const CLI::App& app, const Given& given) {
     if (given.output.empty() && given.save.empty()) {
@@ -228,7 +246,13 @@ void CheckCall(const CLI::App& app, const Given& given) {
     if (!given.save.empty() && !IsPageFile(given.save)) {
         throw Error(given.save, "does not end in .json");
     }
+    if (given.jobs && given.series.empty()) {
+        throw UsageError("--jobs", "goes with --series only");
+    }
     if (given.rasters.size() != 1 || !IsPageFile(given.rasters.front())) {
+        if (!given.series.empty()) {
+            throw UsageError("--series", "goes with a page file only");
+        }
         return;
     }
     for (const CLI::Option* option : app.get_options()) {
@@ -249,6 +273,9 @@ Options Check(const Given& given) {
     options.rasters = given.rasters;
     options.output = given.output;
     options.save = given.save;
+    options.series = given.series;
+    options.jobs =
+        static_cast<std::size_t>(ReadCount("--jobs", given.jobs.value_or("1"), 1, 256));
     options.dpi = ReadNumber("--dpi", given.dpi, 10.0, 2400.0);
 
     host::PageDesign& design = options.design;

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <vector>
 
+#include "map_page/page_changes.h"
 #include "page/page_design.h"
 
 namespace map_page {
@@ -14,6 +16,9 @@ struct Options {
     std::string pageFile;  ///< drawn instead of rasters; empty for none
     std::string output;    ///< empty for none
     std::string save;      ///< the page file to write; empty for none
+    std::string series;    ///< the list of pages to draw; empty for one page
+    std::size_t jobs = 1;  ///< pages of the series drawn at a time
+    PageChanges changes;   ///< of the page file's page
     double dpi = 150.0;
     host::PageDesign design;
     std::string picture;      ///< as given; design.picture holds it as wide text

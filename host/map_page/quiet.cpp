@@ -4,10 +4,13 @@
 #include <unistd.h>
 
 #include <cstdio>
+#include <utility>
 
 namespace map_page {
 
-Quiet::Quiet() : m_standardError(fcntl(STDERR_FILENO, F_DUPFD_CLOEXEC, 3)) {
+Quiet::Quiet(std::string place)
+    : m_place(place.empty() ? "" : std::move(place) + ": "),
+      m_standardError(fcntl(STDERR_FILENO, F_DUPFD_CLOEXEC, 3)) {
     const int nowhere = open("/dev/null", O_WRONLY | O_CLOEXEC);
     if (m_standardError >= 0 && nowhere >= 0) {
         std::fflush(stderr);
@@ -27,7 +30,7 @@ Quiet::~Quiet() {
 }
 
 void Quiet::Warn(const std::string& what) const {
-    dprintf(m_standardError, "map_page: warning: %s\n", what.c_str());
+    dprintf(m_standardError, "map_page: warning: %s%s\n", m_place.c_str(), what.c_str());
 }
 
 }  // namespace map_page

@@ -9,7 +9,8 @@ namespace map_page {
 /// one line of ours. (AddressSanitizer's reports are kept with its option log_path.)
 class Quiet {
 public:
-    Quiet();
+    /// @param place begins every warning, when it is not empty
+    explicit Quiet(std::string place = "");
     Quiet(const Quiet&) = delete;
     Quiet& operator=(const Quiet&) = delete;
     ~Quiet();
@@ -20,6 +21,7 @@ public:
     void Warn(const std::string& what) const;
 
 private:
+    std::string m_place;
     int m_standardError;
 };
 

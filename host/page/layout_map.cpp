@@ -7,9 +7,9 @@
 namespace host {
 
 Room FitMap(const Room& room, double aspectRatio) {
-    // A map a hundred times as long as wide is a line; nothing is shown of it beyond.
-    const double ratio =
-        std::isnan(aspectRatio) ? 1.0 : std::clamp(aspectRatio, 0.01, 100.0);
+    const double ratio = std::isnan(aspectRatio)
+                             ? 1.0
+                             : std::clamp(aspectRatio, 1.0 / kLongestMap, kLongestMap);
     const double width = std::min(room.Width(), room.Height() * ratio);
     const double height = std::min(room.Height(), room.Width() / ratio);
     const double left = room.left + (room.Width() - width) / 2.0;

@@ -62,6 +62,8 @@ std::unique_ptr<PlacedFrame> PlaceNorthArrow(const PageDesign& design,
     const InkBox ink = MeasureInk(*arrow);
     auto frame = MakeFrame(std::move(arrow), extent, design.frames, measures);
     frame->SetName("north arrow");
+    frame->SetTrueNorth(design.northArrow.trueNorth);
+    frame->SetTrueNorth(design.northArrow.trueNorth);
     frame->SetElementOffset((ink.left - ink.right) / 2.0, (ink.down - ink.up) / 2.0);
     return frame;
 }

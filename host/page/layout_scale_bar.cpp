@@ -4,6 +4,7 @@
 #include "map_surround/scale_bar.h"
 #include "page/layout_steps.h"
 #include "page/map_geometry.h"
+#include "page/scale_division.h"
 
 namespace host {
 namespace {
@@ -32,9 +33,23 @@ std::unique_ptr<CScaleBarBase> MakeBar(ScaleBarStyle style) {
 struct Measurement {
     double perPageUnit;
     std::wstring unit;
+    CommonMeasureUnits type;
+    bool isGround = false;
 };
 
 constexpr double kKilometresFrom = 10'000.0;  // metres that the whole bar stands for
+
+CommonMeasureUnits TypeOf(MapUnit unit) {
+    switch (unit) {
+        case MapUnit::Metre:
+            return MeasureMeter;
+        case MapUnit::Degree:
+            return MeasureDegree;
+        case MapUnit::Unknown:
+            break;
+    }
+    return MeasureUnknown;
+}
 
 const wchar_t* NameOf(MapUnit unit) {
     switch (unit) {
@@ -52,15 +67,17 @@ const wchar_t* NameOf(MapUnit unit) {
 Measurement Measure(const ScaleBarDesign& design, const MapOnPage& map,
                     const Room& mapRoom, double barLength,
                     std::vector<std::string>& remarks) {
-    Measurement result{map.extent->Width() / mapRoom.Width(),
-                       NameOf(UnitOf(map.projection))};
+    const MapUnit mapUnit = UnitOf(map.projection);
+    Measurement result{map.extent->Width() / mapRoom.Width(), NameOf(mapUnit),
+                       TypeOf(mapUnit)};
     if (design.ground) {
         const std::optional<double> metres =
             GroundMetresPerUnit(map.projection, *map.extent);
         if (metres) {
-            result = {result.perPageUnit * *metres, L"meter"};
+            result = {result.perPageUnit * *metres, L"meter", MeasureMeter, true};
             if (result.perPageUnit * barLength >= kKilometresFrom) {
-                result = {result.perPageUnit / 1000.0, L"Kilometer"};
+                result = {result.perPageUnit / 1000.0, L"Kilometer", MeasureKilometer,
+                          true};
             }
         } else {
             remarks.emplace_back(
@@ -72,24 +89,6 @@ Measurement Measure(const ScaleBarDesign& design, const MapOnPage& map,
         result.unit = *design.units;
     }
     return result;
-}
-
-/// 37 gives 30. What is rounded already has boxes that neither overlap nor hide the unit.
-double RoundedDown(double value) {
-    const double power = std::pow(10.0, std::floor(std::log10(value)));
-    return std::floor(value / power) * power;
-}
-
-/// A bar's divisions, before the bar rounds them to one digit.
-struct Division {
-    double value;   ///< in the bar's unit
-    double length;  ///< on the page, in page units
-};
-
-/// The largest division of a round value that is at most that long.
-Division DivisionOf(double length, double perPageUnit) {
-    const double value = RoundedDown(length * perPageUnit);
-    return {value, value / perPageUnit};
 }
 
 InkBox SetDivisions(CScaleBarBase& bar, const Division& division) {
@@ -123,6 +122,7 @@ std::unique_ptr<PlacedFrame> PlaceScaleBar(const PageDesign& design, const MapOn
 
     const Measurement measurement = Measure(scaleBar, map, mapRoom, most, remarks);
     bar->SetUnitsName(measurement.unit);
+    bar->SetDestUnitType(measurement.type);
 
     // Labels and unit name stand out from the divisions, so make these smaller until all
     // of it fits.
@@ -139,6 +139,8 @@ std::unique_ptr<PlacedFrame> PlaceScaleBar(const PageDesign& design, const MapOn
     }
     auto frame = FrameInk(std::move(bar), ink, room, At::Bottom, design.frames, measures);
     frame->SetName("scale bar");
+    frame->SetBarDistances(measurement.isGround ? BarDistances::Ground
+                                                : BarDistances::Map);
     frame->SetDivisionLength(division.length);
     frame->SetDivisionValue(division.value);
     return frame;

@@ -2,6 +2,9 @@
 
 namespace host {
 
+/// A map that is longer than wide by more is a line; nothing is shown of it beyond.
+constexpr double kLongestMap = 100.0;
+
 /// A rectangle of the map, in the units of its coordinate system; y grows upwards.
 struct MapExtent {
     double left = 0.0;

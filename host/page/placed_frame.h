@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <utility>
 #include <vector>
@@ -7,6 +8,13 @@
 #include "map_surround/frame.h"
 
 namespace host {
+
+/// What a scale bar on a page measures.
+enum class BarDistances : std::int32_t {
+    Fixed,   ///< what it was told to
+    Map,     ///< the map on the page, in map units
+    Ground,  ///< the ground in the middle of that map, along the ellipsoid
+};
 
 /// A frame that holds its element off the middle, and keeps a scale bar true to the map
 /// at any resolution.
@@ -33,6 +41,14 @@ public:
     void SetDivisionValue(double value);
     double DivisionValue() const { return m_divisionValue; }
 
+    /// What the bar is kept true to by FitToMap. Has no meaning for other elements.
+    void SetBarDistances(BarDistances distances) { m_barDistances = distances; }
+    BarDistances GetBarDistances() const { return m_barDistances; }
+
+    /// Whether FitToMap turns a north arrow to true north. Has no meaning for others.
+    void SetTrueNorth(bool trueNorth) { m_trueNorth = trueNorth; }
+    bool TrueNorth() const { return m_trueNorth; }
+
     /// What a legend's font sizes are multiplied by when it is measured. Has no meaning
     /// for other elements.
     void SetLegendSizeFactor(float factor);
@@ -52,6 +68,8 @@ private:
     double m_offsetY = 0.0;
     double m_divisionLength = 25.0;
     double m_divisionValue = 1.0;
+    BarDistances m_barDistances = BarDistances::Fixed;
+    bool m_trueNorth = false;
     float m_legendSizeFactor = 1.0f;
     std::vector<std::string> m_rasterPaths;
 };

@@ -9,6 +9,7 @@
 #include "page/document/item_type.h"
 #include "page/document/json_text.h"
 #include "page/document/page_format.h"
+#include "page/fit_to_map.h"
 #include "page/fonts.h"
 #include "page/placed_frame.h"
 #include "page/text.h"
@@ -33,6 +34,21 @@ void Placing(const std::string& place, Step step) {
 
 std::string PlaceOfElement(std::size_t index) {
     return std::string(kElementsKey) + "[" + std::to_string(index) + "]";
+}
+
+/// A map that is not stretched: where its frame has other proportions, it shows more.
+std::shared_ptr<MapPicture> PictureOf(const MapFrame& map, RasterStore& store) {
+    std::shared_ptr<MapLayers> layers = store.Map(map.rasterPaths, map.extent);
+    const double ratio = layers->AspectRatio();
+    if (!layers->IsPlaced() || !(ratio * kLongestMap >= 1.0 && ratio <= kLongestMap)) {
+        return layers;
+    }
+    const CBoundingBox box = map.frame.GetExtent();
+    const MapExtent shown = Widened(layers->Extent(), box.GetWidth() / box.GetHeight());
+    return shown.Width() == layers->Extent().Width() &&
+                   shown.Height() == layers->Extent().Height()
+               ? layers
+               : store.Map(map.rasterPaths, shown);
 }
 
 CMapLegend* LegendIn(const PlacedFrame* frame) {
@@ -110,9 +126,7 @@ std::shared_ptr<MapLayers> RasterStore::Map(const std::vector<std::string>& path
 void OpenRasters(PageItem& item, RasterStore& store) {
     Placing(kRastersKey, [&] {
         if (auto* const map = std::get_if<MapFrame>(&item)) {
-            map->picture = map->rasterPaths.empty()
-                               ? nullptr
-                               : store.Map(map->rasterPaths, map->extent);
+            map->picture = map->rasterPaths.empty() ? nullptr : PictureOf(*map, store);
             return;
         }
         const auto& frame = std::get<std::unique_ptr<CSurroundFrame>>(item);

@@ -1,6 +1,5 @@
 // map_page with page files: saving the automatic page, and drawing what was saved.
 
-#include <gdiplus.h>
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -8,10 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "map_page/run_map_page.h"
-#include "page/made_raster.h"
-#include "png_encoder.h"
-#include "scratch_folder.h"
+#include "map_page/page_file_folder.h"
 
 namespace {
 
@@ -19,31 +15,8 @@ namespace fs = std::filesystem;
 using host_tests::Arguments;
 using host_tests::ContentsOf;
 using host_tests::Result;
-using host_tests::RunMapPage;
 
-class PageFile : public ::testing::Test {
-protected:
-    PageFile() {
-        fs::create_directory(folder.Path("data"));
-        WriteScene(folder.Path("data/scene.tif"), 120, 120);
-        MadeRaster classes;
-        classes.transform = {500000.0, 450.0, 0.0, 9000000.0, 0.0, -450.0};
-        classes.projection = "EPSG:32725";
-        WriteRaster(folder.Path("data/classes.tif"), classes);
-        Gdiplus::Bitmap logo(64, 48, PixelFormat32bppARGB);
-        {
-            Gdiplus::Graphics graphics(&logo);
-            graphics.Clear(Gdiplus::Color(0, 128, 0));
-        }
-        const std::string path = folder.Path("logo.png");
-        logo.Save(std::wstring(path.begin(), path.end()).c_str(),
-                  &host_tests::kPngEncoder);
-    }
-
-    Result Run(const Arguments& arguments) const { return RunMapPage(folder, arguments); }
-
-    ScratchFolder folder;
-};
+using PageFile = host_tests::PageFileTest;
 
 TEST_F(PageFile, DrawsThePixelsOfThePageThatWasSaved) {
     const Arguments designs[] = {

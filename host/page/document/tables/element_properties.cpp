@@ -107,11 +107,15 @@ std::vector<Property> PictureProperties() {
 }
 
 std::vector<Property> NorthArrowProperties() {
-    return {OneOf(
-        Of<&CNorthArrowBase::GetNorthArrowType, &CNorthArrowBase::SetNorthArrowType>(
-            "northArrowType", "What the arrow answers when asked for its style",
-            PropertyKind::Choice),
-        kNorthArrowTypes)};
+    return {
+        Of<&PlacedFrame::TrueNorth, &PlacedFrame::SetTrueNorth>(
+            "trueNorth", "Whether it is turned to true north in the middle of the map",
+            PropertyKind::Switch),
+        OneOf(
+            Of<&CNorthArrowBase::GetNorthArrowType, &CNorthArrowBase::SetNorthArrowType>(
+                "northArrowType", "What the arrow answers when asked for its style",
+                PropertyKind::Choice),
+            kNorthArrowTypes)};
 }
 
 }  // namespace host::tables

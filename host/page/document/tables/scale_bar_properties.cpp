@@ -15,6 +15,12 @@ constexpr Choice kScaleBarTypes[] = {
     {"alternating", ScaleBarAlternate},
 };
 
+constexpr Choice kBarDistances[] = {
+    {"fixed", static_cast<std::int32_t>(BarDistances::Fixed)},
+    {"map", static_cast<std::int32_t>(BarDistances::Map)},
+    {"ground", static_cast<std::int32_t>(BarDistances::Ground)},
+};
+
 constexpr Choice kUnits[] = {
     {"unknown", MeasureUnknown},
     {"meter", MeasureMeter},
@@ -26,6 +32,12 @@ constexpr Choice kUnits[] = {
 
 std::vector<Property> ScaleBarProperties() {
     return {
+        OneOf(
+            Of<&PlacedFrame::GetBarDistances, &PlacedFrame::SetBarDistances>(
+                "distances",
+                "What it is kept true to: nothing, the map, or the ground in its middle",
+                PropertyKind::Choice),
+            kBarDistances),
         Within(Of<&PlacedFrame::DivisionValue, &PlacedFrame::SetDivisionValue>(
                    "divisionValue",
                    "What a division stands for, before the bar rounds it down to one "
@@ -51,7 +63,8 @@ std::vector<Property> ScaleBarProperties() {
             "units", "Name of the unit; the bar translates a few words",
             PropertyKind::Text),
         OneOf(Of<&CScaleBarBase::GetDestUnitType, &CScaleBarBase::SetDestUnitType>(
-                  "unitType", "The unit as hosts know it; converts nothing",
+                  "unitType",
+                  "What it counts on the ground; names and converts nothing else",
                   PropertyKind::Choice),
               kUnits),
         OneOf(Of<&CScaleBarBase::GetScaleBarType, &CScaleBarBase::SetScaleBarType>(

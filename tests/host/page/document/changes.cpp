@@ -190,22 +190,25 @@ std::vector<Change> LegendChanges(const std::string& folder) {
     };
 }
 
-std::vector<Change> NorthArrowChanges(NorthArrowType own) {
+std::vector<Change> NorthArrowChanges(NorthArrowType other) {
     using N = CNorthArrowBase;
-    if (own == NorthArrowTwo) {
-        return {On<N>(
-            "northArrowType", [](N& n) { n.SetNorthArrowType(NorthArrowFour); },
-            [](const N& n) { return n.GetNorthArrowType() == NorthArrowFour; })};
-    }
-    return {On<N>(
-        "northArrowType", [](N& n) { n.SetNorthArrowType(NorthArrowTwo); },
-        [](const N& n) { return n.GetNorthArrowType() == NorthArrowTwo; })};
+    return {On<PlacedFrame>(
+                "trueNorth", [](PlacedFrame& p) { p.SetTrueNorth(true); },
+                [](const PlacedFrame& p) { return p.TrueNorth(); }),
+            {"northArrowType",
+             [other](PageItem& item) { In<N>(item).SetNorthArrowType(other); },
+             [other](const PageItem& item) {
+                 return In<N>(const_cast<PageItem&>(item)).GetNorthArrowType() == other;
+             }}};
 }
 
 std::vector<Change> ScaleBarChanges(ScaleBarType other) {
     using B = CScaleBarBase;
     using P = PlacedFrame;
     return {
+        On<P>(
+            "distances", [](P& p) { p.SetBarDistances(host::BarDistances::Ground); },
+            [](const P& p) { return p.GetBarDistances() == host::BarDistances::Ground; }),
         On<P>(
             "divisionValue", [](P& p) { p.SetDivisionValue(0.3); },
             [](const P& p) { return p.DivisionValue() == 0.3; }),
@@ -341,8 +344,8 @@ std::vector<Change> ChangesOf(const std::string& type, const std::string& folder
         return all + LegendChanges(folder);
     }
     if (type.rfind("north-arrow", 0) == 0) {
-        return all + NorthArrowChanges(type == "north-arrow-two" ? NorthArrowTwo
-                                                                 : NorthArrowOne);
+        return all + NorthArrowChanges(type == "north-arrow-two" ? NorthArrowFour
+                                                                 : NorthArrowTwo);
     }
     if (type.rfind("scale-bar", 0) == 0) {
         return all +

@@ -1,0 +1,145 @@
+#include "map_page/page_changes.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <memory>
+
+#include "map_surround/legend.h"
+#include "map_surround/title.h"
+#include "page/document/item_type.h"
+#include "page/document/page_error.h"
+#include "page/fit_to_map.h"
+#include "page/placed_frame.h"
+
+namespace map_page {
+namespace {
+
+const host::Property* PropertyOf(const host::PageItem& item, const char* name) {
+    const host::ItemType* const type = host::TypeOf(item);
+    return type == nullptr ? nullptr : host::FindProperty(type->properties, name);
+}
+
+/// What of an item is its text: a title's, or a legend's first line.
+const host::Property* TextOf(const host::PageItem& item) {
+    const host::Property* const text = PropertyOf(item, "text");
+    return text != nullptr ? text : PropertyOf(item, "title");
+}
+
+bool IsNamed(const host::PageItem& item, const std::string& name) {
+    const host::Property* const own = PropertyOf(item, "name");
+    return own != nullptr && std::get<std::string>(own->read(item)) == name;
+}
+
+host::PlacedFrame* FrameOf(host::PageItem& item) {
+    auto* const frame = std::get_if<std::unique_ptr<CSurroundFrame>>(&item);
+    return frame == nullptr ? nullptr : dynamic_cast<host::PlacedFrame*>(frame->get());
+}
+
+template <class Element>
+Element* ElementOf(host::PageItem& item) {
+    const host::PlacedFrame* const frame = FrameOf(item);
+    return frame == nullptr ? nullptr : dynamic_cast<Element*>(frame->GetMapSurround());
+}
+
+double WidthOf(const CMapSurround& element) {
+    return element.GetSize() * double{element.GetAspectRatio()};
+}
+
+/// A title that is too long for its frame is set smaller, with half an em to each side.
+void FitTitle(const host::PlacedFrame& frame, CMapTitle& title) {
+    const double room = frame.GetExtent().GetWidth();
+    const double needed = WidthOf(title) + title.GetFontSize();
+    if (needed > room && room > 0.0) {
+        title.SetFontSize(title.GetFontSize() * room / needed);
+        title.ResetAspectRatio();
+    }
+}
+
+void SetText(host::PageItem& item, const std::string& name, const std::string& text) {
+    const host::Property* const property = TextOf(item);
+    if (property == nullptr || !IsNamed(item, name)) {
+        return;
+    }
+    const std::string why = host::CheckValue(*property, text);
+    if (!why.empty()) {
+        throw host::PageError(name, why);
+    }
+    property->write(item, text);
+    if (auto* const title = ElementOf<CMapTitle>(item)) {
+        title->ResetAspectRatio();
+        FitTitle(*FrameOf(item), *title);
+    }
+}
+
+void Change(host::Page& page, const PageChanges& changes) {
+    if (!changes.rasters.empty()) {
+        host::NameRasters(page, changes.rasters);
+    }
+    for (host::PageItem& item : page.Items()) {
+        const host::Property* const extent = PropertyOf(item, "extent");
+        if (extent != nullptr && changes.extent) {
+            extent->write(item, changes.extent);
+        }
+        for (const auto& [name, text] : changes.texts) {
+            SetText(item, name, text);
+        }
+    }
+}
+
+/// Where a legend stands in its frame, from the frame's middle, y growing upwards.
+struct LegendPlace {
+    CMapLegend* legend;
+    host::PlacedFrame* frame;
+    double left;
+    double top;
+};
+
+/// Has the legends measured anew when they are opened.
+std::vector<LegendPlace> ForgetLegendSizes(host::Page& page) {
+    std::vector<LegendPlace> places;
+    for (host::PageItem& item : page.Items()) {
+        if (auto* const legend = ElementOf<CMapLegend>(item)) {
+            host::PlacedFrame& frame = *FrameOf(item);
+            const CPoint2D offset = frame.ElementOffset();
+            places.push_back({legend, &frame, offset.x - WidthOf(*legend) / 2.0,
+                              offset.y + legend->GetSize() / 2.0});
+            legend->SetSize(0);
+        }
+    }
+    return places;
+}
+
+/// The legend begins where it did, and is no larger than leaves the same space around it.
+void FitLegend(const LegendPlace& place) {
+    const CBoundingBox box = place.frame->GetExtent();
+    CMapLegend& legend = *place.legend;
+    const double width = WidthOf(legend);
+    const double factor =
+        std::min({1.0, -2.0 * place.left / width, 2.0 * place.top / legend.GetSize()});
+    if (box.GetWidth() > 0.0 && factor > 0.0) {
+        legend.SetSize(std::max(1, static_cast<int>(legend.GetSize() * factor)));
+    }
+    place.frame->SetElementOffset(place.left + WidthOf(legend) / 2.0,
+                                  place.top - legend.GetSize() / 2.0);
+}
+
+}  // namespace
+
+void ChangeAndOpen(host::Page& page, const PageChanges& changes,
+                   host::RasterStore& store) {
+    Change(page, changes);
+    const std::vector<LegendPlace> legends =
+        changes.rasters.empty() ? std::vector<LegendPlace>() : ForgetLegendSizes(page);
+    host::OpenRasters(page, store);
+    std::for_each(legends.begin(), legends.end(), FitLegend);
+    host::FitToMap(page);
+}
+
+bool HasText(const host::Page& page, const std::string& name) {
+    return std::any_of(page.Items().begin(), page.Items().end(),
+                       [&name](const host::PageItem& item) {
+                           return TextOf(item) != nullptr && IsNamed(item, name);
+                       });
+}
+
+}  // namespace map_page

@@ -1,0 +1,175 @@
+#include "map_page/series.h"
+
+#include <sys/prctl.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <csignal>
+#include <cstddef>
+#include <cstdio>
+#include <cstring>
+#include <exception>
+#include <iterator>
+#include <map>
+#include <system_error>
+#include <vector>
+
+#include "map_page/error.h"
+#include "map_page/progress_line.h"
+#include "map_page/series_list.h"
+
+namespace map_page {
+namespace {
+
+/// Outputs get their names when they are complete, so one that is there is complete.
+bool IsDrawn(const std::string& output) {
+    struct stat status = {};
+    return stat(output.c_str(), &status) == 0 && S_ISREG(status.st_mode) &&
+           status.st_size > 0;
+}
+
+void Tell(const std::string& what) {
+    ProgressLine::Erase(STDERR_FILENO);
+    dprintf(STDERR_FILENO, "map_page: %s\n", what.c_str());
+}
+
+/// Pages that are being drawn, each in its process, and how those ended that are not.
+class Workers {
+public:
+    Workers(const Options& options, std::size_t all, const DrawOne& draw)
+        : m_options(options), m_all(all), m_draw(draw) {}
+
+    std::string Sum() const {
+        return std::to_string(m_drawn) + " drawn, " + std::to_string(m_skipped) +
+               " already there, " + std::to_string(m_failed) + " failed";
+    }
+    bool AnyFailed() const { return m_failed > 0; }
+
+    void Take(const SeriesPage& page) {
+        if (!page.error.empty()) {
+            Fail(page.line, page.error);
+        } else if (IsDrawn(page.output)) {
+            ++m_skipped;
+        } else {
+            while (m_running.size() >= m_options.jobs) {
+                WaitForOne();
+            }
+            Begin(page);
+        }
+    }
+
+    void WaitForAll() {
+        while (!m_running.empty()) {
+            WaitForOne();
+        }
+        ProgressLine::Erase(STDERR_FILENO);
+    }
+
+private:
+    std::string PlaceOf(std::size_t line) const {
+        return m_options.series + ": line " + std::to_string(line);
+    }
+
+    void Fail(std::size_t line, const std::string& why) {
+        ++m_failed;
+        Tell(PlaceOf(line) + ": " + why);
+        ShowProgress();
+    }
+
+    void Begin(const SeriesPage& page) {
+        const pid_t parent = getpid();
+        const pid_t process = fork();
+        if (process == 0) {
+            prctl(PR_SET_PDEATHSIG, SIGTERM);
+            if (getppid() != parent) {
+                std::raise(SIGTERM);
+            }
+            _exit(Draw(page));
+        }
+        if (process < 0) {
+            Fail(page.line, std::generic_category().message(errno));
+            return;
+        }
+        m_running.emplace(process, page.line);
+    }
+
+    /// In the process of the page.
+    int Draw(const SeriesPage& page) const {
+        Options options = m_options;
+        options.output = page.output;
+        options.changes = page.changes;
+        const std::string place = PlaceOf(page.line);
+        try {
+            m_draw(options, place);
+            return 0;
+        } catch (const std::exception& error) {
+            Tell(place + ": " + LineFor(error));
+            return 1;
+        }
+    }
+
+    void WaitForOne() {
+        int status = 0;
+        const pid_t process = wait(&status);
+        const auto found = m_running.find(process);
+        if (found == m_running.end()) {
+            return;
+        }
+        const std::size_t line = found->second;
+        m_running.erase(found);
+        if (WIFSIGNALED(status)) {
+            Fail(line, std::string("drawing ended: ") + strsignal(WTERMSIG(status)));
+            return;
+        }
+        ++(WEXITSTATUS(status) == 0 ? m_drawn : m_failed);
+        ShowProgress();
+    }
+
+    void ShowProgress() const {
+        if (isatty(STDERR_FILENO) != 0) {
+            dprintf(STDERR_FILENO, "\rmap_page: %zu of %zu pages\033[K",
+                    m_drawn + m_skipped + m_failed, m_all);
+        }
+    }
+
+    const Options& m_options;
+    std::size_t m_all;
+    const DrawOne& m_draw;
+    std::map<pid_t, std::size_t> m_running;  // and their lines
+    std::size_t m_drawn = 0;
+    std::size_t m_skipped = 0;
+    std::size_t m_failed = 0;
+};
+
+/// The columns that are of no use unless the page has an element of that name.
+std::vector<std::string> ColumnsWithoutUse(const SeriesList& list) {
+    std::vector<std::string> columns;
+    std::copy_if(list.textColumns.begin(), list.textColumns.end(),
+                 std::back_inserter(columns), [&list](const std::string& column) {
+                     return std::find(list.nameColumns.begin(), list.nameColumns.end(),
+                                      column) == list.nameColumns.end();
+                 });
+    return columns;
+}
+
+}  // namespace
+
+std::string DrawSeries(const Options& options, const CheckColumns& checkColumns,
+                       const DrawOne& draw) {
+    const SeriesList list = ReadSeries(options.series, options.output);
+    checkColumns(ColumnsWithoutUse(list));
+    Workers workers(options, list.pages.size(), draw);
+    for (const SeriesPage& page : list.pages) {
+        workers.Take(page);
+    }
+    workers.WaitForAll();
+    if (workers.AnyFailed()) {
+        throw Error(options.series, workers.Sum());
+    }
+    return options.series + ": " + workers.Sum();
+}
+
+}  // namespace map_page

@@ -1,0 +1,243 @@
+#include "map_page/series_list.h"
+
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <fstream>
+#include <iterator>
+#include <map>
+#include <string_view>
+#include <system_error>
+#include <utility>
+
+#include "map_page/csv.h"
+#include "map_page/error.h"
+#include "page/document/file_paths.h"
+#include "page/numbers_from_text.h"
+
+namespace map_page {
+namespace {
+
+constexpr const char* kRastersColumn = "rasters";
+constexpr const char* kExtentColumn = "extent";
+constexpr char kBetweenRasters = ';';
+constexpr std::size_t kNoColumn = static_cast<std::size_t>(-1);
+
+/// A piece of an output's name: text, or the value of a column.
+struct NamePiece {
+    std::string text;
+    std::size_t column = kNoColumn;
+};
+
+std::size_t ColumnOf(const std::vector<std::string>& columns, const std::string& name) {
+    const auto found = std::find(columns.begin(), columns.end(), name);
+    return found == columns.end() ? kNoColumn
+                                  : static_cast<std::size_t>(found - columns.begin());
+}
+
+std::vector<NamePiece> PiecesOf(const std::string& output,
+                                const std::vector<std::string>& columns) {
+    std::vector<NamePiece> pieces;
+    std::size_t at = 0;
+    while (at < output.size()) {
+        const std::size_t open = output.find('{', at);
+        pieces.push_back({output.substr(at, open - at), kNoColumn});
+        if (open == std::string::npos) {
+            break;
+        }
+        const std::size_t close = output.find('}', open);
+        if (close == std::string::npos) {
+            throw Error(output, "has a { without }");
+        }
+        const std::string name = output.substr(open + 1, close - open - 1);
+        const std::size_t column = ColumnOf(columns, name);
+        if (column == kNoColumn) {
+            throw Error(output, "the list has no column \"" + name + "\"");
+        }
+        pieces.push_back({"", column});
+        at = close + 1;
+    }
+    return pieces;
+}
+
+/// A value as a part of a file name.
+std::string Safe(std::string value) {
+    for (char& c : value) {
+        if (c == '/' || static_cast<unsigned char>(c) < 0x20 || c == 0x7F) {
+            c = '_';
+        }
+    }
+    if (!value.empty() && value.front() == '.') {
+        value.front() = '_';
+    }
+    return value;
+}
+
+std::string NameFrom(const std::vector<NamePiece>& pieces,
+                     const std::vector<std::string>& columns, const CsvRecord& record) {
+    std::string name;
+    for (const NamePiece& piece : pieces) {
+        if (piece.column == kNoColumn) {
+            name += piece.text;
+            continue;
+        }
+        const std::string& value = record.fields[piece.column];
+        if (value.empty()) {
+            throw Error(columns[piece.column], "is empty, and part of the output's name");
+        }
+        name += Safe(value);
+    }
+    return name;
+}
+
+std::vector<std::string> RastersIn(const std::string& text,
+                                   const host::FilePaths& paths) {
+    std::vector<std::string> rasters;
+    std::size_t at = 0;
+    while (at <= text.size()) {
+        const std::size_t end = std::min(text.find(kBetweenRasters, at), text.size());
+        if (end == at) {
+            throw Error(kRastersColumn, "has an empty name");
+        }
+        rasters.push_back(paths.FromFile(text.substr(at, end - at)));
+        at = end + 1;
+    }
+    return rasters;
+}
+
+host::MapExtent ExtentIn(const std::string& text) {
+    std::vector<double> sides;
+    std::string_view rest(text);
+    while (!rest.empty()) {
+        const std::string_view side = rest.substr(0, rest.find(' '));
+        double value = 0.0;
+        if (!host::ParseNumber(side, value)) {
+            break;
+        }
+        sides.push_back(value);
+        rest.remove_prefix(std::min(rest.size(), side.size() + 1));
+    }
+    if (!rest.empty() || sides.size() != 4 || !(sides[0] < sides[2]) ||
+        !(sides[1] < sides[3])) {
+        throw Error(kExtentColumn,
+                    "must be left, bottom, right and top: four numbers "
+                    "with one space between two");
+    }
+    return {sides[0], sides[1], sides[2], sides[3]};
+}
+
+PageChanges ChangesIn(const std::vector<std::string>& columns,
+                      const std::vector<std::string>& textColumns,
+                      const CsvRecord& record, const host::FilePaths& paths) {
+    PageChanges changes;
+    for (std::size_t i = 0; i < columns.size(); ++i) {
+        const std::string& value = record.fields[i];
+        if (value.empty()) {
+            continue;
+        }
+        if (columns[i] == kRastersColumn) {
+            changes.rasters = RastersIn(value, paths);
+        } else if (columns[i] == kExtentColumn) {
+            changes.extent = ExtentIn(value);
+        } else if (ColumnOf(textColumns, columns[i]) != kNoColumn) {
+            changes.texts.emplace_back(columns[i], value);
+        }
+    }
+    return changes;
+}
+
+/// All that are neither known by name nor only there for the outputs' names.
+std::vector<std::string> TextColumnsOf(const std::vector<std::string>& columns) {
+    std::vector<std::string> texts;
+    for (const std::string& column : columns) {
+        if (column.empty()) {
+            throw Error("line 1", "has a column without a name");
+        }
+        if (std::count(columns.begin(), columns.end(), column) > 1) {
+            throw Error("line 1", "names the column \"" + column + "\" twice");
+        }
+        if (column != kRastersColumn && column != kExtentColumn) {
+            texts.push_back(column);
+        }
+    }
+    return texts;
+}
+
+std::vector<CsvRecord> RecordsOf(const std::string& path) {
+    struct stat status = {};
+    if (stat(path.c_str(), &status) != 0) {
+        throw Error(std::generic_category().message(errno));
+    }
+    if (!S_ISREG(status.st_mode)) {
+        throw Error("is not a file");
+    }
+    std::ifstream file(path, std::ios::binary);
+    return ReadCsv({std::istreambuf_iterator<char>(file), {}});
+}
+
+void CheckOutputsDiffer(const std::vector<SeriesPage>& pages) {
+    std::map<std::string, std::size_t> lines;
+    for (const SeriesPage& page : pages) {
+        const auto [known, isNew] = lines.emplace(page.output, page.line);
+        if (!isNew && page.error.empty()) {
+            throw Error("lines " + std::to_string(known->second) + " and " +
+                            std::to_string(page.line),
+                        "have one output, " + page.output);
+        }
+    }
+}
+
+SeriesPage PageOf(const CsvRecord& record, const std::vector<std::string>& columns,
+                  const SeriesList& list, const std::vector<NamePiece>& pieces,
+                  const host::FilePaths& paths) {
+    SeriesPage page;
+    page.line = record.line;
+    try {
+        if (record.fields.size() != columns.size()) {
+            throw Error("has " + std::to_string(record.fields.size()) + " fields, not " +
+                        std::to_string(columns.size()));
+        }
+        page.changes = ChangesIn(columns, list.textColumns, record, paths);
+        page.output = NameFrom(pieces, columns, record);
+    } catch (const Error& error) {
+        page.error = error.what();
+        page.output = "line " + std::to_string(record.line);  // of no other row
+    }
+    return page;
+}
+
+SeriesList Read(const std::string& path, const std::string& output) {
+    const std::vector<CsvRecord> records = RecordsOf(path);
+    if (records.empty()) {
+        throw Error("has no first row with the names of columns");
+    }
+    const std::vector<std::string>& columns = records.front().fields;
+    SeriesList list;
+    list.textColumns = TextColumnsOf(columns);
+    const std::vector<NamePiece> pieces = PiecesOf(output, columns);
+    const host::FilePaths paths(path);
+    for (std::size_t i = 1; i < records.size(); ++i) {
+        list.pages.push_back(PageOf(records[i], columns, list, pieces, paths));
+    }
+    CheckOutputsDiffer(list.pages);
+    // A column in the name may be there for that alone.
+    for (const NamePiece& piece : pieces) {
+        if (piece.column != kNoColumn) {
+            list.nameColumns.push_back(columns[piece.column]);
+        }
+    }
+    return list;
+}
+
+}  // namespace
+
+SeriesList ReadSeries(const std::string& path, const std::string& output) {
+    try {
+        return Read(path, output);
+    } catch (const Error& error) {
+        throw Error(path, error.what());
+    }
+}
+
+}  // namespace map_page

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+#include "map_page/page_changes.h"
+
+namespace map_page {
+
+/// One page of a series, from a row of its list.
+struct SeriesPage {
+    std::size_t line = 0;  ///< of the list, counted from 1
+    std::string output;
+    PageChanges changes;
+    std::string error;  ///< why it cannot be drawn; empty for none
+};
+
+/// A series of pages, from a list of comma-separated values whose first row names the
+/// columns (see docs/series.md).
+struct SeriesList {
+    /// Columns that set the text of the element of that name, where there is one.
+    std::vector<std::string> textColumns;
+    /// Columns in the outputs' names, which need no other use.
+    std::vector<std::string> nameColumns;
+    std::vector<SeriesPage> pages;
+};
+
+/// Reads a list.
+/// @param path of the list; its rasters are relative to its folder
+/// @param output name of the outputs, in which {column} is the row's value. Slashes and
+/// control characters in a value, and a dot at its start, become underscores, so that no
+/// value leads into another folder.
+/// Throws Error for a list that is none, a column without a name or with another's, a
+/// placeholder of no column, and two rows with one output.
+SeriesList ReadSeries(const std::string& path, const std::string& output);
+
+}  // namespace map_page

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <gdiplus.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+
+#include "map_page/run_map_page.h"
+#include "page/made_raster.h"
+#include "png_encoder.h"
+#include "scratch_folder.h"
+
+namespace host_tests {
+
+/// A folder with data/scene.tif, data/classes.tif on the same ground, and logo.png.
+class PageFileTest : public ::testing::Test {
+protected:
+    PageFileTest() {
+        std::filesystem::create_directory(folder.Path("data"));
+        WriteScene(folder.Path("data/scene.tif"), 120, 120);
+        MadeRaster classes;
+        classes.transform = {500000.0, 450.0, 0.0, 9000000.0, 0.0, -450.0};
+        classes.projection = "EPSG:32725";
+        WriteRaster(folder.Path("data/classes.tif"), classes);
+        Gdiplus::Bitmap logo(64, 48, PixelFormat32bppARGB);
+        {
+            Gdiplus::Graphics graphics(&logo);
+            graphics.Clear(Gdiplus::Color(0, 128, 0));
+        }
+        const std::string path = folder.Path("logo.png");
+        logo.Save(std::wstring(path.begin(), path.end()).c_str(), &kPngEncoder);
+    }
+
+    Result Run(const Arguments& arguments) const { return RunMapPage(folder, arguments); }
+
+    ScratchFolder folder;
+};
+
+}  // namespace host_tests

@@ -1,0 +1,184 @@
+// map_page --series: a page for each row of a list.
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <vector>
+
+#include "map_page/page_file_folder.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+using host_tests::Arguments;
+using host_tests::ContentsOf;
+using host_tests::Result;
+
+class Series : public host_tests::PageFileTest {
+protected:
+    Series() {
+        EXPECT_EQ(
+            Run({"data/scene.tif", "--title", "A scene", "--save", "page.json"}).status,
+            0);
+        fs::create_directory(folder.Path("out"));
+    }
+
+    void WriteList(const std::string& text) const {
+        std::ofstream(folder.Path("list.csv")) << text;
+    }
+
+    Result Draw(const std::string& output = "out/{name}.png",
+                const std::string& jobs = "2") const {
+        return Run({"page.json", "--series", "list.csv", "-o", output, "--dpi", "50",
+                    "--jobs", jobs});
+    }
+
+    std::vector<std::string> Outputs() const {
+        std::vector<std::string> names;
+        for (const auto& entry : fs::directory_iterator(folder.Path("out"))) {
+            names.push_back(entry.path().filename().string());
+        }
+        std::sort(names.begin(), names.end());
+        return names;
+    }
+};
+
+TEST_F(Series, DrawsAPageForEachRow) {
+    WriteList(
+        "name,title,rasters,extent\r\n"
+        "same,,,\r\n"
+        "titled,\"Another, \"\"longer\"\" title\",,\r\n"
+        "classes,,data/classes.tif;data/scene.tif,\r\n"
+        "part,,,500300 8998200 500900 8998800\r\n");
+    for (const char* jobs : {"1", "4"}) {
+        const Result result = Draw("out/{name}.png", jobs);
+        EXPECT_EQ(result.status, 0);
+        EXPECT_EQ(result.err, "");
+        EXPECT_EQ(result.out, "list.csv: 4 drawn, 0 already there, 0 failed\n");
+        EXPECT_EQ(Outputs(), (std::vector<std::string>{"classes.png", "part.png",
+                                                       "same.png", "titled.png"}));
+        ASSERT_EQ(Run({"page.json", "-o", "one.png", "--dpi", "50"}).status, 0);
+        const std::string one = ContentsOf(folder.Path("one.png"));
+        EXPECT_TRUE(ContentsOf(folder.Path("out/same.png")) == one);
+        for (const char* other : {"classes.png", "part.png", "titled.png"}) {
+            EXPECT_FALSE(ContentsOf(folder.Path(std::string("out/") + other)) == one);
+            fs::remove(folder.Path(std::string("out/") + other));
+        }
+        fs::remove(folder.Path("out/same.png"));
+    }
+}
+
+TEST_F(Series, TellsAFailingRowByItsLineAndGoesOn) {
+    WriteList(
+        "name,title,rasters,extent\n"
+        "a,\"two\nlines\",,\n"
+        "b,,data/none.tif,\n"
+        "c,,,1 2 3\n"
+        "d,,,5 5 1 9\n"
+        "e,x\n"
+        ",x,,\n"
+        "f,,data/scene.tif;,\n"
+        "g,,,\n");
+    const Result result = Draw();
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.out, "");
+    const std::string notFour =
+        ": extent: must be left, bottom, right and top: four numbers with one space "
+        "between two\n";
+    EXPECT_THAT(
+        result.err,
+        ::testing::AllOf(
+            ::testing::HasSubstr("map_page: list.csv: line 4: page.json: "
+                                 "elements[1].rasters: data/none.tif: no such file\n"),
+            ::testing::HasSubstr("map_page: list.csv: line 5" + notFour),
+            ::testing::HasSubstr("map_page: list.csv: line 6" + notFour),
+            ::testing::HasSubstr("map_page: list.csv: line 7: has 2 fields, not 4\n"),
+            ::testing::HasSubstr(
+                "map_page: list.csv: line 8: name: is empty, and part of the output's "
+                "name\n"),
+            ::testing::HasSubstr("map_page: list.csv: line 9: rasters: has an empty "
+                                 "name\n"),
+            ::testing::EndsWith(
+                "map_page: list.csv: 2 drawn, 0 already there, 6 failed\n")));
+    EXPECT_EQ(std::count(result.err.begin(), result.err.end(), '\n'), 7);
+    EXPECT_EQ(Outputs(), (std::vector<std::string>{"a.png", "g.png"}));
+}
+
+TEST_F(Series, LeavesWhatIsThereAndDrawsTheRest) {
+    WriteList("name,title\na,A\nb,B\n");
+    std::ofstream(folder.Path("out/a.png")) << "what was drawn before";
+    const Result result = Draw();
+    EXPECT_EQ(result.status, 0) << result.err;
+    EXPECT_EQ(result.out, "list.csv: 1 drawn, 1 already there, 0 failed\n");
+    EXPECT_EQ(ContentsOf(folder.Path("out/a.png")), "what was drawn before");
+}
+
+TEST_F(Series, NoValueLeadsIntoAnotherFolder) {
+    WriteList("name,title\n../../a/b,A\n..,B\n/etc/c,C\n");
+    const Result result = Draw();
+    EXPECT_EQ(result.status, 0) << result.err;
+    EXPECT_EQ(Outputs(),
+              (std::vector<std::string>{"_..png", "_._.._a_b.png", "_etc_c.png"}));
+}
+
+TEST_F(Series, WarnsWithTheLine) {
+    MadeRaster elsewhere;
+    WriteRaster(folder.Path("data/plain.tif"), elsewhere);
+    WriteList("name,rasters\na,data/scene.tif;data/plain.tif\n");
+    const Result result = Draw();
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.err,
+              "map_page: warning: list.csv: line 2: data/plain.tif: left off the map: it "
+              "has no georeference\n");
+}
+
+struct WrongRow {
+    std::string list;
+    std::string output;
+    std::string error;
+};
+
+TEST_F(Series, TellsAListThatIsNoneBeforeDrawing) {
+    const WrongRow rows[] = {
+        {"", "out/{name}.png", "list.csv: has no first row with the names of columns"},
+        {"name,\na,b\n", "out/{name}.png",
+         "list.csv: line 1: has a column without a name"},
+        {"name,name\na,b\n", "out/{name}.png",
+         "list.csv: line 1: names the column \"name\" twice"},
+        {"name\n\"a\n", "out/{name}.png",
+         "list.csv: line 2: has a quote that is not closed"},
+        {"name\na\n", "out/{nam}.png",
+         "list.csv: out/{nam}.png: the list has no column \"nam\""},
+        {"name\na\n", "out/{name.png", "list.csv: out/{name.png: has a { without }"},
+        {"name\na\nb\n", "out/page.png",
+         "list.csv: lines 2 and 3: have one output, out/page.png"},
+        {"name\na\nb\na\n", "out/{name}.png",
+         "list.csv: lines 2 and 4: have one output, out/a.png"},
+        {"name\na/b\na_b\n", "out/{name}.png",
+         "list.csv: lines 2 and 3: have one output, out/a_b.png"},
+        {"name,titel\na,b\n", "out/{name}.png",
+         "list.csv: the column \"titel\" is no element with a text in page.json, and not "
+         "in the output's name"},
+        {"name\na\n", "out/{name}.gif",
+         "out/{name}.gif: ends in none of .png .jpg .jpeg .bmp .tif .tiff"},
+    };
+    for (const WrongRow& row : rows) {
+        WriteList(row.list);
+        const Result result = Draw(row.output);
+        EXPECT_EQ(result.status, 1);
+        EXPECT_EQ(result.err, "map_page: " + row.error + "\n");
+        EXPECT_EQ(Outputs(), std::vector<std::string>{});
+    }
+    fs::remove(folder.Path("list.csv"));
+    EXPECT_EQ(Draw().err, "map_page: list.csv: No such file or directory\n");
+    EXPECT_EQ(Run({"data/scene.tif", "--series", "list.csv", "-o", "a.png"}).err,
+              "map_page: --series: goes with a page file only\n");
+    EXPECT_EQ(Run({"page.json", "--jobs", "2", "-o", "a.png"}).err,
+              "map_page: --jobs: goes with --series only\n");
+}
+
+}  // namespace
