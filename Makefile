@@ -9,6 +9,8 @@
     coverage \
     demo \
     docs \
+    editor \
+    editor-test \
     format \
     fuzz \
     gallery \
@@ -111,6 +113,13 @@ gallery: build/release/build.ninja
 images: gallery
 	scripts/check_images --keep build/gallery
 
+editor: build/editor/build.ninja
+	cmake --build --preset editor --target page_editor
+
+editor-test: build/editor/build.ninja
+	cmake --build --preset editor
+	QT_QPA_PLATFORM=offscreen ctest --preset editor
+
 bench: build/bench/build.ninja
 	cmake --build --preset bench --target library_bench
 	build/bench/bench/library/library_bench --benchmark_out=build/bench/figures.json
@@ -143,7 +152,7 @@ format:
 	scripts/install_packages lint
 	git ls-files '*.h' '*.cpp' | xargs clang-format -i
 
-lint: build/release/build.ninja
+lint: build/release/build.ninja build/editor/build.ninja
 	scripts/install_packages lint
 	scripts/lint
 
@@ -151,6 +160,7 @@ clean:
 	rm -rf build
 
 purpose_of_demo = demo
+purpose_of_editor = editor
 purpose_of_bench = bench
 purpose_of_bench-page = bench-page
 purpose_of_package = package

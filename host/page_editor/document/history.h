@@ -1,0 +1,77 @@
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace page_editor {
+
+/// Items of a page by their place in its order, ascending.
+using Indices = std::vector<std::size_t>;
+
+/// An item as host::WriteItem writes it. States of a page share the texts of what did not
+/// change between them, so that the same pointer means the same item.
+using ItemText = std::shared_ptr<const std::string>;
+
+/// A page at some time, and what was selected then.
+struct PageState {
+    double width = 0.0;
+    double height = 0.0;
+    std::vector<ItemText> items;
+    Indices selection;
+};
+
+/// The states that a page went through, one after each command, for going back and forth
+/// among them. The oldest are forgotten beyond a few hundred.
+class History {
+public:
+    static constexpr std::size_t kMostStates = 500;
+
+    /// Begins anew at a state, which counts as saved.
+    void Reset(PageState state);
+
+    /// The state after a command; what was undone is forgotten.
+    /// @param label the command, as a menu names it: "Move"
+    /// @param merge when it is not empty and the last command had the same, both become
+    /// one: a row of small steps is undone at once
+    void Push(PageState state, std::string label, std::string merge);
+
+    const PageState& Current() const { return m_entries[m_current].state; }
+    /// Keeps the selection of the current state up to date.
+    void SetSelection(Indices selection);
+    /// The next command is a command of its own.
+    void EndMerging() { m_entries[m_current].merge.clear(); }
+
+    bool CanUndo() const { return m_current > 0; }
+    bool CanRedo() const { return m_current + 1 < m_entries.size(); }
+    /// The states that undoing and redoing lead to; only where they can be.
+    const PageState& Previous() const { return m_entries[m_current - 1].state; }
+    const PageState& Next() const { return m_entries[m_current + 1].state; }
+    void StepBack() { --m_current; }
+    void StepForth() { ++m_current; }
+
+    /// What undoing and redoing would undo and redo; empty where nothing.
+    std::string UndoLabel() const;
+    std::string RedoLabel() const;
+
+    void MarkSaved() { m_saved = m_current; }
+    bool IsSaved() const { return m_saved == m_current; }
+
+private:
+    static constexpr std::size_t kForgotten = static_cast<std::size_t>(-1);
+
+    struct Entry {
+        PageState state;
+        std::string label;  // of the command that led here
+        std::string merge;
+    };
+
+    void ForgetOldest();
+
+    std::vector<Entry> m_entries = {Entry{}};
+    std::size_t m_current = 0;
+    std::size_t m_saved = 0;
+};
+
+}  // namespace page_editor

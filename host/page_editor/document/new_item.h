@@ -1,0 +1,20 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "page/document/item_type.h"
+#include "page/document/raster_store.h"
+#include "page/page.h"
+
+namespace page_editor {
+
+/// A new item as people want to begin with: in the middle of the sheet, of a size that
+/// suits it, a scale bar and a legend for the first map on the page. Throws
+/// host::PageError when a file cannot be used.
+/// @param files the image of a picture, the rasters of a map; not for others
+host::PageItem NewItem(const host::ItemType& type, const host::Page& page,
+                       host::RasterStore& rasters,
+                       const std::vector<std::string>& files = {});
+
+}  // namespace page_editor

@@ -1,0 +1,131 @@
+#include <cpl_error.h>
+#include <gdiplus.h>
+
+#include <CLI/CLI.hpp>
+#include <QApplication>
+#include <QPixmap>
+#include <QTimer>
+#include <cstdio>
+#include <exception>
+#include <memory>
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "page/output_file.h"
+#include "page_editor/window/editor_window.h"
+
+namespace {
+
+constexpr int kFailed = 1;
+constexpr int kWrongUsage = 2;
+
+struct Options {
+    std::vector<std::string> files;
+    std::string screenshot;
+    std::vector<std::size_t> select;
+};
+
+/// GDI+ for as long as it lives.
+class GdiplusSession {
+public:
+    GdiplusSession() {
+        const Gdiplus::GdiplusStartupInput input;
+        if (Gdiplus::GdiplusStartup(&m_token, &input, nullptr) != Gdiplus::Ok) {
+            throw std::runtime_error("GDI+: cannot be started");
+        }
+    }
+    GdiplusSession(const GdiplusSession&) = delete;
+    GdiplusSession& operator=(const GdiplusSession&) = delete;
+    ~GdiplusSession() { Gdiplus::GdiplusShutdown(m_token); }
+
+private:
+    ULONG_PTR m_token = 0;
+};
+
+/// @return none, after telling, for --help and --version
+std::optional<Options> ReadCommandLine(int argc, char** argv) {
+    Options options;
+    CLI::App app("Lays out the page around a map by hand.", "page_editor");
+    app.add_option("FILE", options.files,
+                   "A page file (.json), or rasters to lay a page out around");
+    app.add_option("--screenshot", options.screenshot,
+                   "Draw the window into this image file and end");
+    app.add_option("--select", options.select,
+                   "Select the elements with these numbers, from 0");
+    app.set_version_flag("--version", std::string(MAP_SURROUND_VERSION));
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::Success& success) {
+        app.exit(success);
+        return std::nullopt;
+    }
+    return options;
+}
+
+void Fail(const std::string& why) {
+    std::fprintf(stderr, "page_editor: %s\n", why.c_str());
+}
+
+bool Open(page_editor::EditorWindow& window, const Options& options) {
+    QStringList files;
+    for (const std::string& file : options.files) {
+        files.append(QString::fromStdString(file));
+    }
+    if (!files.isEmpty() && !window.Files().OpenFiles(files)) {
+        Fail(window.LastFailure().toStdString());
+        return false;
+    }
+    page_editor::Indices selection;
+    for (const std::size_t item : options.select) {
+        if (item >= window.Document().Count()) {
+            Fail("--select: there is no element " + std::to_string(item));
+            return false;
+        }
+        selection.push_back(item);
+    }
+    window.Document().Select(selection);
+    return true;
+}
+
+int TakeScreenshot(page_editor::EditorWindow& window, const std::string& path) {
+    QApplication::processEvents();
+    if (!window.grab().save(QString::fromStdString(path))) {
+        Fail(path + ": cannot be written");
+        return kFailed;
+    }
+    return 0;
+}
+
+int Run(int argc, char** argv) {
+    const std::optional<Options> options = ReadCommandLine(argc, argv);
+    if (!options) {
+        return 0;
+    }
+    const QApplication application(argc, argv);
+    host::RemoveUnfinishedOutputOnSignals();
+    CPLSetErrorHandler(CPLQuietErrorHandler);
+    const GdiplusSession session;
+    page_editor::EditorWindow window;
+    window.show();
+    if (!Open(window, *options)) {
+        return kFailed;
+    }
+    return options->screenshot.empty() ? QApplication::exec()
+                                       : TakeScreenshot(window, options->screenshot);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    try {
+        return Run(argc, argv);
+    } catch (const CLI::ParseError& error) {
+        Fail(error.what());
+        return kWrongUsage;
+    } catch (const std::exception& error) {
+        Fail(error.what());
+        return kFailed;
+    }
+}

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QLabel>
+#include <QScrollArea>
+#include <vector>
+
+#include "page/document/item_type.h"
+#include "page_editor/document/page_document.h"
+#include "page_editor/panel/property_field.h"
+
+namespace page_editor {
+
+/// Every property of what is selected, made from the tables of properties: of one item
+/// its own and its frame's, of several of one type the same, else their frames'. A change
+/// is made to all that are selected.
+class PropertyPanel : public QScrollArea {
+    Q_OBJECT
+public:
+    /// @param document outlives this
+    explicit PropertyPanel(PageDocument& document, QWidget* parent = nullptr);
+
+    /// The field of a property shown; null when there is none.
+    PropertyField* Field(const char* name) const;
+
+Q_SIGNALS:
+    /// A value was refused; one line says why.
+    void Failed(const QString& why);
+
+private:
+    struct Row {
+        const host::Property* property;
+        PropertyField* field;
+    };
+
+    const host::ItemType* SharedType() const;
+    void Rebuild();
+    void ShowValues();
+    void AddRows(const QString& title, const std::vector<host::Property>& properties,
+                 QWidget* panel);
+    void Change(const host::Property& property, const host::PropertyValue& value);
+    void Refuse(const host::Property& property, const QString& why);
+
+    PageDocument& m_document;
+    const host::ItemType* m_type = nullptr;
+    bool m_isEmpty = false;
+    std::vector<Row> m_rows;
+};
+
+}  // namespace page_editor

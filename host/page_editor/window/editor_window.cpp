@@ -1,0 +1,192 @@
+#include "page_editor/window/editor_window.h"
+
+#include <QCloseEvent>
+#include <QDockWidget>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QInputDialog>
+#include <QStatusBar>
+#include <exception>
+#include <utility>
+
+#include "page/paper.h"
+#include "page_editor/document/new_item.h"
+#include "page_editor/document/property_change.h"
+#include "page_editor/window/actions.h"
+
+namespace page_editor {
+namespace {
+
+constexpr int kPanelWidth = 300;
+constexpr int kTold = 8000;  // milliseconds
+
+}  // namespace
+
+EditorWindow::EditorWindow()
+    : m_canvas(new PageCanvas(m_document)),
+      m_panel(new PropertyPanel(m_document)),
+      m_files(new FileCommands(m_document, *this)) {
+    setCentralWidget(m_canvas);
+    auto* const dock = new QDockWidget("Properties", this);
+    dock->setObjectName("properties");
+    dock->setWidget(m_panel);
+    m_panel->setMinimumWidth(kPanelWidth);
+    addDockWidget(Qt::RightDockWidgetArea, dock);
+    AddActions(*this);
+
+    auto* const zoom = new QLabel(this);
+    statusBar()->addPermanentWidget(zoom);
+    connect(m_canvas, &PageCanvas::ZoomChanged, zoom, [zoom](double value) {
+        zoom->setText(QString("%1 %").arg(value * 100.0, 0, 'f', 0));
+    });
+    connect(m_canvas, &PageCanvas::Failed, this, &EditorWindow::ShowFailure);
+    connect(m_panel, &PropertyPanel::Failed, this, &EditorWindow::ShowFailure);
+    connect(m_files, &FileCommands::Failed, this, &EditorWindow::ShowFailure);
+    connect(m_files, &FileCommands::Told, this,
+            [this](const QString& what) { statusBar()->showMessage(what, kTold); });
+    connect(m_files, &FileCommands::PathChanged, this, &EditorWindow::ShowTitle);
+    connect(&m_document, &PageDocument::HistoryChanged, this, &EditorWindow::ShowTitle);
+    ShowTitle();
+    resize(1280, 860);
+    m_canvas->setFocus();
+}
+
+void EditorWindow::Insert(const QString& type, QStringList files) {
+    if (files.isEmpty() && type == "map") {
+        files = QFileDialog::getOpenFileNames(this, "Choose rasters, the first on top");
+    } else if (files.isEmpty() && type == "picture") {
+        files.append(QFileDialog::getOpenFileName(this, "Choose an image"));
+    }
+    const bool needsFiles = type == "map" || type == "picture";
+    if (needsFiles && (files.isEmpty() || files.front().isEmpty())) {
+        return;
+    }
+    Attempt([&] {
+        std::vector<std::string> paths;
+        for (const QString& file : files) {
+            paths.push_back(file.toStdString());
+        }
+        const host::ItemType* const found = host::FindItemType(type.toStdString());
+        m_document.Insert(NewItem(*found, m_document.Page(), m_document.Rasters(), paths),
+                          std::string("Add ") + found->name);
+    });
+}
+
+void EditorWindow::Undo() {
+    Attempt([this] { m_document.Undo(); });
+}
+
+void EditorWindow::Redo() {
+    Attempt([this] { m_document.Redo(); });
+}
+
+void EditorWindow::Duplicate() {
+    Attempt([this] { m_document.DuplicateSelected(); });
+}
+
+void EditorWindow::Align(AlignTo to) {
+    const std::vector<Edges> boxes = SelectedBoxes();
+    if (boxes.empty()) {
+        return;
+    }
+    const host::Page& page = m_document.Page();
+    const Edges sheet = {0.0, 0.0, page.Width(), page.Height()};
+    MoveSelectedBy(AlignOffsets(boxes, to, boxes.size() == 1 ? sheet : Around(boxes)),
+                   "Align");
+}
+
+void EditorWindow::Distribute(Direction direction) {
+    MoveSelectedBy(DistributeOffsets(SelectedBoxes(), direction), "Distribute");
+}
+
+void EditorWindow::Reorder(Order order) {
+    m_document.Rearrange(Reordered(m_document.Count(), m_document.Selection(), order));
+}
+
+void EditorWindow::TurnSelected() {
+    Attempt([this] {
+        m_document.ChangeItems(
+            m_document.Selection(), "Rotate",
+            [this](host::PageItem& item) { TurnByQuarter(item, m_document.Rasters()); });
+    });
+}
+
+void EditorWindow::SelectAll() {
+    Indices all;
+    for (std::size_t i = 0; i < m_document.Count(); ++i) {
+        all.push_back(i);
+    }
+    m_document.Select(std::move(all));
+}
+
+void EditorWindow::SetUpSheet() {
+    bool isGiven = false;
+    const QString paper = QInputDialog::getText(
+        this, "Sheet",
+        "A0 to A6, B0 to B5, Letter, Legal, Tabloid, or millimetres:", QLineEdit::Normal,
+        "297x210", &isGiven);
+    if (isGiven) {
+        SetSheet(paper);
+    }
+}
+
+bool EditorWindow::SetSheet(const QString& paper) {
+    host::PaperSize size;
+    if (!host::ParsePaperSize(paper.trimmed().toStdString(), size)) {
+        ShowFailure(paper +
+                    ": is no sheet; a name or a width and a height from 20 to "
+                    "5000 mm, as 297x210");
+        return false;
+    }
+    m_document.SetSheet(size.width, size.height);
+    return true;
+}
+
+void EditorWindow::closeEvent(QCloseEvent* event) {
+    if (m_files->MayDiscard()) {
+        event->accept();
+    } else {
+        event->ignore();
+    }
+}
+
+void EditorWindow::ShowTitle() {
+    const QString name =
+        m_files->Path().isEmpty() ? "New page" : QFileInfo(m_files->Path()).fileName();
+    setWindowTitle(name + "[*] – Page editor");
+    setWindowModified(m_document.IsModified());
+}
+
+void EditorWindow::ShowFailure(const QString& why) {
+    m_lastFailure = why;
+    statusBar()->showMessage(why);
+}
+
+void EditorWindow::Attempt(const std::function<void()>& step) {
+    try {
+        step();
+    } catch (const std::exception& error) {
+        ShowFailure(QString::fromStdString(error.what()));
+    }
+}
+
+std::vector<Edges> EditorWindow::SelectedBoxes() const {
+    std::vector<Edges> boxes;
+    for (const std::size_t item : m_document.Selection()) {
+        boxes.push_back(EdgesOf(m_document.Extent(item)));
+    }
+    return boxes;
+}
+
+void EditorWindow::MoveSelectedBy(const std::vector<CPoint2D>& offsets,
+                                  const std::string& label) {
+    Attempt([&] {
+        const Indices& selection = m_document.Selection();
+        for (std::size_t i = 0; i < selection.size(); ++i) {
+            m_document.Frame(selection[i]).SetOffset(offsets[i].x, offsets[i].y);
+        }
+        m_document.Commit(label);
+    });
+}
+
+}  // namespace page_editor

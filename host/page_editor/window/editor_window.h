@@ -1,0 +1,64 @@
+#pragma once
+
+#include <QLabel>
+#include <QMainWindow>
+#include <QStringList>
+#include <functional>
+
+#include "page_editor/canvas/page_canvas.h"
+#include "page_editor/document/arrange.h"
+#include "page_editor/document/page_document.h"
+#include "page_editor/panel/property_panel.h"
+#include "page_editor/window/file_commands.h"
+
+namespace page_editor {
+
+/// The editor's window: the page in the middle, the properties of what is selected beside
+/// it, every command in the menus. GDI+ must have been started.
+class EditorWindow : public QMainWindow {
+    Q_OBJECT
+public:
+    EditorWindow();
+
+    PageDocument& Document() { return m_document; }
+    PageCanvas& Canvas() { return *m_canvas; }
+    PropertyPanel& Panel() { return *m_panel; }
+    FileCommands& Files() { return *m_files; }
+
+    /// Puts a new element of a type on the page; asks for files where none are given and
+    /// the type needs some.
+    void Insert(const QString& type, QStringList files = {});
+    void Undo();
+    void Redo();
+    void Duplicate();
+    void Align(AlignTo to);
+    void Distribute(Direction direction);
+    void Reorder(Order order);
+    void TurnSelected();
+    void SelectAll();
+    /// Asks for the size of the sheet.
+    void SetUpSheet();
+    /// @return false, and nothing is changed, when the text is no sheet
+    bool SetSheet(const QString& paper);
+
+    /// The last line that told of something that failed.
+    const QString& LastFailure() const { return m_lastFailure; }
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void ShowTitle();
+    void ShowFailure(const QString& why);
+    void Attempt(const std::function<void()>& step);
+    std::vector<Edges> SelectedBoxes() const;
+    void MoveSelectedBy(const std::vector<CPoint2D>& offsets, const std::string& label);
+
+    PageDocument m_document;
+    PageCanvas* m_canvas;
+    PropertyPanel* m_panel;
+    FileCommands* m_files;
+    QString m_lastFailure;
+};
+
+}  // namespace page_editor

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <QWidget>
+#include <functional>
+
+#include "page_editor/document/page_document.h"
+
+namespace page_editor {
+
+/// Opening, saving and exporting the page, with the questions that go with it. What
+/// fails is told in one line and changes nothing.
+class FileCommands : public QObject {
+    Q_OBJECT
+public:
+    /// @param document, window outlive this; dialogs stand before the window
+    FileCommands(PageDocument& document, QWidget& window);
+
+    /// The page's file; empty for a page without one.
+    const QString& Path() const { return m_path; }
+
+    /// Asks what to do with unsaved work, when there is some.
+    /// @return whether the page may go
+    bool MayDiscard();
+
+    /// Each asks about unsaved work first, and for a name where none is given.
+    void New();
+    void Open();
+    /// @param paths a page file, or rasters to lay a page out around
+    bool OpenFiles(const QStringList& paths);
+
+    bool Save();
+    bool SaveAs();
+    bool SaveTo(const QString& path);
+
+    void Export();
+    bool ExportTo(const QString& path, double dpi);
+
+Q_SIGNALS:
+    void PathChanged();
+    void Failed(const QString& why);
+    /// What was done, or is not as it was asked for.
+    void Told(const QString& what);
+
+private:
+    bool Attempt(const std::function<void()>& step);
+    void SetPath(const QString& path);
+
+    PageDocument& m_document;
+    QWidget& m_window;
+    QString m_path;
+};
+
+}  // namespace page_editor
