@@ -1,0 +1,146 @@
+#include "page_editor/editor_fixture.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QMouseEvent>
+#include <QtTest>
+#include <algorithm>
+#include <cstdlib>
+
+#include "page/document/item_type.h"
+#include "page/page_image.h"
+
+namespace editor_tests {
+
+using page_editor::Edges;
+
+namespace {
+
+/// Where the edge of what is drawn anew cuts through a smoothed outline, a pixel may be
+/// covered by a hair more or less.
+constexpr int kHair = 3;
+
+int MostDifference(const QImage& a, const QImage& b) {
+    int most = a.size() == b.size() ? 0 : 255;
+    for (int y = 0; y < a.height() && most < 255; ++y) {
+        for (int x = 0; x < a.width(); ++x) {
+            const QRgb one = a.pixel(x, y);
+            const QRgb other = b.pixel(x, y);
+            most = std::max({most, std::abs(qRed(one) - qRed(other)),
+                             std::abs(qGreen(one) - qGreen(other)),
+                             std::abs(qBlue(one) - qBlue(other))});
+        }
+    }
+    return most;
+}
+
+}  // namespace
+
+EditorTest::EditorTest() {
+    window.show();
+    QApplication::processEvents();
+    canvas.SetZoom(1.0);
+}
+
+std::size_t EditorTest::Add(const char* type, const Edges& box,
+                            const QStringList& files) {
+    window.Insert(type, files);
+    EXPECT_EQ(window.LastFailure().toStdString(), "");
+    const std::size_t item = document.Count() - 1;
+    document.ChangeItems({item}, "Place", [&](host::PageItem& added) {
+        page_editor::FrameOf(added).SetExtent(box.Box());
+    });
+    document.Select({});
+    return item;
+}
+
+Edges EditorTest::BoxOf(std::size_t item) {
+    return page_editor::EdgesOf(document.Extent(item));
+}
+
+Edges EditorTest::BoxOf(std::size_t item, const host::Page& page) {
+    return page_editor::EdgesOf(page_editor::FrameOf(page.Items()[item]).GetExtent());
+}
+
+host::PropertyValue EditorTest::Value(std::size_t index, const char* name) {
+    const host::PageItem& item = document.Page().Items()[index];
+    const host::Property* property =
+        host::FindProperty(host::TypeOf(item)->properties, name);
+    if (property == nullptr) {
+        property = host::FindProperty(host::FrameProperties(), name);
+    }
+    EXPECT_NE(property, nullptr) << name;
+    return property->read(item);
+}
+
+void EditorTest::Send(QEvent::Type type, CPoint2D at, Qt::MouseButton button,
+                      Qt::MouseButtons buttons, Qt::KeyboardModifiers modifiers) {
+    const QPointF point = canvas.CurrentView().ToWidget(at);
+    QMouseEvent event(type, point, canvas.viewport()->mapToGlobal(point), button, buttons,
+                      modifiers);
+    QApplication::sendEvent(canvas.viewport(), &event);
+}
+
+void EditorTest::Press(CPoint2D at, Qt::KeyboardModifiers modifiers) {
+    Send(QEvent::MouseButtonPress, at, Qt::LeftButton, Qt::LeftButton, modifiers);
+}
+
+void EditorTest::MoveTo(CPoint2D at, Qt::KeyboardModifiers modifiers) {
+    Send(QEvent::MouseMove, at, Qt::NoButton, Qt::LeftButton, modifiers);
+}
+
+void EditorTest::Release(CPoint2D at, Qt::KeyboardModifiers modifiers) {
+    Send(QEvent::MouseButtonRelease, at, Qt::LeftButton, Qt::NoButton, modifiers);
+}
+
+void EditorTest::Click(CPoint2D at, Qt::KeyboardModifiers modifiers) {
+    Press(at, modifiers);
+    Release(at, modifiers);
+}
+
+void EditorTest::DragTo(CPoint2D from, CPoint2D to, Qt::KeyboardModifiers modifiers) {
+    constexpr int kSteps = 5;
+    Press(from, modifiers);
+    for (int step = 1; step <= kSteps; ++step) {
+        const double part = static_cast<double>(step) / kSteps;
+        MoveTo(CPoint2D(from.x + (to.x - from.x) * part, from.y + (to.y - from.y) * part),
+               modifiers);
+    }
+    Release(to, modifiers);
+}
+
+void EditorTest::Key(Qt::Key key, Qt::KeyboardModifiers modifiers) {
+    QTest::keyClick(&canvas, key, modifiers);
+}
+
+void EditorTest::Command(const char* name) {
+    auto* const action = window.findChild<QAction*>(name);
+    ASSERT_NE(action, nullptr) << name;
+    EXPECT_TRUE(action->isEnabled()) << name;
+    action->trigger();
+}
+
+void EditorTest::ExpectImageIsThePage() {
+    const double dpi = canvas.Zoom() * 96.0;
+    EXPECT_LE(MostDifference(canvas.Image(), DrawnWhole(document.Page(), dpi)), kHair);
+}
+
+void ExpectBox(const Edges& box, const Edges& expected) {
+    EXPECT_NEAR(box.left, expected.left, 1e-6);
+    EXPECT_NEAR(box.bottom, expected.bottom, 1e-6);
+    EXPECT_NEAR(box.right, expected.right, 1e-6);
+    EXPECT_NEAR(box.top, expected.top, 1e-6);
+}
+
+QImage DrawnWhole(const host::Page& page, double dpi) {
+    host::PageImage image(host::PixelSize(page, dpi));
+    {
+        Gdiplus::Graphics graphics(&image.Bitmap());
+        page.Draw(graphics, dpi);
+    }
+    const host::PixelRows rows = image.Rows();
+    return QImage(rows.first, rows.width, rows.height, rows.stride, QImage::Format_RGB32)
+        .copy();
+}
+
+}  // namespace editor_tests

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QEvent>
+#include <QImage>
+#include <QPointF>
+#include <string>
+
+#include "page_editor/window/editor_window.h"
+#include "scratch_folder.h"
+
+namespace editor_tests {
+
+/// An editor's window at 100 % with an empty A4 sheet, and what a person does to it.
+class EditorTest : public ::testing::Test {
+protected:
+    EditorTest();
+
+    /// Adds an element of a type whose frame is the box, and lets nothing be selected.
+    std::size_t Add(const char* type, const page_editor::Edges& box,
+                    const QStringList& files = {});
+
+    page_editor::Edges BoxOf(std::size_t item);
+    page_editor::Edges BoxOf(std::size_t item, const host::Page& page);
+    host::PropertyValue Value(std::size_t item, const char* property);
+
+    /// The pointer, at points of the page.
+    void Press(CPoint2D at, Qt::KeyboardModifiers modifiers = {});
+    void MoveTo(CPoint2D at, Qt::KeyboardModifiers modifiers = {});
+    void Release(CPoint2D at, Qt::KeyboardModifiers modifiers = {});
+    void Click(CPoint2D at, Qt::KeyboardModifiers modifiers = {});
+    /// Presses, moves there in a few steps, and lets go.
+    void DragTo(CPoint2D from, CPoint2D to, Qt::KeyboardModifiers modifiers = {});
+
+    void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = {});
+    /// Runs the command of a menu.
+    void Command(const char* name);
+
+    /// Fails unless the canvas shows what drawing the whole page gives.
+    void ExpectImageIsThePage();
+
+    ScratchFolder folder;
+    page_editor::EditorWindow window;
+    page_editor::PageDocument& document = window.Document();
+    page_editor::PageCanvas& canvas = window.Canvas();
+    page_editor::PropertyPanel& panel = window.Panel();
+
+private:
+    void Send(QEvent::Type type, CPoint2D at, Qt::MouseButton button,
+              Qt::MouseButtons buttons, Qt::KeyboardModifiers modifiers);
+};
+
+void ExpectBox(const page_editor::Edges& box, const page_editor::Edges& expected);
+
+/// Drawn anew, without anything of an editor.
+QImage DrawnWhole(const host::Page& page, double dpi);
+
+}  // namespace editor_tests

@@ -1,0 +1,271 @@
+#include "page_editor/panel/property_panel.h"
+
+#include <gmock/gmock.h>
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QSpinBox>
+#include <QtTest>
+#include <cmath>
+
+#include "page/made_raster.h"
+#include "page_editor/editor_fixture.h"
+
+namespace {
+
+using editor_tests::EditorTest;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+
+constexpr page_editor::Edges kBox = {300.0, 300.0, 500.0, 360.0};
+
+class PropertyPanel : public EditorTest {
+protected:
+    /// Selects a new element.
+    std::size_t Select(const char* type, const QStringList& files = {}) {
+        const std::size_t item = Add(type, kBox, files);
+        document.Select({item});
+        return item;
+    }
+
+    template <class Widget>
+    Widget* In(const char* property, const char* name = "") {
+        page_editor::PropertyField* const field = panel.Field(property);
+        Widget* const widget =
+            field == nullptr ? nullptr : field->findChild<Widget*>(name);
+        EXPECT_NE(widget, nullptr) << property;
+        return widget;
+    }
+
+    /// Types a text in place of what stands there, and Enter.
+    void Type(const char* property, const QString& text, const char* name = "") {
+        auto* const line = In<QLineEdit>(property, name);
+        ASSERT_NE(line, nullptr);
+        line->selectAll();
+        QTest::keyClicks(line, text);
+        QTest::keyClick(line, Qt::Key_Return);
+    }
+
+    std::string LastFailure() { return window.LastFailure().toStdString(); }
+    std::string Path(const char* name) { return folder.Path(name); }
+};
+
+TEST_F(PropertyPanel, HasAFieldForEveryPropertyOfEveryType) {
+    WriteScene(Path("scene.tif"), 60, 40);
+    for (const host::ItemType& type : host::ItemTypes()) {
+        const std::string name = type.name;
+        Select(type.name, name == "map"
+                              ? QStringList(QString::fromStdString(Path("scene.tif")))
+                          : name == "picture" ? QStringList(MAP_SURROUND_PICTURE)
+                                              : QStringList());
+        for (const host::Property& property : type.properties) {
+            EXPECT_NE(panel.Field(property.name), nullptr) << name << property.name;
+        }
+        for (const host::Property& property : host::FrameProperties()) {
+            EXPECT_NE(panel.Field(property.name), nullptr) << name << property.name;
+        }
+    }
+    document.Select({});
+    EXPECT_EQ(panel.Field("left"), nullptr);
+}
+
+TEST_F(PropertyPanel, ChangesAText) {
+    const std::size_t title = Select("title");
+    Type("text", "Olinda");
+    EXPECT_EQ(std::get<std::string>(Value(title, "text")), "Olinda");
+    EXPECT_EQ(document.UndoLabel(), "Change text");
+    ExpectImageIsThePage();
+    Command("undo");
+    EXPECT_EQ(std::get<std::string>(Value(title, "text")), "Title");
+    EXPECT_EQ(In<QLineEdit>("text")->text(), "Title");
+}
+
+TEST_F(PropertyPanel, MeasuresWhatIsChanged) {
+    const std::size_t title = Select("title");
+    const auto size = std::get<std::int32_t>(Value(title, "size"));
+    const double em = std::get<double>(Value(title, "fontSize"));
+    Type("fontSize", QString::number(em * 3.0));
+    EXPECT_NEAR(std::get<std::int32_t>(Value(title, "size")), 3 * size, 3);
+    EXPECT_EQ(In<QSpinBox>("size")->value(),
+              std::get<std::int32_t>(Value(title, "size")));
+}
+
+TEST_F(PropertyPanel, ChangesANumberAndKeepsItsBits) {
+    const std::size_t title = Select("title");
+    Type("left", "123.45678901234567");
+    EXPECT_EQ(std::get<double>(Value(title, "left")), 123.45678901234567);
+    EXPECT_EQ(In<QLineEdit>("left")->text(), "123.45678901234567");
+    Type("borderWidth", "0.1");
+    EXPECT_EQ(In<QLineEdit>("borderWidth")->text(), "0.1");  // and not a float's digits
+    QTest::keyClick(In<QLineEdit>("borderWidth"), Qt::Key_Up);
+    EXPECT_EQ(In<QLineEdit>("borderWidth")->text(), "1.1");
+    ExpectImageIsThePage();
+}
+
+TEST_F(PropertyPanel, ChangesAnAngle) {
+    const std::size_t arrow = Select("north-arrow-four");
+    Type("angle", "30");
+    EXPECT_EQ(std::get<double>(Value(arrow, "angle")), 30.0);
+    ExpectImageIsThePage();
+}
+
+TEST_F(PropertyPanel, ChangesARatioAndLeavesItUnknown) {
+    const std::size_t title = Select("title");
+    Type("aspectRatio", "2.5");
+    EXPECT_EQ(std::get<double>(Value(title, "aspectRatio")), 2.5);
+    auto* const line = In<QLineEdit>("aspectRatio");
+    line->selectAll();
+    QTest::keyClick(line, Qt::Key_Delete);
+    QTest::keyClick(line, Qt::Key_Return);
+    EXPECT_TRUE(std::isnan(std::get<double>(Value(title, "aspectRatio"))));
+}
+
+TEST_F(PropertyPanel, ChangesAWholeNumber) {
+    const std::size_t bar = Select("scale-bar-alternating");
+    auto* const box = In<QSpinBox>("divisions");
+    box->setValue(7);
+    EXPECT_EQ(std::get<std::int32_t>(Value(bar, "divisions")), 7);
+    ExpectImageIsThePage();
+}
+
+TEST_F(PropertyPanel, ChangesASwitch) {
+    const std::size_t title = Select("title");
+    EXPECT_TRUE(std::get<bool>(Value(title, "border")));
+    In<QCheckBox>("border")->click();
+    EXPECT_FALSE(std::get<bool>(Value(title, "border")));
+    ExpectImageIsThePage();
+    Command("undo");
+    EXPECT_TRUE(In<QCheckBox>("border")->isChecked());
+}
+
+TEST_F(PropertyPanel, ChangesAColour) {
+    const std::size_t title = Select("title");
+    Type("color", "#80ff0010");
+    EXPECT_EQ(std::get<Gdiplus::ARGB>(Value(title, "color")), 0x80FF0010u);
+    EXPECT_EQ(In<QLineEdit>("color")->text(), "#80FF0010");
+    Type("fillColor", "#00FF00");
+    EXPECT_EQ(std::get<Gdiplus::ARGB>(Value(title, "fillColor")), 0xFF00FF00u);
+    ExpectImageIsThePage();
+}
+
+TEST_F(PropertyPanel, ChangesAFont) {
+    const std::size_t title = Select("title");
+    auto* const box = In<QComboBox>("font");
+    box->setEditText("Liberation Serif");
+    QTest::keyClick(box->lineEdit(), Qt::Key_Return);
+    EXPECT_EQ(std::get<std::string>(Value(title, "font")), "Liberation Serif");
+    ExpectImageIsThePage();
+}
+
+TEST_F(PropertyPanel, ChangesAChoice) {
+    const std::size_t title = Select("title");
+    auto* const box = In<QComboBox>("fontStyle");
+    box->setFocus();
+    const int italic = box->findText("italic");
+    box->setCurrentIndex(italic);
+    Q_EMIT box->activated(italic);
+    EXPECT_EQ(std::get<std::int32_t>(Value(title, "fontStyle")), 2);
+    ExpectImageIsThePage();
+}
+
+TEST_F(PropertyPanel, ChangesAFile) {
+    const std::size_t picture = Select("picture", {MAP_SURROUND_PICTURE});
+    Type("path", "no such.png");
+    EXPECT_THAT(LastFailure(), HasSubstr("no such.png: No such file"));
+    EXPECT_EQ(std::get<std::string>(Value(picture, "path")), MAP_SURROUND_PICTURE);
+    EXPECT_EQ(In<QLineEdit>("path")->text(), MAP_SURROUND_PICTURE);
+    const QString copy = QString::fromStdString(Path("copy.png"));
+    ASSERT_TRUE(QFile::copy(MAP_SURROUND_PICTURE, copy));
+    Type("path", copy);
+    EXPECT_EQ(std::get<std::string>(Value(picture, "path")), copy.toStdString());
+    ExpectImageIsThePage();
+}
+
+TEST_F(PropertyPanel, ChangesRasters) {
+    WriteScene(Path("a.tif"), 60, 40);
+    WriteScene(Path("b.tif"), 60, 40);
+    const std::size_t map = Select("map", {QString::fromStdString(Path("a.tif"))});
+    auto* const lines = In<QPlainTextEdit>("rasters");
+    const auto leave = [lines] {
+        QFocusEvent out(QEvent::FocusOut);
+        QCoreApplication::sendEvent(lines, &out);
+    };
+    lines->selectAll();
+    QTest::keyClicks(lines, QString::fromStdString(Path("b.tif")));
+    leave();
+    EXPECT_THAT(std::get<std::vector<std::string>>(Value(map, "rasters")),
+                ElementsAre(Path("b.tif")));
+    ExpectImageIsThePage();
+    lines->selectAll();
+    QTest::keyClicks(lines, "missing.tif");
+    leave();
+    EXPECT_THAT(LastFailure(), HasSubstr("rasters: missing.tif"));
+    EXPECT_THAT(std::get<std::vector<std::string>>(Value(map, "rasters")),
+                ElementsAre(Path("b.tif")));
+}
+
+TEST_F(PropertyPanel, ChangesTheExtentOfAMap) {
+    MadeRaster raster;
+    raster.transform = {100.0, 1.0, 0.0, 200.0, 0.0, -1.0};
+    raster.projection = "EPSG:32725";
+    WriteRaster(Path("a.tif"), raster);
+    const std::size_t map = Select("map", {QString::fromStdString(Path("a.tif"))});
+    In<QCheckBox>("extent")->click();
+    Type("extent", "100", "left");
+    Type("extent", "192", "bottom");
+    Type("extent", "104", "right");
+    EXPECT_FALSE(std::get<std::optional<host::MapExtent>>(Value(map, "extent")));
+    Type("extent", "200", "top");
+    const auto extent = std::get<std::optional<host::MapExtent>>(Value(map, "extent"));
+    ASSERT_TRUE(extent);
+    EXPECT_EQ(extent->right, 104.0);
+    EXPECT_EQ(extent->bottom, 192.0);
+    ExpectImageIsThePage();
+    Type("extent", "90", "right");
+    EXPECT_THAT(LastFailure(), HasSubstr("extent: must have its left below its right"));
+    In<QCheckBox>("extent")->click();
+    EXPECT_FALSE(std::get<std::optional<host::MapExtent>>(Value(map, "extent")));
+}
+
+TEST_F(PropertyPanel, RefusesWhatIsOutOfRangeOrNoValue) {
+    const std::size_t title = Select("title");
+    const std::string before = document.UndoLabel();
+    Type("width", "-1");
+    EXPECT_EQ(LastFailure(), "width: must be from 0 to 1e+06");
+    Type("width", "wide");
+    EXPECT_EQ(LastFailure(), "width: must be a number");
+    Type("width", "nan");
+    EXPECT_EQ(LastFailure(), "width: must be a number");
+    EXPECT_EQ(In<QLineEdit>("width")->text(), "200");
+    Type("color", "red");
+    EXPECT_THAT(LastFailure(), HasSubstr("color: must be a colour"));
+    In<QComboBox>("font")->setEditText("Nobody's Font");
+    QTest::keyClick(In<QComboBox>("font")->lineEdit(), Qt::Key_Return);
+    EXPECT_THAT(LastFailure(), HasSubstr("no font family"));
+    EXPECT_EQ(std::get<std::string>(Value(title, "font")), "Arial");
+    EXPECT_EQ(document.UndoLabel(), before);
+    ExpectImageIsThePage();
+}
+
+TEST_F(PropertyPanel, ChangesAllThatAreSelected) {
+    const std::size_t title = Select("title");
+    const std::size_t arrow = Select("north-arrow-one");
+    document.Select({title, arrow});
+    EXPECT_EQ(panel.Field("text"), nullptr);
+    Type("top", "500");
+    EXPECT_EQ(BoxOf(title).top, 500.0);
+    EXPECT_EQ(BoxOf(arrow).top, 500.0);
+    Command("undo");
+    EXPECT_EQ(BoxOf(title).top, 360.0);
+    EXPECT_EQ(BoxOf(arrow).top, 360.0);
+}
+
+TEST_F(PropertyPanel, FollowsTheCanvas) {
+    Select("north-arrow-one");
+    Key(Qt::Key_Right);
+    EXPECT_EQ(In<QLineEdit>("left")->text(), "301");
+}
+
+}  // namespace

@@ -1,0 +1,99 @@
+#include <gmock/gmock.h>
+
+#include "page/document/item_type.h"
+#include "page/document/page_text.h"
+#include "page/made_raster.h"
+#include "page_editor/editor_fixture.h"
+
+namespace {
+
+using editor_tests::EditorTest;
+using page_editor::Edges;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+
+class Insert : public EditorTest {
+protected:
+    QString Scene() {
+        MadeRaster raster;
+        raster.transform = {290000.0, 30.0, 0.0, 9120000.0, 0.0, -30.0};
+        raster.projection = "EPSG:32725";
+        WriteRaster(folder.Path("scene.tif"), raster);
+        return QString::fromStdString(folder.Path("scene.tif"));
+    }
+
+    QStringList FilesFor(const std::string& type) {
+        return type == "map"       ? QStringList(Scene())
+               : type == "picture" ? QStringList(MAP_SURROUND_PICTURE)
+                                   : QStringList();
+    }
+
+    void ExpectInTheMiddle(std::size_t item) {
+        const Edges box = BoxOf(item);
+        EXPECT_GT(box.Width(), 10.0);
+        EXPECT_GT(box.Height(), 10.0);
+        EXPECT_NEAR(box.MiddleX(), document.Page().Width() / 2.0, 0.1);
+        EXPECT_NEAR(box.MiddleY(), document.Page().Height() / 2.0, 0.1);
+    }
+};
+
+TEST_F(Insert, AddsEveryTypeToAnEmptySheet) {
+    std::size_t count = 0;
+    for (const host::ItemType& type : host::ItemTypes()) {
+        SCOPED_TRACE(type.name);
+        window.Insert(type.name, FilesFor(type.name));
+        ASSERT_EQ(document.Count(), ++count);
+        EXPECT_EQ(host::TypeOf(document.Item(count - 1)), &type);
+        EXPECT_THAT(document.Selection(), ElementsAre(count - 1));
+        ExpectInTheMiddle(count - 1);
+        ExpectImageIsThePage();
+    }
+    while (document.CanUndo()) {
+        Command("undo");
+    }
+    EXPECT_EQ(document.Count(), 0u);
+    while (document.CanRedo()) {
+        Command("redo");
+    }
+    EXPECT_EQ(document.Count(), count);
+    ExpectImageIsThePage();
+}
+
+TEST_F(Insert, AddsNothingThatOneDoesNotSee) {
+    const QImage empty = canvas.Image().copy();
+    for (const host::ItemType& type : host::ItemTypes()) {
+        window.Insert(type.name, FilesFor(type.name));
+        EXPECT_FALSE(canvas.Image() == empty) << type.name;
+        Command("undo");
+        EXPECT_TRUE(canvas.Image() == empty) << type.name;
+    }
+}
+
+TEST_F(Insert, ScaleBarsAreTrueToTheMap) {
+    window.Insert("map", {Scene()});
+    window.Insert("scale-bar-line");
+    // 8 pixels of 30 m across the map's frame.
+    const double perUnit = 8.0 * 30.0 / BoxOf(0).Width();
+    const double value = std::get<double>(Value(1, "divisionValue"));
+    const double length = std::get<double>(Value(1, "divisionLength"));
+    EXPECT_NEAR(value / length, perUnit, 1e-9);
+}
+
+TEST_F(Insert, LegendsExplainTheMap) {
+    window.Insert("map", {Scene()});
+    window.Insert("legend");
+    EXPECT_THAT(std::get<std::vector<std::string>>(Value(1, "rasters")),
+                ElementsAre(folder.Path("scene.tif")));
+    EXPECT_GT(std::get<std::int32_t>(Value(1, "size")), 10);
+}
+
+TEST_F(Insert, TellsWhichFileCannotBeUsed) {
+    window.Insert("map", {"missing.tif"});
+    EXPECT_THAT(window.LastFailure().toStdString(), HasSubstr("missing.tif"));
+    window.Insert("picture", {QString::fromStdString(folder.Path("none.png"))});
+    EXPECT_THAT(window.LastFailure().toStdString(), HasSubstr("none.png: No such file"));
+    EXPECT_EQ(document.Count(), 0u);
+    EXPECT_FALSE(document.CanUndo());
+}
+
+}  // namespace
