@@ -192,7 +192,8 @@ void PageCanvas::mousePressEvent(QMouseEvent* event) {
 }
 
 void PageCanvas::PressAt(QPointF point, Qt::KeyboardModifiers modifiers) {
-    const bool besides = modifiers & (Qt::ShiftModifier | Qt::ControlModifier);
+    const bool besides =
+        modifiers.testFlag(Qt::ShiftModifier) || modifiers.testFlag(Qt::ControlModifier);
     const CPoint2D onPage = m_view.ToPage(point);
     const Hit hit = HitAt(m_document, onPage, HandleTolerance());
     m_pressed = point;

@@ -117,13 +117,14 @@ public:
 
     /// A frame around an element whatever it is; empty ones are as large as the room.
     std::unique_ptr<CSurroundFrame> Any(const host::ItemType& type) {
-        host::PageItem item = type.make();
-        host::MeasureItem(item);
-        Frame frame = std::get<Frame>(std::move(item));
+        Frame frame = std::get<Frame>(type.make());
+        frame->DrawBorder = true;
         if (frame->GetMapSurround() == nullptr) {
             frame->SetExtent(m_room.Box());
-            frame->DrawBorder = true;
             return frame;
+        }
+        if (auto* const legend = dynamic_cast<CMapLegend*>(frame->GetMapSurround())) {
+            Name(*legend);
         }
         auto& placed = static_cast<host::PlacedFrame&>(*frame);
         placed.SetDivisionLength(m_room.Width() / 5.0);
@@ -150,6 +151,13 @@ public:
     }
 
 private:
+    /// A legend of nothing shows its title, so that one sees it.
+    void Name(CMapLegend& legend) const {
+        legend.SetTitleValue(m_design.legend.title);
+        legend.SetTitle(m_design.legend.family);
+        legend.SetFileName(m_design.legend.family);
+    }
+
     PlacedMap m_map;
     host::PageDesign m_design;
     host::Measures m_measures;

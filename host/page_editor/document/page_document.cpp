@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "page/document/page_text.h"
+#include "page/fit_to_map.h"
 #include "page/paper.h"
 
 namespace page_editor {
@@ -49,6 +50,14 @@ bool IsSameArrangement(const PageState& a, const PageState& b) {
     return std::none_of(changed.begin(), changed.end(), [&](std::size_t i) {
         return stands(a.items[i], b.items) || stands(b.items[i], a.items);
     });
+}
+
+/// The text before, where the item is as it was.
+ItemText TextOf(const host::PageItem& item, const ItemText& before) {
+    std::string text = host::WriteItem(item);
+    return before != nullptr && *before == text
+               ? before
+               : std::make_shared<const std::string>(std::move(text));
 }
 
 }  // namespace
@@ -115,6 +124,7 @@ void PageDocument::Commit(const std::string& label, const std::string& merge) {
     const PageState& before = m_history.Current();
     PageState after{m_page.Width(), m_page.Height(), {}, before.selection};
     try {
+        host::FitToMap(m_page);
         for (std::size_t i = 0; i < Count(); ++i) {
             after.items.push_back(TextOf(Item(i), before.items[i]));
         }
@@ -140,7 +150,7 @@ void PageDocument::Revert(const Indices& items) {
 void PageDocument::Insert(host::PageItem item, const std::string& label) {
     std::vector<host::PageItem> items;
     items.push_back(std::move(item));
-    Append(std::move(items), label);
+    Append(items, label);
 }
 
 void PageDocument::RemoveSelected() {
@@ -162,7 +172,7 @@ void PageDocument::DuplicateSelected() {
         copies.push_back(Read(*m_history.Current().items[index]));
         FrameOf(copies.back()).SetOffset(kCopyOffset, -kCopyOffset);
     }
-    Append(std::move(copies), "Duplicate");
+    Append(copies, "Duplicate");
 }
 
 void PageDocument::Rearrange(const Indices& order) {
@@ -212,14 +222,6 @@ void PageDocument::Redo() {
 void PageDocument::MarkSaved() {
     m_history.MarkSaved();
     Q_EMIT HistoryChanged();
-}
-
-/// The text before, where the item is as it was.
-ItemText PageDocument::TextOf(const host::PageItem& item, const ItemText& before) const {
-    std::string text = host::WriteItem(item);
-    return before != nullptr && *before == text
-               ? before
-               : std::make_shared<const std::string>(std::move(text));
 }
 
 host::PageItem PageDocument::Read(const std::string& text) {
@@ -272,13 +274,14 @@ void PageDocument::Do(PageState state, const std::string& label) {
     Announce(before);
 }
 
-void PageDocument::Append(std::vector<host::PageItem> items, const std::string& label) {
+void PageDocument::Append(const std::vector<host::PageItem>& items,
+                          const std::string& label) {
     if (items.empty()) {
         return;
     }
     PageState state = m_history.Current();
     state.selection = Range(Count(), Count() + items.size());
-    for (host::PageItem& item : items) {
+    for (const host::PageItem& item : items) {
         state.items.push_back(TextOf(item, nullptr));
     }
     Do(std::move(state), label);

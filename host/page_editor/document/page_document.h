@@ -50,7 +50,8 @@ public:
     void ChangeItems(const Indices& items, const std::string& label,
                      const std::function<void(host::PageItem&)>& change,
                      const std::string& merge = {});
-    /// Makes what was changed a command; none when nothing was.
+    /// Makes what was changed a command; none when nothing was. Scale bars and arrows
+    /// that are of the map then follow it (see host::FitToMap).
     void Commit(const std::string& label, const std::string& merge = {});
     /// Makes items again what they were after the last command.
     void Revert(const Indices& items);
@@ -87,12 +88,11 @@ Q_SIGNALS:
     void HistoryChanged();
 
 private:
-    ItemText TextOf(const host::PageItem& item, const ItemText& before) const;
     host::PageItem Read(const std::string& text);
     void Show(const PageState& state);
     void Announce(const PageState& before);
     void Do(PageState state, const std::string& label);
-    void Append(std::vector<host::PageItem> items, const std::string& label);
+    void Append(const std::vector<host::PageItem>& items, const std::string& label);
 
     std::unique_ptr<host::RasterStore> m_rasters;
     host::Page m_page;

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "page/document/page_text.h"
+#include "page/fit_to_map.h"
 #include "page/layout.h"
 #include "page/map_layers.h"
 #include "page/output_file.h"
@@ -30,16 +31,18 @@ std::wstring TitleFor(const std::string& path) {
 
 OpenedPage OpenPageFile(const std::string& path) {
     return Naming(path, [&] {
-        OpenedPage opened{
-            std::make_unique<host::RasterStore>(), host::LoadPage(path), {}};
-        host::CheckFilesAndFonts(opened.page);
-        host::OpenRasters(opened.page, *opened.rasters);
-        for (const host::PageItem& item : opened.page.Items()) {
+        host::Page page = host::LoadPage(path);
+        auto rasters = std::make_unique<host::RasterStore>();
+        host::CheckFilesAndFonts(page);
+        host::OpenRasters(page, *rasters);
+        host::FitToMap(page);
+        std::vector<std::string> remarks;
+        for (const host::PageItem& item : page.Items()) {
             if (const host::MapLayers* const map = LayersOf(item)) {
-                RemarkLeftOut(*map, opened.remarks);
+                RemarkLeftOut(*map, remarks);
             }
         }
-        return opened;
+        return OpenedPage{std::move(rasters), std::move(page), std::move(remarks)};
     });
 }
 

@@ -182,7 +182,7 @@ void AddToolBar(EditorWindow& window) {
     for (const char* name :
          {"new", "open", "save", "export", "", "undo", "redo", "", "delete", "duplicate",
           "rotate", "", "up", "down", "", "zoomOut", "zoomIn", "zoomFit"}) {
-        QAction* const action = window.findChild<QAction*>(QString::fromUtf8(name));
+        auto* const action = window.findChild<QAction*>(QString::fromUtf8(name));
         if (*name == '\0') {
             bar.addSeparator();
         } else {

@@ -79,6 +79,18 @@ TEST_F(Insert, ScaleBarsAreTrueToTheMap) {
     EXPECT_NEAR(value / length, perUnit, 1e-9);
 }
 
+TEST_F(Insert, ScaleBarsFollowTheMap) {
+    window.Insert("map", {Scene()});
+    window.Insert("scale-bar-line");
+    document.ChangeItems({0}, "Resize", [](host::PageItem& item) {
+        page_editor::FrameOf(item).SetExtent({100.0, 100.0, 200.0, 200.0});
+    });
+    EXPECT_NEAR(std::get<double>(Value(1, "divisionValue")) /
+                    std::get<double>(Value(1, "divisionLength")),
+                8.0 * 30.0 / 100.0, 1e-9);
+    ExpectImageIsThePage();
+}
+
 TEST_F(Insert, LegendsExplainTheMap) {
     window.Insert("map", {Scene()});
     window.Insert("legend");
