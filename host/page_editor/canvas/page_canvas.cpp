@@ -33,8 +33,7 @@ PageCanvas::PageCanvas(PageDocument& document, QWidget* parent)
     connect(&document, &PageDocument::ItemsChanged, this, &PageCanvas::OnItemsChanged);
     connect(&document, &PageDocument::PageReplaced, this, &PageCanvas::OnPageReplaced);
     connect(&document, &PageDocument::PageRearranged, this, [this] {
-        if (m_document.Page().Height() != m_view.pageHeight ||
-            m_surface.Image().isNull()) {
+        if (!m_surface.IsOfTheSheet()) {
             OnPageReplaced();
         } else {
             m_surface.DrawAll();
@@ -177,7 +176,9 @@ void PageCanvas::wheelEvent(QWheelEvent* event) {
         return;
     }
     const double steps = event->angleDelta().y() / 120.0;
-    ZoomAbout(m_view.zoom * std::pow(kWheelStep, steps), event->position());
+    if (steps != 0.0) {  // a wheel that only turns sideways zooms nothing
+        ZoomAbout(m_view.zoom * std::pow(kWheelStep, steps), event->position());
+    }
 }
 
 void PageCanvas::mousePressEvent(QMouseEvent* event) {

@@ -38,6 +38,8 @@ QRect PageSurface::Try(Drawing drawing) {
 void PageSurface::Begin(double dpi) {
     m_image = {};
     m_live.reset();
+    m_width = m_page.Width();
+    m_height = m_page.Height();
     Try([&] {
         m_live = std::make_unique<host::LivePage>(m_page, dpi);
         const host::PixelRows rows = m_live->Image().Rows();

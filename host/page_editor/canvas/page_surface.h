@@ -28,6 +28,11 @@ public:
 
     /// Empty where the page cannot be drawn.
     const QImage& Image() const { return m_image; }
+    /// Whether the page still has the size that it was drawn at.
+    bool IsOfTheSheet() const {
+        return !m_image.isNull() && m_width == m_page.Width() &&
+               m_height == m_page.Height();
+    }
     /// Why it cannot; else empty.
     const std::string& Failure() const { return m_failure; }
 
@@ -38,6 +43,8 @@ private:
     const host::Page& m_page;
     std::unique_ptr<host::LivePage> m_live;
     QImage m_image;
+    double m_width = 0.0;
+    double m_height = 0.0;
     std::string m_failure;
 };
 

@@ -7,6 +7,7 @@
 #include <QInputDialog>
 #include <QStatusBar>
 #include <exception>
+#include <stdexcept>
 #include <utility>
 
 #include "page/paper.h"
@@ -67,6 +68,9 @@ void EditorWindow::Insert(const QString& type, QStringList files) {
             paths.push_back(file.toStdString());
         }
         const host::ItemType* const found = host::FindItemType(type.toStdString());
+        if (found == nullptr) {
+            throw std::invalid_argument(type.toStdString() + ": is no type of element");
+        }
         m_document.Insert(NewItem(*found, m_document.Page(), m_document.Rasters(), paths),
                           std::string("Add ") + found->name);
     });

@@ -100,6 +100,10 @@ TEST_F(ArrangeCommands, ChangeTheSheet) {
     EXPECT_TRUE(window.SetSheet("200x100"));
     EXPECT_NEAR(document.Page().Width(), 755.9, 0.1);
     ExpectImageIsThePage();
+    EXPECT_TRUE(window.SetSheet("250x100"));  // only as wide
+    ExpectImageIsThePage();
+    Command("undo");
+    ExpectImageIsThePage();
     EXPECT_FALSE(window.SetSheet("19x100"));
     EXPECT_THAT(window.LastFailure().toStdString(), ::testing::HasSubstr("19x100"));
     Command("undo");

@@ -104,6 +104,8 @@ TEST_F(Insert, TellsWhichFileCannotBeUsed) {
     EXPECT_THAT(window.LastFailure().toStdString(), HasSubstr("missing.tif"));
     window.Insert("picture", {QString::fromStdString(folder.Path("none.png"))});
     EXPECT_THAT(window.LastFailure().toStdString(), HasSubstr("none.png: No such file"));
+    window.Insert("compass");
+    EXPECT_EQ(window.LastFailure(), "compass: is no type of element");
     EXPECT_EQ(document.Count(), 0u);
     EXPECT_FALSE(document.CanUndo());
 }
