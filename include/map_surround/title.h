@@ -34,9 +34,9 @@ enum FontProcess : std::int32_t {
 class MAP_SURROUND_API CMapTitle : public CMapSurround {
 public:
     CMapTitle();
+    /// Copies everything. An assignment for which there is not enough memory changes
+    /// nothing.
     CMapTitle(const CMapTitle&) = default;
-
-    /// Copies everything, or changes nothing where memory runs out.
     CMapTitle& operator=(const CMapTitle& other);
     CMapTitle& operator=(CMapTitle&&) = default;
 

@@ -50,9 +50,9 @@ struct FlatCodecInfo {
 
 /// The colours of an indexed image, as many as the longest has.
 struct FlatPalette {
-    UINT Flags;
-    UINT Count;
-    ARGB Entries[256];
+    UINT Flags;         ///< whether there are greys or half-transparent colours only
+    UINT Count;         ///< the colours that there are
+    ARGB Entries[256];  ///< the first Count of them tell
 };
 
 namespace DllExports {
