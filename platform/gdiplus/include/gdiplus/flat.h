@@ -75,6 +75,10 @@ GpStatus GdipSetPixelOffsetMode(GpGraphics* graphics, PixelOffsetMode mode);
 GpStatus GdipGetPixelOffsetMode(GpGraphics* graphics, PixelOffsetMode* mode);
 GpStatus GdipGetDpiX(GpGraphics* graphics, REAL* dpi);
 GpStatus GdipGetDpiY(GpGraphics* graphics, REAL* dpi);
+GpStatus GdipSetPageUnit(GpGraphics* graphics, Unit unit);
+GpStatus GdipGetPostScriptGraphicsContext(const char* file, int width, int height,
+                                          double dpiX, double dpiY,
+                                          GpGraphics** graphics);
 GpStatus GdipFlush(GpGraphics* graphics, FlushIntention intention);
 GpStatus GdipSaveGraphics(GpGraphics* graphics, GraphicsState* state);
 GpStatus GdipRestoreGraphics(GpGraphics* graphics, GraphicsState state);

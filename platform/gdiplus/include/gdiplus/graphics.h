@@ -270,6 +270,13 @@ public:
     /// The object behind, for the flat functions; null where none could be made.
     GpGraphics* NativeObject() const { return native_; }
 
+protected:
+    /// A surface of another kind; whoever derives from this makes it.
+    Graphics() = default;
+
+    /// Owned; deleted with the surface.
+    GpGraphics* native_ = nullptr;
+
 private:
     /// libgdiplus reads a null text whose length it is to find, and writes to null
     /// bounds; neither reaches it.
@@ -285,8 +292,6 @@ private:
     GpGraphics* SurfaceFor(Image* image) const {
         return image != nullptr && !image->IsDrawable() ? nullptr : native_;
     }
-
-    GpGraphics* native_ = nullptr;
 };
 
 }  // namespace Gdiplus
