@@ -148,7 +148,9 @@ void Declare(CLI::App& app, Given& given) {
            "Any raster that GDAL opens, the first on top; or one page file, .json")
         ->required()
         ->type_name("");
-    app.add_option("-o,--output", given.output, "Image to write: .png .jpg .bmp or .tif")
+    app.add_option("-o,--output", given.output,
+                   "File to write: .png .jpg .bmp .tif, or\n.pdf or .ps, whose texts and "
+                   "shapes are no pixels")
         ->type_name("FILE");
     app.add_option("--save", given.save, "Page file to write, .json; needs no --output")
         ->type_name("FILE");

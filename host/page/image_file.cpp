@@ -1,14 +1,11 @@
 #include "page/image_file.h"
 
-#include <sys/mman.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
-#include <algorithm>
 #include <stdexcept>
 #include <string_view>
 
+#include "page/file_ending.h"
 #include "page/image_resolution.h"
+#include "page/memory_file.h"
 
 namespace host {
 namespace {
@@ -22,16 +19,6 @@ constexpr Ending kEndings[] = {
     {".png", ImageFormat::Png}, {".jpg", ImageFormat::Jpeg}, {".jpeg", ImageFormat::Jpeg},
     {".bmp", ImageFormat::Bmp}, {".tif", ImageFormat::Tiff}, {".tiff", ImageFormat::Tiff},
 };
-
-bool EndsWith(std::string_view text, std::string_view ending) {
-    const auto lower = [](char c) {
-        return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-    };
-    // A name of nothing but the ending is a hidden file without one.
-    return text.size() > ending.size() &&
-           std::equal(ending.rbegin(), ending.rend(), text.rbegin(),
-                      [lower](char a, char b) { return a == lower(b); });
-}
 
 const wchar_t* MimeTypeOf(ImageFormat format) {
     switch (format) {
@@ -63,50 +50,11 @@ CLSID EncoderOf(ImageFormat format) {
     throw std::runtime_error("GDI+ has no encoder for this kind of file");
 }
 
-/// A file that only lives in memory.
-class MemoryFile {
-public:
-    MemoryFile() : m_descriptor(memfd_create("page", MFD_CLOEXEC)) {
-        if (m_descriptor < 0) {
-            throw std::runtime_error("no file in memory");
-        }
-    }
-    MemoryFile(const MemoryFile&) = delete;
-    MemoryFile& operator=(const MemoryFile&) = delete;
-    ~MemoryFile() { close(m_descriptor); }
-
-    /// A name to open it by.
-    std::wstring Name() const {
-        return L"/proc/self/fd/" + std::to_wstring(m_descriptor);
-    }
-
-    std::vector<std::uint8_t> Bytes() const {
-        struct stat status = {};
-        if (fstat(m_descriptor, &status) != 0) {
-            return {};
-        }
-        std::vector<std::uint8_t> bytes(static_cast<std::size_t>(status.st_size));
-        std::size_t done = 0;
-        while (done < bytes.size()) {
-            const ssize_t count = pread(m_descriptor, bytes.data() + done,
-                                        bytes.size() - done, static_cast<off_t>(done));
-            if (count <= 0) {
-                return {};
-            }
-            done += static_cast<std::size_t>(count);
-        }
-        return bytes;
-    }
-
-private:
-    int m_descriptor;
-};
-
 }  // namespace
 
 std::optional<ImageFormat> FormatOf(const std::string& path) {
     for (const Ending& ending : kEndings) {
-        if (EndsWith(path, ending.text)) {
+        if (HasEnding(path, ending.text)) {
             return ending.format;
         }
     }
@@ -120,7 +68,9 @@ std::vector<std::uint8_t> Encode(PageImage& image, ImageFormat format, double dp
     }
     const MemoryFile file;
     const CLSID encoder = EncoderOf(format);
-    const Gdiplus::Status status = image.Bitmap().Save(file.Name().c_str(), &encoder);
+    const std::string name = file.Name();
+    const std::wstring wide(name.begin(), name.end());
+    const Gdiplus::Status status = image.Bitmap().Save(wide.c_str(), &encoder);
     std::vector<std::uint8_t> bytes = file.Bytes();
     if (status != Gdiplus::Ok || bytes.empty()) {
         throw std::runtime_error("the image cannot be encoded");

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <string>
+
+#include "map_page/options.h"
+#include "map_page/quiet.h"
+#include "page/output_file.h"
+#include "page/page.h"
+
+namespace map_page {
+
+/// Throws Error where no file of the name's ending can be written.
+void CheckOutput(const std::string& output);
+
+/// Draws the page into the file that the options name, and returns the line that says
+/// where it will be once the file is committed. Throws as DrawPage does.
+std::string WriteInto(const Options& options, const host::Page& page,
+                      host::OutputFile& output, const Quiet& quiet);
+
+}  // namespace map_page

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace host {
+
+/// A file that only lives in memory, for what can only be written to a file.
+class MemoryFile {
+public:
+    /// Throws std::runtime_error when there is none to be had.
+    MemoryFile();
+    MemoryFile(const MemoryFile&) = delete;
+    MemoryFile& operator=(const MemoryFile&) = delete;
+    ~MemoryFile();
+
+    /// Open for reading and writing; closed when another program takes over.
+    int Descriptor() const { return m_descriptor; }
+
+    /// A name to open it by, in this process.
+    std::string Name() const { return "/proc/self/fd/" + std::to_string(m_descriptor); }
+
+    /// What was written so far; none when it cannot be read.
+    std::vector<std::uint8_t> Bytes() const;
+
+private:
+    int m_descriptor;
+};
+
+}  // namespace host

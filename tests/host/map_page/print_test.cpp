@@ -1,0 +1,205 @@
+#include <gdiplus.h>
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cmath>
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+#include <vector>
+
+#include "map_page/run_map_page.h"
+#include "page/made_raster.h"
+#include "scratch_folder.h"
+
+namespace {
+
+using host_tests::Arguments;
+using host_tests::ContentsOf;
+using host_tests::Result;
+using host_tests::RunMapPage;
+
+/// What a command prints.
+std::string Said(const std::string& command) {
+    std::string text;
+    FILE* const pipe = popen(command.c_str(), "r");
+    std::array<char, 4096> part{};
+    while (std::size_t count = std::fread(part.data(), 1, part.size(), pipe)) {
+        text.append(part.data(), count);
+    }
+    EXPECT_EQ(pclose(pipe), 0) << command;
+    return text;
+}
+
+bool Holds(const std::string& text, const std::string& part) {
+    return text.find(part) != std::string::npos;
+}
+
+/// What stands behind a label, to the end of its line.
+std::string After(const std::string& text, const std::string& label) {
+    const std::size_t at = text.find("\n" + label);
+    if (at == std::string::npos) {
+        return "no " + label;
+    }
+    const std::size_t from = text.find_first_not_of(' ', at + 1 + label.size());
+    return text.substr(from, text.find('\n', from) - from);
+}
+
+/// The mean of each colour over squares of pixels, in which the edges of shapes and
+/// letters lie alike however they are smoothed.
+std::vector<double> Squares(const std::string& path) {
+    constexpr UINT kSide = 20;
+    Gdiplus::Bitmap bitmap(std::wstring(path.begin(), path.end()).c_str());
+    EXPECT_GT(bitmap.GetWidth(), 500u);
+    std::vector<double> means;
+    for (UINT top = 0; top + kSide <= bitmap.GetHeight(); top += kSide) {
+        for (UINT left = 0; left + kSide <= bitmap.GetWidth(); left += kSide) {
+            std::array<double, 3> sum{};
+            for (UINT i = 0; i < kSide * kSide; ++i) {
+                Gdiplus::Color color;
+                bitmap.GetPixel(static_cast<INT>(left + i % kSide),
+                                static_cast<INT>(top + i / kSide), &color);
+                sum[0] += color.GetR();
+                sum[1] += color.GetG();
+                sum[2] += color.GetB();
+            }
+            for (const double one : sum) {
+                means.push_back(one / (kSide * kSide));
+            }
+        }
+    }
+    return means;
+}
+
+class Print : public ::testing::Test {
+protected:
+    Print() {
+        const Gdiplus::GdiplusStartupInput input;
+        Gdiplus::GdiplusStartup(&m_token, &input, nullptr);
+        WriteScene(folder.Path("scene.tif"), 300, 300);
+    }
+    ~Print() override { Gdiplus::GdiplusShutdown(m_token); }
+
+    Result Draw(const std::string& output, const Arguments& more = {}) {
+        Arguments arguments = {"scene.tif", "-o", output, "--title", "Harbour 影像"};
+        arguments.insert(arguments.end(), more.begin(), more.end());
+        return RunMapPage(folder, arguments);
+    }
+
+    /// The page as pixels at 100 dpi, 1169 x 827.
+    std::string Rendered(const std::string& file) {
+        Said(
+            "gs -q -dBATCH -dNOPAUSE -sDEVICE=png16m -r100 -dTextAlphaBits=4 "
+            "-dGraphicsAlphaBits=4 -sOutputFile=" +
+            folder.Path("rendered.png") + " " + folder.Path(file));
+        return folder.Path("rendered.png");
+    }
+
+    ScratchFolder folder;
+
+private:
+    ULONG_PTR m_token = 0;
+};
+
+TEST_F(Print, HasTheTrueSizeAtEveryResolution) {
+    // 297 mm are 841.89 points, 420 mm 1190.55, 148 mm 419.53.
+    const struct {
+        Arguments options;
+        const char* size;
+        const char* summary;
+    } rows[] = {
+        {{"--dpi", "72"}, "841.89 x 595.28 pts (A4)", "842 x 595 points"},
+        {{"--dpi", "300"}, "841.89 x 595.28 pts (A4)", "842 x 595 points"},
+        {{"--dpi", "600", "--size", "A3"},
+         "1190.55 x 841.89 pts (A3)",
+         "1191 x 842 points"},
+        {{"--dpi", "600", "--portrait", "--size", "A5"},
+         "419.53 x 595.28 pts",
+         "420 x 595 points"},
+    };
+    for (const auto& row : rows) {
+        const Result result = Draw("page.pdf", row.options);
+        EXPECT_EQ(result.status, 0) << result.err;
+        EXPECT_TRUE(Holds(result.out, row.summary)) << result.out;
+        const std::string info = Said("pdfinfo " + folder.Path("page.pdf"));
+        EXPECT_EQ(After(info, "Page size:"), row.size);
+        EXPECT_EQ(After(info, "Pages:"), "1");
+    }
+}
+
+TEST_F(Print, KeepsTextsAsTextInEmbeddedFonts) {
+    ASSERT_EQ(Draw("page.pdf").status, 0);
+    const std::string text = Said("pdftotext " + folder.Path("page.pdf") + " -");
+    for (const char* part : {"Harbour 影像", "scene.tif", "Legend"}) {
+        EXPECT_TRUE(Holds(text, part)) << part << " in\n" << text;
+    }
+    const std::string fonts = Said("pdffonts " + folder.Path("page.pdf"));
+    EXPECT_TRUE(Holds(fonts, "LiberationSans")) << fonts;
+    EXPECT_FALSE(Holds(fonts, " no  ")) << "not embedded:\n" << fonts;
+}
+
+TEST_F(Print, HasTheMapAsOneImageOfTheResolution) {
+    ASSERT_EQ(Draw("page.pdf", {"--dpi", "200"}).status, 0);
+    const std::string images = Said("pdfimages -list " + folder.Path("page.pdf"));
+    EXPECT_TRUE(Holds(images, " 200   200 ")) << images;
+    EXPECT_FALSE(Holds(images, "jpeg")) << "with loss:\n" << images;
+    std::size_t lines = 0;
+    for (const char c : images) {
+        lines += c == '\n' ? 1 : 0;
+    }
+    EXPECT_EQ(lines, 3u) << images;
+}
+
+TEST_F(Print, LooksLikeThePicture) {
+    ASSERT_EQ(Draw("page.png", {"--dpi", "100"}).status, 0);
+    const std::vector<double> picture = Squares(folder.Path("page.png"));
+    for (const char* file : {"page.pdf", "page.ps"}) {
+        ASSERT_EQ(Draw(file, {"--dpi", "100"}).status, 0);
+        const std::vector<double> print = Squares(Rendered(file));
+        ASSERT_EQ(print.size(), picture.size()) << file;
+        double sum = 0.0;
+        for (std::size_t i = 0; i < print.size(); ++i) {
+            const double difference = std::abs(print[i] - picture[i]);
+            EXPECT_LT(difference, 60.0) << file << ", square " << i / 3;
+            sum += difference;
+        }
+        EXPECT_LT(sum / static_cast<double>(print.size()), 1.0) << file;
+    }
+}
+
+TEST_F(Print, GivesTheSamePostScriptEachTime) {
+    ASSERT_EQ(Draw("page.ps").status, 0);
+    ASSERT_EQ(Draw("again.PS").status, 0);
+    const std::string file = ContentsOf(folder.Path("page.ps"));
+    EXPECT_EQ(file, ContentsOf(folder.Path("again.PS")));
+    EXPECT_TRUE(Holds(file, "\n%%BoundingBox: 0 0 842 596\n"));
+    EXPECT_TRUE(Holds(file, "\n%%HiResBoundingBox: 0 0 841.889764 595.275591\n"));
+    EXPECT_TRUE(Holds(file, "\n0.480000 dup scale\n")) << "72 / 150";
+}
+
+TEST_F(Print, WithoutGhostscriptSaysSoBeforeTheWork) {
+    const host_tests::RunningMapPage running(folder, {"scene.tif", "-o", "page.pdf"},
+                                             [] { setenv("PATH", "/nowhere", 1); });
+    const Result result = running.Wait();
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.out, "");
+    EXPECT_EQ(result.err,
+              "map_page: page.pdf: PDF files are made by Ghostscript, which is not "
+              "installed (the program gs)\n");
+    EXPECT_EQ(folder.Names(), std::vector<std::string>{"scene.tif"});
+}
+
+TEST_F(Print, ThatGhostscriptFailsAtLeavesNothing) {
+    const std::string bin = folder.Path("bin");
+    Said("mkdir " + bin + " && printf '#!/bin/sh\\necho out of paper >&2\\nexit 3\\n' >" +
+         bin + "/gs && chmod +x " + bin + "/gs");
+    const host_tests::RunningMapPage running(
+        folder, {"scene.tif", "-o", "page.pdf"},
+        [&bin] { setenv("PATH", (bin + ":/usr/bin:/bin").c_str(), 1); });
+    const Result result = running.Wait();
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.err, "map_page: page.pdf: Ghostscript failed: out of paper\n");
+    EXPECT_EQ(folder.Names(), (std::vector<std::string>{"bin", "scene.tif"}));
+}
+
+}  // namespace
