@@ -153,6 +153,29 @@ TEST(LegendDrawing, EveryPieceStandsAtItsPlace) {
     }
 }
 
+TEST(LegendDrawing, ThatWasNeverMeasuredHasNoLengths) {
+    Raster rgb{L"rgb.tif", DisplayRGB};
+    CMapLegend legend;
+    legend.SetFileNameStyle(Gdiplus::FontStyleUnderline);
+    legend.SetDataSouce({&rgb});
+    legend.SetSize(100);
+    legend.SetAspectRatio(2.0f);
+    Surface surface;
+    Recording recording(Mode::RecordOnly);
+    recording.ScriptBounds({{0, 0, 0, 0}});
+    legend.Draw(surface.Graphics(), CPoint(300, 200), 1.0);
+    const std::vector<std::string> drawn = recording.Drawing();
+    ASSERT_EQ(drawn.size(), 1U + 1U + 2U * 3U);
+    const Gdiplus::ARGB colors[] = {0xFFFF0000, 0xFF008000, 0xFF0000FF};
+    for (std::size_t band = 0; band < 3; ++band) {
+        const std::string label = kBandCaption + std::to_string(band + 1);
+        EXPECT_EQ(drawn[2 + 2 * band],
+                  FillRectangle(BrushLook(colors[band]), 200, 150, 0, 0));
+        EXPECT_EQ(drawn[3 + 2 * band], DrawString(label, "null", 200, 150, kBlack))
+            << "GDI+ makes no font without a size";
+    }
+}
+
 TEST(LegendDrawing, EveryCallInItsOrder) {
     Square square;
     const std::string titleFont = FontLook("Serif", 12, 1);

@@ -97,6 +97,17 @@ TEST(DrawPicture, MeasuresTheBoxAroundTheTurnedImage) {
     }
 }
 
+TEST(DrawPicture, HasNoWidthBeforeItIsOpened) {
+    Recording recording(Mode::RecordOnly);
+    recording.ScriptBounds({{0, 0, 4, 8}});
+    CDrawPicture picture;
+    picture.SetSize(40);
+    picture.ResetAspectRatio();
+    const std::vector<std::string> lines = recording.Lines();
+    ASSERT_GT(lines.size(), 1u);
+    EXPECT_EQ(lines[1], "GdipAddPathRectangleI rectangle 0 0 0 40");
+}
+
 TEST(DrawPicture, MeasuresRealBoxes) {
     const ImageFolder folder;
     CDrawPicture picture;
