@@ -2,7 +2,9 @@
 
 #include <cmath>
 #include <limits>
+#include <string>
 #include <type_traits>
+#include <vector>
 
 #include "recording/lines.h"
 #include "scale_bar/bar_row.h"
@@ -51,6 +53,29 @@ TEST(ScaleBarBase, StartsWithTheDefaultsOfItsStyle) {
     ExpectDefaults(CScaleAlternate(), ScaleBarAlternate);
     ExpectDefaults(HostBar<CScaleBarBase>(), ScaleBarLine);
     ExpectDefaults(HostBar<CSingleDivisionScaleBar>(), ScaleBarLine);
+}
+
+std::vector<std::string> Drawn(CScaleBarBase& bar) {
+    Surface surface;
+    const Recording recording(Mode::RecordOnly);
+    bar.Draw(surface.Graphics(), CPoint(200, 150), 1.0);
+    return recording.Drawing();
+}
+
+// Neither can be asked for. Of 500 parts of a division, the last tells a tenth of a
+// pixel.
+TEST(ScaleBarBase, StartsWithDivisionsOf25PixelsThatMeasureNothing) {
+    CScaleLine bar;
+    bar.SetSubDivCount(499);
+    CScaleLine told;
+    told.SetSubDivCount(499);
+    told.SetPaper2ScreenScale(25.0);
+    EXPECT_EQ(Drawn(bar), Drawn(told));
+    told.SetPaper2ScreenScale(25.1);
+    EXPECT_NE(Drawn(bar), Drawn(told));
+    // 8 + 1 + 26.667 + 1 of margins to 40 of height.
+    bar.ResetAspectRatio();
+    EXPECT_NEAR(bar.GetAspectRatio(), 36.6667 / 40.0, 0.0001);
 }
 
 TEST(ScaleBarBase, TypesAndPositionsHaveTheirValues) {
