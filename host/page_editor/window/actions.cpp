@@ -83,7 +83,7 @@ void AddFileMenu(EditorWindow& window) {
              [](EditorWindow& w) { w.Files().Save(); }},
             {"saveAs", "Save &as…", QKeySequence::SaveAs,
              [](EditorWindow& w) { w.Files().SaveAs(); }},
-            {"export", "&Export image…", QKeySequence("Ctrl+E"),
+            {"export", "&Export…", QKeySequence("Ctrl+E"),
              [](EditorWindow& w) { w.Files().Export(); }},
             kLine,
             {"sheet", "S&heet…", {}, [](EditorWindow& w) { w.SetUpSheet(); }},

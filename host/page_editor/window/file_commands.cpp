@@ -12,7 +12,7 @@
 #include <vector>
 
 #include "page/paper.h"
-#include "page_editor/document/image_export.h"
+#include "page_editor/document/page_export.h"
 #include "page_editor/document/page_files.h"
 #include "page_editor/window/recent_files.h"
 
@@ -23,7 +23,8 @@ constexpr const char* kPageFilter = "Page files (*.json)";
 constexpr const char* kOpenFilter =
     "Pages and rasters (*.json *.tif *.tiff *.img *.vrt *.png *.jpg);;All files (*)";
 constexpr const char* kImageFilter =
-    "PNG (*.png);;JPEG (*.jpg);;TIFF (*.tif);;BMP (*.bmp)";
+    "PNG (*.png);;PDF (*.pdf);;PostScript (*.ps);;JPEG (*.jpg);;TIFF (*.tif);;"
+    "BMP (*.bmp)";
 constexpr double kPrintDpi = 300.0;
 constexpr double kLeastDpi = 10.0;
 constexpr double kMostDpi = 2400.0;
@@ -139,7 +140,7 @@ void FileCommands::Export() {
 bool FileCommands::ExportTo(const QString& path, double dpi) {
     return Attempt([&] {
         const WaitCursor waiting;
-        ExportImage(m_document.Page(), path.toStdString(), dpi, [this](double part) {
+        ExportPage(m_document.Page(), path.toStdString(), dpi, [this](double part) {
             Q_EMIT Told(QString("Reading the rasters: %1 %").arg(int(part * 100.0)));
             return true;
         });

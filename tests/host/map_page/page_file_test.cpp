@@ -118,7 +118,7 @@ TEST_F(PageFile, SaysWhatIsWrongInOneLineAndOverwritesNothing) {
         {1, "none.json: No such file or directory", {"none.json", "-o", "page.png"}},
         {1, "folder.json: is not a file", {"folder.json", "-o", "page.png"}},
         {1,
-         "page.gif: ends in none of .png .jpg .jpeg .bmp .tif .tiff",
+         "page.gif: ends in none of .png .jpg .jpeg .bmp .tif .tiff .pdf .ps",
          {"good.json", "-o", "page.gif"}},
         {2,
          "--title: does not go with a page file, which says it itself",

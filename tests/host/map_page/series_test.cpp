@@ -164,7 +164,7 @@ TEST_F(Series, TellsAListThatIsNoneBeforeDrawing) {
          "list.csv: the column \"titel\" is no element with a text in page.json, and not "
          "in the output's name"},
         {"name\na\n", "out/{name}.gif",
-         "out/{name}.gif: ends in none of .png .jpg .jpeg .bmp .tif .tiff"},
+         "out/{name}.gif: ends in none of .png .jpg .jpeg .bmp .tif .tiff .pdf .ps"},
     };
     for (const WrongRow& row : rows) {
         WriteList(row.list);

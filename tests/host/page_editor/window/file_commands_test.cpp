@@ -117,11 +117,11 @@ TEST_F(FileCommands, ExportsWhatIsDrawn) {
     const QImage read(Path("page.png"));
     EXPECT_TRUE(read.convertToFormat(QImage::Format_RGB32) ==
                 editor_tests::DrawnWhole(document.Page(), 144.0));
-    for (const char* name : {"page.jpg", "page.bmp", "page.tif"}) {
+    for (const char* name : {"page.jpg", "page.bmp", "page.tif", "page.ps", "page.pdf"}) {
         EXPECT_TRUE(files.ExportTo(Path(name), 50.0)) << name;
     }
-    EXPECT_THAT(folder.Names(),
-                ElementsAre("page.bmp", "page.jpg", "page.png", "page.tif"));
+    EXPECT_THAT(folder.Names(), ElementsAre("page.bmp", "page.jpg", "page.pdf",
+                                            "page.png", "page.ps", "page.tif"));
 }
 
 TEST_F(FileCommands, AsksAboutUnsavedWork) {
