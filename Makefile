@@ -67,7 +67,7 @@ mutants:
 
 hostile-images: build/release/build.ninja
 	cmake --build --preset release --target map_page_tests
-	HOSTILE_IMAGES=$(or $(COUNT),5000) HOSTILE_IMAGES_FIRST=$(or $(FIRST),0) \
+	ulimit -v 6000000; HOSTILE_IMAGES=$(or $(COUNT),5000) HOSTILE_IMAGES_FIRST=$(or $(FIRST),0) \
 	    build/release/tests/host/map_page/map_page_tests --gtest_filter='HostileImages.*'
 
 hostile-rasters: build/release/build.ninja

@@ -28,7 +28,6 @@ using host_tests::ContentsOf;
 using host_tests::WriteFile;
 
 constexpr unsigned kSecondsAllowed = 60;
-constexpr rlim_t kMemoryAllowed = rlim_t{6} << 30;
 
 /// How a process ends that draws a picture; as its status, or by a signal.
 enum class Ending { Drawn, Refused, SurfaceLost, Died };
@@ -61,8 +60,6 @@ Ending DrawPicture(const std::wstring& path) {
 Ending DrawPictureInAProcess(const std::wstring& path, std::string& why) {
     const pid_t process = fork();
     if (process == 0) {
-        const rlimit memory = {kMemoryAllowed, kMemoryAllowed};
-        setrlimit(RLIMIT_AS, &memory);
         const rlimit noCore = {0, 0};
         setrlimit(RLIMIT_CORE, &noCore);
         std::signal(SIGSEGV, SIG_DFL);
