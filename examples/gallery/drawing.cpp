@@ -17,6 +17,18 @@ void Write(Gdiplus::Graphics* graphics, const std::wstring& text, float size, in
         Gdiplus::PointF(static_cast<float>(left), static_cast<float>(top)), &brush);
 }
 
+void Decorate(CFrameBase& frame, float shadowX, float shadowY) {
+    frame.DrawBorder = true;
+    frame.BorderGapX = 1;  // else the fill would cover half of the border
+    frame.BorderGapY = 1;
+    frame.DrawFill = true;
+    frame.FillColor = Gdiplus::Color(0xFFF7F3E8);
+    frame.DrawShadow = true;
+    frame.ShadowColor = Gdiplus::Color(0xFFB4BBC2);
+    frame.ShadowRatioX = shadowX;
+    frame.ShadowRatioY = shadowY;
+}
+
 void Smooth(Gdiplus::Graphics* graphics) {
     graphics->SetSmoothingMode(Gdiplus::SmoothingModeAntiAlias);
     graphics->SetTextRenderingHint(Gdiplus::TextRenderingHintAntiAlias);

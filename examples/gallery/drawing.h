@@ -4,6 +4,8 @@
 
 #include <string>
 
+#include "map_surround/frame.h"
+
 namespace gallery {
 
 inline const Gdiplus::Color kInk{0xFF1B2733};
@@ -12,6 +14,10 @@ inline const Gdiplus::Color kCaptionInk{0xFF55606B};
 /// Writes a text in Arial with its top left corner on a point.
 void Write(Gdiplus::Graphics* graphics, const std::wstring& text, float size, int style,
            Gdiplus::Color color, int left, int top);
+
+/// A frame with a border, a light fill and a shadow.
+/// @param shadowX, shadowY parts of the frame's width and height
+void Decorate(CFrameBase& frame, float shadowX, float shadowY);
 
 /// Smooth shapes and smooth text.
 void Smooth(Gdiplus::Graphics* graphics);

@@ -61,15 +61,7 @@ void DrawFrame(Gdiplus::Graphics* graphics, CPoint centre) {
     arrow->SetSize(100);
     arrow->SetFrontColor(kInk);
     frame.SetMapSurround(arrow);
-    frame.DrawBorder = true;
-    frame.BorderGapX = 1;  // else the fill would cover half of the border
-    frame.BorderGapY = 1;
-    frame.DrawFill = true;
-    frame.FillColor = Gdiplus::Color(0xFFF7F3E8);
-    frame.DrawShadow = true;
-    frame.ShadowColor = Gdiplus::Color(0xFFB4BBC2);
-    frame.ShadowRatioX = 0.05f;
-    frame.ShadowRatioY = 0.05f;
+    Decorate(frame, 0.05f, 0.05f);
     frame.DrawFrame(graphics,
                     CRect(centre.x - 62, centre.y - 62, centre.x + 62, centre.y + 62));
     frame.Draw(graphics, centre, 1.0);

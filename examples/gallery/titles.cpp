@@ -1,3 +1,4 @@
+#include "drawing.h"
 #include "gallery.h"
 
 namespace {
@@ -21,15 +22,7 @@ void DrawFramed(Gdiplus::Graphics* graphics, CPoint centre) {
     auto* title = new CMapTitle(
         Title(L"Olinda, Brazil", FontProcessBold, 0.0f, Gdiplus::Color(0xFF1B2733)));
     frame.SetMapSurround(title);
-    frame.DrawBorder = true;
-    frame.BorderGapX = 1;  // else the fill would cover half of the border
-    frame.BorderGapY = 1;
-    frame.DrawFill = true;
-    frame.FillColor = Gdiplus::Color(0xFFF7F3E8);
-    frame.DrawShadow = true;
-    frame.ShadowColor = Gdiplus::Color(0xFFB4BBC2);
-    frame.ShadowRatioX = 0.02f;
-    frame.ShadowRatioY = 0.1f;
+    gallery::Decorate(frame, 0.02f, 0.1f);
     const int halfHeight = title->GetSize();
     const int halfWidth = static_cast<int>(static_cast<float>(title->GetSize()) *
                                            title->GetAspectRatio() * 0.5f) +

@@ -8,6 +8,7 @@
 
 #include "map_page/error.h"
 #include "map_page/write_page.h"
+#include "page/document/map_on_page.h"
 #include "page/document/page_text.h"
 #include "page/document/raster_store.h"
 #include "page/fonts.h"
@@ -37,25 +38,9 @@ struct OpenedPage {
     host::Page page{1.0, 1.0};
 };
 
-host::MapOnPage Describe(const std::shared_ptr<host::MapLayers>& map,
-                         const std::vector<std::string>& paths,
-                         host::RasterStore& store) {
-    host::MapOnPage onPage;
-    onPage.picture = map;
-    onPage.aspectRatio = map->AspectRatio();
-    if (map->IsPlaced()) {
-        onPage.extent = map->Extent();
-        onPage.projection = map->Projection();
-    }
-    for (const std::string& path : paths) {
-        onPage.sources.push_back(store.Raster(path).get());
-    }
-    return onPage;
-}
-
-void WarnOfLeftOut(const host::MapLayers& map, const Quiet& quiet) {
-    for (const host::LeftOutRaster& raster : map.LeftOut()) {
-        quiet.Warn(raster.raster->Path() + ": left off the map: " + raster.why);
+void WarnOfAll(const std::vector<std::string>& remarks, const Quiet& quiet) {
+    for (const std::string& remark : remarks) {
+        quiet.Warn(remark);
     }
 }
 
@@ -66,12 +51,10 @@ void LayOut(const Options& options, const Quiet& quiet, OpenedPage& opened) {
     CheckPicture(options.picture);
     const std::shared_ptr<host::MapLayers> map =
         opened.store.Map(options.rasters, std::nullopt);
-    WarnOfLeftOut(*map, quiet);
-    host::LaidOutPage laidOut =
-        host::LayOut(options.design, Describe(map, options.rasters, opened.store));
-    for (const std::string& remark : laidOut.remarks) {
-        quiet.Warn(remark);
-    }
+    host::LaidOutPage laidOut = host::LayOut(
+        options.design, host::DescribeMap(map, options.rasters, opened.store));
+    WarnOfAll(host::RemarksOfLeftOut(laidOut.page), quiet);
+    WarnOfAll(laidOut.remarks, quiet);
     host::NameRasters(laidOut.page, options.rasters);
     opened.page = std::move(laidOut.page);
 }
@@ -83,15 +66,7 @@ void Load(const Options& options, const Quiet& quiet, OpenedPage& opened) {
         host::CheckFilesAndFonts(opened.page);
         ChangeAndOpen(opened.page, options.changes, opened.store);
     });
-    for (const host::PageItem& item : opened.page.Items()) {
-        const auto* const map = std::get_if<host::MapFrame>(&item);
-        const auto* const layers =
-            map == nullptr ? nullptr
-                           : dynamic_cast<const host::MapLayers*>(map->picture.get());
-        if (layers != nullptr) {
-            WarnOfLeftOut(*layers, quiet);
-        }
-    }
+    WarnOfAll(host::RemarksOfLeftOut(opened.page), quiet);
 }
 
 std::string Save(const Options& options, const host::Page& page) {

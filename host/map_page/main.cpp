@@ -1,5 +1,4 @@
 #include <cpl_error.h>
-#include <gdiplus.h>
 #include <unistd.h>
 
 #include <cstdio>
@@ -15,6 +14,7 @@
 #include "map_page/quiet.h"
 #include "map_page/separate_process.h"
 #include "map_page/series.h"
+#include "page/gdiplus_session.h"
 #include "page/output_file.h"
 
 namespace {
@@ -22,23 +22,6 @@ namespace {
 constexpr int kDrawn = 0;
 constexpr int kNotDrawn = 1;
 constexpr int kWrongUsage = 2;
-
-/// GDI+ for as long as it lives.
-class GdiplusSession {
-public:
-    GdiplusSession() {
-        const Gdiplus::GdiplusStartupInput input;
-        if (Gdiplus::GdiplusStartup(&m_token, &input, nullptr) != Gdiplus::Ok) {
-            throw map_page::Error("GDI+", "cannot be started");
-        }
-    }
-    GdiplusSession(const GdiplusSession&) = delete;
-    GdiplusSession& operator=(const GdiplusSession&) = delete;
-    ~GdiplusSession() { Gdiplus::GdiplusShutdown(m_token); }
-
-private:
-    ULONG_PTR m_token = 0;
-};
 
 int Fail(int status, const std::exception& error) {
     map_page::ProgressLine::Erase(STDERR_FILENO);
@@ -56,7 +39,7 @@ std::string DrawSeparately(const map_page::Options& options, const std::string& 
     std::string summary = map_page::InSeparateProcess([&] {
         const map_page::Quiet quiet(place);
         CPLSetErrorHandler(CPLQuietErrorHandler);
-        const GdiplusSession session;
+        const host::GdiplusSession session;
         return map_page::DrawPage(options, output ? &*output : nullptr, quiet);
     });
     if (output) {
@@ -75,7 +58,7 @@ void CheckColumns(const map_page::Options& options,
                   const std::vector<std::string>& columns) {
     map_page::InSeparateProcess([&] {
         const map_page::Quiet quiet;
-        const GdiplusSession session;
+        const host::GdiplusSession session;
         map_page::CheckSeries(options, columns);
         return std::string();
     });

@@ -1,5 +1,4 @@
 #include <cpl_error.h>
-#include <gdiplus.h>
 
 #include <CLI/CLI.hpp>
 #include <QApplication>
@@ -9,10 +8,10 @@
 #include <exception>
 #include <memory>
 #include <optional>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
+#include "page/gdiplus_session.h"
 #include "page/output_file.h"
 #include "page_editor/window/editor_window.h"
 
@@ -25,23 +24,6 @@ struct Options {
     std::vector<std::string> files;
     std::string screenshot;
     std::vector<std::size_t> select;
-};
-
-/// GDI+ for as long as it lives.
-class GdiplusSession {
-public:
-    GdiplusSession() {
-        const Gdiplus::GdiplusStartupInput input;
-        if (Gdiplus::GdiplusStartup(&m_token, &input, nullptr) != Gdiplus::Ok) {
-            throw std::runtime_error("GDI+: cannot be started");
-        }
-    }
-    GdiplusSession(const GdiplusSession&) = delete;
-    GdiplusSession& operator=(const GdiplusSession&) = delete;
-    ~GdiplusSession() { Gdiplus::GdiplusShutdown(m_token); }
-
-private:
-    ULONG_PTR m_token = 0;
 };
 
 /// @return none, after telling, for --help and --version
@@ -106,7 +88,7 @@ int Run(int argc, char** argv) {
     const QApplication application(argc, argv);
     host::RemoveUnfinishedOutputOnSignals();
     CPLSetErrorHandler(CPLQuietErrorHandler);
-    const GdiplusSession session;
+    const host::GdiplusSession session;
     page_editor::EditorWindow window;
     window.show();
     if (!Open(window, *options)) {

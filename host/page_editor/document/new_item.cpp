@@ -7,10 +7,10 @@
 #include <utility>
 
 #include "map_surround/map_surround.h"
+#include "page/document/map_on_page.h"
 #include "page/layout_steps.h"
 #include "page/text.h"
 #include "page_editor/document/arrange.h"
-#include "page_editor/document/map_on_page.h"
 #include "page_editor/document/page_document.h"
 
 namespace page_editor {
@@ -61,10 +61,10 @@ struct PlacedMap {
 
 PlacedMap FirstMap(const host::Page& page, host::RasterStore& rasters) {
     for (const host::PageItem& item : page.Items()) {
-        if (const auto layers = SharedLayersOf(item)) {
+        if (const auto layers = host::LayersOf(item)) {
             const auto& map = std::get<host::MapFrame>(item);
             const Edges box = EdgesOf(map.frame.GetExtent());
-            return {DescribeMap(layers, map.rasterPaths, rasters),
+            return {host::DescribeMap(layers, map.rasterPaths, rasters),
                     {box.left, box.bottom, box.right, box.top},
                     map.rasterPaths};
         }

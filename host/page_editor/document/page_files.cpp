@@ -4,22 +4,16 @@
 #include <system_error>
 #include <utility>
 
+#include "page/document/map_on_page.h"
 #include "page/document/page_text.h"
 #include "page/fit_to_map.h"
 #include "page/layout.h"
 #include "page/map_layers.h"
 #include "page/output_file.h"
 #include "page/text.h"
-#include "page_editor/document/map_on_page.h"
 
 namespace page_editor {
 namespace {
-
-void RemarkLeftOut(const host::MapLayers& map, std::vector<std::string>& remarks) {
-    for (const host::LeftOutRaster& raster : map.LeftOut()) {
-        remarks.push_back(raster.raster->Path() + ": left off the map: " + raster.why);
-    }
-}
 
 std::wstring TitleFor(const std::string& path) {
     std::wstring title;
@@ -36,12 +30,7 @@ OpenedPage OpenPageFile(const std::string& path) {
         host::CheckFilesAndFonts(page);
         host::OpenRasters(page, *rasters);
         host::FitToMap(page);
-        std::vector<std::string> remarks;
-        for (const host::PageItem& item : page.Items()) {
-            if (const host::MapLayers* const map = LayersOf(item)) {
-                RemarkLeftOut(*map, remarks);
-            }
-        }
+        std::vector<std::string> remarks = host::RemarksOfLeftOut(page);
         return OpenedPage{std::move(rasters), std::move(page), std::move(remarks)};
     });
 }
@@ -51,10 +40,12 @@ OpenedPage LayOutRasters(const std::vector<std::string>& paths) {
     const std::shared_ptr<host::MapLayers> map = rasters->Map(paths, std::nullopt);
     host::PageDesign design;
     design.title.text = TitleFor(paths.front());
-    host::LaidOutPage laidOut = host::LayOut(design, DescribeMap(map, paths, *rasters));
+    host::LaidOutPage laidOut =
+        host::LayOut(design, host::DescribeMap(map, paths, *rasters));
     host::NameRasters(laidOut.page, paths);
-    RemarkLeftOut(*map, laidOut.remarks);
-    return {std::move(rasters), std::move(laidOut.page), std::move(laidOut.remarks)};
+    std::vector<std::string> remarks = host::RemarksOfLeftOut(laidOut.page);
+    remarks.insert(remarks.begin(), laidOut.remarks.begin(), laidOut.remarks.end());
+    return {std::move(rasters), std::move(laidOut.page), std::move(remarks)};
 }
 
 void SavePageFile(const host::Page& page, const std::string& path) {

@@ -87,16 +87,23 @@ struct Accessor<T C::*> {
     using Type = T;
 };
 
-/// A property that a class has a getter and a setter for.
-template <auto Get, auto Set>
-Property Of(const char* name, const char* about, PropertyKind kind) {
-    using Class = typename Accessor<decltype(Get)>::Class;
-    using Type = typename Accessor<decltype(Get)>::Type;
+/// A property whose values a class keeps as a type.
+template <typename Type>
+Property Named(const char* name, const char* about, PropertyKind kind) {
     Property property{};
     property.name = name;
     property.about = about;
     property.kind = kind;
     property.isFloat = std::is_same_v<Type, float>;
+    return property;
+}
+
+/// A property that a class has a getter and a setter for.
+template <auto Get, auto Set>
+Property Of(const char* name, const char* about, PropertyKind kind) {
+    using Class = typename Accessor<decltype(Get)>::Class;
+    using Type = typename Accessor<decltype(Get)>::Type;
+    Property property = Named<Type>(name, about, kind);
     property.read = [](const PageItem& item) {
         return ToValue<Type>((SubjectOf<Class>(item).*Get)());
     };
@@ -111,11 +118,7 @@ template <auto Field>
 Property OfField(const char* name, const char* about, PropertyKind kind) {
     using Class = typename Accessor<decltype(Field)>::Class;
     using Type = typename Accessor<decltype(Field)>::Type;
-    Property property{};
-    property.name = name;
-    property.about = about;
-    property.kind = kind;
-    property.isFloat = std::is_same_v<Type, float>;
+    Property property = Named<Type>(name, about, kind);
     property.read = [](const PageItem& item) {
         return ToValue<Type>(SubjectOf<Class>(item).*Field);
     };
