@@ -3,6 +3,7 @@
     abi-report \
     bench \
     bench-drag \
+    bench-editor \
     bench-map \
     bench-peers \
     clean \
@@ -134,6 +135,10 @@ bench-drag: build/bench-page/build.ninja
 	cmake --build --preset bench-page --target live_page_bench
 	build/bench-page/bench/page/live_page_bench
 
+bench-editor: build/bench-editor/build.ninja
+	cmake --build --preset bench-editor --target editor_drag_bench
+	QT_QPA_PLATFORM=offscreen build/bench-editor/bench/page_editor/editor_drag_bench
+
 bench-map: demo
 	scripts/install_packages peers
 	bench/peers/compare_map build/demo/host/map_page/map_page \
@@ -152,7 +157,7 @@ format:
 	scripts/install_packages lint
 	git ls-files '*.h' '*.cpp' | xargs clang-format -i
 
-lint: build/release/build.ninja build/editor/build.ninja
+lint: build/lint/build.ninja
 	scripts/install_packages lint
 	scripts/lint
 
@@ -161,8 +166,10 @@ clean:
 
 purpose_of_demo = demo
 purpose_of_editor = editor
+purpose_of_lint = lint
 purpose_of_bench = bench
 purpose_of_bench-page = bench-page
+purpose_of_bench-editor = bench-editor
 purpose_of_package = package
 purpose_of_fuzz = fuzz
 purpose_of_threads = library

@@ -32,7 +32,7 @@ void AddSizes(gallery::Sheet& sheet, const std::wstring& caption, float angle,
 }
 
 template <typename Arrow>
-void AddStyle(gallery::Sheet& sheet, const std::wstring& name) {
+void AddArrows(gallery::Sheet& sheet, const std::wstring& name) {
     const Gdiplus::Color ink(0xFF1B2733);
     const Gdiplus::Color light(0xFFF2C14E);
     AddSizes<Arrow>(sheet, name, 0.0f, ink, gallery::Paper::White);
@@ -46,9 +46,9 @@ void AddStyle(gallery::Sheet& sheet, const std::wstring& name) {
 
 gallery::Sheet gallery::DrawNorthArrows() {
     Sheet sheet(L"North arrows, in sizes 24, 48, 96 and 180", 3, 420, 260);
-    AddStyle<CNorthArrowOneAngle>(sheet, L"one angle");
-    AddStyle<CNorthArrowTwoAngle>(sheet, L"two angles");
-    AddStyle<CNorthArrowFourAngle>(sheet, L"four angles");
-    AddStyle<CNorthArrowEightAngle>(sheet, L"eight angles");
+    AddArrows<CNorthArrowOneAngle>(sheet, L"one angle");
+    AddArrows<CNorthArrowTwoAngle>(sheet, L"two angles");
+    AddArrows<CNorthArrowFourAngle>(sheet, L"four angles");
+    AddArrows<CNorthArrowEightAngle>(sheet, L"eight angles");
     return sheet;
 }

@@ -29,7 +29,7 @@ Bar Make(int size, ScaleBarPostion position, Ground ground) {
 }
 
 template <typename Bar>
-void AddStyle(gallery::Sheet& sheet, const std::wstring& name) {
+void AddBars(gallery::Sheet& sheet, const std::wstring& name) {
     for (const ScaleBarPostion position : {UnitPosAfter, UnitPosBefore}) {
         for (const int size : kSizes) {
             sheet.Add(name + L", size " + std::to_wstring(size) +
@@ -43,12 +43,12 @@ void AddStyle(gallery::Sheet& sheet, const std::wstring& name) {
 
 gallery::Sheet gallery::DrawScaleBars() {
     Sheet sheet(L"Scale bars", 3, 330, 130);
-    AddStyle<CScaleLine>(sheet, L"line");
-    AddStyle<CSteppedScaleLine>(sheet, L"stepped");
-    AddStyle<CScaleLine2>(sheet, L"line 2");
-    AddStyle<CScaleLine3>(sheet, L"line 3");
-    AddStyle<CScaleAlternate>(sheet, L"alternating");
-    AddStyle<CScaleEquAltenate>(sheet, L"equal alternating");
+    AddBars<CScaleLine>(sheet, L"line");
+    AddBars<CSteppedScaleLine>(sheet, L"stepped");
+    AddBars<CScaleLine2>(sheet, L"line 2");
+    AddBars<CScaleLine3>(sheet, L"line 3");
+    AddBars<CScaleAlternate>(sheet, L"alternating");
+    AddBars<CScaleEquAltenate>(sheet, L"equal alternating");
 
     sheet.Add(L"0.037 degrees are rounded down to 0.03",
               Make<CScaleLine>(40, UnitPosAfter, {0.037, 60.0, L"degree"}));

@@ -4,12 +4,12 @@
 #include <cmath>
 #include <cstddef>
 
+#include "page/units.h"
+
 namespace host {
 namespace {
 
 using Bytes = std::vector<std::uint8_t>;
-
-constexpr double kInchesPerMetre = 1.0 / 0.0254;
 
 std::uint8_t ByteOf(std::uint32_t value, unsigned index) {
     return static_cast<std::uint8_t>(value >> (8 * index));

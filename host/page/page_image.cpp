@@ -10,7 +10,7 @@ constexpr std::size_t kBytesPerPixel = 4;
 
 int Stride(Gdiplus::Size size) { return size.Width * static_cast<int>(kBytesPerPixel); }
 
-std::size_t Bytes(Gdiplus::Size size) {
+std::size_t SizeInBytes(Gdiplus::Size size) {
     return static_cast<std::size_t>(size.Width) * static_cast<std::size_t>(size.Height) *
            kBytesPerPixel;
 }
@@ -20,7 +20,7 @@ std::size_t Bytes(Gdiplus::Size size) {
 // Not filled with zeros: the page paints its paper first of all.
 PageImage::PageImage(Gdiplus::Size size)
     : m_size(size),
-      m_pixels(new std::uint8_t[Bytes(size)]),
+      m_pixels(new std::uint8_t[SizeInBytes(size)]),
       m_bitmap(size.Width, size.Height, Stride(size), PixelFormat32bppRGB,
                m_pixels.get()) {
     if (m_bitmap.GetLastStatus() != Gdiplus::Ok) {

@@ -7,10 +7,11 @@
 #include <memory>
 #include <stdexcept>
 
+#include "page/units.h"
+
 namespace host {
 namespace {
 
-constexpr double kInchesPerMetre = 1.0 / 0.0254;
 constexpr std::size_t kBytesRead = 4;
 constexpr std::size_t kBytesWritten = 3;
 

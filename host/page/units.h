@@ -13,6 +13,8 @@ constexpr double UnitsFromMillimetres(double millimetres) {
 /// Type is measured in points, 72 to the inch: 18 points are 24 units.
 constexpr double UnitsFromPoints(double points) { return points * kUnitsPerInch / 72.0; }
 
+constexpr double kInchesPerMetre = 1.0 / 0.0254;
+
 constexpr double PointsFromUnits(double units) { return units * 72.0 / kUnitsPerInch; }
 
 }  // namespace host

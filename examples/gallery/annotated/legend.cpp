@@ -7,7 +7,7 @@
 namespace gallery::annotated {
 namespace {
 
-constexpr double kScale = 2.0;
+constexpr double kLegendScale = 2.0;
 constexpr wchar_t kTitle[] = L"Land cover";
 
 Gdiplus::Rect InkBox(const std::wstring& text, float size, int style) {
@@ -20,7 +20,7 @@ Gdiplus::Rect InkBox(const std::wstring& text, float size, int style) {
     return box;
 }
 
-int Drawn(int measured) { return static_cast<int>(measured * kScale); }
+int Drawn(int measured) { return static_cast<int>(measured * kLegendScale); }
 
 /// The lengths of a legend with a 20 pixel title and 15 pixel rows.
 struct Lengths {
@@ -40,7 +40,7 @@ CPoint Draw(Drawing& drawing, CPoint centre, Rasters rasters) {
     legend.SetTitleColor(Gdiplus::Color(0xFF9AA6B2));
     legend.SetFileColor(Gdiplus::Color(0xFF9AA6B2));
     ExplainedRasters explained(legend, std::move(rasters));
-    explained.Draw(drawing.Surface(), centre, kScale);
+    explained.Draw(drawing.Surface(), centre, kLegendScale);
 
     const int height = Drawn(explained.Legend().GetSize());
     const auto halfWidth = static_cast<int>(std::lround(

@@ -4,16 +4,16 @@ namespace gallery::annotated {
 namespace {
 
 // Arrows of size 100 at scale 4.
-constexpr int kSize = 100;
-constexpr double kScale = 4.0;
+constexpr int kArrowSize = 100;
+constexpr double kArrowScale = 4.0;
 constexpr int kPixels = 400;
 
 template <typename Arrow>
 void Draw(Drawing& drawing, CPoint centre, int nameX = -60, int nameY = -9) {
     Arrow arrow;
-    arrow.SetSize(kSize);
+    arrow.SetSize(kArrowSize);
     arrow.SetFrontColor(Gdiplus::Color(0xFF9AA6B2));
-    arrow.Draw(drawing.Surface(), centre, kScale);
+    arrow.Draw(drawing.Surface(), centre, kArrowScale);
     drawing.Mark(centre.x, centre.y, L"centre", nameX, nameY);
 }
 
