@@ -1,8 +1,9 @@
 #pragma once
 
-#include <new>
 #include <stdexcept>
 #include <string>
+
+#include "page/separate_process.h"
 
 namespace map_page {
 
@@ -20,18 +21,14 @@ public:
     using Error::Error;
 };
 
-inline std::string LineFor(const std::exception& error) {
-    return dynamic_cast<const std::bad_alloc*>(&error) != nullptr
-               ? "memory: the page needs more than there is"
-               : error.what();
-}
-
 /// Runs a step whose exception has the reason but not the thing.
 template <typename Step>
 auto Naming(const std::string& thing, Step step) {
     try {
         return step();
     } catch (const Error&) {
+        throw;
+    } catch (const host::WorkFailed&) {
         throw;
     } catch (const std::runtime_error& error) {
         throw Error(thing, error.what());

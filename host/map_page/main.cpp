@@ -12,10 +12,11 @@
 #include "map_page/options.h"
 #include "map_page/progress_line.h"
 #include "map_page/quiet.h"
-#include "map_page/separate_process.h"
 #include "map_page/series.h"
+#include "page/error_line.h"
 #include "page/gdiplus_session.h"
 #include "page/output_file.h"
+#include "page/separate_process.h"
 
 namespace {
 
@@ -25,7 +26,7 @@ constexpr int kWrongUsage = 2;
 
 int Fail(int status, const std::exception& error) {
     map_page::ProgressLine::Erase(STDERR_FILENO);
-    std::fprintf(stderr, "map_page: %s\n", map_page::LineFor(error).c_str());
+    std::fprintf(stderr, "map_page: %s\n", host::LineFor(error).c_str());
     return status;
 }
 
@@ -36,7 +37,7 @@ std::string DrawSeparately(const map_page::Options& options, const std::string& 
     if (!options.output.empty()) {
         output.emplace(options.output);
     }
-    std::string summary = map_page::InSeparateProcess([&] {
+    std::string summary = host::InSeparateProcess("drawing", [&](const host::Progress&) {
         const map_page::Quiet quiet(place);
         CPLSetErrorHandler(CPLQuietErrorHandler);
         const host::GdiplusSession session;
@@ -56,7 +57,7 @@ std::string DrawOne(const map_page::Options& options, const std::string& place) 
 /// A page file may name pictures, and those are read.
 void CheckColumns(const map_page::Options& options,
                   const std::vector<std::string>& columns) {
-    map_page::InSeparateProcess([&] {
+    host::InSeparateProcess("drawing", [&](const host::Progress&) {
         const map_page::Quiet quiet;
         const host::GdiplusSession session;
         map_page::CheckSeries(options, columns);

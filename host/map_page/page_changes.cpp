@@ -30,14 +30,14 @@ bool IsNamed(const host::PageItem& item, const std::string& name) {
     return own != nullptr && std::get<std::string>(own->read(item)) == name;
 }
 
-host::PlacedFrame* FrameOf(host::PageItem& item) {
+host::PlacedFrame* PlacedFrameIn(host::PageItem& item) {
     auto* const frame = std::get_if<std::unique_ptr<CSurroundFrame>>(&item);
     return frame == nullptr ? nullptr : dynamic_cast<host::PlacedFrame*>(frame->get());
 }
 
 template <class Element>
 Element* ElementOf(host::PageItem& item) {
-    const host::PlacedFrame* const frame = FrameOf(item);
+    const host::PlacedFrame* const frame = PlacedFrameIn(item);
     return frame == nullptr ? nullptr : dynamic_cast<Element*>(frame->GetMapSurround());
 }
 
@@ -67,7 +67,7 @@ void SetText(host::PageItem& item, const std::string& name, const std::string& t
     property->write(item, text);
     if (auto* const title = ElementOf<CMapTitle>(item)) {
         title->ResetAspectRatio();
-        FitTitle(*FrameOf(item), *title);
+        FitTitle(*PlacedFrameIn(item), *title);
     }
 }
 
@@ -99,7 +99,7 @@ std::vector<LegendPlace> ForgetLegendSizes(host::Page& page) {
     std::vector<LegendPlace> places;
     for (host::PageItem& item : page.Items()) {
         if (auto* const legend = ElementOf<CMapLegend>(item)) {
-            host::PlacedFrame& frame = *FrameOf(item);
+            host::PlacedFrame& frame = *PlacedFrameIn(item);
             const CPoint2D offset = frame.ElementOffset();
             places.push_back({legend, &frame, offset.x - WidthOf(*legend) / 2.0,
                               offset.y + legend->GetSize() / 2.0});

@@ -20,6 +20,7 @@
 #include "map_page/error.h"
 #include "map_page/progress_line.h"
 #include "map_page/series_list.h"
+#include "page/error_line.h"
 
 namespace map_page {
 namespace {
@@ -106,7 +107,7 @@ private:
             m_draw(options, place);
             return 0;
         } catch (const std::exception& error) {
-            Tell(place + ": " + LineFor(error));
+            Tell(place + ": " + host::LineFor(error));
             return 1;
         }
     }

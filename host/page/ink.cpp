@@ -16,6 +16,13 @@ namespace {
 constexpr int kLargestSide =
     3000;  // pixels; a longer element is measured at a smaller scale
 
+/// A first look is so much smaller, and shows where to look closely. What is wider than a
+/// pixel of it leaves a trace.
+constexpr double kGlance = 0.25;
+constexpr double kLeastGlance = 300.0;  // pixels; saving more than that saves nothing
+/// Lengths in whole pixels add up to something else at a small scale.
+constexpr double kGlancePixels = 4.0;
+
 /// The part of a bitmap that is not transparent, as counted from its middle.
 struct PixelBox {
     int left;
@@ -57,27 +64,79 @@ double RoomFor(const CMapSurround& element) {
     return std::max(2.0 * height, 2.0 * height * ratio) + 400.0;
 }
 
-template <typename Drawing>
-InkBox Measure(double room, Drawing draw) {
-    const double scale = std::min(1.0, kLargestSide / room);
-    const int side = static_cast<int>(std::ceil(room * scale));
+/// How far a bitmap reaches from the element's centre, in pixels.
+struct Reach {
+    int left;
+    int right;
+    int up;
+    int down;
+};
 
-    Gdiplus::Bitmap bitmap(side, side, PixelFormat32bppARGB);
+Reach AllAround(int side) {
+    return {side / 2, side - side / 2, side / 2, side - side / 2};
+}
+
+template <typename Drawing>
+InkBox Look(const Reach& reach, double scale, Drawing draw) {
+    const int width = reach.left + reach.right;
+    const int height = reach.up + reach.down;
+    Gdiplus::Bitmap bitmap(width, height, PixelFormat32bppARGB);
     if (bitmap.GetLastStatus() != Gdiplus::Ok) {
         return {};
     }
     {
         Gdiplus::Graphics graphics(&bitmap);
         graphics.SetTextRenderingHint(Gdiplus::TextRenderingHintAntiAlias);
-        draw(&graphics, CPoint(side / 2, side / 2), scale);
+        draw(&graphics, CPoint(reach.left, reach.up), scale);
     }
-    const PixelBox box = InkOf(bitmap, side, side);
+    const PixelBox box = InkOf(bitmap, width, height);
     if (box.right < box.left) {
         return {};
     }
-    const int middle = side / 2;
-    return {(middle - box.left) / scale, (box.right + 1 - middle) / scale,
-            (middle - box.top) / scale, (box.bottom + 1 - middle) / scale};
+    return {(reach.left - box.left) / scale, (box.right + 1 - reach.left) / scale,
+            (reach.up - box.top) / scale, (box.bottom + 1 - reach.up) / scale};
+}
+
+/// Where a drawing surely lies, of which a small one reached so far.
+Reach Around(const InkBox& glanced, double leeway, double scale, const Reach& all) {
+    const auto side = [=](double length, int most) {
+        const double pixels = (std::max(0.0, length) * kHinting + leeway) * scale;
+        return std::min(most, static_cast<int>(std::ceil(pixels)));
+    };
+    return {side(glanced.left, all.left), side(glanced.right, all.right),
+            side(glanced.up, all.up), side(glanced.down, all.down)};
+}
+
+/// Whether nothing comes so near to an edge within which there may be more that it could
+/// go on beyond.
+bool IsWithin(const InkBox& ink, double leeway, double scale, const Reach& reach,
+              const Reach& all) {
+    const auto isClear = [=](double length, int side, int most) {
+        return side == most || (length + leeway) * scale <= side;
+    };
+    return isClear(ink.left, reach.left, all.left) &&
+           isClear(ink.right, reach.right, all.right) &&
+           isClear(ink.up, reach.up, all.up) && isClear(ink.down, reach.down, all.down);
+}
+
+/// Most of a square that has room for anything is empty: what is drawn is looked for at a
+/// small scale, and then measured where it was found.
+template <typename Drawing>
+InkBox Measure(double room, Drawing draw) {
+    const double scale = std::min(1.0, kLargestSide / room);
+    const Reach all = AllAround(static_cast<int>(std::ceil(room * scale)));
+    const double glanceScale = std::max(scale * kGlance, kLeastGlance / room);
+    if (glanceScale < scale / 2.0) {
+        const Reach glance = AllAround(static_cast<int>(std::ceil(room * glanceScale)));
+        const InkBox glanced = Look(glance, glanceScale, draw);
+        const double leeway = kGlancePixels / glanceScale;
+        const Reach reach = Around(glanced, leeway, scale, all);
+        const InkBox ink = glanced.IsEmpty() ? InkBox() : Look(reach, scale, draw);
+        if (!ink.IsEmpty() && IsWithin(ink, leeway / 2.0, scale, reach, all)) {
+            return ink;
+        }
+    }
+    return Look(all, scale, draw);
 }
 
 }  // namespace

@@ -18,6 +18,10 @@ struct InkBox {
     bool IsEmpty() const { return Width() <= 0.0 || Height() <= 0.0; }
 };
 
+/// Texts are hinted differently from size to size: at another scale than the measured one
+/// they may reach further by this factor.
+constexpr double kHinting = 1.05;
+
 /// Draws an element out of sight and looks how far it reaches, for texts may stand out
 /// from the rectangle that an element's size and aspect ratio describe.
 InkBox MeasureInk(CMapSurround& element);

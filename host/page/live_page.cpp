@@ -2,23 +2,14 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "page/device_view.h"
 
 namespace host {
 namespace {
 
-/// Smoothed edges, and outlines that are hinted differently from size to size, reach a
-/// little further than they measure.
-constexpr int kLeeway = 4;
-constexpr double kHinting = 1.05;
-
-const CFrameBase& FrameOf(const PageItem& item) {
-    if (const auto* const map = std::get_if<MapFrame>(&item)) {
-        return map->frame;
-    }
-    return *std::get<std::unique_ptr<CSurroundFrame>>(item);
-}
+constexpr int kLeeway = 4;  // pixels; smoothed edges reach further than they measure
 
 InkBox InkOf(const PageItem& item) {
     const auto* const frame = std::get_if<std::unique_ptr<CSurroundFrame>>(&item);
@@ -45,8 +36,8 @@ Gdiplus::Rect Around(CPoint centre, const InkBox& ink, double scale) {
 
 }  // namespace
 
-LivePage::LivePage(const Page& page, double dpi)
-    : m_page(page), m_dpi(dpi), m_image(PixelSize(page, dpi)) {
+LivePage::LivePage(const Page& page, double dpi, RenderMap render)
+    : m_page(page), m_dpi(dpi), m_image(PixelSize(page, dpi)), m_maps(std::move(render)) {
     DrawAll();
 }
 

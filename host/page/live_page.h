@@ -17,7 +17,8 @@ class LivePage {
 public:
     /// Draws the page, which must outlive this. Throws what drawing it throws.
     /// @param dpi device pixels an inch
-    LivePage(const Page& page, double dpi);
+    /// @param render how maps are rendered; by themselves where there is none
+    LivePage(const Page& page, double dpi, RenderMap render = {});
 
     /// The image; it is drawn on only by the operations below.
     PageImage& Image() { return m_image; }

@@ -231,9 +231,13 @@ MapLayers::Layer MapLayers::Placed(std::shared_ptr<GdalRaster> raster) {
 }
 
 MapLayers::MapLayers(std::vector<std::shared_ptr<GdalRaster>> rasters,
-                     const std::optional<MapExtent>& extent) {
+                     const std::optional<MapExtent>& extent)
+    : m_asked(extent) {
     if (rasters.empty()) {
         throw std::invalid_argument("a map needs a raster");
+    }
+    for (const std::shared_ptr<GdalRaster>& raster : rasters) {
+        m_paths.push_back(raster->Path());
     }
     const std::shared_ptr<GdalRaster> first = rasters.front();
     const std::string whyNotPlaced = WhyNotPlaced(*first, *first);
@@ -260,6 +264,18 @@ MapLayers::MapLayers(std::vector<std::shared_ptr<GdalRaster>> rasters,
     if (extent && m_isPlaced) {
         CutTo(*extent);
     }
+}
+
+std::unique_ptr<MapLayers> MapLayers::Reopened() const {
+    std::vector<std::shared_ptr<GdalRaster>> rasters;
+    for (const std::string& path : m_paths) {
+        std::string why;
+        rasters.push_back(GdalRaster::Open(path, why));
+        if (rasters.back() == nullptr) {
+            throw std::runtime_error(why.insert(0, path + ": "));
+        }
+    }
+    return std::make_unique<MapLayers>(std::move(rasters), m_asked);
 }
 
 /// Keeps of each raster the pixels that show, so that no others are read.

@@ -35,6 +35,10 @@ public:
 
     PixelImage Render(int width, int height, const Progress& progress) override;
 
+    /// The same map of its files opened anew. Throws std::runtime_error that names the
+    /// file and the reason when one cannot be.
+    std::unique_ptr<MapLayers> Reopened() const;
+
     /// What the map spans: pixels and lines for a raster without georeference.
     const MapExtent& Extent() const { return m_extent; }
 
@@ -64,6 +68,8 @@ private:
     static PixelImage RenderLayer(const Layer& layer, int width, int height,
                                   const Progress& progress);
 
+    std::vector<std::string> m_paths;
+    std::optional<MapExtent> m_asked;
     std::vector<Layer> m_layers;  // the first on top
     std::vector<LeftOutRaster> m_leftOut;
     MapExtent m_extent;

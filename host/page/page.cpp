@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "page/device_view.h"
 #include "page/element_drawing.h"
@@ -102,6 +103,17 @@ void PaintPaper(Gdiplus::Graphics& graphics) {
 }
 
 }  // namespace
+
+const CFrameBase& FrameOf(const PageItem& item) {
+    if (const auto* const map = std::get_if<MapFrame>(&item)) {
+        return map->frame;
+    }
+    return *std::get<std::unique_ptr<CSurroundFrame>>(item);
+}
+
+CFrameBase& FrameOf(PageItem& item) {
+    return const_cast<CFrameBase&>(FrameOf(std::as_const(item)));
+}
 
 void Page::Draw(Gdiplus::Graphics& graphics, double dpi, const Progress& progress) const {
     const DeviceView view(m_height, dpi);

@@ -28,6 +28,10 @@ struct MapFrame {
 /// What stands on a page: a map, or a frame with one element in it.
 using PageItem = std::variant<MapFrame, std::unique_ptr<CSurroundFrame>>;
 
+/// The frame of an item, whatever stands in it.
+CFrameBase& FrameOf(PageItem& item);
+const CFrameBase& FrameOf(const PageItem& item);
+
 /// A sheet with maps and framed elements, drawn at any resolution.
 ///
 /// Extents and sizes are in page units, y growing upwards from the bottom left corner.

@@ -94,14 +94,16 @@ std::string WhyNot(const Property& property, const PageItem& item) {
 }  // namespace
 
 std::shared_ptr<GdalRaster> RasterStore::Raster(const std::string& path) {
-    std::shared_ptr<GdalRaster>& raster = m_rasters[path];
-    if (raster == nullptr) {
-        std::string why;
-        raster = GdalRaster::Open(path, why);
-        if (raster == nullptr) {
-            throw PageError(path, why);
-        }
+    const auto known = m_rasters.find(path);
+    if (known != m_rasters.end()) {
+        return known->second;
     }
+    std::string why;
+    std::shared_ptr<GdalRaster> raster = GdalRaster::Open(path, why);
+    if (raster == nullptr) {
+        throw PageError(path, why);
+    }
+    m_rasters.emplace(path, raster);
     return raster;
 }
 

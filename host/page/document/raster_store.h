@@ -23,6 +23,9 @@ public:
     /// A raster. Throws PageError that names the path when it cannot be opened.
     std::shared_ptr<GdalRaster> Raster(const std::string& path);
 
+    /// Whether a raster is open.
+    bool Has(const std::string& path) const { return m_rasters.count(path) > 0; }
+
     /// A map of at least one raster. Throws as Raster does.
     std::shared_ptr<MapLayers> Map(const std::vector<std::string>& paths,
                                    const std::optional<MapExtent>& extent);
