@@ -1,7 +1,7 @@
 #include "page_editor/canvas/page_canvas.h"
 
 #include <QApplication>
-#include <QKeyEvent>
+#include <QElapsedTimer>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
@@ -21,15 +21,28 @@ constexpr double kSnapReach = 6.0;
 constexpr double kWheelStep = 1.2;
 constexpr QRgb kDesk = 0xFF9AA0A6;
 
+// Milliseconds. A page that takes longer to draw waits, while the wheel is turned, for a
+// pause.
+constexpr int kSlowRedraw = 50;
+constexpr int kPause = 150;
+
 }  // namespace
 
 PageCanvas::PageCanvas(PageDocument& document, QWidget* parent)
-    : QAbstractScrollArea(parent), m_document(document), m_surface(document.Page()) {
+    : QAbstractScrollArea(parent),
+      m_document(document),
+      m_surface(document.Page(), [this](double part) {
+          Q_EMIT Reading(part);
+          return true;
+      }) {
     viewport()->setMouseTracking(true);
     viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::StrongFocus);
     setFrameShape(QFrame::NoFrame);
     m_view.pageHeight = document.Page().Height();
+    m_pause.setSingleShot(true);
+    m_pause.setInterval(kPause);
+    connect(&m_pause, &QTimer::timeout, this, &PageCanvas::Redraw);
     connect(&document, &PageDocument::ItemsChanged, this, &PageCanvas::OnItemsChanged);
     connect(&document, &PageDocument::PageReplaced, this, &PageCanvas::OnPageReplaced);
     connect(&document, &PageDocument::PageRearranged, this, [this] {
@@ -37,7 +50,7 @@ PageCanvas::PageCanvas(PageDocument& document, QWidget* parent)
             OnPageReplaced();
         } else {
             m_surface.DrawAll();
-            viewport()->update();
+            ShowPixels();
         }
     });
     connect(&document, &PageDocument::SelectionChanged, viewport(),
@@ -49,14 +62,17 @@ void PageCanvas::SetZoom(double zoom) {
 }
 
 void PageCanvas::ZoomAbout(double zoom, QPointF point) {
+    PlaceAtZoom(zoom, point);
+    Redraw();
+}
+
+void PageCanvas::PlaceAtZoom(double zoom, QPointF point) {
     const double ratio = devicePixelRatioF() * host::kUnitsPerInch;
     const host::Page& page = m_document.Page();
-    const double allowed =
-        std::clamp(zoom, LowestDpi(page) / ratio, HighestDpi(page) / ratio);
     const CPoint2D held = m_view.ToPage(point);
     m_fits = false;
-    m_view.zoom = allowed;
-    Redraw();
+    m_view.zoom = std::clamp(zoom, LowestDpi(page) / ratio, HighestDpi(page) / ratio);
+    PlaceSheet();
     const QPointF off = m_view.ToWidget(held) - point;
     horizontalScrollBar()->setValue(horizontalScrollBar()->value() +
                                     static_cast<int>(std::lround(off.x())));
@@ -66,26 +82,45 @@ void PageCanvas::ZoomAbout(double zoom, QPointF point) {
 }
 
 void PageCanvas::ZoomToFit() {
-    const QSize room = maximumViewportSize();
-    const host::Page& page = m_document.Page();
-    SetZoom(std::min((room.width() - 2 * kRim) / page.Width(),
-                     (room.height() - 2 * kRim) / page.Height()));
-    m_fits = true;
+    PlaceToFit();
+    Redraw();
 }
 
-void PageCanvas::Nudge(double dx, double dy) {
-    Attempt([&] {
-        m_document.ChangeItems(
-            m_document.Selection(), "Move",
-            [&](host::PageItem& item) { FrameOf(item).SetOffset(dx, dy); }, "nudge");
-    });
+void PageCanvas::PlaceToFit() {
+    const QSize room = maximumViewportSize();
+    const host::Page& page = m_document.Page();
+    PlaceAtZoom(std::min((room.width() - 2 * kRim) / page.Width(),
+                         (room.height() - 2 * kRim) / page.Height()),
+                QRectF(viewport()->rect()).center());
+    m_fits = true;
 }
 
 /// Everything anew, at the resolution of the zoom.
 void PageCanvas::Redraw() {
-    const double dpi = host::kUnitsPerInch * m_view.zoom * devicePixelRatioF();
-    m_surface.Begin(dpi);
+    m_pause.stop();
+    QElapsedTimer clock;
+    clock.start();
+    m_surface.Begin(host::kUnitsPerInch * m_view.zoom * devicePixelRatioF());
+    m_drawnZoom = m_view.zoom;
+    m_isSlow = clock.elapsed() >= kSlowRedraw;
     PlaceSheet();
+    ShowPixels();
+}
+
+void PageCanvas::RedrawSoon() {
+    if (m_isSlow) {
+        m_pause.start();
+        viewport()->update();
+    } else {
+        Redraw();
+    }
+}
+
+void PageCanvas::ShowPixels() {
+    const std::string failure = m_surface.TakeMapFailure();
+    if (!failure.empty()) {
+        Q_EMIT Failed(QString::fromStdString(failure));
+    }
     viewport()->update();
 }
 
@@ -93,7 +128,7 @@ void PageCanvas::OnItemsChanged(const Indices& items) {
     for (const std::size_t item : items) {
         m_surface.DrawChanged(item);
     }
-    viewport()->update();
+    ShowPixels();
 }
 
 void PageCanvas::OnPageReplaced() {
@@ -144,7 +179,8 @@ void PageCanvas::paintEvent(QPaintEvent* event) {
                          QString::fromStdString(m_surface.Failure()));
         return;
     }
-    const double ratio = devicePixelRatioF();
+    // Until it is drawn at this zoom, what there is of another is stretched.
+    const double ratio = devicePixelRatioF() * m_drawnZoom / m_view.zoom;
     const QRectF shown = QRectF(event->rect()).translated(-m_view.corner);
     const QRectF source(shown.topLeft() * ratio, shown.size() * ratio);
     const QRect part = source.toAlignedRect().intersected(image.rect());
@@ -159,7 +195,8 @@ void PageCanvas::paintEvent(QPaintEvent* event) {
 
 void PageCanvas::resizeEvent(QResizeEvent*) {
     if (m_fits) {
-        ZoomToFit();
+        PlaceToFit();
+        RedrawSoon();
     } else {
         PlaceSheet();
     }
@@ -177,11 +214,15 @@ void PageCanvas::wheelEvent(QWheelEvent* event) {
     }
     const double steps = event->angleDelta().y() / 120.0;
     if (steps != 0.0) {  // a wheel that only turns sideways zooms nothing
-        ZoomAbout(m_view.zoom * std::pow(kWheelStep, steps), event->position());
+        PlaceAtZoom(m_view.zoom * std::pow(kWheelStep, steps), event->position());
+        RedrawSoon();
     }
 }
 
 void PageCanvas::mousePressEvent(QMouseEvent* event) {
+    if (m_pause.isActive()) {
+        Redraw();
+    }
     if (event->button() == Qt::MiddleButton ||
         (event->button() == Qt::LeftButton && m_isSpaceDown)) {
         m_isPanning = true;
@@ -300,50 +341,6 @@ void PageCanvas::ShowCursorAt(QPointF point) {
                           : hit.handle >= 0 ? kByHandle[hit.handle]
                           : isSelected      ? Qt::SizeAllCursor
                                             : Qt::ArrowCursor);
-}
-
-void PageCanvas::keyPressEvent(QKeyEvent* event) {
-    const double step = event->modifiers().testFlag(Qt::ShiftModifier) ? 10.0 : 1.0;
-    switch (event->key()) {
-        case Qt::Key_Left:
-            return Nudge(-step, 0.0);
-        case Qt::Key_Right:
-            return Nudge(step, 0.0);
-        case Qt::Key_Up:
-            return Nudge(0.0, step);
-        case Qt::Key_Down:
-            return Nudge(0.0, -step);
-        case Qt::Key_Escape:
-            return m_drag != nullptr ? CancelDrag() : m_document.Select({});
-        case Qt::Key_Space:
-            m_isSpaceDown = true;
-            return viewport()->setCursor(Qt::OpenHandCursor);
-        default:
-            QAbstractScrollArea::keyPressEvent(event);
-    }
-}
-
-void PageCanvas::keyReleaseEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Space && !event->isAutoRepeat()) {
-        m_isSpaceDown = false;
-        viewport()->setCursor(Qt::ArrowCursor);
-    }
-    QAbstractScrollArea::keyReleaseEvent(event);
-}
-
-/// Tab goes through the items; from the last, and on an empty page, to the next widget.
-bool PageCanvas::focusNextPrevChild(bool next) {
-    const std::size_t count = m_document.Count();
-    const Indices& selection = m_document.Selection();
-    const std::size_t beyond = next ? count - 1 : 0;
-    if (count == 0 || (!selection.empty() && selection.back() == beyond)) {
-        m_document.Select({});
-        return QAbstractScrollArea::focusNextPrevChild(next);
-    }
-    const std::size_t first = next ? 0 : count - 1;
-    const std::size_t step = next ? 1 : static_cast<std::size_t>(-1);
-    m_document.Select({selection.empty() ? first : selection.back() + step});
-    return true;
 }
 
 void PageCanvas::Attempt(const std::function<void()>& step) {

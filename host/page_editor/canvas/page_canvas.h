@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractScrollArea>
+#include <QTimer>
 #include <functional>
 #include <memory>
 
@@ -17,8 +18,9 @@ namespace page_editor {
 /// A click selects, with Shift or Ctrl besides what is selected; dragging moves, or pulls
 /// a handle. Alt lets go of lines and whole units; Shift keeps proportions, or lets go of
 /// those that are kept. The middle button, or Space, moves the sheet; Ctrl and the wheel
-/// zoom about the pointer. Arrow keys move what is selected by 1, with Shift by 10; Tab
-/// goes through the items, Escape gives a drag up.
+/// zoom about the pointer. Arrow keys move what is selected by 1, with Shift by 10, and
+/// with Ctrl they resize it; the sheet is moved where nothing is selected. Tab goes
+/// through the items, Escape gives a drag up.
 class PageCanvas : public QAbstractScrollArea {
     Q_OBJECT
 public:
@@ -41,11 +43,15 @@ public:
     void CancelDrag();
     /// Moves what is selected, as the arrow keys do.
     void Nudge(double dx, double dy);
+    /// Pulls the right edge, or else the top edge, of what is selected, as a drag does.
+    void Grow(double dx, double dy);
 
 Q_SIGNALS:
     void ZoomChanged(double zoom);
     /// Something could not be done; one line says what and why.
     void Failed(const QString& why);
+    /// A map that takes long has been read so far, 0 to 1.
+    void Reading(double part);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -60,7 +66,11 @@ protected:
     bool focusNextPrevChild(bool next) override;
 
 private:
+    void PlaceAtZoom(double zoom, QPointF point);
+    void PlaceToFit();
     void Redraw();
+    void RedrawSoon();
+    void ShowPixels();
     void OnItemsChanged(const Indices& items);
     void OnPageReplaced();
     void PlaceSheet();
@@ -77,6 +87,9 @@ private:
     PageSurface m_surface;
     View m_view;
     bool m_fits = true;  // follows the size of the window
+    double m_drawnZoom = 1.0;
+    bool m_isSlow = false;  // drawing the page takes longer than a turn of the wheel
+    QTimer m_pause;         // until it is drawn at the zoom
 
     std::unique_ptr<Drag> m_drag;
     QPointF m_pressed;

@@ -1,11 +1,15 @@
 #include "page_editor/canvas/page_surface.h"
 
+#include <QElapsedTimer>
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <exception>
 #include <new>
+#include <stdexcept>
 
 #include "page/units.h"
+#include "page_editor/document/separate_reading.h"
 
 namespace page_editor {
 namespace {
@@ -13,6 +17,26 @@ namespace {
 constexpr double kMostPixels = 48.0e6;
 constexpr double kLongestSide = 20'000.0;
 constexpr double kShortestSide = 16.0;
+
+constexpr int kTellingInterval = 200;  // milliseconds
+
+constexpr std::uint8_t kLightStripe = 245;
+constexpr std::uint8_t kDarkStripe = 225;
+constexpr int kStripe = 8;  // pixels
+
+host::PixelImage Hatched(int width, int height) {
+    host::PixelImage image{width, height, {}};
+    image.bgra.reserve(4 * static_cast<std::size_t>(width) *
+                       static_cast<std::size_t>(height));
+    for (int y = 0; y < height; ++y) {
+        for (int x = 0; x < width; ++x) {
+            const bool isDark = (x + y) % (2 * kStripe) < kStripe;
+            const std::uint8_t grey = isDark ? kDarkStripe : kLightStripe;
+            image.bgra.insert(image.bgra.end(), {grey, grey, grey, 255});
+        }
+    }
+    return image;
+}
 
 QRect ToQt(const Gdiplus::Rect& rect) {
     return {rect.X, rect.Y, rect.Width, rect.Height};
@@ -41,12 +65,40 @@ void PageSurface::Begin(double dpi) {
     m_width = m_page.Width();
     m_height = m_page.Height();
     Try([&] {
-        m_live = std::make_unique<host::LivePage>(m_page, dpi);
+        m_live = std::make_unique<host::LivePage>(
+            m_page, dpi,
+            [this](host::MapPicture& picture, int width, int height,
+                   const host::Progress&) { return Render(picture, width, height); });
         const host::PixelRows rows = m_live->Image().Rows();
         m_image = QImage(rows.first, rows.width, rows.height, rows.stride,
                          QImage::Format_RGB32);
         return m_image.rect();
     });
+}
+
+host::PixelImage PageSurface::Render(host::MapPicture& picture, int width, int height) {
+    QElapsedTimer clock;
+    clock.start();
+    bool isTold = false;
+    const auto tell = [&](double part) {
+        if (m_progress && clock.elapsed() >= kTellingInterval) {
+            clock.start();
+            isTold = true;
+            m_progress(part);
+        }
+        return true;
+    };
+    host::PixelImage image;
+    try {
+        image = RenderSeparately(picture, width, height, tell);
+    } catch (const std::runtime_error& error) {
+        m_mapFailure = error.what();
+        image = Hatched(width, height);
+    }
+    if (isTold) {
+        m_progress(1.0);
+    }
+    return image;
 }
 
 void PageSurface::DrawAll() {

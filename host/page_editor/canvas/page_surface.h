@@ -5,17 +5,21 @@
 #include <cstddef>
 #include <memory>
 #include <string>
+#include <utility>
 
 #include "page/live_page.h"
 
 namespace page_editor {
 
 /// The page as pixels, drawn by the library and looked at by Qt where they lie: nothing
-/// is copied.
+/// is copied. Maps are rendered in processes of their own; one that cannot be is hatched.
 class PageSurface {
 public:
     /// @param page outlives this
-    explicit PageSurface(const host::Page& page) : m_page(page) {}
+    /// @param progress told how far a map that takes long has been read, and in the end
+    /// that all is; what it answers does not matter
+    explicit PageSurface(const host::Page& page, host::Progress progress = {})
+        : m_page(page), m_progress(std::move(progress)) {}
 
     /// Draws everything at a resolution, rasters included.
     /// @param dpi device pixels an inch
@@ -35,17 +39,23 @@ public:
     }
     /// Why it cannot; else empty.
     const std::string& Failure() const { return m_failure; }
+    /// Why a map was hatched since this was asked last; else empty.
+    std::string TakeMapFailure() { return std::exchange(m_mapFailure, {}); }
 
 private:
+    host::PixelImage Render(host::MapPicture& picture, int width, int height);
+
     template <typename Drawing>
     QRect Try(Drawing drawing);
 
     const host::Page& m_page;
+    host::Progress m_progress;
     std::unique_ptr<host::LivePage> m_live;
     QImage m_image;
     double m_width = 0.0;
     double m_height = 0.0;
     std::string m_failure;
+    std::string m_mapFailure;
 };
 
 /// The highest resolution at which a page is drawn on a screen, and the lowest.

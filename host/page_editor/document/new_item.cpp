@@ -12,6 +12,7 @@
 #include "page/text.h"
 #include "page_editor/document/arrange.h"
 #include "page_editor/document/page_document.h"
+#include "page_editor/document/separate_reading.h"
 
 namespace page_editor {
 namespace {
@@ -140,6 +141,7 @@ public:
     /// A map as large as two thirds of the sheet let it be.
     host::PageItem Map(const std::vector<std::string>& paths,
                        host::RasterStore& rasters) const {
+        TryRasters(paths, rasters);
         const auto layers = rasters.Map(paths, std::nullopt);
         const host::Room room =
             host::Inset({0.0, 0.0, m_design.paper.width, m_design.paper.height},
@@ -200,6 +202,7 @@ host::PageItem NewItem(const host::ItemType& type, const host::Page& page,
         return placing.Map(files, rasters);
     }
     if (name == "picture" && !files.empty()) {
+        TryImage(files.front());
         const std::string why = host::CheckImageFile(files.front());
         if (!why.empty()) {
             throw host::PageError("", why);

@@ -1,12 +1,14 @@
 #include "page_editor/document/page_document.h"
 
 #include <algorithm>
+#include <sstream>
 #include <utility>
 #include <vector>
 
 #include "page/document/page_text.h"
 #include "page/fit_to_map.h"
 #include "page/paper.h"
+#include "page_editor/document/separate_reading.h"
 
 namespace page_editor {
 namespace {
@@ -61,17 +63,6 @@ ItemText TextOf(const host::PageItem& item, const ItemText& before) {
 }
 
 }  // namespace
-
-CFrameBase& FrameOf(host::PageItem& item) {
-    auto* const map = std::get_if<host::MapFrame>(&item);
-    return map != nullptr ? map->frame
-                          : static_cast<CFrameBase&>(
-                                *std::get<std::unique_ptr<CSurroundFrame>>(item));
-}
-
-const CFrameBase& FrameOf(const host::PageItem& item) {
-    return FrameOf(const_cast<host::PageItem&>(item));  // NOLINT: reads only
-}
 
 PageDocument::PageDocument()
     : m_rasters(std::make_unique<host::RasterStore>()), m_page(EmptySheet()) {
@@ -173,6 +164,26 @@ void PageDocument::DuplicateSelected() {
         FrameOf(copies.back()).SetOffset(kCopyOffset, -kCopyOffset);
     }
     Append(copies, "Duplicate");
+}
+
+std::string PageDocument::TextOfSelected() const {
+    std::string text;
+    for (const std::size_t index : Selection()) {
+        text += *m_history.Current().items[index] + "\n";
+    }
+    return text;
+}
+
+void PageDocument::Paste(const std::string& text) {
+    TryItems(text);
+    host::Page pasted(m_page.Width(), m_page.Height());
+    std::istringstream lines(text);
+    for (std::string line; std::getline(lines, line);) {
+        pasted.Items().push_back(host::ReadItem(line));
+        FrameOf(pasted.Items().back()).SetOffset(kCopyOffset, -kCopyOffset);
+    }
+    TryRastersOf(pasted, *m_rasters);
+    Append(pasted.Items(), "Paste");
 }
 
 void PageDocument::Rearrange(const Indices& order) {

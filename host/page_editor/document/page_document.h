@@ -12,10 +12,6 @@
 
 namespace page_editor {
 
-/// The frame of an item, whatever stands in it.
-CFrameBase& FrameOf(host::PageItem& item);
-const CFrameBase& FrameOf(const host::PageItem& item);
-
 /// A page that is being edited: the items, what of them is selected, and every state that
 /// it went through, without anything of a screen.
 ///
@@ -32,7 +28,7 @@ public:
     std::size_t Count() const { return m_page.Items().size(); }
     /// For changes that Commit ends; also for HitTest, which keeps the handle it found.
     host::PageItem& Item(std::size_t index) { return m_page.Items()[index]; }
-    CFrameBase& Frame(std::size_t index) { return FrameOf(Item(index)); }
+    CFrameBase& Frame(std::size_t index) { return host::FrameOf(Item(index)); }
     CBoundingBox Extent(std::size_t index) const;
     host::RasterStore& Rasters() { return *m_rasters; }
 
@@ -62,6 +58,11 @@ public:
     void RemoveSelected();
     /// Puts copies of the selected items on top, a little off, and selects those.
     void DuplicateSelected();
+    /// The selected items as text, a line each; empty for none.
+    std::string TextOfSelected() const;
+    /// Puts the items of such a text on top, a little off where they stood, and selects
+    /// them. Throws host::PageError, and changes nothing, for any other text.
+    void Paste(const std::string& text);
     /// @param order the item that will stand at each place
     void Rearrange(const Indices& order);
     void SetSheet(double width, double height);

@@ -2,11 +2,28 @@
 
 #include <stdexcept>
 
+#include "page/document/page_text.h"
+#include "page/document/raster_store.h"
 #include "page/output_file.h"
 #include "page/page_output.h"
+#include "page/separate_process.h"
 #include "page_editor/document/page_files.h"
 
 namespace page_editor {
+
+namespace {
+
+/// The same page with its files opened anew.
+host::Page Reopened(const host::Page& page, host::RasterStore& rasters) {
+    host::Page copy(page.Width(), page.Height());
+    for (const host::PageItem& item : page.Items()) {
+        copy.Items().push_back(host::ReadItem(host::WriteItem(item)));
+        host::OpenRasters(copy.Items().back(), rasters);
+    }
+    return copy;
+}
+
+}  // namespace
 
 void ExportPage(const host::Page& page, const std::string& path, double dpi,
                 const host::Progress& progress) {
@@ -17,7 +34,15 @@ void ExportPage(const host::Page& page, const std::string& path, double dpi,
             throw std::runtime_error(tooLarge);
         }
         host::OutputFile file(path);
-        file.Write(host::EncodePage(page, path, dpi, progress));
+        host::InSeparateProcess(
+            "drawing",
+            [&](const host::Progress& tell) {
+                host::RasterStore rasters;
+                const host::Page copy = Reopened(page, rasters);
+                file.Write(host::EncodePage(copy, path, dpi, tell));
+                return std::string();
+            },
+            progress);
         file.Commit();
     });
 }

@@ -11,6 +11,7 @@
 #include "page/map_layers.h"
 #include "page/output_file.h"
 #include "page/text.h"
+#include "page_editor/document/separate_reading.h"
 
 namespace page_editor {
 namespace {
@@ -25,9 +26,11 @@ std::wstring TitleFor(const std::string& path) {
 
 OpenedPage OpenPageFile(const std::string& path) {
     return Naming(path, [&] {
+        TryPageFile(path);
         host::Page page = host::LoadPage(path);
         auto rasters = std::make_unique<host::RasterStore>();
         host::CheckFilesAndFonts(page);
+        TryRastersOf(page, *rasters);
         host::OpenRasters(page, *rasters);
         host::FitToMap(page);
         std::vector<std::string> remarks = host::RemarksOfLeftOut(page);
@@ -37,6 +40,7 @@ OpenedPage OpenPageFile(const std::string& path) {
 
 OpenedPage LayOutRasters(const std::vector<std::string>& paths) {
     auto rasters = std::make_unique<host::RasterStore>();
+    TryRasters(paths, *rasters);
     const std::shared_ptr<host::MapLayers> map = rasters->Map(paths, std::nullopt);
     host::PageDesign design;
     design.title.text = TitleFor(paths.front());

@@ -13,6 +13,7 @@
 #include "page/fonts.h"
 #include "page_editor/document/arrange.h"
 #include "page_editor/document/page_document.h"
+#include "page_editor/document/separate_reading.h"
 
 namespace page_editor {
 namespace {
@@ -49,7 +50,8 @@ int NaturalSize(host::PageItem& item, CMapLegend& legend, host::RasterStore& ras
     return legend.GetSize();
 }
 
-void CheckUse(const host::Property& property, const host::PropertyValue& value) {
+void CheckUse(const host::Property& property, const host::PropertyValue& value,
+              const host::RasterStore& rasters) {
     std::string why = host::CheckValue(property, value);
     const auto* const text = std::get_if<std::string>(&value);
     if (why.empty() && property.kind == PropertyKind::Font &&
@@ -57,7 +59,11 @@ void CheckUse(const host::Property& property, const host::PropertyValue& value) 
         why = "no font family \"" + *text + "\" is installed";
     }
     if (why.empty() && property.kind == PropertyKind::File) {
+        TryImage(*text);
         why = host::CheckImageFile(*text);
+    }
+    if (why.empty() && property.kind == PropertyKind::Rasters) {
+        TryRasters(std::get<std::vector<std::string>>(value), rasters);
     }
     if (!why.empty()) {
         throw host::PageError(property.name, why);
@@ -68,7 +74,7 @@ void CheckUse(const host::Property& property, const host::PropertyValue& value) 
 
 void SetProperty(host::PageItem& item, const host::Property& property,
                  const host::PropertyValue& value, host::RasterStore& rasters) {
-    CheckUse(property, value);
+    CheckUse(property, value, rasters);
     auto* const legend = ElementIn<CMapLegend>(item);
     if (!IsMeasuredBy(property, item)) {
         property.write(item, value);

@@ -8,16 +8,30 @@
 
 namespace page_editor {
 
-QString NumberText(double value, bool isFloat) {
+namespace {
+
+constexpr int kDigits = 6;
+constexpr double kLarge = 1.0e5;
+
+/// @param form how std::to_chars is to write it; none for as short as can be read back
+template <typename... Form>
+QString TextOf(double value, Form... form) {
     if (!std::isfinite(value)) {
         return {};
     }
     char text[32];
     const std::to_chars_result end =
-        isFloat
-            ? std::to_chars(std::begin(text), std::end(text), static_cast<float>(value))
-            : std::to_chars(std::begin(text), std::end(text), value);
+        std::to_chars(std::begin(text), std::end(text), value, form...);
     return QString::fromLatin1(text, end.ptr - text);
+}
+
+}  // namespace
+
+QString NumberText(double value) { return TextOf(value); }
+
+QString ShortNumberText(double value) {
+    return std::fabs(value) < kLarge ? TextOf(value, std::chars_format::general, kDigits)
+                                     : TextOf(value);
 }
 
 std::optional<double> NumberIn(const QString& text) {
@@ -33,7 +47,6 @@ std::optional<double> NumberIn(const QString& text) {
 NumberField::NumberField(const host::Property& property, QWidget* parent)
     : PropertyField(parent),
       m_line(new QLineEdit(this)),
-      m_isFloat(property.isFloat),
       m_mayBeUnknown(property.kind == host::PropertyKind::Ratio) {
     Fill(m_line);
     m_line->installEventFilter(this);
@@ -48,7 +61,8 @@ NumberField::NumberField(const host::Property& property, QWidget* parent)
 }
 
 void NumberField::Show(const host::PropertyValue& value) {
-    m_line->setText(NumberText(std::get<double>(value), m_isFloat));
+    m_value = std::get<double>(value);
+    m_line->setText(ShortNumberText(m_value));
     m_line->setModified(false);
 }
 
@@ -64,8 +78,8 @@ bool NumberField::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void NumberField::TellText() {
+    const std::optional<double> value = ValueOfText();
     m_line->setModified(false);
-    const std::optional<double> value = NumberIn(m_line->text());
     if (value) {
         Tell(*value);
     } else if (m_mayBeUnknown && m_line->text().trimmed().isEmpty()) {
@@ -76,9 +90,15 @@ void NumberField::TellText() {
 }
 
 void NumberField::Step(double by) {
-    if (const std::optional<double> value = NumberIn(m_line->text())) {
+    if (const std::optional<double> value = ValueOfText()) {
         Tell(*value + by);
     }
+}
+
+/// The number behind a text that nobody changed has more digits.
+std::optional<double> NumberField::ValueOfText() const {
+    return m_line->isModified() || m_line->text().isEmpty() ? NumberIn(m_line->text())
+                                                            : std::optional(m_value);
 }
 
 }  // namespace page_editor

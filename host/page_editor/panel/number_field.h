@@ -8,12 +8,17 @@
 namespace page_editor {
 
 /// A number as text that is read back to the same bits, whatever the locale.
-QString NumberText(double value, bool isFloat = false);
+QString NumberText(double value);
+
+/// A number as text of six digits, or of all that it has where it is a large one: more
+/// are of no use to a person, and are kept behind it.
+QString ShortNumberText(double value);
 
 /// The finite number that a whole text is.
 std::optional<double> NumberIn(const QString& text);
 
-/// A number to type; up and down change it by one. A ratio that is unknown is empty.
+/// A number to type, of which six digits are shown; up and down change it by one. A ratio
+/// that is unknown is empty.
 class NumberField : public PropertyField {
 public:
     NumberField(const host::Property& property, QWidget* parent);
@@ -27,8 +32,10 @@ private:
     void TellText();
     void Step(double by);
 
+    std::optional<double> ValueOfText() const;
+
     QLineEdit* m_line;
-    bool m_isFloat;
+    double m_value = 0.0;  // as it was shown last
     bool m_mayBeUnknown;
 };
 

@@ -48,6 +48,13 @@ PropertyField* PropertyPanel::Field(const char* name) const {
     return found == m_rows.end() ? nullptr : found->field;
 }
 
+void PropertyPanel::FocusFirst() {
+    if (!m_rows.empty()) {
+        m_rows.front().field->setFocus();
+        ensureWidgetVisible(m_rows.front().field);
+    }
+}
+
 /// The type of all that are selected; null where they differ or nothing is.
 const host::ItemType* PropertyPanel::SharedType() const {
     const host::ItemType* shared = nullptr;

@@ -22,6 +22,11 @@ public:
     /// The field of a property shown; null when there is none.
     PropertyField* Field(const char* name) const;
 
+    /// Puts the keyboard into the first field.
+    void FocusFirst();
+    /// Shows again what is; what was being typed is forgotten.
+    void ShowValues();
+
 Q_SIGNALS:
     /// A value was refused; one line says why.
     void Failed(const QString& why);
@@ -34,7 +39,6 @@ private:
 
     const host::ItemType* SharedType() const;
     void Rebuild();
-    void ShowValues();
     void AddRows(const QString& title, const std::vector<host::Property>& properties,
                  QWidget* panel);
     void Change(const host::Property& property, const host::PropertyValue& value);

@@ -101,12 +101,18 @@ void AddEditMenu(EditorWindow& window) {
             {"redo", "&Redo", QKeySequence("Ctrl+Shift+Z"),
              [](EditorWindow& w) { w.Redo(); }},
             kLine,
+            {"cut", "Cu&t", QKeySequence::Cut, [](EditorWindow& w) { w.Cut(); }},
+            {"copy", "&Copy", QKeySequence::Copy, [](EditorWindow& w) { w.Copy(); }},
+            {"paste", "&Paste", QKeySequence::Paste, [](EditorWindow& w) { w.Paste(); }},
             {"delete", "&Delete", QKeySequence::Delete,
              [](EditorWindow& w) { w.Document().RemoveSelected(); }},
             {"duplicate", "D&uplicate", QKeySequence("Ctrl+D"),
              [](EditorWindow& w) { w.Duplicate(); }},
             {"selectAll", "Select &all", QKeySequence::SelectAll,
              [](EditorWindow& w) { w.SelectAll(); }},
+            kLine,
+            {"properties", "P&roperties", QKeySequence("F2"),
+             [](EditorWindow& w) { w.EditProperties(); }},
         });
 }
 
@@ -212,9 +218,10 @@ void FollowHistory(EditorWindow& window) {
 void FollowSelection(EditorWindow& window) {
     const auto follow = [&window] {
         const std::size_t count = window.Document().Selection().size();
-        for (const char* name : {"delete", "duplicate", "rotate", "up", "down", "toFront",
-                                 "toBack", "alignLeft", "alignCentre", "alignRight",
-                                 "alignTop", "alignMiddle", "alignBottom"}) {
+        for (const char* name :
+             {"cut", "copy", "delete", "duplicate", "properties", "rotate", "up", "down",
+              "toFront", "toBack", "alignLeft", "alignCentre", "alignRight", "alignTop",
+              "alignMiddle", "alignBottom"}) {
             window.findChild<QAction*>(QString::fromUtf8(name))->setEnabled(count > 0);
         }
         for (const char* name : {"distributeAcross", "distributeUpwards"}) {

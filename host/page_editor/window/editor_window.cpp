@@ -1,10 +1,13 @@
 #include "page_editor/window/editor_window.h"
 
+#include <QClipboard>
 #include <QCloseEvent>
 #include <QDockWidget>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QGuiApplication>
 #include <QInputDialog>
+#include <QShortcut>
 #include <QStatusBar>
 #include <exception>
 #include <stdexcept>
@@ -26,13 +29,19 @@ constexpr int kTold = 8000;  // milliseconds
 EditorWindow::EditorWindow()
     : m_canvas(new PageCanvas(m_document)),
       m_panel(new PropertyPanel(m_document)),
-      m_files(new FileCommands(m_document, *this)) {
+      m_files(new FileCommands(m_document, *this)),
+      m_properties(new QDockWidget("Properties", this)) {
     setCentralWidget(m_canvas);
-    auto* const dock = new QDockWidget("Properties", this);
-    dock->setObjectName("properties");
-    dock->setWidget(m_panel);
+    m_properties->setObjectName("propertiesDock");
+    m_properties->setWidget(m_panel);
     m_panel->setMinimumWidth(kPanelWidth);
-    addDockWidget(Qt::RightDockWidgetArea, dock);
+    addDockWidget(Qt::RightDockWidgetArea, m_properties);
+    auto* const back = new QShortcut(Qt::Key_Escape, m_panel);
+    back->setContext(Qt::WidgetWithChildrenShortcut);
+    connect(back, &QShortcut::activated, m_canvas, [this] {
+        m_panel->ShowValues();
+        m_canvas->setFocus();
+    });
     AddActions(*this);
 
     auto* const zoom = new QLabel(this);
@@ -41,6 +50,7 @@ EditorWindow::EditorWindow()
         zoom->setText(QString("%1 %").arg(value * 100.0, 0, 'f', 0));
     });
     connect(m_canvas, &PageCanvas::Failed, this, &EditorWindow::ShowFailure);
+    connect(m_canvas, &PageCanvas::Reading, this, &EditorWindow::ShowReading);
     connect(m_panel, &PropertyPanel::Failed, this, &EditorWindow::ShowFailure);
     connect(m_files, &FileCommands::Failed, this, &EditorWindow::ShowFailure);
     connect(m_files, &FileCommands::Told, this,
@@ -88,6 +98,27 @@ void EditorWindow::Duplicate() {
     Attempt([this] { m_document.DuplicateSelected(); });
 }
 
+void EditorWindow::Copy() {
+    if (!m_document.Selection().empty()) {
+        QGuiApplication::clipboard()->setText(
+            QString::fromStdString(m_document.TextOfSelected()));
+    }
+}
+
+void EditorWindow::Cut() {
+    Copy();
+    m_document.RemoveSelected();
+}
+
+void EditorWindow::Paste() {
+    const std::string text = QGuiApplication::clipboard()->text().toStdString();
+    try {
+        m_document.Paste(text);
+    } catch (const std::exception& error) {
+        ShowFailure(QString("the clipboard: %1").arg(error.what()));
+    }
+}
+
 void EditorWindow::Align(AlignTo to) {
     const std::vector<Edges> boxes = SelectedBoxes();
     if (boxes.empty()) {
@@ -121,6 +152,11 @@ void EditorWindow::SelectAll() {
         all.push_back(i);
     }
     m_document.Select(std::move(all));
+}
+
+void EditorWindow::EditProperties() {
+    m_properties->show();
+    m_panel->FocusFirst();
 }
 
 void EditorWindow::SetUpSheet() {
@@ -164,6 +200,17 @@ void EditorWindow::ShowTitle() {
 void EditorWindow::ShowFailure(const QString& why) {
     m_lastFailure = why;
     statusBar()->showMessage(why);
+}
+
+/// Nothing else is drawn until the map is read.
+void EditorWindow::ShowReading(double part) {
+    if (part < 1.0) {
+        statusBar()->showMessage(
+            QString("Reading the rasters: %1 %").arg(part * 100.0, 0, 'f', 0));
+        statusBar()->repaint();
+    } else {
+        statusBar()->clearMessage();
+    }
 }
 
 void EditorWindow::Attempt(const std::function<void()>& step) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDockWidget>
 #include <QLabel>
 #include <QMainWindow>
 #include <QStringList>
@@ -31,11 +32,18 @@ public:
     void Undo();
     void Redo();
     void Duplicate();
+    /// What is selected goes to the clipboard as text, and comes from there, also into
+    /// another window.
+    void Copy();
+    void Cut();
+    void Paste();
     void Align(AlignTo to);
     void Distribute(Direction direction);
     void Reorder(Order order);
     void TurnSelected();
     void SelectAll();
+    /// Puts the keyboard into the properties; Escape brings it back to the page.
+    void EditProperties();
     /// Asks for the size of the sheet.
     void SetUpSheet();
     /// @return false, and nothing is changed, when the text is no sheet
@@ -50,6 +58,7 @@ protected:
 private:
     void ShowTitle();
     void ShowFailure(const QString& why);
+    void ShowReading(double part);
     void Attempt(const std::function<void()>& step);
     std::vector<Edges> SelectedBoxes() const;
     void MoveSelectedBy(const std::vector<CPoint2D>& offsets, const std::string& label);
@@ -58,6 +67,7 @@ private:
     PageCanvas* m_canvas;
     PropertyPanel* m_panel;
     FileCommands* m_files;
+    QDockWidget* m_properties;
     QString m_lastFailure;
 };
 

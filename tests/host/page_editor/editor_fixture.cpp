@@ -48,7 +48,7 @@ std::size_t EditorTest::Add(const char* type, const Edges& box,
     EXPECT_EQ(window.LastFailure().toStdString(), "");
     const std::size_t item = document.Count() - 1;
     document.ChangeItems({item}, "Place", [&](host::PageItem& added) {
-        page_editor::FrameOf(added).SetExtent(box.Box());
+        host::FrameOf(added).SetExtent(box.Box());
     });
     document.Select({});
     return item;
@@ -59,7 +59,7 @@ Edges EditorTest::BoxOf(std::size_t item) {
 }
 
 Edges EditorTest::BoxOf(std::size_t item, const host::Page& page) {
-    return page_editor::EdgesOf(page_editor::FrameOf(page.Items()[item]).GetExtent());
+    return page_editor::EdgesOf(host::FrameOf(page.Items()[item]).GetExtent());
 }
 
 host::PropertyValue EditorTest::Value(std::size_t index, const char* name) {

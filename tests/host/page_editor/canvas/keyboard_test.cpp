@@ -32,6 +32,54 @@ TEST_F(Keyboard, ArrowsMoveByOneAndByTen) {
     ExpectBox(BoxOf(0), {100.0, 100.0, 200.0, 200.0});
 }
 
+TEST_F(Keyboard, ControlAndArrowsResize) {
+    document.Select({0});
+    Key(Qt::Key_Right, Qt::ControlModifier);
+    Key(Qt::Key_Right, Qt::ControlModifier | Qt::ShiftModifier);
+    ExpectBox(BoxOf(0), {100.0, 100.0, 211.0, 200.0});
+    Key(Qt::Key_Down, Qt::ControlModifier);
+    ExpectBox(BoxOf(0), {100.0, 100.0, 211.0, 199.0});
+    Key(Qt::Key_Left, Qt::ControlModifier);
+    Key(Qt::Key_Up, Qt::ControlModifier);
+    ExpectBox(BoxOf(0), {100.0, 100.0, 210.0, 200.0});
+    ExpectImageIsThePage();
+    EXPECT_EQ(document.UndoLabel(), "Resize");
+    Command("undo");
+    ExpectBox(BoxOf(0), {100.0, 100.0, 200.0, 200.0});
+}
+
+TEST_F(Keyboard, ResizingKeepsTheProportionsThatADragKeeps) {
+    document.Select({1});  // 100 x 50, about the middle of its left edge
+    Key(Qt::Key_Right, Qt::ControlModifier | Qt::ShiftModifier);
+    ExpectBox(BoxOf(1), {300.0, 97.5, 410.0, 152.5});
+}
+
+TEST_F(Keyboard, ArrowsMoveTheSheetWhereNothingIsSelected) {
+    canvas.SetZoom(3.0);
+    const QPointF corner = canvas.CurrentView().corner;
+    Key(Qt::Key_Right);
+    Key(Qt::Key_Up);
+    EXPECT_LT(canvas.CurrentView().corner.x(), corner.x());
+    EXPECT_GT(canvas.CurrentView().corner.y(), corner.y());
+    ExpectBox(BoxOf(0), {100.0, 100.0, 200.0, 200.0});
+}
+
+TEST_F(Keyboard, GoesToThePropertiesAndBack) {
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    canvas.setFocus();
+    document.Select({1});
+    Key(Qt::Key_F2);
+    QWidget* const field = QApplication::focusWidget();
+    ASSERT_NE(field, nullptr);
+    EXPECT_TRUE(panel.isAncestorOf(field));
+    QTest::keyClicks(field, "forgotten");
+    QTest::keyClick(field, Qt::Key_Escape);
+    EXPECT_TRUE(canvas.hasFocus());
+    EXPECT_THAT(document.Selection(), ElementsAre(1));
+    EXPECT_EQ(std::get<std::string>(Value(1, "name")), "title");
+}
+
 TEST_F(Keyboard, StepsOfAnotherItemAreAnotherCommand) {
     document.Select({0});
     Key(Qt::Key_Right);

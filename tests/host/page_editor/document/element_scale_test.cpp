@@ -63,7 +63,7 @@ TEST(ElementScale, OnlyStretchesAnEmptyFrame) {
     const ElementScale scale(frame);
     EXPECT_FALSE(scale.HasElement());
     scale.Apply(frame, {1.0, 2.0, 30.0, 40.0});
-    EXPECT_EQ(page_editor::FrameOf(frame).GetExtent().GetWidth(), 29.0);
+    EXPECT_EQ(host::FrameOf(frame).GetExtent().GetWidth(), 29.0);
 }
 
 }  // namespace

@@ -3,13 +3,17 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <stdexcept>
+#include <string>
+
 #include "page/document/page_text.h"
 #include "page/placed_frame.h"
 #include "page_editor/document/arrange.h"
 
 namespace {
 
-using page_editor::FrameOf;
+using host::FrameOf;
 using page_editor::Indices;
 using page_editor::PageDocument;
 using ::testing::ElementsAre;
@@ -158,6 +162,38 @@ TEST_F(PageDocumentTest, KnowsWhetherItIsModified) {
     EXPECT_TRUE(document.IsModified());
     document.Undo();
     EXPECT_FALSE(document.IsModified());
+}
+
+TEST_F(PageDocumentTest, PastesWhatWasCopiedIntoAnotherPage) {
+    document.Select({});
+    EXPECT_EQ(document.TextOfSelected(), "");
+    document.Select({0, 2});
+    const std::string text = document.TextOfSelected();
+    EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 2);
+    PageDocument other;
+    other.Paste(text);
+    EXPECT_EQ(NamesOf(other), "ac");
+    EXPECT_THAT(other.Selection(), ElementsAre(0, 1));
+    EXPECT_EQ(other.Extent(0).TopLeft().x, 26.0);
+    EXPECT_EQ(other.Extent(0).TopLeft().y, 44.0);
+    EXPECT_EQ(other.UndoLabel(), "Paste");
+    other.Undo();
+    EXPECT_EQ(other.Count(), 0u);
+}
+
+TEST_F(PageDocumentTest, PastesNoOtherText) {
+    const std::string item = host::WriteItem(Frame("e")) + "\n";
+    for (
+        const std::string& text :
+        {std::string("some text"), item + "{", item + "{}", item + "\n",
+         item +
+             R"({"type":"map","rasters":["/none.tif"],"frame":{"width":9,"height":9}})"}) {
+        EXPECT_THROW(document.Paste(text), std::runtime_error) << text;
+        EXPECT_EQ(NamesOf(document), "abcd");
+    }
+    document.Paste("");
+    EXPECT_EQ(NamesOf(document), "abcd");
+    EXPECT_EQ(document.UndoLabel(), "Add");
 }
 
 }  // namespace

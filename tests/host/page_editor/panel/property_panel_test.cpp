@@ -9,9 +9,11 @@
 #include <QSpinBox>
 #include <QtTest>
 #include <cmath>
+#include <utility>
 
 #include "page/made_raster.h"
 #include "page_editor/editor_fixture.h"
+#include "page_editor/panel/number_field.h"
 
 namespace {
 
@@ -96,12 +98,36 @@ TEST_F(PropertyPanel, ChangesANumberAndKeepsItsBits) {
     const std::size_t title = Select("title");
     Type("left", "123.45678901234567");
     EXPECT_EQ(std::get<double>(Value(title, "left")), 123.45678901234567);
-    EXPECT_EQ(In<QLineEdit>("left")->text(), "123.45678901234567");
+    EXPECT_EQ(In<QLineEdit>("left")->text(), "123.457");
+    QTest::keyClick(In<QLineEdit>("left"), Qt::Key_Return);  // nothing was typed
+    EXPECT_EQ(std::get<double>(Value(title, "left")), 123.45678901234567);
+    QTest::keyClick(In<QLineEdit>("left"), Qt::Key_Down);
+    EXPECT_EQ(std::get<double>(Value(title, "left")), 123.45678901234567 - 1.0);
+    QTest::keyClicks(In<QLineEdit>("left"), "25");  // not told yet
+    QTest::keyClick(In<QLineEdit>("left"), Qt::Key_Up);
+    EXPECT_EQ(std::get<double>(Value(title, "left")), 122.45725 + 1.0);
     Type("borderWidth", "0.1");
     EXPECT_EQ(In<QLineEdit>("borderWidth")->text(), "0.1");  // and not a float's digits
     QTest::keyClick(In<QLineEdit>("borderWidth"), Qt::Key_Up);
     EXPECT_EQ(In<QLineEdit>("borderWidth")->text(), "1.1");
     ExpectImageIsThePage();
+}
+
+TEST(NumberField, ShowsSixDigits) {
+    const std::pair<double, const char*> rows[] = {
+        {29.763779527559056, "29.7638"},
+        {double{0.1f}, "0.1"},
+        {-0.0, "-0"},
+        {1.0 / 3.0e4, "3.33333e-05"},
+        {99999.96, "100000"},
+        {123456.789, "123456.789"},
+        {1122.5196850393702, "1122.52"},
+        {-400.0, "-400"},
+    };
+    for (const auto& [value, text] : rows) {
+        EXPECT_EQ(page_editor::ShortNumberText(value).toStdString(), text);
+    }
+    EXPECT_EQ(page_editor::ShortNumberText(std::nan("")), "");
 }
 
 TEST_F(PropertyPanel, ChangesAnAngle) {

@@ -1,5 +1,9 @@
 #include <gmock/gmock.h>
 
+#include <QAction>
+#include <QClipboard>
+#include <QGuiApplication>
+
 #include "page/document/page_text.h"
 #include "page_editor/editor_fixture.h"
 
@@ -7,6 +11,7 @@ namespace {
 
 using editor_tests::EditorTest;
 using editor_tests::ExpectBox;
+using page_editor::Edges;
 using ::testing::ElementsAre;
 
 class ArrangeCommands : public EditorTest {
@@ -94,6 +99,30 @@ TEST_F(ArrangeCommands, SelectAllAndDelete) {
     Command("undo");
     EXPECT_EQ(document.Count(), 3u);
     ExpectImageIsThePage();
+}
+
+TEST_F(ArrangeCommands, CutCopyAndPaste) {
+    const std::size_t count = document.Count();
+    document.Select({0});
+    const Edges box = BoxOf(0);
+    Command("copy");
+    page_editor::EditorWindow other;
+    other.findChild<QAction*>("paste")->trigger();
+    ASSERT_EQ(other.Document().Count(), 1u);
+    EXPECT_EQ(page_editor::EdgesOf(other.Document().Extent(0)).left, box.left + 16.0);
+
+    Command("cut");
+    EXPECT_EQ(document.Count(), count - 1);
+    Command("paste");
+    ASSERT_EQ(document.Count(), count);
+    EXPECT_EQ(BoxOf(count - 1).Width(), box.Width());
+    ExpectImageIsThePage();
+
+    QGuiApplication::clipboard()->setText("some text");
+    Command("paste");
+    EXPECT_THAT(window.LastFailure().toStdString(),
+                ::testing::StartsWith("the clipboard: "));
+    EXPECT_EQ(document.Count(), count);
 }
 
 TEST_F(ArrangeCommands, ChangeTheSheet) {

@@ -83,7 +83,7 @@ TEST_F(Insert, ScaleBarsFollowTheMap) {
     window.Insert("map", {Scene()});
     window.Insert("scale-bar-line");
     document.ChangeItems({0}, "Resize", [](host::PageItem& item) {
-        page_editor::FrameOf(item).SetExtent({100.0, 100.0, 200.0, 200.0});
+        host::FrameOf(item).SetExtent({100.0, 100.0, 200.0, 200.0});
     });
     EXPECT_NEAR(std::get<double>(Value(1, "divisionValue")) /
                     std::get<double>(Value(1, "divisionLength")),

@@ -1,0 +1,103 @@
+#include "page_editor/document/separate_reading.h"
+
+#include <sstream>
+#include <stdexcept>
+#include <variant>
+
+#include "page/document/item_type.h"
+#include "page/document/page_error.h"
+#include "page/document/page_text.h"
+#include "page/map_layers.h"
+#include "page/separate_process.h"
+
+namespace page_editor {
+namespace {
+
+/// Only how the process ends matters: what else is wrong is told when the file is read
+/// here.
+template <typename Reading>
+void Try(const std::string& path, Reading read) {
+    try {
+        host::InSeparateProcess("reading", [&](const host::Progress&) {
+            read();
+            return std::string();
+        });
+    } catch (const host::WorkFailed&) {
+        return;
+    } catch (const std::runtime_error& error) {
+        throw host::PageError(path, error.what());
+    }
+}
+
+void ReadRaster(const std::string& path) {
+    std::string why;
+    const auto raster = host::GdalRaster::Open(path, why);
+    if (raster == nullptr) {
+        return;
+    }
+    raster->GetClassifyDisplayTable();
+    if (raster->GetDisplayType() == DisplayGray) {
+        double low = 0.0;
+        double high = 0.0;
+        raster->GetRasterBand(0)->ComputeMinMax(&low, &high, true);
+    }
+}
+
+}  // namespace
+
+host::PixelImage RenderSeparately(host::MapPicture& picture, int width, int height,
+                                  const host::Progress& progress) {
+    const auto* const layers = dynamic_cast<const host::MapLayers*>(&picture);
+    if (layers == nullptr) {
+        return picture.Render(width, height, progress);
+    }
+    const std::string bytes = host::InSeparateProcess(
+        "reading the rasters",
+        [&](const host::Progress& tell) {
+            const host::PixelImage image =
+                layers->Reopened()->Render(width, height, tell);
+            return std::string(image.bgra.begin(), image.bgra.end());
+        },
+        progress);
+    return {width, height, {bytes.begin(), bytes.end()}};
+}
+
+void TryRasters(const std::vector<std::string>& paths, const host::RasterStore& rasters) {
+    for (const std::string& path : paths) {
+        if (!rasters.Has(path)) {
+            Try(path, [&] { ReadRaster(path); });
+        }
+    }
+}
+
+void TryRastersOf(const host::Page& page, const host::RasterStore& rasters) {
+    for (const host::PageItem& item : page.Items()) {
+        const host::ItemType* const type = host::TypeOf(item);
+        for (const host::Property& property :
+             type == nullptr ? std::vector<host::Property>() : type->properties) {
+            if (property.kind == host::PropertyKind::Rasters) {
+                TryRasters(std::get<std::vector<std::string>>(property.read(item)),
+                           rasters);
+            }
+        }
+    }
+}
+
+void TryImage(const std::string& path) {
+    Try(path, [&] { host::CheckImageFile(path); });
+}
+
+void TryPageFile(const std::string& path) {
+    Try("", [&] { host::CheckFilesAndFonts(host::LoadPage(path)); });
+}
+
+void TryItems(const std::string& text) {
+    Try("", [&] {
+        std::istringstream lines(text);
+        for (std::string line; std::getline(lines, line);) {
+            host::ReadItem(line);
+        }
+    });
+}
+
+}  // namespace page_editor

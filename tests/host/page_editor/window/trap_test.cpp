@@ -1,0 +1,174 @@
+// Files whose decoders crash or hang: the editor stays, and so does the work.
+
+#include <gmock/gmock.h>
+#include <sys/wait.h>
+
+#include <QApplication>
+#include <QProgressDialog>
+#include <QTimer>
+#include <QWheelEvent>
+#include <QtTest>
+
+#include "page/document/page_text.h"
+#include "page_editor/editor_fixture.h"
+#include "page_editor/trap_raster.h"
+
+namespace {
+
+using editor_tests::EditorTest;
+using editor_tests::Trap;
+using editor_tests::WriteTrap;
+using ::testing::EndsWith;
+
+constexpr const char* kAborted = "Aborted (signal 6)";
+
+class TrapFiles : public EditorTest {
+protected:
+    TrapFiles() {
+        WriteTrap(folder.Path("well.trap"), Trap::None);
+        WriteTrap(folder.Path("open.trap"), Trap::DiesWhenOpened);
+        WriteTrap(folder.Path("read.trap"), Trap::DiesWhenRead);
+        WriteTrap(folder.Path("hang.trap"), Trap::HangsWhenRead);
+        Add("north-arrow-four", {600.0, 400.0, 700.0, 500.0});
+        before = host::WritePage(document.Page(), {});
+    }
+    ~TrapFiles() override {
+        EXPECT_EQ(waitpid(-1, nullptr, WNOHANG), -1) << "a process is left";
+    }
+
+    QString Path(const char* name) { return QString::fromStdString(folder.Path(name)); }
+    std::string LastFailure() { return window.LastFailure().toStdString(); }
+    std::string Died(const char* name) {
+        return folder.Path(name) + ": reading failed: " + kAborted;
+    }
+    std::string Text() { return host::WritePage(document.Page(), {}); }
+    void TurnTheWheel() {
+        const QPointF at(50.0, 50.0);
+        QWheelEvent wheel(at, canvas.viewport()->mapToGlobal(at), {}, QPoint(0, 120),
+                          Qt::NoButton, Qt::ControlModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(canvas.viewport(), &wheel);
+    }
+    QRgb PixelAt(CPoint2D point) {
+        const QPoint pixel(static_cast<int>(point.x),
+                           static_cast<int>(document.Page().Height() - point.y));
+        return canvas.Image().pixel(pixel);
+    }
+
+    std::string before;
+};
+
+TEST_F(TrapFiles, AreShownWhereNothingIsWrong) {
+    Add("map", {100.0, 100.0, 300.0, 300.0}, {Path("well.trap")});
+    ExpectImageIsThePage();
+    EXPECT_NE(PixelAt(CPoint2D(200.0, 200.0)), PixelAt(CPoint2D(500.0, 200.0)));
+}
+
+TEST_F(TrapFiles, AreNotOpenedWhereOpeningThemCrashes) {
+    window.Insert("map", {Path("open.trap")});
+    EXPECT_EQ(LastFailure(), Died("open.trap"));
+    EXPECT_FALSE(window.Files().OpenFiles({Path("open.trap")}));
+    EXPECT_THAT(LastFailure(), EndsWith(Died("open.trap")));
+    EXPECT_EQ(Text(), before);
+}
+
+TEST_F(TrapFiles, AreNotOpenedWithAPage) {
+    Add("map", {100.0, 100.0, 300.0, 300.0}, {Path("well.trap")});
+    ASSERT_TRUE(window.Files().SaveTo(Path("page.json")));
+    const std::string now = Text();
+    WriteTrap(folder.Path("well.trap"), Trap::DiesWhenOpened);
+    page_editor::EditorWindow other;
+    EXPECT_FALSE(other.Files().OpenFiles({Path("page.json")}));
+    EXPECT_EQ(other.LastFailure().toStdString(),
+              folder.Path("page.json") + ": " + Died("well.trap"));
+    EXPECT_EQ(other.Document().Count(), 0u);
+    EXPECT_EQ(Text(), now);
+}
+
+TEST_F(TrapFiles, AreNotTakenByAProperty) {
+    const std::size_t map = Add("map", {100.0, 100.0, 300.0, 300.0}, {Path("well.trap")});
+    const std::string now = Text();
+    document.Select({map});
+    page_editor::PropertyField* const field = panel.Field("rasters");
+    ASSERT_NE(field, nullptr);
+    field->changed(std::vector<std::string>{folder.Path("open.trap")});
+    EXPECT_EQ(LastFailure(), Died("open.trap"));
+    EXPECT_EQ(Text(), now);
+}
+
+TEST_F(TrapFiles, AreHatchedWhereReadingThemCrashes) {
+    window.Insert("map", {Path("read.trap")});
+    EXPECT_EQ(LastFailure(), std::string("reading the rasters failed: ") + kAborted);
+    ASSERT_EQ(document.Count(), 2u);
+    ASSERT_FALSE(canvas.Image().isNull());
+    const page_editor::Edges box = BoxOf(1);
+    const CPoint2D middle(box.MiddleX(), box.MiddleY());
+    // Stripes of eight pixels along the other diagonal, in two light greys.
+    const QRgb one = PixelAt(middle);
+    const QRgb other = PixelAt(CPoint2D(middle.x + 8.0, middle.y));
+    EXPECT_NE(one, other);
+    EXPECT_EQ(PixelAt(CPoint2D(middle.x + 16.0, middle.y)), one);
+    EXPECT_EQ(PixelAt(CPoint2D(middle.x + 8.0, middle.y - 8.0)), one);
+    // The rest of the page can be worked on.
+    document.Select({1});
+    Command("delete");
+    EXPECT_EQ(Text(), before);
+    ExpectImageIsThePage();
+}
+
+TEST_F(TrapFiles, AreReadWhenTheWheelRestsWhereThatTakesTime) {
+    WriteTrap(folder.Path("slow.trap"), Trap::IsSlowToRead);
+    Add("map", {100.0, 500.0, 300.0, 700.0}, {Path("slow.trap")});
+    canvas.SetZoom(1.0);
+    const QSize size = canvas.Image().size();
+    for (int turn = 0; turn < 3; ++turn) {
+        TurnTheWheel();
+    }
+    EXPECT_NEAR(canvas.Zoom(), 1.728, 1e-9);  // 1.2 to the third
+    EXPECT_EQ(canvas.Image().size(), size);
+    // Until then the sheet is stretched.
+    const QImage shown = canvas.viewport()->grab().toImage();
+    const QPointF inMap = canvas.CurrentView().ToWidget(CPoint2D(150.0, 600.0));
+    EXPECT_EQ(shown.pixel(inMap.toPoint()),
+              canvas.Image().pixel(150, size.height() - 600));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return canvas.Image().size() != size; }));
+    ExpectImageIsThePage();
+}
+
+TEST_F(TrapFiles, AreReadAtOnceWhenThePageIsClickedBefore) {
+    WriteTrap(folder.Path("slow.trap"), Trap::IsSlowToRead);
+    Add("map", {100.0, 100.0, 300.0, 300.0}, {Path("slow.trap")});
+    canvas.SetZoom(1.0);
+    TurnTheWheel();
+    Click(CPoint2D(200.0, 200.0));
+    ExpectImageIsThePage();
+}
+
+TEST_F(TrapFiles, EndAnExportThatCrashes) {
+    window.Insert("map", {Path("read.trap")});
+    const std::vector<std::string> names = folder.Names();
+    for (const char* name : {"page.png", "page.ps"}) {
+        EXPECT_FALSE(window.Files().ExportTo(Path(name), 96.0));
+        EXPECT_EQ(LastFailure(), folder.Path(name) + ": drawing failed: " + kAborted);
+    }
+    EXPECT_EQ(folder.Names(), names);
+}
+
+TEST_F(TrapFiles, EndAnExportThatIsGivenUp) {
+    window.Insert("map", {Path("well.trap")});
+    WriteTrap(folder.Path("well.trap"), Trap::HangsWhenRead);
+    const std::vector<std::string> names = folder.Names();
+    QTimer cancel;
+    QObject::connect(&cancel, &QTimer::timeout, [] {
+        auto* const dialog =
+            qobject_cast<QProgressDialog*>(QApplication::activeModalWidget());
+        if (dialog != nullptr) {
+            dialog->cancel();
+        }
+    });
+    cancel.start(10);
+    EXPECT_FALSE(window.Files().ExportTo(Path("page.png"), 96.0));
+    EXPECT_EQ(LastFailure(), folder.Path("page.png") + ": stopped");
+    EXPECT_EQ(folder.Names(), names);
+}
+
+}  // namespace
