@@ -119,6 +119,9 @@ TEST_F(PageSchema, AgreesWithTheReaderOnWrongValues) {
                 EXPECT_EQ(IsValid(PageWith(changed)), IsRead(PageWith(changed)))
                     << type.name << " " << entry.key() << " " << value;
             }
+            if (&type != &host::ItemTypes().front()) {
+                continue;  // the frame has the same properties around each
+            }
             for (const auto& entry : item.at("frame").items()) {
                 json changed = item;
                 changed["frame"][entry.key()] = value;
