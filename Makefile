@@ -150,8 +150,7 @@ docs:
 
 fuzz: build/fuzz/build.ninja
 	cmake --build --preset fuzz
-	scripts/fuzz elements $(or $(FUZZ_SECONDS),30)
-	scripts/fuzz gdiplus $(or $(FUZZ_SECONDS),30)
+	printf '%s\n' elements gdiplus | xargs -P 2 -I{} scripts/fuzz {} $(or $(FUZZ_SECONDS),30)
 
 format:
 	scripts/install_packages lint
