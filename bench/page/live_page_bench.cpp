@@ -8,6 +8,7 @@
 
 #include "page/live_page.h"
 #include "page/twelve_elements.h"
+#include "run_benchmarks.h"
 
 namespace {
 
@@ -64,17 +65,4 @@ BENCHMARK(RedrawWhatMoved)->Apply(EachElement);
 
 }  // namespace
 
-int main(int argc, char** argv) {
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
-        return 2;
-    }
-    const Gdiplus::GdiplusStartupInput input;
-    ULONG_PTR token = 0;
-    if (Gdiplus::GdiplusStartup(&token, &input, nullptr) != Gdiplus::Ok) {
-        return 1;
-    }
-    benchmark::RunSpecifiedBenchmarks();
-    Gdiplus::GdiplusShutdown(token);
-    return 0;
-}
+int main(int argc, char** argv) { return bench::RunBenchmarks(argc, argv); }

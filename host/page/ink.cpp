@@ -23,7 +23,7 @@ constexpr double kLeastGlance = 300.0;  // pixels; saving more than that saves n
 /// Lengths in whole pixels add up to something else at a small scale.
 constexpr double kGlancePixels = 4.0;
 
-/// The part of a bitmap that is not transparent, as counted from its middle.
+/// The part of a bitmap that is not transparent.
 struct PixelBox {
     int left;
     int top;

@@ -8,6 +8,7 @@
 
 #include <array>
 #include <cerrno>
+#include <cmath>
 #include <csignal>
 #include <cstddef>
 #include <cstring>
@@ -49,7 +50,7 @@ void WriteAll(int descriptor, const std::string& text) {
 std::string Report(int descriptor, const SeparateWork& work) {
     double told = 0.0;
     const Progress tell = [descriptor, &told](double part) {
-        if (part - told >= kSmallestStep) {
+        if (std::fabs(part - told) >= kSmallestStep) {  // each map begins anew
             told = part;
             WriteAll(descriptor, PartMessage(part));
         }

@@ -6,6 +6,7 @@
 #include <cerrno>
 #include <fstream>
 #include <iterator>
+#include <sstream>
 #include <stdexcept>
 #include <system_error>
 #include <utility>
@@ -170,6 +171,15 @@ std::string WriteItem(const PageItem& item) { return ItemToJson(item, {}, "").du
 
 PageItem ReadItem(const std::string& text) {
     return ItemFromJson(ParseJson(text), {}, "");
+}
+
+std::vector<PageItem> ReadItems(const std::string& lines) {
+    std::vector<PageItem> items;
+    std::istringstream stream(lines);
+    for (std::string line; std::getline(stream, line);) {
+        items.push_back(ReadItem(line));
+    }
+    return items;
 }
 
 std::string WritePage(const Page& page, const FilePaths& paths) {

@@ -3,6 +3,7 @@
 // Pages and single items as JSON text. docs/page_file.md describes the format.
 
 #include <string>
+#include <vector>
 
 #include "page/document/file_paths.h"
 #include "page/page.h"
@@ -20,6 +21,9 @@ std::string WriteItem(const PageItem& item);
 /// a size and proportions left out are the natural ones. Opens a picture's file but no
 /// rasters (see OpenRasters). Throws PageError. GDI+ must have been started.
 PageItem ReadItem(const std::string& text);
+
+/// The items that a text describes, a line each.
+std::vector<PageItem> ReadItems(const std::string& lines);
 
 /// A page as JSON text, of which reading and writing again makes the same bytes. Throws
 /// PageError as WriteItem does.

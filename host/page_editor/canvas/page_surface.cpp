@@ -5,9 +5,9 @@
 #include <cmath>
 #include <cstdint>
 #include <exception>
-#include <new>
 #include <stdexcept>
 
+#include "page/error_line.h"
 #include "page/units.h"
 #include "page_editor/document/separate_reading.h"
 
@@ -49,10 +49,8 @@ QRect PageSurface::Try(Drawing drawing) {
     try {
         m_failure.clear();
         return drawing();
-    } catch (const std::bad_alloc&) {
-        m_failure = "the page needs more memory than there is";
     } catch (const std::exception& error) {
-        m_failure = error.what();
+        m_failure = host::LineFor(error);
     }
     m_image = {};
     m_live.reset();

@@ -1,7 +1,6 @@
 #include "page_editor/document/page_document.h"
 
 #include <algorithm>
-#include <sstream>
 #include <utility>
 #include <vector>
 
@@ -176,14 +175,12 @@ std::string PageDocument::TextOfSelected() const {
 
 void PageDocument::Paste(const std::string& text) {
     TryItems(text);
-    host::Page pasted(m_page.Width(), m_page.Height());
-    std::istringstream lines(text);
-    for (std::string line; std::getline(lines, line);) {
-        pasted.Items().push_back(host::ReadItem(line));
-        FrameOf(pasted.Items().back()).SetOffset(kCopyOffset, -kCopyOffset);
+    std::vector<host::PageItem> items = host::ReadItems(text);
+    for (host::PageItem& item : items) {
+        FrameOf(item).SetOffset(kCopyOffset, -kCopyOffset);
     }
-    TryRastersOf(pasted, *m_rasters);
-    Append(pasted.Items(), "Paste");
+    TryRastersOf(items, *m_rasters);
+    Append(items, "Paste");
 }
 
 void PageDocument::Rearrange(const Indices& order) {

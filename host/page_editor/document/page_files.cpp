@@ -30,7 +30,7 @@ OpenedPage OpenPageFile(const std::string& path) {
         host::Page page = host::LoadPage(path);
         auto rasters = std::make_unique<host::RasterStore>();
         host::CheckFilesAndFonts(page);
-        TryRastersOf(page, *rasters);
+        TryRastersOf(page.Items(), *rasters);
         host::OpenRasters(page, *rasters);
         host::FitToMap(page);
         std::vector<std::string> remarks = host::RemarksOfLeftOut(page);

@@ -4,12 +4,12 @@
 // with the file's name.
 
 #include <memory>
-#include <new>
 #include <stdexcept>
 #include <string>
 #include <vector>
 
 #include "page/document/raster_store.h"
+#include "page/error_line.h"
 #include "page/page.h"
 
 namespace page_editor {
@@ -38,10 +38,8 @@ template <typename Step>
 auto Naming(const std::string& thing, Step step) {
     try {
         return step();
-    } catch (const std::bad_alloc&) {
-        throw std::runtime_error(thing + ": needs more memory than there is");
     } catch (const std::exception& error) {
-        throw std::runtime_error(thing + ": " + error.what());
+        throw std::runtime_error(thing + ": " + host::LineFor(error));
     }
 }
 

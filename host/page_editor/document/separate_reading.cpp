@@ -1,6 +1,5 @@
 #include "page_editor/document/separate_reading.h"
 
-#include <sstream>
 #include <stdexcept>
 #include <variant>
 
@@ -70,8 +69,9 @@ void TryRasters(const std::vector<std::string>& paths, const host::RasterStore& 
     }
 }
 
-void TryRastersOf(const host::Page& page, const host::RasterStore& rasters) {
-    for (const host::PageItem& item : page.Items()) {
+void TryRastersOf(const std::vector<host::PageItem>& items,
+                  const host::RasterStore& rasters) {
+    for (const host::PageItem& item : items) {
         const host::ItemType* const type = host::TypeOf(item);
         for (const host::Property& property :
              type == nullptr ? std::vector<host::Property>() : type->properties) {
@@ -91,13 +91,8 @@ void TryPageFile(const std::string& path) {
     Try("", [&] { host::CheckFilesAndFonts(host::LoadPage(path)); });
 }
 
-void TryItems(const std::string& text) {
-    Try("", [&] {
-        std::istringstream lines(text);
-        for (std::string line; std::getline(lines, line);) {
-            host::ReadItem(line);
-        }
-    });
+void TryItems(const std::string& lines) {
+    Try("", [&] { host::ReadItems(lines); });
 }
 
 }  // namespace page_editor

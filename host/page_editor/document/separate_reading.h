@@ -20,8 +20,9 @@ host::PixelImage RenderSeparately(host::MapPicture& picture, int width, int heig
 /// names the first on which a decoder died; what else is wrong with one is not told.
 void TryRasters(const std::vector<std::string>& paths, const host::RasterStore& rasters);
 
-/// The same of the rasters that the items of a page name.
-void TryRastersOf(const host::Page& page, const host::RasterStore& rasters);
+/// The same of the rasters that items name.
+void TryRastersOf(const std::vector<host::PageItem>& items,
+                  const host::RasterStore& rasters);
 
 /// The same of an image for a picture.
 void TryImage(const std::string& path);
@@ -31,6 +32,6 @@ void TryImage(const std::string& path);
 void TryPageFile(const std::string& path);
 
 /// The same of items as text, a line each.
-void TryItems(const std::string& text);
+void TryItems(const std::string& lines);
 
 }  // namespace page_editor

@@ -79,7 +79,7 @@ TEST(SeparateProcess, TellsHowFarTheWorkHasCome) {
     const std::string result = host::InSeparateProcess(
         "drawing",
         [&](const host::Progress& progress) {
-            for (const double part : {0.25, 0.5, 0.5001, 0.75}) {
+            for (const double part : {0.25, 0.5, 0.5001, 0.75, 0.125}) {
                 EXPECT_TRUE(progress(part));
                 usleep(250'000);
             }
@@ -96,7 +96,7 @@ TEST(SeparateProcess, TellsHowFarTheWorkHasCome) {
     if (!told.empty() && told.front() == 0.0) {
         told.erase(told.begin());
     }
-    EXPECT_EQ(told, (std::vector<double>{0.25, 0.5, 0.75}));
+    EXPECT_EQ(told, (std::vector<double>{0.25, 0.5, 0.75, 0.125}));
 }
 
 TEST(SeparateProcess, IsStoppedEvenWhenItHangs) {

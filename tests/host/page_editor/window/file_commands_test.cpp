@@ -8,9 +8,11 @@
 #include <QMessageBox>
 #include <QProcess>
 #include <QTimer>
+#include <algorithm>
 #include <fstream>
 #include <iterator>
 
+#include "page/document/item_type.h"
 #include "page/document/page_text.h"
 #include "page/made_raster.h"
 #include "page_editor/editor_fixture.h"
@@ -122,6 +124,18 @@ TEST_F(FileCommands, ExportsWhatIsDrawn) {
     }
     EXPECT_THAT(folder.Names(), ElementsAre("page.bmp", "page.jpg", "page.pdf",
                                             "page.png", "page.ps", "page.tif"));
+}
+
+TEST_F(FileCommands, ExportsThePageAroundRasters) {
+    WriteScene(folder.Path("scene.tif"), 120, 90);
+    ASSERT_TRUE(files.OpenFiles({Path("scene.tif")}));
+    const host::ItemType* const legend = host::FindItemType("legend");
+    EXPECT_TRUE(std::any_of(document.Page().Items().begin(),
+                            document.Page().Items().end(),
+                            [&](const auto& item) { return legend->is(item); }));
+    ASSERT_TRUE(files.ExportTo(Path("page.png"), 120.0));
+    EXPECT_TRUE(QImage(Path("page.png")).convertToFormat(QImage::Format_RGB32) ==
+                editor_tests::DrawnWhole(document.Page(), 120.0));
 }
 
 TEST_F(FileCommands, AsksAboutUnsavedWork) {

@@ -8,10 +8,10 @@
 #include <cmath>
 #include <memory>
 
-#include "page/gdiplus_session.h"
 #include "page/twelve_elements.h"
 #include "page_editor/document/resize.h"
 #include "page_editor/window/editor_window.h"
+#include "run_benchmarks.h"
 
 namespace {
 
@@ -115,12 +115,6 @@ BENCHMARK(Resize)->Apply(EachElement);
 }  // namespace
 
 int main(int argc, char** argv) {
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
-        return 2;
-    }
     const QApplication application(argc, argv);
-    const host::GdiplusSession session;
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return bench::RunBenchmarks(argc, argv);
 }
