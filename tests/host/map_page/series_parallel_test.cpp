@@ -41,13 +41,15 @@ std::vector<std::string> CommandsOf(const std::string& document,
 }
 
 /// Stands for ssh: writes down the machine, and is that machine itself. The home folder
-/// is another than the one that the command is given in, as it is elsewhere.
+/// is another than the one that the command is given in, as it is elsewhere. The user's
+/// shell is set, as sshd does: without one GNU parallel runs nothing there, and says so
+/// nowhere.
 constexpr const char* kLoopbackSsh =
     "#!/bin/sh\n"
     "echo \"$1\" >> \"$HOME/machines\"\n"
     "shift\n"
     "[ \"$1\" = -- ] && shift\n"
-    "cd \"$HOME\" && exec sh -c \"$*\"\n";
+    "cd \"$HOME\" && SHELL=/bin/sh exec sh -c \"$*\"\n";
 
 class SeriesOverParallel : public host_tests::PageFileTest {
 protected:
