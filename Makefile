@@ -137,7 +137,8 @@ bench-drag: build/bench-page/build.ninja
 
 bench-editor: build/bench-editor/build.ninja
 	cmake --build --preset bench-editor --target editor_drag_bench
-	QT_QPA_PLATFORM=offscreen build/bench-editor/bench/page/editor_drag_bench
+	QT_QPA_PLATFORM=offscreen QT_LOGGING_RULES=default.warning=false \
+	    build/bench-editor/bench/page/editor_drag_bench
 
 bench-map: demo
 	scripts/install_packages peers

@@ -23,6 +23,10 @@ constexpr double kLeastGlance = 300.0;  // pixels; saving more than that saves n
 /// Lengths in whole pixels add up to something else at a small scale.
 constexpr double kGlancePixels = 4.0;
 
+/// Only the alpha is read; and where a bitmap does not keep its pixels multiplied by it,
+/// libgdiplus converts all of them, over and over while something is drawn.
+constexpr Gdiplus::PixelFormat kFormat = PixelFormat32bppPARGB;
+
 /// The part of a bitmap that is not transparent.
 struct PixelBox {
     int left;
@@ -34,8 +38,8 @@ struct PixelBox {
 PixelBox InkOf(Gdiplus::Bitmap& bitmap, int width, int height) {
     PixelBox box = {width, height, -1, -1};
     Gdiplus::BitmapData data;
-    if (bitmap.LockBits(nullptr, Gdiplus::ImageLockModeRead, PixelFormat32bppARGB,
-                        &data) != Gdiplus::Ok) {
+    if (bitmap.LockBits(nullptr, Gdiplus::ImageLockModeRead, kFormat, &data) !=
+        Gdiplus::Ok) {
         return box;
     }
     for (int y = 0; y < height; ++y) {
@@ -80,7 +84,7 @@ template <typename Drawing>
 InkBox Look(const Reach& reach, double scale, Drawing draw) {
     const int width = reach.left + reach.right;
     const int height = reach.up + reach.down;
-    Gdiplus::Bitmap bitmap(width, height, PixelFormat32bppARGB);
+    Gdiplus::Bitmap bitmap(width, height, kFormat);
     if (bitmap.GetLastStatus() != Gdiplus::Ok) {
         return {};
     }
