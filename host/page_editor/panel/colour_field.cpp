@@ -43,11 +43,7 @@ ColourField::ColourField(QWidget* parent)
       m_button(new QToolButton(this)) {
     Fill(m_line);
     layout()->addWidget(m_button);
-    connect(m_line, &QLineEdit::editingFinished, this, [this] {
-        if (m_line->isModified()) {
-            TellText();
-        }
-    });
+    FinishWith(m_line);
     connect(m_button, &QToolButton::clicked, this, [this] { Ask(); });
 }
 
@@ -59,7 +55,10 @@ void ColourField::Show(const host::PropertyValue& value) {
     m_button->setIcon(Swatch(colour));
 }
 
-void ColourField::TellText() {
+void ColourField::FinishTyping() {
+    if (!m_line->isModified()) {
+        return;
+    }
     m_line->setModified(false);
     const QString text = m_line->text().trimmed();
     if (IsColourText(text)) {

@@ -14,9 +14,9 @@ public:
     explicit ColourField(QWidget* parent);
 
     void Show(const host::PropertyValue& value) override;
+    void FinishTyping() override;
 
 private:
-    void TellText();
     void Ask();
 
     QLineEdit* m_line;

@@ -25,11 +25,7 @@ ExtentField::ExtentField(QWidget* parent)
         m_edges[i] = new QLineEdit(this);
         m_edges[i]->setObjectName(kNames[i]);
         form->addRow(kNames[i], m_edges[i]);
-        connect(m_edges[i], &QLineEdit::editingFinished, this, [this, i] {
-            if (m_edges[i]->isModified()) {
-                TellEdges();
-            }
-        });
+        FinishWith(m_edges[i]);
     }
     connect(m_all, &QCheckBox::clicked, this, [this](bool all) {
         for (QLineEdit* const edge : m_edges) {
@@ -49,6 +45,13 @@ void ExtentField::Show(const host::PropertyValue& value) {
         m_edges[i]->setText(extent ? NumberText(edges[i]) : QString());
         m_edges[i]->setEnabled(extent.has_value());
         m_edges[i]->setModified(false);
+    }
+}
+
+void ExtentField::FinishTyping() {
+    if (std::any_of(m_edges.begin(), m_edges.end(),
+                    [](const QLineEdit* edge) { return edge->isModified(); })) {
+        TellEdges();
     }
 }
 

@@ -14,6 +14,7 @@ public:
     explicit ExtentField(QWidget* parent);
 
     void Show(const host::PropertyValue& value) override;
+    void FinishTyping() override;
 
 private:
     void TellEdges();

@@ -53,11 +53,7 @@ NumberField::NumberField(const host::Property& property, QWidget* parent)
     if (m_mayBeUnknown) {
         m_line->setPlaceholderText("unknown");
     }
-    connect(m_line, &QLineEdit::editingFinished, this, [this] {
-        if (m_line->isModified()) {
-            TellText();
-        }
-    });
+    FinishWith(m_line);
 }
 
 void NumberField::Show(const host::PropertyValue& value) {
@@ -77,7 +73,10 @@ bool NumberField::eventFilter(QObject* watched, QEvent* event) {
     return PropertyField::eventFilter(watched, event);
 }
 
-void NumberField::TellText() {
+void NumberField::FinishTyping() {
+    if (!m_line->isModified()) {
+        return;
+    }
     const std::optional<double> value = ValueOfText();
     m_line->setModified(false);
     if (value) {

@@ -24,12 +24,12 @@ public:
     NumberField(const host::Property& property, QWidget* parent);
 
     void Show(const host::PropertyValue& value) override;
+    void FinishTyping() override;
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void TellText();
     void Step(double by);
 
     std::optional<double> ValueOfText() const;

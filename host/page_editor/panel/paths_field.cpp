@@ -19,12 +19,7 @@ PathField::PathField(QWidget* parent)
     auto* const browse = new QToolButton(this);
     browse->setText("…");
     layout()->addWidget(browse);
-    connect(m_line, &QLineEdit::editingFinished, this, [this] {
-        if (m_line->isModified()) {
-            m_line->setModified(false);
-            Tell(m_line->text().toStdString());
-        }
-    });
+    FinishWith(m_line);
     connect(browse, &QToolButton::clicked, this, [this] {
         const QString path = QFileDialog::getOpenFileName(this, "Choose an image");
         if (!path.isEmpty()) {
@@ -37,6 +32,8 @@ void PathField::Show(const host::PropertyValue& value) {
     m_line->setText(QString::fromStdString(std::get<std::string>(value)));
     m_line->setModified(false);
 }
+
+void PathField::FinishTyping() { TellChanged(*m_line); }
 
 PathListField::PathListField(QWidget* parent)
     : PropertyField(parent), m_lines(new QPlainTextEdit(this)) {
@@ -54,7 +51,7 @@ PathListField::PathListField(QWidget* parent)
              QFileDialog::getOpenFileNames(this, "Choose rasters")) {
             m_lines->appendPlainText(path);
         }
-        TellLines();
+        FinishTyping();
     });
 }
 
@@ -72,12 +69,12 @@ void PathListField::Show(const host::PropertyValue& value) {
 /// A list is done when one leaves it.
 bool PathListField::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::FocusOut) {
-        TellLines();
+        FinishTyping();
     }
     return PropertyField::eventFilter(watched, event);
 }
 
-void PathListField::TellLines() {
+void PathListField::FinishTyping() {
     if (!m_lines->document()->isModified()) {
         return;
     }

@@ -13,6 +13,7 @@ public:
     explicit PathField(QWidget* parent);
 
     void Show(const host::PropertyValue& value) override;
+    void FinishTyping() override;
 
 private:
     QLineEdit* m_line;
@@ -24,13 +25,12 @@ public:
     explicit PathListField(QWidget* parent);
 
     void Show(const host::PropertyValue& value) override;
+    void FinishTyping() override;
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void TellLines();
-
     QPlainTextEdit* m_lines;
 };
 

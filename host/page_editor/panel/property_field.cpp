@@ -46,6 +46,7 @@ public:
         const QSignalBlocker blocker(m_box);
         m_box->setValue(std::get<std::int32_t>(value));
     }
+    void FinishTyping() override { m_box->interpretText(); }
 
 private:
     QSpinBox* m_box;
@@ -57,12 +58,7 @@ public:
         : PropertyField(parent), m_line(new QLineEdit(this)) {
         Fill(m_line);
         m_line->setMaxLength(static_cast<int>(host::kLongestText));
-        connect(m_line, &QLineEdit::editingFinished, this, [this] {
-            if (m_line->isModified()) {
-                m_line->setModified(false);
-                Tell(m_line->text().toStdString());
-            }
-        });
+        FinishWith(m_line);
     }
     void Show(const host::PropertyValue& value) override {
         const QString text = QString::fromStdString(std::get<std::string>(value));
@@ -71,6 +67,7 @@ public:
         }
         m_line->setModified(false);
     }
+    void FinishTyping() override { TellChanged(*m_line); }
 
 private:
     QLineEdit* m_line;
@@ -86,23 +83,21 @@ public:
         m_box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
         m_box->setMinimumContentsLength(12);
         m_box->addItems(QFontDatabase::families());
-        connect(m_box, &QComboBox::textActivated, this, [this] { TellText(); });
-        connect(m_box->lineEdit(), &QLineEdit::editingFinished, this,
-                [this] { TellText(); });
+        connect(m_box, &QComboBox::textActivated, this, &FontField::FinishTyping);
+        FinishWith(m_box->lineEdit());
     }
     void Show(const host::PropertyValue& value) override {
         m_shown = QString::fromStdString(std::get<std::string>(value));
         m_box->setEditText(m_shown);
     }
-
-private:
-    void TellText() {
+    void FinishTyping() override {
         if (m_box->currentText() != m_shown) {
             m_shown = m_box->currentText();
             Tell(m_shown.toStdString());
         }
     }
 
+private:
     QComboBox* m_box;
     QString m_shown;
 };
@@ -175,6 +170,17 @@ void PropertyField::Tell(const host::PropertyValue& value) const {
 void PropertyField::Refuse(const QString& why) const {
     if (refused) {
         refused(why);
+    }
+}
+
+void PropertyField::FinishWith(const QLineEdit* line) const {
+    connect(line, &QLineEdit::editingFinished, this, &PropertyField::FinishTyping);
+}
+
+void PropertyField::TellChanged(QLineEdit& line) const {
+    if (line.isModified()) {
+        line.setModified(false);
+        Tell(line.text().toStdString());
     }
 }
 

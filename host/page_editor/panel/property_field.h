@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QLineEdit>
 #include <QWidget>
 #include <functional>
 #include <memory>
@@ -17,6 +18,9 @@ public:
     /// Shows a value of the property's kind; tells nothing.
     virtual void Show(const host::PropertyValue& value) = 0;
 
+    /// Takes what was typed so far, as leaving the field does.
+    virtual void FinishTyping() {}
+
     /// Called with a value of the property's kind, or with why there is none.
     std::function<void(const host::PropertyValue&)> changed;
     std::function<void(const QString&)> refused;
@@ -26,6 +30,10 @@ protected:
     void Fill(QWidget* widget);
     void Tell(const host::PropertyValue& value) const;
     void Refuse(const QString& why) const;
+    /// Has typing finished when a line is left or Enter pressed.
+    void FinishWith(const QLineEdit* line) const;
+    /// Tells a line as a text, once after it was changed.
+    void TellChanged(QLineEdit& line) const;
 };
 
 /// The field for a property's kind; its widget to type into is named as the property.

@@ -55,6 +55,13 @@ void PropertyPanel::FocusFirst() {
     }
 }
 
+void PropertyPanel::FinishTyping() {
+    const std::vector<Row> rows = m_rows;
+    for (const Row& row : rows) {
+        row.field->FinishTyping();
+    }
+}
+
 /// The type of all that are selected; null where they differ or nothing is.
 const host::ItemType* PropertyPanel::SharedType() const {
     const host::ItemType* shared = nullptr;

@@ -24,6 +24,8 @@ public:
 
     /// Puts the keyboard into the first field.
     void FocusFirst();
+    /// Takes what is being typed, as leaving its field does.
+    void FinishTyping();
     /// Shows again what is; what was being typed is forgotten.
     void ShowValues();
 

@@ -29,13 +29,19 @@ using Commands = std::initializer_list<Command>;
 
 const Command kLine = {"", "", {}, {}};
 
-/// A drag that is going on is given up before anything else happens to the page.
+/// A drag that is going on is given up, and what is being typed is taken, before anything
+/// else happens to the page.
+void Prepare(EditorWindow& window) {
+    window.Canvas().CancelDrag();
+    window.Panel().FinishTyping();
+}
+
 QAction* AddAction(EditorWindow& window, QMenu& menu, const Command& command) {
     auto* const action = menu.addAction(QString::fromUtf8(command.text));
     action->setObjectName(QString::fromUtf8(command.name));
     action->setShortcut(command.keys);
     QObject::connect(action, &QAction::triggered, &window, [&window, run = command.run] {
-        window.Canvas().CancelDrag();
+        Prepare(window);
         run(window);
     });
     return action;
@@ -62,6 +68,7 @@ void AddRecentMenu(EditorWindow& window, QMenu& file, QAction* before) {
         for (const QString& path : RecentFiles()) {
             QAction* const action = recent->addAction(path);
             QObject::connect(action, &QAction::triggered, &window, [&window, path] {
+                Prepare(window);
                 if (window.Files().MayDiscard()) {
                     window.Files().OpenFiles({path});
                 }

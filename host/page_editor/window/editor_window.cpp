@@ -183,6 +183,7 @@ bool EditorWindow::SetSheet(const QString& paper) {
 }
 
 void EditorWindow::closeEvent(QCloseEvent* event) {
+    m_panel->FinishTyping();
     if (m_files->MayDiscard()) {
         event->accept();
     } else {

@@ -2,15 +2,21 @@
 
 #include <gmock/gmock.h>
 
+#include <QAbstractButton>
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QSpinBox>
+#include <QTimer>
 #include <QtTest>
 #include <cmath>
 #include <utility>
 
+#include "page/document/item_type.h"
+#include "page/document/page_text.h"
 #include "page/made_raster.h"
 #include "page_editor/editor_fixture.h"
 #include "page_editor/panel/number_field.h"
@@ -43,11 +49,15 @@ protected:
 
     /// Types a text in place of what stands there, and Enter.
     void Type(const char* property, const QString& text, const char* name = "") {
+        Begin(property, text, name);
+        QTest::keyClick(In<QLineEdit>(property, name), Qt::Key_Return);
+    }
+    /// Types a text in place of what stands there.
+    void Begin(const char* property, const QString& text, const char* name = "") {
         auto* const line = In<QLineEdit>(property, name);
         ASSERT_NE(line, nullptr);
         line->selectAll();
         QTest::keyClicks(line, text);
-        QTest::keyClick(line, Qt::Key_Return);
     }
 
     std::string LastFailure() { return window.LastFailure().toStdString(); }
@@ -273,6 +283,80 @@ TEST_F(PropertyPanel, RefusesWhatIsOutOfRangeOrNoValue) {
     EXPECT_EQ(std::get<std::string>(Value(title, "font")), "Arial");
     EXPECT_EQ(document.UndoLabel(), before);
     ExpectImageIsThePage();
+}
+
+TEST_F(PropertyPanel, IsTakenByACommandAsFarAsItIsTyped) {
+    ASSERT_TRUE(window.Files().SaveTo(QString::fromStdString(Path("page.json"))));
+    const std::size_t title = Select("title");
+    const auto saved = [&](const char* property) {
+        Command("save");
+        EXPECT_FALSE(document.IsModified());
+        EXPECT_EQ(LastFailure(), "");
+        const host::Page page = host::LoadPage(Path("page.json"));
+        const host::PageItem& item = page.Items()[title];
+        return host::FindProperty(host::TypeOf(item)->properties, property)->read(item);
+    };
+    Begin("text", "Olinda");
+    EXPECT_EQ(std::get<std::string>(Value(title, "text")), "Title");
+    EXPECT_EQ(std::get<std::string>(saved("text")), "Olinda");
+    Begin("fontSize", "12.5");
+    EXPECT_EQ(std::get<double>(saved("fontSize")), 12.5);
+    Begin("color", "#102030");
+    EXPECT_EQ(std::get<Gdiplus::ARGB>(saved("color")), 0xFF102030u);
+    Begin("size", "77", "qt_spinbox_lineedit");
+    EXPECT_EQ(std::get<std::int32_t>(saved("size")), 77);
+    Begin("font", "Liberation Serif");
+    EXPECT_EQ(std::get<std::string>(saved("font")), "Liberation Serif");
+    Begin("text", "Recife");
+    Command("undo");  // of the text
+    EXPECT_EQ(std::get<std::string>(Value(title, "text")), "Olinda");
+}
+
+TEST_F(PropertyPanel, TakesPathsAndExtentsAsFarAsTheyAreTyped) {
+    WriteScene(Path("a.tif"), 60, 40);
+    WriteScene(Path("b.tif"), 60, 40);
+    const std::size_t map = Select("map", {QString::fromStdString(Path("a.tif"))});
+    auto* const lines = In<QPlainTextEdit>("rasters");
+    lines->selectAll();
+    QTest::keyClicks(lines, QString::fromStdString(Path("b.tif")));
+    Command("copy");
+    EXPECT_THAT(std::get<std::vector<std::string>>(Value(map, "rasters")),
+                ElementsAre(Path("b.tif")));
+    In<QCheckBox>("extent")->click();
+    const std::pair<const char*, const char*> edges[] = {
+        {"left", "10"}, {"bottom", "20"}, {"right", "30"}};
+    for (const auto& [edge, text] : edges) {
+        Type("extent", text, edge);
+    }
+    Begin("extent", "40", "top");
+    Command("copy");
+    EXPECT_EQ(LastFailure(), "");
+    const auto extent = std::get<std::optional<host::MapExtent>>(Value(map, "extent"));
+    ASSERT_TRUE(extent);
+    EXPECT_EQ(extent->top, 40.0);
+
+    const std::size_t picture = Select("picture", {MAP_SURROUND_PICTURE});
+    const QString copy = QString::fromStdString(Path("copy.png"));
+    ASSERT_TRUE(QFile::copy(MAP_SURROUND_PICTURE, copy));
+    Begin("path", copy);
+    Command("copy");
+    EXPECT_EQ(std::get<std::string>(Value(picture, "path")), copy.toStdString());
+}
+
+TEST_F(PropertyPanel, IsUnsavedWorkWhileOneTypes) {
+    Select("title");
+    ASSERT_TRUE(window.Files().SaveTo(QString::fromStdString(Path("page.json"))));
+    Begin("text", "Olinda");
+    bool isAsked = false;
+    QTimer::singleShot(0, qApp, [&isAsked] {
+        auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        isAsked = box != nullptr;
+        if (isAsked) {
+            box->button(QMessageBox::Cancel)->click();
+        }
+    });
+    EXPECT_FALSE(window.close());
+    EXPECT_TRUE(isAsked);
 }
 
 TEST_F(PropertyPanel, ChangesAllThatAreSelected) {
