@@ -120,9 +120,9 @@ private:
         return count > 0 || (count < 0 && errno == EINTR);
     }
 
-    static void Tell(const Progress& progress, double part) {
+    void Tell(const Progress& progress, double part) const {
         if (!progress(part)) {
-            throw std::runtime_error("stopped");
+            throw std::runtime_error(m_what + " was stopped");
         }
     }
 

@@ -30,7 +30,7 @@ using SeparateWork = std::function<std::string(const Progress&)>;
 /// @param what the work, as the message names it: "drawing" for "drawing failed: ..."
 /// @param progress told here what the work tells there, and several times a second while
 /// it tells nothing new; when it answers false, the process is ended and
-/// std::runtime_error thrown
+/// std::runtime_error thrown: "drawing was stopped"
 std::string InSeparateProcess(const std::string& what, const SeparateWork& work,
                               const Progress& progress = {});
 

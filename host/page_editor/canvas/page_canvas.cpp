@@ -31,10 +31,7 @@ constexpr int kPause = 150;
 PageCanvas::PageCanvas(PageDocument& document, QWidget* parent)
     : QAbstractScrollArea(parent),
       m_document(document),
-      m_surface(document.Page(), [this](double part) {
-          Q_EMIT Reading(part);
-          return true;
-      }) {
+      m_surface(document.Page(), document.Reading()) {
     viewport()->setMouseTracking(true);
     viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::StrongFocus);
@@ -46,6 +43,9 @@ PageCanvas::PageCanvas(PageDocument& document, QWidget* parent)
     connect(&document, &PageDocument::ItemsChanged, this, &PageCanvas::OnItemsChanged);
     connect(&document, &PageDocument::PageReplaced, this, &PageCanvas::OnPageReplaced);
     connect(&document, &PageDocument::PageRearranged, this, [this] {
+        if (MustWait()) {
+            return;
+        }
         if (!m_surface.IsOfTheSheet()) {
             OnPageReplaced();
         } else {
@@ -97,6 +97,9 @@ void PageCanvas::PlaceToFit() {
 
 /// Everything anew, at the resolution of the zoom.
 void PageCanvas::Redraw() {
+    if (MustWait()) {
+        return;
+    }
     m_pause.stop();
     QElapsedTimer clock;
     clock.start();
@@ -105,6 +108,15 @@ void PageCanvas::Redraw() {
     m_isSlow = clock.elapsed() >= kSlowRedraw;
     PlaceSheet();
     ShowPixels();
+}
+
+/// While a map is read the window lives on. What it asks for in the middle of a drawing
+/// is drawn later, with everything else.
+bool PageCanvas::MustWait() {
+    if (m_surface.IsDrawing()) {
+        m_pause.start();
+    }
+    return m_surface.IsDrawing();
 }
 
 void PageCanvas::RedrawSoon() {
@@ -125,6 +137,9 @@ void PageCanvas::ShowPixels() {
 }
 
 void PageCanvas::OnItemsChanged(const Indices& items) {
+    if (MustWait()) {
+        return;
+    }
     for (const std::size_t item : items) {
         m_surface.DrawChanged(item);
     }
@@ -266,6 +281,9 @@ void PageCanvas::PressAt(QPointF point, Qt::KeyboardModifiers modifiers) {
 
 void PageCanvas::mouseMoveEvent(QMouseEvent* event) {
     const QPointF point = event->position();
+    if (m_drag != nullptr && !event->buttons().testFlag(Qt::LeftButton)) {
+        EndDrag();  // it was let go before a dialog
+    }
     if (m_isPanning) {
         const QPointF by = point - m_panned;
         m_panned = point;

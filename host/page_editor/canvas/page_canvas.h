@@ -50,8 +50,6 @@ Q_SIGNALS:
     void ZoomChanged(double zoom);
     /// Something could not be done; one line says what and why.
     void Failed(const QString& why);
-    /// A map that takes long has been read so far, 0 to 1.
-    void Reading(double part);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -70,6 +68,7 @@ private:
     void PlaceToFit();
     void Redraw();
     void RedrawSoon();
+    bool MustWait();
     void ShowPixels();
     void OnItemsChanged(const Indices& items);
     void OnPageReplaced();

@@ -1,6 +1,6 @@
 #include "page_editor/canvas/page_surface.h"
 
-#include <QElapsedTimer>
+#include <QScopedValueRollback>
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
@@ -17,8 +17,6 @@ namespace {
 constexpr double kMostPixels = 48.0e6;
 constexpr double kLongestSide = 20'000.0;
 constexpr double kShortestSide = 16.0;
-
-constexpr int kTellingInterval = 200;  // milliseconds
 
 constexpr std::uint8_t kLightStripe = 245;
 constexpr std::uint8_t kDarkStripe = 225;
@@ -46,6 +44,10 @@ QRect ToQt(const Gdiplus::Rect& rect) {
 
 template <typename Drawing>
 QRect PageSurface::Try(Drawing drawing) {
+    if (m_isDrawing) {
+        return {};
+    }
+    const QScopedValueRollback<bool> drawingNow(m_isDrawing, true);
     try {
         m_failure.clear();
         return drawing();
@@ -58,11 +60,11 @@ QRect PageSurface::Try(Drawing drawing) {
 }
 
 void PageSurface::Begin(double dpi) {
-    m_image = {};
-    m_live.reset();
-    m_width = m_page.Width();
-    m_height = m_page.Height();
     Try([&] {
+        m_image = {};
+        m_live.reset();
+        m_width = m_page.Width();
+        m_height = m_page.Height();
         m_live = std::make_unique<host::LivePage>(
             m_page, dpi,
             [this](host::MapPicture& picture, int width, int height,
@@ -75,28 +77,12 @@ void PageSurface::Begin(double dpi) {
 }
 
 host::PixelImage PageSurface::Render(host::MapPicture& picture, int width, int height) {
-    QElapsedTimer clock;
-    clock.start();
-    bool isTold = false;
-    const auto tell = [&](double part) {
-        if (m_progress && clock.elapsed() >= kTellingInterval) {
-            clock.start();
-            isTold = true;
-            m_progress(part);
-        }
-        return true;
-    };
-    host::PixelImage image;
     try {
-        image = RenderSeparately(picture, width, height, tell);
+        return RenderSeparately(picture, width, height, m_progress);
     } catch (const std::runtime_error& error) {
         m_mapFailure = error.what();
-        image = Hatched(width, height);
+        return Hatched(width, height);
     }
-    if (isTold) {
-        m_progress(1.0);
-    }
-    return image;
 }
 
 void PageSurface::DrawAll() {

@@ -16,10 +16,14 @@ namespace page_editor {
 class PageSurface {
 public:
     /// @param page outlives this
-    /// @param progress told how far a map that takes long has been read, and in the end
-    /// that all is; what it answers does not matter
+    /// @param progress told how far a map that takes long has been read, a few times a
+    /// second, and 1 in the end; a map is hatched where it answers false
     explicit PageSurface(const host::Page& page, host::Progress progress = {})
         : m_page(page), m_progress(std::move(progress)) {}
+
+    /// Whether something is being drawn: what progress is told may come back here, and
+    /// then draws nothing.
+    bool IsDrawing() const { return m_isDrawing; }
 
     /// Draws everything at a resolution, rasters included.
     /// @param dpi device pixels an inch
@@ -54,6 +58,7 @@ private:
     QImage m_image;
     double m_width = 0.0;
     double m_height = 0.0;
+    bool m_isDrawing = false;
     std::string m_failure;
     std::string m_mapFailure;
 };

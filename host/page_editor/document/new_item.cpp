@@ -139,9 +139,9 @@ public:
     }
 
     /// A map as large as two thirds of the sheet let it be.
-    host::PageItem Map(const std::vector<std::string>& paths,
-                       host::RasterStore& rasters) const {
-        TryRasters(paths, rasters);
+    host::PageItem Map(const std::vector<std::string>& paths, host::RasterStore& rasters,
+                       const host::Progress& reading) const {
+        TryRasters(paths, rasters, reading);
         const auto layers = rasters.Map(paths, std::nullopt);
         const host::Room room =
             host::Inset({0.0, 0.0, m_design.paper.width, m_design.paper.height},
@@ -194,15 +194,15 @@ void Centre(CFrameBase& frame, const host::Page& page) {
 }  // namespace
 
 host::PageItem NewItem(const host::ItemType& type, const host::Page& page,
-                       host::RasterStore& rasters,
-                       const std::vector<std::string>& files) {
+                       host::RasterStore& rasters, const std::vector<std::string>& files,
+                       const host::Progress& reading) {
     Placing placing(page, rasters);
     const std::string_view name = type.name;
     if (name == "map" && !files.empty()) {
-        return placing.Map(files, rasters);
+        return placing.Map(files, rasters, reading);
     }
     if (name == "picture" && !files.empty()) {
-        TryImage(files.front());
+        TryImage(files.front(), reading);
         const std::string why = host::CheckImageFile(files.front());
         if (!why.empty()) {
             throw host::PageError("", why);

@@ -13,8 +13,10 @@ namespace page_editor {
 /// suits it, a scale bar and a legend for the first map on the page. Throws
 /// host::PageError when a file cannot be used.
 /// @param files the image of a picture, the rasters of a map; not for others
+/// @param reading told that files take long; may give them up
 host::PageItem NewItem(const host::ItemType& type, const host::Page& page,
                        host::RasterStore& rasters,
-                       const std::vector<std::string>& files = {});
+                       const std::vector<std::string>& files = {},
+                       const host::Progress& reading = {});
 
 }  // namespace page_editor

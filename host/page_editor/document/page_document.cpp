@@ -174,12 +174,12 @@ std::string PageDocument::TextOfSelected() const {
 }
 
 void PageDocument::Paste(const std::string& text) {
-    TryItems(text);
+    TryItems(text, Reading());
     std::vector<host::PageItem> items = host::ReadItems(text);
     for (host::PageItem& item : items) {
         FrameOf(item).SetOffset(kCopyOffset, -kCopyOffset);
     }
-    TryRastersOf(items, *m_rasters);
+    TryRastersOf(items, *m_rasters, Reading());
     Append(items, "Paste");
 }
 

@@ -5,6 +5,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 
 #include "page/document/raster_store.h"
 #include "page/page.h"
@@ -31,6 +32,15 @@ public:
     CFrameBase& Frame(std::size_t index) { return host::FrameOf(Item(index)); }
     CBoundingBox Extent(std::size_t index) const;
     host::RasterStore& Rasters() { return *m_rasters; }
+
+    /// Files are read in processes of their own, and a disk or a decoder may be slow.
+    /// @param watch told how far one has come that takes long, a few times a second, and
+    /// 1 in the end; answers whether to wait for it
+    void WatchReading(host::Progress watch) { m_watch = std::move(watch); }
+    /// Tells whoever watches; what reads files for the page is given it.
+    host::Progress Reading() {
+        return [this](double part) { return !m_watch || m_watch(part); };
+    }
 
     /// Another page, whose rasters are open from the store; it counts as saved.
     void Replace(host::Page page, std::unique_ptr<host::RasterStore> rasters);
@@ -96,6 +106,7 @@ private:
     void Append(const std::vector<host::PageItem>& items, const std::string& label);
 
     std::unique_ptr<host::RasterStore> m_rasters;
+    host::Progress m_watch;
     host::Page m_page;
     History m_history;
 };

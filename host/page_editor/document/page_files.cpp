@@ -24,13 +24,13 @@ std::wstring TitleFor(const std::string& path) {
 
 }  // namespace
 
-OpenedPage OpenPageFile(const std::string& path) {
+OpenedPage OpenPageFile(const std::string& path, const host::Progress& reading) {
     return Naming(path, [&] {
-        TryPageFile(path);
+        TryPageFile(path, reading);
         host::Page page = host::LoadPage(path);
         auto rasters = std::make_unique<host::RasterStore>();
         host::CheckFilesAndFonts(page);
-        TryRastersOf(page.Items(), *rasters);
+        TryRastersOf(page.Items(), *rasters, reading);
         host::OpenRasters(page, *rasters);
         host::FitToMap(page);
         std::vector<std::string> remarks = host::RemarksOfLeftOut(page);
@@ -38,9 +38,10 @@ OpenedPage OpenPageFile(const std::string& path) {
     });
 }
 
-OpenedPage LayOutRasters(const std::vector<std::string>& paths) {
+OpenedPage LayOutRasters(const std::vector<std::string>& paths,
+                         const host::Progress& reading) {
     auto rasters = std::make_unique<host::RasterStore>();
-    TryRasters(paths, *rasters);
+    TryRasters(paths, *rasters, reading);
     const std::shared_ptr<host::MapLayers> map = rasters->Map(paths, std::nullopt);
     host::PageDesign design;
     design.title.text = TitleFor(paths.front());

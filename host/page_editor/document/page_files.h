@@ -1,7 +1,7 @@
 #pragma once
 
 // Pages from files and into files. Errors are std::runtime_error in one line that begins
-// with the file's name.
+// with the file's name. What is told of reading may give it up.
 
 #include <memory>
 #include <stdexcept>
@@ -22,10 +22,11 @@ struct OpenedPage {
 };
 
 /// The page of a page file, with its rasters, pictures and fonts looked for.
-OpenedPage OpenPageFile(const std::string& path);
+OpenedPage OpenPageFile(const std::string& path, const host::Progress& reading = {});
 
 /// An A4 page laid out by itself around rasters, at least one.
-OpenedPage LayOutRasters(const std::vector<std::string>& paths);
+OpenedPage LayOutRasters(const std::vector<std::string>& paths,
+                         const host::Progress& reading = {});
 
 /// Writes a page file; what stood there stays when that fails.
 void SavePageFile(const host::Page& page, const std::string& path);

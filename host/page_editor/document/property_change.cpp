@@ -51,7 +51,7 @@ int NaturalSize(host::PageItem& item, CMapLegend& legend, host::RasterStore& ras
 }
 
 void CheckUse(const host::Property& property, const host::PropertyValue& value,
-              const host::RasterStore& rasters) {
+              const host::RasterStore& rasters, const host::Progress& reading) {
     std::string why = host::CheckValue(property, value);
     const auto* const text = std::get_if<std::string>(&value);
     if (why.empty() && property.kind == PropertyKind::Font &&
@@ -59,11 +59,11 @@ void CheckUse(const host::Property& property, const host::PropertyValue& value,
         why = "no font family \"" + *text + "\" is installed";
     }
     if (why.empty() && property.kind == PropertyKind::File) {
-        TryImage(*text);
+        TryImage(*text, reading);
         why = host::CheckImageFile(*text);
     }
     if (why.empty() && property.kind == PropertyKind::Rasters) {
-        TryRasters(std::get<std::vector<std::string>>(value), rasters);
+        TryRasters(std::get<std::vector<std::string>>(value), rasters, reading);
     }
     if (!why.empty()) {
         throw host::PageError(property.name, why);
@@ -73,8 +73,9 @@ void CheckUse(const host::Property& property, const host::PropertyValue& value,
 }  // namespace
 
 void SetProperty(host::PageItem& item, const host::Property& property,
-                 const host::PropertyValue& value, host::RasterStore& rasters) {
-    CheckUse(property, value, rasters);
+                 const host::PropertyValue& value, host::RasterStore& rasters,
+                 const host::Progress& reading) {
+    CheckUse(property, value, rasters, reading);
     auto* const legend = ElementIn<CMapLegend>(item);
     if (!IsMeasuredBy(property, item)) {
         property.write(item, value);

@@ -8,8 +8,10 @@ namespace page_editor {
 /// Sets a property of an item and measures its element where that shows something else
 /// then. A legend that is drawn smaller than it measures stays so much smaller. Throws
 /// host::PageError, that names the property, for a value that it cannot have.
+/// @param reading told that a file takes long; may give it up
 void SetProperty(host::PageItem& item, const host::Property& property,
-                 const host::PropertyValue& value, host::RasterStore& rasters);
+                 const host::PropertyValue& value, host::RasterStore& rasters,
+                 const host::Progress& reading = {});
 
 /// host::MeasureItem, but for pictures: turned, they would take the proportions of the
 /// box around them.

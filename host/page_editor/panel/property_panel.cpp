@@ -1,5 +1,6 @@
 #include "page_editor/panel/property_panel.h"
 
+#include <QApplication>
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QTimer>
@@ -12,6 +13,8 @@
 
 namespace page_editor {
 namespace {
+
+constexpr int kNextTry = 100;  // milliseconds
 
 /// "borderWidth" as people read it: "Border width".
 QString LabelFor(const host::Property& property) {
@@ -132,8 +135,20 @@ void PropertyPanel::ShowValues() {
     }
 }
 
+/// A dialog takes the keyboard from a field, which then tells its value. While one shows
+/// that files are read the page is in use, so the value waits until there is none,
+/// and is forgotten when something else is selected then.
 void PropertyPanel::Change(const host::Property& property,
                            const host::PropertyValue& value) {
+    if (QApplication::activeModalWidget() != nullptr) {
+        QTimer::singleShot(kNextTry, this,
+                           [this, &property, value, asked = m_document.Selection()] {
+                               if (m_document.Selection() == asked) {
+                                   Change(property, value);
+                               }
+                           });
+        return;
+    }
     const std::string label = "Change " + LabelFor(property).toLower().toStdString();
     try {
         m_document.ChangeItems(m_document.Selection(), label, [&](host::PageItem& item) {

@@ -22,7 +22,8 @@ namespace page_editor {
 namespace {
 
 constexpr int kPanelWidth = 300;
-constexpr int kTold = 8000;  // milliseconds
+constexpr int kTold = 8000;             // milliseconds
+constexpr int kReadingPatience = 2000;  // milliseconds
 
 }  // namespace
 
@@ -43,6 +44,7 @@ EditorWindow::EditorWindow()
         m_canvas->setFocus();
     });
     AddActions(*this);
+    m_document.WatchReading([this](double part) { return ShowReading(part); });
 
     auto* const zoom = new QLabel(this);
     statusBar()->addPermanentWidget(zoom);
@@ -50,7 +52,6 @@ EditorWindow::EditorWindow()
         zoom->setText(QString("%1 %").arg(value * 100.0, 0, 'f', 0));
     });
     connect(m_canvas, &PageCanvas::Failed, this, &EditorWindow::ShowFailure);
-    connect(m_canvas, &PageCanvas::Reading, this, &EditorWindow::ShowReading);
     connect(m_panel, &PropertyPanel::Failed, this, &EditorWindow::ShowFailure);
     connect(m_files, &FileCommands::Failed, this, &EditorWindow::ShowFailure);
     connect(m_files, &FileCommands::Told, this,
@@ -81,7 +82,8 @@ void EditorWindow::Insert(const QString& type, QStringList files) {
         if (found == nullptr) {
             throw std::invalid_argument(type.toStdString() + ": is no type of element");
         }
-        m_document.Insert(NewItem(*found, m_document.Page(), m_document.Rasters(), paths),
+        m_document.Insert(NewItem(*found, m_document.Page(), m_document.Rasters(), paths,
+                                  m_document.Reading()),
                           std::string("Add ") + found->name);
     });
 }
@@ -203,15 +205,22 @@ void EditorWindow::ShowFailure(const QString& why) {
     statusBar()->showMessage(why);
 }
 
-/// Nothing else is drawn until the map is read.
-void EditorWindow::ShowReading(double part) {
-    if (part < 1.0) {
-        statusBar()->showMessage(
-            QString("Reading the rasters: %1 %").arg(part * 100.0, 0, 'f', 0));
-        statusBar()->repaint();
-    } else {
+/// Nothing else is done until the file is read, or given up. The window may have to be
+/// drawn meanwhile, with a map that is read for it: that comes back here, and may end
+/// first.
+bool EditorWindow::ShowReading(double part) {
+    if (part >= 1.0) {
+        m_waiting.reset();
         statusBar()->clearMessage();
+        return true;
     }
+    if (m_waiting == nullptr) {
+        m_waiting = std::make_shared<Waiting>("Reading files", kReadingPatience, *this);
+    }
+    const std::shared_ptr<Waiting> waiting = m_waiting;
+    statusBar()->showMessage(QString("Reading files: %1 %").arg(part * 100.0, 0, 'f', 0));
+    statusBar()->repaint();
+    return waiting->Show(part);
 }
 
 void EditorWindow::Attempt(const std::function<void()>& step) {

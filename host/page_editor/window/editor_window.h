@@ -5,12 +5,14 @@
 #include <QMainWindow>
 #include <QStringList>
 #include <functional>
+#include <memory>
 
 #include "page_editor/canvas/page_canvas.h"
 #include "page_editor/document/arrange.h"
 #include "page_editor/document/page_document.h"
 #include "page_editor/panel/property_panel.h"
 #include "page_editor/window/file_commands.h"
+#include "page_editor/window/waiting.h"
 
 namespace page_editor {
 
@@ -58,7 +60,7 @@ protected:
 private:
     void ShowTitle();
     void ShowFailure(const QString& why);
-    void ShowReading(double part);
+    bool ShowReading(double part);
     void Attempt(const std::function<void()>& step);
     std::vector<Edges> SelectedBoxes() const;
     void MoveSelectedBy(const std::vector<CPoint2D>& offsets, const std::string& label);
@@ -68,6 +70,7 @@ private:
     PropertyPanel* m_panel;
     FileCommands* m_files;
     QDockWidget* m_properties;
+    std::shared_ptr<Waiting> m_waiting;
     QString m_lastFailure;
 };
 

@@ -1,14 +1,11 @@
 #include "page_editor/window/file_commands.h"
 
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QInputDialog>
 #include <QMessageBox>
-#include <QProgressDialog>
 #include <exception>
-#include <limits>
 #include <memory>
 #include <string>
 #include <utility>
@@ -18,6 +15,7 @@
 #include "page_editor/document/page_export.h"
 #include "page_editor/document/page_files.h"
 #include "page_editor/window/recent_files.h"
+#include "page_editor/window/waiting.h"
 
 namespace page_editor {
 namespace {
@@ -31,7 +29,7 @@ constexpr const char* kImageFilter =
 constexpr double kPrintDpi = 300.0;
 constexpr double kLeastDpi = 10.0;
 constexpr double kMostDpi = 2400.0;
-constexpr int kDialogDelay = 500;  // milliseconds until progress is shown
+constexpr int kExportPatience = 500;  // milliseconds
 
 /// While it lives the pointer says that something takes time.
 class WaitCursor {
@@ -40,33 +38,6 @@ public:
     WaitCursor(const WaitCursor&) = delete;
     WaitCursor& operator=(const WaitCursor&) = delete;
     ~WaitCursor() { QApplication::restoreOverrideCursor(); }
-};
-
-/// A dialog that tells how far a long export has come, and in which it can be given up.
-/// The window takes no other commands while it is there.
-class ExportProgress {
-public:
-    ExportProgress(const QString& name, QWidget& window)
-        : m_dialog("Drawing " + name, "Cancel", 0, 100, &window) {
-        m_dialog.setWindowModality(Qt::WindowModal);
-        m_dialog.setAutoClose(false);
-        m_dialog.setMinimumDuration(std::numeric_limits<int>::max());  // shown from here
-        m_clock.start();
-    }
-
-    /// @return whether to go on
-    bool Show(double part) {
-        if (m_clock.elapsed() >= kDialogDelay) {
-            m_dialog.show();
-            m_dialog.setValue(static_cast<int>(part * 100.0));
-            QApplication::processEvents();
-        }
-        return !m_dialog.wasCanceled();
-    }
-
-private:
-    QProgressDialog m_dialog;
-    QElapsedTimer m_clock;
 };
 
 std::vector<std::string> Standard(const QStringList& paths) {
@@ -121,8 +92,9 @@ bool FileCommands::OpenFiles(const QStringList& paths) {
     const bool isPage = IsPageFile(first.toStdString());
     const bool isOpen = Attempt([&] {
         const WaitCursor waiting;
-        OpenedPage opened =
-            isPage ? OpenPageFile(first.toStdString()) : LayOutRasters(Standard(paths));
+        OpenedPage opened = isPage
+                                ? OpenPageFile(first.toStdString(), m_document.Reading())
+                                : LayOutRasters(Standard(paths), m_document.Reading());
         m_document.Replace(std::move(opened.page), std::move(opened.rasters));
         for (const std::string& remark : opened.remarks) {
             Q_EMIT Told(QString::fromStdString(remark));
@@ -170,9 +142,10 @@ void FileCommands::Export() {
 
 bool FileCommands::ExportTo(const QString& path, double dpi) {
     return Attempt([&] {
-        ExportProgress progress(QFileInfo(path).fileName(), m_window);
+        Waiting waiting("Drawing " + QFileInfo(path).fileName(), kExportPatience,
+                        m_window);
         ExportPage(m_document.Page(), path.toStdString(), dpi,
-                   [&progress](double part) { return progress.Show(part); });
+                   [&waiting](double part) { return waiting.Show(part); });
         Q_EMIT Told("Exported " + path);
     });
 }

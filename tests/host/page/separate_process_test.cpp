@@ -114,7 +114,7 @@ TEST(SeparateProcess, IsStoppedEvenWhenItHangs) {
         host::InSeparateProcess("drawing", hang, stop);
         FAIL();
     } catch (const std::runtime_error& error) {
-        EXPECT_STREQ(error.what(), "stopped");
+        EXPECT_STREQ(error.what(), "drawing was stopped");
     }
     EXPECT_EQ(asked, 3);
     EXPECT_EQ(waitpid(-1, nullptr, WNOHANG), -1) << "a process is left";

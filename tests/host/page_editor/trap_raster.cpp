@@ -21,6 +21,12 @@ void Die() {
     std::abort();
 }
 
+void Hang() {
+    for (;;) {
+        pause();
+    }
+}
+
 class TrapBand : public GDALRasterBand {
 public:
     TrapBand(GDALDataset* dataset, int band, Trap trap) : m_trap(trap) {
@@ -36,8 +42,8 @@ protected:
         if (m_trap == Trap::DiesWhenRead) {
             Die();
         }
-        while (m_trap == Trap::HangsWhenRead) {
-            pause();
+        if (m_trap == Trap::HangsWhenRead) {
+            Hang();
         }
         if (m_trap == Trap::IsSlowToRead) {
             usleep(200'000 / (kSide * kBands));
@@ -68,6 +74,9 @@ public:
         const auto trap = static_cast<Trap>(info->pabyHeader[0] - '0');
         if (trap == Trap::DiesWhenOpened) {
             Die();
+        }
+        if (trap == Trap::HangsWhenOpened) {
+            Hang();
         }
         return new TrapDataset(trap);
     }

@@ -9,6 +9,7 @@ enum class Trap {
     None,
     DiesWhenOpened,
     DiesWhenRead,
+    HangsWhenOpened,
     HangsWhenRead,
     IsSlowToRead,  ///< a fifth of a second for all of it
 };

@@ -4,10 +4,13 @@
 #include <sys/wait.h>
 
 #include <QApplication>
+#include <QLineEdit>
 #include <QProgressDialog>
 #include <QTimer>
 #include <QWheelEvent>
 #include <QtTest>
+#include <functional>
+#include <utility>
 
 #include "page/document/page_text.h"
 #include "page_editor/editor_fixture.h"
@@ -54,7 +57,28 @@ protected:
         return canvas.Image().pixel(pixel);
     }
 
+    /// Cancels every dialog that shows how far something has come, after a look at it.
+    void GiveUp(std::function<void(QWidget&)> look = {}) {
+        QObject::connect(&cancel, &QTimer::timeout, [this, look] {
+            auto* const dialog =
+                qobject_cast<QProgressDialog*>(QApplication::activeModalWidget());
+            if (dialog != nullptr && !isLooking) {
+                isLooking = true;
+                if (look) {
+                    look(*dialog);
+                }
+                dialog->cancel();
+                isLooking = false;
+            }
+        });
+        cancel.start(10);
+    }
+
     std::string before;
+
+private:
+    QTimer cancel;
+    bool isLooking = false;
 };
 
 TEST_F(TrapFiles, AreShownWhereNothingIsWrong) {
@@ -157,18 +181,72 @@ TEST_F(TrapFiles, EndAnExportThatIsGivenUp) {
     window.Insert("map", {Path("well.trap")});
     WriteTrap(folder.Path("well.trap"), Trap::HangsWhenRead);
     const std::vector<std::string> names = folder.Names();
-    QTimer cancel;
-    QObject::connect(&cancel, &QTimer::timeout, [] {
-        auto* const dialog =
-            qobject_cast<QProgressDialog*>(QApplication::activeModalWidget());
-        if (dialog != nullptr) {
-            dialog->cancel();
+    GiveUp();
+    EXPECT_FALSE(window.Files().ExportTo(Path("page.png"), 96.0));
+    EXPECT_EQ(LastFailure(), folder.Path("page.png") + ": drawing was stopped");
+    EXPECT_EQ(folder.Names(), names);
+}
+
+TEST_F(TrapFiles, AreGivenUpWhereOpeningThemHangs) {
+    WriteTrap(folder.Path("stuck.trap"), Trap::HangsWhenOpened);
+    GiveUp();
+    window.Insert("map", {Path("stuck.trap")});
+    EXPECT_EQ(LastFailure(), folder.Path("stuck.trap") + ": reading was stopped");
+    EXPECT_FALSE(window.Files().OpenFiles({Path("stuck.trap")}));
+    EXPECT_THAT(LastFailure(),
+                EndsWith(folder.Path("stuck.trap") + ": reading was stopped"));
+    EXPECT_EQ(Text(), before);
+    ExpectImageIsThePage();
+}
+
+TEST_F(TrapFiles, AreHatchedWhereReadingThemIsGivenUp) {
+    const std::size_t map = Add("map", {100.0, 100.0, 300.0, 300.0}, {Path("well.trap")});
+    WriteTrap(folder.Path("well.trap"), Trap::HangsWhenRead);
+    document.Select({0});
+    auto* const field = panel.Field("angle")->findChild<QLineEdit*>();
+    field->selectAll();
+    QTest::keyClicks(field, "45");
+    const QImage& image = canvas.Image();
+    int dialogs = 0;
+    GiveUp([&](QWidget& dialog) {
+        EXPECT_EQ(dialog.windowModality(), Qt::WindowModal);
+        // The window lives on: a field loses the keyboard, and the page may have to be
+        // drawn at another size.
+        if (++dialogs == 1) {
+            Q_EMIT field->editingFinished();
+            EXPECT_EQ(std::get<double>(Value(0, "angle")), 0.0);
+            canvas.SetZoom(1.25);
         }
     });
-    cancel.start(10);
-    EXPECT_FALSE(window.Files().ExportTo(Path("page.png"), 96.0));
-    EXPECT_EQ(LastFailure(), folder.Path("page.png") + ": stopped");
-    EXPECT_EQ(folder.Names(), names);
+    canvas.SetZoom(1.5);
+    EXPECT_EQ(LastFailure(), "reading the rasters was stopped");
+    EXPECT_EQ(dialogs, 1);
+    const int width = image.width();
+    // What was to be done meanwhile is done now.
+    EXPECT_TRUE(QTest::qWaitFor([&] { return image.width() < width; }));
+    EXPECT_TRUE(
+        QTest::qWaitFor([&] { return std::get<double>(Value(0, "angle")) == 45.0; }));
+    EXPECT_EQ(dialogs, 2);
+    document.Select({map});
+    Command("delete");
+    canvas.SetZoom(1.0);
+    ExpectImageIsThePage();
+}
+
+TEST_F(TrapFiles, DoNotChangeWhatIsSelectedLater) {
+    Add("north-arrow-four", {100.0, 400.0, 200.0, 500.0});
+    Add("map", {100.0, 100.0, 300.0, 300.0}, {Path("well.trap")});
+    WriteTrap(folder.Path("well.trap"), Trap::HangsWhenRead);
+    document.Select({0});
+    auto* const field = panel.Field("angle")->findChild<QLineEdit*>();
+    field->selectAll();
+    QTest::keyClicks(field, "45");
+    GiveUp([&](QWidget&) { Q_EMIT field->editingFinished(); });
+    canvas.SetZoom(1.5);
+    document.Select({1});
+    QTest::qWait(300);
+    EXPECT_EQ(std::get<double>(Value(0, "angle")), 0.0);
+    EXPECT_EQ(std::get<double>(Value(1, "angle")), 0.0);
 }
 
 }  // namespace

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <QProgressDialog>
+#include <QString>
+#include <QWidget>
+
+namespace page_editor {
+
+/// A dialog, shown once something has taken long, that tells how far it has come and in
+/// which it can be given up. The window takes no other commands while it is there.
+class Waiting {
+public:
+    /// @param what what is waited for, in a few words
+    /// @param delay milliseconds from now until the dialog is shown
+    Waiting(const QString& what, int delay, QWidget& window);
+
+    /// @param part from 0 to 1; several times a second, so that the dialog answers
+    /// @return whether to go on
+    bool Show(double part);
+
+private:
+    QProgressDialog m_dialog;
+    int m_delay;
+    QElapsedTimer m_clock;
+};
+
+}  // namespace page_editor
