@@ -148,6 +148,7 @@ void PageCanvas::OnItemsChanged(const Indices& items) {
 
 void PageCanvas::OnPageReplaced() {
     m_drag.reset();
+    m_surface.Forget();
     m_view.pageHeight = m_document.Page().Height();
     if (m_fits) {
         ZoomToFit();

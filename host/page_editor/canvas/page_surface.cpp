@@ -54,21 +54,24 @@ QRect PageSurface::Try(Drawing drawing) {
     } catch (const std::exception& error) {
         m_failure = host::LineFor(error);
     }
+    Forget();
+    return {};
+}
+
+void PageSurface::Forget() {
     m_image = {};
     m_live.reset();
-    return {};
 }
 
 void PageSurface::Begin(double dpi) {
     Try([&] {
-        m_image = {};
-        m_live.reset();
-        m_width = m_page.Width();
-        m_height = m_page.Height();
-        m_live = std::make_unique<host::LivePage>(
+        auto live = std::make_unique<host::LivePage>(
             m_page, dpi,
             [this](host::MapPicture& picture, int width, int height,
                    const host::Progress&) { return Render(picture, width, height); });
+        m_live = std::move(live);
+        m_width = m_page.Width();
+        m_height = m_page.Height();
         const host::PixelRows rows = m_live->Image().Rows();
         m_image = QImage(rows.first, rows.width, rows.height, rows.stride,
                          QImage::Format_RGB32);

@@ -25,9 +25,13 @@ public:
     /// then draws nothing.
     bool IsDrawing() const { return m_isDrawing; }
 
-    /// Draws everything at a resolution, rasters included.
+    /// Draws everything at a resolution, rasters included. What was drawn before is shown
+    /// until then.
     /// @param dpi device pixels an inch
     void Begin(double dpi);
+
+    /// Shows nothing of a page that is another now.
+    void Forget();
 
     /// Draw what was changed; the pixels that are different now. See host::LivePage.
     void DrawAll();

@@ -210,6 +210,7 @@ TEST_F(TrapFiles, AreHatchedWhereReadingThemIsGivenUp) {
     int dialogs = 0;
     GiveUp([&](QWidget& dialog) {
         EXPECT_EQ(dialog.windowModality(), Qt::WindowModal);
+        EXPECT_FALSE(image.isNull());
         // The window lives on: a field loses the keyboard, and the page may have to be
         // drawn at another size.
         if (++dialogs == 1) {
