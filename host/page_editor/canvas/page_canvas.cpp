@@ -43,9 +43,6 @@ PageCanvas::PageCanvas(PageDocument& document, QWidget* parent)
     connect(&document, &PageDocument::ItemsChanged, this, &PageCanvas::OnItemsChanged);
     connect(&document, &PageDocument::PageReplaced, this, &PageCanvas::OnPageReplaced);
     connect(&document, &PageDocument::PageRearranged, this, [this] {
-        if (MustWait()) {
-            return;
-        }
         if (!m_surface.IsOfTheSheet()) {
             OnPageReplaced();
         } else {
@@ -95,9 +92,11 @@ void PageCanvas::PlaceToFit() {
     m_fits = true;
 }
 
-/// Everything anew, at the resolution of the zoom.
+/// Everything anew, at the resolution of the zoom. While a map is read the window lives
+/// on and may have another size: that is drawn later.
 void PageCanvas::Redraw() {
-    if (MustWait()) {
+    if (m_surface.IsDrawing()) {
+        m_pause.start();
         return;
     }
     m_pause.stop();
@@ -108,15 +107,6 @@ void PageCanvas::Redraw() {
     m_isSlow = clock.elapsed() >= kSlowRedraw;
     PlaceSheet();
     ShowPixels();
-}
-
-/// While a map is read the window lives on. What it asks for in the middle of a drawing
-/// is drawn later, with everything else.
-bool PageCanvas::MustWait() {
-    if (m_surface.IsDrawing()) {
-        m_pause.start();
-    }
-    return m_surface.IsDrawing();
 }
 
 void PageCanvas::RedrawSoon() {
@@ -137,9 +127,6 @@ void PageCanvas::ShowPixels() {
 }
 
 void PageCanvas::OnItemsChanged(const Indices& items) {
-    if (MustWait()) {
-        return;
-    }
     for (const std::size_t item : items) {
         m_surface.DrawChanged(item);
     }

@@ -68,7 +68,6 @@ private:
     void PlaceToFit();
     void Redraw();
     void RedrawSoon();
-    bool MustWait();
     void ShowPixels();
     void OnItemsChanged(const Indices& items);
     void OnPageReplaced();

@@ -89,6 +89,10 @@ void EditorTest::MoveTo(CPoint2D at, Qt::KeyboardModifiers modifiers) {
     Send(QEvent::MouseMove, at, Qt::NoButton, Qt::LeftButton, modifiers);
 }
 
+void EditorTest::Hover(CPoint2D at) {
+    Send(QEvent::MouseMove, at, Qt::NoButton, Qt::NoButton, {});
+}
+
 void EditorTest::Release(CPoint2D at, Qt::KeyboardModifiers modifiers) {
     Send(QEvent::MouseButtonRelease, at, Qt::LeftButton, Qt::NoButton, modifiers);
 }

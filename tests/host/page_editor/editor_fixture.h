@@ -28,6 +28,8 @@ protected:
     /// The pointer, at points of the page.
     void Press(CPoint2D at, Qt::KeyboardModifiers modifiers = {});
     void MoveTo(CPoint2D at, Qt::KeyboardModifiers modifiers = {});
+    /// Moves it with no button down.
+    void Hover(CPoint2D at);
     void Release(CPoint2D at, Qt::KeyboardModifiers modifiers = {});
     void Click(CPoint2D at, Qt::KeyboardModifiers modifiers = {});
     /// Presses, moves there in a few steps, and lets go.

@@ -54,6 +54,16 @@ TEST_F(Dragging, ShowsEveryStep) {
     EXPECT_EQ(document.UndoLabel(), "Move");
 }
 
+TEST_F(Dragging, EndsWhereTheButtonWasLetGoUnseen) {
+    Press(CPoint2D(150.0, 150.0));
+    MoveTo(CPoint2D(187.0, 223.0));
+    Hover(CPoint2D(400.0, 400.0));
+    EXPECT_FALSE(canvas.IsDragging());
+    ExpectBox(BoxOf(0), {137.0, 173.0, 237.0, 273.0});
+    EXPECT_EQ(document.UndoLabel(), "Move");
+    ExpectImageIsThePage();
+}
+
 TEST_F(Dragging, MovesAllThatAreSelected) {
     Click(CPoint2D(150.0, 150.0));
     Click(CPoint2D(730.0, 630.0), Qt::ShiftModifier);
