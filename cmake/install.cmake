@@ -3,12 +3,13 @@
 include(CMakePackageConfigHelpers)
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/map_surround)
 
-install(DIRECTORY ${PROJECT_SOURCE_DIR}/include/ ${PROJECT_BINARY_DIR}/include/
+install(
+  DIRECTORY ${PROJECT_SOURCE_DIR}/include/map_surround ${PROJECT_BINARY_DIR}/include/map_surround
   DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT development FILES_MATCHING PATTERN "*.h")
 if(MAP_SURROUND_HOST_INCLUDE_DIR)
   set(interfaces ${MAP_SURROUND_HOST_INCLUDE_DIR})
 else()
-  set(interfaces ${PROJECT_SOURCE_DIR}/src/element)
+  set(interfaces ${PROJECT_SOURCE_DIR}/include)
 endif()
 install(DIRECTORY ${interfaces}/host
   DESTINATION ${MAP_SURROUND_INSTALL_INTERFACES} COMPONENT development

@@ -9,7 +9,7 @@
 #include <memory>
 
 #include "page/twelve_elements.h"
-#include "page_editor/document/resize.h"
+#include "page_editor/editing/resize.h"
 #include "page_editor/window/editor_window.h"
 #include "run_benchmarks.h"
 
@@ -34,7 +34,7 @@ public:
         return page_editor::HandleAt(BoxOf(item), handle);
     }
     CPoint2D MiddleOf(std::size_t item) {
-        const page_editor::Edges box = BoxOf(item);
+        const host::Box box = BoxOf(item);
         return {box.MiddleX(), box.MiddleY()};
     }
 
@@ -54,8 +54,8 @@ public:
     bool IsDragging() { return m_window.Canvas().IsDragging(); }
 
 private:
-    page_editor::Edges BoxOf(std::size_t item) {
-        return page_editor::EdgesOf(m_window.Document().Extent(item));
+    host::Box BoxOf(std::size_t item) {
+        return host::BoxOf(m_window.Document().Extent(item));
     }
 
     void Send(QEvent::Type type, CPoint2D at, Qt::MouseButton button,

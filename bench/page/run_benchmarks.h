@@ -2,7 +2,7 @@
 
 #include <benchmark/benchmark.h>
 
-#include "page/gdiplus_session.h"
+#include "system/gdiplus_session.h"
 
 namespace bench {
 

@@ -18,7 +18,7 @@
 
 #include "legend/fake_sources.h"
 #include "map_surround/map_surround.h"
-#include "page/png_image.h"
+#include "page/output/png_image.h"
 
 namespace {
 

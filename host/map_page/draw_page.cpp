@@ -11,9 +11,9 @@
 #include "page/document/map_on_page.h"
 #include "page/document/page_text.h"
 #include "page/document/raster_store.h"
-#include "page/fonts.h"
-#include "page/layout.h"
-#include "page/map_layers.h"
+#include "page/layout/layout.h"
+#include "page/map/map_layers.h"
+#include "system/fonts.h"
 
 namespace map_page {
 namespace {

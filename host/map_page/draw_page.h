@@ -5,7 +5,7 @@
 
 #include "map_page/options.h"
 #include "map_page/quiet.h"
-#include "page/output_file.h"
+#include "system/output_file.h"
 
 namespace map_page {
 

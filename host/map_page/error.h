@@ -3,7 +3,7 @@
 #include <stdexcept>
 #include <string>
 
-#include "page/separate_process.h"
+#include "system/separate_process.h"
 
 namespace map_page {
 

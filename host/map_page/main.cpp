@@ -13,10 +13,10 @@
 #include "map_page/progress_line.h"
 #include "map_page/quiet.h"
 #include "map_page/series.h"
-#include "page/error_line.h"
-#include "page/gdiplus_session.h"
-#include "page/output_file.h"
-#include "page/separate_process.h"
+#include "system/error_line.h"
+#include "system/gdiplus_session.h"
+#include "system/output_file.h"
+#include "system/separate_process.h"
 
 namespace {
 

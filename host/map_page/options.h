@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "map_page/page_changes.h"
-#include "page/page_design.h"
+#include "page/layout/page_design.h"
 
 namespace map_page {
 

@@ -8,7 +8,7 @@
 #include "map_surround/title.h"
 #include "page/document/item_type.h"
 #include "page/document/page_error.h"
-#include "page/fit_to_map.h"
+#include "page/layout/fit_to_map.h"
 #include "page/placed_frame.h"
 
 namespace map_page {

@@ -5,16 +5,16 @@
 #include <utility>
 #include <vector>
 
+#include "page/box.h"
 #include "page/document/raster_store.h"
-#include "page/map_extent.h"
 #include "page/page.h"
 
 namespace map_page {
 
 /// What one page of a series has otherwise than its page file.
 struct PageChanges {
-    std::vector<std::string> rasters;       ///< none: as in the page file
-    std::optional<host::MapExtent> extent;  ///< likewise
+    std::vector<std::string> rasters;  ///< none: as in the page file
+    std::optional<host::Box> extent;   ///< likewise
     /// Names of elements and their texts, in UTF-8.
     std::vector<std::pair<std::string, std::string>> texts;
 };

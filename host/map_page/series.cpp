@@ -20,7 +20,7 @@
 #include "map_page/error.h"
 #include "map_page/progress_line.h"
 #include "map_page/series_list.h"
-#include "page/error_line.h"
+#include "system/error_line.h"
 
 namespace map_page {
 namespace {

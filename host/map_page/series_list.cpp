@@ -14,7 +14,7 @@
 #include "map_page/csv.h"
 #include "map_page/error.h"
 #include "page/document/file_paths.h"
-#include "page/numbers_from_text.h"
+#include "system/numbers_from_text.h"
 
 namespace map_page {
 namespace {
@@ -106,7 +106,7 @@ std::vector<std::string> RastersIn(const std::string& text,
     return rasters;
 }
 
-host::MapExtent ExtentIn(const std::string& text) {
+host::Box ExtentIn(const std::string& text) {
     std::vector<double> sides;
     std::string_view rest(text);
     while (!rest.empty()) {

@@ -9,8 +9,8 @@
 #include <utility>
 
 #include "map_page/error.h"
-#include "page/numbers_from_text.h"
-#include "page/text.h"
+#include "system/numbers_from_text.h"
+#include "system/utf8.h"
 
 namespace map_page {
 namespace {

@@ -6,7 +6,7 @@
 #include <string>
 
 #include "map_surround/title.h"
-#include "page/page_design.h"
+#include "page/layout/page_design.h"
 
 namespace map_page {
 

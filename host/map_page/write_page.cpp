@@ -8,8 +8,8 @@
 
 #include "map_page/error.h"
 #include "map_page/progress_line.h"
-#include "page/page_output.h"
-#include "page/print/print_file.h"
+#include "page/output/page_output.h"
+#include "page/output/print_file.h"
 #include "page/units.h"
 
 namespace map_page {

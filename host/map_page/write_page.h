@@ -4,8 +4,8 @@
 
 #include "map_page/options.h"
 #include "map_page/quiet.h"
-#include "page/output_file.h"
 #include "page/page.h"
+#include "system/output_file.h"
 
 namespace map_page {
 

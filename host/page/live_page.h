@@ -4,9 +4,9 @@
 #include <vector>
 
 #include "page/ink.h"
+#include "page/map/rendered_maps.h"
+#include "page/output/page_image.h"
 #include "page/page.h"
-#include "page/page_image.h"
-#include "page/rendered_maps.h"
 
 namespace host {
 

@@ -10,9 +10,9 @@
 #include <vector>
 
 #include "map_surround/frame.h"
-#include "page/map_extent.h"
-#include "page/map_picture.h"
-#include "page/rendered_maps.h"
+#include "page/box.h"
+#include "page/map/map_picture.h"
+#include "page/map/rendered_maps.h"
 
 namespace host {
 
@@ -22,7 +22,7 @@ struct MapFrame {
     std::shared_ptr<MapPicture> picture;        ///< none while the rasters are not open
     std::string name = {};                      ///< what people call it; UTF-8
     std::vector<std::string> rasterPaths = {};  ///< the first on top
-    std::optional<MapExtent> extent = std::nullopt;  ///< shown; else all of the rasters
+    std::optional<Box> extent = std::nullopt;   ///< shown; else all of the rasters
 };
 
 /// What stands on a page: a map, or a frame with one element in it.

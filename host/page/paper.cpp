@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <string_view>
 
-#include "page/numbers_from_text.h"
+#include "system/numbers_from_text.h"
 
 namespace host {
 namespace {

@@ -11,9 +11,9 @@
 #include <string>
 #include <vector>
 
-#include "page/gdiplus_session.h"
-#include "page/output_file.h"
 #include "page_editor/window/editor_window.h"
+#include "system/gdiplus_session.h"
+#include "system/output_file.h"
 
 namespace {
 

@@ -9,11 +9,9 @@
 
 #include "host/common_functions.h"
 #include "host/raster_data.h"
+#include "system/progress.h"
 
 namespace host {
-
-/// Told how far a long read has come, 0 to 1; answers false to stop it.
-using Progress = std::function<bool(double)>;
 
 /// Pixels of a drawn raster: 4 bytes each (blue, green, red, alpha, as GDI+ keeps
 /// PixelFormat32bppARGB in memory), rows from the top, no padding.

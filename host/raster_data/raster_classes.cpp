@@ -8,6 +8,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <cstdint>
 #include <initializer_list>
 
 #include "raster_data/gdal_session.h"
@@ -168,12 +169,12 @@ const T* At(const std::vector<T>& list, double value) {
 /// A whole number without decimals, any other with as many as tell it from its
 /// neighbours.
 std::wstring ValueText(double value) {
-    if (value == std::floor(value) && std::abs(value) < 1e15) {
-        return CommonFun::double2wstring(value, 0);
-    }
     std::array<char, 32> text{};
+    char* const end = text.data() + text.size();
+    const bool isWhole = value == std::floor(value) && std::abs(value) < 1e15;
     const std::to_chars_result result =
-        std::to_chars(text.data(), text.data() + text.size(), value);
+        isWhole ? std::to_chars(text.data(), end, static_cast<std::int64_t>(value))
+                : std::to_chars(text.data(), end, value);
     return {text.data(), result.ptr};
 }
 

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "common_functions/classification_table.h"
+#include "raster_data/classification_table.h"
 
 class GDALRasterBand;
 

@@ -5,8 +5,8 @@
 #include <vector>
 
 #include "page/document/raster_store.h"
-#include "page/layout.h"
-#include "page/map_layers.h"
+#include "page/layout/layout.h"
+#include "page/map/map_layers.h"
 
 namespace host {
 

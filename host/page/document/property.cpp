@@ -5,7 +5,7 @@
 #include <cmath>
 #include <iterator>
 
-#include "page/text.h"
+#include "system/utf8.h"
 
 namespace host {
 namespace {
@@ -47,7 +47,7 @@ std::string CheckPaths(const std::vector<std::string>& paths) {
     return {};
 }
 
-std::string CheckExtent(const std::optional<MapExtent>& extent) {
+std::string CheckExtent(const std::optional<Box>& extent) {
     const bool isGood =
         !extent || (std::isfinite(extent->Width()) && std::isfinite(extent->Height()) &&
                     extent->Width() > 0.0 && extent->Height() > 0.0);
@@ -88,7 +88,7 @@ std::string CheckValue(const Property& property, const PropertyValue& value) {
         case PropertyKind::Rasters:
             return CheckPaths(std::get<std::vector<std::string>>(value));
         case PropertyKind::MapExtent:
-            return CheckExtent(std::get<std::optional<MapExtent>>(value));
+            return CheckExtent(std::get<std::optional<Box>>(value));
         case PropertyKind::Choice:
             return CheckChoice(property.choices, std::get<std::int32_t>(value));
         case PropertyKind::Switch:

@@ -7,7 +7,7 @@
 #include <variant>
 #include <vector>
 
-#include "page/map_extent.h"
+#include "page/box.h"
 #include "page/page.h"
 
 namespace host {
@@ -24,13 +24,13 @@ enum class PropertyKind {
     Font,       ///< the name of a font family, UTF-8: std::string
     File,       ///< the path of an image file: std::string
     Rasters,    ///< the paths of rasters, the first on top: std::vector<std::string>
-    MapExtent,  ///< a part of the map, or all of it: std::optional<MapExtent>
+    MapExtent,  ///< a part of the map, or all of it: std::optional<Box>
     Choice,     ///< one of a few: std::int32_t, the value of the choice
 };
 
 /// The value of a property; its kind says which of these it is.
 using PropertyValue = std::variant<bool, std::int32_t, double, Gdiplus::ARGB, std::string,
-                                   std::vector<std::string>, std::optional<MapExtent>>;
+                                   std::vector<std::string>, std::optional<Box>>;
 
 /// One value of an enumeration, and what people call it.
 struct Choice {

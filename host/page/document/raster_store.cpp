@@ -9,10 +9,11 @@
 #include "page/document/item_type.h"
 #include "page/document/json_text.h"
 #include "page/document/page_format.h"
-#include "page/fit_to_map.h"
-#include "page/fonts.h"
+#include "page/layout/fit_to_map.h"
+#include "page/map/map_geometry.h"
 #include "page/placed_frame.h"
-#include "page/text.h"
+#include "system/fonts.h"
+#include "system/utf8.h"
 
 namespace host {
 namespace {
@@ -44,7 +45,7 @@ std::shared_ptr<MapPicture> PictureOf(const MapFrame& map, RasterStore& store) {
         return layers;
     }
     const CBoundingBox box = map.frame.GetExtent();
-    const MapExtent shown = Widened(layers->Extent(), box.GetWidth() / box.GetHeight());
+    const Box shown = Widened(layers->Extent(), box.GetWidth() / box.GetHeight());
     return shown.Width() == layers->Extent().Width() &&
                    shown.Height() == layers->Extent().Height()
                ? layers
@@ -108,7 +109,7 @@ std::shared_ptr<GdalRaster> RasterStore::Raster(const std::string& path) {
 }
 
 std::shared_ptr<MapLayers> RasterStore::Map(const std::vector<std::string>& paths,
-                                            const std::optional<MapExtent>& extent) {
+                                            const std::optional<Box>& extent) {
     MapKey key{paths, {}};
     if (extent) {
         key.second = {extent->left, extent->bottom, extent->right, extent->top};

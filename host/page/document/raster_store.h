@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "page/document/page_error.h"
-#include "page/map_layers.h"
+#include "page/map/map_layers.h"
 #include "page/page.h"
 
 namespace host {
@@ -28,7 +28,7 @@ public:
 
     /// A map of at least one raster. Throws as Raster does.
     std::shared_ptr<MapLayers> Map(const std::vector<std::string>& paths,
-                                   const std::optional<MapExtent>& extent);
+                                   const std::optional<Box>& extent);
 
 private:
     using MapKey = std::pair<std::vector<std::string>, std::vector<double>>;

@@ -57,7 +57,7 @@ ordered_json NumberToJson(const Property& property, double value) {
     return property.isFloat ? ShortestDouble(value) : value;
 }
 
-ordered_json ExtentToJson(const std::optional<MapExtent>& extent) {
+ordered_json ExtentToJson(const std::optional<Box>& extent) {
     return extent ? ordered_json{{"left", extent->left},
                                  {"bottom", extent->bottom},
                                  {"right", extent->right},
@@ -65,7 +65,7 @@ ordered_json ExtentToJson(const std::optional<MapExtent>& extent) {
                   : ordered_json(nullptr);
 }
 
-std::optional<MapExtent> ExtentFromJson(const json& value, const std::string& place) {
+std::optional<Box> ExtentFromJson(const json& value, const std::string& place) {
     if (value.is_null()) {
         return std::nullopt;
     }
@@ -78,7 +78,7 @@ std::optional<MapExtent> ExtentFromJson(const json& value, const std::string& pl
         }
         return NumberFromJson(value.at(name), place + "." + name);
     };
-    return MapExtent{side("left"), side("bottom"), side("right"), side("top")};
+    return Box{side("left"), side("bottom"), side("right"), side("top")};
 }
 
 std::int32_t IntegerFromJson(const json& value, const std::string& place) {
@@ -220,7 +220,7 @@ ordered_json ValueToJson(const Property& property, const PropertyValue& value,
         case PropertyKind::Rasters:
             return PathsToJson(std::get<std::vector<std::string>>(value), paths);
         case PropertyKind::MapExtent:
-            return ExtentToJson(std::get<std::optional<MapExtent>>(value));
+            return ExtentToJson(std::get<std::optional<Box>>(value));
         case PropertyKind::Choice:
             return NameOf(property.choices, std::get<std::int32_t>(value));
     }

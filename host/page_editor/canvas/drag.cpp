@@ -4,7 +4,7 @@
 #include <cmath>
 #include <utility>
 
-#include "page_editor/document/resize.h"
+#include "page_editor/editing/resize.h"
 
 namespace page_editor {
 namespace {
@@ -15,7 +15,7 @@ SnapLines LinesOf(const PageDocument& document, const Indices& but) {
     lines.Add({0.0, 0.0, document.Page().Width(), document.Page().Height()});
     for (std::size_t i = 0; i < document.Count(); ++i) {
         if (!std::binary_search(but.begin(), but.end(), i)) {
-            lines.Add(EdgesOf(document.Extent(i)));
+            lines.Add(host::BoxOf(document.Extent(i)));
         }
     }
     return lines;
@@ -47,13 +47,13 @@ public:
           m_lines(LinesOf(document, m_items)) {
         for (const std::size_t item : m_items) {
             m_extents.push_back(document.Extent(item));
-            m_boxes.push_back(EdgesOf(m_extents.back()));
+            m_boxes.push_back(host::BoxOf(m_extents.back()));
         }
     }
 
     void To(CPoint2D point, const DragRules& rules) override {
         m_marks = {};
-        const Edges all = Around(m_boxes);
+        const host::Box all = Around(m_boxes);
         const double dx =
             Snapped(point.x - m_from.x, {all.left, all.MiddleX(), all.right}, m_lines.x,
                     rules, m_marks.x);
@@ -77,7 +77,7 @@ private:
     Indices m_items;
     SnapLines m_lines;
     std::vector<CBoundingBox> m_extents;
-    std::vector<Edges> m_boxes;
+    std::vector<host::Box> m_boxes;
 };
 
 class ResizeDrag : public Drag {
@@ -87,7 +87,7 @@ public:
           m_items{item},
           m_handle(handle),
           m_from(from),
-          m_box(EdgesOf(document.Extent(item))),
+          m_box(host::BoxOf(document.Extent(item))),
           m_scale(document.Item(item)),
           m_isMap(std::holds_alternative<host::MapFrame>(document.Item(item))),
           m_lines(LinesOf(document, m_items)) {}
@@ -131,7 +131,7 @@ private:
     Indices m_nothing;
     int m_handle;
     CPoint2D m_from;
-    Edges m_box;
+    host::Box m_box;
     ElementScale m_scale;
     bool m_isMap;
     SnapLines m_lines;
@@ -143,11 +143,11 @@ public:
         : m_document(document), m_from(from), m_before(document.Selection()) {}
 
     void To(CPoint2D point, const DragRules&) override {
-        const Edges band = EdgesOf({m_from.x, m_from.y, point.x, point.y});
+        const host::Box band = host::BoxOf({m_from.x, m_from.y, point.x, point.y});
         m_marks.outline = band;
         Indices selection = m_before;
         for (std::size_t i = 0; i < m_document.Count(); ++i) {
-            const Edges box = EdgesOf(m_document.Extent(i));
+            const host::Box box = host::BoxOf(m_document.Extent(i));
             if (box.left >= band.left && box.right <= band.right &&
                 box.bottom >= band.bottom && box.top <= band.top) {
                 selection.push_back(i);

@@ -4,9 +4,9 @@
 #include <optional>
 #include <vector>
 
-#include "page_editor/document/element_scale.h"
-#include "page_editor/document/page_document.h"
-#include "page_editor/document/snap.h"
+#include "page_editor/editing/element_scale.h"
+#include "page_editor/editing/page_document.h"
+#include "page_editor/editing/snap.h"
 
 namespace page_editor {
 
@@ -21,7 +21,7 @@ struct DragRules {
 struct DragMarks {
     std::vector<double> x;  ///< upright lines that it was drawn to, page units
     std::vector<double> y;
-    std::optional<Edges> outline;  ///< what will be when the drag ends
+    std::optional<host::Box> outline;  ///< what will be when the drag ends
 };
 
 /// What happens to the page while the pointer is held down. Ends in one command, or in

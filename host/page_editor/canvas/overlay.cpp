@@ -2,7 +2,7 @@
 
 #include <QPen>
 
-#include "page_editor/document/resize.h"
+#include "page_editor/editing/resize.h"
 
 namespace page_editor {
 namespace {
@@ -16,7 +16,7 @@ QPen Line(QRgb colour, Qt::PenStyle style = Qt::SolidLine) {
     return pen;
 }
 
-void DrawHandles(QPainter& painter, const View& view, const Edges& box) {
+void DrawHandles(QPainter& painter, const View& view, const host::Box& box) {
     painter.setPen(Line(kSelection));
     painter.setBrush(Qt::white);
     for (int handle = 0; handle < kHandles; ++handle) {
@@ -30,7 +30,7 @@ void DrawHandles(QPainter& painter, const View& view, const Edges& box) {
 
 void DrawSelection(QPainter& painter, const View& view, const PageDocument& document) {
     for (const std::size_t item : document.Selection()) {
-        const Edges box = EdgesOf(document.Extent(item));
+        const host::Box box = host::BoxOf(document.Extent(item));
         painter.setPen(Line(kSelection));
         painter.setBrush(Qt::NoBrush);
         painter.drawRect(view.ToWidget(box));

@@ -8,8 +8,8 @@
 #include "page_editor/canvas/drag.h"
 #include "page_editor/canvas/page_surface.h"
 #include "page_editor/canvas/view.h"
-#include "page_editor/document/hit.h"
-#include "page_editor/document/page_document.h"
+#include "page_editor/editing/hit.h"
+#include "page_editor/editing/page_document.h"
 
 namespace page_editor {
 

@@ -4,8 +4,8 @@
 #include <optional>
 
 #include "page_editor/canvas/page_canvas.h"
-#include "page_editor/document/element_scale.h"
-#include "page_editor/document/resize.h"
+#include "page_editor/editing/element_scale.h"
+#include "page_editor/editing/resize.h"
 
 namespace page_editor {
 namespace {
@@ -45,7 +45,7 @@ void PageCanvas::Grow(double dx, double dy) {
             m_document.Selection(), "Resize",
             [&](host::PageItem& item) {
                 const ElementScale scale(item);
-                const Edges box = EdgesOf(FrameOf(item).GetExtent());
+                const host::Box box = host::BoxOf(FrameOf(item).GetExtent());
                 const CPoint2D from = HandleAt(box, handle);
                 scale.Apply(item, Resized(box, handle, {from.x + dx, from.y + dy},
                                           scale.HasProportions()));

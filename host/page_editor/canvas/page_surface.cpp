@@ -7,9 +7,9 @@
 #include <exception>
 #include <stdexcept>
 
-#include "page/error_line.h"
 #include "page/units.h"
-#include "page_editor/document/separate_reading.h"
+#include "page_editor/editing/separate_reading.h"
+#include "system/error_line.h"
 
 namespace page_editor {
 namespace {

@@ -4,7 +4,7 @@
 #include <QRectF>
 
 #include "host/raster_data.h"
-#include "page_editor/document/arrange.h"
+#include "page_editor/editing/arrange.h"
 
 namespace page_editor {
 
@@ -18,7 +18,7 @@ struct View {
     QPointF ToWidget(CPoint2D point) const {
         return corner + QPointF(point.x, pageHeight - point.y) * zoom;
     }
-    QRectF ToWidget(const Edges& box) const {
+    QRectF ToWidget(const host::Box& box) const {
         return {ToWidget(CPoint2D(box.left, box.top)),
                 ToWidget(CPoint2D(box.right, box.bottom))};
     }

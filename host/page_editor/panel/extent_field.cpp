@@ -10,7 +10,7 @@ namespace {
 
 constexpr const char* kNames[] = {"left", "bottom", "right", "top"};
 
-std::array<double, 4> EdgesOf(const host::MapExtent& extent) {
+std::array<double, 4> EdgesOf(const host::Box& extent) {
     return {extent.left, extent.bottom, extent.right, extent.top};
 }
 
@@ -32,15 +32,15 @@ ExtentField::ExtentField(QWidget* parent)
             edge->setEnabled(!all);
         }
         if (all) {
-            Tell(std::optional<host::MapExtent>());
+            Tell(std::optional<host::Box>());
         }
     });
 }
 
 void ExtentField::Show(const host::PropertyValue& value) {
-    const auto& extent = std::get<std::optional<host::MapExtent>>(value);
+    const auto& extent = std::get<std::optional<host::Box>>(value);
     m_all->setChecked(!extent);
-    const std::array<double, 4> edges = EdgesOf(extent.value_or(host::MapExtent()));
+    const std::array<double, 4> edges = EdgesOf(extent.value_or(host::Box()));
     for (std::size_t i = 0; i < m_edges.size(); ++i) {
         m_edges[i]->setText(extent ? NumberText(edges[i]) : QString());
         m_edges[i]->setEnabled(extent.has_value());
@@ -69,7 +69,7 @@ void ExtentField::TellEdges() {
         }
         values[i] = *value;
     }
-    Tell(std::optional(host::MapExtent{values[0], values[1], values[2], values[3]}));
+    Tell(std::optional(host::Box{values[0], values[1], values[2], values[3]}));
 }
 
 }  // namespace page_editor

@@ -9,7 +9,7 @@
 #include <exception>
 #include <string>
 
-#include "page_editor/document/property_change.h"
+#include "page_editor/editing/property_change.h"
 
 namespace page_editor {
 namespace {

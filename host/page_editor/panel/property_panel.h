@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "page/document/item_type.h"
-#include "page_editor/document/page_document.h"
+#include "page_editor/editing/page_document.h"
 #include "page_editor/panel/property_field.h"
 
 namespace page_editor {

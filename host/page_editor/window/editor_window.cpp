@@ -14,8 +14,8 @@
 #include <utility>
 
 #include "page/paper.h"
-#include "page_editor/document/new_item.h"
-#include "page_editor/document/property_change.h"
+#include "page_editor/editing/new_item.h"
+#include "page_editor/editing/property_change.h"
 #include "page_editor/window/actions.h"
 
 namespace page_editor {
@@ -122,12 +122,12 @@ void EditorWindow::Paste() {
 }
 
 void EditorWindow::Align(AlignTo to) {
-    const std::vector<Edges> boxes = SelectedBoxes();
+    const std::vector<host::Box> boxes = SelectedBoxes();
     if (boxes.empty()) {
         return;
     }
     const host::Page& page = m_document.Page();
-    const Edges sheet = {0.0, 0.0, page.Width(), page.Height()};
+    const host::Box sheet = {0.0, 0.0, page.Width(), page.Height()};
     MoveSelectedBy(AlignOffsets(boxes, to, boxes.size() == 1 ? sheet : Around(boxes)),
                    "Align");
 }
@@ -231,10 +231,10 @@ void EditorWindow::Attempt(const std::function<void()>& step) {
     }
 }
 
-std::vector<Edges> EditorWindow::SelectedBoxes() const {
-    std::vector<Edges> boxes;
+std::vector<host::Box> EditorWindow::SelectedBoxes() const {
+    std::vector<host::Box> boxes;
     for (const std::size_t item : m_document.Selection()) {
-        boxes.push_back(EdgesOf(m_document.Extent(item)));
+        boxes.push_back(host::BoxOf(m_document.Extent(item)));
     }
     return boxes;
 }

@@ -8,8 +8,8 @@
 #include <memory>
 
 #include "page_editor/canvas/page_canvas.h"
-#include "page_editor/document/arrange.h"
-#include "page_editor/document/page_document.h"
+#include "page_editor/editing/arrange.h"
+#include "page_editor/editing/page_document.h"
 #include "page_editor/panel/property_panel.h"
 #include "page_editor/window/file_commands.h"
 #include "page_editor/window/waiting.h"
@@ -62,7 +62,7 @@ private:
     void ShowFailure(const QString& why);
     bool ShowReading(double part);
     void Attempt(const std::function<void()>& step);
-    std::vector<Edges> SelectedBoxes() const;
+    std::vector<host::Box> SelectedBoxes() const;
     void MoveSelectedBy(const std::vector<CPoint2D>& offsets, const std::string& label);
 
     PageDocument m_document;

@@ -12,8 +12,8 @@
 #include <vector>
 
 #include "page/paper.h"
-#include "page_editor/document/page_export.h"
-#include "page_editor/document/page_files.h"
+#include "page_editor/editing/page_export.h"
+#include "page_editor/editing/page_files.h"
 #include "page_editor/window/recent_files.h"
 #include "page_editor/window/waiting.h"
 

@@ -5,7 +5,7 @@
 #include <QWidget>
 #include <functional>
 
-#include "page_editor/document/page_document.h"
+#include "page_editor/editing/page_document.h"
 
 namespace page_editor {
 

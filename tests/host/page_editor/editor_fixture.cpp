@@ -8,11 +8,11 @@
 #include <cstdlib>
 
 #include "page/document/item_type.h"
-#include "page/page_image.h"
+#include "page/output/page_image.h"
 
 namespace editor_tests {
 
-using page_editor::Edges;
+using host::Box;
 
 namespace {
 
@@ -42,24 +42,24 @@ EditorTest::EditorTest() {
     canvas.SetZoom(1.0);
 }
 
-std::size_t EditorTest::Add(const char* type, const Edges& box,
+std::size_t EditorTest::Add(const char* type, const host::Box& box,
                             const QStringList& files) {
     window.Insert(type, files);
     EXPECT_EQ(window.LastFailure().toStdString(), "");
     const std::size_t item = document.Count() - 1;
     document.ChangeItems({item}, "Place", [&](host::PageItem& added) {
-        host::FrameOf(added).SetExtent(box.Box());
+        host::FrameOf(added).SetExtent(BoundingBoxOf(box));
     });
     document.Select({});
     return item;
 }
 
-Edges EditorTest::BoxOf(std::size_t item) {
-    return page_editor::EdgesOf(document.Extent(item));
+host::Box EditorTest::BoxOf(std::size_t item) {
+    return host::BoxOf(document.Extent(item));
 }
 
-Edges EditorTest::BoxOf(std::size_t item, const host::Page& page) {
-    return page_editor::EdgesOf(host::FrameOf(page.Items()[item]).GetExtent());
+host::Box EditorTest::BoxOf(std::size_t item, const host::Page& page) {
+    return host::BoxOf(host::FrameOf(page.Items()[item]).GetExtent());
 }
 
 host::PropertyValue EditorTest::Value(std::size_t index, const char* name) {
@@ -129,7 +129,7 @@ void EditorTest::ExpectImageIsThePage() {
     EXPECT_LE(MostDifference(canvas.Image(), DrawnWhole(document.Page(), dpi)), kHair);
 }
 
-void ExpectBox(const Edges& box, const Edges& expected) {
+void ExpectBox(const host::Box& box, const host::Box& expected) {
     EXPECT_NEAR(box.left, expected.left, 1e-6);
     EXPECT_NEAR(box.bottom, expected.bottom, 1e-6);
     EXPECT_NEAR(box.right, expected.right, 1e-6);

@@ -18,11 +18,11 @@ protected:
     EditorTest();
 
     /// Adds an element of a type whose frame is the box, and lets nothing be selected.
-    std::size_t Add(const char* type, const page_editor::Edges& box,
+    std::size_t Add(const char* type, const host::Box& box,
                     const QStringList& files = {});
 
-    page_editor::Edges BoxOf(std::size_t item);
-    page_editor::Edges BoxOf(std::size_t item, const host::Page& page);
+    host::Box BoxOf(std::size_t item);
+    host::Box BoxOf(std::size_t item, const host::Page& page);
     host::PropertyValue Value(std::size_t item, const char* property);
 
     /// The pointer, at points of the page.
@@ -53,7 +53,7 @@ private:
               Qt::MouseButtons buttons, Qt::KeyboardModifiers modifiers);
 };
 
-void ExpectBox(const page_editor::Edges& box, const page_editor::Edges& expected);
+void ExpectBox(const host::Box& box, const host::Box& expected);
 
 /// Drawn anew, without anything of an editor.
 QImage DrawnWhole(const host::Page& page, double dpi);

@@ -11,7 +11,7 @@
 #include "page/document/property.h"
 #include "page/page.h"
 #include "page/placed_frame.h"
-#include "page/text.h"
+#include "system/utf8.h"
 
 namespace host::tables {
 

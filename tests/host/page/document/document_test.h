@@ -9,8 +9,8 @@
 #include <vector>
 
 #include "page/made_raster.h"
+#include "page/output/page_image.h"
 #include "page/page.h"
-#include "page/page_image.h"
 #include "png_encoder.h"
 #include "scratch_folder.h"
 

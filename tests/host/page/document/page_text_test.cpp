@@ -13,7 +13,7 @@
 #include "page/document/document_test.h"
 #include "page/document/item_type.h"
 #include "page/document/page_error.h"
-#include "page/text.h"
+#include "system/utf8.h"
 
 namespace {
 

@@ -13,7 +13,7 @@
 
 namespace {
 
-using host::MapExtent;
+using host::Box;
 using host::MapFrame;
 using host::PageItem;
 using OpeningRasters = host_tests::DocumentTest;
@@ -48,8 +48,7 @@ TEST_F(OpeningRasters, AnItemReadAgainSharesItsMap) {
     EXPECT_EQ(store.Raster(folder.Path("scene.tif")),
               store.Raster(folder.Path("scene.tif")));
 
-    std::get<MapFrame>(again).extent =
-        MapExtent{500000.0, 8999700.0, 500300.0, 9000000.0};
+    std::get<MapFrame>(again).extent = Box{500000.0, 8999700.0, 500300.0, 9000000.0};
     OpenRasters(again, store);
     EXPECT_NE(std::get<MapFrame>(item).picture, std::get<MapFrame>(again).picture);
 }

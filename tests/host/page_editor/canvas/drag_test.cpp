@@ -9,7 +9,7 @@ namespace {
 
 using editor_tests::EditorTest;
 using editor_tests::ExpectBox;
-using page_editor::Edges;
+using host::Box;
 using ::testing::ElementsAre;
 
 /// Two north arrows far from each other and from the lines of the sheet.

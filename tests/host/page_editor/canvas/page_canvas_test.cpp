@@ -10,7 +10,7 @@
 namespace {
 
 using editor_tests::EditorTest;
-using page_editor::Edges;
+using host::Box;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
@@ -105,7 +105,7 @@ TEST_F(PageCanvas, ShowsTheWholeSheet) {
     canvas.SetZoom(3.0);
     canvas.ZoomToFit();
     const QRectF sheet = canvas.CurrentView().ToWidget(
-        Edges{0.0, 0.0, document.Page().Width(), document.Page().Height()});
+        host::Box{0.0, 0.0, document.Page().Width(), document.Page().Height()});
     EXPECT_TRUE(QRectF(canvas.viewport()->rect()).contains(sheet));
     EXPECT_GT(sheet.width(), canvas.viewport()->width() * 0.8);
 }

@@ -1,4 +1,4 @@
-#include "page_editor/document/resize.h"
+#include "page_editor/editing/resize.h"
 
 #include "page/made_raster.h"
 #include "page_editor/editor_fixture.h"
@@ -7,9 +7,9 @@ namespace {
 
 using editor_tests::EditorTest;
 using editor_tests::ExpectBox;
-using page_editor::Edges;
+using host::Box;
 
-constexpr Edges kBox = {300.0, 300.0, 420.0, 360.0};  // 120 by 60
+constexpr host::Box kBox = {300.0, 300.0, 420.0, 360.0};  // 120 by 60
 
 class Resizing : public EditorTest {
 protected:
@@ -23,8 +23,8 @@ protected:
 
 struct PullRow {
     int handle;
-    Edges free;          // pulled by 30 to the right and 20 upwards
-    Edges proportioned;  // the same where proportions are kept
+    host::Box free;          // pulled by 30 to the right and 20 upwards
+    host::Box proportioned;  // the same where proportions are kept
 };
 
 // Free: the edges that the handle has follow. Kept: the larger of the two pulls, as a

@@ -27,7 +27,7 @@ using editor_tests::EditorTest;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 
-constexpr page_editor::Edges kBox = {300.0, 300.0, 500.0, 360.0};
+constexpr host::Box kBox = {300.0, 300.0, 500.0, 360.0};
 
 class PropertyPanel : public EditorTest {
 protected:
@@ -252,9 +252,9 @@ TEST_F(PropertyPanel, ChangesTheExtentOfAMap) {
     Type("extent", "100", "left");
     Type("extent", "192", "bottom");
     Type("extent", "104", "right");
-    EXPECT_FALSE(std::get<std::optional<host::MapExtent>>(Value(map, "extent")));
+    EXPECT_FALSE(std::get<std::optional<host::Box>>(Value(map, "extent")));
     Type("extent", "200", "top");
-    const auto extent = std::get<std::optional<host::MapExtent>>(Value(map, "extent"));
+    const auto extent = std::get<std::optional<host::Box>>(Value(map, "extent"));
     ASSERT_TRUE(extent);
     EXPECT_EQ(extent->right, 104.0);
     EXPECT_EQ(extent->bottom, 192.0);
@@ -262,7 +262,7 @@ TEST_F(PropertyPanel, ChangesTheExtentOfAMap) {
     Type("extent", "90", "right");
     EXPECT_THAT(LastFailure(), HasSubstr("extent: must have its left below its right"));
     In<QCheckBox>("extent")->click();
-    EXPECT_FALSE(std::get<std::optional<host::MapExtent>>(Value(map, "extent")));
+    EXPECT_FALSE(std::get<std::optional<host::Box>>(Value(map, "extent")));
 }
 
 TEST_F(PropertyPanel, RefusesWhatIsOutOfRangeOrNoValue) {
@@ -331,7 +331,7 @@ TEST_F(PropertyPanel, TakesPathsAndExtentsAsFarAsTheyAreTyped) {
     Begin("extent", "40", "top");
     Command("copy");
     EXPECT_EQ(LastFailure(), "");
-    const auto extent = std::get<std::optional<host::MapExtent>>(Value(map, "extent"));
+    const auto extent = std::get<std::optional<host::Box>>(Value(map, "extent"));
     ASSERT_TRUE(extent);
     EXPECT_EQ(extent->top, 40.0);
 

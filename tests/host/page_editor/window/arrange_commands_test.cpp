@@ -11,7 +11,7 @@ namespace {
 
 using editor_tests::EditorTest;
 using editor_tests::ExpectBox;
-using page_editor::Edges;
+using host::Box;
 using ::testing::ElementsAre;
 
 class ArrangeCommands : public EditorTest {
@@ -104,12 +104,12 @@ TEST_F(ArrangeCommands, SelectAllAndDelete) {
 TEST_F(ArrangeCommands, CutCopyAndPaste) {
     const std::size_t count = document.Count();
     document.Select({0});
-    const Edges box = BoxOf(0);
+    const host::Box box = BoxOf(0);
     Command("copy");
     page_editor::EditorWindow other;
     other.findChild<QAction*>("paste")->trigger();
     ASSERT_EQ(other.Document().Count(), 1u);
-    EXPECT_EQ(page_editor::EdgesOf(other.Document().Extent(0)).left, box.left + 16.0);
+    EXPECT_EQ(host::BoxOf(other.Document().Extent(0)).left, box.left + 16.0);
 
     Command("cut");
     EXPECT_EQ(document.Count(), count - 1);

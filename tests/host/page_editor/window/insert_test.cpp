@@ -8,7 +8,7 @@
 namespace {
 
 using editor_tests::EditorTest;
-using page_editor::Edges;
+using host::Box;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 
@@ -29,7 +29,7 @@ protected:
     }
 
     void ExpectInTheMiddle(std::size_t item) {
-        const Edges box = BoxOf(item);
+        const host::Box box = BoxOf(item);
         EXPECT_GT(box.Width(), 10.0);
         EXPECT_GT(box.Height(), 10.0);
         EXPECT_NEAR(box.MiddleX(), document.Page().Width() / 2.0, 0.1);

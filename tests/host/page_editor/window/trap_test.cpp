@@ -124,7 +124,7 @@ TEST_F(TrapFiles, AreHatchedWhereReadingThemCrashes) {
     EXPECT_EQ(LastFailure(), std::string("reading the rasters failed: ") + kAborted);
     ASSERT_EQ(document.Count(), 2u);
     ASSERT_FALSE(canvas.Image().isNull());
-    const page_editor::Edges box = BoxOf(1);
+    const host::Box box = BoxOf(1);
     const CPoint2D middle(box.MiddleX(), box.MiddleY());
     // Stripes of eight pixels along the other diagonal, in two light greys.
     const QRgb one = PixelAt(middle);

@@ -1,0 +1,88 @@
+#include "page/layout/layout.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "page/layout/steps.h"
+
+namespace host {
+namespace {
+
+/// The map and the panel next to it.
+struct Body {
+    Box map;
+    Box panel;
+};
+
+/// The panel to the right of the map and as high, both together in the middle.
+Body PanelBeside(const Box& room, double aspectRatio, const Measures& measures) {
+    Box left = room;
+    left.right -= measures.gap + measures.panel;
+    Body body;
+    body.map = FitMap(left, aspectRatio);
+    body.panel = {body.map.right + measures.gap, body.map.bottom,
+                  body.map.right + measures.gap + measures.panel, body.map.top};
+    return body;
+}
+
+/// The map on top, the panel as wide below it, down to the end of the room.
+Body PanelBelow(const Box& room, double aspectRatio, const Measures& measures) {
+    Box above = room;
+    above.bottom += measures.gap + measures.panel;
+    Body body;
+    body.map = FitMap(above, aspectRatio);
+    const double rise = room.top - body.map.top;
+    body.map.bottom += rise;
+    body.map.top += rise;
+    body.panel = {body.map.left, room.bottom, body.map.right,
+                  body.map.bottom - measures.gap};
+    return body;
+}
+
+/// The panel goes where it leaves the larger map.
+Body Divide(const PageDesign& design, const MapOnPage& map, const Box& room,
+            const Measures& measures) {
+    const double aspectRatio = map.aspectRatio;
+    if (!HasPanel(design, map)) {
+        return {FitMap(room, aspectRatio), {}};
+    }
+    const Body beside = PanelBeside(room, aspectRatio, measures);
+    const Body below = PanelBelow(room, aspectRatio, measures);
+    return beside.map.Height() >= below.map.Height() ? beside : below;
+}
+
+/// A panel with a picture only may be narrower than one with texts.
+Measures MeasuresFor(const PageDesign& design, const MapOnPage& map) {
+    Measures measures(design.paper);
+    if (HasPanelTexts(design, map)) {
+        measures.panel = measures.textPanel;
+    }
+    return measures;
+}
+
+void AddUnlessEmpty(Page& page, std::unique_ptr<CSurroundFrame> frame) {
+    if (frame != nullptr) {
+        page.Add(std::move(frame));
+    }
+}
+
+}  // namespace
+
+LaidOutPage LayOut(const PageDesign& design, const MapOnPage& map) {
+    LaidOutPage result{Page(design.paper.width, design.paper.height), {}};
+    const Measures measures = MeasuresFor(design, map);
+    Box room =
+        Inset({0.0, 0.0, design.paper.width, design.paper.height}, measures.margin);
+
+    std::unique_ptr<CSurroundFrame> title =
+        PlaceTitle(design, measures, room, result.remarks);
+    const Body body = Divide(design, map, room, measures);
+
+    result.page.Add(PlaceNeatLine(design.paper, measures));
+    result.page.Add(PlaceMap(body.map, map.picture, measures));
+    AddUnlessEmpty(result.page, std::move(title));
+    FillPanel(result.page, design, map, body.map, measures, body.panel, result.remarks);
+    return result;
+}
+
+}  // namespace host

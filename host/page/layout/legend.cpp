@@ -1,0 +1,57 @@
+#include <algorithm>
+#include <cmath>
+
+#include "map_surround/legend.h"
+#include "page/layout/steps.h"
+
+namespace host {
+namespace {
+
+std::unique_ptr<CMapLegend> MakeLegend(const LegendDesign& design, const MapOnPage& map,
+                                       const Measures& measures) {
+    auto legend = std::make_unique<CMapLegend>();
+    legend->SetDataSouce(map.sources);
+    legend->SetTitleValue(design.title);
+    legend->SetTitle(design.family);
+    legend->SetFileName(design.family);
+    legend->SetTitleSize(static_cast<float>(0.95 * measures.module));
+    legend->SetFileNameSize(static_cast<float>(0.7 * measures.module));
+    legend->ResetAspectRatio();
+    return legend;
+}
+
+/// Makes the legend as small as it must be for its ink, and space around it, to fit.
+InkBox Fit(CMapLegend& legend, double width, double height) {
+    InkBox ink = MeasureInk(legend);
+    // Text does not shrink quite as evenly as the layout: so look again.
+    for (int i = 0; i < 4 && (ink.Width() > width || ink.Height() > height); ++i) {
+        const double factor = std::min(width / ink.Width(), height / ink.Height());
+        const int size = std::max(1, static_cast<int>(legend.GetSize() * factor));
+        legend.SetSize(std::min(size, legend.GetSize() - 1));
+        ink = MeasureInk(legend);
+    }
+    return ink;
+}
+
+}  // namespace
+
+std::unique_ptr<PlacedFrame> PlaceLegend(const PageDesign& design, const MapOnPage& map,
+                                         const Measures& measures, const Box& room) {
+    if (!design.legend.shown || map.sources.empty()) {
+        return nullptr;
+    }
+    auto legend = MakeLegend(design.legend, map, measures);
+    const double space = 1.2 * measures.module;
+    if (room.Width() <= space || room.Height() <= space) {
+        return nullptr;
+    }
+    const InkBox ink = Fit(*legend, room.Width() - space, room.Height() - space);
+    if (ink.IsEmpty()) {
+        return nullptr;
+    }
+    auto frame = FrameInk(std::move(legend), ink, room, At::Top, design.frames, measures);
+    frame->SetName("legend");
+    return frame;
+}
+
+}  // namespace host

@@ -1,0 +1,101 @@
+#include <algorithm>
+#include <utility>
+
+#include "page/layout/steps.h"
+
+namespace host {
+namespace {
+
+void Add(Page& page, std::unique_ptr<PlacedFrame> frame) {
+    if (frame != nullptr) {
+        page.Add(std::move(frame));
+    }
+}
+
+double TopOf(const PlacedFrame* frame, double otherwise) {
+    return frame == nullptr ? otherwise : frame->GetExtent().TopLeft().y;
+}
+
+/// From the bottom: north arrow and picture side by side, the scale bar, the legend.
+void FillHigh(Page& page, const PageDesign& design, const MapOnPage& map,
+              const Box& mapRoom, const Measures& measures, const Box& panel,
+              std::vector<std::string>& remarks) {
+    const double half = (panel.Width() - measures.gap) / 2.0;
+    const Box left = {panel.left, panel.bottom, panel.left + half, panel.top};
+    const Box right = {panel.right - half, panel.bottom, panel.right, panel.top};
+    auto picture =
+        PlacePicture(design, measures, HasPanelTexts(design, map) ? right : panel);
+    auto arrow = PlaceNorthArrow(design, map, measures, left, remarks);
+
+    Box rest = panel;
+    const double rowTop =
+        std::max(TopOf(picture.get(), panel.bottom), TopOf(arrow.get(), panel.bottom));
+    if (picture != nullptr || arrow != nullptr) {
+        rest.bottom = rowTop + measures.gap;
+    }
+    auto bar = PlaceScaleBar(design, map, mapRoom, measures, rest, remarks);
+    if (bar != nullptr) {
+        rest.bottom = TopOf(bar.get(), rest.bottom) + measures.gap;
+    }
+    Add(page, PlaceLegend(design, map, measures, rest));
+    Add(page, std::move(bar));
+    Add(page, std::move(arrow));
+    Add(page, std::move(picture));
+}
+
+/// The legend at the left, the picture at the right, north arrow over scale bar between.
+void FillWide(Page& page, const PageDesign& design, const MapOnPage& map,
+              const Box& mapRoom, const Measures& measures, const Box& panel,
+              std::vector<std::string>& remarks) {
+    Box rest = panel;
+    auto picture = PlacePicture(design, measures, panel);
+    if (picture != nullptr) {
+        rest.right = picture->GetExtent().TopLeft().x - measures.gap;
+    }
+    Box legendRoom = rest;
+    legendRoom.right = rest.left + rest.Width() / 2.0;
+    auto legend = PlaceLegend(design, map, measures, legendRoom);
+    if (legend != nullptr) {
+        const CBoundingBox extent = legend->GetExtent();
+        rest.left = extent.TopLeft().x + extent.GetWidth() + measures.gap;
+    }
+    rest.right = std::min(rest.right, rest.left + 1.5 * measures.panel);
+    auto bar = PlaceScaleBar(design, map, mapRoom, measures, rest, remarks);
+    if (bar != nullptr) {
+        rest.bottom = TopOf(bar.get(), rest.bottom) + measures.gap;
+    }
+    Add(page, std::move(legend));
+    Add(page, PlaceNorthArrow(design, map, measures, rest, remarks));
+    Add(page, std::move(bar));
+    Add(page, std::move(picture));
+}
+
+}  // namespace
+
+bool HasPanelTexts(const PageDesign& design, const MapOnPage& map) {
+    const bool hasLegend = design.legend.shown && !map.sources.empty();
+    const bool hasBar =
+        map.extent &&
+        design.scaleBar.style.value_or(ScaleBarStyle::Alternating) != ScaleBarStyle::None;
+    const NorthArrowStyle byDefault =
+        map.extent ? NorthArrowStyle::EightAngle : NorthArrowStyle::None;
+    const bool hasArrow =
+        design.northArrow.style.value_or(byDefault) != NorthArrowStyle::None;
+    return hasLegend || hasBar || hasArrow;
+}
+
+bool HasPanel(const PageDesign& design, const MapOnPage& map) {
+    return !design.picture.path.empty() || HasPanelTexts(design, map);
+}
+
+void FillPanel(Page& page, const PageDesign& design, const MapOnPage& map,
+               const Box& mapRoom, const Measures& measures, const Box& panel,
+               std::vector<std::string>& remarks) {
+    if (!HasPanel(design, map)) {
+        return;
+    }
+    const bool isHigh = panel.Height() >= panel.Width();
+    (isHigh ? FillHigh : FillWide)(page, design, map, mapRoom, measures, panel, remarks);
+}
+
+}  // namespace host

@@ -1,0 +1,80 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "page/box.h"
+#include "page/map/map_picture.h"
+#include "raster_data/gdal_raster.h"
+
+namespace host {
+
+/// A raster that is not on the map, and why.
+struct LeftOutRaster {
+    std::shared_ptr<GdalRaster> raster;
+    std::string why;
+};
+
+/// A map of rasters that lie on each other as in a list of layers: the first on top.
+///
+/// The first raster is always on the map and sets its coordinate system. The others are
+/// placed by their own georeference; one that cannot be (no georeference, a turned one,
+/// or another coordinate system) is left out. The map spans all that are placed, north
+/// up, east to the right; what would stand out from the first by no more than a hundredth
+/// of it is cut off, for grids of one area seldom end on the same line. A raster without
+/// georeference, and a turned one, is shown as it is stored, and alone.
+class MapLayers : public MapPicture {
+public:
+    /// @param rasters at least one, none null
+    /// @param extent the part of the map to show; all of it when there is none, and when
+    /// the map is shown as it is stored. What of it no raster covers stays empty.
+    explicit MapLayers(std::vector<std::shared_ptr<GdalRaster>> rasters,
+                       const std::optional<Box>& extent = std::nullopt);
+
+    PixelImage Render(int width, int height, const Progress& progress) override;
+
+    /// The same map of its files opened anew. Throws std::runtime_error that names the
+    /// file and the reason when one cannot be.
+    std::unique_ptr<MapLayers> Reopened() const;
+
+    /// What the map spans: pixels and lines for a raster without georeference.
+    const Box& Extent() const { return m_extent; }
+
+    /// The coordinate system as WKT; empty when the map is shown as it is stored.
+    const std::string& Projection() const { return m_projection; }
+
+    /// Whether the extent is in map coordinates.
+    bool IsPlaced() const { return m_isPlaced; }
+
+    /// Width divided by height.
+    double AspectRatio() const { return m_extent.Width() / m_extent.Height(); }
+
+    const std::vector<LeftOutRaster>& LeftOut() const { return m_leftOut; }
+
+private:
+    struct Layer {
+        std::shared_ptr<GdalRaster> raster;
+        Box extent;
+        bool mirrored = false;    // stored from east to west
+        bool upsideDown = false;  // stored from south to north
+    };
+
+    static Layer AsStored(std::shared_ptr<GdalRaster> raster);
+    static Layer Placed(std::shared_ptr<GdalRaster> raster);
+    void CutTo(const Box& extent);
+    bool Fills(const Box& extent) const;
+    static PixelImage RenderLayer(const Layer& layer, int width, int height,
+                                  const Progress& progress);
+
+    std::vector<std::string> m_paths;
+    std::optional<Box> m_asked;
+    std::vector<Layer> m_layers;  // the first on top
+    std::vector<LeftOutRaster> m_leftOut;
+    Box m_extent;
+    bool m_isPlaced = false;
+    std::string m_projection;
+};
+
+}  // namespace host

@@ -1,0 +1,219 @@
+#include "page_editor/editing/new_item.h"
+
+#include <algorithm>
+#include <memory>
+#include <optional>
+#include <string_view>
+#include <utility>
+
+#include "map_surround/map_surround.h"
+#include "page/document/map_on_page.h"
+#include "page/layout/steps.h"
+#include "page_editor/editing/arrange.h"
+#include "page_editor/editing/page_document.h"
+#include "page_editor/editing/separate_reading.h"
+#include "system/utf8.h"
+
+namespace page_editor {
+namespace {
+
+using Frame = std::unique_ptr<CSurroundFrame>;
+
+struct ScaleBarName {
+    std::string_view name;
+    host::ScaleBarStyle style;
+};
+
+constexpr ScaleBarName kScaleBars[] = {
+    {"scale-bar-line", host::ScaleBarStyle::Line},
+    {"scale-bar-stepped", host::ScaleBarStyle::Stepped},
+    {"scale-bar-line2", host::ScaleBarStyle::Line2},
+    {"scale-bar-line3", host::ScaleBarStyle::Line3},
+    {"scale-bar-alternating", host::ScaleBarStyle::Alternating},
+    {"scale-bar-equal-alternating", host::ScaleBarStyle::EqualAlternating},
+};
+
+struct NorthArrowName {
+    std::string_view name;
+    host::NorthArrowStyle style;
+};
+
+constexpr NorthArrowName kNorthArrows[] = {
+    {"north-arrow-one", host::NorthArrowStyle::OneAngle},
+    {"north-arrow-two", host::NorthArrowStyle::TwoAngle},
+    {"north-arrow-four", host::NorthArrowStyle::FourAngle},
+    {"north-arrow-eight", host::NorthArrowStyle::EightAngle},
+};
+
+template <class Name, std::size_t Count>
+auto StyleOf(const Name (&names)[Count], std::string_view name) {
+    const auto* const found =
+        std::find_if(std::begin(names), std::end(names),
+                     [&](const Name& known) { return known.name == name; });
+    return found == std::end(names) ? std::nullopt : std::optional(found->style);
+}
+
+/// The first map of a page and what is said of it.
+struct PlacedMap {
+    host::MapOnPage map;
+    host::Box room;
+    std::vector<std::string> paths;
+};
+
+PlacedMap FirstMap(const host::Page& page, host::RasterStore& rasters) {
+    for (const host::PageItem& item : page.Items()) {
+        if (const auto layers = host::LayersOf(item)) {
+            const auto& map = std::get<host::MapFrame>(item);
+            const host::Box box = host::BoxOf(map.frame.GetExtent());
+            return {host::DescribeMap(layers, map.rasterPaths, rasters),
+                    {box.left, box.bottom, box.right, box.top},
+                    map.rasterPaths};
+        }
+    }
+    return {};
+}
+
+/// How an item of a type is laid out on this sheet.
+class Placing {
+public:
+    Placing(const host::Page& page, host::RasterStore& rasters)
+        : m_map(FirstMap(page, rasters)),
+          m_measures({page.Width(), page.Height()}),
+          m_room{page.Width() / 3.0, page.Height() / 3.0, page.Width() * 2.0 / 3.0,
+                 page.Height() * 2.0 / 3.0} {
+        m_design.paper = {page.Width(), page.Height()};
+    }
+
+    std::unique_ptr<CSurroundFrame> ScaleBar(host::ScaleBarStyle style) {
+        m_design.scaleBar.style = style;
+        return host::PlaceScaleBar(m_design, m_map.map, m_map.room, m_measures, m_room,
+                                   m_remarks);
+    }
+
+    std::unique_ptr<CSurroundFrame> NorthArrow(host::NorthArrowStyle style) {
+        m_design.northArrow.style = style;
+        const double side = m_measures.panel;
+        return host::PlaceNorthArrow(m_design, m_map.map, m_measures, {0, 0, side, side},
+                                     m_remarks);
+    }
+
+    std::unique_ptr<CSurroundFrame> Legend() {
+        auto frame = host::PlaceLegend(m_design, m_map.map, m_measures, m_room);
+        if (frame != nullptr) {
+            frame->SetRasterPaths(m_map.paths);
+        }
+        return frame;
+    }
+
+    std::unique_ptr<CSurroundFrame> Title() {
+        m_design.title.text = L"Title";
+        host::Box room = {0.0, 0.0, m_design.paper.width, m_design.paper.height};
+        return host::PlaceTitle(m_design, m_measures, room, m_remarks);
+    }
+
+    std::unique_ptr<CSurroundFrame> Picture(const std::string& path) {
+        host::Widen(path, m_design.picture.path);
+        return host::PlacePicture(m_design, m_measures, m_room);
+    }
+
+    /// A frame around an element whatever it is; empty ones are as large as the room.
+    std::unique_ptr<CSurroundFrame> Any(const host::ItemType& type) {
+        Frame frame = std::get<Frame>(type.make());
+        frame->DrawBorder = true;
+        if (frame->GetMapSurround() == nullptr) {
+            frame->SetExtent(BoundingBoxOf(m_room));
+            return frame;
+        }
+        if (auto* const legend = dynamic_cast<CMapLegend*>(frame->GetMapSurround())) {
+            Name(*legend);
+        }
+        auto& placed = static_cast<host::PlacedFrame&>(*frame);
+        placed.SetDivisionLength(m_room.Width() / 5.0);
+        placed.SetDivisionValue(1.0);
+        frame->GetMapSurround()->ResetAspectRatio();
+        const host::InkBox ink = host::MeasureInk(*frame);
+        const double rim = m_measures.module;
+        frame->SetExtent({0.0, 0.0, ink.Width() + rim, ink.Height() + rim});
+        placed.SetElementOffset((ink.left - ink.right) / 2.0, (ink.down - ink.up) / 2.0);
+        return frame;
+    }
+
+    /// A map as large as two thirds of the sheet let it be.
+    host::PageItem Map(const std::vector<std::string>& paths, host::RasterStore& rasters,
+                       const host::Progress& reading) const {
+        TryRasters(paths, rasters, reading);
+        const auto layers = rasters.Map(paths, std::nullopt);
+        const host::Box room =
+            host::Inset({0.0, 0.0, m_design.paper.width, m_design.paper.height},
+                        m_design.paper.height / 6.0);
+        host::MapFrame map =
+            host::PlaceMap(host::FitMap(room, layers->AspectRatio()), layers, m_measures);
+        map.rasterPaths = paths;
+        return map;
+    }
+
+private:
+    /// A legend of nothing shows its title, so that one sees it.
+    void Name(CMapLegend& legend) const {
+        legend.SetTitleValue(m_design.legend.title);
+        legend.SetTitle(m_design.legend.family);
+        legend.SetFileName(m_design.legend.family);
+    }
+
+    PlacedMap m_map;
+    host::PageDesign m_design;
+    host::Measures m_measures;
+    host::Box m_room;
+    std::vector<std::string> m_remarks;
+};
+
+Frame Framed(const host::ItemType& type, Placing& placing,
+             const std::vector<std::string>& files) {
+    const std::string_view name = type.name;
+    if (const auto style = StyleOf(kScaleBars, name)) {
+        return placing.ScaleBar(*style);
+    }
+    if (const auto style = StyleOf(kNorthArrows, name)) {
+        return placing.NorthArrow(*style);
+    }
+    if (name == "legend") {
+        return placing.Legend();
+    }
+    if (name == "title") {
+        return placing.Title();
+    }
+    return name == "picture" && !files.empty() ? placing.Picture(files.front()) : nullptr;
+}
+
+void Centre(CFrameBase& frame, const host::Page& page) {
+    const host::Box box = host::BoxOf(frame.GetExtent());
+    frame.SetOffset(page.Width() / 2.0 - box.MiddleX(),
+                    page.Height() / 2.0 - box.MiddleY());
+}
+
+}  // namespace
+
+host::PageItem NewItem(const host::ItemType& type, const host::Page& page,
+                       host::RasterStore& rasters, const std::vector<std::string>& files,
+                       const host::Progress& reading) {
+    Placing placing(page, rasters);
+    const std::string_view name = type.name;
+    if (name == "map" && !files.empty()) {
+        return placing.Map(files, rasters, reading);
+    }
+    if (name == "picture" && !files.empty()) {
+        TryImage(files.front(), reading);
+        const std::string why = host::CheckImageFile(files.front());
+        if (!why.empty()) {
+            throw host::PageError("", why);
+        }
+    }
+    Frame frame = Framed(type, placing, files);
+    if (frame == nullptr) {
+        frame = placing.Any(type);
+    }
+    Centre(*frame, page);
+    return frame;
+}
+
+}  // namespace page_editor

@@ -1,0 +1,114 @@
+#pragma once
+
+#include <QObject>
+#include <cstddef>
+#include <functional>
+#include <memory>
+#include <string>
+#include <utility>
+
+#include "page/document/raster_store.h"
+#include "page/page.h"
+#include "page_editor/editing/history.h"
+
+namespace page_editor {
+
+/// A page that is being edited: the items, what of them is selected, and every state that
+/// it went through, without anything of a screen.
+///
+/// A command changes items and ends in Commit, or is given up with Revert; ChangeItems
+/// does both. What cannot be stored in a page file, or names what cannot be opened,
+/// leaves the page as it was and ends in host::PageError.
+class PageDocument : public QObject {
+    Q_OBJECT
+public:
+    /// An empty A4 sheet.
+    PageDocument();
+
+    const host::Page& Page() const { return m_page; }
+    std::size_t Count() const { return m_page.Items().size(); }
+    /// For changes that Commit ends; also for HitTest, which keeps the handle it found.
+    host::PageItem& Item(std::size_t index) { return m_page.Items()[index]; }
+    CFrameBase& Frame(std::size_t index) { return host::FrameOf(Item(index)); }
+    CBoundingBox Extent(std::size_t index) const;
+    host::RasterStore& Rasters() { return *m_rasters; }
+
+    /// Files are read in processes of their own, and a disk or a decoder may be slow.
+    /// @param watch told how far one has come that takes long, a few times a second, and
+    /// 1 in the end; answers whether to wait for it
+    void WatchReading(host::Progress watch) { m_watch = std::move(watch); }
+    /// Tells whoever watches; what reads files for the page is given it.
+    host::Progress Reading() {
+        return [this](double part) { return !m_watch || m_watch(part); };
+    }
+
+    /// Another page, whose rasters are open from the store; it counts as saved.
+    void Replace(host::Page page, std::unique_ptr<host::RasterStore> rasters);
+
+    /// What is selected; the last command's items after it.
+    const Indices& Selection() const { return m_history.Current().selection; }
+    void Select(Indices selection);
+    /// The next command is undone by itself, even when it is like the last.
+    void EndMerging() { m_history.EndMerging(); }
+
+    /// One command: changes items, opens what they name, and commits.
+    /// @param merge see History::Push
+    void ChangeItems(const Indices& items, const std::string& label,
+                     const std::function<void(host::PageItem&)>& change,
+                     const std::string& merge = {});
+    /// Makes what was changed a command; none when nothing was. Scale bars and arrows
+    /// that are of the map then follow it (see host::FitToMap).
+    void Commit(const std::string& label, const std::string& merge = {});
+    /// Makes items again what they were after the last command.
+    void Revert(const Indices& items);
+
+    /// Puts an item on top and selects it.
+    void Insert(host::PageItem item, const std::string& label);
+    /// Takes the selected items off the page.
+    void RemoveSelected();
+    /// Puts copies of the selected items on top, a little off, and selects those.
+    void DuplicateSelected();
+    /// The selected items as text, a line each; empty for none.
+    std::string TextOfSelected() const;
+    /// Puts the items of such a text on top, a little off where they stood, and selects
+    /// them. Throws host::PageError, and changes nothing, for any other text.
+    void Paste(const std::string& text);
+    /// @param order the item that will stand at each place
+    void Rearrange(const Indices& order);
+    void SetSheet(double width, double height);
+
+    bool CanUndo() const { return m_history.CanUndo(); }
+    bool CanRedo() const { return m_history.CanRedo(); }
+    std::string UndoLabel() const { return m_history.UndoLabel(); }
+    std::string RedoLabel() const { return m_history.RedoLabel(); }
+    void Undo();
+    void Redo();
+
+    bool IsModified() const { return !m_history.IsSaved(); }
+    void MarkSaved();
+
+Q_SIGNALS:
+    /// Items were changed, but for their number and order.
+    void ItemsChanged(const page_editor::Indices& items);
+    /// Items were added, removed or put in another order, or the sheet has another size.
+    void PageRearranged();
+    /// It is another page.
+    void PageReplaced();
+    void SelectionChanged();
+    /// What can be undone, and whether the page is saved, may be different now.
+    void HistoryChanged();
+
+private:
+    host::PageItem Read(const std::string& text);
+    void Show(const PageState& state);
+    void Announce(const PageState& before);
+    void Do(PageState state, const std::string& label);
+    void Append(const std::vector<host::PageItem>& items, const std::string& label);
+
+    std::unique_ptr<host::RasterStore> m_rasters;
+    host::Progress m_watch;
+    host::Page m_page;
+    History m_history;
+};
+
+}  // namespace page_editor

@@ -1,0 +1,50 @@
+#include "page_editor/editing/page_export.h"
+
+#include <stdexcept>
+
+#include "page/document/page_text.h"
+#include "page/document/raster_store.h"
+#include "page/output/page_output.h"
+#include "page_editor/editing/page_files.h"
+#include "system/output_file.h"
+#include "system/separate_process.h"
+
+namespace page_editor {
+
+namespace {
+
+/// The same page with its files opened anew.
+host::Page Reopened(const host::Page& page, host::RasterStore& rasters) {
+    host::Page copy(page.Width(), page.Height());
+    for (const host::PageItem& item : page.Items()) {
+        copy.Items().push_back(host::ReadItem(host::WriteItem(item)));
+        host::OpenRasters(copy.Items().back(), rasters);
+    }
+    return copy;
+}
+
+}  // namespace
+
+void ExportPage(const host::Page& page, const std::string& path, double dpi,
+                const host::Progress& progress) {
+    Naming(path, [&] {
+        host::CheckPageOutput(path);
+        const std::string tooLarge = host::WhyTooLarge(page, dpi);
+        if (!tooLarge.empty()) {
+            throw std::runtime_error(tooLarge);
+        }
+        host::OutputFile file(path);
+        host::InSeparateProcess(
+            "drawing",
+            [&](const host::Progress& tell) {
+                host::RasterStore rasters;
+                const host::Page copy = Reopened(page, rasters);
+                file.Write(host::EncodePage(copy, path, dpi, tell));
+                return std::string();
+            },
+            progress);
+        file.Commit();
+    });
+}
+
+}  // namespace page_editor

@@ -1,0 +1,138 @@
+#include "page_editor/editing/separate_reading.h"
+
+#include <chrono>
+#include <functional>
+#include <stdexcept>
+#include <variant>
+
+#include "page/document/item_type.h"
+#include "page/document/page_error.h"
+#include "page/document/page_text.h"
+#include "page/map/map_layers.h"
+#include "system/separate_process.h"
+
+namespace page_editor {
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+constexpr std::chrono::milliseconds kTellingInterval(200);
+
+/// Tells on only what takes long, and when it is over.
+class Telling {
+public:
+    explicit Telling(const host::Progress& progress) : m_progress(progress) {}
+    Telling(const Telling&) = delete;
+    Telling& operator=(const Telling&) = delete;
+    ~Telling() {
+        if (m_isTold) {
+            m_progress(1.0);
+        }
+    }
+
+    bool operator()(double part) {
+        const Clock::time_point now = Clock::now();
+        if (!m_progress || now - m_last < kTellingInterval) {
+            return true;
+        }
+        m_last = now;
+        m_isTold = true;
+        return m_progress(part);
+    }
+
+private:
+    const host::Progress& m_progress;
+    Clock::time_point m_last = Clock::now();
+    bool m_isTold = false;
+};
+
+/// Only how the process ends matters: what else is wrong is told when the file is read
+/// here.
+template <typename Reading>
+void Try(const std::string& path, const host::Progress& progress, Reading read) {
+    Telling telling(progress);
+    try {
+        host::InSeparateProcess(
+            "reading",
+            [&](const host::Progress&) {
+                read();
+                return std::string();
+            },
+            std::ref(telling));
+    } catch (const host::WorkFailed&) {
+        return;
+    } catch (const std::runtime_error& error) {
+        throw host::PageError(path, error.what());
+    }
+}
+
+void ReadRaster(const std::string& path) {
+    std::string why;
+    const auto raster = host::GdalRaster::Open(path, why);
+    if (raster == nullptr) {
+        return;
+    }
+    raster->GetClassifyDisplayTable();
+    if (raster->GetDisplayType() == DisplayGray) {
+        double low = 0.0;
+        double high = 0.0;
+        raster->GetRasterBand(0)->ComputeMinMax(&low, &high, true);
+    }
+}
+
+}  // namespace
+
+host::PixelImage RenderSeparately(host::MapPicture& picture, int width, int height,
+                                  const host::Progress& progress) {
+    Telling telling(progress);
+    const auto* const layers = dynamic_cast<const host::MapLayers*>(&picture);
+    if (layers == nullptr) {
+        return picture.Render(width, height, std::ref(telling));
+    }
+    const std::string bytes = host::InSeparateProcess(
+        "reading the rasters",
+        [&](const host::Progress& tell) {
+            const host::PixelImage image =
+                layers->Reopened()->Render(width, height, tell);
+            return std::string(image.bgra.begin(), image.bgra.end());
+        },
+        std::ref(telling));
+    return {width, height, {bytes.begin(), bytes.end()}};
+}
+
+void TryRasters(const std::vector<std::string>& paths, const host::RasterStore& rasters,
+                const host::Progress& progress) {
+    for (const std::string& path : paths) {
+        if (!rasters.Has(path)) {
+            Try(path, progress, [&] { ReadRaster(path); });
+        }
+    }
+}
+
+void TryRastersOf(const std::vector<host::PageItem>& items,
+                  const host::RasterStore& rasters, const host::Progress& progress) {
+    for (const host::PageItem& item : items) {
+        const host::ItemType* const type = host::TypeOf(item);
+        for (const host::Property& property :
+             type == nullptr ? std::vector<host::Property>() : type->properties) {
+            if (property.kind == host::PropertyKind::Rasters) {
+                TryRasters(std::get<std::vector<std::string>>(property.read(item)),
+                           rasters, progress);
+            }
+        }
+    }
+}
+
+void TryImage(const std::string& path, const host::Progress& progress) {
+    Try(path, progress, [&] { host::CheckImageFile(path); });
+}
+
+void TryPageFile(const std::string& path, const host::Progress& progress) {
+    Try("", progress, [&] { host::CheckFilesAndFonts(host::LoadPage(path)); });
+}
+
+void TryItems(const std::string& lines, const host::Progress& progress) {
+    Try("", progress, [&] { host::ReadItems(lines); });
+}
+
+}  // namespace page_editor

@@ -1,0 +1,198 @@
+#include "system/separate_process.h"
+
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/prctl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <array>
+#include <cerrno>
+#include <cmath>
+#include <csignal>
+#include <cstddef>
+#include <cstring>
+#include <exception>
+#include <system_error>
+#include <utility>
+
+#include "system/error_line.h"
+
+namespace host {
+namespace {
+
+// The first byte of what is sent. A process that ends without a report has crashed,
+// whatever status it ended with: some decoders call exit.
+constexpr char kDone = '+';
+constexpr char kFailed = '-';
+constexpr char kPart = '%';  // and the part as a double; a report may follow
+
+constexpr double kSmallestStep = 1.0 / 256.0;  // of progress that is worth telling
+constexpr int kPatience = 100;                 // milliseconds between two looks
+
+std::string PartMessage(double part) {
+    std::string message(1 + sizeof(part), kPart);
+    std::memcpy(&message[1], &part, sizeof(part));
+    return message;
+}
+
+void WriteAll(int descriptor, const std::string& text) {
+    std::size_t done = 0;
+    while (done < text.size()) {
+        const ssize_t count = write(descriptor, text.data() + done, text.size() - done);
+        if (count < 0 && errno != EINTR) {
+            return;
+        }
+        done += count > 0 ? static_cast<std::size_t>(count) : 0;
+    }
+}
+
+std::string Report(int descriptor, const SeparateWork& work) {
+    double told = 0.0;
+    const Progress tell = [descriptor, &told](double part) {
+        if (std::fabs(part - told) >= kSmallestStep) {  // each map begins anew
+            told = part;
+            WriteAll(descriptor, PartMessage(part));
+        }
+        return true;
+    };
+    try {
+        return kDone + work(tell);
+    } catch (const std::exception& error) {
+        return kFailed + LineFor(error);
+    }
+}
+
+[[noreturn]] void BeTheSeparateProcess(pid_t parent, int descriptor,
+                                       const SeparateWork& work) {
+    prctl(PR_SET_PDEATHSIG, SIGTERM);
+    if (getppid() != parent) {
+        std::raise(SIGTERM);
+    }
+    WriteAll(descriptor, Report(descriptor, work));
+    _exit(0);  // what the libraries tidy up at the end takes longer than the fork
+}
+
+/// The separate process as seen from here.
+class Worker {
+public:
+    Worker(std::string what, pid_t process, int descriptor)
+        : m_what(std::move(what)), m_process(process), m_descriptor(descriptor) {}
+    Worker(const Worker&) = delete;
+    Worker& operator=(const Worker&) = delete;
+    ~Worker() {
+        close(m_descriptor);
+        if (m_process > 0) {
+            kill(m_process, SIGKILL);
+            Wait();
+        }
+    }
+
+    std::string Result(const Progress& progress) {
+        std::string sent;
+        double part = 0.0;
+        for (bool isOpen = true; isOpen;) {
+            if (progress && !HasMore()) {
+                Tell(progress, part);
+                continue;
+            }
+            isOpen = Receive(sent);
+            if (TakeParts(sent, part) && progress) {
+                Tell(progress, part);
+            }
+        }
+        CheckEnd(Wait(), sent);
+        return sent.substr(1);
+    }
+
+private:
+    /// Whether reading would not wait.
+    bool HasMore() const {
+        pollfd descriptor = {m_descriptor, POLLIN, 0};
+        return poll(&descriptor, 1, kPatience) > 0;
+    }
+
+    /// @return false at the end
+    bool Receive(std::string& sent) const {
+        std::array<char, 65536> part{};
+        const ssize_t count = read(m_descriptor, part.data(), part.size());
+        sent.append(part.data(), count > 0 ? static_cast<std::size_t>(count) : 0);
+        return count > 0 || (count < 0 && errno == EINTR);
+    }
+
+    void Tell(const Progress& progress, double part) const {
+        if (!progress(part)) {
+            throw std::runtime_error(m_what + " was stopped");
+        }
+    }
+
+    /// Takes what was told of progress from the front, the last of which counts.
+    static bool TakeParts(std::string& sent, double& part) {
+        constexpr std::size_t kLength = 1 + sizeof(part);
+        std::size_t taken = 0;
+        while (sent.size() - taken >= kLength && sent[taken] == kPart) {
+            std::memcpy(&part, &sent[taken + 1], sizeof(part));
+            taken += kLength;
+        }
+        sent.erase(0, taken);
+        return taken > 0;
+    }
+
+    int Wait() {
+        int status = 0;
+        while (waitpid(m_process, &status, 0) < 0 && errno == EINTR) {
+        }
+        m_process = -1;
+        return status;
+    }
+
+    void CheckEnd(int status, const std::string& sent) const {
+        if (WIFSIGNALED(status)) {
+            const int signal = WTERMSIG(status);
+            throw std::runtime_error(m_what + " failed: " + strsignal(signal) +
+                                     " (signal " + std::to_string(signal) + ")");
+        }
+        const bool isReport =
+            !sent.empty() && (sent.front() == kDone || sent.front() == kFailed);
+        if (!isReport || WEXITSTATUS(status) != 0) {
+            throw std::runtime_error(m_what + " failed: ended with status " +
+                                     std::to_string(WEXITSTATUS(status)));
+        }
+        if (sent.front() == kFailed) {
+            throw WorkFailed(sent.substr(1));
+        }
+    }
+
+    std::string m_what;
+    pid_t m_process;
+    int m_descriptor;
+};
+
+}  // namespace
+
+std::string InSeparateProcess(const std::string& what, const SeparateWork& work,
+                              const Progress& progress) {
+    const auto fail = [&what](int error) {
+        throw std::runtime_error(what +
+                                 " failed: " + std::generic_category().message(error));
+    };
+    std::array<int, 2> ends{};
+    if (pipe2(ends.data(), O_CLOEXEC) != 0) {
+        fail(errno);
+    }
+    const pid_t parent = getpid();
+    const pid_t process = fork();
+    const int error = errno;
+    if (process == 0) {
+        close(ends[0]);
+        BeTheSeparateProcess(parent, ends[1], work);
+    }
+    close(ends[1]);
+    Worker worker(what, process, ends[0]);
+    if (process < 0) {
+        fail(error);
+    }
+    return worker.Result(progress);
+}
+
+}  // namespace host

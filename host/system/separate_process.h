@@ -1,0 +1,37 @@
+#pragma once
+
+#include <functional>
+#include <stdexcept>
+#include <string>
+
+#include "system/progress.h"
+
+namespace host {
+
+/// What the work of a separate process threw, as its one line.
+class WorkFailed : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+/// Bytes that a piece of work makes; it may tell how far it has come.
+using SeparateWork = std::function<std::string(const Progress&)>;
+
+/// Does the work in a process of its own, so that a decoder that crashes on what it was
+/// given takes nothing else with it. Returns what the work returns; throws WorkFailed
+/// with the work's own line when it threw, and std::runtime_error that names the signal
+/// when the process was killed.
+///
+/// That process is terminated when this one is gone, however it went. It is a copy of
+/// this one without the other threads: the work waits for none of them and takes no lock
+/// that one may hold. Files that are open here are open there with the same position: the
+/// work opens for itself what it reads.
+///
+/// @param what the work, as the message names it: "drawing" for "drawing failed: ..."
+/// @param progress told here what the work tells there, and several times a second while
+/// it tells nothing new; when it answers false, the process is ended and
+/// std::runtime_error thrown: "drawing was stopped"
+std::string InSeparateProcess(const std::string& what, const SeparateWork& work,
+                              const Progress& progress = {});
+
+}  // namespace host

@@ -1,0 +1,156 @@
+// A host that knows the library by its public headers and its shared library alone, as an
+// application does: it draws every element onto a picture and looks at the pixels.
+
+#include <gtest/gtest.h>
+
+#include <initializer_list>
+#include <memory>
+#include <string>
+
+#include "map_surround/map_surround.h"
+
+namespace {
+
+constexpr int kWidth = 300;
+constexpr int kHeight = 200;
+const Gdiplus::Color kPaper(255, 255, 255, 255);
+
+/// How many pixels differ from the paper after an element was drawn on it.
+int InkOf(CMapSurround& element) {
+    Gdiplus::Bitmap picture(kWidth, kHeight);
+    Gdiplus::Graphics graphics(&picture);
+    graphics.Clear(kPaper);
+    element.Draw(&graphics, CPoint(kWidth / 2, kHeight / 2), 1.0);
+    EXPECT_EQ(graphics.GetLastStatus(), Gdiplus::Ok);
+    int ink = 0;
+    for (int y = 0; y < kHeight; ++y) {
+        for (int x = 0; x < kWidth; ++x) {
+            Gdiplus::Color pixel;
+            picture.GetPixel(x, y, &pixel);
+            ink += pixel.GetValue() != kPaper.GetValue() ? 1 : 0;
+        }
+    }
+    return ink;
+}
+
+TEST(LibraryHost, DrawsTheTitle) {
+    CMapTitle title;
+    title.SetFontValue(L"Olinda");
+    title.SetFontStyle(L"Arial");
+    title.SetFontSize(30.0);
+    title.ResetAspectRatio();
+    EXPECT_GT(title.GetSize(), 15);
+    EXPECT_GT(InkOf(title), 200);
+}
+
+TEST(LibraryHost, DrawsAPictureFromAFile) {
+    {
+        Gdiplus::Bitmap red(30, 20);
+        Gdiplus::Graphics graphics(&red);
+        graphics.Clear(Gdiplus::Color(255, 200, 0, 0));
+        const CLSID bmp = {
+            0x557CF400, 0x1A04, 0x11D3, {0x9A, 0x73, 0x00, 0x00, 0xF8, 0x1E, 0xF3, 0x2E}};
+        ASSERT_EQ(red.Save(L"shared_library_test.bmp", &bmp, nullptr), Gdiplus::Ok);
+    }
+    CDrawPicture picture;
+    ASSERT_TRUE(picture.Open(L"shared_library_test.bmp"));
+    EXPECT_EQ(picture.GetSize(), 6);  // 20 / 3
+    picture.SetSize(40);
+    picture.ResetAspectRatio();
+    // 60 by 40 pixels; the edges may be blended.
+    EXPECT_NEAR(InkOf(picture), 60 * 40, 2 * (60 + 40) + 4);
+}
+
+TEST(LibraryHost, DrawsEveryNorthArrow) {
+    CNorthArrowOneAngle one;
+    CNorthArrowTwoAngle two;
+    CNorthArrowFourAngle four;
+    CNorthArrowEightAngle eight;
+    for (CNorthArrowBase* arrow :
+         std::initializer_list<CNorthArrowBase*>{&one, &two, &four, &eight}) {
+        EXPECT_EQ(arrow->GetItemType(), SurroundNorthArrow);
+        arrow->SetSize(150);
+        arrow->SetAngle(20.0f);
+        EXPECT_GT(InkOf(*arrow), 100) << arrow->GetNorthArrowType();
+    }
+}
+
+TEST(LibraryHost, DrawsEveryScaleBar) {
+    CScaleLine line;
+    CSteppedScaleLine stepped;
+    CScaleLine2 line2;
+    CScaleLine3 line3;
+    CScaleAlternate alternating;
+    CScaleEquAltenate equal;
+    for (CScaleBarBase* bar : std::initializer_list<CScaleBarBase*>{
+             &line, &stepped, &line2, &line3, &alternating, &equal}) {
+        bar->SetPaper2DataScale(37.0);
+        bar->SetPaper2ScreenScale(40.0);
+        bar->SetScreen2PaperByOneScale(40.0);
+        bar->SetUnitsName(L"Meter");
+        EXPECT_EQ(bar->GetUnitsName(), L"\u7C73");
+        bar->ResetAspectRatio();
+        EXPECT_GT(InkOf(*bar), 300) << bar->GetScaleBarType();
+    }
+}
+
+/// A raster source in memory, shown as three bands.
+class Source : public CRasterSource {
+public:
+    bool IsAvailable() override { return true; }
+    GISDataSourceType GetDataSourceType() override { return DataSourceRaster; }
+    std::wstring GetFileName() override { return L"scene.tif"; }
+    DataDisplayType GetDisplayType() override { return DisplayRGB; }
+    int GetRedBandNum() override { return 0; }
+    int GetGreenBandNum() override { return 1; }
+    int GetBlueBandNum() override { return 2; }
+    CRasterBand* GetRasterBand(int) override { return nullptr; }
+    CClassifyDisplayTable* GetClassifyDisplayTable() override { return nullptr; }
+};
+
+TEST(LibraryHost, DrawsTheLegend) {
+    Source source;
+    CMapLegend legend;
+    legend.SetTitleValue(L"Legend");
+    legend.SetDataSouce({&source});
+    legend.ResetAspectRatio();
+    EXPECT_GT(legend.GetSize(), 80);
+    EXPECT_GT(InkOf(legend), 3 * 30 * 5);
+}
+
+TEST(LibraryHost, FramesAndDeletesAnElement) {
+    CSurroundFrame frame;
+    auto title = std::make_unique<CMapTitle>();
+    title->SetFontValue(L"Olinda");
+    title->SetFontStyle(L"Arial");
+    title->ResetAspectRatio();
+    frame.SetMapSurround(title.release());
+    frame.SetExtent(CBoundingBox(0.0, 0.0, 100.0, 50.0));
+    EXPECT_EQ(frame.HitTest(CPoint2D(47.0, 50.0), 3.0, false), TopoOnHandle);
+    EXPECT_EQ(frame.HitHandle, 1);
+    frame.DrawBorder = true;
+
+    Gdiplus::Bitmap picture(kWidth, kHeight);
+    Gdiplus::Graphics graphics(&picture);
+    graphics.Clear(kPaper);
+    frame.DrawFrame(&graphics, CRect(20, 20, 120, 70));
+    frame.Draw(&graphics, CPoint(70, 45), 1.0);
+    EXPECT_EQ(graphics.GetLastStatus(), Gdiplus::Ok);
+    Gdiplus::Color border;
+    picture.GetPixel(60, 20, &border);
+    EXPECT_NE(border.GetValue(), kPaper.GetValue());
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    ::testing::InitGoogleTest(&argc, argv);
+    const Gdiplus::GdiplusStartupInput input;
+    ULONG_PTR token = 0;
+    if (Gdiplus::GdiplusStartup(&token, &input, nullptr) != Gdiplus::Ok) {
+        return 1;
+    }
+    const int result = RUN_ALL_TESTS();
+    Gdiplus::GdiplusShutdown(token);
+    return result;
+}

@@ -1,0 +1,205 @@
+#include "page/layout/layout.h"
+#include "png_encoder.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <memory>
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "map_surround/picture.h"
+#include "map_surround/title.h"
+#include "page/units.h"
+#include "recording/expect.h"
+#include "scratch_folder.h"
+
+namespace {
+
+struct Laid {
+    CBoundingBox map;
+    CSurroundFrame* title = nullptr;
+    CSurroundFrame* picture = nullptr;
+};
+
+Laid Parts(const host::Page& page) {
+    Laid laid;
+    for (const host::PageItem& item : page.Items()) {
+        if (const auto* map = std::get_if<host::MapFrame>(&item)) {
+            laid.map = map->frame.GetExtent();
+            continue;
+        }
+        CSurroundFrame* const frame =
+            std::get<std::unique_ptr<CSurroundFrame>>(item).get();
+        const CMapSurround* element = frame->GetMapSurround();
+        if (element == nullptr) {
+            continue;
+        }
+        (element->GetItemType() == SurroundMapTitle ? laid.title : laid.picture) = frame;
+    }
+    return laid;
+}
+
+double Left(const CBoundingBox& box) { return box.TopLeft().x; }
+double Right(const CBoundingBox& box) { return box.TopLeft().x + box.GetWidth(); }
+double Top(const CBoundingBox& box) { return box.TopLeft().y; }
+double Bottom(const CBoundingBox& box) { return box.TopLeft().y - box.GetHeight(); }
+
+bool AreApart(const CBoundingBox& a, const CBoundingBox& b) {
+    return Right(a) <= Left(b) || Right(b) <= Left(a) || Bottom(a) >= Top(b) ||
+           Bottom(b) >= Top(a);
+}
+
+bool IsOnPage(const CBoundingBox& box, const host::Page& page) {
+    return Left(box) >= 0.0 && Bottom(box) >= 0.0 && Right(box) <= page.Width() &&
+           Top(box) <= page.Height() && box.GetWidth() > 0.0 && box.GetHeight() > 0.0;
+}
+
+class Layout : public ::testing::Test {
+protected:
+    Layout() {
+        const std::string path = folder.Path("logo.png");
+        recording::Surface surface(200, 100);
+        const std::wstring name(path.begin(), path.end());
+        surface.Bitmap().Save(name.c_str(), &host_tests::kPngEncoder);
+        logo = name;
+    }
+
+    ScratchFolder folder;
+    std::wstring logo;
+};
+
+TEST_F(Layout, KeepsEverythingApartAndOnThePage) {
+    for (const char* paperText : {"A4", "A0", "210x297", "20x20", "5000x20", "20x5000"}) {
+        for (const double aspectRatio :
+             {1.0, 0.3, 3.0, 100.0, 1.0e9, 0.0, std::nan("")}) {
+            for (const double points : {0.0, 1.0, 24.0, 1000.0}) {
+                host::PageDesign design;
+                ASSERT_TRUE(host::ParsePaperSize(paperText, design.paper));
+                design.title.text = L"A title of some length";
+                if (points > 0.0) {
+                    design.title.points = points;
+                }
+                design.picture.path = logo;
+                const host::LaidOutPage laidOut =
+                    host::LayOut(design, {nullptr, aspectRatio});
+                const Laid laid = Parts(laidOut.page);
+                const std::string what = std::string(paperText) + " " +
+                                         std::to_string(aspectRatio) + " " +
+                                         std::to_string(points);
+                ASSERT_NE(laid.title, nullptr) << what;
+                ASSERT_NE(laid.picture, nullptr) << what;
+                const CBoundingBox title = laid.title->GetExtent();
+                const CBoundingBox picture = laid.picture->GetExtent();
+                EXPECT_TRUE(IsOnPage(laid.map, laidOut.page)) << what;
+                EXPECT_TRUE(AreApart(laid.map, title)) << what;
+                EXPECT_TRUE(AreApart(laid.map, picture)) << what;
+                EXPECT_TRUE(AreApart(title, picture)) << what;
+                if (std::string(paperText).find("20") != 0) {
+                    EXPECT_TRUE(IsOnPage(picture, laidOut.page)) << what;
+                }
+            }
+        }
+    }
+}
+
+TEST_F(Layout, KeepsTheProportionsOfMapAndPicture) {
+    for (const double aspectRatio : {0.2, 0.99, 1.0, 2.5, 6.0}) {
+        host::PageDesign design;
+        design.title.text = L"Title";
+        design.picture.path = logo;
+        const host::LaidOutPage laidOut = host::LayOut(design, {nullptr, aspectRatio});
+        const Laid laid = Parts(laidOut.page);
+        EXPECT_NEAR(laid.map.GetWidth() / laid.map.GetHeight(), aspectRatio, 1.0e-9);
+        EXPECT_FLOAT_EQ(laid.picture->GetMapSurround()->GetAspectRatio(), 2.0f);
+    }
+}
+
+TEST_F(Layout, GivesThePanelsRoomToTheMapWhenThereIsNone) {
+    host::PageDesign design;
+    const double bare = Parts(host::LayOut(design, {nullptr, 1.6}).page).map.GetWidth();
+    design.picture.path = logo;
+    const double beside = Parts(host::LayOut(design, {nullptr, 1.6}).page).map.GetWidth();
+    EXPECT_GT(bare, beside);
+}
+
+TEST_F(Layout, PutsThePanelWhereTheMapStaysLarger) {
+    host::PageDesign design;
+    design.picture.path = logo;
+    const host::LaidOutPage square = host::LayOut(design, {nullptr, 1.0});
+    const CBoundingBox squareMap = Parts(square.page).map;
+    const CBoundingBox beside = Parts(square.page).picture->GetExtent();
+    EXPECT_GT(Left(beside), Right(squareMap));
+    EXPECT_NEAR(Bottom(beside), Bottom(squareMap), 1.0e-9);
+
+    const host::LaidOutPage wide = host::LayOut(design, {nullptr, 3.0});
+    const CBoundingBox wideMap = Parts(wide.page).map;
+    const CBoundingBox below = Parts(wide.page).picture->GetExtent();
+    EXPECT_LT(Top(below), Bottom(wideMap));
+    EXPECT_NEAR(Right(below), Right(wideMap), 1.0e-9);
+}
+
+TEST_F(Layout, PlacesTheTitleInTheMiddleOnTop) {
+    host::PageDesign design;
+    design.title.text = L"Title";
+    const host::LaidOutPage laidOut = host::LayOut(design, {nullptr, 1.0});
+    const CBoundingBox title = Parts(laidOut.page).title->GetExtent();
+    EXPECT_NEAR(Left(title) + Right(title), laidOut.page.Width(), 1.0e-6);
+    EXPECT_GT(Bottom(title), Top(Parts(laidOut.page).map));
+}
+
+TEST_F(Layout, SetsTheTitleInItsSize) {
+    host::PageDesign design;
+    design.title.text = L"Title";
+    design.title.points = 36.0;
+    const host::LaidOutPage laidOut = host::LayOut(design, {nullptr, 1.0});
+    const auto* title =
+        dynamic_cast<const CMapTitle*>(Parts(laidOut.page).title->GetMapSurround());
+    ASSERT_NE(title, nullptr);
+    EXPECT_DOUBLE_EQ(title->GetFontSize(), 48.0);
+    EXPECT_TRUE(laidOut.remarks.empty());
+}
+
+TEST_F(Layout, SetsATitleSmallerThatWouldNotFit) {
+    host::PageDesign design;
+    design.title.text = L"A title that is long enough to be wider than the page it is on";
+    design.title.points = 100.0;
+    const host::LaidOutPage laidOut = host::LayOut(design, {nullptr, 1.0});
+    const CSurroundFrame* title = Parts(laidOut.page).title;
+    EXPECT_TRUE(IsOnPage(title->GetExtent(), laidOut.page));
+    EXPECT_EQ(laidOut.remarks,
+              std::vector<std::string>{"the title is set smaller to fit the page"});
+
+    design.title.points.reset();
+    design.title.text.append(design.title.text);
+    EXPECT_TRUE(host::LayOut(design, {nullptr, 1.0}).remarks.empty());
+}
+
+TEST_F(Layout, HasNoFrameForATitleWithoutInk) {
+    for (const wchar_t* text : {L"", L"   "}) {
+        host::PageDesign design;
+        design.title.text = text;
+        EXPECT_EQ(Parts(host::LayOut(design, {nullptr, 1.0}).page).title, nullptr);
+    }
+}
+
+TEST_F(Layout, DecoratesFramesAsAskedFor) {
+    host::PageDesign design;
+    design.title.text = L"Title";
+    design.frames.border.reset();
+    design.frames.shadow = Gdiplus::Color(0xFF112233);
+    design.frames.background = Gdiplus::Color(0x80445566);
+    const host::LaidOutPage laidOut = host::LayOut(design, {nullptr, 1.0});
+    const CSurroundFrame* title = Parts(laidOut.page).title;
+    EXPECT_FALSE(title->DrawBorder);
+    EXPECT_TRUE(title->DrawShadow);
+    EXPECT_EQ(title->ShadowColor.GetValue(), 0xFF112233u);
+    EXPECT_TRUE(title->DrawFill);
+    EXPECT_EQ(title->FillColor.GetValue(), 0x80445566u);
+    // The shadow falls as far to the right as down.
+    EXPECT_NEAR(double{title->ShadowRatioX} * title->GetExtent().GetWidth(),
+                double{title->ShadowRatioY} * title->GetExtent().GetHeight(), 1.0e-4);
+}
+
+}  // namespace

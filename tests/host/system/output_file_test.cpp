@@ -1,0 +1,155 @@
+#include "system/output_file.h"
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "scratch_folder.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+std::vector<std::uint8_t> BytesOf(const std::string& text) {
+    return {text.begin(), text.end()};
+}
+
+class OutputFile : public ::testing::Test {
+protected:
+    std::string Contents(const std::string& name) const {
+        std::ifstream file(folder.Path(name), std::ios::binary);
+        return {std::istreambuf_iterator<char>(file), {}};
+    }
+    void Write(const std::string& name, const std::string& text) const {
+        std::ofstream(folder.Path(name), std::ios::binary) << text;
+    }
+
+    ScratchFolder folder;
+};
+
+TEST_F(OutputFile, AppearsWhenItIsComplete) {
+    {
+        host::OutputFile output(folder.Path("page.png"));
+        EXPECT_FALSE(fs::exists(folder.Path("page.png")));
+        output.Write(BytesOf("whole"));
+        output.Commit();
+        EXPECT_EQ(Contents("page.png"), "whole");
+    }
+    EXPECT_EQ(folder.Names(), std::vector<std::string>{"page.png"});
+}
+
+TEST_F(OutputFile, LeavesNothingWhenItIsGivenUp) {
+    { const host::OutputFile output(folder.Path("page.png")); }
+    EXPECT_TRUE(folder.Names().empty());
+}
+
+TEST_F(OutputFile, KeepsWhatWasThereWhenItIsGivenUp) {
+    Write("page.png", "before");
+    { const host::OutputFile output(folder.Path("page.png")); }
+    EXPECT_EQ(Contents("page.png"), "before");
+    EXPECT_EQ(folder.Names().size(), 1u);
+}
+
+TEST_F(OutputFile, TakesThePermissionsOfWhatItReplaces) {
+    Write("page.png", "before");
+    chmod(folder.Path("page.png").c_str(), 0640);
+    host::OutputFile output(folder.Path("page.png"));
+    output.Write(BytesOf("after"));
+    output.Commit();
+    struct stat status = {};
+    ASSERT_EQ(stat(folder.Path("page.png").c_str(), &status), 0);
+    EXPECT_EQ(status.st_mode & 0777, 0640u);
+}
+
+TEST_F(OutputFile, HasThePermissionsOfAnyNewFile) {
+    const mode_t mask = umask(027);
+    {
+        host::OutputFile output(folder.Path("page.png"));
+        output.Write(BytesOf("new"));
+        output.Commit();
+    }
+    umask(mask);
+    struct stat status = {};
+    ASSERT_EQ(stat(folder.Path("page.png").c_str(), &status), 0);
+    EXPECT_EQ(status.st_mode & 0777, 0640u);
+}
+
+TEST_F(OutputFile, FollowsALink) {
+    fs::create_directory(folder.Path("real"));
+    Write("real/page.png", "before");
+    fs::create_symlink("real/page.png", folder.Path("link.png"));
+    {
+        host::OutputFile output(folder.Path("link.png"));
+        output.Write(BytesOf("after"));
+        output.Commit();
+    }
+    EXPECT_TRUE(fs::is_symlink(folder.Path("link.png")));
+    EXPECT_EQ(Contents("real/page.png"), "after");
+}
+
+TEST_F(OutputFile, RefusesWhatCannotBeReplaced) {
+    Write("file", "");
+    fs::create_directory(folder.Path("folder.png"));
+    fs::create_symlink("nowhere", folder.Path("broken.png"));
+    const std::pair<std::string, std::string> rows[] = {
+        {folder.Path("missing/page.png"), "No such file or directory"},
+        {folder.Path("file/page.png"), "Not a directory"},
+        {folder.Path("folder.png"), "Is a directory"},
+        {folder.Path("broken.png"), "No such file or directory"},
+        {"/dev/null", "is not a file"},
+        {folder.Path(std::string(5000, 'x')) + "/page.png", "File name too long"},
+    };
+    for (const auto& [path, why] : rows) {
+        try {
+            const host::OutputFile output(path);
+            ADD_FAILURE() << path << " was taken";
+        } catch (const std::runtime_error& error) {
+            EXPECT_EQ(error.what(), why) << path;
+        }
+    }
+    EXPECT_EQ(folder.Names().size(), 3u);
+}
+
+TEST_F(OutputFile, GoesWhenTheProgramIsEnded) {
+    for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
+        const pid_t child = fork();
+        if (child == 0) {
+            std::signal(signal, SIG_DFL);
+            host::RemoveUnfinishedOutputOnSignals();
+            const host::OutputFile output(folder.Path("page.png"));
+            if (folder.Names().size() == 1) {
+                std::raise(signal);
+            }
+            _exit(0);
+        }
+        int status = 0;
+        ASSERT_EQ(waitpid(child, &status, 0), child);
+        EXPECT_TRUE(WIFSIGNALED(status));
+        EXPECT_EQ(WTERMSIG(status), signal);
+        EXPECT_TRUE(folder.Names().empty());
+    }
+}
+
+TEST_F(OutputFile, LeavesAnIgnoredSignalIgnored) {
+    const pid_t child = fork();
+    if (child == 0) {
+        std::signal(SIGHUP, SIG_IGN);
+        host::RemoveUnfinishedOutputOnSignals();
+        std::raise(SIGHUP);
+        _exit(7);
+    }
+    int status = 0;
+    ASSERT_EQ(waitpid(child, &status, 0), child);
+    EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 7);
+}
+
+}  // namespace

@@ -1,0 +1,123 @@
+#include "system/separate_process.h"
+
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cstdlib>
+#include <functional>
+#include <new>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace {
+
+struct Row {
+    std::string name;
+    std::function<std::string()> work;
+    std::string outcome;
+};
+
+TEST(SeparateProcess, ReportsHoweverItEnds) {
+    const std::string longLine(100'000, 'x');
+    const Row rows[] = {
+        {"returns", [] { return "a page"; }, "a page"},
+        {"returns nothing", [] { return ""; }, ""},
+        {"returns much", [&] { return longLine; }, longLine},
+        {"throws", []() -> std::string { throw std::runtime_error("a.tif: is empty"); },
+         "thrown: a.tif: is empty"},
+        {"has no memory", []() -> std::string { throw std::bad_alloc(); },
+         "thrown: memory: the page needs more than there is"},
+        {"exits", []() -> std::string { std::exit(3); },
+         "thrown: drawing failed: ended with status 3"},
+        {"exits as if all was well", []() -> std::string { std::exit(0); },
+         "thrown: drawing failed: ended with status 0"},
+        {"crashes", []() -> std::string { std::abort(); },
+         "thrown: drawing failed: Aborted (signal 6)"},
+    };
+    for (const Row& row : rows) {
+        std::string outcome;
+        try {
+            outcome = host::InSeparateProcess(
+                "drawing", [&](const host::Progress&) { return row.work(); });
+        } catch (const std::exception& error) {
+            outcome = std::string("thrown: ") + error.what();
+        }
+        EXPECT_EQ(outcome, row.outcome) << row.name;
+    }
+}
+
+TEST(SeparateProcess, KeepsItsChangesToItself) {
+    int value = 1;
+    EXPECT_EQ(
+        host::InSeparateProcess(
+            "counting", [&](const host::Progress&) { return std::to_string(++value); }),
+        "2");
+    EXPECT_EQ(value, 1);
+}
+
+TEST(SeparateProcess, TellsWhatTheWorkThrewFromHowItDied) {
+    const auto fail = [](const host::Progress&) -> std::string {
+        throw std::runtime_error("a.tif: is empty");
+    };
+    EXPECT_THROW(host::InSeparateProcess("drawing", fail), host::WorkFailed);
+    const auto die = [](const host::Progress&) -> std::string { std::abort(); };
+    try {
+        host::InSeparateProcess("reading", die);
+        FAIL();
+    } catch (const host::WorkFailed&) {
+        FAIL();
+    } catch (const std::runtime_error& error) {
+        EXPECT_STREQ(error.what(), "reading failed: Aborted (signal 6)");
+    }
+}
+
+TEST(SeparateProcess, TellsHowFarTheWorkHasCome) {
+    std::vector<double> told;
+    const std::string bytes(300'000, '%');  // as the messages of progress begin
+    const std::string result = host::InSeparateProcess(
+        "drawing",
+        [&](const host::Progress& progress) {
+            for (const double part : {0.25, 0.5, 0.5001, 0.75, 0.125}) {
+                EXPECT_TRUE(progress(part));
+                usleep(250'000);
+            }
+            return bytes;
+        },
+        [&told](double part) {
+            if (told.empty() || told.back() != part) {
+                told.push_back(part);
+            }
+            return true;
+        });
+    EXPECT_TRUE(result == bytes);
+    // What comes in the first moment may be told before anything is.
+    if (!told.empty() && told.front() == 0.0) {
+        told.erase(told.begin());
+    }
+    EXPECT_EQ(told, (std::vector<double>{0.25, 0.5, 0.75, 0.125}));
+}
+
+TEST(SeparateProcess, IsStoppedEvenWhenItHangs) {
+    int asked = 0;
+    const auto stop = [&asked](double part) {
+        EXPECT_EQ(part, 0.0);
+        return ++asked < 3;
+    };
+    const auto hang = [](const host::Progress&) -> std::string {
+        for (;;) {
+            pause();
+        }
+    };
+    try {
+        host::InSeparateProcess("drawing", hang, stop);
+        FAIL();
+    } catch (const std::runtime_error& error) {
+        EXPECT_STREQ(error.what(), "drawing was stopped");
+    }
+    EXPECT_EQ(asked, 3);
+    EXPECT_EQ(waitpid(-1, nullptr, WNOHANG), -1) << "a process is left";
+}
+
+}  // namespace
