@@ -1,13 +1,11 @@
 #include "map_page/series.h"
 
-#include <sys/prctl.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
-#include <csignal>
 #include <cstddef>
 #include <cstdio>
 #include <cstring>
@@ -20,6 +18,7 @@
 #include "map_page/error.h"
 #include "map_page/progress_line.h"
 #include "map_page/series_list.h"
+#include "system/child_process.h"
 #include "system/error_line.h"
 
 namespace map_page {
@@ -81,15 +80,7 @@ private:
     }
 
     void Begin(const SeriesPage& page) {
-        const pid_t parent = getpid();
-        const pid_t process = fork();
-        if (process == 0) {
-            prctl(PR_SET_PDEATHSIG, SIGTERM);
-            if (getppid() != parent) {
-                std::raise(SIGTERM);
-            }
-            _exit(Draw(page));
-        }
+        const pid_t process = host::StartChild([&] { return Draw(page); });
         if (process < 0) {
             Fail(page.line, std::generic_category().message(errno));
             return;

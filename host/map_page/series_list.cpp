@@ -1,19 +1,15 @@
 #include "map_page/series_list.h"
 
-#include <sys/stat.h>
-
 #include <algorithm>
-#include <cerrno>
-#include <fstream>
-#include <iterator>
 #include <map>
+#include <stdexcept>
 #include <string_view>
-#include <system_error>
 #include <utility>
 
 #include "map_page/csv.h"
 #include "map_page/error.h"
 #include "page/document/file_paths.h"
+#include "system/input_file.h"
 #include "system/numbers_from_text.h"
 
 namespace map_page {
@@ -22,6 +18,7 @@ namespace {
 constexpr const char* kRastersColumn = "rasters";
 constexpr const char* kExtentColumn = "extent";
 constexpr char kBetweenRasters = ';';
+constexpr std::size_t kMostBytes = std::size_t{1} << 30;
 constexpr std::size_t kNoColumn = static_cast<std::size_t>(-1);
 
 /// A piece of an output's name: text, or the value of a column.
@@ -164,18 +161,6 @@ std::vector<std::string> TextColumnsOf(const std::vector<std::string>& columns) 
     return texts;
 }
 
-std::vector<CsvRecord> RecordsOf(const std::string& path) {
-    struct stat status = {};
-    if (stat(path.c_str(), &status) != 0) {
-        throw Error(std::generic_category().message(errno));
-    }
-    if (!S_ISREG(status.st_mode)) {
-        throw Error("is not a file");
-    }
-    std::ifstream file(path, std::ios::binary);
-    return ReadCsv({std::istreambuf_iterator<char>(file), {}});
-}
-
 void CheckOutputsDiffer(const std::vector<SeriesPage>& pages) {
     std::map<std::string, std::size_t> lines;
     for (const SeriesPage& page : pages) {
@@ -208,7 +193,7 @@ SeriesPage PageOf(const CsvRecord& record, const std::vector<std::string>& colum
 }
 
 SeriesList Read(const std::string& path, const std::string& output) {
-    const std::vector<CsvRecord> records = RecordsOf(path);
+    const std::vector<CsvRecord> records = ReadCsv(host::ReadFile(path, kMostBytes));
     if (records.empty()) {
         throw Error("has no first row with the names of columns");
     }
@@ -235,7 +220,7 @@ SeriesList Read(const std::string& path, const std::string& output) {
 SeriesList ReadSeries(const std::string& path, const std::string& output) {
     try {
         return Read(path, output);
-    } catch (const Error& error) {
+    } catch (const std::runtime_error& error) {
         throw Error(path, error.what());
     }
 }

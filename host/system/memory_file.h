@@ -11,6 +11,8 @@ class MemoryFile {
 public:
     /// Throws std::runtime_error when there is none to be had.
     MemoryFile();
+    /// One that holds the bytes, to be read from its start. Throws likewise.
+    explicit MemoryFile(const std::vector<std::uint8_t>& bytes);
     MemoryFile(const MemoryFile&) = delete;
     MemoryFile& operator=(const MemoryFile&) = delete;
     ~MemoryFile();

@@ -14,6 +14,8 @@
 #include <stdexcept>
 #include <system_error>
 
+#include "system/descriptor.h"
+
 namespace host {
 namespace {
 
@@ -130,14 +132,9 @@ OutputFile::~OutputFile() {
 }
 
 void OutputFile::Write(const std::vector<std::uint8_t>& bytes) const {
-    std::size_t done = 0;
-    while (done < bytes.size()) {
-        const ssize_t count =
-            write(m_descriptor, bytes.data() + done, bytes.size() - done);
-        if (count < 0 && errno != EINTR) {
-            Fail(errno);
-        }
-        done += count > 0 ? static_cast<std::size_t>(count) : 0;
+    const int error = WriteAll(m_descriptor, bytes.data(), bytes.size());
+    if (error != 0) {
+        Fail(error);
     }
 }
 

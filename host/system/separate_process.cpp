@@ -2,7 +2,6 @@
 
 #include <fcntl.h>
 #include <poll.h>
-#include <sys/prctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -16,6 +15,8 @@
 #include <system_error>
 #include <utility>
 
+#include "system/child_process.h"
+#include "system/descriptor.h"
 #include "system/error_line.h"
 
 namespace host {
@@ -36,15 +37,9 @@ std::string PartMessage(double part) {
     return message;
 }
 
-void WriteAll(int descriptor, const std::string& text) {
-    std::size_t done = 0;
-    while (done < text.size()) {
-        const ssize_t count = write(descriptor, text.data() + done, text.size() - done);
-        if (count < 0 && errno != EINTR) {
-            return;
-        }
-        done += count > 0 ? static_cast<std::size_t>(count) : 0;
-    }
+/// Where nobody listens any more this process is about to be ended.
+void Send(int descriptor, const std::string& message) {
+    WriteAll(descriptor, message.data(), message.size());
 }
 
 std::string Report(int descriptor, const SeparateWork& work) {
@@ -52,7 +47,7 @@ std::string Report(int descriptor, const SeparateWork& work) {
     const Progress tell = [descriptor, &told](double part) {
         if (std::fabs(part - told) >= kSmallestStep) {  // each map begins anew
             told = part;
-            WriteAll(descriptor, PartMessage(part));
+            Send(descriptor, PartMessage(part));
         }
         return true;
     };
@@ -61,16 +56,6 @@ std::string Report(int descriptor, const SeparateWork& work) {
     } catch (const std::exception& error) {
         return kFailed + LineFor(error);
     }
-}
-
-[[noreturn]] void BeTheSeparateProcess(pid_t parent, int descriptor,
-                                       const SeparateWork& work) {
-    prctl(PR_SET_PDEATHSIG, SIGTERM);
-    if (getppid() != parent) {
-        std::raise(SIGTERM);
-    }
-    WriteAll(descriptor, Report(descriptor, work));
-    _exit(0);  // what the libraries tidy up at the end takes longer than the fork
 }
 
 /// The separate process as seen from here.
@@ -84,7 +69,7 @@ public:
         close(m_descriptor);
         if (m_process > 0) {
             kill(m_process, SIGKILL);
-            Wait();
+            WaitFor(m_process);
         }
     }
 
@@ -101,7 +86,9 @@ public:
                 Tell(progress, part);
             }
         }
-        CheckEnd(Wait(), sent);
+        const int status = WaitFor(m_process);
+        m_process = -1;
+        CheckEnd(status, sent);
         return sent.substr(1);
     }
 
@@ -138,14 +125,6 @@ private:
         return taken > 0;
     }
 
-    int Wait() {
-        int status = 0;
-        while (waitpid(m_process, &status, 0) < 0 && errno == EINTR) {
-        }
-        m_process = -1;
-        return status;
-    }
-
     void CheckEnd(int status, const std::string& sent) const {
         if (WIFSIGNALED(status)) {
             const int signal = WTERMSIG(status);
@@ -180,13 +159,12 @@ std::string InSeparateProcess(const std::string& what, const SeparateWork& work,
     if (pipe2(ends.data(), O_CLOEXEC) != 0) {
         fail(errno);
     }
-    const pid_t parent = getpid();
-    const pid_t process = fork();
-    const int error = errno;
-    if (process == 0) {
+    const pid_t process = StartChild([&] {
         close(ends[0]);
-        BeTheSeparateProcess(parent, ends[1], work);
-    }
+        Send(ends[1], Report(ends[1], work));
+        return 0;
+    });
+    const int error = errno;
     close(ends[1]);
     Worker worker(what, process, ends[0]);
     if (process < 0) {

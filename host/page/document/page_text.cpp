@@ -1,14 +1,8 @@
 #include "page/document/page_text.h"
 
-#include <sys/stat.h>
-
 #include <algorithm>
-#include <cerrno>
-#include <fstream>
 #include <iterator>
 #include <sstream>
-#include <stdexcept>
-#include <system_error>
 #include <utility>
 #include <vector>
 
@@ -17,6 +11,7 @@
 #include "page/document/page_error.h"
 #include "page/document/page_format.h"
 #include "page/document/value_json.h"
+#include "system/input_file.h"
 
 namespace host {
 namespace {
@@ -146,25 +141,6 @@ void CheckVersion(const json& page) {
     }
 }
 
-std::string BytesOf(const std::string& path) {
-    struct stat status = {};
-    if (stat(path.c_str(), &status) != 0) {
-        throw std::runtime_error(std::generic_category().message(errno));
-    }
-    if (!S_ISREG(status.st_mode)) {
-        throw std::runtime_error("is not a file");
-    }
-    if (status.st_size > static_cast<off_t>(kMostJsonBytes)) {
-        throw std::runtime_error("is too large for a page file");
-    }
-    std::ifstream file(path, std::ios::binary);
-    std::string text{std::istreambuf_iterator<char>(file), {}};
-    if (!file) {
-        throw std::runtime_error("cannot be read");
-    }
-    return text;
-}
-
 }  // namespace
 
 std::string WriteItem(const PageItem& item) { return ItemToJson(item, {}, "").dump(); }
@@ -216,7 +192,7 @@ Page ReadPage(const std::string& text, const FilePaths& paths) {
 }
 
 Page LoadPage(const std::string& path) {
-    return ReadPage(BytesOf(path), FilePaths(path));
+    return ReadPage(ReadFile(path, kMostJsonBytes), FilePaths(path));
 }
 
 }  // namespace host

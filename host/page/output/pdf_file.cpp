@@ -1,6 +1,5 @@
 #include "page/output/pdf_file.h"
 
-#include <spawn.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -10,6 +9,7 @@
 #include <string>
 #include <system_error>
 
+#include "system/child_process.h"
 #include "system/memory_file.h"
 
 namespace host {
@@ -37,22 +37,11 @@ constexpr const char* kGhostscript[] = {"gs",
                                         "-",
                                         nullptr};
 
+constexpr int kNotFound = 127;  // the status, as shells have it
+
 [[noreturn]] void NotInstalled() {
     throw std::runtime_error(
         "PDF files are made by Ghostscript, which is not installed (the program gs)");
-}
-
-void WriteTo(const MemoryFile& file, const std::vector<std::uint8_t>& bytes) {
-    std::size_t done = 0;
-    while (done < bytes.size()) {
-        const ssize_t count =
-            write(file.Descriptor(), bytes.data() + done, bytes.size() - done);
-        if (count < 0 && errno != EINTR) {
-            throw std::runtime_error(std::generic_category().message(errno));
-        }
-        done += count > 0 ? static_cast<std::size_t>(count) : 0;
-    }
-    lseek(file.Descriptor(), 0, SEEK_SET);
 }
 
 /// What it said first, for a line of ours.
@@ -62,24 +51,15 @@ std::string FirstLineOf(const MemoryFile& file) {
     return text.substr(0, text.find('\n'));
 }
 
-/// The files as a program's input, output and errors.
-class Redirections {
-public:
-    Redirections(const MemoryFile& in, const MemoryFile& out, const MemoryFile& err) {
-        posix_spawn_file_actions_init(&m_actions);
-        posix_spawn_file_actions_adddup2(&m_actions, in.Descriptor(), STDIN_FILENO);
-        posix_spawn_file_actions_adddup2(&m_actions, out.Descriptor(), STDOUT_FILENO);
-        posix_spawn_file_actions_adddup2(&m_actions, err.Descriptor(), STDERR_FILENO);
-    }
-    Redirections(const Redirections&) = delete;
-    Redirections& operator=(const Redirections&) = delete;
-    ~Redirections() { posix_spawn_file_actions_destroy(&m_actions); }
-
-    const posix_spawn_file_actions_t* Actions() const { return &m_actions; }
-
-private:
-    posix_spawn_file_actions_t m_actions = {};
-};
+/// Becomes Ghostscript, with the files as its input, output and errors.
+int RunGhostscript(const MemoryFile& in, const MemoryFile& out, const MemoryFile& err) {
+    dup2(in.Descriptor(), STDIN_FILENO);
+    dup2(out.Descriptor(), STDOUT_FILENO);
+    dup2(err.Descriptor(), STDERR_FILENO);
+    // execvp takes what it does not change as if it changed it.
+    execvp(kGhostscript[0], const_cast<char**>(kGhostscript));
+    return kNotFound;
+}
 
 }  // namespace
 
@@ -98,24 +78,17 @@ void CheckGhostscript() {
 }
 
 std::vector<std::uint8_t> PdfFromPostScript(const std::vector<std::uint8_t>& postScript) {
-    const MemoryFile in;
+    const MemoryFile in(postScript);
     const MemoryFile out;
     const MemoryFile err;
-    WriteTo(in, postScript);
-    pid_t process = 0;
-    const Redirections redirections(in, out, err);
-    // posix_spawnp takes what it does not change as if it changed it.
-    const int error = posix_spawnp(&process, kGhostscript[0], redirections.Actions(),
-                                   nullptr, const_cast<char**>(kGhostscript), environ);
-    if (error == ENOENT) {
-        NotInstalled();
-    }
-    if (error != 0) {
+    const pid_t process = StartChild([&] { return RunGhostscript(in, out, err); });
+    if (process < 0) {
         throw std::runtime_error("Ghostscript: " +
-                                 std::generic_category().message(error));
+                                 std::generic_category().message(errno));
     }
-    int status = 0;
-    while (waitpid(process, &status, 0) < 0 && errno == EINTR) {
+    const int status = WaitFor(process);
+    if (WIFEXITED(status) && WEXITSTATUS(status) == kNotFound) {
+        NotInstalled();
     }
     std::vector<std::uint8_t> pdf = out.Bytes();
     if (status != 0 || pdf.empty()) {

@@ -1,10 +1,14 @@
 #include <gdiplus.h>
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <array>
 #include <cmath>
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <filesystem>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -189,17 +193,59 @@ TEST_F(Print, WithoutGhostscriptSaysSoBeforeTheWork) {
     EXPECT_EQ(folder.Names(), std::vector<std::string>{"scene.tif"});
 }
 
-TEST_F(Print, ThatGhostscriptFailsAtLeavesNothing) {
+/// Has a program find this script as Ghostscript.
+std::function<void()> WithGhostscript(const ScratchFolder& folder,
+                                      const std::string& script) {
     const std::string bin = folder.Path("bin");
-    Said("mkdir " + bin + " && printf '#!/bin/sh\\necho out of paper >&2\\nexit 3\\n' >" +
-         bin + "/gs && chmod +x " + bin + "/gs");
+    std::filesystem::create_directory(bin);
+    host_tests::WriteFile(bin + "/gs", "#!/bin/sh\n" + script);
+    std::filesystem::permissions(bin + "/gs", std::filesystem::perms::owner_all);
+    return [bin] { setenv("PATH", (bin + ":/usr/bin:/bin").c_str(), 1); };
+}
+
+TEST_F(Print, ThatGhostscriptFailsAtLeavesNothing) {
     const host_tests::RunningMapPage running(
         folder, {"scene.tif", "-o", "page.pdf"},
-        [&bin] { setenv("PATH", (bin + ":/usr/bin:/bin").c_str(), 1); });
+        WithGhostscript(folder, "echo out of paper >&2\nexit 3\n"));
     const Result result = running.Wait();
     EXPECT_EQ(result.status, 1);
     EXPECT_EQ(result.err, "map_page: page.pdf: Ghostscript failed: out of paper\n");
     EXPECT_EQ(folder.Names(), (std::vector<std::string>{"bin", "scene.tif"}));
+}
+
+/// Whether a process does anything yet.
+bool Lives(const std::string& process) {
+    const std::string status = ContentsOf("/proc/" + process + "/stat");
+    return !status.empty() && !Holds(status, ") Z ");
+}
+
+/// Waits for it, a few seconds at most.
+bool ComesTrue(const std::function<bool()>& condition) {
+    for (int tries = 0; tries < 500; ++tries) {
+        if (condition()) {
+            return true;
+        }
+        usleep(10'000);
+    }
+    return false;
+}
+
+TEST_F(Print, TakesGhostscriptWithItWhenItIsEnded) {
+    const auto script = WithGhostscript(
+        folder, "echo $$ >" + folder.Path("gs.pid") + "\nexec sleep 100\n");
+    for (const int signal : {SIGTERM, SIGKILL}) {
+        const host_tests::RunningMapPage running(folder, {"scene.tif", "-o", "page.pdf"},
+                                                 script);
+        ASSERT_TRUE(
+            ComesTrue([&] { return Holds(ContentsOf(folder.Path("gs.pid")), "\n"); }));
+        std::string ghostscript = ContentsOf(folder.Path("gs.pid"));
+        ghostscript.pop_back();
+        EXPECT_TRUE(Lives(ghostscript));
+        kill(running.Process(), signal);
+        EXPECT_EQ(running.Wait().status, 128 + signal);
+        EXPECT_TRUE(ComesTrue([&] { return !Lives(ghostscript); })) << signal;
+        std::filesystem::remove(folder.Path("gs.pid"));
+    }
 }
 
 }  // namespace
