@@ -27,6 +27,12 @@ template <class T>
 using RowSum = std::conditional_t<std::is_same_v<T, std::uint8_t>, std::uint32_t, double>;
 
 /// The sums of one row of cells, and their means.
+///
+/// GDAL averages too (GRIORA_Average), but otherwise: a cell of which some pixels have no
+/// data comes out as opaque as a full one, one NaN or infinite pixel takes its whole cell
+/// along, and numbers of 32 bits and doubles are summed as floats, so that 1e9 and
+/// 1e9 + 0.5 average to 1e9. In memory it is as fast as this on bytes, and takes about a
+/// third of the time on floats.
 template <class T>
 class CellRow {
 public:

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "raster_data/gdal_raster.h"
+
+namespace host {
+
+/// Some of the columns or rows of a picture; may begin and end outside of it.
+struct PixelSpan {
+    int first;
+    int size;  ///< at least 1
+};
+
+/// The columns, of `size`, that lie between two fractions of a picture: those between
+/// 0.25 and 0.5 of ten are 3 and 4.
+PixelSpan PixelsBetween(double from, double to, int size);
+
+/// Swaps left and right.
+void MirrorRows(PixelImage& image);
+
+/// Swaps top and bottom.
+void TurnUpsideDown(PixelImage& image);
+
+/// Lays a picture over another with its first pixel at a column and row of it; what
+/// stands out is cut off. Colours are not premultiplied by alpha.
+void LayOver(const PixelImage& above, int left, int top, PixelImage& below);
+
+}  // namespace host
