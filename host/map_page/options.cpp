@@ -11,6 +11,7 @@
 
 #include "map_page/error.h"
 #include "map_page/values.h"
+#include "page/colour_text.h"
 #include "page/document/schema.h"
 
 namespace map_page {
@@ -35,8 +36,8 @@ names of elements, such as title, whose text the row has. Any column may be part
 output's name. An empty cell leaves what the page file says. Outputs that are there are
 not drawn again. docs/series.md tells the rest.
 
-COLOR is on (the default colour), off, #RRGGBB, #RRGGBBAA or one of black white gray
-silver red maroon yellow olive lime green aqua teal blue navy fuchsia purple orange.
+COLOR is on (the default colour), off, #RRGGBB, #RRGGBBAA or one of
+{colours}.
 
 Exit status: 0 when the page was drawn, 1 when it could not be, 2 for a wrong call.
 
@@ -46,6 +47,19 @@ Examples:
   map_page scene.tif --title "Olinda" --save page.json
   map_page page.json -o page.png
   map_page page.json --series sheets.csv -o 'sheets/{name}.png' --jobs 4)";
+
+/// With the names of colours, some to a line.
+std::string Footer() {
+    constexpr std::size_t kNamesInALine = 12;
+    constexpr std::string_view kPlace = "{colours}";
+    std::string names;
+    std::size_t count = 0;
+    for (const std::string& name : host::ColourNames()) {
+        names += (count++ % kNamesInALine == 0 ? "\n" : " ") + name;
+    }
+    std::string footer = kFooter;
+    return footer.replace(footer.find(kPlace), kPlace.size(), names.substr(1));
+}
 
 /// The option values as they were given.
 struct Given {
@@ -141,7 +155,7 @@ void Declare(CLI::App& app, Given& given) {
             throw CLI::Success();
         },
         "Print the JSON Schema of page files and exit");
-    app.footer(kFooter);
+    app.footer(Footer());
 
     app.add_option(
            "RASTER", given.rasters,

@@ -4,11 +4,11 @@
 #include <charconv>
 #include <cmath>
 #include <cstddef>
-#include <cstdint>
 #include <string_view>
 #include <utility>
 
 #include "map_page/error.h"
+#include "page/colour_text.h"
 #include "system/numbers_from_text.h"
 #include "system/utf8.h"
 
@@ -19,15 +19,6 @@ template <typename Value>
 struct Named {
     std::string_view name;
     Value value;
-};
-
-constexpr Named<Gdiplus::ARGB> kColors[] = {
-    {"black", 0xFF000000},   {"white", 0xFFFFFFFF},  {"gray", 0xFF808080},
-    {"grey", 0xFF808080},    {"silver", 0xFFC0C0C0}, {"red", 0xFFFF0000},
-    {"maroon", 0xFF800000},  {"yellow", 0xFFFFFF00}, {"olive", 0xFF808000},
-    {"lime", 0xFF00FF00},    {"green", 0xFF008000},  {"aqua", 0xFF00FFFF},
-    {"teal", 0xFF008080},    {"blue", 0xFF0000FF},   {"navy", 0xFF000080},
-    {"fuchsia", 0xFFFF00FF}, {"purple", 0xFF800080}, {"orange", 0xFFFFA500},
 };
 
 constexpr Named<FontProcess> kFontStyles[] = {
@@ -85,22 +76,6 @@ std::string Plain(double value) {
     return {std::begin(buffer), end.ptr};
 }
 
-/// Reads #RRGGBB and #RRGGBBAA.
-std::optional<Gdiplus::Color> ReadHexColor(const std::string& text) {
-    if ((text.size() != 7 && text.size() != 9) || text.front() != '#') {
-        return std::nullopt;
-    }
-    std::uint32_t value = 0;
-    const char* const end = text.data() + text.size();
-    const std::from_chars_result result =
-        std::from_chars(text.data() + 1, end, value, 16);
-    if (result.ec != std::errc() || result.ptr != end) {
-        return std::nullopt;
-    }
-    return text.size() == 7 ? Gdiplus::Color(0xFF000000 | value)
-                            : Gdiplus::Color((value << 24) | (value >> 8));
-}
-
 }  // namespace
 
 double ReadNumber(const std::string& option, const std::string& text, double lowest,
@@ -122,13 +97,12 @@ std::optional<Gdiplus::Color> ReadColor(const std::string& option,
     if (text == "none" || text == "off") {
         return std::nullopt;
     }
-    for (const Named<Gdiplus::ARGB>& color : kColors) {
-        if (color.name == text) {
-            return Gdiplus::Color(color.value);
-        }
+    std::optional<Gdiplus::ARGB> color = host::NamedColour(text);
+    if (!color) {
+        color = host::ColourFromText(text);
     }
-    if (const std::optional<Gdiplus::Color> color = ReadHexColor(text)) {
-        return color;
+    if (color) {
+        return Gdiplus::Color(*color);
     }
     throw Error(option, Quoted(text) +
                             " is neither on, off, #RRGGBB, #RRGGBBAA nor the name of a "

@@ -10,6 +10,7 @@
 #include "page/document/json_text.h"
 #include "page/document/page_error.h"
 #include "page/document/page_format.h"
+#include "page/document/page_version1.h"
 #include "page/document/value_json.h"
 #include "system/input_file.h"
 
@@ -134,11 +135,16 @@ double SideOf(const json& page, const char* key) {
     return side;
 }
 
-void CheckVersion(const json& page) {
+/// The page as the newest version has it.
+json Upgraded(json page) {
     const json& version = MemberOf(page, kVersionKey, "");
-    if (!version.is_number_integer() || version != kPageVersion) {
-        throw PageError(kVersionKey, "must be " + std::to_string(kPageVersion));
+    if (!version.is_number_integer() || (version != 1 && version != kPageVersion)) {
+        throw PageError(kVersionKey, "must be 1 or " + std::to_string(kPageVersion));
     }
+    if (version == 1) {
+        UpgradeFromVersion1(page);
+    }
+    return page;
 }
 
 }  // namespace
@@ -165,17 +171,15 @@ std::string WritePage(const Page& page, const FilePaths& paths) {
     object[kHeightKey] = page.Height();
     ordered_json& elements = object[kElementsKey] = ordered_json::array();
     for (const PageItem& item : page.Items()) {
-        const std::string place =
-            kElementsKey + ("[" + std::to_string(elements.size())) + "]";
-        elements.push_back(ItemToJson(item, paths, place));
+        elements.push_back(ItemToJson(item, paths, PlaceOfElement(elements.size())));
     }
     return object.dump(kIndent) + "\n";
 }
 
 Page ReadPage(const std::string& text, const FilePaths& paths) {
-    const json object = ParseJson(text);
-    ObjectAt(object, "");
-    CheckVersion(object);
+    json parsed = ParseJson(text);
+    ObjectAt(parsed, "");
+    const json object = Upgraded(std::move(parsed));
     CheckKeys(object, {}, {kVersionKey, kWidthKey, kHeightKey, kElementsKey}, "");
     const double width = SideOf(object, kWidthKey);
     const double height = SideOf(object, kHeightKey);
@@ -185,8 +189,7 @@ Page ReadPage(const std::string& text, const FilePaths& paths) {
         throw PageError(kElementsKey, "must be a list");
     }
     for (std::size_t i = 0; i < elements.size(); ++i) {
-        page.Items().push_back(ItemFromJson(
-            elements[i], paths, kElementsKey + ("[" + std::to_string(i)) + "]"));
+        page.Items().push_back(ItemFromJson(elements[i], paths, PlaceOfElement(i)));
     }
     return page;
 }

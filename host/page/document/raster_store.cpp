@@ -33,10 +33,6 @@ void Placing(const std::string& place, Step step) {
     }
 }
 
-std::string PlaceOfElement(std::size_t index) {
-    return std::string(kElementsKey) + "[" + std::to_string(index) + "]";
-}
-
 /// A map that is not stretched: where its frame has other proportions, it shows more.
 std::shared_ptr<MapPicture> PictureOf(const MapFrame& map, RasterStore& store) {
     std::shared_ptr<MapLayers> layers = store.Map(map.rasterPaths, map.extent);

@@ -6,6 +6,7 @@
 #include <iterator>
 #include <limits>
 
+#include "page/colour_text.h"
 #include "page/document/page_error.h"
 
 namespace host {
@@ -14,31 +15,20 @@ namespace {
 using nlohmann::json;
 using nlohmann::ordered_json;
 
-constexpr char kHexDigits[] = "0123456789ABCDEF";
-
-/// "#RRGGBB", and "#AARRGGBB" where it is not opaque.
-std::string ColourText(Gdiplus::ARGB colour) {
-    const bool isOpaque = colour >> 24 == 0xFF;
-    std::string text = "#";
-    for (int shift = isOpaque ? 20 : 28; shift >= 0; shift -= 4) {
-        text += kHexDigits[(colour >> shift) & 0xF];
+const std::string& TextFromJson(const json& value, const std::string& place) {
+    if (!value.is_string()) {
+        throw PageError(place, "must be a text");
     }
-    return text;
+    return value.get_ref<const std::string&>();
 }
 
-Gdiplus::ARGB ColourFromText(const std::string& text, const std::string& place) {
-    std::uint32_t value = 0;
-    const char* const end = text.data() + text.size();
-    const bool hasLength = text.size() == 7 || text.size() == 9;
-    const bool isHex =
-        hasLength && text.front() == '#' && text.find('-') == std::string::npos;
-    const std::from_chars_result result =
-        isHex ? std::from_chars(text.data() + 1, end, value, 16)
-              : std::from_chars_result{nullptr, std::errc::invalid_argument};
-    if (result.ec != std::errc() || result.ptr != end) {
-        throw PageError(place, "must be #RRGGBB or #AARRGGBB");
+Gdiplus::ARGB ColourFromJson(const json& value, const std::string& place) {
+    const std::optional<Gdiplus::ARGB> colour =
+        ColourFromText(TextFromJson(value, place));
+    if (!colour) {
+        throw PageError(place, "must be #RRGGBB or #RRGGBBAA");
     }
-    return text.size() == 7 ? 0xFF000000 | value : value;
+    return *colour;
 }
 
 /// A float as the shortest decimal that is that float again: 0.1, and not the double
@@ -93,13 +83,6 @@ std::int32_t IntegerFromJson(const json& value, const std::string& place) {
     return static_cast<std::int32_t>(number);
 }
 
-const std::string& TextFromJson(const json& value, const std::string& place) {
-    if (!value.is_string()) {
-        throw PageError(place, "must be a text");
-    }
-    return value.get_ref<const std::string&>();
-}
-
 /// -1 is no value of a choice.
 std::int32_t ChoiceFromJson(const Choices& choices, const json& value,
                             const std::string& place) {
@@ -144,7 +127,7 @@ PropertyValue Read(const Property& property, const json& value, const FilePaths&
         case PropertyKind::Angle:
             return NumberFromJson(value, place);
         case PropertyKind::Colour:
-            return ColourFromText(TextFromJson(value, place), place);
+            return ColourFromJson(value, place);
         case PropertyKind::Text:
         case PropertyKind::Font:
             return TextFromJson(value, place);

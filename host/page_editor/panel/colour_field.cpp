@@ -4,16 +4,14 @@
 #include <QHBoxLayout>
 #include <QPainter>
 #include <QPixmap>
+#include <optional>
+
+#include "page/colour_text.h"
 
 namespace page_editor {
 namespace {
 
 constexpr int kSwatch = 16;
-
-QString TextOf(const QColor& colour) {
-    return colour.name(colour.alpha() == 255 ? QColor::HexRgb : QColor::HexArgb)
-        .toUpper();
-}
 
 /// Half of it over white, so that one sees how transparent it is.
 QIcon Swatch(const QColor& colour) {
@@ -24,15 +22,6 @@ QIcon Swatch(const QColor& colour) {
     painter.setPen(Qt::darkGray);
     painter.drawRect(pixmap.rect().adjusted(0, 0, -1, -1));
     return pixmap;
-}
-
-/// The texts of page files only: no names of colours, no short forms.
-bool IsColourText(const QString& text) {
-    const auto isHex = [](QChar c) {
-        return (c >= '0' && c <= '9') || (c.toLower() >= 'a' && c.toLower() <= 'f');
-    };
-    return (text.size() == 7 || text.size() == 9) && text[0] == '#' &&
-           std::all_of(text.begin() + 1, text.end(), isHex);
 }
 
 }  // namespace
@@ -49,10 +38,9 @@ ColourField::ColourField(QWidget* parent)
 
 void ColourField::Show(const host::PropertyValue& value) {
     m_colour = std::get<Gdiplus::ARGB>(value);
-    const QColor colour = QColor::fromRgba(m_colour);
-    m_line->setText(TextOf(colour));
+    m_line->setText(QString::fromStdString(host::ColourText(m_colour)));
     m_line->setModified(false);
-    m_button->setIcon(Swatch(colour));
+    m_button->setIcon(Swatch(QColor::fromRgba(m_colour)));
 }
 
 void ColourField::FinishTyping() {
@@ -60,11 +48,12 @@ void ColourField::FinishTyping() {
         return;
     }
     m_line->setModified(false);
-    const QString text = m_line->text().trimmed();
-    if (IsColourText(text)) {
-        Tell(Gdiplus::ARGB{QColor(text).rgba()});
+    const std::optional<Gdiplus::ARGB> colour =
+        host::ColourFromText(m_line->text().trimmed().toStdString());
+    if (colour) {
+        Tell(*colour);
     } else {
-        Refuse("must be a colour as #RRGGBB or #AARRGGBB");
+        Refuse("must be a colour as #RRGGBB or #RRGGBBAA");
     }
 }
 

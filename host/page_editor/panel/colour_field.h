@@ -7,7 +7,7 @@
 
 namespace page_editor {
 
-/// A colour as text, #RRGGBB or #AARRGGBB, and a button that shows it and asks for
+/// A colour as text, #RRGGBB or #RRGGBBAA, and a button that shows it and asks for
 /// another.
 class ColourField : public PropertyField {
 public:

@@ -4,7 +4,9 @@
 
 #include <filesystem>
 #include <fstream>
+#include <regex>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "map_page/page_file_folder.h"
@@ -62,6 +64,25 @@ TEST_F(PageFile, IsSavedWithoutDrawingAndSaysWhereItIs) {
               std::string::npos);
 }
 
+TEST_F(PageFile, OfVersion1DrawsTheSamePixels) {
+    ASSERT_EQ(Run({"data/scene.tif", "--save", "page.json", "-o", "drawn.png", "--border",
+                   "#11223344", "--background", "#ffeedd80"})
+                  .status,
+              0);
+    std::string text = ContentsOf(folder.Path("page.json"));
+    for (const auto& [second, first] :
+         {std::pair("\"version\": 2", "\"version\": 1"),
+          std::pair("#11223344", "#44112233"), std::pair("#FFEEDD80", "#80FFEEDD")}) {
+        EXPECT_NE(text.find(second), std::string::npos) << second;
+        text = std::regex_replace(text, std::regex(second), first);
+    }
+    host_tests::WriteFile(folder.Path("first.json"), text);
+    const Result result = Run({"first.json", "-o", "first.png"});
+    ASSERT_EQ(result.status, 0) << result.err;
+    EXPECT_TRUE(ContentsOf(folder.Path("first.png")) ==
+                ContentsOf(folder.Path("drawn.png")));
+}
+
 TEST_F(PageFile, MovesWithItsRasters) {
     fs::create_directories(folder.Path("a/data"));
     fs::rename(folder.Path("data/scene.tif"), folder.Path("a/data/scene.tif"));
@@ -82,7 +103,7 @@ TEST_F(PageFile, SaysWhatIsWrongInOneLineAndOverwritesNothing) {
     std::ofstream(folder.Path("page.png")) << before;
     const auto write = [this](const std::string& name, const std::string& elements) {
         std::ofstream(folder.Path(name))
-            << R"({"version": 1, "width": 400, "height": 300, "elements": [)" << elements
+            << R"({"version": 2, "width": 400, "height": 300, "elements": [)" << elements
             << "]}";
     };
     write("good.json", "");

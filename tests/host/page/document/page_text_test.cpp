@@ -7,6 +7,7 @@
 #include <fstream>
 #include <memory>
 #include <random>
+#include <regex>
 
 #include "hostile_files/damage.h"
 #include "map_surround/title.h"
@@ -22,7 +23,7 @@ using host::ReadPage;
 using PageText = host_tests::DocumentTest;
 
 std::string PageWith(const std::string& elements) {
-    return R"({"version": 1, "width": 400, "height": 300, "elements": [)" + elements +
+    return R"({"version": 2, "width": 400, "height": 300, "elements": [)" + elements +
            "]}";
 }
 
@@ -68,8 +69,9 @@ TEST_F(PageText, WrongPagesAreToldInOneLineThatNamesThePlace) {
         {"[]", "must be an object"},
         {"5", "must be an object"},
         {"{}", "version: is missing"},
-        {R"({"version": 2})", "version: must be 1"},
-        {R"({"version": "1"})", "version: must be 1"},
+        {R"({"version": 3})", "version: must be 1 or 2"},
+        {R"({"version": 1.0})", "version: must be 1 or 2"},
+        {R"({"version": "1"})", "version: must be 1 or 2"},
         {R"({"version": 1, "colour": 1})", "colour: is not known"},
         {R"({"version": 1, "a)" + std::string(100, 'b') + R"(": 1})",
          "a" + std::string(59, 'b') + "...: is not known"},
@@ -119,9 +121,9 @@ TEST_F(PageText, WrongPagesAreToldInOneLineThatNamesThePlace) {
         {PageWith(R"({"type": "title", "text": ")" + std::string(10'001, 'x') + "\"}"),
          "elements[0].text: must have at most 10000 characters"},
         {PageWith(R"({"type": "title", "color": "#12345"})"),
-         "elements[0].color: must be #RRGGBB or #AARRGGBB"},
+         "elements[0].color: must be #RRGGBB or #RRGGBBAA"},
         {PageWith(R"({"type": "title", "color": "#-12345"})"),
-         "elements[0].color: must be #RRGGBB or #AARRGGBB"},
+         "elements[0].color: must be #RRGGBB or #RRGGBBAA"},
         {PageWith(R"({"type": "title", "color": 5})"),
          "elements[0].color: must be a text"},
         {PageWith(R"({"type": "scale-bar-line", "unitPosition": "above"})"),
@@ -191,6 +193,57 @@ TEST_F(PageText, PagesOfEveryTypeTakeTheSameBytesAgain) {
     EXPECT_EQ(again.Height(), 1122.5196850393702);
     EXPECT_EQ(again.Items().size(), host::ItemTypes().size());
     EXPECT_EQ(WritePage(again, paths), text);
+}
+
+struct ColourRow {
+    std::string first;   ///< as in a page of version 1
+    std::string second;  ///< as in a page of version 2
+};
+
+/// A page of every type whose every colour is this one.
+std::string PageOfColour(int version, const std::string& colour) {
+    host::Page page(400.0, 300.0);
+    for (const host::ItemType& type : host::ItemTypes()) {
+        page.Items().push_back(type.make());
+    }
+    const std::string text = std::regex_replace(
+        WritePage(page, {}), std::regex("\"#[0-9A-F]+\""), "\"" + colour + "\"");
+    return std::regex_replace(text, std::regex("\"version\": 2"),
+                              "\"version\": " + std::to_string(version));
+}
+
+TEST_F(PageText, HasTheAlphaFirstInVersion1AndLastInVersion2) {
+    const ColourRow rows[] = {
+        {"#112233", "#112233"}, {"#44112233", "#11223344"}, {"#00ffaa00", "#FFAA0000"}};
+    for (const ColourRow& row : rows) {
+        const std::string second = PageOfColour(2, row.second);
+        EXPECT_EQ(WritePage(ReadPage(second, {}), {}), second);
+        EXPECT_EQ(WritePage(ReadPage(PageOfColour(1, row.first), {}), {}), second);
+    }
+    for (const char* none : {"#12345", "x11223344", "112233445", "#1122334G"}) {
+        EXPECT_EQ(ErrorOf(PageOfColour(1, none)),
+                  "elements[0].frame.borderColor: must be #RRGGBB or #AARRGGBB in "
+                  "version 1")
+            << none;
+        EXPECT_EQ(ErrorOf(PageOfColour(2, none)),
+                  "elements[0].frame.borderColor: must be #RRGGBB or #RRGGBBAA")
+            << none;
+    }
+}
+
+TEST_F(PageText, OfVersion1IsOtherwiseAsWrongAsVersion2) {
+    for (const char* elements : {"5", "{}", R"({"type": "logo", "color": "#12"})",
+                                 R"({"type": "title", "color": 5})",
+                                 R"({"type": 5, "frame": {"borderColor": "#FF000000"}})",
+                                 R"({"type": "frame", "frame": 5})"}) {
+        const std::string second = PageWith(elements);
+        const std::string first =
+            std::regex_replace(second, std::regex("\"version\": 2"), "\"version\": 1");
+        EXPECT_EQ(ErrorOf(first), ErrorOf(second)) << elements;
+        EXPECT_NE(ErrorOf(first), "no error") << elements;
+    }
+    EXPECT_EQ(ErrorOf(R"({"version": 1, "width": 400, "height": 300, "elements": 5})"),
+              "elements: must be a list");
 }
 
 struct PathRow {

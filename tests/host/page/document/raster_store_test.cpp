@@ -118,7 +118,7 @@ TEST_F(OpeningRasters, FilesAndFontsThatCannotBeUsedAreTold) {
     };
     for (const FileRow& row : rows) {
         const host::Page page = host::ReadPage(
-            R"({"version": 1, "width": 400, "height": 300, "elements": [)" + row.element +
+            R"({"version": 2, "width": 400, "height": 300, "elements": [)" + row.element +
                 "]}",
             host::FilePaths(folder.Path("page.json")));
         std::string error;

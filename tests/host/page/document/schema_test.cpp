@@ -47,7 +47,7 @@ private:
 };
 
 json PageWith(const json& element) {
-    return {{"version", 1}, {"width", 400}, {"height", 300}, {"elements", {element}}};
+    return {{"version", 2}, {"width", 400}, {"height", 300}, {"elements", {element}}};
 }
 
 bool IsRead(const json& page) {
@@ -149,6 +149,11 @@ TEST_F(PageSchema, RefusesWhatIsNoPage) {
         EXPECT_FALSE(IsValid(changed)) << key;
     }
     EXPECT_FALSE(IsValid(json::array()));
+    for (const int version : {0, 1, 2, 3}) {
+        json changed = page;
+        changed["version"] = version;
+        EXPECT_EQ(IsValid(changed), IsRead(changed)) << version;
+    }
 }
 
 }  // namespace

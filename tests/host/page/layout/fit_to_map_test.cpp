@@ -46,7 +46,7 @@ class FitToMap : public host_tests::DocumentTest {
 protected:
     host::PlacedFrame& Fit(const std::string& element, const std::string& extent) {
         page = host::ReadPage(
-            R"({"version": 1, "width": 500, "height": 400, "elements": [
+            R"({"version": 2, "width": 500, "height": 400, "elements": [
                 {"type": "map", "rasters": ["scene.tif"], "extent": )" +
                 extent +
                 R"(, "frame": {"left": 50, "top": 350, "width": 400, "height": 300}}, )" +

@@ -178,9 +178,9 @@ TEST_F(PropertyPanel, ChangesASwitch) {
 
 TEST_F(PropertyPanel, ChangesAColour) {
     const std::size_t title = Select("title");
-    Type("color", "#80ff0010");
+    Type("color", "#ff001080");
     EXPECT_EQ(std::get<Gdiplus::ARGB>(Value(title, "color")), 0x80FF0010u);
-    EXPECT_EQ(In<QLineEdit>("color")->text(), "#80FF0010");
+    EXPECT_EQ(In<QLineEdit>("color")->text(), "#FF001080");
     Type("fillColor", "#00FF00");
     EXPECT_EQ(std::get<Gdiplus::ARGB>(Value(title, "fillColor")), 0xFF00FF00u);
     ExpectImageIsThePage();

@@ -91,7 +91,7 @@ TEST_F(FileCommands, LaysAPageOutAroundRasters) {
 
 TEST_F(FileCommands, KeepsThePageWhenAFileCannotBeOpened) {
     Add("frame", {10.0, 10.0, 50.0, 50.0});
-    std::ofstream(folder.Path("bad.json")) << R"({"version": 1, "width": 500})";
+    std::ofstream(folder.Path("bad.json")) << R"({"version": 2, "width": 500})";
     EXPECT_FALSE(files.OpenFiles({Path("bad.json")}));
     EXPECT_EQ(window.LastFailure(), Path("bad.json") + ": height: is missing");
     EXPECT_FALSE(files.OpenFiles({Path("none.json")}));
