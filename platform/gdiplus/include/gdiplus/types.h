@@ -13,18 +13,21 @@ typedef std::uint32_t UINT32;
 typedef std::uint8_t BYTE;
 typedef std::uint32_t DWORD;
 typedef std::uint32_t ULONG;  ///< 32 bits, as on Windows
+#ifndef BOOL  // a macro in ODBC's headers, for the same type
 typedef std::int32_t BOOL;
+#endif
 typedef wchar_t WCHAR;
 typedef std::uint16_t LANGID;
 typedef std::uintptr_t ULONG_PTR;
 typedef void VOID;
+static_assert(sizeof(BOOL) == 4);
 
 typedef float REAL;
 typedef std::uint32_t ARGB;  ///< alpha in the top byte, then red, green, blue
 
-typedef UINT GraphicsState;  ///< what Graphics::Save gives for Graphics::Restore
+typedef UINT GraphicsState;  ///< from Graphics::Save, for Graphics::Restore
 
-/// A number of 128 bits that names a codec or a setting.
+/// A 128-bit identifier of a codec or a setting.
 struct GUID {
     /// The number in its four parts.
     std::uint32_t Data1;
@@ -43,7 +46,7 @@ inline bool operator==(const GUID& a, const GUID& b) {
 }
 inline bool operator!=(const GUID& a, const GUID& b) { return !(a == b); }
 
-// What the flat functions call the types that are plain values.
+// The flat functions' names for plain value types.
 typedef Status GpStatus;
 typedef Unit GpUnit;
 typedef FillMode GpFillMode;
@@ -52,7 +55,7 @@ typedef DashStyle GpDashStyle;
 typedef LineCap GpLineCap;
 typedef LineJoin GpLineJoin;
 
-// The objects behind the classes, reached only through pointers.
+// The native objects, only ever used through pointers.
 class GpGraphics {};
 class GpImage {};
 class GpBitmap : public GpImage {};
