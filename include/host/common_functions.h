@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// What a host formats numbers and tells classes with.
+/// Number formatting and classification tables.
 
 #include <cstdint>
 #include <string>
@@ -25,7 +25,7 @@ class CClassifyDisplayTable {
 public:
     virtual ~CClassifyDisplayTable() = default;
 
-    /// How many classes there are; none when it is below 1.
+    /// How many classes there are; a count below 1 means none.
     virtual int GetClassesCount() = 0;
 
     /// The class at a zero-based index below the count.
@@ -35,12 +35,11 @@ public:
 /// Numbers as text, the same in every locale.
 class CommonFun {
 public:
-    /// The decimal text of a value, correctly rounded to exactly `digits` places; no
-    /// negative zero. `double2wstring(0.125, 2)` is "0.12": a tie between two decimals is
-    /// one of the exact binary value, and goes to the even digit. What is no number is
-    /// "nan", what is none any more "inf" or "-inf", whatever the digits.
-    /// @param digits a count below 0 is taken as 0, one above 1074 as 1074: no double has
-    /// more decimal places
+    /// The decimal text of a value, correctly rounded to exactly `digits` places; never a
+    /// negative zero. `double2wstring(0.125, 2)` is "0.12": ties, which are judged on the
+    /// exact binary value, go to the even digit. NaN is "nan" and the infinities are
+    /// "inf" and "-inf", whatever the digits.
+    /// @param digits clamped to 0 and 1074, which is the most decimal places a double has
     static std::wstring double2wstring(double value, int digits);
 
     /// The decimal text of an integer, with a leading "-" when it is negative.

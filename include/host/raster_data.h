@@ -28,14 +28,14 @@ class CBoundingBox {
 public:
     CBoundingBox() = default;
 
-    /// The box that spans two opposite corners.
+    /// The box spanned by two opposite corners.
     CBoundingBox(double x1, double y1, double x2, double y2)
         : m_left(x1 < x2 ? x1 : x2),
           m_bottom(y1 < y2 ? y1 : y2),
           m_right(x1 < x2 ? x2 : x1),
           m_top(y1 < y2 ? y2 : y1) {}
 
-    /// True inside the box and on its boundary; never true of an empty box.
+    /// True inside the box and on its boundary; never true for an empty box.
     bool IsContain(CPoint2D point) const {
         return m_left <= point.x && point.x <= m_right && m_bottom <= point.y &&
                point.y <= m_top;
@@ -46,7 +46,7 @@ public:
         return CPoint2D(IsEmpty() ? 0.0 : m_left, IsEmpty() ? 0.0 : m_top);
     }
 
-    /// Page units; 0 of an empty box.
+    /// Page units; 0 for an empty box.
     double GetWidth() const { return IsEmpty() ? 0.0 : m_right - m_left; }
     double GetHeight() const { return IsEmpty() ? 0.0 : m_top - m_bottom; }
 
@@ -64,7 +64,7 @@ public:
 private:
     bool IsEmpty() const { return !(m_left <= m_right && m_bottom <= m_top); }
 
-    // Edges in the wrong order are what makes a default box empty.
+    // A default box is empty because its edges are in the wrong order.
     double m_left = 1.0;
     double m_bottom = 1.0;
     double m_right = 0.0;
@@ -78,7 +78,7 @@ enum GISDataSourceType : std::int32_t { DataSourceUnknown = 0, DataSourceRaster 
 enum DataDisplayType : std::int32_t {
     DisplayRGB = 0,         ///< three bands as red, green and blue
     DisplayGray = 1,        ///< one band as a grey ramp
-    DisplayClassified = 2,  ///< one colour a class
+    DisplayClassified = 2,  ///< one colour per class
 };
 
 /// Something shown on the map: what the legend asks of any data source.
@@ -88,8 +88,8 @@ class CGISDataSource {
 public:
     virtual ~CGISDataSource() = default;
 
-    /// The library calls none of these four. With the destructor they stand before
-    /// IsAvailable, which is the sixth operation of the interface.
+    /// Not called by the library. With the destructor they come before IsAvailable, which
+    /// is the sixth operation of the interface.
     virtual void Reserved1() {}
     virtual void Reserved2() {}
     virtual void Reserved3() {}
@@ -98,7 +98,7 @@ public:
     /// Whether the source can be shown; the legend leaves it out when it cannot.
     virtual bool IsAvailable() = 0;
 
-    /// What it is, and so which class derives from this one.
+    /// What kind of source it is, and so which derived class.
     virtual GISDataSourceType GetDataSourceType() = 0;
 
     /// The name that the legend shows for the source.
@@ -115,7 +115,7 @@ public:
 
     /// Writes the smallest and the largest value of the band.
     /// @param approximate an estimate from an overview or a sample will do
-    /// @return false when they cannot be had; the two values then stay as they were
+    /// @return false when they cannot be determined; the two values are then unchanged
     virtual bool ComputeMinMax(double* min, double* max, bool approximate) = 0;
 };
 

@@ -1,21 +1,18 @@
 #pragma once
 
 /// @file
-/// What all elements are: CMapSurround and their kinds.
+/// CMapSurround, the base of every element, and the kinds of element.
 
 #include <gdiplus.h>
 
 #include <cstdint>
 
-// In angle brackets: our own declarations stand beside a source of ours, and must not
-// be found there where a host has replaced them.
-#include <host/device_geometry.h>
-
+#include "host/device_geometry.h"
 #include "map_surround/export.h"
 
-/// The kind of a map surround element, as each class's constructor sets it.
+/// The kind of a map surround element; each class's constructor sets its own.
 enum MapSurroundType : std::int32_t {
-    SurroundNone = 0,  ///< of no concrete element
+    SurroundNone = 0,  ///< no concrete element
     SurroundNorthArrow = 1,
     SurroundScaleBar = 2,
     SurroundMapTitle = 3,
@@ -33,11 +30,13 @@ enum MapSurroundType : std::int32_t {
 /// - Setters store and nothing else: they neither check nor measure. After a change of
 ///   what an element shows, the host calls ResetAspectRatio() and sizes the frame from
 ///   GetSize() and GetAspectRatio().
-/// - Any value may be stored and drawn; lengths beyond 32 bits are drawn at the limit.
-/// - Elements are used by one thread at a time, and start and stop nothing.
-/// - Nothing throws of itself. Where memory runs out, std::bad_alloc leaves the
-/// operation,
-///   and the element is as it was before it; what was drawn until then stays drawn.
+/// - Any value may be stored and drawn; lengths beyond 32 bits are clamped to the limit.
+/// - An element is used by one thread at a time. Starting and stopping GDI+ is the
+///   host's business.
+/// - The library throws nothing of its own. When memory runs out, std::bad_alloc leaves
+///   the operation and the element is as it was before; what was already drawn stays.
+/// - The box that size and aspect ratio span is the layout's, not the ink's: a title's
+///   glyphs, a legend's labels and a scale bar's unit name may reach past it.
 class MAP_SURROUND_API CMapSurround {
 public:
     CMapSurround() = default;
@@ -45,26 +44,26 @@ public:
     CMapSurround(const CMapSurround&) = default;
     CMapSurround& operator=(const CMapSurround&) = default;
 
-    /// A frame disposes of its element through this.
+    /// A frame deletes its element through this.
     virtual ~CMapSurround();
 
     /// Draws the element with its centre on a device point.
     ///
-    /// The title, the picture and the north arrows turn themselves by the angle about
-    /// `centre`, on top of the world transform they find, and leave the identity: a
-    /// caller with a transform of its own sets it again after each element. The legend
-    /// and the scale bars ignore the angle and never touch the transform.
+    /// The title, the picture and the north arrows rotate themselves by the angle about
+    /// `centre`, on top of the current world transform, and then reset the transform to
+    /// the identity: a caller with a transform of its own sets it again after each
+    /// element. The legend and the scale bars ignore the angle and never touch the
+    /// transform.
     ///
-    /// A failed drawing operation does not stop the drawing; its status is the surface's
-    /// last status afterwards.
+    /// A drawing call that fails does not stop the drawing; its status stays behind as
+    /// the surface's last status.
     /// @param graphics the surface, not null; not owned
     /// @param centre device pixels
-    /// @param scale device pixels in one page unit
+    /// @param scale device pixels per page unit
     virtual void Draw(Gdiplus::Graphics* graphics, CPoint centre, double scale) = 0;
 
-    /// Works the natural proportions out anew from the content. Leaves the aspect ratio
-    /// as it is here; the title, the legend, the picture and the scale bars have their
-    /// own.
+    /// Recomputes the natural proportions from the content. Does nothing here; the title,
+    /// the legend, the picture and the scale bars override it.
     virtual void ResetAspectRatio();
 
     /// The main drawing colour.
@@ -79,12 +78,12 @@ public:
     float GetAspectRatio() const { return m_aspectRatio; }
     void SetAspectRatio(float aspectRatio) { m_aspectRatio = aspectRatio; }
 
-    /// Degrees, clockwise on the device surface; one that is not finite turns nothing.
+    /// Degrees, clockwise on the device surface; an angle that is not finite counts as 0.
     float GetAngle() const { return m_angle; }
     void SetAngle(float angle) { m_angle = angle; }
 
-    /// The kind of element, set by each class. Storing another changes nothing but the
-    /// answer.
+    /// The kind of element, set by each class. Storing another kind changes only what
+    /// the getter returns.
     MapSurroundType GetItemType() const { return m_itemType; }
     void SetItemType(MapSurroundType type) { m_itemType = type; }
 

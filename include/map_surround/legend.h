@@ -16,30 +16,38 @@
 /// What the colours of the map mean: a title, then for every raster source its file name
 /// and its entries, from top to bottom.
 ///
-/// The entries follow the source's display type: three swatches with band numbers for
-/// DisplayRGB, a grey ramp with the first band's highest and lowest value for
-/// DisplayGray, a swatch and a label a class for DisplayClassified, none for any other. A
-/// source that is not available or not a raster is left out, and so is a null pointer. A
-/// class count below 1 and a missing classification table list nothing; a missing class
-/// leaves its row empty; a missing band, and one that cannot tell its values, has 0 for
-/// both of them.
+/// The entries depend on the source's display type:
+/// - DisplayRGB: three swatches (red, green, blue), labelled U+6CE2 U+6BB5 ("band"), an
+///   underscore and the band's number, counted from 1;
+/// - DisplayGray: a grey ramp, labelled U+9AD8 ("high") and U+4F4E ("low"), each followed
+///   by " : " and the first band's highest or lowest value, cut to a whole number;
+/// - DisplayClassified: a swatch and a label for each class;
+/// - any other: none.
 ///
-/// The names of the accessors are those of old: the *title* is the font family of the
-/// title and the *title value* its text, the *file name* is the font family of the
-/// file-name lines. The names shown come from the sources.
+/// The file name follows U+5F71 U+50CF U+540D U+FF1A ("image name:"). These captions are
+/// fixed; the labels of classes are the host's.
+///
+/// Null pointers, sources that are not available and sources that are not rasters are
+/// left out. A class count below 1 or a missing classification table lists nothing; a
+/// missing class leaves its row empty; a missing band, or one without minimum and
+/// maximum, shows 0 for both.
+///
+/// Mind the accessors' names: the *title* is the title's font family and the *title
+/// value* its text; the *file name* is the font family of the file-name lines. The file
+/// names themselves come from the sources.
 ///
 /// The legend is measured once, by ResetAspectRatio(), and drawn at any scale in the same
 /// proportions; Draw never measures the layout. The host calls ResetAspectRatio() before
 /// the first Draw and after each change of texts, fonts, sizes, size factor or sources.
-/// Until then the base size and every proportion are 0 and no text can be seen.
+/// Until then the size and every proportion are 0 and no text is visible.
 ///
 /// The front colour and the angle have no effect.
 class MAP_SURROUND_API CMapLegend : public CMapSurround {
 public:
     CMapLegend();
 
-    /// Copies everything; the copy explains the same sources. An assignment for which
-    /// there is not enough memory changes nothing.
+    /// Copies everything; the copy explains the same sources. An assignment that runs out
+    /// of memory changes nothing.
     CMapLegend(const CMapLegend&) = default;
     CMapLegend& operator=(const CMapLegend& other);
     CMapLegend& operator=(CMapLegend&&) = default;
@@ -47,45 +55,48 @@ public:
     /// Leaves the sources alive.
     ~CMapLegend() override;
 
-    /// Measures the content in pixels and sets from it the size (the natural height), the
-    /// aspect ratio and the proportions that Draw uses. A size that the host set is lost.
+    /// Measures the content in pixels and sets the size (the natural height), the aspect
+    /// ratio and the proportions that Draw uses. A size set by the host is overwritten.
     ///
-    /// The title size and the file-name size are first multiplied by the size factor,
-    /// each time anew: with factor 2 a title size of 20 is 40 after the first call and 80
-    /// after the second. A host that scales once sets the factor back to 1.
+    /// The title size and the file-name size are first multiplied by the size factor, on
+    /// every call: with factor 2 a title size of 20 is 40 after the first call and 80
+    /// after the second. A host that wants to scale once sets the factor back to 1.
     ///
-    /// Texts are measured by the ink of their outlines. The height of a row is that of
-    /// the sample "Band_1", a swatch is 6/10 of it, every gap is 12 pixels. With a title
-    /// 20 high and rows 13 high (so swatches of 7), an RGB source and a grey one make 20
-    /// + 24 + (13 + 3 * 7 + 36) + (13 + 4 * 7 + 12) + 24 - 12 = 179. The width is the
-    /// widest of the title, three samples, each bare file name, and each class label set
-    /// off by two samples.
+    /// Texts are measured by the ink of their outlines. A row is as high as the sample
+    /// "Band_1", a swatch is 6/10 of that, every gap is 12 pixels. With a title 20 high
+    /// and rows 13 high (so swatches of 7), an RGB source and a grey one make 20 + 24 +
+    /// (13 + 3 * 7 + 36) + (13 + 4 * 7 + 12) + 24 - 12 = 179. The width is the widest of
+    /// the title, three samples, each bare file name, and each class label indented by
+    /// two samples.
     ///
-    /// A measurement that memory runs out for, or that a source ends with an exception of
-    /// its own, changes nothing.
+    /// The captions, the band labels and the values are not part of the width, and the
+    /// last label is taller than its swatch: both may reach past the measured box.
+    ///
+    /// When memory runs out, or a source throws, nothing has changed.
     ///
     /// A font that does not exist measures 0 by 0, and the legend shrinks accordingly. A
-    /// height beyond 32 bits is taken as the limit.
+    /// height beyond 32 bits is clamped to the limit.
     void ResetAspectRatio() override;
 
-    /// Draws the legend with its centre on a device point, unturned and unclipped, with
-    /// neither border nor background; empty texts are handed on to be drawn all the same.
+    /// Draws the legend with its centre on a device point, unrotated and unclipped, with
+    /// no border and no background. Empty texts are passed to GDI+ like any other.
     ///
     /// Entries are always in "Arial", whatever the family of the file names. A grey
-    /// source's low value stands a tenth of a row above its high value, so that the two
-    /// overlap, in the last colour of the ramp; a table without classes moves what
-    /// follows down by a gap that the measured height has not. All of that is meant.
+    /// source's low value sits a tenth of a row above its high value, so that the two
+    /// overlap, in the last colour of the ramp; an empty classification table pushes what
+    /// follows down by a gap that the measured height does not include. All of this is
+    /// intended.
     ///
-    /// The strips of a ramp may be thinner than a pixel. With anti-aliasing on they never
-    /// come to black, so a host draws legends with GDI+'s default smoothing.
+    /// The strips of a ramp may be thinner than a pixel. Anti-aliased they never reach
+    /// black, so draw legends with GDI+'s default smoothing.
     ///
-    /// The sources are asked anew for everything, so one that changed since the layout
-    /// was measured is drawn as it is now.
+    /// Every source is queried again, so one that has changed since it was measured is
+    /// drawn as it is now.
     void Draw(Gdiplus::Graphics* graphics, CPoint centre, double scale) override;
 
     /// The sources to explain, in order. The host owns them and keeps them alive while
-    /// the legend or a copy of it is measured or drawn. One that answers DataSourceRaster
-    /// is a CRasterSource.
+    /// the legend or a copy of it is measured or drawn. A source whose type is
+    /// DataSourceRaster must be a CRasterSource.
     void SetDataSouce(std::vector<CGISDataSource*> sources) {
         m_dataSources = std::move(sources);
     }

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// The picture from an image file.
+/// The picture element.
 
 #include <gdiplus.h>
 
@@ -14,7 +14,7 @@
 /// An image file on the page: a logo, a photograph.
 ///
 /// Copies share the image: the host must not let two copies destroy it. An assignment
-/// for which there is not enough memory changes nothing.
+/// that runs out of memory changes nothing.
 class MAP_SURROUND_API CDrawPicture : public CMapSurround {
 public:
     CDrawPicture();
@@ -22,39 +22,39 @@ public:
     CDrawPicture(const CDrawPicture&) = default;
     CDrawPicture& operator=(const CDrawPicture& other);
 
-    /// Disposes of the image.
+    /// Deletes the image.
     ~CDrawPicture() override;
 
-    /// Loads an image file in any format that GDI+ decodes, in place of the one held, and
-    /// picks a size from its height H in pixels: H / 5; H / 10 when width and height are
-    /// over 768; H / 20 when both are over 1920; H / 3 when both are under 768. An image
-    /// of 1000 x 1000 pixels gets size 100. The aspect ratio becomes the image's.
-    /// @param path a null pointer counts as an empty name, which no file has
-    /// @return whether there is an image object: false where there is no memory for it.
-    /// One whose file could not be loaded is one too, with size 0 and aspect ratio NaN
-    /// (0/0): the host checks the file before.
+    /// Loads an image file in any format that GDI+ decodes, replacing the current one,
+    /// and picks a size from its height H in pixels: H / 5; H / 10 when width and height
+    /// are over 768; H / 20 when both are over 1920; H / 3 when both are under 768. An
+    /// image of 1000 x 1000 pixels gets size 100. The aspect ratio becomes the image's.
+    /// @param path a null pointer counts as an empty name, which never loads
+    /// @return false only when there is no memory for the image object. It is true for a
+    /// file that could not be loaded, which leaves size 0 and aspect ratio NaN (0/0): the
+    /// host checks the file first.
     bool Open(const wchar_t* path);
 
-    /// Sets the aspect ratio and the new height to those of the box around the picture at
-    /// its size, turned by the angle. It starts from the image's own proportions each
-    /// time, so it may be called again and again. A 200 x 100 image at size 50 turned by
-    /// 90 degrees gives a new height of 100 and an aspect ratio of 0.5.
+    /// Sets the aspect ratio and the new height to those of the bounding box of the
+    /// picture at its size, rotated by the angle. It starts from the image's own
+    /// proportions each time, so repeated calls do not drift. A 200 x 100 image at size
+    /// 50 rotated by 90 degrees gives a new height of 100 and an aspect ratio of 0.5.
     void ResetAspectRatio() override;
 
-    /// Stretches the image into the element's rectangle, turned by the angle about the
-    /// centre; nothing before the first Open.
+    /// Stretches the image into the element's rectangle, rotated by the angle about the
+    /// centre; draws nothing before the first Open.
     ///
-    /// The rectangle is as high as the size and has the aspect ratio as it stands. That
-    /// is the turned box's after ResetAspectRatio(): the 200 x 100 image turned by 90
-    /// degrees is then drawn 25 wide and 50 high before it is turned. A host that wants
-    /// the image's own proportions sets the aspect ratio to those once it has read the
-    /// box's.
+    /// The rectangle is as high as the size and has the current aspect ratio, which after
+    /// ResetAspectRatio() is that of the rotated box: the 200 x 100 image rotated by 90
+    /// degrees is stretched to 25 by 50 and then rotated. A host that wants the image's
+    /// own proportions sets the aspect ratio back to them after reading the box's.
     void Draw(Gdiplus::Graphics* graphics, CPoint centre, double scale) override;
 
-    /// What the last Open was given.
+    /// The path given to the last Open.
     std::wstring GetPath() const { return m_path; }
 
-    /// The height of the turned picture's box, in page units; 0 until ResetAspectRatio.
+    /// The height of the rotated picture's bounding box, in page units; 0 until
+    /// ResetAspectRatio().
     int GetNewHeight() const { return m_newHeight; }
 
 private:

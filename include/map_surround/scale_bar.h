@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// Scale bars, their styles and where their unit stands.
+/// Scale bars, their styles and where the unit name goes.
 
 #include <gdiplus.h>
 
@@ -17,8 +17,8 @@ namespace map_surround {
 class BarDrawing;
 }  // namespace map_surround
 
-/// The style of a scale bar, as each class's constructor sets it. 0, 4 and 5 are of no
-/// class.
+/// The style of a scale bar; each class's constructor sets its own. 0, 4 and 5 are not
+/// used.
 enum ScaleBarType : std::int32_t {
     ScaleBarLine = 1,
     ScaleBarLine2 = 2,
@@ -27,13 +27,13 @@ enum ScaleBarType : std::int32_t {
     ScaleBarAlternate = 7,
 };
 
-/// Where the unit name stands. Any other value puts it at the device point (0, 0).
+/// Where the unit name goes. Any other value puts it at the device point (0, 0).
 enum ScaleBarPostion : std::int32_t {
     UnitPosAfter = 0,   ///< to the right of the last division
-    UnitPosBefore = 1,  ///< at the left edge; the divisions move right to leave room
+    UnitPosBefore = 1,  ///< at the left edge; the divisions move right to make room
 };
 
-/// A bar that shows how long a distance on the ground is on the page.
+/// A bar that shows how long a ground distance is on the page.
 ///
 /// The bar has a number of main divisions, and some styles cut them into sub-divisions.
 /// One division stands for the *division value*: the paper-to-data scale rounded down to
@@ -43,20 +43,23 @@ enum ScaleBarPostion : std::int32_t {
 /// by the factor 2000 / 2500 = 0.8. The factor is over 0.1 and at most 1.
 ///
 /// Conventions of every style:
-/// - Labels below 1 have as many decimals as their one digit needs: 0.037 gives the
-///   division value 0.03 and the labels 0.00, 0.03, 0.06; from 1 on they have none. The
-///   alternating style alone writes a division value of 1 with one decimal, 1.0.
-/// - A paper-to-data scale that is below 1e-8, negative, infinite or NaN draws nothing at
-///   all and keeps the aspect ratio.
+/// - A division is drawn in whole pixels: its length is truncated, and every division
+///   carries the same error. Ten divisions of 9.99 pixels are 90 pixels long, not 99.9.
+/// - Labels of division values below 1 have as many decimals as the one digit needs:
+///   0.037 gives the division value 0.03 and the labels 0.00, 0.03, 0.06. From 1 up they
+///   have none. The alternating style alone writes a division value of 1 with one
+///   decimal, 1.0.
+/// - With a paper-to-data scale below 1e-8, negative, infinite or NaN, the bar draws
+///   nothing and keeps its aspect ratio.
 /// - The height follows the size and the drawing scale; the length of a division does
 ///   not. A host that prints at another resolution changes the paper-to-screen scale.
 /// - Labels are "Times New Roman" at a quarter of the bar's height, the unit name at a
 ///   third of it.
-/// - Angles are ignored and the world transform is never touched.
-/// - The counts are taken as they come. A count of a thousand million is drawn, slowly.
+/// - The angle is ignored and the world transform is never touched.
+/// - Counts are not limited. A count of a thousand million is drawn, slowly.
 ///
-/// A copy has a font family and a brush of its own. An assignment for which there is not
-/// enough memory changes nothing.
+/// A bar holds a GDI+ font family and brush from construction on, so start GDI+ before
+/// making one. A copy has its own. An assignment that runs out of memory changes nothing.
 class MAP_SURROUND_API CScaleBarBase : public CMapSurround {
 public:
     /// Item type SurroundScaleBar, size 40, aspect ratio 5.8.
@@ -67,65 +70,69 @@ public:
 
     ~CScaleBarBase() override;
 
-    /// Sets the aspect ratio so that the width holds the divisions and margins of about
-    /// the size: main division count x screen-to-paper scale x factor, plus 1/5, 1/40,
-    /// 2/3 and 1/40 of the size. Size 40, 5 divisions of 10 and a paper-to-data scale of
-    /// 1 are 50 + 8 + 1 + 26.67 + 1 = 86.67 wide: an aspect ratio of 2.167. The styles'
-    /// own margins differ a little, so the width fits about. The host calls
-    /// SetScreen2PaperByOneScale before. With size 0 the aspect ratio is infinite or NaN.
+    /// Sets the aspect ratio so that the width holds the divisions and the margins: main
+    /// division count x screen-to-paper scale x factor, plus 1/5, 1/40, 2/3 and 1/40 of
+    /// the size. Size 40, 5 divisions of 10 and a paper-to-data scale of 1 are
+    /// 50 + 8 + 1 + 26.67 + 1 = 86.67 wide: an aspect ratio of 2.167. The styles' own
+    /// margins differ a little and texts are not measured, so the width is approximate.
+    /// Call SetScreen2PaperByOneScale first. With size 0 the aspect ratio is infinite or
+    /// NaN.
     void ResetAspectRatio() override;
 
-    /// The map distance of one division before rounding, in the host's map unit.
+    /// The map distance of one division before rounding, in the host's map units.
     void SetPaper2DataScale(double scale) { m_paper2DataScale = scale; }
 
     /// The length of that distance in device pixels.
     void SetPaper2ScreenScale(double scale) { m_paper2ScreenScale = scale; }
 
-    /// The same length in the unit of the element's size; only ResetAspectRatio reads it.
+    /// The same length in page units; only ResetAspectRatio() reads it.
     void SetScreen2PaperByOneScale(double scale) { m_screen2PaperByOneScale = scale; }
 
-    /// How many main divisions there are. With a negative count nothing is divided, and
-    /// what hangs on the last division is drawn from the device point (0, 0).
+    /// How many main divisions there are. A negative count draws none: in the line styles
+    /// the base line then runs to the device point (0, 0), which the unit name follows.
+    /// The box styles put the unit name a third of the height above y 0 for a count of 0
+    /// or less, write the one label of that count, and in the alternating style the two
+    /// lines of a negative count run left from the first division.
     int GetMainDivCount() const { return m_mainDivCount; }
     void SetMainDivCount(int count) { m_mainDivCount = count; }
 
-    /// How many sub-division ticks stand between two main ticks: a count of 4 cuts a main
-    /// division into 5 equal parts.
+    /// How many sub-division ticks there are between two main ticks: a count of 4 divides
+    /// a main division into 5 equal parts.
     int GetSubDivCount() const { return m_subDivCount; }
     void SetSubDivCount(int count) { m_subDivCount = count; }
 
-    /// Where the unit name stands.
+    /// Where the unit name goes.
     ScaleBarPostion GetUnitPos() const { return m_unitPos; }
     void SetUnitPos(ScaleBarPostion position) { m_unitPos = position; }
 
-    /// Stored only: it is the class that draws, whatever the type says.
+    /// Stored only: the class decides what is drawn, whatever the type says.
     ScaleBarType GetScaleBarType() const { return m_scaleBarType; }
     void SetScaleBarType(ScaleBarType type) { m_scaleBarType = type; }
 
-    /// The unit of the host's choice, MeasureUnknown until it is set. Stored only: a
-    /// scale bar never converts, its labels are in the unit of the paper-to-data scale.
+    /// A unit for the host's own use, MeasureUnknown by default. Stored only: a scale bar
+    /// never converts, its labels are in the unit of the paper-to-data scale.
     CommonMeasureUnits GetDestUnitType() const { return m_destUnitType; }
     void SetDestUnitType(CommonMeasureUnits unit) { m_destUnitType = unit; }
 
-    /// The unit name as it is written, after the translation by SetUnitsName; the Chinese
-    /// word for "unit" (U+5355 U+4F4D) until one is set.
+    /// The unit name as drawn, after translation by SetUnitsName; the Chinese word for
+    /// "unit" (U+5355 U+4F4D) by default.
     std::wstring GetUnitsName() const { return m_unitsName; }
 
-    /// Stores the unit name, translated into Chinese where it is one of the words that
-    /// hosts use: degree, Degree, meter, Meter, metre, Metre, Kilometer, Kilometre,
-    /// unknown, Unknown. `SetUnitsName(L"Metre")` stores L"\u7C73". Every other name is
-    /// stored as it is, "km", "METER" and "kilometer" too.
+    /// Stores the unit name. These words are translated into Chinese: degree, Degree,
+    /// meter, Meter, metre, Metre, Kilometer, Kilometre, unknown, Unknown.
+    /// `SetUnitsName(L"Metre")` stores L"\u7C73". Any other name, such as "km", "METER"
+    /// or "kilometer", is stored as it is.
     void SetUnitsName(std::wstring name);
 
 protected:
-    /// A drawable style.
+    /// For a style that can be drawn.
     explicit CScaleBarBase(ScaleBarType type);
 
 private:
     friend class map_surround::BarDrawing;
 
-    /// What the bar holds of GDI+. It cannot be copied there, so a copied bar makes anew
-    /// what is the same in every bar.
+    /// The bar's GDI+ objects. GDI+ cannot copy them, so a copied bar makes its own,
+    /// which are the same in every bar.
     struct Resources {
         Resources() = default;
         Resources(const Resources&) {}
@@ -177,7 +184,7 @@ public:
 };
 
 /// The line style with the base line a sixth of the height above the feet of the main
-/// ticks and the sub ticks centred on it.
+/// ticks, and the sub ticks centred on it.
 class MAP_SURROUND_API CScaleLine2 : public CScaleBarBase {
 public:
     CScaleLine2();
@@ -202,9 +209,9 @@ private:
                       double scale) const;
 };
 
-/// A strip of boxes, one for each main division, by turns empty and filled. The first
-/// division alone is cut into boxes for the sub-divisions, filled and empty by turns, and
-/// its last part is left open between the strip's two lines.
+/// A strip of boxes, one for each main division, alternately empty and filled. Only the
+/// first division is cut into boxes for the sub-divisions, alternately filled and empty,
+/// and its last part is left open between the strip's two lines.
 ///
 /// With 5 divisions and 4 sub-divisions the first and the third of the small boxes and
 /// the third and the fifth division are filled.
@@ -220,12 +227,12 @@ private:
     std::int32_t m_divisionCounter = 0;  // boxes drawn so far
 };
 
-/// A row of boxes, one for each main division, of which every other one is filled, the
-/// first to begin with. There are no sub-divisions.
+/// A row of boxes, one for each main division, alternately filled and empty, starting
+/// with a filled one. There are no sub-divisions.
 ///
-/// The boxes have the width of the division before rounding, so they overlap where it was
-/// rounded down: at a paper-to-data scale of 2500 and a paper-to-screen scale of 25 they
-/// are 25 pixels wide and 20 apart.
+/// A box is as wide as the division before rounding, so boxes overlap where the division
+/// value was rounded down: at a paper-to-data scale of 2500 and a paper-to-screen scale
+/// of 25 they are 25 pixels wide and 20 apart.
 class MAP_SURROUND_API CScaleEquAltenate : public CScaleBarBase {
 public:
     CScaleEquAltenate();
@@ -238,8 +245,8 @@ private:
     std::int32_t m_divisionCounter = 0;  // boxes drawn so far
 };
 
-/// Holds the place of a style with a single division: there is nothing to draw it with,
-/// and so none can be made.
+/// A placeholder for a style with a single division. It has no Draw, so it cannot be
+/// instantiated.
 class MAP_SURROUND_API CSingleDivisionScaleBar : public CScaleBarBase {
 public:
     CSingleDivisionScaleBar();

@@ -12,8 +12,8 @@
 #include "map_surround/element.h"
 #include "map_surround/export.h"
 
-/// The style of the title's font. The values are GDI+'s FontStyle, handed on as they
-/// stand; flags combine by bitwise or.
+/// The style of the title's font. The values are GDI+'s FontStyle; flags combine by
+/// bitwise or.
 enum FontProcess : std::int32_t {
     FontProcessRegular = 0,
     FontProcessBold = 1,
@@ -25,32 +25,35 @@ enum FontProcess : std::int32_t {
 
 /// One line of text in the front colour: the title of the map.
 ///
-/// The names of the accessors are those of old: the font *value* is the text, the font
-/// *style* is the name of the font family, the font *process* is the style.
+/// Mind the accessors' names: the font *value* is the text, the font *style* is the name
+/// of the font family, the font *process* is the style.
 ///
 /// The host sets text, family, style and size, then calls ResetAspectRatio(), and again
-/// after each change. There is no default family; where GDI+ finds none of the name,
-/// nothing is drawn and measured (libgdiplus finds a substitute for any name).
+/// after each change. There is no default family. A family that GDI+ does not find draws
+/// and measures nothing (libgdiplus substitutes a font for any name).
 class MAP_SURROUND_API CMapTitle : public CMapSurround {
 public:
     CMapTitle();
-    /// Copies everything. An assignment for which there is not enough memory changes
-    /// nothing.
+    /// Copies everything. An assignment that runs out of memory changes nothing.
     CMapTitle(const CMapTitle&) = default;
     CMapTitle& operator=(const CMapTitle& other);
     CMapTitle& operator=(CMapTitle&&) = default;
 
-    /// Measures the outline of the text at scale 1, turned by the angle. The size becomes
-    /// the height of the box around the turned outline and the aspect ratio its width
-    /// over its height, so the size follows the font, not the other way round. A text
-    /// outline of 60 by 20 gives size 20 and aspect ratio 3 at angle 0. Where nothing can
-    /// be measured the size becomes 0 and the aspect ratio NaN (0/0).
+    /// Measures the outline of the text at scale 1, rotated by the angle. The size
+    /// becomes the height of the rotated outline's bounding box and the aspect ratio its
+    /// width over its height, so the size follows the font, not the other way round. A
+    /// text outline of 60 by 20 gives size 20 and aspect ratio 3 at angle 0. If nothing
+    /// can be measured the size becomes 0 and the aspect ratio NaN (0/0).
     void ResetAspectRatio() override;
 
-    /// Draws the text turned by the angle about the centre, in font size times scale
-    /// pixels; nothing at all for an empty text. The layout point is half the measured
-    /// width and height up and left of the centre; GDI+ then sets the glyphs off from it
-    /// by their side bearing and ascent, and that offset is kept.
+    /// Draws the text rotated by the angle about the centre, with an em of font size
+    /// times scale pixels; draws nothing for an empty text.
+    ///
+    /// The text's layout box starts half the measured width and height up and left of the
+    /// centre. The glyphs sit inside it by their side bearing and the font's ascent, so
+    /// the ink lands low and to the right, and reaches past the box of GetSize() and
+    /// GetAspectRatio(): "Olinda" in Arial bold at 120 pixels is 89 high, and its ink
+    /// lies 22 pixels lower than that box.
     void Draw(Gdiplus::Graphics* graphics, CPoint centre, double scale) override;
 
     /// The text.
@@ -61,7 +64,7 @@ public:
     std::wstring GetFontStyle() const { return m_fontStyle; }
     void SetFontStyle(std::wstring family) { m_fontStyle = std::move(family); }
 
-    /// The style of the font; regular until it is set.
+    /// The style of the font; regular by default.
     FontProcess GetFontProcess() const { return m_fontProcess; }
     void SetFontProcess(FontProcess process) { m_fontProcess = process; }
 

@@ -10,7 +10,7 @@
 
 namespace {
 
-// No double has more decimal places than this; more would only be zeros.
+// No double has more decimal places than this.
 constexpr int kMostDigits = 1074;
 // The largest double has 309 digits before the point.
 constexpr int kMostCharacters = 1 + 309 + 1 + kMostDigits;
@@ -18,10 +18,10 @@ constexpr int kMostIntCharacters = 1 + std::numeric_limits<int>::digits10 + 1;
 
 constexpr double kPowersOfTen[] = {1.0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9};
 constexpr int kMostUnitPlaces = static_cast<int>(std::size(kPowersOfTen)) - 1;
-// Below it a double has room for halves.
+// 2^52: doubles below it can still hold halves.
 constexpr double kMostUnits = 4503599627370496.0;
 
-/// So many units of the last decimal place: 15 with one place is 1.5.
+/// A count of units of the last decimal place: 15 with one place is 1.5.
 std::wstring TextOfUnits(std::int64_t units, int places) {
     wchar_t text[32];
     wchar_t* const end = text + std::size(text);
@@ -46,12 +46,12 @@ bool IsZero(const char* begin, const char* end) {
 
 std::wstring CommonFun::double2wstring(double value, int digits) {
     if (std::isnan(value)) {
-        return L"nan";  // a NaN has a sign, which means nothing to a reader
+        return L"nan";  // without the sign that a NaN has
     }
     const int places = std::clamp(digits, 0, kMostDigits);
     if (value >= 0.0 && places <= kMostUnitPlaces) {
-        // Most labels come out whole, a quarter of a unit off at the most: no rounding
-        // of all digits could give another number.
+        // Most labels come out whole. The product is off by a quarter of a unit at most,
+        // so rounding the full digits would give the same number.
         const double units = value * kPowersOfTen[places];
         if (units < kMostUnits) {
             const auto whole = static_cast<std::int64_t>(units);

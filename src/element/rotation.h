@@ -6,15 +6,14 @@
 
 namespace map_surround {
 
-/// An angle that is not finite turns nothing: it would leave a surface on which nothing
-/// can be drawn any more, whatever is drawn afterwards.
+/// An angle that is not finite counts as 0: passed on, it would leave a surface on which
+/// nothing can be drawn any more.
 inline Gdiplus::REAL FiniteAngle(Gdiplus::REAL angle) {
     return std::isfinite(angle) ? angle : 0.0f;
 }
 
-/// Turns a world transform or a matrix by an angle in degrees about a point: what is
-/// drawn afterwards in unturned coordinates comes out turned, clockwise on a device
-/// surface.
+/// Rotates a world transform or a matrix by an angle in degrees about a point, clockwise
+/// on a device surface.
 inline void TurnAbout(Gdiplus::Graphics& graphics, Gdiplus::REAL x, Gdiplus::REAL y,
                       Gdiplus::REAL angle) {
     graphics.TranslateTransform(x, y, Gdiplus::MatrixOrderPrepend);

@@ -1,3 +1,3 @@
 set(element_sources
   map_surround_element.cpp
-  text.cpp)
+  text_outline.cpp)

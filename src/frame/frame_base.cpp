@@ -10,8 +10,8 @@ using map_surround::Truncate;
 
 namespace {
 
-/// Where a handle stands in the extent, as fractions from its top left corner rightwards
-/// and downwards.
+/// Where a handle sits, as fractions of the extent right and down from its top left
+/// corner.
 struct Handle {
     double right;
     double down;
@@ -22,8 +22,8 @@ constexpr Handle kHandles[] = {
     {1.0, 1.0}, {0.5, 1.0}, {0.0, 1.0}, {0.0, 0.5},
 };
 
-/// Whether the byte of a flag is 1: what a host wrote there by other means than C++ does
-/// not count.
+/// Whether a flag's byte is exactly 1. A host that is not written in C++ may have stored
+/// any value.
 bool IsOne(const bool& flag) {
     unsigned char byte = 0;
     std::memcpy(&byte, &flag, sizeof flag);
@@ -45,7 +45,7 @@ CFrameBase& CFrameBase::operator=(const CFrameBase& other) {
     DrawBorder = other.DrawBorder;
     DrawFill = other.DrawFill;
     DrawShadow = other.DrawShadow;
-    // Its byte may be none of a bool's, see IsOne.
+    // Its byte may be no valid bool, see IsOne.
     std::memcpy(&DashedBorder, &other.DashedBorder, sizeof DashedBorder);
     BorderWidth = other.BorderWidth;
     BorderColor = other.BorderColor;
@@ -62,7 +62,7 @@ CFrameBase& CFrameBase::operator=(const CFrameBase& other) {
     FillGapY = other.FillGapY;
     ShadowRatioX = other.ShadowRatioX;
     ShadowRatioY = other.ShadowRatioY;
-    // A host's box may only be assigned from one that is not const.
+    // A host's own box type may only allow assignment from a non-const one.
     CBoundingBox extent(other.m_extent);
     m_extent = extent;
     m_frameType = other.m_frameType;
@@ -130,8 +130,9 @@ void CFrameBase::DrawShadowStrips(Gdiplus::Graphics* graphics, CRect rect) {
     const auto stripTop = static_cast<float>(Length{rect.top} + Truncate(offsetY));
     const auto stripLeft = static_cast<float>(Length{rect.left} + Truncate(offsetX));
 
-    // A strip that does not stand out does not clear the border either. Each strip saves
-    // the width it finds, so with both ratios 0 the width stays 0; that is meant.
+    // A strip with no offset starts at the border's line, not clear of it. Each strip
+    // saves the width it finds, so with both ratios 0 the width stays 0; this is
+    // intended.
     const float widthBeforeRight = BorderWidth;
     if (ShadowRatioX == 0.0f) {
         BorderWidth = 0.0f;

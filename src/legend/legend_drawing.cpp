@@ -27,10 +27,10 @@ constexpr Gdiplus::ARGB kRed = 0xFFFF0000;
 constexpr Gdiplus::ARGB kGreen = 0xFF008000;
 constexpr Gdiplus::ARGB kBlue = 0xFF0000FF;
 
-/// The ramp leaves out white and black.
+/// From grey 254 to 1: the ramp leaves out white and black.
 constexpr int kRampStrips = 254;
 
-/// The legend on its way down the page, in pixels.
+/// A cursor moving down the legend, in pixels.
 struct Column {
     Gdiplus::Graphics* graphics;
     Gdiplus::SolidBrush& brush;
@@ -46,7 +46,7 @@ struct Column {
         brush.SetColor(color);
         graphics->FillRectangle(&brush, left, top, swatchWidth, height);
     }
-    /// In the colour that the brush has.
+    /// In the brush's current colour.
     void Label(const std::wstring& text, float atSwatches, float top) {
         map_surround::WriteText(graphics, text, entryFont,
                                 Gdiplus::PointF(left + atSwatches * swatchWidth, top),
@@ -87,14 +87,14 @@ void Column::DrawRamp(CRasterSource& source) {
     Label(kHighCaption + CommonFun::int2wstring(Truncate(highest)), legend::kBandLabelAt,
           y + 0.5f * rowHeight);
 
-    // Strips overlap, and start one step down.
+    // The strips overlap, and the first starts one step down.
     for (int k = 1; k <= kRampStrips; ++k) {
         const auto grey = static_cast<unsigned char>(255 - k);
         Fill(Gdiplus::Color(255, grey, grey, grey),
              y + rampHeight * static_cast<float>(k) / kRampStrips, stripHeight);
     }
 
-    // Just above the high value and in the colour of the last strip: both are meant.
+    // Just above the high value, in the colour of the last strip: both are intended.
     y += rampHeight;
     Label(kLowCaption + CommonFun::int2wstring(Truncate(lowest)), legend::kBandLabelAt,
           y - 2 * rowHeight);
@@ -153,10 +153,10 @@ void CMapLegend::Draw(Gdiplus::Graphics* graphics, CPoint centre, double scale) 
                   height * m_swatchHeightRatio,
                   height * m_swatchWidthRatio,
                   gap};
-    // By its ink in this font, which is smaller than the title that was measured.
+    // The title's ink in this font, which is smaller than the one the layout measured.
     column.y += static_cast<float>(ruler.Measure(m_titleText, title).Height);
 
-    // By index: a source may hand the legend another list while it is asked.
+    // By index, since a source may replace the legend's list while it is queried.
     std::size_t next = 0;
     while (next < m_dataSources.size()) {
         CRasterSource* const source = map_surround::TakingPart(m_dataSources[next++]);

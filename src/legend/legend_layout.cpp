@@ -17,7 +17,7 @@ namespace legend = map_surround::legend;
 
 namespace {
 
-/// The legend as far as it is measured, in pixels.
+/// The legend measured so far, in pixels.
 struct Layout {
     Length sampleWidth;
     Length swatchHeight;
@@ -26,8 +26,8 @@ struct Layout {
 
     void Widen(Length least) { width = std::max(width, least); }
     Length SwatchesAndGaps(int swatches, int gaps) const {
-        // Far beyond 32 bits for a table that tells of billions of classes: cut here, so
-        // that no number of them overflows the sum.
+        // A table may claim billions of classes: clamp here, so that no number of tables
+        // overflows the sum.
         return ToDevice(swatches * swatchHeight + Length{gaps} * legend::kGap);
     }
 
@@ -50,8 +50,8 @@ struct Layout {
     }
 };
 
-/// Multiplies a font size, and takes that back where the measurement is given up: with
-/// memory at its end, or by a source that throws. Tried anew, it must not compound.
+/// Multiplies a font size, and restores it if an exception ends the measurement, be it
+/// std::bad_alloc or a source's own: a retry must not multiply twice.
 class ScaledSize {
 public:
     ScaledSize(float& size, float factor) : m_size(size), m_before(size) {
@@ -89,7 +89,7 @@ void CMapLegend::ResetAspectRatio() {
     const Lettering title(m_titleFamily, m_titleSize, m_titleStyle);
     const Gdiplus::Rect titleBox = ruler.Measure(m_titleText, title);
 
-    // The sample is in the title's family, but as large as the file names.
+    // The sample is in the title's family at the size of the file names.
     const ScaledSize fileNameSize(m_fileNameSize, m_sizeFactor);
     const Lettering fileName(m_fileNameFamily, m_fileNameSize, m_fileNameStyle);
     const Gdiplus::Rect sample =
@@ -104,7 +104,7 @@ void CMapLegend::ResetAspectRatio() {
     layout.height = titleBox.Height + legend::kTitleGaps * Length{legend::kGap};
 
     Length rasters = 0;
-    // By index: a source may hand the legend another list while it is asked.
+    // By index, since a source may replace the legend's list while it is queried.
     std::size_t next = 0;
     while (next < m_dataSources.size()) {
         CRasterSource* const source = map_surround::TakingPart(m_dataSources[next++]);
@@ -113,7 +113,7 @@ void CMapLegend::ResetAspectRatio() {
         }
         ++rasters;
         layout.height += rowHeight;
-        // The name alone, without the caption that is drawn before it.
+        // The bare name, without the caption that is drawn before it.
         layout.Widen(ruler.Measure(source->GetFileName(), fileName).Width);
         if (source->GetDisplayType() == DisplayRGB) {
             layout.AddBands();
@@ -127,7 +127,7 @@ void CMapLegend::ResetAspectRatio() {
         return;
     }
 
-    // A gap after every file name, and one less at the end even where there is none.
+    // One gap per file name less one, which without rasters is one gap less than nothing.
     SetSize(ToDevice(layout.height + legend::kGap * (rasters - 1)));
     const auto height = static_cast<float>(GetSize());
     SetAspectRatio(static_cast<float>(layout.width) / height);

@@ -4,11 +4,11 @@
 
 #include <string>
 
-#include "element/text.h"
+#include "element/text_outline.h"
 
 namespace map_surround {
 
-/// A font together with the family that it is of, in pixels.
+/// A font together with its family; the em size is in pixels.
 struct Lettering {
     Lettering(const std::wstring& familyName, float emSize, Gdiplus::FontStyle style)
         : family(familyName.c_str()), font(&family, emSize, style, Gdiplus::UnitPixel) {}
@@ -17,7 +17,7 @@ struct Lettering {
     Gdiplus::Font font;
 };
 
-/// Measures texts by their ink, one after the other on the same path.
+/// Measures the ink of one text after another, reusing one path.
 class Ruler {
 public:
     Ruler() { m_format.SetAlignment(Gdiplus::StringAlignmentNear); }

@@ -5,7 +5,7 @@
 
 namespace map_surround {
 
-/// The source as the raster that the legend explains; null when it takes no part.
+/// The source as a raster for the legend to explain; null if it takes no part.
 inline CRasterSource* TakingPart(CGISDataSource* source) {
     if (source == nullptr || !source->IsAvailable() ||
         source->GetDataSourceType() != DataSourceRaster) {
@@ -14,7 +14,7 @@ inline CRasterSource* TakingPart(CGISDataSource* source) {
     return static_cast<CRasterSource*>(source);
 }
 
-/// How many classes the table has at this moment; none when there is no table.
+/// How many classes the table has right now; 0 without a table.
 inline int ClassesCount(CClassifyDisplayTable* table) {
     return table == nullptr ? 0 : table->GetClassesCount();
 }

@@ -1,7 +1,7 @@
 #include "north_arrow/arrow_parts.h"
 
 #include "element/rotation.h"
-#include "element/text.h"
+#include "element/text_outline.h"
 
 map_surround::Length map_surround::PixelSize(double height) {
     return Truncate(height + 0.5);

@@ -10,23 +10,23 @@
 /// What all styles of north arrow share.
 namespace map_surround {
 
-/// A height as whole pixels, rounded half up: 2.5 is 3. The half is added below zero too,
-/// and what is left of a pixel cut off: -2.7 is -2.
+/// A height in whole pixels, rounded half up: 2.5 is 3. Negative heights get the half
+/// added too and are then truncated: -2.7 is -2.
 Length PixelSize(double height);
 
 /// A vertex from layout coordinates.
 Gdiplus::Point Vertex(Length x, Length y);
 
-/// A coordinate of a letter's layout box, from a layout coordinate in whole pixels or
-/// from one in parts of a pixel.
+/// A coordinate of a letter's layout box, from a layout coordinate in whole or fractional
+/// pixels.
 Gdiplus::REAL LetterEdge(Length coordinate);
 Gdiplus::REAL LetterEdge(double coordinate);
 
-/// Turns what is drawn from now on about the arrow's centre; the arrow resets the
-/// transform when it has finished.
+/// Rotates what is drawn from here on about the arrow's centre; the arrow resets the
+/// transform when it is done.
 void TurnArrow(Gdiplus::Graphics* graphics, CPoint centre, Gdiplus::REAL angle);
 
-/// The font that a compass letter is written in.
+/// The font of a compass letter.
 struct LetterFont {
     /// @param emSize device pixels
     explicit LetterFont(Gdiplus::REAL emSize);

@@ -12,8 +12,7 @@ using map_surround::WriteLetter;
 
 namespace {
 
-/// The lines that divide the rose's square, from its left to its right and from its top
-/// to its bottom.
+/// The grid lines of the rose's square, from left to right and from top to bottom.
 enum GridLine {
     Edge,
     Fifth,
@@ -26,7 +25,7 @@ enum GridLine {
     FarEdge
 };
 
-/// Where two of them cross.
+/// Where two grid lines cross.
 struct GridPoint {
     GridLine x, y;
 };
@@ -52,8 +51,7 @@ constexpr GridPoint kSEtoS{ThreeFifths, TwoThirds};
 constexpr GridPoint kStoSW{TwoFifths, TwoThirds};
 constexpr GridPoint kSWtoW{Third, ThreeFifths};
 
-/// Half a point of the compass, or half the gap before the next: the vertices in the
-/// order in which they are drawn.
+/// Half of one of the rose's points: its vertices in drawing order.
 struct Sector {
     GridPoint first, second, third;
     bool filled;
@@ -115,8 +113,8 @@ void CNorthArrowEightAngle::Draw(Gdiplus::Graphics* graphics, CPoint centre,
     WriteLetter(graphics, L"E", eastFont, LetterEdge(x + radius), LetterEdge(y - n / 16),
                 GetFrontColor());
 
-    // In the order of GridLine. Each is cut off by itself, so the rose is not quite
-    // symmetric; that is meant.
+    // In the order of GridLine. Each is truncated on its own, so the rose is not quite
+    // symmetric; this is intended.
     const std::array<Length, 9> grid{
         0,         width / 5,     width / 3,     2 * width / 5,
         width / 2, 3 * width / 5, 2 * width / 3, 4 * width / 5,

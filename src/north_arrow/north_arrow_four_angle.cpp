@@ -21,7 +21,7 @@ void CNorthArrowFourAngle::Draw(Gdiplus::Graphics* graphics, CPoint centre,
     const Length arm = 2 * n / 5;
     const Length waist = arm / 5;
 
-    // The star hangs a waist below the pivot, which leaves the letter its room.
+    // The star sits a waist below the pivot, which leaves room for the letter.
     const Gdiplus::Point middle = Vertex(x, y + waist);
     // Clockwise from west, the tips and the waists between them.
     const std::array<Gdiplus::Point, 8> rim{

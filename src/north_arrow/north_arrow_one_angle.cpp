@@ -16,15 +16,15 @@ void CNorthArrowOneAngle::Draw(Gdiplus::Graphics* graphics, CPoint centre, doubl
     const Length n = map_surround::PixelSize(GetSize() * scale);
     const Length m = 2 * n;
     const auto pixels = static_cast<float>(n);
-    // Not of the whole pixels n: a small arrow's shaft thins evenly with its size.
+    // Not from the whole pixels n, so that a small arrow's shaft thins evenly with size.
     const float shaftWidth =
         static_cast<float>(GetSize()) * static_cast<float>(scale) / 100.0f;
 
-    // Black on every map; the front colour is the letter's alone.
+    // Always black: only the letter takes the front colour.
     Gdiplus::Pen shaft(Gdiplus::Color(0xFF000000), shaftWidth);
     const int filled = 1;
     const Gdiplus::AdjustableArrowCap head(pixels / 10.0f, pixels / 20.0f, filled);
-    // A pen that could not be made takes no cap: GDI+ does not survive the attempt.
+    // GDI+ crashes when a cap is set on a pen that could not be created.
     if (shaft.GetLastStatus() == Gdiplus::Ok) {
         shaft.SetCustomEndCap(&head);
     }

@@ -18,8 +18,8 @@ void CNorthArrowTwoAngle::Draw(Gdiplus::Graphics* graphics, CPoint centre, doubl
     const Length corner = 2 * n / 5;
     const Length tip = 17 * n / 50;
 
-    // For two sizes in five the left corner is a pixel further out than the right one,
-    // being as far out as both are below the notch; that is meant.
+    // The left corner is as far out as the corners are below the notch, for two sizes in
+    // five a pixel further than the right one; this is intended.
     const map_surround::Triangle rightHalf{Vertex(x + notch, y + corner),
                                            Vertex(x, y + notch), Vertex(x, y - tip)};
     const map_surround::Triangle leftHalf{Vertex(x + (notch - corner), y + corner),

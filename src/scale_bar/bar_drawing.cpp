@@ -2,12 +2,12 @@
 
 #include <limits>
 
-#include "element/text.h"
+#include "element/text_outline.h"
 #include "host/common_functions.h"
 
 namespace map_surround {
 
-// A sub-division count of -1 divides by zero, which must be an infinity and no more.
+// A sub-division count of -1 divides by zero, which must give an infinity.
 static_assert(std::numeric_limits<double>::is_iec559);
 
 Gdiplus::Rect BarRect(const CScaleBarBase& bar, CPoint centre, double scale,

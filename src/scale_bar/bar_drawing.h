@@ -10,27 +10,27 @@
 
 namespace map_surround {
 
-/// What a style adds to a length in pixels before it truncates it.
+/// What a style adds to a length in pixels before truncating it.
 struct Rounding {
     double height = 0.0;
     double halves = 0.0;  ///< to half the height and half the width
 };
 
-/// The rectangle of a bar in device pixels, about its centre; width and height are even.
+/// The rectangle of a bar in device pixels, around its centre; width and height are even.
 Gdiplus::Rect BarRect(const CScaleBarBase& bar, CPoint centre, double scale,
                       Rounding rounding = {});
 
-/// A point of the layout, before it is brought to the device's 32 bits.
+/// A point of the layout, before it is clamped to the device's 32 bits.
 struct BarPoint {
     Length x = 0;
     Length y = 0;
 };
 
 /// One drawing of a bar: the lengths that every style starts from, in device pixels, and
-/// what every style draws alike. It lives within one call of a style's DrawDivision.
+/// what all styles draw alike. Made anew by each call of a style's DrawDivision.
 class BarDrawing {
 public:
-    /// Nothing where the bar has no division value, and so no drawing.
+    /// Nothing if the bar has no division value, and so nothing to draw.
     static std::optional<BarDrawing> Begin(const CScaleBarBase& bar,
                                            Gdiplus::Graphics* graphics,
                                            const Gdiplus::Rect& rect, double scale,
@@ -54,12 +54,12 @@ public:
 
     void DrawLine(const Gdiplus::Pen& pen, BarPoint from, BarPoint to) const;
 
-    /// Writes the value of the division boundary of that index, an eighth of the height
-    /// to the left of it.
+    /// Writes the value at the division boundary of that index, starting an eighth of the
+    /// height to its left.
     void DrawLabel(const Gdiplus::Font& font, Length index, Length x) const;
 
-    /// Writes the unit name where the bar's unit position says, `rise` above the end of
-    /// the last division.
+    /// Writes the unit name at the bar's unit position, `rise` above the end of the last
+    /// division.
     void DrawUnitName(BarPoint end, Length rise) const;
 
 private:

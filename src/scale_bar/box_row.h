@@ -9,8 +9,8 @@
 
 namespace map_surround {
 
-/// The count after one more box. It starts anew at 0 after the largest, so that odd and
-/// even go on taking turns.
+/// The count after one more box. It wraps to 0 after the largest, so that odd and even
+/// keep alternating.
 constexpr std::int32_t NextBox(std::int32_t count) {
     return static_cast<std::int32_t>((Length{count} + 1) & 0x7FFFFFFF);
 }
@@ -26,8 +26,8 @@ inline Gdiplus::Rect BoxAt(const BarDrawing& bar, Length x, Length width) {
             ToDevice(BoxHeight(bar))};
 }
 
-/// What follows the boxes: the label of the boundary after the last one and the unit
-/// name. Without a single division the unit name is placed from y 0, not from the bottom.
+/// What follows the boxes: the label of the last boundary and the unit name. Without any
+/// division the unit name is placed from y 0, not from the bottom.
 inline void EndBoxRow(const BarDrawing& bar, const Gdiplus::Font& labelFont,
                       Length endX) {
     bar.DrawLabel(labelFont, bar.mainCount, endX);

@@ -4,12 +4,12 @@
 
 namespace {
 
-constexpr double kLeastScale = 1e-8;  // below it a scale is taken for zero
+constexpr double kLeastScale = 1e-8;  // smaller scales count as zero
 
 }  // namespace
 
-// The powers of ten are applied one at a time: so every bar rounds the same way in the
-// last bit, and its labels with it.
+// The powers of ten are applied one at a time, so that every bar and its labels round the
+// same way to the last bit.
 std::optional<map_surround::DivisionValue> map_surround::DivisionValueOf(
     double paperToData, LabelOfOne labelOfOne) {
     if (!(paperToData >= kLeastScale) || std::isinf(paperToData)) {

@@ -28,8 +28,7 @@ void CScaleAlternate::DrawDivision(Gdiplus::Graphics* graphics, Gdiplus::Rect re
     bar->DrawLine(outlinePen, {bar->firstX, top}, {stripEnd, top});
     bar->DrawLine(outlinePen, {bar->firstX, boxBottom}, {stripEnd, boxBottom});
 
-    // Of the small boxes the odd ones are filled, of the divisions the even ones, and all
-    // are counted in one row.
+    // Small boxes are filled when odd, divisions when even, all counted in one sequence.
     const auto drawBox = [&](Length boxX, Length width, bool fillOdd) {
         const Gdiplus::Rect box = BoxAt(*bar, boxX, width);
         graphics->DrawRectangle(&boxPen, box);
@@ -46,8 +45,8 @@ void CScaleAlternate::DrawDivision(Gdiplus::Graphics* graphics, Gdiplus::Rect re
         if (i > 0) {
             drawBox(x, bar->step, false);
         } else {
-            // There are as many small boxes as ticks between them, so the last part of
-            // the division stays open up to the closing line.
+            // There is one small box per sub-division tick, so the last part of the
+            // division stays open up to the closing line.
             for (Length j = 0; j < bar->subCount; ++j) {
                 drawBox(x + j * subWidth, subWidth, true);
             }

@@ -1,4 +1,4 @@
-#include "element/text.h"
+#include "element/text_outline.h"
 #include "map_surround/scale_bar.h"
 #include "scale_bar/division_value.h"
 
@@ -16,7 +16,7 @@ CScaleBarBase::CScaleBarBase(const CScaleBarBase& other) = default;
 CScaleBarBase::~CScaleBarBase() = default;
 
 CScaleBarBase& CScaleBarBase::operator=(const CScaleBarBase& other) {
-    m_unitsName = other.m_unitsName;  // first, for it is all that can fail
+    m_unitsName = other.m_unitsName;  // first: the only step that can fail
     CMapSurround::operator=(other);
     m_unitPos = other.m_unitPos;
     m_paper2DataScale = other.m_paper2DataScale;

@@ -17,12 +17,12 @@ void CScaleEquAltenate::DrawDivision(Gdiplus::Graphics* graphics, Gdiplus::Rect 
     if (!bar) {
         return;
     }
-    // Not shortened with the step: where the division value was rounded down, a box
-    // reaches into the next.
+    // Not shortened with the step: if the division value was rounded down, a box reaches
+    // into the next.
     const Length boxWidth = Truncate(bar->fullLength);
 
     const Gdiplus::Pen boxPen = bar->MakePen();
-    const Gdiplus::Pen unusedPen = bar->MakePen();  // the style makes two, and uses one
+    const Gdiplus::Pen unusedPen = bar->MakePen();  // this style creates two, uses one
     const Gdiplus::SolidBrush fill = bar->MakeBrush();
     const Gdiplus::Font labelFont = bar->MakeLabelFont();
     Length x = bar->firstX;

@@ -1,12 +1,12 @@
 #include "scale_bar/ticked_line.h"
 
-// Main ticks stand whole steps apart. Sub ticks are placed from the unrounded sub-step,
-// each for itself, so that within a division they gather no error.
+// Main ticks are whole steps apart. Each sub tick is placed from the unrounded sub-step,
+// so that within a division no error accumulates.
 void map_surround::DrawTickedLine(const BarDrawing& bar, const LineShape& shape) {
     const Gdiplus::Pen mainPen = bar.MakePen();
     const Gdiplus::Pen subPen = bar.MakePen();
 
-    BarPoint end;  // of the base line; with a negative count no tick moves it
+    BarPoint end;  // of the base line; stays (0, 0) with a negative count
     for (Length i = 0; i <= bar.mainCount; ++i) {
         const Length x = bar.firstX + i * bar.step;
         bar.DrawLine(mainPen, {x, bar.tickTop}, {x, bar.bottom});

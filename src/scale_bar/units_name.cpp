@@ -15,7 +15,7 @@ constexpr std::wstring_view kUnknown = L"\u672A\u77E5";    // 未知
 constexpr std::wstring_view kMetre = L"\u7C73";            // 米
 constexpr std::wstring_view kKilometre = L"\u516C\u91CC";  // 公里
 
-// The words that hosts use, and no other spelling of them.
+// Exactly these spellings; no other word is translated.
 constexpr UnitWord kUnitWords[] = {
     {L"degree", kDegree}, {L"unknown", kUnknown},     {L"Unknown", kUnknown},
     {L"meter", kMetre},   {L"Meter", kMetre},         {L"metre", kMetre},

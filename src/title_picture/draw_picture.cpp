@@ -10,8 +10,8 @@ using map_surround::Truncate;
 
 namespace {
 
-/// A page size for an image of that many pixels: large images are brought down, small
-/// ones kept legible.
+/// A page size for an image of so many pixels: large images are scaled down, small ones
+/// stay legible.
 int SizeOf(unsigned int width, unsigned int height) {
     unsigned int size = height / 5;
     if (height > 768 && width > 768) {
@@ -30,11 +30,11 @@ int SizeOf(unsigned int width, unsigned int height) {
 
 CDrawPicture::CDrawPicture() { SetItemType(SurroundPicture); }
 
-// Not the default, which would copy the base before it can fail; assigning to itself
-// changes nothing.
+// Not the default, which would copy the base before the step that can fail. Assigning to
+// itself changes nothing.
 // NOLINTNEXTLINE(bugprone-unhandled-self-assignment,modernize-use-equals-default)
 CDrawPicture& CDrawPicture::operator=(const CDrawPicture& other) {
-    m_path = other.m_path;  // first, for it is all that can fail
+    m_path = other.m_path;  // first: the only step that can fail
     CMapSurround::operator=(other);
     m_imageAspectRatio = other.m_imageAspectRatio;
     m_image = other.m_image;
@@ -42,8 +42,8 @@ CDrawPicture& CDrawPicture::operator=(const CDrawPicture& other) {
     return *this;
 }
 
-// The global operators, here and in Open, so that the wrapper is freed by what made it
-// whichever allocation functions GDI+'s classes bring along.
+// The global operators, here and in Open, so that new and delete match whatever
+// allocation functions GDI+'s classes declare.
 CDrawPicture::~CDrawPicture() { ::delete m_image; }
 
 bool CDrawPicture::Open(const wchar_t* path) {

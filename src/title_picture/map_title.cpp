@@ -2,7 +2,7 @@
 
 #include "element/numbers.h"
 #include "element/rotation.h"
-#include "element/text.h"
+#include "element/text_outline.h"
 #include "map_surround/title.h"
 
 using map_surround::Length;

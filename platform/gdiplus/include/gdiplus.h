@@ -7,15 +7,15 @@
 /// The conventions are the SDK's:
 /// - each operation of a class is one call of the flat function of that purpose;
 /// - an operation returns its Status, and an object keeps the last status that was not
-///   Ok; GetLastStatus() tells it once and sets it back to Ok;
-/// - an object whose creation failed holds a null native object and hands null on, so
-///   that later calls fail with InvalidParameter and nothing else happens;
-/// - a null object as an argument is handed on as null;
-/// - objects of these classes are not copied; the value types (Color, Point, Rect) are.
+///   Ok; GetLastStatus() returns it once and resets it to Ok;
+/// - an object whose creation failed holds a null native object and passes null on, so
+///   that later calls fail with InvalidParameter and do nothing else;
+/// - a null argument is passed on as null;
+/// - objects of these classes cannot be copied; value types (Color, Point, Rect) can.
 ///
-/// Two things differ, because the platform does: wchar_t holds a whole code point here
-/// and becomes UTF-16 at each call (gdiplus/text.h), and a value that a failing query
-/// leaves unset is 0, where the SDK leaves it undefined.
+/// Two things differ: wchar_t holds a whole code point here and becomes UTF-16 at each
+/// call (gdiplus/text.h), and a query that fails gives 0 where the SDK leaves the value
+/// undefined.
 
 #include "gdiplus/brush.h"
 #include "gdiplus/codec.h"
@@ -35,8 +35,8 @@
 #include "gdiplus/text.h"
 #include "gdiplus/types.h"
 
-// The SDK's programs use these types and macros without a namespace. Define
-// GDIPLUS_NO_WINDOWS_TYPES where another library defines them as something else.
+// Programs written for the SDK use these types and macros without a namespace. Define
+// GDIPLUS_NO_WINDOWS_TYPES if another library declares them differently.
 #ifndef GDIPLUS_NO_WINDOWS_TYPES
 using Gdiplus::BOOL;
 using Gdiplus::BYTE;

@@ -1,8 +1,7 @@
 #pragma once
 
-// The SDK's own header, with what it needs to stand before it. Windows' headers define
-// min and max as macros unless told not to, and the SDK's GDI+ header needs the
-// functions.
+// The SDK's own header, after what it needs included first. Windows' headers define min
+// and max as macros unless told not to, and the SDK's GDI+ header needs the functions.
 #ifndef NOMINMAX
 #define NOMINMAX
 #endif
@@ -26,7 +25,7 @@ using std::min;
 
 namespace Gdiplus {
 
-/// The text unit of the flat functions.
+/// The character of the flat functions.
 typedef wchar_t FlatChar;
 
 }  // namespace Gdiplus

@@ -5,12 +5,12 @@
 
 namespace Gdiplus {
 
-/// What fills a shape or a text.
+/// Fills shapes and draws text.
 class Brush : public detail::StatusKeeper {
 public:
     virtual ~Brush() { DllExports::GdipDeleteBrush(native_); }
 
-    /// The object behind, for the flat functions; null where none could be made.
+    /// The native object, for the flat functions; null if creation failed.
     GpBrush* NativeObject() const { return native_; }
 
 protected:
@@ -23,7 +23,7 @@ protected:
 /// A brush of one colour.
 class SolidBrush : public Brush {
 public:
-    /// Fails where GDI+ has no memory.
+    /// Fails if GDI+ is out of memory.
     SolidBrush(const Color& color) {
         GpSolidFill* brush = nullptr;
         SetStatus(DllExports::GdipCreateSolidFill(color.GetValue(), &brush));

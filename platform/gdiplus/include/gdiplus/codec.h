@@ -4,41 +4,41 @@
 
 namespace Gdiplus {
 
-/// A kind of image file that GDI+ writes or reads. The texts stand in the caller's
-/// buffer, behind the array; one that the codec does not have is null.
+/// An image file format that GDI+ reads or writes. The strings are in the caller's
+/// buffer, after the array; a missing one is null.
 class ImageCodecInfo {
 public:
-    /// What Image::Save takes, and what names the format.
+    /// The codec, for Image::Save, and the format.
     CLSID Clsid;
     GUID FormatID;
-    /// Names for people.
+    /// Names for display.
     const WCHAR* CodecName;
     const WCHAR* DllName;
     const WCHAR* FormatDescription;
     const WCHAR* FilenameExtension;  ///< patterns: "*.JPG;*.JPEG;*.JPE;*.JFIF"
     const WCHAR* MimeType;           ///< "image/png"
-    DWORD Flags;                     ///< of ImageCodecFlags
+    DWORD Flags;                     ///< ImageCodecFlags
     /// The version of this description.
     DWORD Version;
-    /// The bytes by which a file of the format is known: how many patterns, of how many
-    /// bytes, with the bits that count.
+    /// The signatures of the format: how many, how long, the bytes and the mask of
+    /// significant bits.
     DWORD SigCount;
     DWORD SigSize;
     const BYTE* SigPattern;
     const BYTE* SigMask;
 };
 
-/// One setting of an encoder. Its values stand at Value.
+/// One setting of an encoder, with its values at Value.
 struct EncoderParameter {
     /// Which setting it is: EncoderQuality.
     GUID Guid;
     ULONG NumberOfValues;
-    ULONG Type;  ///< of EncoderParameterValueType
-    /// The caller's, and as many as said.
+    ULONG Type;  ///< an EncoderParameterValueType
+    /// Owned by the caller: NumberOfValues of them.
     VOID* Value;
 };
 
-/// The settings for one Image::Save: Count of them, of which the first is here.
+/// The settings for one Image::Save: Count of them, starting here.
 struct EncoderParameters {
     /// How many settings there are, and the first of them.
     UINT Count;
@@ -51,7 +51,7 @@ constexpr GUID EncoderQuality = {
 
 namespace detail {
 
-/// The flat codecs of one direction, read for the time of one call.
+/// The flat encoders or decoders, for the duration of one call.
 class FlatCodecs {
 public:
     FlatCodecs(Status (*readSize)(UINT*, UINT*),
@@ -67,7 +67,7 @@ public:
     Status GetStatus() const { return status_; }
     UINT Count() const { return count_; }
 
-    /// Bytes of the wide array and its texts.
+    /// The size in bytes of the wide array and its strings.
     UINT WideBytes() const {
         std::size_t bytes = count_ * sizeof(ImageCodecInfo);
         for (UINT i = 0; i < count_; ++i) {
@@ -80,7 +80,7 @@ public:
         return static_cast<UINT>(bytes);
     }
 
-    /// Into room for WideBytes() bytes.
+    /// Into a buffer of WideBytes() bytes.
     void Write(ImageCodecInfo* out) const {
         auto* text = reinterpret_cast<WCHAR*>(out + count_);
         for (UINT i = 0; i < count_; ++i) {
@@ -153,15 +153,15 @@ inline Status TellCodecs(const FlatCodecs& codecs, UINT count, UINT bytes,
 
 }  // namespace detail
 
-/// How many encoders there are, and the bytes that GetImageEncoders needs for them.
+/// How many encoders there are, and the buffer size that GetImageEncoders needs.
 inline Status GetImageEncodersSize(UINT* count, UINT* bytes) {
     return detail::TellCodecsSize(
         {DllExports::GdipGetImageEncodersSize, DllExports::GdipGetImageEncoders}, count,
         bytes);
 }
 
-/// Describes the encoders, into room of exactly the count and bytes that
-/// GetImageEncodersSize tells. Image::Save takes the Clsid of one.
+/// Describes the encoders, into a buffer of exactly the count and bytes that
+/// GetImageEncodersSize gave. Image::Save takes the Clsid of one.
 inline Status GetImageEncoders(UINT count, UINT bytes, ImageCodecInfo* encoders) {
     return detail::TellCodecs(
         {DllExports::GdipGetImageEncodersSize, DllExports::GdipGetImageEncoders}, count,

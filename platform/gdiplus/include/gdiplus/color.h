@@ -8,14 +8,15 @@ namespace Gdiplus {
 /// are opaque green, `Color(128, 0, 128, 0)` is half transparent.
 class Color {
 public:
-    /// Opaque black; a value as it stands; opaque; with an alpha of 0 (clear) to 255.
+    /// Opaque black; from an ARGB value; opaque from red, green and blue; with an alpha
+    /// from 0 (clear) to 255.
     Color() = default;
     Color(ARGB argb) : Argb(argb) {}
     Color(BYTE red, BYTE green, BYTE blue) : Argb(MakeARGB(255, red, green, blue)) {}
     Color(BYTE alpha, BYTE red, BYTE green, BYTE blue)
         : Argb(MakeARGB(alpha, red, green, blue)) {}
 
-    /// The value, alpha in its top byte.
+    /// The ARGB value, alpha in the top byte.
     ARGB GetValue() const { return Argb; }
     VOID SetValue(ARGB argb) { Argb = argb; }
     /// One component, 0 to 255.
@@ -28,13 +29,13 @@ public:
     BYTE GetGreen() const { return GetG(); }
     BYTE GetBlue() const { return GetB(); }
 
-    /// A value from its components: `MakeARGB(255, 0, 128, 0)` is 0xFF008000.
+    /// An ARGB value from its components: `MakeARGB(255, 0, 128, 0)` is 0xFF008000.
     static ARGB MakeARGB(BYTE alpha, BYTE red, BYTE green, BYTE blue) {
         return (static_cast<ARGB>(alpha) << 24) | (static_cast<ARGB>(red) << 16) |
                (static_cast<ARGB>(green) << 8) | static_cast<ARGB>(blue);
     }
 
-    /// The colours that have names, as `Color(Color::SteelBlue)`.
+    /// The named colours: `Color(Color::SteelBlue)`.
     enum : ARGB {
         AliceBlue = 0xFFF0F8FF,
         AntiqueWhite = 0xFFFAEBD7,

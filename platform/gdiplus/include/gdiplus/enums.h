@@ -189,8 +189,8 @@ enum EncoderParameterValueType {
     EncoderParameterValueTypeRationalRange = 8
 };
 
-/// Number, bits per pixel and properties of a format of pixels: 24 bits, 0x1808, belong
-/// to format number 8.
+/// Number, bits per pixel and properties of a pixel format: in 0x21808, 24 bits (0x18) of
+/// format number 8.
 typedef std::int32_t PixelFormat;
 
 constexpr PixelFormat PixelFormatUndefined = 0;

@@ -6,19 +6,19 @@
 
 namespace Gdiplus {
 
-/// The text unit of the flat functions: UTF-16, whatever wchar_t is.
+/// The character of the flat functions: UTF-16, whatever wchar_t is.
 typedef char16_t FlatChar;
 
 struct GdiplusStartupInput;
 struct GdiplusStartupOutput;
 struct EncoderParameters;
 
-/// The pixels that Bitmap::LockBits gives: rows from Scan0, Stride bytes apart. One lock,
-/// one of these: UnlockBits wants it as LockBits left it.
+/// The pixels that Bitmap::LockBits gives: rows from Scan0, Stride bytes apart. Use one
+/// per lock, and pass it to UnlockBits unchanged.
 class BitmapData {
 public:
-    /// The area in pixels, the bytes from one row to the next (negative where rows go
-    /// upwards), the format that was asked for and the first row.
+    /// The area in pixels, the bytes from one row to the next (negative for bottom-up
+    /// rows), the requested format and the first row.
     UINT Width = 0;
     UINT Height = 0;
     INT Stride = 0;
@@ -27,11 +27,11 @@ public:
     ULONG_PTR Reserved = 0;
 
 private:
-    /// libgdiplus keeps some 60 bytes more here than the SDK's class has.
+    /// libgdiplus stores some 60 bytes more here than the SDK's class has.
     [[maybe_unused]] ULONG_PTR notes_[12] = {};
 };
 
-/// A codec as the flat functions describe it; ImageCodecInfo is its wide form.
+/// A codec as the flat functions describe it; ImageCodecInfo is the wide-character form.
 struct FlatCodecInfo {
     CLSID Clsid;
     GUID FormatID;
@@ -48,11 +48,11 @@ struct FlatCodecInfo {
     const BYTE* SigMask;
 };
 
-/// The colours of an indexed image, as many as the longest has.
+/// The palette of an indexed image, with room for the largest.
 struct FlatPalette {
-    UINT Flags;         ///< whether there are greys or half-transparent colours only
-    UINT Count;         ///< the colours that there are
-    ARGB Entries[256];  ///< the first Count of them tell
+    UINT Flags;         ///< PaletteFlags: alpha, greyscale, halftone
+    UINT Count;         ///< how many colours there are
+    ARGB Entries[256];  ///< the first Count are valid
 };
 
 namespace DllExports {

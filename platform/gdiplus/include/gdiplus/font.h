@@ -7,10 +7,10 @@ namespace Gdiplus {
 
 namespace detail {
 
-/// Whether libgdiplus can draw text of an em size, in pixels, which FreeType counts in 16
-/// bits. One that is larger, or no number, must not reach it: FreeType gives up on the
-/// font for good, so that no text in it is drawn any more wherever in the process, Pango
-/// complains on standard error, and some sizes leave a surface that draws nothing more.
+/// Whether libgdiplus can draw text of an em size in pixels, which FreeType holds in 16
+/// bits. A larger one, or NaN, must not get through: FreeType then refuses the font for
+/// the rest of the process, Pango warns on standard error, and some sizes leave the
+/// surface unable to draw at all.
 inline bool CanCarry(REAL emSize) { return emSize >= -65535.0f && emSize <= 65535.0f; }
 
 inline REAL PixelsPer(Unit unit) {
@@ -30,13 +30,13 @@ inline REAL PixelsPer(Unit unit) {
 
 }  // namespace detail
 
-/// A set of font families. None can be made here: null stands for the system's fonts.
+/// A set of font families. It cannot be constructed here: null means the system's fonts.
 class FontCollection {
     FontCollection() = default;
 };
 
-/// A family of fonts, by name. libgdiplus answers an unknown name with a substitute,
-/// where the SDK's GDI+ fails with FontFamilyNotFound.
+/// A font family, by name. libgdiplus substitutes a font for an unknown name, where the
+/// SDK's GDI+ fails with FontFamilyNotFound.
 class FontFamily : public detail::StatusKeeper {
 public:
     FontFamily() = default;
@@ -52,7 +52,8 @@ public:
     /// Whether a family was found.
     BOOL IsAvailable() const { return native_ != nullptr; }
 
-    /// The name of the family that was found, into room for LF_FACESIZE (32) characters.
+    /// The name of the family that was found, into a buffer of LF_FACESIZE (32)
+    /// characters.
     Status GetFamilyName(WCHAR* name, LANGID language = 0) const {
         if (name == nullptr) {
             return SetStatus(InvalidParameter);
@@ -65,7 +66,7 @@ public:
         return status;
     }
 
-    /// In the font's own design units, of which the em has GetEmHeight.
+    /// In the font's design units, GetEmHeight of which make an em.
     UINT16 GetEmHeight(INT style) const {
         return Metric(DllExports::GdipGetEmHeight, style);
     }
@@ -78,12 +79,12 @@ public:
     UINT16 GetLineSpacing(INT style) const {
         return Metric(DllExports::GdipGetLineSpacing, style);
     }
-    /// Whether the family has a style, of FontStyle.
+    /// Whether the family has a style (FontStyle).
     BOOL IsStyleAvailable(INT style) const {
         return Metric(DllExports::GdipIsStyleAvailable, style);
     }
 
-    /// The object behind, for the flat functions; null where none could be made.
+    /// The native object, for the flat functions; null if creation failed.
     GpFontFamily* NativeObject() const { return native_; }
 
 private:
@@ -101,7 +102,7 @@ private:
     GpFontFamily* native_ = nullptr;
 };
 
-/// A font of a family: em size in the given unit, style flags of FontStyle.
+/// A font of a family: an em size in the given unit and FontStyle flags.
 class Font : public detail::StatusKeeper {
 public:
     /// A font of a family, or of the family of a name. The em size must be positive.
@@ -121,19 +122,19 @@ public:
     }
     ~Font() { DllExports::GdipDeleteFont(native_); }
 
-    /// As the font was made; 0 where none could be.
+    /// As given to the constructor; 0 if creation failed.
     REAL GetSize() const { return Query(DllExports::GdipGetFontSize, native_); }
     INT GetStyle() const { return Query(DllExports::GdipGetFontStyle, native_); }
     Unit GetUnit() const { return Query(DllExports::GdipGetFontUnit, native_); }
 
-    /// The spacing of lines in pixels at a resolution.
+    /// The line spacing in pixels at a resolution.
     REAL GetHeight(REAL dpi) const {
         REAL height = 0.0f;
         SetStatus(DllExports::GdipGetFontHeightGivenDPI(native_, dpi, &height));
         return height;
     }
 
-    /// The family becomes the font's; what it was before is let go.
+    /// Makes the argument the font's family; its previous one is released.
     Status GetFamily(FontFamily* family) const {
         if (family == nullptr) {
             return SetStatus(InvalidParameter);
@@ -148,7 +149,7 @@ public:
     }
     BOOL IsAvailable() const { return native_ != nullptr; }
 
-    /// The object behind, for the flat functions; null where none could be made.
+    /// The native object, for the flat functions; null if creation failed.
     GpFont* NativeObject() const { return native_; }
 
 private:

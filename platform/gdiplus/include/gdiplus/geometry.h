@@ -6,8 +6,8 @@ namespace Gdiplus {
 
 namespace detail {
 
-/// Whole coordinates wrap where they run over, as they do on the machine; at the far
-/// ends a rectangle's right side is then left of it, and nothing worse.
+/// Integer coordinates wrap on overflow; near the limits a rectangle's right side may
+/// then be left of its left one, and nothing worse.
 inline INT Plus(INT a, INT b) {
     return static_cast<INT>(static_cast<UINT>(a) + static_cast<UINT>(b));
 }
@@ -58,9 +58,9 @@ public:
     Number Y = 0;
 };
 
-/// An upright rectangle by its corner of least x and y. Its left and top sides belong to
-/// it, its right and bottom ones do not: (0, 0, 10, 5) contains (0, 0) and (9, 4), but
-/// not (10, 4). It is empty unless both its sides are positive.
+/// An axis-aligned rectangle: its corner of smallest x and y, and its size. Its left and
+/// top sides belong to it, its right and bottom ones do not: (0, 0, 10, 5) contains
+/// (0, 0) and (9, 4), but not (10, 4). It is empty unless width and height are positive.
 template <typename Number, typename Self, typename Location, typename Extent>
 class RectangleOf {
 public:
@@ -70,7 +70,7 @@ public:
     RectangleOf(const Location& location, const Extent& size)
         : X(location.X), Y(location.Y), Width(size.Width), Height(size.Height) {}
 
-    /// A rectangle of the caller's, made with new.
+    /// A copy made with new, owned by the caller.
     Self* Clone() const { return new Self(X, Y, Width, Height); }
 
     Number GetLeft() const { return X; }
@@ -100,7 +100,7 @@ public:
                GetRight() > other.GetLeft() && GetBottom() > other.GetTop();
     }
 
-    /// Moves each side outward, so that the width grows by twice dx.
+    /// Moves each side outwards, so that the width grows by twice dx.
     VOID Inflate(Number dx, Number dy) {
         X = Minus(X, dx);
         Y = Minus(Y, dy);
@@ -114,8 +114,8 @@ public:
     }
     VOID Offset(const Location& by) { Offset(by.X, by.Y); }
 
-    /// The common part of two rectangles; false, and a side that is not positive, where
-    /// there is none.
+    /// The intersection of two rectangles; false, with a width or height that is not
+    /// positive, if there is none.
     static BOOL Intersect(Self& result, const Self& a, const Self& b) {
         return result.SetSides(
             Greater(a.GetLeft(), b.GetLeft()), Greater(a.GetTop(), b.GetTop()),
@@ -126,7 +126,7 @@ public:
         return Intersect(self, self, other);
     }
 
-    /// The least rectangle that holds both; false when it is empty.
+    /// The smallest rectangle that holds both; false when it is empty.
     static BOOL Union(Self& result, const Self& a, const Self& b) {
         return result.SetSides(
             Less(a.GetLeft(), b.GetLeft()), Less(a.GetTop(), b.GetTop()),
@@ -153,7 +153,7 @@ private:
 
 }  // namespace detail
 
-/// Width and height in whole numbers.
+/// Width and height, as integers.
 class Size : public detail::SizeOf<INT, Size> {
 public:
     using SizeOf::SizeOf;
@@ -165,7 +165,7 @@ public:
     using SizeOf::SizeOf;
 };
 
-/// A point in whole numbers.
+/// A point with integer coordinates.
 class Point : public detail::PointOf<INT, Point> {
 public:
     using PointOf::PointOf;
@@ -181,7 +181,7 @@ public:
     PointF(const SizeF& size) : PointOf(size.Width, size.Height) {}
 };
 
-/// A rectangle in whole numbers: its top left corner and its size.
+/// A rectangle with integer coordinates: its top left corner and its size.
 class Rect : public detail::RectangleOf<INT, Rect, Point, Size> {
 public:
     using RectangleOf::RectangleOf;

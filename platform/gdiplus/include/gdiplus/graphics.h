@@ -10,67 +10,67 @@
 
 namespace Gdiplus {
 
-/// A surface to draw on, with its world transform. The image it draws into is to outlive
+/// A surface to draw on, with its world transform. The image it draws into must outlive
 /// it.
 class Graphics : public detail::StatusKeeper {
 public:
-    /// A surface that draws into an image, which the caller keeps.
+    /// A surface that draws into an image, which the caller still owns.
     Graphics(Image* image) {
         SetStatus(
             DllExports::GdipGetImageGraphicsContext(detail::Native(image), &native_));
     }
-    /// A surface of the caller's, made with new.
+    /// A surface made with new, owned by the caller.
     static Graphics* FromImage(Image* image) { return new Graphics(image); }
     ~Graphics() { DllExports::GdipDeleteGraphics(native_); }
 
-    /// Gives every pixel within the clip a colour, alpha included.
+    /// Sets every pixel within the clip to a colour, alpha included.
     Status Clear(const Color& color) {
         return SetStatus(DllExports::GdipGraphicsClear(native_, color.GetValue()));
     }
-    /// Whether shapes have smooth edges.
+    /// Whether shapes are anti-aliased.
     Status SetSmoothingMode(SmoothingMode mode) {
         return SetStatus(DllExports::GdipSetSmoothingMode(native_, mode));
     }
     SmoothingMode GetSmoothingMode() const {
         return Query(DllExports::GdipGetSmoothingMode, native_);
     }
-    /// Whether texts have smooth edges, and fit to the pixels.
+    /// Whether text is anti-aliased, and fitted to the pixel grid.
     Status SetTextRenderingHint(TextRenderingHint hint) {
         return SetStatus(DllExports::GdipSetTextRenderingHint(native_, hint));
     }
     TextRenderingHint GetTextRenderingHint() const {
         return Query(DllExports::GdipGetTextRenderingHint, native_);
     }
-    /// How images are made larger and smaller.
+    /// How images are resampled.
     Status SetInterpolationMode(InterpolationMode mode) {
         return SetStatus(DllExports::GdipSetInterpolationMode(native_, mode));
     }
     InterpolationMode GetInterpolationMode() const {
         return Query(DllExports::GdipGetInterpolationMode, native_);
     }
-    /// Whether a pixel's middle or its corner is a whole number.
+    /// Whether integer coordinates fall on pixel centres or corners.
     Status SetPixelOffsetMode(PixelOffsetMode mode) {
         return SetStatus(DllExports::GdipSetPixelOffsetMode(native_, mode));
     }
     PixelOffsetMode GetPixelOffsetMode() const {
         return Query(DllExports::GdipGetPixelOffsetMode, native_);
     }
-    /// Device pixels an inch.
+    /// Device pixels per inch.
     REAL GetDpiX() const { return Query(DllExports::GdipGetDpiX, native_); }
     REAL GetDpiY() const { return Query(DllExports::GdipGetDpiY, native_); }
-    /// Finishes what was begun.
+    /// Finishes pending drawing.
     VOID Flush(FlushIntention intention = FlushIntentionFlush) {
         SetStatus(DllExports::GdipFlush(native_, intention));
     }
 
-    /// Keeps the transform, the clip and the modes, for Restore to bring back.
+    /// Saves the transform, the clip and the modes for Restore.
     GraphicsState Save() const { return Query(DllExports::GdipSaveGraphics, native_); }
     Status Restore(GraphicsState state) {
         return SetStatus(DllExports::GdipRestoreGraphics(native_, state));
     }
 
-    /// Where drawing has an effect: world coordinates, turned with the transform in force
-    /// at this call.
+    /// The clip: a rectangle in world coordinates, under the transform current at this
+    /// call.
     Status SetClip(const Rect& rect, CombineMode mode = CombineModeReplace) {
         return SetStatus(DllExports::GdipSetClipRectI(native_, rect.X, rect.Y, rect.Width,
                                                       rect.Height, mode));
@@ -81,9 +81,9 @@ public:
     }
     Status ResetClip() { return SetStatus(DllExports::GdipResetClip(native_)); }
 
-    /// The world transform, which takes what is drawn to pixels. Prepended, a step comes
-    /// before all that are there; angles are degrees, clockwise on the surface. Resetting
-    /// gives the identity.
+    /// The world transform, from drawing coordinates to pixels. A prepended step is
+    /// applied before those already there. Angles are degrees, clockwise on the surface.
+    /// Resetting gives the identity.
     Status TranslateTransform(REAL dx, REAL dy, MatrixOrder order = MatrixOrderPrepend) {
         return SetStatus(DllExports::GdipTranslateWorldTransform(native_, dx, dy, order));
     }
@@ -110,7 +110,7 @@ public:
         return SetStatus(DllExports::GdipResetWorldTransform(native_));
     }
 
-    /// Outlines with a pen, in world coordinates; points belong to the caller.
+    /// Outlines with a pen, in world coordinates. Points stay the caller's.
     Status DrawLine(const Pen* pen, INT x1, INT y1, INT x2, INT y2) {
         return SetStatus(
             DllExports::GdipDrawLineI(native_, detail::Native(pen), x1, y1, x2, y2));
@@ -160,7 +160,7 @@ public:
             DllExports::GdipDrawPath(native_, detail::Native(pen), detail::Native(path)));
     }
 
-    /// Fills with a brush, in world coordinates; an outline is closed by itself.
+    /// Fills with a brush, in world coordinates; open outlines are closed.
     Status FillRectangle(const Brush* brush, INT x, INT y, INT width, INT height) {
         return SetStatus(DllExports::GdipFillRectangleI(native_, detail::Native(brush), x,
                                                         y, width, height));
@@ -198,8 +198,8 @@ public:
         if (text.GetStatus() != Ok || string == nullptr) {
             return SetStatus(InvalidUnless(text));
         }
-        // Without a brush libgdiplus would draw in black; without a surface it draws
-        // nothing and answers InvalidParameter, as is right.
+        // Without a brush libgdiplus would draw in black; without a surface it rightly
+        // draws nothing and returns InvalidParameter.
         GpBrush* const native = detail::Native(brush);
         return SetStatus(DllExports::GdipDrawString(
             native == nullptr ? nullptr : SurfaceFor(font), text.Text(), text.Length(),
@@ -216,8 +216,8 @@ public:
         return DrawString(string, length, font, origin, nullptr, brush);
     }
 
-    /// The box that DrawString fills, its margins included. Of the text,
-    /// `codepointsFitted` UTF-16 units fit into the rectangle.
+    /// The layout box of DrawString, margins included. `codepointsFitted` UTF-16 units of
+    /// the text fit into the rectangle.
     Status MeasureString(const WCHAR* string, INT length, const Font* font,
                          const RectF& layout, const StringFormat* format, RectF* bounds,
                          INT* codepointsFitted = nullptr,
@@ -241,7 +241,7 @@ public:
                              nullptr, bounds);
     }
 
-    /// In the image's own size, by its resolution and the surface's.
+    /// At the image's own size, by its resolution and the surface's.
     Status DrawImage(Image* image, INT x, INT y) {
         return SetStatus(
             DllExports::GdipDrawImageI(SurfaceFor(image), detail::Native(image), x, y));
@@ -267,24 +267,24 @@ public:
         return DrawImage(image, rect.X, rect.Y, rect.Width, rect.Height);
     }
 
-    /// The object behind, for the flat functions; null where none could be made.
+    /// The native object, for the flat functions; null if creation failed.
     GpGraphics* NativeObject() const { return native_; }
 
 protected:
-    /// A surface of another kind; whoever derives from this makes it.
+    /// For a surface of another kind, created by the derived class.
     Graphics() = default;
 
     /// Owned; deleted with the surface.
     GpGraphics* native_ = nullptr;
 
 private:
-    /// libgdiplus reads a null text whose length it is to find, and writes to null
-    /// bounds; neither reaches it.
+    /// libgdiplus would dereference a null text of unknown length, and null bounds;
+    /// neither is passed on.
     static Status InvalidUnless(const detail::Utf16Text& text) {
         return text.GetStatus() != Ok ? text.GetStatus() : InvalidParameter;
     }
 
-    /// None for what is beyond what libgdiplus can carry: the call then fails.
+    /// Null for a font or an image that libgdiplus cannot handle: the call then fails.
     GpGraphics* SurfaceFor(const Font* font) const {
         return font != nullptr && !font->drawable_ ? nullptr : native_;
     }

@@ -10,8 +10,8 @@ namespace Gdiplus {
 /// A picture, loaded from a file in any format that GDI+ decodes.
 class Image : public detail::StatusKeeper {
 public:
-    /// A file that cannot be loaded leaves the image without a native object and the
-    /// reason as its last status: OutOfMemory where no decoder knows what it is.
+    /// A file that cannot be loaded leaves the image without a native object, and the
+    /// reason in its last status: OutOfMemory if no decoder recognises it.
     Image(const WCHAR* filename) {
         const detail::Utf16Text text(filename);
         SetStatus(text.GetStatus() != Ok
@@ -40,21 +40,21 @@ public:
         return height;
     }
 
-    /// In dots per inch.
+    /// Dots per inch.
     REAL GetHorizontalResolution() {
         return Query(DllExports::GdipGetImageHorizontalResolution, native_);
     }
     REAL GetVerticalResolution() {
         return Query(DllExports::GdipGetImageVerticalResolution, native_);
     }
-    /// What a pixel is made of, and whether the image has pixels at all.
+    /// The pixel format, and whether this is a bitmap at all.
     PixelFormat GetPixelFormat() {
         return Query(DllExports::GdipGetImagePixelFormat, native_);
     }
     ImageType GetType() { return Query(DllExports::GdipGetImageType, native_); }
 
-    /// Writes the image in the format of an encoder, whose Clsid GetImageEncoders tells.
-    /// libgdiplus does not notice a disk that runs full.
+    /// Writes the image in the format of an encoder, whose Clsid comes from
+    /// GetImageEncoders. libgdiplus does not notice when the disk fills up.
     Status Save(const WCHAR* filename, const CLSID* encoder,
                 const EncoderParameters* parameters = nullptr) {
         const detail::Utf16Text text(filename);
@@ -64,30 +64,30 @@ public:
                                                                encoder, parameters));
     }
 
-    /// The object behind, for the flat functions; null where none could be made.
+    /// The native object, for the flat functions; null if creation failed.
     GpImage* NativeObject() const { return native_; }
 
 protected:
     Image() = default;
 
-    /// Owned; disposed of with the image.
+    /// Owned; deleted with the image.
     GpImage* native_ = nullptr;
 
 private:
     friend class Graphics;
 
-    /// From a TIFF file that ends within the list of its pages, libgdiplus makes an image
-    /// without any, and follows a null pointer when that is asked anything.
+    /// From a TIFF file that ends within its page directory, libgdiplus makes an image
+    /// without pages, and dereferences a null pointer on any query of it.
     bool HasFrames() const {
         GUID dimension = {};
-        UINT frames = 1;  // where the file's format has no such count
+        UINT frames = 1;  // for formats that have no count
         DllExports::GdipImageGetFrameDimensionsList(native_, &dimension, 1);
         DllExports::GdipImageGetFrameCount(native_, &dimension, &frames);
         return frames != 0;
     }
 
-    /// libgdiplus looks pixels up past the end of a palette that has fewer colours than
-    /// they can tell apart, as files may have: the colours that are missing become black.
+    /// A file's palette may have fewer colours than its pixels can index, and libgdiplus
+    /// then reads past its end: fill the missing ones with black.
     void CompletePalette() {
         PixelFormat format = PixelFormatUndefined;
         INT bytes = 0;
@@ -108,8 +108,8 @@ private:
         }
     }
 
-    /// Whether libgdiplus can draw it. A surface on which one with a longer side was
-    /// drawn draws nothing any more. Asks only for what the caller did not ask before.
+    /// Whether libgdiplus can draw the image. Drawing one with a longer side leaves the
+    /// surface unable to draw. Queries only what the caller has not queried before.
     bool IsDrawable() {
         constexpr std::int64_t longestSide = 32767;
         return native_ == nullptr ||
@@ -117,24 +117,28 @@ private:
                 (height_ < 0 ? GetHeight() : height_) <= longestSide);
     }
 
-    // As they were last answered; -1 before.
+    // From the last query; -1 before it.
     std::int64_t width_ = -1;
     std::int64_t height_ = -1;
 };
 
-/// A picture of pixels in memory.
+/// An image of pixels in memory.
 class Bitmap : public Image {
 public:
-    /// From an image file; or made anew, with all pixels clear.
+    /// From an image file; or new, with all pixels transparent.
     Bitmap(const WCHAR* filename) : Image(filename) {}
     Bitmap(INT width, INT height, PixelFormat format = PixelFormat32bppARGB)
         : Bitmap(width, height, 0, format, nullptr) {}
 
-    /// Over the caller's memory, which must outlive the bitmap. A stride is the bytes
-    /// from one row to the next, at least as many as the pixels of a row take; negative
-    /// where the rows go upwards from scan0. Formats of 24 bits are NotImplemented:
-    /// libgdiplus writes four bytes for each of their pixels, past the end of such
-    /// memory.
+    /// Over the caller's memory, which must outlive the bitmap. The stride is the bytes
+    /// from one row to the next, at least those of a row's pixels; negative for rows that
+    /// go upwards from scan0. A 24-bit format is NotImplemented: libgdiplus writes four
+    /// bytes per pixel, past the end of such memory.
+    ///
+    /// Drawing on PixelFormat32bppPARGB and PixelFormat32bppRGB goes straight into the
+    /// memory. Over PixelFormat32bppARGB, libgdiplus draws on a copy, which replaces the
+    /// memory's pixels when the bitmap is locked: what the host wrote there in the
+    /// meantime is lost.
     Bitmap(INT width, INT height, INT stride, PixelFormat format, BYTE* scan0) {
         const Status memory = CheckMemory(width, stride, format, scan0);
         GpBitmap* bitmap = nullptr;
@@ -144,7 +148,7 @@ public:
         native_ = bitmap;
     }
 
-    /// One pixel, which must be within the bitmap: InvalidParameter otherwise.
+    /// One pixel; InvalidParameter outside the bitmap.
     Status GetPixel(INT x, INT y, Color* color) {
         if (color == nullptr) {
             return SetStatus(InvalidParameter);
@@ -159,12 +163,12 @@ public:
         return SetStatus(
             DllExports::GdipBitmapSetPixel(Pixels(), x, y, color.GetValue()));
     }
-    /// Dots per inch, which a file keeps and DrawImage reads.
+    /// Dots per inch, as stored in files and used by DrawImage.
     Status SetResolution(REAL xdpi, REAL ydpi) {
         return SetStatus(DllExports::GdipBitmapSetResolution(Pixels(), xdpi, ydpi));
     }
 
-    /// Gives the pixels of an area until UnlockBits; a null area is the whole bitmap.
+    /// Gives access to the pixels of an area until UnlockBits; null for the whole bitmap.
     Status LockBits(const Rect* area, UINT mode, PixelFormat format, BitmapData* data) {
         return SetStatus(
             DllExports::GdipBitmapLockBits(Pixels(), area, mode, format, data));

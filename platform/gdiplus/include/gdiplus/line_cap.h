@@ -5,12 +5,12 @@
 
 namespace Gdiplus {
 
-/// A line end of the caller's own shape; made through a derived class.
+/// A custom line cap; constructed as a derived class.
 class CustomLineCap : public detail::StatusKeeper {
 public:
     virtual ~CustomLineCap() { DllExports::GdipDeleteCustomLineCap(native_); }
 
-    /// The object behind, for the flat functions; null where none could be made.
+    /// The native object, for the flat functions; null if creation failed.
     GpCustomLineCap* NativeObject() const { return native_; }
 
 protected:
@@ -24,7 +24,7 @@ protected:
 /// a cap of height 5 on a pen of width 3 is 15 long.
 class AdjustableArrowCap : public CustomLineCap {
 public:
-    /// An arrowhead, filled or as two lines.
+    /// An arrowhead, filled or open.
     AdjustableArrowCap(REAL height, REAL width, BOOL isFilled = 1) {
         GpAdjustableArrowCap* cap = nullptr;
         SetStatus(
@@ -32,7 +32,7 @@ public:
         native_ = cap;
     }
 
-    /// Units of the pen's width.
+    /// In pen widths.
     Status SetHeight(REAL height) {
         return SetStatus(DllExports::GdipSetAdjustableArrowCapHeight(Arrow(), height));
     }
@@ -45,7 +45,7 @@ public:
     REAL GetWidth() const {
         return Query(DllExports::GdipGetAdjustableArrowCapWidth, Arrow());
     }
-    /// Filled, or two lines.
+    /// Filled, or open (two lines).
     Status SetFillState(BOOL isFilled) {
         return SetStatus(
             DllExports::GdipSetAdjustableArrowCapFillState(Arrow(), isFilled));

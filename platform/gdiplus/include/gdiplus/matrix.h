@@ -6,9 +6,9 @@
 namespace Gdiplus {
 
 /// An affine transform; the identity by default. Angles are in degrees, clockwise on a
-/// surface whose y grows downwards. A step that is prepended, as it is by default, acts
-/// on a point before those that were there: Translate(10, 0) and then Rotate(90) takes
-/// (1, 0) to (10, 1).
+/// surface whose y grows downwards. A prepended step, which is the default, is applied to
+/// a point before those already there: Translate(10, 0) and then Rotate(90) takes (1, 0)
+/// to (10, 1).
 class Matrix : public detail::StatusKeeper {
 public:
     Matrix() { SetStatus(DllExports::GdipCreateMatrix(&native_)); }
@@ -18,7 +18,7 @@ public:
     }
     ~Matrix() { DllExports::GdipDeleteMatrix(native_); }
 
-    /// Each puts one step before the others, or after them when appended.
+    /// Each prepends or appends one step.
     Status Translate(REAL dx, REAL dy, MatrixOrder order = MatrixOrderPrepend) {
         return SetStatus(DllExports::GdipTranslateMatrix(native_, dx, dy, order));
     }
@@ -32,9 +32,9 @@ public:
         return SetStatus(
             DllExports::GdipMultiplyMatrix(native_, detail::Native(matrix), order));
     }
-    /// The transform that leads back; fails where there is none.
+    /// Inverts the transform; fails if it has no inverse.
     Status Invert() { return SetStatus(DllExports::GdipInvertMatrix(native_)); }
-    /// Gives it all elements anew: the identity, or those given.
+    /// Replaces all elements: with the identity, or with those given.
     Status Reset() { return SetElements(1.0f, 0.0f, 0.0f, 1.0f, 0.0f, 0.0f); }
     Status SetElements(REAL m11, REAL m12, REAL m21, REAL m22, REAL dx, REAL dy) {
         return SetStatus(
@@ -45,7 +45,7 @@ public:
     Status GetElements(REAL* elements) const {
         return SetStatus(DllExports::GdipGetMatrixElements(native_, elements));
     }
-    /// What kind of transform it is; false of one that could not be made.
+    /// Whether it has a property; false if creation failed.
     BOOL IsIdentity() const { return Tells(DllExports::GdipIsMatrixIdentity); }
     BOOL IsInvertible() const { return Tells(DllExports::GdipIsMatrixInvertible); }
     BOOL Equals(const Matrix* other) const {
@@ -54,7 +54,7 @@ public:
         return equal;
     }
 
-    /// In place.
+    /// Transforms points in place.
     Status TransformPoints(PointF* points, INT count = 1) const {
         return SetStatus(DllExports::GdipTransformMatrixPoints(native_, points, count));
     }
@@ -62,7 +62,7 @@ public:
         return SetStatus(DllExports::GdipTransformMatrixPointsI(native_, points, count));
     }
 
-    /// The object behind, for the flat functions; null where none could be made.
+    /// The native object, for the flat functions; null if creation failed.
     GpMatrix* NativeObject() const { return native_; }
 
 private:

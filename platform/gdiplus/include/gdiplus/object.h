@@ -4,11 +4,11 @@
 
 namespace Gdiplus::detail {
 
-/// What every class around a native object shares: it keeps the last failure, and is
-/// not copied.
+/// The base of every class around a native object: keeps the last failure, and cannot be
+/// copied.
 class StatusKeeper {
 public:
-    /// The last status that was not Ok since the last call, then Ok.
+    /// The last status that was not Ok since the previous call; resets it to Ok.
     Status GetLastStatus() const {
         const Status status = lastStatus_;
         lastStatus_ = Ok;
@@ -29,7 +29,7 @@ protected:
         return status;
     }
 
-    /// A flat query's value, 0 when the query fails. The failure is kept.
+    /// The value of a flat query; 0 when it fails, and the failure is kept.
     template <typename Value, typename Native>
     Value Query(Status (*flat)(Native*, Value*), Native* native) const {
         Value value = Value();
@@ -41,7 +41,7 @@ private:
     mutable Status lastStatus_ = Ok;
 };
 
-/// The native object behind a wrapper, null for no wrapper.
+/// The native object of a wrapper; null for a null wrapper.
 template <typename Wrapper>
 auto Native(const Wrapper* wrapper) -> decltype(wrapper->NativeObject()) {
     return wrapper == nullptr ? nullptr : wrapper->NativeObject();

@@ -7,29 +7,30 @@
 
 namespace Gdiplus {
 
-/// A figure of lines and outlines.
+/// A path of lines, shapes and text outlines.
 class GraphicsPath : public detail::StatusKeeper {
 public:
-    /// A path with nothing in it.
+    /// An empty path.
     GraphicsPath(FillMode mode = FillModeAlternate) {
         SetStatus(DllExports::GdipCreatePath(mode, &native_));
     }
     ~GraphicsPath() { DllExports::GdipDeletePath(native_); }
 
-    /// Leaves nothing in it, and fills as a new path does.
+    /// Empties the path and resets its fill mode.
     Status Reset() { return SetStatus(DllExports::GdipResetPath(native_)); }
-    /// What is inside where figures overlap.
+    /// Which parts of overlapping figures are inside.
     FillMode GetFillMode() const {
         return Query(DllExports::GdipGetPathFillMode, native_);
     }
     Status SetFillMode(FillMode mode) {
         return SetStatus(DllExports::GdipSetPathFillMode(native_, mode));
     }
-    /// What is added next begins a figure; the last figure gets its closing line.
+    /// StartFigure begins a new figure without closing the current one; CloseFigure
+    /// closes it.
     Status StartFigure() { return SetStatus(DllExports::GdipStartPathFigure(native_)); }
     Status CloseFigure() { return SetStatus(DllExports::GdipClosePathFigure(native_)); }
 
-    /// Adds the outline of a text in the given em size; none of more than 65,535.
+    /// Adds the outline of a text; fails for an em size over 65,535.
     Status AddString(const WCHAR* string, INT length, const FontFamily* family, INT style,
                      REAL emSize, const RectF& layout, const StringFormat* format) {
         const detail::Utf16Text text(string, length);
@@ -60,7 +61,7 @@ public:
                          format);
     }
 
-    /// Adds to the figure; a polygon or rectangle is a closed figure of its own.
+    /// Adds to the current figure; a polygon or rectangle is a closed figure of its own.
     Status AddLine(INT x1, INT y1, INT x2, INT y2) {
         return SetStatus(DllExports::GdipAddPathLineI(native_, x1, y1, x2, y2));
     }
@@ -94,14 +95,14 @@ public:
                                                           rect.Width, rect.Height));
     }
 
-    /// Without a matrix the path stays as it is, and GDI+ is not asked.
+    /// Without a matrix the path is unchanged and GDI+ is not called.
     Status Transform(const Matrix* matrix) {
         return matrix == nullptr ? Ok
                                  : SetStatus(DllExports::GdipTransformPath(
                                        native_, matrix->NativeObject()));
     }
 
-    /// The bounds in whole units, of the path after the matrix and with the pen's width.
+    /// The bounds of the path, transformed by the matrix and widened by the pen.
     Status GetBounds(Rect* bounds, const Matrix* matrix = nullptr,
                      const Pen* pen = nullptr) const {
         return SetStatus(DllExports::GdipGetPathWorldBoundsI(
@@ -115,12 +116,12 @@ public:
     /// How many points the path has.
     INT GetPointCount() const { return Query(DllExports::GdipGetPointCount, native_); }
 
-    /// Into room for count points, which is to be at least GetPointCount().
+    /// Into a buffer for count points, at least GetPointCount().
     Status GetPathPoints(PointF* points, INT count) const {
         return SetStatus(DllExports::GdipGetPathPoints(native_, points, count));
     }
 
-    /// The object behind, for the flat functions; null where none could be made.
+    /// The native object, for the flat functions; null if creation failed.
     GpPath* NativeObject() const { return native_; }
 
 private:

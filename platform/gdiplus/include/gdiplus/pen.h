@@ -4,11 +4,11 @@
 
 namespace Gdiplus {
 
-/// What draws lines and outlines. The width is in world units, so that it scales with
-/// the world transform; a line is never thinner than a pixel.
+/// Draws lines and outlines. The width is in world units, so it scales with the world
+/// transform; a line is never thinner than a pixel.
 class Pen : public detail::StatusKeeper {
 public:
-    /// A pen of one colour, its width in world units.
+    /// A pen of one colour, with its width in world units.
     Pen(const Color& color, REAL width = 1.0f) {
         SetStatus(
             DllExports::GdipCreatePen1(color.GetValue(), width, UnitWorld, &native_));
@@ -33,14 +33,14 @@ public:
         return SetStatus(DllExports::GdipSetPenWidth(native_, width));
     }
     REAL GetWidth() const { return Query(DllExports::GdipGetPenWidth, native_); }
-    /// Dashes are as long as the pen is wide, times a small number.
+    /// Dash lengths are multiples of the pen's width.
     Status SetDashStyle(DashStyle style) {
         return SetStatus(DllExports::GdipSetPenDashStyle(native_, style));
     }
     DashStyle GetDashStyle() const {
         return Query(DllExports::GdipGetPenDashStyle, native_);
     }
-    /// What stands at the corners of an outline.
+    /// How the corners of an outline are drawn.
     Status SetLineJoin(LineJoin join) {
         return SetStatus(DllExports::GdipSetPenLineJoin(native_, join));
     }
@@ -48,7 +48,7 @@ public:
         return Query(DllExports::GdipGetPenLineJoin, native_);
     }
 
-    /// What stands at the two ends of a line.
+    /// How the two ends of a line are drawn.
     Status SetStartCap(LineCap cap) {
         return SetStatus(DllExports::GdipSetPenStartCap(native_, cap));
     }
@@ -68,7 +68,7 @@ public:
             DllExports::GdipSetPenCustomEndCap(native_, detail::Native(cap)));
     }
 
-    /// The object behind, for the flat functions; null where none could be made.
+    /// The native object, for the flat functions; null if creation failed.
     GpPen* NativeObject() const { return native_; }
 
 private:

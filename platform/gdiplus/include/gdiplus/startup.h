@@ -10,9 +10,9 @@ typedef VOID (*DebugEventProc)(DebugEventLevel level, char* message);
 typedef Status (*NotificationHookProc)(ULONG_PTR* token);
 typedef VOID (*NotificationUnhookProc)(ULONG_PTR token);
 
-/// How GDI+ is to start; the defaults suit every program.
+/// Startup options; the defaults suit every program.
 struct GdiplusStartupInput {
-    /// All switched off.
+    /// Everything off.
     GdiplusStartupInput(Gdiplus::DebugEventProc debugEventCallback = nullptr,
                         BOOL suppressBackgroundThread = 0,
                         BOOL suppressExternalCodecs = 0)
@@ -20,23 +20,23 @@ struct GdiplusStartupInput {
           SuppressBackgroundThread(suppressBackgroundThread),
           SuppressExternalCodecs(suppressExternalCodecs) {}
 
-    /// 1; called on errors within GDI+, or null; no thread of its own; no codecs but its
-    /// own.
+    /// Always 1; called on errors inside GDI+, or null; no background thread; no external
+    /// codecs.
     UINT32 GdiplusVersion = 1;
     Gdiplus::DebugEventProc DebugEventCallback;
     BOOL SuppressBackgroundThread;
     BOOL SuppressExternalCodecs;
 };
 
-/// What a host without a background thread has to call; null otherwise.
+/// Hooks for a host that suppresses the background thread.
 struct GdiplusStartupOutput {
-    /// Null here.
+    /// Always null here.
     NotificationHookProc NotificationHook = nullptr;
     NotificationUnhookProc NotificationUnhook = nullptr;
 };
 
-/// Starts GDI+ for the process, before any other use of it; each start wants one
-/// GdiplusShutdown with its token.
+/// Starts GDI+ for the process, before any other use of it. Pair each call with a
+/// GdiplusShutdown of its token.
 inline Status GdiplusStartup(ULONG_PTR* token, const GdiplusStartupInput* input,
                              GdiplusStartupOutput* output) {
     if (token != nullptr) {
@@ -45,13 +45,12 @@ inline Status GdiplusStartup(ULONG_PTR* token, const GdiplusStartupInput* input,
     return DllExports::GdiplusStartup(token, input, output);
 }
 
-/// Ends a use of GDI+. Every object of it must have been deleted before.
+/// Ends a use of GDI+. Delete every GDI+ object first.
 ///
-/// libgdiplus itself is left running, for its own shutdown closes the whole process's
-/// fontconfig, which ends the program with an assertion while anything still holds a
-/// font: a toolkit, another thread, or the worker thread in which Pango still sorts the
-/// fonts of the text just drawn. What stays are fontconfig's caches, which the next
-/// start finds ready.
+/// libgdiplus itself is left running: its own shutdown closes fontconfig for the whole
+/// process, which fails an assertion while anything still holds a font, be it a toolkit,
+/// another thread, or the worker thread in which Pango is still sorting the fonts of the
+/// last text. Only fontconfig's caches remain, ready for the next start.
 inline VOID GdiplusShutdown(ULONG_PTR) {}
 
 }  // namespace Gdiplus

@@ -5,17 +5,17 @@
 
 namespace Gdiplus {
 
-/// How a text is laid out in its rectangle: from its near corner, unless aligned
-/// otherwise along the line (Alignment) or across the lines (LineAlignment).
+/// How text is laid out in its rectangle: from the near corner, unless aligned otherwise
+/// along the line (Alignment) or across lines (LineAlignment).
 class StringFormat : public detail::StatusKeeper {
 public:
-    /// A format with no more than the flags of StringFormatFlags.
+    /// A format with the given StringFormatFlags.
     StringFormat(INT flags = 0, LANGID language = 0) {
         SetStatus(DllExports::GdipCreateStringFormat(flags, language, &native_));
     }
     ~StringFormat() { DllExports::GdipDeleteStringFormat(native_); }
 
-    /// Where a line, and where all lines, stand in the rectangle.
+    /// Where each line, and the block of lines, goes in the rectangle.
     Status SetAlignment(StringAlignment alignment) {
         return SetStatus(DllExports::GdipSetStringFormatAlign(native_, alignment));
     }
@@ -29,14 +29,14 @@ public:
         return Query(DllExports::GdipGetStringFormatLineAlign, native_);
     }
 
-    /// Flags of StringFormatFlags.
+    /// StringFormatFlags.
     Status SetFormatFlags(INT flags) {
         return SetStatus(DllExports::GdipSetStringFormatFlags(native_, flags));
     }
     INT GetFormatFlags() const {
         return Query(DllExports::GdipGetStringFormatFlags, native_);
     }
-    /// What ends a text that is cut off.
+    /// How text that does not fit is cut.
     Status SetTrimming(StringTrimming trimming) {
         return SetStatus(DllExports::GdipSetStringFormatTrimming(native_, trimming));
     }
@@ -44,7 +44,7 @@ public:
         return Query(DllExports::GdipGetStringFormatTrimming, native_);
     }
 
-    /// The object behind, for the flat functions; null where none could be made.
+    /// The native object, for the flat functions; null if creation failed.
     GpStringFormat* NativeObject() const { return native_; }
 
 private:

@@ -14,15 +14,16 @@ inline bool IsLowSurrogate(std::uint32_t c) { return c >= 0xDC00 && c <= 0xDFFF;
 
 constexpr FlatChar kReplacement = 0xFFFD;
 
-/// A wide text as the UTF-16 that the flat functions take, for the time of one call.
+/// A wide string converted to the UTF-16 of the flat functions, for the duration of one
+/// call.
 ///
 /// A character past U+FFFF becomes a surrogate pair: L"\U0001F5FA" is D83D DDFA,
-/// length 2. A lone surrogate, and a value that is no code point, becomes U+FFFD. Two
-/// surrogates that make a pair stay the pair they are. A null text stays null.
+/// length 2. A lone surrogate or an invalid code point becomes U+FFFD. A valid surrogate
+/// pair is kept. A null string stays null.
 class Utf16Text {
 public:
     /// @param length how many characters to take, embedded nulls included; -1 for all up
-    /// to the terminating null, which is the only negative length that is taken
+    /// to the terminating null; other negative lengths are InvalidParameter
     explicit Utf16Text(const wchar_t* text, INT length = -1) {
         if (text == nullptr) {
             length_ = length;
@@ -52,7 +53,7 @@ public:
         length_ = Convert(text, count, out);
     }
 
-    /// Ok, or why there is no text to hand on.
+    /// Ok, or why there is no text to pass on.
     Status GetStatus() const { return status_; }
 
     const FlatChar* Text() const { return text_; }
@@ -68,7 +69,7 @@ private:
         const FlatChar* const start = out;
         for (std::size_t i = 0; i < count; ++i) {
             const auto c = static_cast<std::uint32_t>(text[i]);
-            if (c < 0xD800) {  // nearly all text
+            if (c < 0xD800) {  // almost every character
                 *out++ = static_cast<FlatChar>(c);
             } else if (IsHighSurrogate(c) && i + 1 < count &&
                        IsLowSurrogate(static_cast<std::uint32_t>(text[i + 1]))) {
@@ -94,7 +95,7 @@ private:
     Status status_ = Ok;
 };
 
-/// How many wide characters a UTF-16 text needs, with its terminating null.
+/// How many wide characters a UTF-16 string needs, including the terminating null.
 inline std::size_t WideSize(const FlatChar* text) {
     std::size_t size = 1;
     for (; *text != 0; ++text, ++size) {
@@ -105,8 +106,8 @@ inline std::size_t WideSize(const FlatChar* text) {
     return size;
 }
 
-/// Writes a UTF-16 text as wide characters with a terminating null, at most size of them
-/// together, and gives the place after the null.
+/// Writes a UTF-16 string as at most `size` wide characters, terminating null included,
+/// and returns the position after the null.
 inline wchar_t* WriteWide(const FlatChar* text, wchar_t* out, std::size_t size) {
     for (; *text != 0 && size > 1; ++text, --size) {
         std::uint32_t c = *text;

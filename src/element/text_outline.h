@@ -6,12 +6,11 @@
 
 namespace map_surround {
 
-/// The length of a text as GDI+ takes it.
+/// The length of a text, clamped to what GDI+ takes.
 int TextLength(const std::wstring& text);
 
-/// The integer bounds of a text's outline, added to an empty path at (0, 0): the ink box,
-/// not a layout box. Empty where the font does not exist, whatever its wrapper answers
-/// for its size then.
+/// Adds a text's outline to an empty path at (0, 0) and gives its integer bounds: the ink
+/// box, not the layout box. Empty if the font does not exist.
 Gdiplus::Rect MeasureOutline(Gdiplus::GraphicsPath& path, const std::wstring& text,
                              const Gdiplus::FontFamily& family, const Gdiplus::Font& font,
                              const Gdiplus::StringFormat& format);

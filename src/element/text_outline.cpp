@@ -1,4 +1,4 @@
-#include "element/text.h"
+#include "element/text_outline.h"
 
 #include "element/numbers.h"
 
@@ -13,7 +13,7 @@ Gdiplus::Rect map_surround::MeasureOutline(Gdiplus::GraphicsPath& path,
                                            const Gdiplus::StringFormat& format) {
     const Gdiplus::REAL emSize = font.GetSize();
     const int style = font.GetStyle();
-    // A font that could not be made answers both with anything.
+    // Size and style mean nothing for a font that could not be created.
     if (font.GetLastStatus() == Gdiplus::Ok) {
         path.AddString(text.c_str(), TextLength(text), &family, style, emSize,
                        Gdiplus::RectF(0.0f, 0.0f, 0.0f, 0.0f), &format);
