@@ -34,11 +34,11 @@
 export CMAKE_BUILD_PARALLEL_LEVEL ?= $(shell nproc)
 export CTEST_PARALLEL_LEVEL ?= $(shell nproc)
 
-demo: build/demo/build.ninja
-	cmake --build --preset demo --target map_page make_sample_rasters
-	scripts/draw_demo build/demo
+demo: build/release/with-demo
+	cmake --build --preset release --target map_page make_sample_rasters
+	scripts/draw_demo build/release build/demo
 
-test: build/release/build.ninja
+test: build/release/with-test
 	cmake --build --preset release
 	ctest --preset release
 
@@ -50,9 +50,10 @@ test-threads: build/threads/build.ninja
 	cmake --build --preset threads
 	ctest --preset threads
 
-test-valgrind: build/valgrind/build.ninja
-	cmake --build --preset valgrind
-	scripts/memcheck build/valgrind/tests
+test-valgrind: build/release/with-test
+	scripts/install_packages valgrind
+	cmake --build --preset release --target library_tests memory_tests
+	scripts/memcheck build/release/tests
 
 test-windows: build/windows-mingw/build.ninja
 	cmake --build --preset windows-mingw
@@ -66,21 +67,21 @@ mutants:
 	scripts/install_packages mutants
 	nice scripts/mutate --jobs $(CMAKE_BUILD_PARALLEL_LEVEL)
 
-hostile-images: build/release/build.ninja
+hostile-images: build/release/with-test
 	cmake --build --preset release --target map_page_tests
 	ulimit -v 6000000; HOSTILE_IMAGES=$(or $(COUNT),5000) HOSTILE_IMAGES_FIRST=$(or $(FIRST),0) \
 	    build/release/tests/host/map_page/map_page_tests --gtest_filter='HostileImages.*'
 
-hostile-rasters: build/release/build.ninja
+hostile-rasters: build/release/with-test
 	cmake --build --preset release --target map_page_tests
 	ulimit -v 6000000; HOSTILE_RASTERS=$(or $(COUNT),2000) \
 	    build/release/tests/host/map_page/map_page_tests --gtest_filter='HostileRasters.*'
 
-soak: build/release/build.ninja
+soak: build/release/with-test
 	cmake --build --preset release --target soak
 	SOAK_DRAWS=$(or $(COUNT),1000000) build/release/tests/soak
 
-interruptions: build/release/build.ninja
+interruptions: build/release/with-test
 	cmake --build --preset release --target map_page_tests
 	INTERRUPTIONS=$(or $(COUNT),200) \
 	    build/release/tests/host/map_page/map_page_tests --gtest_filter='Interrupted.*'
@@ -101,7 +102,7 @@ abi-report:
 	scripts/install_packages abi
 	scripts/abi_report build/abi $(BASE)
 
-gallery: build/release/build.ninja
+gallery: build/release/with-demo
 	cmake --build --preset release --target gallery smallest_host framed_page
 	rm -rf build/gallery
 	build/release/examples/gallery build/gallery
@@ -114,35 +115,35 @@ gallery: build/release/build.ninja
 images: gallery
 	scripts/check_images --keep build/gallery
 
-editor: build/editor/build.ninja
-	cmake --build --preset editor --target page_editor
+editor: build/release/with-editor
+	cmake --build --preset release --target page_editor
 
-editor-test: build/editor/build.ninja
-	cmake --build --preset editor
-	QT_QPA_PLATFORM=offscreen ctest --preset editor
+editor-test: build/release/with-test build/release/with-editor
+	cmake --build --preset release --target page_editor_tests
+	ctest --preset release -R '^page_editor_tests'
 
-bench: build/bench/build.ninja
-	cmake --build --preset bench --target library_bench
-	build/bench/bench/library/library_bench --benchmark_out=build/bench/figures.json
+bench: build/release/with-bench
+	cmake --build --preset release --target library_bench
+	build/release/bench/library/library_bench
 
-bench-peers: build/bench/build.ninja demo
+bench-peers: build/release/with-bench demo
 	scripts/install_packages peers
-	cmake --build --preset bench --target furniture_page
-	bench/peers/compare build/bench/bench/furniture_page \
-	    --map-page build/demo/host/map_page/map_page build/demo/rasters/L7_ETMs.tif
+	cmake --build --preset release --target furniture_page
+	bench/peers/compare build/release/bench/furniture_page \
+	    --map-page build/release/host/map_page/map_page build/demo/rasters/L7_ETMs.tif
 
-bench-drag: build/bench-page/build.ninja
-	cmake --build --preset bench-page --target live_page_bench
-	build/bench-page/bench/page/live_page_bench
+bench-drag: build/release/with-bench
+	cmake --build --preset release --target live_page_bench
+	build/release/bench/page/live_page_bench
 
-bench-editor: build/bench-editor/build.ninja
-	cmake --build --preset bench-editor --target editor_drag_bench
+bench-editor: build/release/with-bench build/release/with-editor
+	cmake --build --preset release --target editor_drag_bench
 	QT_QPA_PLATFORM=offscreen QT_LOGGING_RULES=default.warning=false \
-	    build/bench-editor/bench/page/editor_drag_bench
+	    build/release/bench/page/editor_drag_bench
 
 bench-map: demo
 	scripts/install_packages peers
-	bench/peers/compare_map build/demo/host/map_page/map_page \
+	bench/peers/compare_map build/release/host/map_page/map_page \
 	    build/demo/rasters/L7_ETMs.tif build/bench/rasters
 
 docs:
@@ -164,18 +165,25 @@ lint: build/lint/build.ninja
 clean:
 	rm -rf build
 
-purpose_of_demo = demo
-purpose_of_editor = editor
-purpose_of_lint = lint
-purpose_of_bench = bench
-purpose_of_bench-page = bench-page
-purpose_of_bench-editor = bench-editor
-purpose_of_package = package
-purpose_of_fuzz = fuzz
-purpose_of_threads = library
-purpose_of_valgrind = valgrind
-purpose_of_windows-mingw = windows
+# One tree for all that is optimised. A purpose installs its packages and turns its part of
+# the tree on, where it stays; the first to come leaves the tests, which need more, off.
+new_tree = $(shell [ -e build/release/CMakeCache.txt ] || echo -DMAP_SURROUND_TESTS=OFF)
+part_of_demo = $(new_tree)
+part_of_test = -DMAP_SURROUND_TESTS=ON
+part_of_editor = $(new_tree) -DMAP_SURROUND_EDITOR=ON
+part_of_bench = $(new_tree) -DMAP_SURROUND_BENCH=ON
+
+build/release/with-%: CMakePresets.json scripts/install_packages
+	scripts/install_packages $*
+	cmake --preset release $(part_of_$*) >/dev/null
+	touch $@
+
 purpose_of_coverage = coverage
+purpose_of_fuzz = fuzz
+purpose_of_lint = lint
+purpose_of_package = package
+purpose_of_threads = library
+purpose_of_windows-mingw = windows
 
 build/%/build.ninja: CMakePresets.json scripts/install_packages
 	scripts/install_packages $(or $(purpose_of_$*),test)

@@ -33,7 +33,7 @@ class Workshop:
 
     def __init__(self, root, folder):
         self.source, self.folder = folder / "source", folder
-        self.tree = self.source / "build" / "mutants"
+        self.tree = self.source / "build" / "release"
         self._copy_sources(root)
         self._build()
         self.units = self._read_units()
@@ -74,8 +74,10 @@ class Workshop:
                 raise SystemExit(f"{' '.join(command)}:\n{done.stdout}{done.stderr}")
             return done.stdout
 
-        run("cmake", "--preset", "mutants", "-DCMAKE_CXX_COMPILER_LAUNCHER=")
-        run("cmake", "--build", "--preset", "mutants", "--target", "library_tests")
+        run("cmake", "--preset", "release", "-DCMAKE_CXX_COMPILER_LAUNCHER=",
+            "-DCMAKE_CXX_FLAGS_RELWITHDEBINFO=-O1", "-DCMAKE_EXE_LINKER_FLAGS=-fuse-ld=lld",
+            *(f"-DMAP_SURROUND_{part}=OFF" for part in ("SHARED", "HOST", "EXAMPLES")))
+        run("cmake", "--build", "--preset", "release", "--target", "library_tests")
         self._ninja = lambda *tool: run("ninja", "-C", str(self.tree), "-t", *tool)
 
     def _read_units(self):
