@@ -2,61 +2,214 @@
 
 #include <utility>
 
-#include "elements.h"
-#include "framed_page.h"
+#include "legend/fake_sources.h"
+#include "map_surround/map_surround.h"
 
 namespace bench {
 namespace {
 
-/// Whether the element's natural proportions are measured by GDI+.
-bool IsMeasured(const CMapSurround& element) {
-    const MapSurroundType type = element.GetItemType();
-    return type == SurroundMapTitle || type == SurroundPicture || type == SurroundLegend;
+constexpr Gdiplus::ARGB kInk = 0xFF1B2733;
+constexpr int kMany = 1000;
+
+struct Named {
+    std::string name;
+    std::shared_ptr<CMapSurround> element;
+};
+
+/// A legend together with the sources that it explains.
+class LegendOfRasters : public CMapLegend {
+public:
+    explicit LegendOfRasters(std::vector<fakes::Raster> rasters)
+        : m_rasters(std::move(rasters)) {
+        std::vector<CGISDataSource*> sources;
+        for (fakes::Raster& raster : m_rasters) {
+            sources.push_back(&raster);
+        }
+        SetDataSouce(sources);
+        SetTitleValue(L"Legend");
+        CMapLegend::ResetAspectRatio();
+    }
+
+private:
+    std::vector<fakes::Raster> m_rasters;
+};
+
+fakes::Raster Rgb() { return fakes::Raster(L"landsat_2024.tif", DisplayRGB); }
+
+fakes::Raster Grey() {
+    fakes::Raster raster(L"elevation.tif", DisplayGray);
+    raster.band.lowest = -3.7;
+    raster.band.highest = 107.9;
+    return raster;
+}
+
+fakes::Raster Classified(int classes) {
+    fakes::Raster raster(L"land_cover.tif", DisplayClassified);
+    for (int i = 0; i < classes; ++i) {
+        const auto shade = static_cast<unsigned char>(i);
+        raster.table.items.emplace_back(L"class " + std::to_wstring(10000 + i), shade,
+                                        shade, shade);
+    }
+    return raster;
+}
+
+Named Legend(const char* name, std::vector<fakes::Raster> rasters) {
+    return {name, std::make_shared<LegendOfRasters>(std::move(rasters))};
+}
+
+Named Title() {
+    auto title = std::make_shared<CMapTitle>();
+    title->SetFontValue(L"Land cover of Olinda");
+    title->SetFontStyle(L"Arial");
+    title->SetFontSize(40.0);
+    title->SetFrontColor(kInk);
+    title->ResetAspectRatio();
+    return {"title", title};
+}
+
+Named Picture() {
+    const std::string path = BENCH_PICTURE;
+    auto picture = std::make_shared<CDrawPicture>();
+    picture->Open(std::wstring(path.begin(), path.end()).c_str());
+    picture->SetSize(120);
+    picture->ResetAspectRatio();
+    return {"picture", picture};
+}
+
+template <typename Arrow>
+Named NorthArrow(const char* name) {
+    auto arrow = std::make_shared<Arrow>();
+    arrow->SetSize(120);
+    arrow->SetAngle(20.0f);
+    arrow->SetFrontColor(kInk);
+    return {name, arrow};
+}
+
+/// Divisions are whole pixels at the scale.
+template <typename Bar>
+Named ScaleBar(const char* name, double scale, int divisions = 4) {
+    constexpr double kDivision = 36.0;
+    auto bar = std::make_shared<Bar>();
+    bar->SetFrontColor(kInk);
+    bar->SetUnitsName(L"Kilometre");
+    bar->SetMainDivCount(divisions);
+    bar->SetPaper2DataScale(0.5);
+    bar->SetPaper2ScreenScale(kDivision * scale);
+    bar->SetScreen2PaperByOneScale(kDivision);
+    bar->ResetAspectRatio();
+    return {name, bar};
+}
+
+std::vector<Named> Elements(double scale) {
+    return {
+        Title(),
+        Picture(),
+        NorthArrow<CNorthArrowOneAngle>("north arrow, one angle"),
+        NorthArrow<CNorthArrowTwoAngle>("north arrow, two angles"),
+        NorthArrow<CNorthArrowFourAngle>("north arrow, four angles"),
+        NorthArrow<CNorthArrowEightAngle>("north arrow, eight angles"),
+        ScaleBar<CScaleLine>("scale bar, line", scale),
+        ScaleBar<CSteppedScaleLine>("scale bar, stepped", scale),
+        ScaleBar<CScaleLine2>("scale bar, line 2", scale),
+        ScaleBar<CScaleLine3>("scale bar, line 3", scale),
+        ScaleBar<CScaleAlternate>("scale bar, alternating", scale),
+        ScaleBar<CScaleEquAltenate>("scale bar, equal boxes", scale),
+        Legend("legend, three bands", {Rgb()}),
+        Legend("legend, grey", {Grey()}),
+        Legend("legend, 12 classes", {Classified(12)}),
+        Legend("legend, all three", {Rgb(), Grey(), Classified(12)}),
+        // What the library does itself would show here if it grew faster than its calls.
+        ScaleBar<CScaleLine>("scale bar, 1000 divisions", scale, kMany),
+        ScaleBar<CScaleAlternate>("alternating, 1000 divisions", scale, kMany),
+        Legend("legend, 1000 classes", {Classified(kMany)}),
+        Legend("legend, 1000 sources", std::vector<fakes::Raster>(kMany, Rgb())),
+    };
+}
+
+CFrameBase DecoratedFrame() {
+    CFrameBase frame;
+    frame.DrawBorder = true;
+    frame.BorderGapX = 1;
+    frame.BorderGapY = 1;
+    frame.DrawShadow = true;
+    frame.ShadowColor = Gdiplus::Color(0xFFB4BBC2);
+    frame.ShadowRatioX = 0.02f;
+    frame.ShadowRatioY = 0.05f;
+    frame.DrawFill = true;
+    frame.FillColor = Gdiplus::Color(0xFFF7F3E8);
+    return frame;
+}
+
+CFrameBase DashedFrame() {
+    CFrameBase frame;
+    frame.DrawBorder = true;
+    frame.DashedBorder = true;
+    return frame;
+}
+
+/// How a host draws an element: slanted edges smoothed, lines along the axes not.
+Gdiplus::SmoothingMode SmoothingOf(MapSurroundType type) {
+    return type == SurroundScaleBar || type == SurroundLegend
+               ? Gdiplus::SmoothingModeDefault
+               : Gdiplus::SmoothingModeAntiAlias;
 }
 
 }  // namespace
 
-std::vector<std::shared_ptr<Scene>> Scenes(double scale) {
-    constexpr int kWidth = 600;
-    constexpr int kHeight = 450;
-    const auto at = [scale](int length) { return static_cast<int>(length * scale); };
-    const CPoint centre(at(kWidth / 2), at(kHeight / 2));
-    const auto sharp = std::make_shared<Surface>(at(kWidth), at(kHeight));
-    const auto smooth = std::make_shared<Surface>(at(kWidth), at(kHeight));
-    smooth->Graphics().SetSmoothingMode(Gdiplus::SmoothingModeAntiAlias);
+std::vector<Gdiplus::ARGB> Surface::Pixels() {
+    const Gdiplus::Rect all(0, 0, static_cast<INT>(m_bitmap.GetWidth()),
+                            static_cast<INT>(m_bitmap.GetHeight()));
+    Gdiplus::BitmapData data;
+    std::vector<Gdiplus::ARGB> pixels;
+    if (m_bitmap.LockBits(&all, Gdiplus::ImageLockModeRead, PixelFormat32bppARGB,
+                          &data) != Gdiplus::Ok) {
+        return pixels;
+    }
+    for (INT y = 0; y < all.Height; ++y) {
+        const auto* row = reinterpret_cast<const Gdiplus::ARGB*>(
+            static_cast<const BYTE*>(data.Scan0) + y * data.Stride);
+        pixels.insert(pixels.end(), row, row + all.Width);
+    }
+    m_bitmap.UnlockBits(&data);
+    return pixels;
+}
 
-    std::vector<std::shared_ptr<Scene>> scenes;
-    const auto add = [&](std::string name, std::shared_ptr<Surface> surface,
-                         std::function<void()> run, bool draws) {
-        scenes.push_back(std::make_shared<Scene>(
-            Scene{std::move(name), std::move(surface), std::move(run), draws}));
-    };
-    for (Named& named : NewElements(scale)) {
-        const std::shared_ptr<CMapSurround> element = std::move(named.element);
-        const std::shared_ptr<Surface> surface =
-            SmoothingOf(*element) == Gdiplus::SmoothingModeAntiAlias ? smooth : sharp;
-        add(
-            named.name, surface,
-            [=] { element->Draw(&surface->Graphics(), centre, scale); }, true);
-        if (IsMeasured(*element)) {
-            add(
-                named.name + ", measured", surface, [=] { element->ResetAspectRatio(); },
-                false);
+std::vector<Scene> Scenes(double scale) {
+    const auto at = [scale](int length) { return static_cast<int>(length * scale); };
+    const auto surface = std::make_shared<Surface>(at(600), at(450));
+    const CPoint centre(at(300), at(225));
+    const CRect rect(at(100), at(100), at(500), at(350));
+
+    std::vector<Scene> scenes;
+    std::vector<std::function<void()>> page;
+    for (const Named& named : Elements(scale)) {
+        const MapSurroundType type = named.element->GetItemType();
+        const std::function<void()> draw = [=, element = named.element] {
+            surface->Graphics().SetSmoothingMode(SmoothingOf(type));
+            element->Draw(&surface->Graphics(), centre, scale);
+        };
+        scenes.push_back({named.name, surface, draw});
+        page.push_back(draw);
+        if (type == SurroundMapTitle || type == SurroundPicture ||
+            type == SurroundLegend) {
+            scenes.push_back({named.name + ", measured", surface,
+                              [element = named.element] { element->ResetAspectRatio(); },
+                              false});
         }
     }
-
-    const auto addFrame = [&](const char* name, const CFrameBase& frame) {
+    const std::pair<const char*, CFrameBase> frames[] = {
+        {"frame", DecoratedFrame()}, {"frame, a dashed border", DashedFrame()}};
+    for (const auto& [name, frame] : frames) {
         const auto kept = std::make_shared<CFrameBase>(frame);
-        const CRect rect(at(100), at(100), at(500), at(350));
-        add(
-            name, sharp, [=] { kept->DrawFrame(&sharp->Graphics(), rect); }, true);
-    };
-    addFrame("frame", DecoratedFrame());
-    addFrame("frame, a dashed border", DashedFrame());
-
-    const std::shared_ptr<FramedPage> page = FramedPage::OfEverything(scale);
-    add(
-        "a whole page", page->DrawnOn(), [=] { page->Draw(); }, true);
+        scenes.push_back(
+            {name, surface, [=] { kept->DrawFrame(&surface->Graphics(), rect); }});
+        page.push_back(scenes.back().run);
+    }
+    scenes.push_back({"all of them", surface, [page] {
+                          for (const auto& draw : page) {
+                              draw();
+                          }
+                      }});
     return scenes;
 }
 

@@ -1,12 +1,8 @@
 set(recording_test_sources
   expect.cpp
-  flat_images.cpp
-  flat_paths.cpp
-  flat_pens_brushes.cpp
-  flat_shapes.cpp
-  flat_text.cpp
-  flat_transforms.cpp
+  flat_calls.cpp
   lines.cpp
   main.cpp
+  recorded_functions.cpp
   recording.cpp
   recording_test.cpp)

@@ -2,14 +2,13 @@
 
 #include <gdiplus.h>
 
-#include "flat_lookup/flat_lookup.h"
+#include "recording/flat_calls.h"
 
 namespace {
 
-template <typename Function>
-Function Real(const char* name) {
-    return reinterpret_cast<Function>(map_surround::FlatFunction(name));
-}
+using namespace Gdiplus;
+using namespace Gdiplus::DllExports;
+using flat_calls::Flat;
 
 void Watch(const char16_t* text, int length, const void* surface) {
     flat_spy::Text& last = flat_spy::Last();
@@ -21,10 +20,60 @@ void Watch(const char16_t* text, int length, const void* surface) {
     last.surface = surface != nullptr;
 }
 
+/// A function whose text stands behind what it draws on, with its length.
+template <auto function>
+void WatchText() {
+    Flat<function>::now = [](auto* surface, const FlatChar* text, INT length,
+                             auto... rest) {
+        Watch(text, length, surface);
+        return Flat<function>::System(surface, text, length, rest...);
+    };
+}
+
 void WatchName(const char16_t* name) {
     Watch(name, name == nullptr ? 0 : static_cast<int>(std::u16string(name).size()),
           nullptr);
 }
+
+[[maybe_unused]] const bool g_watches = [] {
+    WatchText<GdipDrawString>();
+    WatchText<GdipMeasureString>();
+    WatchText<GdipAddPathString>();
+    Flat<GdipCreateFontFamilyFromName>::now =
+        [](const FlatChar* name, GpFontCollection* collection, GpFontFamily** family) {
+            WatchName(name);
+            return Flat<GdipCreateFontFamilyFromName>::System(name, collection, family);
+        };
+    Flat<GdipLoadImageFromFile>::now = [](const FlatChar* file, GpImage** image) {
+        WatchName(file);
+        return Flat<GdipLoadImageFromFile>::System(file, image);
+    };
+    Flat<GdipSaveImageToFile>::now = [](GpImage* image, const FlatChar* file,
+                                        const CLSID* encoder,
+                                        const EncoderParameters* parameters) {
+        WatchName(file);
+        return Flat<GdipSaveImageToFile>::System(image, file, encoder, parameters);
+    };
+    Flat<GdipGetImagePaletteSize>::now = [](GpImage* image, INT* bytes) {
+        const flat_spy::Palette& palettes = flat_spy::Palettes();
+        if (palettes.sizeStatus != Ok) {
+            return palettes.sizeStatus;
+        }
+        const GpStatus status = Flat<GdipGetImagePaletteSize>::System(image, bytes);
+        *bytes += palettes.moreBytes;
+        return status;
+    };
+    Flat<GdipGetImagePalette>::now = [](GpImage* image, FlatPalette* palette, INT bytes) {
+        const GpStatus status = flat_spy::Palettes().status;
+        return status != Ok ? status
+                            : Flat<GdipGetImagePalette>::System(image, palette, bytes);
+    };
+    Flat<GdipSetImagePalette>::now = [](GpImage* image, const FlatPalette* palette) {
+        ++flat_spy::Palettes().sets;
+        return Flat<GdipSetImagePalette>::System(image, palette);
+    };
+    return true;
+}();
 
 }  // namespace
 
@@ -42,79 +91,3 @@ void flat_spy::Clear() {
     Last() = Text();
     Palettes() = Palette();
 }
-
-namespace Gdiplus {
-namespace DllExports {
-extern "C" {
-
-GpStatus GdipDrawString(GpGraphics* graphics, const FlatChar* text, INT length,
-                        const GpFont* font, const GpRectF* layout,
-                        const GpStringFormat* format, const GpBrush* brush) {
-    Watch(text, length, graphics);
-    return Real<decltype(&GdipDrawString)>("GdipDrawString")(graphics, text, length, font,
-                                                             layout, format, brush);
-}
-
-GpStatus GdipMeasureString(GpGraphics* graphics, const FlatChar* text, INT length,
-                           const GpFont* font, const GpRectF* layout,
-                           const GpStringFormat* format, GpRectF* bounds,
-                           INT* codepointsFitted, INT* linesFilled) {
-    Watch(text, length, graphics);
-    return Real<decltype(&GdipMeasureString)>("GdipMeasureString")(
-        graphics, text, length, font, layout, format, bounds, codepointsFitted,
-        linesFilled);
-}
-
-GpStatus GdipAddPathString(GpPath* path, const FlatChar* text, INT length,
-                           const GpFontFamily* family, INT style, REAL emSize,
-                           const GpRectF* layout, const GpStringFormat* format) {
-    Watch(text, length, path);
-    return Real<decltype(&GdipAddPathString)>("GdipAddPathString")(
-        path, text, length, family, style, emSize, layout, format);
-}
-
-GpStatus GdipCreateFontFamilyFromName(const FlatChar* name, GpFontCollection* collection,
-                                      GpFontFamily** family) {
-    WatchName(name);
-    return Real<decltype(&GdipCreateFontFamilyFromName)>("GdipCreateFontFamilyFromName")(
-        name, collection, family);
-}
-
-GpStatus GdipLoadImageFromFile(const FlatChar* file, GpImage** image) {
-    WatchName(file);
-    return Real<decltype(&GdipLoadImageFromFile)>("GdipLoadImageFromFile")(file, image);
-}
-
-GpStatus GdipSaveImageToFile(GpImage* image, const FlatChar* file, const CLSID* encoder,
-                             const EncoderParameters* parameters) {
-    WatchName(file);
-    return Real<decltype(&GdipSaveImageToFile)>("GdipSaveImageToFile")(
-        image, file, encoder, parameters);
-}
-
-GpStatus GdipGetImagePaletteSize(GpImage* image, INT* bytes) {
-    if (flat_spy::Palettes().sizeStatus != Ok) {
-        return flat_spy::Palettes().sizeStatus;
-    }
-    const GpStatus status =
-        Real<decltype(&GdipGetImagePaletteSize)>("GdipGetImagePaletteSize")(image, bytes);
-    *bytes += flat_spy::Palettes().moreBytes;
-    return status;
-}
-
-GpStatus GdipGetImagePalette(GpImage* image, FlatPalette* palette, INT bytes) {
-    if (flat_spy::Palettes().status != Ok) {
-        return flat_spy::Palettes().status;
-    }
-    return Real<decltype(&GdipGetImagePalette)>("GdipGetImagePalette")(image, palette,
-                                                                       bytes);
-}
-
-GpStatus GdipSetImagePalette(GpImage* image, const FlatPalette* palette) {
-    ++flat_spy::Palettes().sets;
-    return Real<decltype(&GdipSetImagePalette)>("GdipSetImagePalette")(image, palette);
-}
-
-}  // extern "C"
-}  // namespace DllExports
-}  // namespace Gdiplus

@@ -4,8 +4,8 @@
 
 #include <string>
 
-/// Watches the flat functions that take texts or palettes: this program defines them, and
-/// each forwards to libgdiplus.
+/// Watches the flat functions that take texts or palettes, each of which still reaches
+/// libgdiplus.
 namespace flat_spy {
 
 struct Text {
