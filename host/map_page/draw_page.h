@@ -16,8 +16,8 @@ namespace map_page {
 std::string DrawPage(const Options& options, host::OutputFile* output,
                      const Quiet& quiet);
 
-/// Throws Error for outputs of no known format, and for the first of the columns that
-/// names no element with a text in the page file. GDI+ must have been started.
+/// Throws Error for outputs that cannot be made here, and for the first of the columns
+/// that names no element with a text in the page file. GDI+ must have been started.
 void CheckSeries(const Options& options, const std::vector<std::string>& columns);
 
 }  // namespace map_page

@@ -13,7 +13,7 @@
 #include "map_page/progress_line.h"
 #include "map_page/quiet.h"
 #include "map_page/series.h"
-#include "system/error_line.h"
+#include "system/errors.h"
 #include "system/gdiplus_session.h"
 #include "system/output_file.h"
 #include "system/separate_process.h"
@@ -50,8 +50,8 @@ std::string DrawSeparately(const map_page::Options& options, const std::string& 
 }
 
 std::string DrawOne(const map_page::Options& options, const std::string& place) {
-    return map_page::Naming(options.output.empty() ? options.save : options.output,
-                            [&] { return DrawSeparately(options, place); });
+    return host::Naming(options.output.empty() ? options.save : options.output,
+                        [&] { return DrawSeparately(options, place); });
 }
 
 /// A page file may name pictures, and those are read.

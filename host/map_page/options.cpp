@@ -5,6 +5,7 @@
 #include <iostream>
 #include <iterator>
 #include <optional>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -12,6 +13,7 @@
 #include "map_page/error.h"
 #include "map_page/values.h"
 #include "page/colour_text.h"
+#include "page/document/opened_page.h"
 #include "page/document/schema.h"
 
 namespace map_page {
@@ -245,10 +247,8 @@ void CheckNorthArrow(const Given& given, host::NorthArrowDesign& northArrow) {
     }
 }
 
-bool IsPageFile(const std::string& path) {
-    constexpr std::string_view kEnding = ".json";
-    return path.size() > kEnding.size() &&
-           path.compare(path.size() - kEnding.size(), kEnding.size(), kEnding) == 0;
+bool IsOfPageFile(const Given& given) {
+    return given.rasters.size() == 1 && host::IsPageFile(given.rasters.front());
 }
 
 /// The options that go with a page file, which says the rest itself.
@@ -259,13 +259,13 @@ void CheckCall(const CLI::App& app, const Given& given) {
     if (given.output.empty() && given.save.empty()) {
         throw UsageError("--output or --save is required", "see map_page --help");
     }
-    if (!given.save.empty() && !IsPageFile(given.save)) {
-        throw Error(given.save, "does not end in .json");
+    if (!given.save.empty() && !host::IsPageFile(given.save)) {
+        throw UsageError(given.save, "does not end in .json");
     }
     if (given.jobs && given.series.empty()) {
         throw UsageError("--jobs", "goes with --series only");
     }
-    if (given.rasters.size() != 1 || !IsPageFile(given.rasters.front())) {
+    if (!IsOfPageFile(given)) {
         if (!given.series.empty()) {
             throw UsageError("--series", "goes with a page file only");
         }
@@ -281,13 +281,24 @@ void CheckCall(const CLI::App& app, const Given& given) {
     }
 }
 
+host::OutputFormat FormatOf(const std::string& output) {
+    try {
+        return host::OutputFormatOf(output);
+    } catch (const std::runtime_error& error) {
+        throw UsageError(output, error.what());
+    }
+}
+
 Options Check(const Given& given) {
     Options options;
-    if (given.rasters.size() == 1 && IsPageFile(given.rasters.front())) {
+    if (IsOfPageFile(given)) {
         options.pageFile = given.rasters.front();
     }
     options.rasters = given.rasters;
     options.output = given.output;
+    if (!given.output.empty()) {
+        options.format = FormatOf(given.output);
+    }
     options.save = given.save;
     options.series = given.series;
     options.jobs =

@@ -5,8 +5,9 @@
 #include <string>
 #include <vector>
 
-#include "map_page/page_changes.h"
+#include "page/document/page_changes.h"
 #include "page/layout/page_design.h"
+#include "page/output/output_format.h"
 
 namespace map_page {
 
@@ -15,10 +16,11 @@ struct Options {
     std::vector<std::string> rasters;
     std::string pageFile;  ///< drawn instead of rasters; empty for none
     std::string output;    ///< empty for none
-    std::string save;      ///< the page file to write; empty for none
-    std::string series;    ///< the list of pages to draw; empty for one page
-    std::size_t jobs = 1;  ///< pages of the series drawn at a time
-    PageChanges changes;   ///< of the page file's page
+    std::optional<host::OutputFormat> format;  ///< of the output
+    std::string save;                          ///< the page file to write; empty for none
+    std::string series;         ///< the list of pages to draw; empty for one page
+    std::size_t jobs = 1;       ///< pages of the series drawn at a time
+    host::PageChanges changes;  ///< of the page file's page
     double dpi = 150.0;
     host::PageDesign design;
     std::string picture;      ///< as given; design.picture holds it as wide text

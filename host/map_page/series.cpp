@@ -19,7 +19,7 @@
 #include "map_page/progress_line.h"
 #include "map_page/series_list.h"
 #include "system/child_process.h"
-#include "system/error_line.h"
+#include "system/errors.h"
 
 namespace map_page {
 namespace {

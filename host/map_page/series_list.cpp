@@ -124,10 +124,10 @@ host::Box ExtentIn(const std::string& text) {
     return {sides[0], sides[1], sides[2], sides[3]};
 }
 
-PageChanges ChangesIn(const std::vector<std::string>& columns,
-                      const std::vector<std::string>& textColumns,
-                      const CsvRecord& record, const host::FilePaths& paths) {
-    PageChanges changes;
+host::PageChanges ChangesIn(const std::vector<std::string>& columns,
+                            const std::vector<std::string>& textColumns,
+                            const CsvRecord& record, const host::FilePaths& paths) {
+    host::PageChanges changes;
     for (std::size_t i = 0; i < columns.size(); ++i) {
         const std::string& value = record.fields[i];
         if (value.empty()) {

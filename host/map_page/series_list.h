@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "map_page/page_changes.h"
+#include "page/document/page_changes.h"
 
 namespace map_page {
 
@@ -12,7 +12,7 @@ namespace map_page {
 struct SeriesPage {
     std::size_t line = 0;  ///< of the list, counted from 1
     std::string output;
-    PageChanges changes;
+    host::PageChanges changes;
     std::string error;  ///< why it cannot be drawn; empty for none
 };
 

@@ -6,18 +6,17 @@
 #include <cstdint>
 #include <vector>
 
-#include "map_page/error.h"
 #include "map_page/progress_line.h"
 #include "page/output/page_output.h"
-#include "page/output/print_file.h"
 #include "page/units.h"
+#include "system/errors.h"
 
 namespace map_page {
 namespace {
 
 /// "1754 x 1240 pixels", or "842 x 595 points".
 std::string Measured(const host::Page& page, const Options& options) {
-    if (!host::PrintFormatOf(options.output)) {
+    if (!host::IsForPrint(*options.format)) {
         const Gdiplus::Size pixels = host::PixelSize(page, options.dpi);
         return std::to_string(pixels.Width) + " x " + std::to_string(pixels.Height) +
                " pixels";
@@ -30,18 +29,11 @@ std::string Measured(const host::Page& page, const Options& options) {
 
 }  // namespace
 
-void CheckOutput(const std::string& output) {
-    Naming(output, [&] { host::CheckPageOutput(output); });
-}
-
 std::string WriteInto(const Options& options, const host::Page& page,
                       host::OutputFile& output, const Quiet& quiet) {
-    const std::string tooLarge = host::WhyTooLarge(page, options.dpi);
-    if (!tooLarge.empty()) {
-        throw Error("--dpi", "the page " + tooLarge);
-    }
+    host::Naming("--dpi", [&] { host::CheckPageSize(page, options.dpi); });
     std::vector<std::uint8_t> bytes;
-    Naming(options.output, [&] {
+    host::Naming(options.output, [&] {
         // Of a series, the pages that are done are shown.
         ProgressLine line(options.series.empty() ? quiet.Voice() : -1);
         line.Begin("reading the rasters");
@@ -49,7 +41,7 @@ std::string WriteInto(const Options& options, const host::Page& page,
             line.Show(part);
             return true;
         };
-        bytes = host::EncodePage(page, options.output, options.dpi, show,
+        bytes = host::EncodePage(page, *options.format, options.dpi, show,
                                  [&line] { line.Begin("encoding the image"); });
         line.Begin("writing the file");
         output.Write(bytes);

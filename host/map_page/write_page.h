@@ -9,9 +9,6 @@
 
 namespace map_page {
 
-/// Throws Error where no file of the name's ending can be written.
-void CheckOutput(const std::string& output);
-
 /// Draws the page into the file that the options name, and returns the line that says
 /// where it will be once the file is committed. Throws as DrawPage does.
 std::string WriteInto(const Options& options, const host::Page& page,

@@ -17,7 +17,7 @@
 
 #include "system/child_process.h"
 #include "system/descriptor.h"
-#include "system/error_line.h"
+#include "system/errors.h"
 
 namespace host {
 namespace {

@@ -1,17 +1,17 @@
 #pragma once
 
 #include <functional>
-#include <stdexcept>
 #include <string>
 
+#include "system/errors.h"
 #include "system/progress.h"
 
 namespace host {
 
 /// What the work of a separate process threw, as its one line.
-class WorkFailed : public std::runtime_error {
+class WorkFailed : public NamedError {
 public:
-    using std::runtime_error::runtime_error;
+    using NamedError::NamedError;
 };
 
 /// Bytes that a piece of work makes; it may tell how far it has come.

@@ -4,37 +4,28 @@
 #include <string_view>
 
 #include "page/output/image_resolution.h"
-#include "system/file_ending.h"
 #include "system/memory_file.h"
 
 namespace host {
 namespace {
 
-struct Ending {
-    std::string_view text;
-    ImageFormat format;
-};
-
-constexpr Ending kEndings[] = {
-    {".png", ImageFormat::Png}, {".jpg", ImageFormat::Jpeg}, {".jpeg", ImageFormat::Jpeg},
-    {".bmp", ImageFormat::Bmp}, {".tif", ImageFormat::Tiff}, {".tiff", ImageFormat::Tiff},
-};
-
-const wchar_t* MimeTypeOf(ImageFormat format) {
+const wchar_t* MimeTypeOf(OutputFormat format) {
     switch (format) {
-        case ImageFormat::Jpeg:
+        case OutputFormat::Jpeg:
             return L"image/jpeg";
-        case ImageFormat::Bmp:
+        case OutputFormat::Bmp:
             return L"image/bmp";
-        case ImageFormat::Tiff:
+        case OutputFormat::Tiff:
             return L"image/tiff";
-        case ImageFormat::Png:
+        case OutputFormat::Png:
+        case OutputFormat::PostScript:
+        case OutputFormat::Pdf:
             break;
     }
     return L"image/png";
 }
 
-CLSID EncoderOf(ImageFormat format) {
+CLSID EncoderOf(OutputFormat format) {
     UINT count = 0;
     UINT bytes = 0;
     Gdiplus::GetImageEncodersSize(&count, &bytes);
@@ -52,18 +43,9 @@ CLSID EncoderOf(ImageFormat format) {
 
 }  // namespace
 
-std::optional<ImageFormat> FormatOf(const std::string& path) {
-    for (const Ending& ending : kEndings) {
-        if (HasEnding(path, ending.text)) {
-            return ending.format;
-        }
-    }
-    return std::nullopt;
-}
-
-std::vector<std::uint8_t> Encode(PageImage& image, ImageFormat format, double dpi) {
+std::vector<std::uint8_t> Encode(PageImage& image, OutputFormat format, double dpi) {
     // GDI+ writes PNG files too, but takes three times as long.
-    if (format == ImageFormat::Png) {
+    if (format == OutputFormat::Png) {
         return EncodePng(image.Rows(), dpi);
     }
     const MemoryFile file;

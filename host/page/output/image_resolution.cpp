@@ -39,13 +39,13 @@ bool BeginsWith(const Bytes& file, std::initializer_list<std::uint8_t> magic) {
 
 }  // namespace
 
-void RecordResolution(std::vector<std::uint8_t>& file, ImageFormat format, double dpi) {
+void RecordResolution(std::vector<std::uint8_t>& file, OutputFormat format, double dpi) {
     const auto pixelsPerMetre =
         static_cast<std::uint32_t>(std::lround(dpi * kInchesPerMetre));
-    if (format == ImageFormat::Jpeg &&
+    if (format == OutputFormat::Jpeg &&
         BeginsWith(file, {0xFF, 0xD8, 0xFF, 0xE0, 0, 16, 'J', 'F', 'I', 'F'})) {
         RecordInJpeg(file, dpi);
-    } else if (format == ImageFormat::Bmp && BeginsWith(file, {'B', 'M'})) {
+    } else if (format == OutputFormat::Bmp && BeginsWith(file, {'B', 'M'})) {
         RecordInBmp(file, pixelsPerMetre);
     }
 }

@@ -2,12 +2,13 @@
 
 #include <gdiplus.h>
 
-#include <optional>
 #include <stdexcept>
+#include <string>
 
 #include "page/output/image_file.h"
 #include "page/output/page_image.h"
-#include "page/output/print_file.h"
+#include "page/output/pdf_file.h"
+#include "page/output/postscript_file.h"
 
 namespace host {
 namespace {
@@ -16,39 +17,30 @@ namespace {
 constexpr int kLongestSide = 32767;
 constexpr std::int64_t kMostPixels = 250'000'000;
 
-constexpr const char* kNoFormat =
-    "ends in none of .png .jpg .jpeg .bmp .tif .tiff .pdf .ps";
+std::vector<std::uint8_t> EncodeForPrint(const Page& page, OutputFormat format,
+                                         double dpi, const Progress& progress) {
+    std::vector<std::uint8_t> file = EncodePostScript(page, dpi, progress);
+    return format == OutputFormat::Pdf ? PdfFromPostScript(file) : file;
+}
 
 }  // namespace
 
-void CheckPageOutput(const std::string& path) {
-    if (const std::optional<PrintFormat> print = PrintFormatOf(path)) {
-        CheckPrinting(*print);
-    } else if (!FormatOf(path)) {
-        throw std::runtime_error(kNoFormat);
-    }
-}
-
-std::string WhyTooLarge(const Page& page, double dpi) {
+void CheckPageSize(const Page& page, double dpi) {
     const Gdiplus::Size size = PixelSize(page, dpi);
-    if (size.Width <= kLongestSide && size.Height <= kLongestSide &&
-        std::int64_t{size.Width} * size.Height <= kMostPixels) {
-        return {};
+    if (size.Width > kLongestSide || size.Height > kLongestSide ||
+        std::int64_t{size.Width} * size.Height > kMostPixels) {
+        throw std::runtime_error("the page would have " + std::to_string(size.Width) +
+                                 " x " + std::to_string(size.Height) +
+                                 " pixels; at most 32767 a side and 250 million are "
+                                 "drawn");
     }
-    return "would have " + std::to_string(size.Width) + " x " +
-           std::to_string(size.Height) +
-           " pixels; at most 32767 a side and 250 million are drawn";
 }
 
-std::vector<std::uint8_t> EncodePage(const Page& page, const std::string& path,
-                                     double dpi, const Progress& progress,
+std::vector<std::uint8_t> EncodePage(const Page& page, OutputFormat format, double dpi,
+                                     const Progress& progress,
                                      const std::function<void()>& encoding) {
-    if (const std::optional<PrintFormat> print = PrintFormatOf(path)) {
-        return EncodeForPrint(page, *print, dpi, progress);
-    }
-    const std::optional<ImageFormat> format = FormatOf(path);
-    if (!format) {
-        throw std::runtime_error(kNoFormat);
+    if (IsForPrint(format)) {
+        return EncodeForPrint(page, format, dpi, progress);
     }
     PageImage image(PixelSize(page, dpi));
     {
@@ -58,7 +50,7 @@ std::vector<std::uint8_t> EncodePage(const Page& page, const std::string& path,
     if (encoding) {
         encoding();
     }
-    return Encode(image, *format, dpi);
+    return Encode(image, format, dpi);
 }
 
 }  // namespace host

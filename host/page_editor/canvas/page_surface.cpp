@@ -9,7 +9,7 @@
 
 #include "page/units.h"
 #include "page_editor/editing/separate_reading.h"
-#include "system/error_line.h"
+#include "system/errors.h"
 
 namespace page_editor {
 namespace {

@@ -1,16 +1,13 @@
 #include "page_editor/editing/page_export.h"
 
-#include <stdexcept>
-
 #include "page/document/page_text.h"
 #include "page/document/raster_store.h"
 #include "page/output/page_output.h"
-#include "page_editor/editing/page_files.h"
+#include "system/errors.h"
 #include "system/output_file.h"
 #include "system/separate_process.h"
 
 namespace page_editor {
-
 namespace {
 
 /// The same page with its files opened anew.
@@ -27,20 +24,21 @@ host::Page Reopened(const host::Page& page, host::RasterStore& rasters) {
 
 void ExportPage(const host::Page& page, const std::string& path, double dpi,
                 const host::Progress& progress) {
-    Naming(path, [&] {
-        host::CheckPageOutput(path);
-        const std::string tooLarge = host::WhyTooLarge(page, dpi);
-        if (!tooLarge.empty()) {
-            throw std::runtime_error(tooLarge);
-        }
+    host::Naming(path, [&] {
+        const host::OutputFormat format = host::OutputFormatOf(path);
+        host::CheckCanBeMade(format);
+        host::CheckPageSize(page, dpi);
         host::OutputFile file(path);
+        const auto draw = [&](const host::Progress& tell) {
+            host::RasterStore rasters;
+            const host::Page copy = Reopened(page, rasters);
+            file.Write(host::EncodePage(copy, format, dpi, tell));
+            return std::string();
+        };
         host::InSeparateProcess(
             "drawing",
             [&](const host::Progress& tell) {
-                host::RasterStore rasters;
-                const host::Page copy = Reopened(page, rasters);
-                file.Write(host::EncodePage(copy, path, dpi, tell));
-                return std::string();
+                return host::Naming(path, [&] { return draw(tell); });
             },
             progress);
         file.Commit();

@@ -89,12 +89,12 @@ void FileCommands::Open() {
 
 bool FileCommands::OpenFiles(const QStringList& paths) {
     const QString first = paths.front();
-    const bool isPage = IsPageFile(first.toStdString());
+    const bool isPage = host::IsPageFile(first.toStdString());
     const bool isOpen = Attempt([&] {
         const WaitCursor waiting;
-        OpenedPage opened = isPage
-                                ? OpenPageFile(first.toStdString(), m_document.Reading())
-                                : LayOutRasters(Standard(paths), m_document.Reading());
+        host::OpenedPage opened =
+            isPage ? OpenPageFile(first.toStdString(), m_document.Reading())
+                   : LayOutRasters(Standard(paths), m_document.Reading());
         m_document.Replace(std::move(opened.page), std::move(opened.rasters));
         for (const std::string& remark : opened.remarks) {
             Q_EMIT Told(QString::fromStdString(remark));
@@ -118,7 +118,7 @@ bool FileCommands::SaveAs() {
 
 bool FileCommands::SaveTo(const QString& path) {
     return Attempt([&] {
-        SavePageFile(m_document.Page(), path.toStdString());
+        host::SavePageFile(m_document.Page(), path.toStdString());
         m_document.MarkSaved();
         SetPath(path);
         Q_EMIT Told("Saved " + path);

@@ -83,6 +83,13 @@ TEST_F(PageFile, OfVersion1DrawsTheSamePixels) {
                 ContentsOf(folder.Path("drawn.png")));
 }
 
+TEST_F(PageFile, MayEndInAnyCase) {
+    ASSERT_EQ(Run({"data/scene.tif", "--save", "page.JSON"}).status, 0);
+    const Result result = Run({"page.JSON", "-o", "page.png", "--dpi", "50"});
+    EXPECT_EQ(result.status, 0) << result.err;
+    EXPECT_EQ(Run({"page.JSON", "-o", "page.png", "--title", "A"}).status, 2);
+}
+
 TEST_F(PageFile, MovesWithItsRasters) {
     fs::create_directories(folder.Path("a/data"));
     fs::rename(folder.Path("data/scene.tif"), folder.Path("a/data/scene.tif"));
@@ -138,7 +145,7 @@ TEST_F(PageFile, SaysWhatIsWrongInOneLineAndOverwritesNothing) {
          {"empty.json", "-o", "page.png"}},
         {1, "none.json: No such file or directory", {"none.json", "-o", "page.png"}},
         {1, "folder.json: is not a file", {"folder.json", "-o", "page.png"}},
-        {1,
+        {2,
          "page.gif: ends in none of .png .jpg .jpeg .bmp .tif .tiff .pdf .ps",
          {"good.json", "-o", "page.gif"}},
         {2,
@@ -151,7 +158,7 @@ TEST_F(PageFile, SaysWhatIsWrongInOneLineAndOverwritesNothing) {
          "--save: does not go with a page file, which says it itself",
          {"good.json", "--save", "other.json"}},
         {2, "--output or --save is required: see map_page --help", {"good.json"}},
-        {1, "page.txt: does not end in .json", {"data/scene.tif", "--save", "page.txt"}},
+        {2, "page.txt: does not end in .json", {"data/scene.tif", "--save", "page.txt"}},
         {1,
          "none/page.json: No such file or directory",
          {"data/scene.tif", "--save", "none/page.json"}},

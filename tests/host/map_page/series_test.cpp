@@ -163,8 +163,6 @@ TEST_F(Series, TellsAListThatIsNoneBeforeDrawing) {
         {"name,titel\na,b\n", "out/{name}.png",
          "list.csv: the column \"titel\" is no element with a text in page.json, and not "
          "in the output's name"},
-        {"name\na\n", "out/{name}.gif",
-         "out/{name}.gif: ends in none of .png .jpg .jpeg .bmp .tif .tiff .pdf .ps"},
     };
     for (const WrongRow& row : rows) {
         WriteList(row.list);
@@ -173,6 +171,11 @@ TEST_F(Series, TellsAListThatIsNoneBeforeDrawing) {
         EXPECT_EQ(result.err, "map_page: " + row.error + "\n");
         EXPECT_EQ(Outputs(), std::vector<std::string>{});
     }
+    const Result gif = Draw("out/{name}.gif");
+    EXPECT_EQ(gif.status, 2);
+    EXPECT_EQ(gif.err,
+              "map_page: out/{name}.gif: ends in none of .png .jpg .jpeg .bmp .tif .tiff "
+              ".pdf .ps\n");
     fs::remove(folder.Path("list.csv"));
     EXPECT_EQ(Draw().err, "map_page: list.csv: No such file or directory\n");
     EXPECT_EQ(Run({"data/scene.tif", "--series", "list.csv", "-o", "a.png"}).err,

@@ -134,7 +134,7 @@ TEST(PngImage, IsAtMostAFifthLargerThanTheOneOfGdiplus) {
                                   &host_tests::kPngEncoder),
               Gdiplus::Ok);
     std::ifstream file(path, std::ios::binary | std::ios::ate);
-    const Bytes ours = host::Encode(image, host::ImageFormat::Png, 96.0);
+    const Bytes ours = host::Encode(image, host::OutputFormat::Png, 96.0);
     EXPECT_LE(static_cast<double>(ours.size()), 1.2 * static_cast<double>(file.tellg()));
 }
 

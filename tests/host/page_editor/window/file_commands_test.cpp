@@ -89,6 +89,16 @@ TEST_F(FileCommands, LaysAPageOutAroundRasters) {
     EXPECT_FALSE(document.IsModified());
 }
 
+TEST_F(FileCommands, KnowsAPageFileByItsEndingInAnyCase) {
+    Add("frame", {10.0, 10.0, 50.0, 50.0});
+    ASSERT_TRUE(files.SaveTo(Path("page.JSON")));
+    files.New();
+    ASSERT_TRUE(files.OpenFiles({Path("page.JSON")}))
+        << window.LastFailure().toStdString();
+    EXPECT_EQ(document.Count(), 1u);
+    EXPECT_EQ(files.Path(), Path("page.JSON"));
+}
+
 TEST_F(FileCommands, KeepsThePageWhenAFileCannotBeOpened) {
     Add("frame", {10.0, 10.0, 50.0, 50.0});
     std::ofstream(folder.Path("bad.json")) << R"({"version": 2, "width": 500})";

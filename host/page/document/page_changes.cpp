@@ -1,4 +1,4 @@
-#include "map_page/page_changes.h"
+#include "page/document/page_changes.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -11,7 +11,7 @@
 #include "page/layout/fit_to_map.h"
 #include "page/placed_frame.h"
 
-namespace map_page {
+namespace host {
 namespace {
 
 const host::Property* PropertyOf(const host::PageItem& item, const char* name) {
@@ -142,4 +142,4 @@ bool HasText(const host::Page& page, const std::string& name) {
                        });
 }
 
-}  // namespace map_page
+}  // namespace host

@@ -9,12 +9,12 @@
 #include "page/document/raster_store.h"
 #include "page/page.h"
 
-namespace map_page {
+namespace host {
 
-/// What one page of a series has otherwise than its page file.
+/// What a page has otherwise than its page file, as the pages of a series have.
 struct PageChanges {
     std::vector<std::string> rasters;  ///< none: as in the page file
-    std::optional<host::Box> extent;   ///< likewise
+    std::optional<Box> extent;         ///< likewise
     /// Names of elements and their texts, in UTF-8.
     std::vector<std::pair<std::string, std::string>> texts;
 };
@@ -22,12 +22,11 @@ struct PageChanges {
 /// Changes a page whose rasters are not open yet, and opens them: every map and legend
 /// has the rasters, every map the extent, every title of a name the text, every legend of
 /// a name the first line. What gets larger than its frame by that is made smaller; scale
-/// bars and north arrows follow the map. Throws host::PageError for a text that is none
+/// bars and north arrows follow the map. Throws PageError for a text that is none
 /// and for what cannot be opened.
-void ChangeAndOpen(host::Page& page, const PageChanges& changes,
-                   host::RasterStore& store);
+void ChangeAndOpen(Page& page, const PageChanges& changes, RasterStore& store);
 
 /// Whether an element of that name has a text.
-bool HasText(const host::Page& page, const std::string& name);
+bool HasText(const Page& page, const std::string& name);
 
-}  // namespace map_page
+}  // namespace host

@@ -1,0 +1,53 @@
+#include "page/document/opened_page.h"
+
+#include <utility>
+
+#include "page/document/map_on_page.h"
+#include "page/document/page_text.h"
+#include "page/layout/layout.h"
+#include "page/map/map_layers.h"
+#include "system/errors.h"
+#include "system/file_ending.h"
+#include "system/output_file.h"
+
+namespace host {
+
+OpenedPage OpenPageFile(const std::string& path, const PageChanges& changes,
+                        const std::function<void(const Page&)>& beforeRasters) {
+    return Naming(path, [&] {
+        Page page = LoadPage(path);
+        CheckFilesAndFonts(page);
+        if (beforeRasters) {
+            beforeRasters(page);
+        }
+        auto rasters = std::make_unique<RasterStore>();
+        ChangeAndOpen(page, changes, *rasters);
+        std::vector<std::string> remarks = RemarksOfLeftOut(page);
+        return OpenedPage{std::move(rasters), std::move(page), std::move(remarks)};
+    });
+}
+
+OpenedPage LayOutRasters(const std::vector<std::string>& paths,
+                         const PageDesign& design) {
+    auto rasters = std::make_unique<RasterStore>();
+    const std::shared_ptr<MapLayers> map = rasters->Map(paths, std::nullopt);
+    LaidOutPage laidOut = LayOut(design, DescribeMap(map, paths, *rasters));
+    std::vector<std::string> remarks = RemarksOfLeftOut(laidOut.page);
+    remarks.insert(remarks.end(), laidOut.remarks.begin(), laidOut.remarks.end());
+    NameRasters(laidOut.page, paths);
+    return {std::move(rasters), std::move(laidOut.page), std::move(remarks)};
+}
+
+std::size_t SavePageFile(const Page& page, const std::string& path) {
+    return Naming(path, [&] {
+        const std::string text = WritePage(page, FilePaths(path));
+        OutputFile file(path);
+        file.Write({text.begin(), text.end()});
+        file.Commit();
+        return text.size();
+    });
+}
+
+bool IsPageFile(const std::string& path) { return HasEnding(path, ".json"); }
+
+}  // namespace host

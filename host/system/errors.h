@@ -1,0 +1,39 @@
+#pragma once
+
+#include <exception>
+#include <new>
+#include <stdexcept>
+#include <string>
+
+namespace host {
+
+/// What is wrong, with what, in one line for a person: "page.png: Permission denied".
+class NamedError : public std::runtime_error {
+public:
+    NamedError(const std::string& thing, const std::string& why)
+        : std::runtime_error(thing + ": " + why) {}
+    /// @param line that names the thing
+    explicit NamedError(const std::string& line) : std::runtime_error(line) {}
+};
+
+/// Runs a step whose std::runtime_error has the reason but not the thing; what is a
+/// NamedError already stays as it is.
+template <typename Step>
+auto Naming(const std::string& thing, Step step) {
+    try {
+        return step();
+    } catch (const NamedError&) {
+        throw;
+    } catch (const std::runtime_error& error) {
+        throw NamedError(thing, error.what());
+    }
+}
+
+/// What a person is told of an exception, in one line.
+inline std::string LineFor(const std::exception& error) {
+    return dynamic_cast<const std::bad_alloc*>(&error) != nullptr
+               ? "memory: the page needs more than there is"
+               : error.what();
+}
+
+}  // namespace host

@@ -1,0 +1,49 @@
+#include "page/output/output_format.h"
+
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+#include <string>
+
+namespace {
+
+using host::OutputFormat;
+
+struct Row {
+    std::string path;
+    OutputFormat format;
+    bool isForPrint;
+};
+
+TEST(OutputFormat, IsTheOneOfTheEnding) {
+    const Row rows[] = {
+        {"page.png", OutputFormat::Png, false},
+        {"a.b/page.PNG", OutputFormat::Png, false},
+        {"page.jpg", OutputFormat::Jpeg, false},
+        {"page.Jpeg", OutputFormat::Jpeg, false},
+        {"page.bmp", OutputFormat::Bmp, false},
+        {"page.tif", OutputFormat::Tiff, false},
+        {"page.TIFF", OutputFormat::Tiff, false},
+        {"page.ps", OutputFormat::PostScript, true},
+        {"page.pdf", OutputFormat::Pdf, true},
+    };
+    for (const Row& row : rows) {
+        EXPECT_EQ(host::OutputFormatOf(row.path), row.format) << row.path;
+        EXPECT_EQ(host::IsForPrint(row.format), row.isForPrint) << row.path;
+    }
+}
+
+TEST(OutputFormat, IsNoneForOtherEndings) {
+    for (const char* path : {"", "page", "png", ".png", "page.gif", "page.png ",
+                             "page.png/", "page.svg", "page.pngx"}) {
+        try {
+            host::OutputFormatOf(path);
+            ADD_FAILURE() << path;
+        } catch (const std::runtime_error& error) {
+            EXPECT_STREQ(error.what(),
+                         "ends in none of .png .jpg .jpeg .bmp .tif .tiff .pdf .ps");
+        }
+    }
+}
+
+}  // namespace
