@@ -106,9 +106,7 @@ void DeclareLegend(CLI::App& app, Given& given) {
 }
 
 void DeclareScaleBar(CLI::App& app, Given& given) {
-    app.add_option("--scale-bar", given.scaleBar,
-                   "line, stepped, line2, line3, alternating, equal-alternating or none "
-                   "(alternating, where the map has coordinates)")
+    app.add_option("--scale-bar", given.scaleBar, StyleHelp(SurroundScaleBar))
         ->type_name("STYLE")
         ->group("Scale bar");
     app.add_option("--divisions", given.divisions, "Main divisions, 1 to 100 (4)")
@@ -133,8 +131,7 @@ void DeclareScaleBar(CLI::App& app, Given& given) {
 }
 
 void DeclareNorthArrow(CLI::App& app, Given& given) {
-    app.add_option("--north-arrow", given.northArrow,
-                   "one, two, four, eight or none (eight, where the map has coordinates)")
+    app.add_option("--north-arrow", given.northArrow, StyleHelp(SurroundNorthArrow))
         ->type_name("STYLE")
         ->group("North arrow");
     app.add_option("--north-angle", given.northAngle,
@@ -226,7 +223,7 @@ void Declare(CLI::App& app, Given& given) {
 
 void CheckScaleBar(const Given& given, host::ScaleBarDesign& scaleBar) {
     if (given.scaleBar) {
-        scaleBar.style = ReadScaleBarStyle("--scale-bar", *given.scaleBar);
+        scaleBar.style = ReadStyle("--scale-bar", *given.scaleBar, SurroundScaleBar);
     }
     scaleBar.divisions = ReadCount("--divisions", given.divisions, 1, 100);
     scaleBar.subdivisions = ReadCount("--subdivisions", given.subdivisions, 0, 100);
@@ -239,7 +236,8 @@ void CheckScaleBar(const Given& given, host::ScaleBarDesign& scaleBar) {
 
 void CheckNorthArrow(const Given& given, host::NorthArrowDesign& northArrow) {
     if (given.northArrow) {
-        northArrow.style = ReadNorthArrowStyle("--north-arrow", *given.northArrow);
+        northArrow.style =
+            ReadStyle("--north-arrow", *given.northArrow, SurroundNorthArrow);
     }
     northArrow.trueNorth = given.northAngle == "true";
     if (!northArrow.trueNorth) {

@@ -4,8 +4,10 @@
 #include <charconv>
 #include <cmath>
 #include <cstddef>
+#include <iterator>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 #include "map_page/error.h"
 #include "page/colour_text.h"
@@ -28,44 +30,43 @@ constexpr Named<FontProcess> kFontStyles[] = {
     {"bold-italic", FontProcessBoldItalic},
 };
 
-constexpr Named<host::ScaleBarStyle> kScaleBarStyles[] = {
-    {"line", host::ScaleBarStyle::Line},
-    {"stepped", host::ScaleBarStyle::Stepped},
-    {"line2", host::ScaleBarStyle::Line2},
-    {"line3", host::ScaleBarStyle::Line3},
-    {"alternating", host::ScaleBarStyle::Alternating},
-    {"equal-alternating", host::ScaleBarStyle::EqualAlternating},
-    {"none", host::ScaleBarStyle::None},
-};
-
 constexpr Named<ScaleBarPostion> kUnitPositions[] = {
     {"after", UnitPosAfter},
     {"before", UnitPosBefore},
 };
 
-constexpr Named<host::NorthArrowStyle> kNorthArrowStyles[] = {
-    {"one", host::NorthArrowStyle::OneAngle},
-    {"two", host::NorthArrowStyle::TwoAngle},
-    {"four", host::NorthArrowStyle::FourAngle},
-    {"eight", host::NorthArrowStyle::EightAngle},
-    {"none", host::NorthArrowStyle::None},
-};
-
 std::string Quoted(const std::string& text) { return "\"" + text + "\""; }
 
-/// The value of a name out of a table; the error lists them all.
-template <typename Value, std::size_t Count>
-Value ReadNamed(const std::string& option, const std::string& text,
-                const Named<Value> (&table)[Count]) {
+/// "line, stepped or none"
+template <typename Table>
+std::string Listed(const Table& table, const char* last) {
     std::string names;
-    for (std::size_t i = 0; i < Count; ++i) {
-        if (table[i].name == text) {
-            return table[i].value;
-        }
-        names += i == 0 ? "" : i + 1 == Count ? " nor " : ", ";
+    for (std::size_t i = 0; i < std::size(table); ++i) {
+        names += i == 0 ? "" : i + 1 == std::size(table) ? last : ", ";
         names += table[i].name;
     }
-    throw Error(option, Quoted(text) + " is neither " + names);
+    return names;
+}
+
+/// The value of a name out of a table; the error lists them all.
+template <typename Table>
+auto ReadNamed(const std::string& option, const std::string& text, const Table& table) {
+    for (const auto& named : table) {
+        if (named.name == text) {
+            return named.value;
+        }
+    }
+    throw Error(option, Quoted(text) + " is neither " + Listed(table, " nor "));
+}
+
+/// The styles of a family, and none.
+std::vector<Named<const host::CatalogueEntry*>> StyleWords(MapSurroundType family) {
+    std::vector<Named<const host::CatalogueEntry*>> words;
+    for (const host::CatalogueEntry* const entry : host::StylesOf(family)) {
+        words.push_back({entry->Style(), entry});
+    }
+    words.push_back({"none", nullptr});
+    return words;
 }
 
 /// "12", not "12.000000".
@@ -113,18 +114,18 @@ FontProcess ReadFontStyle(const std::string& option, const std::string& text) {
     return ReadNamed(option, text, kFontStyles);
 }
 
-host::ScaleBarStyle ReadScaleBarStyle(const std::string& option,
-                                      const std::string& text) {
-    return ReadNamed(option, text, kScaleBarStyles);
+const host::CatalogueEntry* ReadStyle(const std::string& option, const std::string& text,
+                                      MapSurroundType family) {
+    return ReadNamed(option, text, StyleWords(family));
+}
+
+std::string StyleHelp(MapSurroundType family) {
+    return Listed(StyleWords(family), " or ") + " (" + host::UsualStyle(family)->Style() +
+           ", where the map has coordinates)";
 }
 
 ScaleBarPostion ReadUnitPosition(const std::string& option, const std::string& text) {
     return ReadNamed(option, text, kUnitPositions);
-}
-
-host::NorthArrowStyle ReadNorthArrowStyle(const std::string& option,
-                                          const std::string& text) {
-    return ReadNamed(option, text, kNorthArrowStyles);
 }
 
 int ReadCount(const std::string& option, const std::string& text, int lowest,

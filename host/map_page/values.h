@@ -6,6 +6,7 @@
 #include <string>
 
 #include "map_surround/title.h"
+#include "page/catalogue.h"
 #include "page/layout/page_design.h"
 
 namespace map_page {
@@ -25,12 +26,15 @@ std::optional<Gdiplus::Color> ReadColor(const std::string& option,
 
 FontProcess ReadFontStyle(const std::string& option, const std::string& text);
 
-host::ScaleBarStyle ReadScaleBarStyle(const std::string& option, const std::string& text);
+/// A style of a family by its word; null for "none".
+const host::CatalogueEntry* ReadStyle(const std::string& option, const std::string& text,
+                                      MapSurroundType family);
+
+/// What ReadStyle takes, and what a page has when nobody chooses: "one, two or none (two,
+/// where the map has coordinates)".
+std::string StyleHelp(MapSurroundType family);
 
 ScaleBarPostion ReadUnitPosition(const std::string& option, const std::string& text);
-
-host::NorthArrowStyle ReadNorthArrowStyle(const std::string& option,
-                                          const std::string& text);
 
 /// A whole number from `lowest` to `highest`.
 int ReadCount(const std::string& option, const std::string& text, int lowest,

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "map_surround/title.h"
+#include "page/element_of.h"
 
 namespace host {
 namespace {
@@ -34,7 +35,7 @@ Gdiplus::SmoothingMode SmoothingOf(MapSurroundType kind) {
 }
 
 /// The box around the ink of the unturned title at a scale, from its layout point.
-Gdiplus::Rect InkOf(const CMapTitle& title, double scale) {
+Gdiplus::Rect OutlineOf(const CMapTitle& title, double scale) {
     const std::wstring text = title.GetFontValue();
     const Gdiplus::FontFamily family(title.GetFontStyle().c_str());
     const Gdiplus::StringFormat format(0, 0);
@@ -42,17 +43,17 @@ Gdiplus::Rect InkOf(const CMapTitle& title, double scale) {
     outline.AddString(text.c_str(), -1, &family, title.GetFontProcess(),
                       static_cast<float>(title.GetFontSize() * scale),
                       Gdiplus::PointF(0.0f, 0.0f), &format);
-    Gdiplus::Rect ink;
-    outline.GetBounds(&ink, nullptr, nullptr);
-    return ink;
+    Gdiplus::Rect bounds;
+    outline.GetBounds(&bounds, nullptr, nullptr);
+    return bounds;
 }
 
 /// A title hangs from its layout point by the side bearing and the ascent of its font.
 /// The centre that brings the middle of its ink to the given one.
 CPoint CentreForInk(const CMapTitle& title, CPoint centre, double scale) {
     constexpr double kRadians = 3.14159265358979323846 / 180.0;
-    const Gdiplus::Rect measured = InkOf(title, 1.0);
-    const Gdiplus::Rect drawn = InkOf(title, scale);
+    const Gdiplus::Rect measured = OutlineOf(title, 1.0);
+    const Gdiplus::Rect drawn = OutlineOf(title, scale);
     const double right = drawn.X + drawn.Width * 0.5 - measured.Width * scale * 0.5;
     const double down = drawn.Y + drawn.Height * 0.5 - measured.Height * scale * 0.5;
     const double cosine = std::cos(double{title.GetAngle()} * kRadians);
@@ -70,7 +71,7 @@ void PrepareDecoration(Gdiplus::Graphics& graphics) {
 
 void DrawElement(Gdiplus::Graphics& graphics, CSurroundFrame& frame, CPoint centre,
                  double scale) {
-    const CMapSurround* element = frame.GetMapSurround();
+    const CMapSurround* const element = frame.GetMapSurround();
     if (element == nullptr) {
         return;
     }
@@ -78,7 +79,7 @@ void DrawElement(Gdiplus::Graphics& graphics, CSurroundFrame& frame, CPoint cent
     graphics.SetSmoothingMode(SmoothingOf(element->GetItemType()));
     graphics.SetTextRenderingHint(Gdiplus::TextRenderingHintAntiAlias);
     graphics.SetInterpolationMode(Gdiplus::InterpolationModeHighQualityBicubic);
-    const auto* title = dynamic_cast<const CMapTitle*>(element);
+    const auto* const title = ElementOf<CMapTitle>(frame);
     frame.Draw(&graphics, title == nullptr ? centre : CentreForInk(*title, centre, scale),
                scale);
 }

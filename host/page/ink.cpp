@@ -35,7 +35,7 @@ struct PixelBox {
     int bottom;
 };
 
-PixelBox InkOf(Gdiplus::Bitmap& bitmap, int width, int height) {
+PixelBox InkedPixels(Gdiplus::Bitmap& bitmap, int width, int height) {
     PixelBox box = {width, height, -1, -1};
     Gdiplus::BitmapData data;
     if (bitmap.LockBits(nullptr, Gdiplus::ImageLockModeRead, kFormat, &data) !=
@@ -93,7 +93,7 @@ InkBox Look(const Reach& reach, double scale, Drawing draw) {
         graphics.SetTextRenderingHint(Gdiplus::TextRenderingHintAntiAlias);
         draw(&graphics, CPoint(reach.left, reach.up), scale);
     }
-    const PixelBox box = InkOf(bitmap, width, height);
+    const PixelBox box = InkedPixels(bitmap, width, height);
     if (box.right < box.left) {
         return {};
     }

@@ -11,7 +11,8 @@ namespace {
 
 constexpr int kLeeway = 4;  // pixels; smoothed edges reach further than they measure
 
-InkBox InkOf(const PageItem& item) {
+/// A map has no ink beyond its frame.
+InkBox ElementInk(const PageItem& item) {
     const auto* const frame = std::get_if<std::unique_ptr<CSurroundFrame>>(&item);
     return frame == nullptr ? InkBox{} : MeasureInk(**frame);
 }
@@ -44,7 +45,7 @@ LivePage::LivePage(const Page& page, double dpi, RenderMap render)
 void LivePage::DrawAll() {
     m_shown.clear();
     for (const PageItem& item : m_page.Items()) {
-        m_shown.push_back({InkOf(item), {}});
+        m_shown.push_back({ElementInk(item), {}});
         m_shown.back().area = AreaOf(m_shown.size() - 1);
     }
     DrawArea({0, 0, m_image.Rows().width, m_image.Rows().height});
@@ -62,7 +63,7 @@ Gdiplus::Rect LivePage::DrawMoved(std::size_t item) {
 }
 
 Gdiplus::Rect LivePage::DrawChanged(std::size_t item) {
-    m_shown[item].ink = InkOf(m_page.Items()[item]);
+    m_shown[item].ink = ElementInk(m_page.Items()[item]);
     return DrawMoved(item);
 }
 

@@ -1,13 +1,43 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "map_surround/frame.h"
+#include "map_surround/legend.h"
+#include "map_surround/north_arrow.h"
+#include "map_surround/scale_bar.h"
 
 namespace host {
+
+/// A frame on a page: it has a name, and may hold its element off the middle.
+class PlacedFrame : public CSurroundFrame {
+public:
+    /// A frame without an element.
+    PlacedFrame() = default;
+
+    explicit PlacedFrame(std::unique_ptr<CMapSurround> element) {
+        SetMapSurround(element.release());
+    }
+
+    /// What people call it; drawn nowhere. UTF-8.
+    const std::string& Name() const { return m_name; }
+    void SetName(std::string name) { m_name = std::move(name); }
+
+    /// Where the element's centre stands from the middle of the frame: page units, y
+    /// growing upwards.
+    void SetElementOffset(double dx, double dy) { m_offset = {dx, dy}; }
+    CPoint2D ElementOffset() const { return m_offset; }
+
+    void Draw(Gdiplus::Graphics* graphics, CPoint centre, double scale) override;
+
+private:
+    std::string m_name;
+    CPoint2D m_offset;
+};
 
 /// What a scale bar on a page measures.
 enum class BarDistances : std::int32_t {
@@ -16,24 +46,14 @@ enum class BarDistances : std::int32_t {
     Ground,  ///< the ground in the middle of that map, along the ellipsoid
 };
 
-/// A frame that holds its element off the middle, and keeps a scale bar true to the map
-/// at any resolution.
-///
-/// Scale bars and legends take some values that they do not give back. They are set
-/// through the frame, once it holds the element, and the frame remembers them.
-class PlacedFrame : public CSurroundFrame {
+/// The frame of a scale bar, which keeps the bar true to the map at any resolution. A bar
+/// does not give its division back, so it is set through the frame, which remembers it.
+class ScaleBarFrame : public PlacedFrame {
 public:
-    /// What people call it; drawn nowhere. UTF-8.
-    const std::string& Name() const { return m_name; }
-    void SetName(std::string name) { m_name = std::move(name); }
+    explicit ScaleBarFrame(std::unique_ptr<CScaleBarBase> bar);
 
-    /// Where the element's centre stands from the middle of the frame: page units, y
-    /// growing upwards.
-    void SetElementOffset(double dx, double dy);
-    CPoint2D ElementOffset() const { return {m_offsetX, m_offsetY}; }
-
-    /// The length on the page, in page units, of a scale bar's division before it is
-    /// rounded to a nice value. Has no meaning for other elements.
+    /// The length of a division on the page, in page units, before the bar rounds its
+    /// value to a nice one.
     void SetDivisionLength(double length);
     double DivisionLength() const { return m_divisionLength; }
 
@@ -41,37 +61,54 @@ public:
     void SetDivisionValue(double value);
     double DivisionValue() const { return m_divisionValue; }
 
-    /// What the bar is kept true to by FitToMap. Has no meaning for other elements.
-    void SetBarDistances(BarDistances distances) { m_barDistances = distances; }
-    BarDistances GetBarDistances() const { return m_barDistances; }
+    /// What FitToMap keeps the bar true to.
+    void SetBarDistances(BarDistances distances) { m_distances = distances; }
+    BarDistances GetBarDistances() const { return m_distances; }
 
-    /// Whether FitToMap turns a north arrow to true north. Has no meaning for others.
+    void Draw(Gdiplus::Graphics* graphics, CPoint centre, double scale) override;
+
+private:
+    double m_divisionLength = 25.0;
+    double m_divisionValue = 1.0;
+    BarDistances m_distances = BarDistances::Fixed;
+};
+
+/// The frame of a north arrow.
+class NorthArrowFrame : public PlacedFrame {
+public:
+    explicit NorthArrowFrame(std::unique_ptr<CNorthArrowBase> arrow)
+        : PlacedFrame(std::move(arrow)) {}
+
+    /// Whether FitToMap turns the arrow to true north.
     void SetTrueNorth(bool trueNorth) { m_trueNorth = trueNorth; }
     bool TrueNorth() const { return m_trueNorth; }
 
-    /// What a legend's font sizes are multiplied by when it is measured. Has no meaning
-    /// for other elements.
-    void SetLegendSizeFactor(float factor);
-    float LegendSizeFactor() const { return m_legendSizeFactor; }
+private:
+    bool m_trueNorth = false;
+};
 
-    /// The rasters that a legend explains, by path. Naming them opens nothing.
+/// The frame of a legend, which remembers what a legend does not give back.
+class LegendFrame : public PlacedFrame {
+public:
+    explicit LegendFrame(std::unique_ptr<CMapLegend> legend)
+        : PlacedFrame(std::move(legend)) {}
+
+    /// What the legend's font sizes are multiplied by when it is measured.
+    void SetSizeFactor(float factor);
+    float SizeFactor() const { return m_sizeFactor; }
+
+    /// The rasters that the legend explains, by path. Naming them opens nothing.
     void SetRasterPaths(std::vector<std::string> paths) {
         m_rasterPaths = std::move(paths);
     }
     const std::vector<std::string>& RasterPaths() const { return m_rasterPaths; }
 
-    void Draw(Gdiplus::Graphics* graphics, CPoint centre, double scale) override;
-
 private:
-    std::string m_name;
-    double m_offsetX = 0.0;
-    double m_offsetY = 0.0;
-    double m_divisionLength = 25.0;
-    double m_divisionValue = 1.0;
-    BarDistances m_barDistances = BarDistances::Fixed;
-    bool m_trueNorth = false;
-    float m_legendSizeFactor = 1.0f;
+    float m_sizeFactor = 1.0f;
     std::vector<std::string> m_rasterPaths;
 };
+
+/// The frame that suits an element, which it takes over: a ScaleBarFrame for a scale bar.
+std::unique_ptr<PlacedFrame> FrameFor(std::unique_ptr<CMapSurround> element);
 
 }  // namespace host

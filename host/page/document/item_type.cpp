@@ -1,71 +1,101 @@
 #include "page/document/item_type.h"
 
 #include <memory>
-#include <typeinfo>
+#include <utility>
 
 #include "map_surround/map_surround.h"
+#include "page/catalogue.h"
 #include "page/document/tables/subject.h"
 #include "page/document/tables/tables.h"
+#include "page/element_of.h"
 
 namespace host {
 namespace {
 
 using Frame = std::unique_ptr<CSurroundFrame>;
 
-/// The frame of an item, when it is one whose properties are known.
-const PlacedFrame* PlacedFrameOf(const PageItem& item) {
-    const auto* const frame = std::get_if<Frame>(&item);
-    return frame == nullptr ? nullptr : dynamic_cast<const PlacedFrame*>(frame->get());
+template <class Class>
+bool Is(const CSurroundFrame& frame) {
+    return dynamic_cast<const Class*>(&frame) != nullptr;
 }
 
-template <class Element>
-bool Holds(const PageItem& item) {
-    const PlacedFrame* const frame = PlacedFrameOf(item);
-    const CMapSurround* const element =
-        frame == nullptr ? nullptr : frame->GetMapSurround();
-    return element != nullptr && typeid(*element) == typeid(Element);
+/// What all elements of a family have in common on a page.
+struct FamilyOnPage {
+    MapSurroundType family;
+    std::vector<Property> (*properties)();
+    bool (*suits)(const CSurroundFrame&);  ///< whether the frame is what FrameFor makes
+};
+
+constexpr FamilyOnPage kFamilies[] = {
+    {SurroundMapTitle, tables::TitleProperties, Is<PlacedFrame>},
+    {SurroundPicture, tables::PictureProperties, Is<PlacedFrame>},
+    {SurroundLegend, tables::LegendProperties, Is<LegendFrame>},
+    {SurroundNorthArrow, tables::NorthArrowProperties, Is<NorthArrowFrame>},
+    {SurroundScaleBar, tables::ScaleBarProperties, Is<ScaleBarFrame>},
+};
+
+constexpr const FamilyOnPage* FamilyOf(const CatalogueEntry& entry) {
+    for (const FamilyOnPage& known : kFamilies) {
+        if (known.family == entry.family) {
+            return &known;
+        }
+    }
+    return nullptr;
 }
 
-template <class Element>
-PageItem MakeFramed() {
-    auto frame = std::make_unique<PlacedFrame>();
-    frame->SetMapSurround(std::make_unique<Element>().release());
-    frame->SetDivisionLength(frame->DivisionLength());
-    return Frame(std::move(frame));
+constexpr bool AllHaveAFamily() {
+    for (const CatalogueEntry& entry : kCatalogue) {
+        if (FamilyOf(entry) == nullptr) {
+            return false;
+        }
+    }
+    return true;
 }
-
-/// A type whose frame holds an element of a class.
-template <class Element>
-ItemType Framed(const char* name, const char* about, std::vector<Property> own) {
-    return {name, about,
-            tables::Join({tables::PlacedFrameProperties(), std::move(own),
-                          tables::ElementProperties()}),
-            MakeFramed<Element>, Holds<Element>};
-}
+static_assert(AllHaveAFamily(), "a family of the catalogue has no properties");
 
 ItemType Map() {
-    return {"map", "The map: rasters on each other", tables::MapProperties(),
+    return {kMapType,
+            "The map: rasters on each other",
+            tables::MapProperties(),
+            nullptr,
             [] { return PageItem(MapFrame()); },
             [](const PageItem& item) { return std::holds_alternative<MapFrame>(item); }};
 }
 
 ItemType EmptyFrame() {
-    return {"frame", "A frame with nothing in it", tables::PlacedFrameProperties(),
+    return {"frame",
+            "A frame with nothing in it",
+            tables::PlacedFrameProperties(),
+            nullptr,
             [] { return PageItem(Frame(std::make_unique<PlacedFrame>())); },
             [](const PageItem& item) {
-                const PlacedFrame* const frame = PlacedFrameOf(item);
+                const auto* const frame = FrameAs<PlacedFrame>(item);
                 return frame != nullptr && frame->GetMapSurround() == nullptr;
             }};
 }
 
-template <class Arrow>
-ItemType NorthArrow(const char* name, const char* about) {
-    return Framed<Arrow>(name, about, tables::NorthArrowProperties());
+/// A frame with an element of the catalogue in it.
+ItemType Framed(const CatalogueEntry& entry) {
+    const FamilyOnPage& family = *FamilyOf(entry);
+    return {entry.name,
+            entry.about,
+            tables::Join({tables::PlacedFrameProperties(), family.properties(),
+                          tables::ElementProperties()}),
+            &entry,
+            [&entry] { return PageItem(Frame(FrameFor(entry.make()))); },
+            [&entry, &family](const PageItem& item) {
+                const auto* const frame = FrameAs<CSurroundFrame>(item);
+                const auto* const element = ElementOf<CMapSurround>(item);
+                return element != nullptr && entry.is(*element) && family.suits(*frame);
+            }};
 }
 
-template <class Bar>
-ItemType ScaleBar(const char* name, const char* about) {
-    return Framed<Bar>(name, about, tables::ScaleBarProperties());
+std::vector<ItemType> AllTypes() {
+    std::vector<ItemType> types = {Map(), EmptyFrame()};
+    for (const CatalogueEntry& entry : kCatalogue) {
+        types.push_back(Framed(entry));
+    }
+    return types;
 }
 
 }  // namespace
@@ -79,25 +109,7 @@ std::vector<Property> tables::Join(std::initializer_list<std::vector<Property>> 
 }
 
 const std::vector<ItemType>& ItemTypes() {
-    static const std::vector<ItemType> types = {
-        Map(),
-        EmptyFrame(),
-        Framed<CMapTitle>("title", "A line of text", tables::TitleProperties()),
-        Framed<CDrawPicture>("picture", "An image file", tables::PictureProperties()),
-        Framed<CMapLegend>("legend", "What the colours of the rasters mean",
-                           tables::LegendProperties()),
-        NorthArrow<CNorthArrowOneAngle>("north-arrow-one", "A shaft with a head"),
-        NorthArrow<CNorthArrowTwoAngle>("north-arrow-two", "A split arrowhead"),
-        NorthArrow<CNorthArrowFourAngle>("north-arrow-four", "A star of four points"),
-        NorthArrow<CNorthArrowEightAngle>("north-arrow-eight", "A rose of eight points"),
-        ScaleBar<CScaleLine>("scale-bar-line", "Ticks on a base line"),
-        ScaleBar<CSteppedScaleLine>("scale-bar-stepped", "Ticks on a base line"),
-        ScaleBar<CScaleLine2>("scale-bar-line2", "Ticks through a line"),
-        ScaleBar<CScaleLine3>("scale-bar-line3", "Ticks below a line"),
-        ScaleBar<CScaleAlternate>("scale-bar-alternating",
-                                  "Boxes, the first one subdivided"),
-        ScaleBar<CScaleEquAltenate>("scale-bar-equal-alternating", "Equal boxes"),
-    };
+    static const std::vector<ItemType> types = AllTypes();
     return types;
 }
 
@@ -135,10 +147,10 @@ const Property* FindProperty(const std::vector<Property>& properties,
 }
 
 void MeasureItem(PageItem& item) {
-    const PlacedFrame* const frame = PlacedFrameOf(item);
-    if (frame != nullptr && frame->GetMapSurround() != nullptr &&
-        !Holds<CMapLegend>(item)) {
-        frame->GetMapSurround()->ResetAspectRatio();
+    auto* const element = ElementOf<CMapSurround>(item);
+    if (FrameAs<PlacedFrame>(item) != nullptr && element != nullptr &&
+        ElementOf<CMapLegend>(item) == nullptr) {
+        element->ResetAspectRatio();
     }
 }
 

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "page/catalogue.h"
 #include "page/document/property.h"
 #include "page/page.h"
 
@@ -15,11 +17,14 @@ struct ItemType {
     const char* name;  ///< as in the page file: "scale-bar-line"
     const char* about;
     std::vector<Property> properties;  ///< all but the frame's, in the order of writing
-    PageItem (*make)();                ///< a new one with every default
-    bool (*is)(const PageItem&);
+    const CatalogueEntry* element;     ///< in the frame; null for map and empty frame
+    std::function<PageItem()> make;    ///< a new one with every default
+    std::function<bool(const PageItem&)> is;
 };
 
-/// Every type, the map first.
+constexpr const char* kMapType = "map";
+
+/// Every type: the map, the empty frame, then the elements in the catalogue's order.
 const std::vector<ItemType>& ItemTypes();
 
 /// The properties of the frame around each, whatever its type.

@@ -8,6 +8,7 @@
 #include "map_surround/title.h"
 #include "page/document/item_type.h"
 #include "page/document/page_error.h"
+#include "page/element_of.h"
 #include "page/layout/fit_to_map.h"
 #include "page/placed_frame.h"
 
@@ -30,23 +31,12 @@ bool IsNamed(const host::PageItem& item, const std::string& name) {
     return own != nullptr && std::get<std::string>(own->read(item)) == name;
 }
 
-host::PlacedFrame* PlacedFrameIn(host::PageItem& item) {
-    auto* const frame = std::get_if<std::unique_ptr<CSurroundFrame>>(&item);
-    return frame == nullptr ? nullptr : dynamic_cast<host::PlacedFrame*>(frame->get());
-}
-
-template <class Element>
-Element* ElementOf(host::PageItem& item) {
-    const host::PlacedFrame* const frame = PlacedFrameIn(item);
-    return frame == nullptr ? nullptr : dynamic_cast<Element*>(frame->GetMapSurround());
-}
-
 double WidthOf(const CMapSurround& element) {
     return element.GetSize() * double{element.GetAspectRatio()};
 }
 
 /// A title that is too long for its frame is set smaller, with half an em to each side.
-void FitTitle(const host::PlacedFrame& frame, CMapTitle& title) {
+void FitTitle(const CSurroundFrame& frame, CMapTitle& title) {
     const double room = frame.GetExtent().GetWidth();
     const double needed = WidthOf(title) + title.GetFontSize();
     if (needed > room && room > 0.0) {
@@ -65,9 +55,9 @@ void SetText(host::PageItem& item, const std::string& name, const std::string& t
         throw host::PageError(name, why);
     }
     property->write(item, text);
-    if (auto* const title = ElementOf<CMapTitle>(item)) {
+    if (auto* const title = host::ElementOf<CMapTitle>(item)) {
         title->ResetAspectRatio();
-        FitTitle(*PlacedFrameIn(item), *title);
+        FitTitle(*host::FrameAs<CSurroundFrame>(item), *title);
     }
 }
 
@@ -98,10 +88,11 @@ struct LegendPlace {
 std::vector<LegendPlace> ForgetLegendSizes(host::Page& page) {
     std::vector<LegendPlace> places;
     for (host::PageItem& item : page.Items()) {
-        if (auto* const legend = ElementOf<CMapLegend>(item)) {
-            host::PlacedFrame& frame = *PlacedFrameIn(item);
-            const CPoint2D offset = frame.ElementOffset();
-            places.push_back({legend, &frame, offset.x - WidthOf(*legend) / 2.0,
+        auto* const frame = host::FrameAs<host::LegendFrame>(item);
+        auto* const legend = host::ElementOf<CMapLegend>(item);
+        if (frame != nullptr && legend != nullptr) {
+            const CPoint2D offset = frame->ElementOffset();
+            places.push_back({legend, frame, offset.x - WidthOf(*legend) / 2.0,
                               offset.y + legend->GetSize() / 2.0});
             legend->SetSize(0);
         }

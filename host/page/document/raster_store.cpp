@@ -9,6 +9,7 @@
 #include "page/document/item_type.h"
 #include "page/document/json_text.h"
 #include "page/document/page_format.h"
+#include "page/element_of.h"
 #include "page/layout/fit_to_map.h"
 #include "page/map/map_geometry.h"
 #include "page/placed_frame.h"
@@ -48,11 +49,6 @@ std::shared_ptr<MapPicture> PictureOf(const MapFrame& map, RasterStore& store) {
                : store.Map(map.rasterPaths, shown);
 }
 
-CMapLegend* LegendIn(const PlacedFrame* frame) {
-    return frame == nullptr ? nullptr
-                            : dynamic_cast<CMapLegend*>(frame->GetMapSurround());
-}
-
 /// A legend multiplies its font sizes each time it is measured; here they have been.
 void Measure(CMapLegend& legend, float sizeFactor) {
     const int size = legend.GetSize();
@@ -66,13 +62,13 @@ void Measure(CMapLegend& legend, float sizeFactor) {
     }
 }
 
-void OpenLegend(const PlacedFrame& frame, CMapLegend& legend, RasterStore& store) {
+void OpenLegend(const LegendFrame& frame, CMapLegend& legend, RasterStore& store) {
     std::vector<CGISDataSource*> sources;
     for (const std::string& path : frame.RasterPaths()) {
         sources.push_back(store.Raster(path).get());
     }
     legend.SetDataSouce(std::move(sources));
-    Measure(legend, frame.LegendSizeFactor());
+    Measure(legend, frame.SizeFactor());
 }
 
 std::string WhyNot(const Property& property, const PageItem& item) {
@@ -128,10 +124,10 @@ void OpenRasters(PageItem& item, RasterStore& store) {
             map->picture = map->rasterPaths.empty() ? nullptr : PictureOf(*map, store);
             return;
         }
-        const auto& frame = std::get<std::unique_ptr<CSurroundFrame>>(item);
-        const auto* const placed = dynamic_cast<const PlacedFrame*>(frame.get());
-        if (CMapLegend* const legend = LegendIn(placed)) {
-            OpenLegend(*placed, *legend, store);
+        const auto* const frame = FrameAs<LegendFrame>(item);
+        auto* const legend = ElementOf<CMapLegend>(item);
+        if (frame != nullptr && legend != nullptr) {
+            OpenLegend(*frame, *legend, store);
         }
     });
 }

@@ -5,6 +5,7 @@
 
 #include "map_surround/north_arrow.h"
 #include "map_surround/scale_bar.h"
+#include "page/element_of.h"
 #include "page/layout/scale_division.h"
 #include "page/map/map_geometry.h"
 #include "page/map/map_layers.h"
@@ -40,8 +41,8 @@ ShownMap MapOf(const Page& page) {
 }
 
 /// How much of the bar's unit one page unit is; none where that is not known.
-std::optional<double> UnitsPerPageUnit(const PlacedFrame& frame, const CScaleBarBase& bar,
-                                       const ShownMap& map) {
+std::optional<double> UnitsPerPageUnit(const ScaleBarFrame& frame,
+                                       const CScaleBarBase& bar, const ShownMap& map) {
     if (frame.GetBarDistances() == BarDistances::Map) {
         return map.perPageUnit;
     }
@@ -55,7 +56,7 @@ std::optional<double> UnitsPerPageUnit(const PlacedFrame& frame, const CScaleBar
     return map.perPageUnit * *metres / unit;
 }
 
-void FitBar(PlacedFrame& frame, CScaleBarBase& bar, const ShownMap& map) {
+void FitBar(ScaleBarFrame& frame, const CScaleBarBase& bar, const ShownMap& map) {
     if (frame.GetBarDistances() == BarDistances::Fixed) {
         return;
     }
@@ -71,7 +72,7 @@ void FitBar(PlacedFrame& frame, CScaleBarBase& bar, const ShownMap& map) {
     frame.SetDivisionLength(division.length);
 }
 
-void FitArrow(const PlacedFrame& frame, CNorthArrowBase& arrow, const ShownMap& map) {
+void FitArrow(const NorthArrowFrame& frame, CNorthArrowBase& arrow, const ShownMap& map) {
     const std::optional<double> angle =
         frame.TrueNorth() ? TrueNorthAt(map.layers->Projection(), map.layers->Extent())
                           : std::nullopt;
@@ -88,15 +89,15 @@ void FitToMap(Page& page) {
         return;
     }
     for (PageItem& item : page.Items()) {
-        const auto* const held = std::get_if<std::unique_ptr<CSurroundFrame>>(&item);
-        auto* const frame =
-            held == nullptr ? nullptr : dynamic_cast<PlacedFrame*>(held->get());
-        CMapSurround* const element =
-            frame == nullptr ? nullptr : frame->GetMapSurround();
-        if (auto* const bar = dynamic_cast<CScaleBarBase*>(element)) {
-            FitBar(*frame, *bar, map);
-        } else if (auto* const arrow = dynamic_cast<CNorthArrowBase*>(element)) {
-            FitArrow(*frame, *arrow, map);
+        auto* const barFrame = FrameAs<ScaleBarFrame>(item);
+        const auto* const bar = ElementOf<CScaleBarBase>(item);
+        if (barFrame != nullptr && bar != nullptr) {
+            FitBar(*barFrame, *bar, map);
+        }
+        const auto* const arrowFrame = FrameAs<NorthArrowFrame>(item);
+        auto* const arrow = ElementOf<CNorthArrowBase>(item);
+        if (arrowFrame != nullptr && arrow != nullptr) {
+            FitArrow(*arrowFrame, *arrow, map);
         }
     }
 }

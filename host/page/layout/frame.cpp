@@ -27,28 +27,23 @@ std::unique_ptr<CSurroundFrame> PlaceNeatLine(const PaperSize& paper,
     return frame;
 }
 
-std::unique_ptr<PlacedFrame> MakeFrame(std::unique_ptr<CMapSurround> element,
-                                       const Box& extent, const FrameStyle& style,
-                                       const Measures& measures) {
-    auto frame = std::make_unique<PlacedFrame>();
-    frame->SetMapSurround(element.release());
-    frame->SetExtent(BoundingBoxOf(extent));
-    frame->DrawBorder = style.border.has_value();
-    frame->BorderColor = style.border.value_or(Gdiplus::Color(0));
-    frame->BorderWidth = static_cast<float>(measures.borderWidth);
-    frame->DrawShadow = style.shadow.has_value();
-    frame->ShadowColor = style.shadow.value_or(Gdiplus::Color(0));
+void Decorate(CFrameBase& frame, const Box& extent, const FrameStyle& style,
+              const Measures& measures) {
+    frame.SetExtent(BoundingBoxOf(extent));
+    frame.DrawBorder = style.border.has_value();
+    frame.BorderColor = style.border.value_or(Gdiplus::Color(0));
+    frame.BorderWidth = static_cast<float>(measures.borderWidth);
+    frame.DrawShadow = style.shadow.has_value();
+    frame.ShadowColor = style.shadow.value_or(Gdiplus::Color(0));
     // Both ratios come to the same distance whatever the frame's proportions.
-    frame->ShadowRatioX = static_cast<float>(measures.shadow / extent.Width());
-    frame->ShadowRatioY = static_cast<float>(measures.shadow / extent.Height());
-    frame->DrawFill = style.background.has_value();
-    frame->FillColor = style.background.value_or(Gdiplus::Color(0));
-    return frame;
+    frame.ShadowRatioX = static_cast<float>(measures.shadow / extent.Width());
+    frame.ShadowRatioY = static_cast<float>(measures.shadow / extent.Height());
+    frame.DrawFill = style.background.has_value();
+    frame.FillColor = style.background.value_or(Gdiplus::Color(0));
 }
 
-std::unique_ptr<PlacedFrame> FrameInk(std::unique_ptr<CMapSurround> element,
-                                      const InkBox& ink, const Box& room, At at,
-                                      const FrameStyle& style, const Measures& measures) {
+void FrameInk(PlacedFrame& frame, const InkBox& ink, const Box& room, At at,
+              const FrameStyle& style, const Measures& measures) {
     // Frames of nearly the room's width take all of it, so that they line up.
     constexpr double kNearly = 0.8;
     const double space = 0.6 * measures.module;
@@ -57,10 +52,9 @@ std::unique_ptr<PlacedFrame> FrameInk(std::unique_ptr<CMapSurround> element,
     const double height = std::min(room.Height(), ink.Height() + 2.0 * space);
     const double bottom = at == At::Top ? room.top - height : room.bottom;
     const Box extent = {room.left, bottom, room.left + width, bottom + height};
-    auto frame = MakeFrame(std::move(element), extent, style, measures);
+    Decorate(frame, extent, style, measures);
     // The ink stands at the left of its frame, in the middle of its height.
-    frame->SetElementOffset(space + ink.left - width / 2.0, (ink.down - ink.up) / 2.0);
-    return frame;
+    frame.SetElementOffset(space + ink.left - width / 2.0, (ink.down - ink.up) / 2.0);
 }
 
 }  // namespace host

@@ -35,7 +35,7 @@ InkBox Fit(CMapLegend& legend, double width, double height) {
 
 }  // namespace
 
-std::unique_ptr<PlacedFrame> PlaceLegend(const PageDesign& design, const MapOnPage& map,
+std::unique_ptr<LegendFrame> PlaceLegend(const PageDesign& design, const MapOnPage& map,
                                          const Measures& measures, const Box& room) {
     if (!design.legend.shown || map.sources.empty()) {
         return nullptr;
@@ -49,7 +49,8 @@ std::unique_ptr<PlacedFrame> PlaceLegend(const PageDesign& design, const MapOnPa
     if (ink.IsEmpty()) {
         return nullptr;
     }
-    auto frame = FrameInk(std::move(legend), ink, room, At::Top, design.frames, measures);
+    auto frame = std::make_unique<LegendFrame>(std::move(legend));
+    FrameInk(*frame, ink, room, At::Top, design.frames, measures);
     frame->SetName("legend");
     return frame;
 }

@@ -8,22 +8,6 @@
 namespace host {
 namespace {
 
-std::unique_ptr<CNorthArrowBase> MakeArrow(NorthArrowStyle style) {
-    switch (style) {
-        case NorthArrowStyle::OneAngle:
-            return std::make_unique<CNorthArrowOneAngle>();
-        case NorthArrowStyle::TwoAngle:
-            return std::make_unique<CNorthArrowTwoAngle>();
-        case NorthArrowStyle::FourAngle:
-            return std::make_unique<CNorthArrowFourAngle>();
-        case NorthArrowStyle::EightAngle:
-            return std::make_unique<CNorthArrowEightAngle>();
-        case NorthArrowStyle::None:
-            break;
-    }
-    return nullptr;
-}
-
 double AngleOf(const NorthArrowDesign& design, const MapOnPage& map,
                std::vector<std::string>& remarks) {
     if (!design.trueNorth) {
@@ -41,13 +25,17 @@ double AngleOf(const NorthArrowDesign& design, const MapOnPage& map,
 
 }  // namespace
 
+const CatalogueEntry* NorthArrowStyleOn(const PageDesign& design, const MapOnPage& map) {
+    return design.northArrow.style.value_or(map.extent ? UsualStyle(SurroundNorthArrow)
+                                                       : nullptr);
+}
+
 std::unique_ptr<PlacedFrame> PlaceNorthArrow(const PageDesign& design,
                                              const MapOnPage& map,
                                              const Measures& measures, const Box& room,
                                              std::vector<std::string>& remarks) {
-    const NorthArrowStyle style = design.northArrow.style.value_or(
-        map.extent ? NorthArrowStyle::EightAngle : NorthArrowStyle::None);
-    std::unique_ptr<CNorthArrowBase> arrow = MakeArrow(style);
+    const CatalogueEntry* const style = NorthArrowStyleOn(design, map);
+    auto arrow = style == nullptr ? nullptr : NewElement<CNorthArrowBase>(*style);
     const double side = std::min(room.Width(), room.Height());
     const double space = 0.6 * measures.module;
     if (arrow == nullptr || side <= 2.0 * space) {
@@ -60,9 +48,9 @@ std::unique_ptr<PlacedFrame> PlaceNorthArrow(const PageDesign& design,
     arrow->SetAngle(static_cast<float>(AngleOf(design.northArrow, map, remarks)));
     const Box extent = {room.left, room.bottom, room.left + side, room.bottom + side};
     const InkBox ink = MeasureInk(*arrow);
-    auto frame = MakeFrame(std::move(arrow), extent, design.frames, measures);
+    auto frame = std::make_unique<NorthArrowFrame>(std::move(arrow));
+    Decorate(*frame, extent, design.frames, measures);
     frame->SetName("north arrow");
-    frame->SetTrueNorth(design.northArrow.trueNorth);
     frame->SetTrueNorth(design.northArrow.trueNorth);
     frame->SetElementOffset((ink.left - ink.right) / 2.0, (ink.down - ink.up) / 2.0);
     return frame;

@@ -7,6 +7,7 @@
 
 #include "map_surround/scale_bar.h"
 #include "map_surround/title.h"
+#include "page/catalogue.h"
 #include "page/paper.h"
 
 namespace host {
@@ -29,19 +30,12 @@ struct PictureDesign {
     std::wstring path;  ///< no picture when it is empty
 };
 
-enum class ScaleBarStyle {
-    None,
-    Line,
-    Stepped,
-    Line2,
-    Line3,
-    Alternating,
-    EqualAlternating
-};
+/// A style out of the catalogue, or null for none. When not set, the usual one of its
+/// family where the map has coordinates, and else none.
+using StyleChoice = std::optional<const CatalogueEntry*>;
 
 struct ScaleBarDesign {
-    /// When not set, an alternating bar where the map has coordinates.
-    std::optional<ScaleBarStyle> style;
+    StyleChoice style;
     int divisions = 4;
     int subdivisions = 2;  ///< ticks between two main ones
     ScaleBarPostion unitPosition = UnitPosAfter;
@@ -49,11 +43,8 @@ struct ScaleBarDesign {
     bool ground = false;                ///< lengths on the ellipsoid, not on the map
 };
 
-enum class NorthArrowStyle { None, OneAngle, TwoAngle, FourAngle, EightAngle };
-
 struct NorthArrowDesign {
-    /// When not set, an eight-angle rose where the map has coordinates.
-    std::optional<NorthArrowStyle> style;
+    StyleChoice style;
     double angle = 0.0;      ///< degrees clockwise
     bool trueNorth = false;  ///< the direction of true north instead
 };

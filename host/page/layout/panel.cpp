@@ -74,14 +74,8 @@ void FillWide(Page& page, const PageDesign& design, const MapOnPage& map,
 
 bool HasPanelTexts(const PageDesign& design, const MapOnPage& map) {
     const bool hasLegend = design.legend.shown && !map.sources.empty();
-    const bool hasBar =
-        map.extent &&
-        design.scaleBar.style.value_or(ScaleBarStyle::Alternating) != ScaleBarStyle::None;
-    const NorthArrowStyle byDefault =
-        map.extent ? NorthArrowStyle::EightAngle : NorthArrowStyle::None;
-    const bool hasArrow =
-        design.northArrow.style.value_or(byDefault) != NorthArrowStyle::None;
-    return hasLegend || hasBar || hasArrow;
+    return hasLegend || ScaleBarStyleOn(design, map) != nullptr ||
+           NorthArrowStyleOn(design, map) != nullptr;
 }
 
 bool HasPanel(const PageDesign& design, const MapOnPage& map) {

@@ -29,7 +29,8 @@ std::unique_ptr<PlacedFrame> PlacePicture(const PageDesign& design,
     const double frameHeight = height + 2.0 * space;
     const Box extent = {panel.right - frameWidth, panel.bottom, panel.right,
                         panel.bottom + frameHeight};
-    auto frame = MakeFrame(std::move(picture), extent, design.frames, measures);
+    auto frame = std::make_unique<PlacedFrame>(std::move(picture));
+    Decorate(*frame, extent, design.frames, measures);
     frame->SetName("picture");
     return frame;
 }

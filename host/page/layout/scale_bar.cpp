@@ -9,26 +9,6 @@
 namespace host {
 namespace {
 
-std::unique_ptr<CScaleBarBase> MakeBar(ScaleBarStyle style) {
-    switch (style) {
-        case ScaleBarStyle::Line:
-            return std::make_unique<CScaleLine>();
-        case ScaleBarStyle::Stepped:
-            return std::make_unique<CSteppedScaleLine>();
-        case ScaleBarStyle::Line2:
-            return std::make_unique<CScaleLine2>();
-        case ScaleBarStyle::Line3:
-            return std::make_unique<CScaleLine3>();
-        case ScaleBarStyle::Alternating:
-            return std::make_unique<CScaleAlternate>();
-        case ScaleBarStyle::EqualAlternating:
-            return std::make_unique<CScaleEquAltenate>();
-        case ScaleBarStyle::None:
-            break;
-    }
-    return nullptr;
-}
-
 /// What the bar counts: how much of its unit one page unit is, and the unit's name.
 struct Measurement {
     double perPageUnit;
@@ -101,16 +81,20 @@ InkBox SetDivisions(CScaleBarBase& bar, const Division& division) {
 
 }  // namespace
 
+const CatalogueEntry* ScaleBarStyleOn(const PageDesign& design, const MapOnPage& map) {
+    return map.extent ? design.scaleBar.style.value_or(UsualStyle(SurroundScaleBar))
+                      : nullptr;
+}
+
 std::unique_ptr<PlacedFrame> PlaceScaleBar(const PageDesign& design, const MapOnPage& map,
                                            const Box& mapRoom, const Measures& measures,
                                            const Box& room,
                                            std::vector<std::string>& remarks) {
     const ScaleBarDesign& scaleBar = design.scaleBar;
     const double space = 1.2 * measures.module;
-    std::unique_ptr<CScaleBarBase> bar =
-        map.extent ? MakeBar(scaleBar.style.value_or(ScaleBarStyle::Alternating))
-                   : nullptr;
+    const CatalogueEntry* const style = ScaleBarStyleOn(design, map);
     const double most = room.Width() - space;
+    auto bar = style == nullptr ? nullptr : NewElement<CScaleBarBase>(*style);
     if (bar == nullptr || most <= 0.0) {
         return nullptr;
     }
@@ -137,7 +121,8 @@ std::unique_ptr<PlacedFrame> PlaceScaleBar(const PageDesign& design, const MapOn
     if (ink.IsEmpty()) {
         return nullptr;
     }
-    auto frame = FrameInk(std::move(bar), ink, room, At::Bottom, design.frames, measures);
+    auto frame = std::make_unique<ScaleBarFrame>(std::move(bar));
+    FrameInk(*frame, ink, room, At::Bottom, design.frames, measures);
     frame->SetName("scale bar");
     frame->SetBarDistances(measurement.isGround ? BarDistances::Ground
                                                 : BarDistances::Map);

@@ -31,10 +31,9 @@ struct Measures {
 /// The colour of the lines around the map and the sheet.
 constexpr Gdiplus::ARGB kLineColor = 0xFF2D3B47;
 
-/// A frame around an element, decorated as the page's style says. Takes the element.
-std::unique_ptr<PlacedFrame> MakeFrame(std::unique_ptr<CMapSurround> element,
-                                       const Box& extent, const FrameStyle& style,
-                                       const Measures& measures);
+/// Puts a frame where it belongs, with border, shadow and background in the page's style.
+void Decorate(CFrameBase& frame, const Box& extent, const FrameStyle& style,
+              const Measures& measures);
 
 /// Places the title in the middle on top and takes its strip off the room. Draws the
 /// title smaller when it would be wider than the room.
@@ -56,15 +55,15 @@ MapFrame PlaceMap(const Box& extent, std::shared_ptr<MapPicture> picture,
 
 enum class At { Top, Bottom };
 
-/// A frame around an element's ink, with some space, at the left of a room; as wide as
-/// the room when it is nearly that. The element keeps its size.
-std::unique_ptr<PlacedFrame> FrameInk(std::unique_ptr<CMapSurround> element,
-                                      const InkBox& ink, const Box& room, At at,
-                                      const FrameStyle& style, const Measures& measures);
+/// Decorates a frame and fits it around the ink of its element, with some space, at the
+/// left of a room; as wide as the room when it is nearly that. The element keeps its
+/// size.
+void FrameInk(PlacedFrame& frame, const InkBox& ink, const Box& room, At at,
+              const FrameStyle& style, const Measures& measures);
 
 /// A legend of all sources, made smaller where it would leave the room. Null when none is
 /// wanted or there is nothing to explain.
-std::unique_ptr<PlacedFrame> PlaceLegend(const PageDesign& design, const MapOnPage& map,
+std::unique_ptr<LegendFrame> PlaceLegend(const PageDesign& design, const MapOnPage& map,
                                          const Measures& measures, const Box& room);
 
 /// A scale bar that is true to the map, at most as wide as the room, at its bottom left.
@@ -84,6 +83,10 @@ std::unique_ptr<PlacedFrame> PlaceNorthArrow(const PageDesign& design,
 
 /// The colour of furniture that is drawn in one colour.
 constexpr Gdiplus::ARGB kInkColor = 0xFF1E2832;
+
+/// The style of a page's scale bar, and of its north arrow; null for none.
+const CatalogueEntry* ScaleBarStyleOn(const PageDesign& design, const MapOnPage& map);
+const CatalogueEntry* NorthArrowStyleOn(const PageDesign& design, const MapOnPage& map);
 
 /// Whether a page of this design has a legend, a scale bar or a north arrow.
 bool HasPanelTexts(const PageDesign& design, const MapOnPage& map);

@@ -64,7 +64,8 @@ std::unique_ptr<CSurroundFrame> PlaceTitle(const PageDesign& design,
                         room.top};
     room.top = extent.bottom - measures.gap;
     title->SetFrontColor(Gdiplus::Color(kInkColor));
-    auto frame = MakeFrame(std::move(title), extent, design.frames, measures);
+    auto frame = std::make_unique<PlacedFrame>(std::move(title));
+    Decorate(*frame, extent, design.frames, measures);
     frame->SetName("title");
     return frame;
 }

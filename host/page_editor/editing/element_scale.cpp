@@ -7,6 +7,7 @@
 
 #include "map_surround/map_surround.h"
 #include "page/document/item_type.h"
+#include "page/element_of.h"
 #include "page_editor/editing/page_document.h"
 #include "page_editor/editing/property_change.h"
 
@@ -17,11 +18,6 @@ namespace {
 constexpr std::string_view kLengths[] = {
     "fontSize", "divisionLength", "divisionValue", "offsetX", "offsetY", "size",
 };
-
-const CMapSurround* ElementOf(const host::PageItem& item) {
-    const auto* const frame = std::get_if<std::unique_ptr<CSurroundFrame>>(&item);
-    return frame == nullptr ? nullptr : (*frame)->GetMapSurround();
-}
 
 double NumberIn(const host::PropertyValue& value) {
     const auto* const integer = std::get_if<std::int32_t>(&value);
@@ -43,12 +39,11 @@ host::PropertyValue LengthFor(const host::Property& property, double length) {
 
 ElementScale::ElementScale(const host::PageItem& item)
     : m_extent(host::BoxOf(FrameOf(item).GetExtent())) {
-    const CMapSurround* const element = ElementOf(item);
     const host::ItemType* const type = host::TypeOf(item);
-    if (element == nullptr || type == nullptr) {
+    if (host::ElementOf<CMapSurround>(item) == nullptr || type == nullptr) {
         return;
     }
-    m_hasProportions = dynamic_cast<const CNorthArrowBase*>(element) == nullptr;
+    m_hasProportions = host::ElementOf<CNorthArrowBase>(item) == nullptr;
     for (const std::string_view name : kLengths) {
         const host::Property* const property = host::FindProperty(type->properties, name);
         if (property != nullptr) {

@@ -8,6 +8,7 @@
 
 #include "map_surround/map_surround.h"
 #include "page/document/map_on_page.h"
+#include "page/element_of.h"
 #include "page/layout/steps.h"
 #include "page_editor/editing/arrange.h"
 #include "page_editor/editing/page_document.h"
@@ -18,40 +19,6 @@ namespace page_editor {
 namespace {
 
 using Frame = std::unique_ptr<CSurroundFrame>;
-
-struct ScaleBarName {
-    std::string_view name;
-    host::ScaleBarStyle style;
-};
-
-constexpr ScaleBarName kScaleBars[] = {
-    {"scale-bar-line", host::ScaleBarStyle::Line},
-    {"scale-bar-stepped", host::ScaleBarStyle::Stepped},
-    {"scale-bar-line2", host::ScaleBarStyle::Line2},
-    {"scale-bar-line3", host::ScaleBarStyle::Line3},
-    {"scale-bar-alternating", host::ScaleBarStyle::Alternating},
-    {"scale-bar-equal-alternating", host::ScaleBarStyle::EqualAlternating},
-};
-
-struct NorthArrowName {
-    std::string_view name;
-    host::NorthArrowStyle style;
-};
-
-constexpr NorthArrowName kNorthArrows[] = {
-    {"north-arrow-one", host::NorthArrowStyle::OneAngle},
-    {"north-arrow-two", host::NorthArrowStyle::TwoAngle},
-    {"north-arrow-four", host::NorthArrowStyle::FourAngle},
-    {"north-arrow-eight", host::NorthArrowStyle::EightAngle},
-};
-
-template <class Name, std::size_t Count>
-auto StyleOf(const Name (&names)[Count], std::string_view name) {
-    const auto* const found =
-        std::find_if(std::begin(names), std::end(names),
-                     [&](const Name& known) { return known.name == name; });
-    return found == std::end(names) ? std::nullopt : std::optional(found->style);
-}
 
 /// The first map of a page and what is said of it.
 struct PlacedMap {
@@ -84,14 +51,14 @@ public:
         m_design.paper = {page.Width(), page.Height()};
     }
 
-    std::unique_ptr<CSurroundFrame> ScaleBar(host::ScaleBarStyle style) {
-        m_design.scaleBar.style = style;
+    std::unique_ptr<CSurroundFrame> ScaleBar(const host::CatalogueEntry& style) {
+        m_design.scaleBar.style = &style;
         return host::PlaceScaleBar(m_design, m_map.map, m_map.room, m_measures, m_room,
                                    m_remarks);
     }
 
-    std::unique_ptr<CSurroundFrame> NorthArrow(host::NorthArrowStyle style) {
-        m_design.northArrow.style = style;
+    std::unique_ptr<CSurroundFrame> NorthArrow(const host::CatalogueEntry& style) {
+        m_design.northArrow.style = &style;
         const double side = m_measures.panel;
         return host::PlaceNorthArrow(m_design, m_map.map, m_measures, {0, 0, side, side},
                                      m_remarks);
@@ -118,24 +85,26 @@ public:
 
     /// A frame around an element whatever it is; empty ones are as large as the room.
     std::unique_ptr<CSurroundFrame> Any(const host::ItemType& type) {
-        Frame frame = std::get<Frame>(type.make());
-        frame->DrawBorder = true;
-        if (frame->GetMapSurround() == nullptr) {
-            frame->SetExtent(BoundingBoxOf(m_room));
-            return frame;
+        host::PageItem item = type.make();
+        auto& frame = *host::FrameAs<host::PlacedFrame>(item);
+        frame.DrawBorder = true;
+        auto* const element = host::ElementOf<CMapSurround>(frame);
+        if (element == nullptr) {
+            frame.SetExtent(BoundingBoxOf(m_room));
+            return std::get<Frame>(std::move(item));
         }
-        if (auto* const legend = dynamic_cast<CMapLegend*>(frame->GetMapSurround())) {
+        if (auto* const legend = host::ElementOf<CMapLegend>(frame)) {
             Name(*legend);
         }
-        auto& placed = static_cast<host::PlacedFrame&>(*frame);
-        placed.SetDivisionLength(m_room.Width() / 5.0);
-        placed.SetDivisionValue(1.0);
-        frame->GetMapSurround()->ResetAspectRatio();
-        const host::InkBox ink = host::MeasureInk(*frame);
+        if (auto* const bar = host::FrameAs<host::ScaleBarFrame>(item)) {
+            bar->SetDivisionLength(m_room.Width() / 5.0);
+        }
+        element->ResetAspectRatio();
+        const host::InkBox ink = host::MeasureInk(frame);
         const double rim = m_measures.module;
-        frame->SetExtent({0.0, 0.0, ink.Width() + rim, ink.Height() + rim});
-        placed.SetElementOffset((ink.left - ink.right) / 2.0, (ink.down - ink.up) / 2.0);
-        return frame;
+        frame.SetExtent({0.0, 0.0, ink.Width() + rim, ink.Height() + rim});
+        frame.SetElementOffset((ink.left - ink.right) / 2.0, (ink.down - ink.up) / 2.0);
+        return std::get<Frame>(std::move(item));
     }
 
     /// A map as large as two thirds of the sheet let it be.
@@ -167,22 +136,24 @@ private:
     std::vector<std::string> m_remarks;
 };
 
-Frame Framed(const host::ItemType& type, Placing& placing,
+/// As the layout places it; null where that finds nothing to show.
+Frame Framed(const host::CatalogueEntry& element, Placing& placing,
              const std::vector<std::string>& files) {
-    const std::string_view name = type.name;
-    if (const auto style = StyleOf(kScaleBars, name)) {
-        return placing.ScaleBar(*style);
+    switch (element.family) {
+        case SurroundScaleBar:
+            return placing.ScaleBar(element);
+        case SurroundNorthArrow:
+            return placing.NorthArrow(element);
+        case SurroundLegend:
+            return placing.Legend();
+        case SurroundMapTitle:
+            return placing.Title();
+        case SurroundPicture:
+            return files.empty() ? nullptr : placing.Picture(files.front());
+        case SurroundNone:
+            break;
     }
-    if (const auto style = StyleOf(kNorthArrows, name)) {
-        return placing.NorthArrow(*style);
-    }
-    if (name == "legend") {
-        return placing.Legend();
-    }
-    if (name == "title") {
-        return placing.Title();
-    }
-    return name == "picture" && !files.empty() ? placing.Picture(files.front()) : nullptr;
+    return nullptr;
 }
 
 void Centre(CFrameBase& frame, const host::Page& page) {
@@ -197,18 +168,20 @@ host::PageItem NewItem(const host::ItemType& type, const host::Page& page,
                        host::RasterStore& rasters, const std::vector<std::string>& files,
                        const host::Progress& reading) {
     Placing placing(page, rasters);
-    const std::string_view name = type.name;
-    if (name == "map" && !files.empty()) {
+    if (type.name == std::string_view(host::kMapType) && !files.empty()) {
         return placing.Map(files, rasters, reading);
     }
-    if (name == "picture" && !files.empty()) {
+    const bool isPicture =
+        type.element != nullptr && type.element->family == SurroundPicture;
+    if (isPicture && !files.empty()) {
         TryImage(files.front(), reading);
         const std::string why = host::CheckImageFile(files.front());
         if (!why.empty()) {
             throw host::PageError("", why);
         }
     }
-    Frame frame = Framed(type, placing, files);
+    Frame frame =
+        type.element == nullptr ? nullptr : Framed(*type.element, placing, files);
     if (frame == nullptr) {
         frame = placing.Any(type);
     }

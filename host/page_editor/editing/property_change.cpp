@@ -10,6 +10,7 @@
 #include "page/document/item_type.h"
 #include "page/document/page_error.h"
 #include "page/document/page_format.h"
+#include "page/element_of.h"
 #include "page_editor/editing/arrange.h"
 #include "page_editor/editing/page_document.h"
 #include "page_editor/editing/separate_reading.h"
@@ -24,13 +25,6 @@ using host::PropertyKind;
 constexpr std::string_view kUnmeasured[] = {
     "name", "offsetX", "offsetY", "size", "aspectRatio", "itemType",
 };
-
-template <class Element>
-Element* ElementIn(host::PageItem& item) {
-    auto* const frame = std::get_if<std::unique_ptr<CSurroundFrame>>(&item);
-    return frame == nullptr ? nullptr
-                            : dynamic_cast<Element*>((*frame)->GetMapSurround());
-}
 
 /// Whether the element shows something of another size after a change.
 bool IsMeasuredBy(const host::Property& property, host::PageItem& item) {
@@ -76,7 +70,7 @@ void SetProperty(host::PageItem& item, const host::Property& property,
                  const host::PropertyValue& value, host::RasterStore& rasters,
                  const host::Progress& reading) {
     CheckUse(property, value, rasters, reading);
-    auto* const legend = ElementIn<CMapLegend>(item);
+    auto* const legend = host::ElementOf<CMapLegend>(item);
     if (!IsMeasuredBy(property, item)) {
         property.write(item, value);
     } else if (legend != nullptr) {
@@ -93,7 +87,7 @@ void SetProperty(host::PageItem& item, const host::Property& property,
 }
 
 void Measure(host::PageItem& item) {
-    if (ElementIn<CDrawPicture>(item) == nullptr) {
+    if (host::ElementOf<CDrawPicture>(item) == nullptr) {
         host::MeasureItem(item);
     }
 }
@@ -102,8 +96,8 @@ void TurnByQuarter(host::PageItem& item, host::RasterStore& rasters) {
     const host::ItemType* const type = host::TypeOf(item);
     const host::Property* const angle =
         type == nullptr ? nullptr : host::FindProperty(type->properties, "angle");
-    if (angle == nullptr || ElementIn<CMapLegend>(item) != nullptr ||
-        ElementIn<CScaleBarBase>(item) != nullptr) {
+    if (angle == nullptr || host::ElementOf<CMapLegend>(item) != nullptr ||
+        host::ElementOf<CScaleBarBase>(item) != nullptr) {
         return;
     }
     const double turned = std::fmod(std::get<double>(angle->read(item)) + 90.0, 360.0);

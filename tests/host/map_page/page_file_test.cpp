@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "map_page/page_file_folder.h"
+#include "page/catalogue.h"
 
 namespace {
 
@@ -18,7 +19,19 @@ using host_tests::Arguments;
 using host_tests::ContentsOf;
 using host_tests::Result;
 
-using PageFile = host_tests::PageFileTest;
+class PageFile : public host_tests::PageFileTest {
+protected:
+    /// The drawing of a page with an option, by way of the page file it is saved in.
+    std::string DrawnWith(const char* option, const std::string& value) {
+        fs::remove(folder.Path("page.json"));
+        const Result saved =
+            Run({"data/scene.tif", "--save", "page.json", option, value});
+        EXPECT_EQ(saved.status, 0) << saved.err;
+        const Result drawn = Run({"page.json", "-o", "page.png", "--dpi", "60"});
+        EXPECT_EQ(drawn.status, 0) << drawn.err;
+        return ContentsOf(folder.Path("page.png"));
+    }
+};
 
 TEST_F(PageFile, DrawsThePixelsOfThePageThatWasSaved) {
     const Arguments designs[] = {
@@ -48,6 +61,29 @@ TEST_F(PageFile, DrawsThePixelsOfThePageThatWasSaved) {
             EXPECT_TRUE(ContentsOf(folder.Path("drawn.png")) ==
                         ContentsOf(folder.Path("again.png")))
                 << design.front() << " at " << dpi;
+        }
+    }
+}
+
+TEST_F(PageFile, EveryStyleOfTheCatalogueIsAWordASavedTypeAndADrawing) {
+    const std::string help = Run({"--help"}).out;
+    const struct {
+        MapSurroundType family;
+        const char* option;
+    } families[] = {{SurroundScaleBar, "--scale-bar"},
+                    {SurroundNorthArrow, "--north-arrow"}};
+    for (const auto& [family, option] : families) {
+        const std::string wrong =
+            Run({"data/scene.tif", "--save", "page.json", option, "wrong"}).err;
+        const std::string without = DrawnWith(option, "none");
+        for (const host::CatalogueEntry* const entry : host::StylesOf(family)) {
+            SCOPED_TRACE(entry->name);
+            EXPECT_NE(help.find(entry->Style()), std::string::npos);
+            EXPECT_NE(wrong.find(entry->Style()), std::string::npos);
+            EXPECT_FALSE(DrawnWith(option, entry->Style()) == without);
+            EXPECT_NE(ContentsOf(folder.Path("page.json"))
+                          .find("\"type\": \"" + std::string(entry->name) + "\""),
+                      std::string::npos);
         }
     }
 }

@@ -31,9 +31,10 @@ public:
 
 void Frame(host::Page& page, std::unique_ptr<CMapSurround> element, CBoundingBox extent) {
     element->ResetAspectRatio();
-    auto frame = std::make_unique<host::PlacedFrame>();
-    frame->SetMapSurround(element.release());
-    frame->SetDivisionLength(60.0);
+    std::unique_ptr<host::PlacedFrame> frame = host::FrameFor(std::move(element));
+    if (auto* const bar = dynamic_cast<host::ScaleBarFrame*>(frame.get())) {
+        bar->SetDivisionLength(60.0);
+    }
     frame->SetExtent(extent);
     frame->DrawBorder = true;
     frame->BorderWidth = 2.0f;

@@ -5,18 +5,17 @@
 namespace host::tables {
 namespace {
 
-constexpr Choice kItemTypes[] = {
-    {"none", SurroundNone},          {"north-arrow", SurroundNorthArrow},
-    {"scale-bar", SurroundScaleBar}, {"title", SurroundMapTitle},
-    {"legend", SurroundLegend},      {"picture", SurroundPicture},
-};
-
-constexpr Choice kNorthArrowTypes[] = {
-    {"one", NorthArrowOne},
-    {"two", NorthArrowTwo},
-    {"four", NorthArrowFour},
-    {"eight", NorthArrowEight},
-};
+/// The families of the catalogue by the numbers that the library gives them.
+Choices FamilyChoices() {
+    static const std::vector<Choice> families = [] {
+        std::map<std::int32_t, const char*> names = {{SurroundNone, "none"}};
+        for (const CatalogueEntry& entry : kCatalogue) {
+            names.emplace(entry.family, FamilyName(entry.family));
+        }
+        return ByNumber(names);
+    }();
+    return {families.data(), families.size()};
+}
 
 template <double CPoint2D::*Side>
 Property OfOffset(const char* name, const char* about) {
@@ -75,7 +74,7 @@ std::vector<Property> ElementProperties() {
         OneOf(Of<&CMapSurround::GetItemType, &CMapSurround::SetItemType>(
                   "itemType", "What the element answers when asked for its kind",
                   PropertyKind::Choice),
-              kItemTypes),
+              FamilyChoices()),
     };
 }
 
@@ -108,14 +107,14 @@ std::vector<Property> PictureProperties() {
 
 std::vector<Property> NorthArrowProperties() {
     return {
-        Of<&PlacedFrame::TrueNorth, &PlacedFrame::SetTrueNorth>(
+        Of<&NorthArrowFrame::TrueNorth, &NorthArrowFrame::SetTrueNorth>(
             "trueNorth", "Whether it is turned to true north in the middle of the map",
             PropertyKind::Switch),
         OneOf(
             Of<&CNorthArrowBase::GetNorthArrowType, &CNorthArrowBase::SetNorthArrowType>(
                 "northArrowType", "What the arrow answers when asked for its style",
                 PropertyKind::Choice),
-            kNorthArrowTypes)};
+            TypeChoices<&CNorthArrowBase::GetNorthArrowType>())};
 }
 
 }  // namespace host::tables

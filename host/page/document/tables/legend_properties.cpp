@@ -6,7 +6,7 @@ namespace host::tables {
 
 std::vector<Property> LegendProperties() {
     return {
-        Of<&PlacedFrame::RasterPaths, &PlacedFrame::SetRasterPaths>(
+        Of<&LegendFrame::RasterPaths, &LegendFrame::SetRasterPaths>(
             "rasters", "Files that it explains, in order", PropertyKind::Rasters),
         Of<&CMapLegend::GetTitleValue, &CMapLegend::SetTitleValue>("title", "First line",
                                                                    PropertyKind::Text),
@@ -35,7 +35,7 @@ std::vector<Property> LegendProperties() {
         Of<&CMapLegend::GetFileColor, &CMapLegend::SetFileColor>(
             "fileNameColor", "Colour of the file names", PropertyKind::Colour),
         Within(
-            Of<&PlacedFrame::LegendSizeFactor, &PlacedFrame::SetLegendSizeFactor>(
+            Of<&LegendFrame::SizeFactor, &LegendFrame::SetSizeFactor>(
                 "sizeFactor", "What both em sizes are multiplied by when it is measured",
                 PropertyKind::Number),
             {0.0, 1000.0}),

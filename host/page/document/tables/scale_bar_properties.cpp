@@ -7,14 +7,6 @@ namespace {
 
 constexpr Choice kUnitPositions[] = {{"after", UnitPosAfter}, {"before", UnitPosBefore}};
 
-constexpr Choice kScaleBarTypes[] = {
-    {"line", ScaleBarLine},
-    {"line2", ScaleBarLine2},
-    {"line3", ScaleBarLine3},
-    {"equal-alternating", ScaleBarEquAlternate},
-    {"alternating", ScaleBarAlternate},
-};
-
 constexpr Choice kBarDistances[] = {
     {"fixed", static_cast<std::int32_t>(BarDistances::Fixed)},
     {"map", static_cast<std::int32_t>(BarDistances::Map)},
@@ -33,18 +25,18 @@ constexpr Choice kUnits[] = {
 std::vector<Property> ScaleBarProperties() {
     return {
         OneOf(
-            Of<&PlacedFrame::GetBarDistances, &PlacedFrame::SetBarDistances>(
+            Of<&ScaleBarFrame::GetBarDistances, &ScaleBarFrame::SetBarDistances>(
                 "distances",
                 "What it is kept true to: nothing, the map, or the ground in its middle",
                 PropertyKind::Choice),
             kBarDistances),
-        Within(Of<&PlacedFrame::DivisionValue, &PlacedFrame::SetDivisionValue>(
+        Within(Of<&ScaleBarFrame::DivisionValue, &ScaleBarFrame::SetDivisionValue>(
                    "divisionValue",
                    "What a division stands for, before the bar rounds it down to one "
                    "digit",
                    PropertyKind::Number),
                kDistances),
-        Within(Of<&PlacedFrame::DivisionLength, &PlacedFrame::SetDivisionLength>(
+        Within(Of<&ScaleBarFrame::DivisionLength, &ScaleBarFrame::SetDivisionLength>(
                    "divisionLength", "Length of that division, page units",
                    PropertyKind::Number),
                kLengths),
@@ -70,7 +62,7 @@ std::vector<Property> ScaleBarProperties() {
         OneOf(Of<&CScaleBarBase::GetScaleBarType, &CScaleBarBase::SetScaleBarType>(
                   "scaleBarType", "What the bar answers when asked for its style",
                   PropertyKind::Choice),
-              kScaleBarTypes),
+              TypeChoices<&CScaleBarBase::GetScaleBarType>()),
     };
 }
 

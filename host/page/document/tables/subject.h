@@ -3,11 +3,14 @@
 // Making properties of pairs of accessors and of fields.
 
 #include <cstdint>
+#include <map>
 #include <memory>
 #include <string>
 #include <type_traits>
 #include <utility>
+#include <vector>
 
+#include "page/catalogue.h"
 #include "page/document/property.h"
 #include "page/page.h"
 #include "page/placed_frame.h"
@@ -27,8 +30,8 @@ Class& SubjectOf(PageItem& item) {
                                     *std::get<std::unique_ptr<CSurroundFrame>>(item));
     } else {
         CSurroundFrame& frame = *std::get<std::unique_ptr<CSurroundFrame>>(item);
-        if constexpr (std::is_same_v<Class, PlacedFrame>) {
-            return static_cast<PlacedFrame&>(frame);
+        if constexpr (std::is_base_of_v<PlacedFrame, Class>) {
+            return static_cast<Class&>(frame);
         } else {
             return static_cast<Class&>(*frame.GetMapSurround());
         }
@@ -128,6 +131,11 @@ Property OfField(const char* name, const char* about, PropertyKind kind) {
     return property;
 }
 
+inline Property OneOf(Property property, Choices choices) {
+    property.choices = choices;
+    return property;
+}
+
 inline Property Within(Property property, NumberRange range) {
     property.range = range;
     return property;
@@ -142,6 +150,32 @@ template <std::size_t Count>
 Property OneOf(Property property, const Choice (&choices)[Count]) {
     property.choices = {choices, Count};
     return property;
+}
+
+/// Choices in the order of their numbers.
+inline std::vector<Choice> ByNumber(const std::map<std::int32_t, const char*>& names) {
+    std::vector<Choice> choices;
+    for (const auto& [number, name] : names) {
+        choices.push_back({name, number});
+    }
+    return choices;
+}
+
+/// What the catalogue's elements of a class answer when asked for their style. Those that
+/// answer alike share the name of the first: a stepped bar is a "line".
+template <auto Get>
+Choices TypeChoices() {
+    static const std::vector<Choice> types = [] {
+        std::map<std::int32_t, const char*> names;
+        for (const CatalogueEntry& entry : kCatalogue) {
+            if (const auto element =
+                    NewElement<typename Accessor<decltype(Get)>::Class>(entry)) {
+                names.emplace((*element.*Get)(), entry.Style());
+            }
+        }
+        return ByNumber(names);
+    }();
+    return {types.data(), types.size()};
 }
 
 }  // namespace host::tables

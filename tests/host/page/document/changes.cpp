@@ -1,35 +1,32 @@
 #include "page/document/changes.h"
 
 #include <limits>
-#include <memory>
+#include <type_traits>
 
 #include "map_surround/map_surround.h"
+#include "page/element_of.h"
 #include "page/placed_frame.h"
 
 namespace host_tests {
 namespace {
 
+using host::LegendFrame;
 using host::MapFrame;
+using host::NorthArrowFrame;
 using host::PageItem;
 using host::PlacedFrame;
 
 template <class Class>
 Class& In(PageItem& item) {
-    auto* const frame = std::get_if<std::unique_ptr<CSurroundFrame>>(&item);
-    return dynamic_cast<Class&>(*(*frame)->GetMapSurround());
-}
-template <>
-MapFrame& In<MapFrame>(PageItem& item) {
-    return std::get<MapFrame>(item);
-}
-template <>
-PlacedFrame& In<PlacedFrame>(PageItem& item) {
-    return dynamic_cast<PlacedFrame&>(*std::get<std::unique_ptr<CSurroundFrame>>(item));
-}
-template <>
-CFrameBase& In<CFrameBase>(PageItem& item) {
-    auto* const map = std::get_if<MapFrame>(&item);
-    return map != nullptr ? map->frame : In<PlacedFrame>(item);
+    if constexpr (std::is_same_v<Class, MapFrame>) {
+        return std::get<MapFrame>(item);
+    } else if constexpr (std::is_same_v<Class, CFrameBase>) {
+        return host::FrameOf(item);
+    } else if constexpr (std::is_base_of_v<PlacedFrame, Class>) {
+        return *host::FrameAs<Class>(item);
+    } else {
+        return *host::ElementOf<Class>(item);
+    }
 }
 
 template <class Class>
@@ -153,9 +150,9 @@ std::vector<Change> LegendChanges(const std::string& folder) {
     const std::vector<std::string> rasters = {folder + "/scene.tif"};
     return {
         {"rasters",
-         [rasters](PageItem& item) { In<PlacedFrame>(item).SetRasterPaths(rasters); },
+         [rasters](PageItem& item) { In<LegendFrame>(item).SetRasterPaths(rasters); },
          [rasters](const PageItem& item) {
-             return In<PlacedFrame>(const_cast<PageItem&>(item)).RasterPaths() == rasters;
+             return In<LegendFrame>(const_cast<PageItem&>(item)).RasterPaths() == rasters;
          }},
         On<L>(
             "title", [](L& l) { l.SetTitleValue(L"图例"); },
@@ -184,17 +181,17 @@ std::vector<Change> LegendChanges(const std::string& folder) {
         On<L>(
             "fileNameColor", [](L& l) { l.SetFileColor(Gdiplus::Color(0x01020304)); },
             [](const L& l) { return l.GetFileColor().GetValue() == 0x01020304; }),
-        On<PlacedFrame>(
-            "sizeFactor", [](PlacedFrame& p) { p.SetLegendSizeFactor(1.7f); },
-            [](const PlacedFrame& p) { return p.LegendSizeFactor() == 1.7f; }),
+        On<LegendFrame>(
+            "sizeFactor", [](LegendFrame& f) { f.SetSizeFactor(1.7f); },
+            [](const LegendFrame& f) { return f.SizeFactor() == 1.7f; }),
     };
 }
 
 std::vector<Change> NorthArrowChanges(NorthArrowType other) {
     using N = CNorthArrowBase;
-    return {On<PlacedFrame>(
-                "trueNorth", [](PlacedFrame& p) { p.SetTrueNorth(true); },
-                [](const PlacedFrame& p) { return p.TrueNorth(); }),
+    return {On<NorthArrowFrame>(
+                "trueNorth", [](NorthArrowFrame& f) { f.SetTrueNorth(true); },
+                [](const NorthArrowFrame& f) { return f.TrueNorth(); }),
             {"northArrowType",
              [other](PageItem& item) { In<N>(item).SetNorthArrowType(other); },
              [other](const PageItem& item) {
@@ -204,7 +201,7 @@ std::vector<Change> NorthArrowChanges(NorthArrowType other) {
 
 std::vector<Change> ScaleBarChanges(ScaleBarType other) {
     using B = CScaleBarBase;
-    using P = PlacedFrame;
+    using P = host::ScaleBarFrame;
     return {
         On<P>(
             "distances", [](P& p) { p.SetBarDistances(host::BarDistances::Ground); },

@@ -14,6 +14,7 @@
 #include "page/document/page_error.h"
 #include "page/document/page_text.h"
 #include "page/document/raster_store.h"
+#include "page/element_of.h"
 #include "page/placed_frame.h"
 
 namespace {
@@ -48,23 +49,18 @@ std::vector<std::string> NamesOf(const std::vector<Change>& changes) {
 /// An item of a type that can be seen: with the least that its element needs for that.
 PageItem MakeVisible(const ItemType& type, const std::string& folder) {
     PageItem item = type.make();
-    const std::string name = type.name;
-    auto* const held = std::get_if<std::unique_ptr<CSurroundFrame>>(&item);
-    auto& frame = held == nullptr ? std::get<host::MapFrame>(item).frame
-                                  : static_cast<CFrameBase&>(**held);
-    frame.SetExtent({20.0, 20.0, 280.0, 180.0});
-    CMapSurround* const element = held == nullptr ? nullptr : (*held)->GetMapSurround();
-    if (auto* const title = dynamic_cast<CMapTitle*>(element)) {
+    host::FrameOf(item).SetExtent({20.0, 20.0, 280.0, 180.0});
+    if (auto* const title = host::ElementOf<CMapTitle>(item)) {
         title->SetFontValue(L"Title");
         title->SetFontStyle(L"Arial");
     }
-    if (auto* const picture = dynamic_cast<CDrawPicture*>(element)) {
+    if (auto* const picture = host::ElementOf<CDrawPicture>(item)) {
         const std::string path = folder + "/logo.png";
         picture->Open(std::wstring(path.begin(), path.end()).c_str());
     }
-    if (dynamic_cast<CMapLegend*>(element) != nullptr) {
-        dynamic_cast<host::PlacedFrame&>(**held).SetRasterPaths({folder + "/scene.tif"});
-    } else if (element != nullptr) {
+    if (auto* const legend = host::FrameAs<host::LegendFrame>(item)) {
+        legend->SetRasterPaths({folder + "/scene.tif"});
+    } else if (auto* const element = host::ElementOf<CMapSurround>(item)) {
         element->SetSize(40);
         element->ResetAspectRatio();
     }
@@ -84,7 +80,7 @@ bool Differs(const std::string& a, const std::string& b, const std::string& obje
 TEST_F(PropertyTable, HasAChangeForEveryPropertyAndAPropertyForEveryChange) {
     EXPECT_THAT(NamesOf(FrameChanges()),
                 ::testing::UnorderedElementsAreArray(NamesOf(host::FrameProperties())));
-    ASSERT_EQ(ItemTypes().size(), 15u);
+    ASSERT_EQ(ItemTypes().size(), host::kCatalogue.size() + 2);
     for (const ItemType& type : ItemTypes()) {
         EXPECT_THAT(NamesOf(ChangesOf(type.name, folder.Path())),
                     ::testing::UnorderedElementsAreArray(NamesOf(type.properties)))

@@ -9,6 +9,7 @@
 #include "page/document/document_test.h"
 #include "page/document/item_type.h"
 #include "page/document/page_text.h"
+#include "page/element_of.h"
 #include "page/placed_frame.h"
 
 namespace {
@@ -26,15 +27,11 @@ PageItem MapOf(const std::vector<std::string>& paths) {
 
 PageItem LegendOf(const std::vector<std::string>& paths) {
     PageItem item = host::FindItemType("legend")->make();
-    auto& frame = *std::get<std::unique_ptr<CSurroundFrame>>(item);
-    dynamic_cast<host::PlacedFrame&>(frame).SetRasterPaths(paths);
+    host::FrameAs<host::LegendFrame>(item)->SetRasterPaths(paths);
     return item;
 }
 
-CMapLegend& LegendIn(PageItem& item) {
-    return dynamic_cast<CMapLegend&>(
-        *std::get<std::unique_ptr<CSurroundFrame>>(item)->GetMapSurround());
-}
+CMapLegend& LegendIn(PageItem& item) { return *host::ElementOf<CMapLegend>(item); }
 
 TEST_F(OpeningRasters, AnItemReadAgainSharesItsMap) {
     host::RasterStore store;
@@ -71,8 +68,7 @@ TEST_F(OpeningRasters, ALegendIsMeasuredButKeepsItsSize) {
 TEST_F(OpeningRasters, MeasuringAgainDoesNotMultiplyTheFontsOfALegendAgain) {
     host::RasterStore store;
     PageItem item = LegendOf({folder.Path("scene.tif")});
-    dynamic_cast<host::PlacedFrame&>(*std::get<std::unique_ptr<CSurroundFrame>>(item))
-        .SetLegendSizeFactor(2.0f);
+    host::FrameAs<host::LegendFrame>(item)->SetSizeFactor(2.0f);
     OpenRasters(item, store);
     OpenRasters(item, store);
     EXPECT_EQ(LegendIn(item).GetTitleSize(), 20.0f);

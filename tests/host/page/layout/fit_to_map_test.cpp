@@ -10,6 +10,7 @@
 #include "page/document/document_test.h"
 #include "page/document/page_text.h"
 #include "page/document/raster_store.h"
+#include "page/element_of.h"
 #include "page/placed_frame.h"
 
 namespace {
@@ -44,7 +45,7 @@ TEST(WidenedExtent, HasTheProportionsOfTheFrame) {
 /// scene.tif has 40 x 30 pixels of 30 m: 1200 m on 400 page units are 3 m a unit.
 class FitToMap : public host_tests::DocumentTest {
 protected:
-    host::PlacedFrame& Fit(const std::string& element, const std::string& extent) {
+    host::PageItem& Fit(const std::string& element, const std::string& extent) {
         page = host::ReadPage(
             R"({"version": 2, "width": 500, "height": 400, "elements": [
                 {"type": "map", "rasters": ["scene.tif"], "extent": )" +
@@ -54,8 +55,11 @@ protected:
             host::FilePaths(folder.Path("page.json")));
         OpenRasters(page, store);
         host::FitToMap(page);
-        return dynamic_cast<host::PlacedFrame&>(
-            *std::get<std::unique_ptr<CSurroundFrame>>(page.Items()[1]));
+        return page.Items()[1];
+    }
+
+    host::ScaleBarFrame& FitBar(const std::string& bar, const std::string& extent) {
+        return *host::FrameAs<host::ScaleBarFrame>(Fit(bar, extent));
     }
 
     host::RasterStore store;
@@ -86,8 +90,8 @@ TEST_F(FitToMap, DivisionsAreTrueToTheMap) {
          25},
     };
     for (const BarRow& row : rows) {
-        const host::PlacedFrame& frame =
-            Fit("{\"type\": \"scale-bar-line\", " + row.properties + "}", row.extent);
+        const host::ScaleBarFrame& frame =
+            FitBar("{\"type\": \"scale-bar-line\", " + row.properties + "}", row.extent);
         EXPECT_DOUBLE_EQ(frame.DivisionValue(), row.value) << row.properties;
         EXPECT_DOUBLE_EQ(frame.DivisionLength(), row.length) << row.properties;
     }
@@ -96,7 +100,7 @@ TEST_F(FitToMap, DivisionsAreTrueToTheMap) {
 TEST_F(FitToMap, GroundDivisionsAreInTheUnitOfTheBar) {
     // The scale of UTM on its central meridian is 0.9996: 1 km on the ground is 999.6 m
     // on the map, near easting 500 000.
-    const host::PlacedFrame& frame = Fit(
+    const host::ScaleBarFrame& frame = FitBar(
         R"({"type": "scale-bar-line", "distances": "ground", "unitType": "kilometer",
             "divisionValue": 1, "divisionLength": 100})",
         "null");
@@ -106,9 +110,9 @@ TEST_F(FitToMap, GroundDivisionsAreInTheUnitOfTheBar) {
 
 TEST_F(FitToMap, ArrowsThatFollowTrueNorthTurn) {
     const auto angleOf = [this](const std::string& properties) {
-        return Fit("{\"type\": \"north-arrow-one\", " + properties + "}", "null")
-            .GetMapSurround()
-            ->GetAngle();
+        host::PageItem& item =
+            Fit("{\"type\": \"north-arrow-one\", " + properties + "}", "null");
+        return host::ElementOf<CNorthArrowBase>(item)->GetAngle();
     };
     EXPECT_EQ(angleOf(R"("trueNorth": false, "angle": 33)"), 33.0f);
     // South of the equator and east of the central meridian north leans to the right.

@@ -95,11 +95,7 @@ std::vector<Label> LabelsOf(const std::vector<std::string>& drawing) {
 }
 
 TEST(Furniture, DivisionsAreTrueToTheMapsPixels) {
-    using host::ScaleBarStyle;
-    for (const ScaleBarStyle style :
-         {ScaleBarStyle::Line, ScaleBarStyle::Stepped, ScaleBarStyle::Line2,
-          ScaleBarStyle::Line3, ScaleBarStyle::Alternating,
-          ScaleBarStyle::EqualAlternating}) {
+    for (const host::CatalogueEntry* const style : host::StylesOf(SurroundScaleBar)) {
         for (const double width : {0.5, 7.0, 970.0, 10031.0, 3.7e6}) {
             for (const int divisions : {1, 3, 5}) {
                 host::PageDesign design;
@@ -164,6 +160,11 @@ TEST(Furniture, StandsInsideThePageAndApart) {
     }
 }
 
+template <class Element>
+const host::CatalogueEntry* StyleOf() {
+    return host::FindEntry(Element());
+}
+
 TEST(Furniture, IsLeftOutWhereTheMapHasNoCoordinates) {
     host::PageDesign design;
     ASSERT_TRUE(host::ParsePaperSize("A4", design.paper));
@@ -172,7 +173,7 @@ TEST(Furniture, IsLeftOutWhereTheMapHasNoCoordinates) {
     EXPECT_EQ(found.northArrow, nullptr);
     EXPECT_EQ(found.legend, nullptr);
 
-    design.northArrow.style = host::NorthArrowStyle::TwoAngle;
+    design.northArrow.style = StyleOf<CNorthArrowTwoAngle>();
     const host::LaidOutPage withArrow = host::LayOut(design, {nullptr, 1.5});
     EXPECT_NE(Find(withArrow.page).northArrow, nullptr) << "as asked for";
 }
@@ -181,11 +182,11 @@ TEST(Furniture, TakesWhatTheDesignSays) {
     Source source;
     host::PageDesign design;
     ASSERT_TRUE(host::ParsePaperSize("A4", design.paper));
-    design.scaleBar.style = host::ScaleBarStyle::Line3;
+    design.scaleBar.style = StyleOf<CScaleLine3>();
     design.scaleBar.subdivisions = 3;
     design.scaleBar.unitPosition = UnitPosBefore;
     design.scaleBar.units = L"Kilometre";
-    design.northArrow.style = host::NorthArrowStyle::FourAngle;
+    design.northArrow.style = StyleOf<CNorthArrowFourAngle>();
     design.northArrow.angle = 12.5;
     design.legend.title = L"What it shows";
     host::MapOnPage map = MapOf(1000.0, 900.0);

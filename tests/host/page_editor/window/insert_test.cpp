@@ -1,8 +1,13 @@
 #include <gmock/gmock.h>
 
+#include <QAction>
+
+#include "page/catalogue.h"
 #include "page/document/item_type.h"
 #include "page/document/page_text.h"
+#include "page/element_of.h"
 #include "page/made_raster.h"
+#include "page/placed_frame.h"
 #include "page_editor/editor_fixture.h"
 
 namespace {
@@ -26,6 +31,12 @@ protected:
         return type == "map"       ? QStringList(Scene())
                : type == "picture" ? QStringList(MAP_SURROUND_PICTURE)
                                    : QStringList();
+    }
+
+    /// What a frame's name says that it holds, as page files write it.
+    static QString Family(const host::PageItem& item) {
+        const auto& name = host::FrameAs<host::PlacedFrame>(item)->Name();
+        return QString::fromStdString(name).replace(' ', '-');
     }
 
     void ExpectInTheMiddle(std::size_t item) {
@@ -66,6 +77,22 @@ TEST_F(Insert, AddsNothingThatOneDoesNotSee) {
         EXPECT_FALSE(canvas.Image() == empty) << type.name;
         Command("undo");
         EXPECT_TRUE(canvas.Image() == empty) << type.name;
+    }
+}
+
+TEST_F(Insert, EveryElementIsInTheMenuAndLaidOutForTheMap) {
+    window.Insert("map", {Scene()});
+    for (const host::CatalogueEntry& entry : host::kCatalogue) {
+        SCOPED_TRACE(entry.name);
+        const auto* const action = window.findChild<QAction*>(entry.name);
+        ASSERT_NE(action, nullptr);
+        EXPECT_EQ(action->statusTip(), entry.about);
+        window.Insert(entry.name, FilesFor(entry.name));
+        const host::PageItem& item = document.Item(document.Count() - 1);
+        EXPECT_TRUE(entry.is(*host::ElementOf<CMapSurround>(item)));
+        // The layout names what it places.
+        EXPECT_EQ(Family(item).toStdString(), host::FamilyName(entry.family));
+        ExpectInTheMiddle(document.Count() - 1);
     }
 }
 

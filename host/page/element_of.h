@@ -1,0 +1,47 @@
+#pragma once
+
+// What stands in a frame or on a page, asked for by its class.
+
+#include <memory>
+#include <variant>
+
+#include "page/page.h"
+
+namespace host {
+
+/// A frame's element, where it is of a class or one derived from it; else null.
+template <class Element>
+Element* ElementOf(CSurroundFrame& frame) {
+    return dynamic_cast<Element*>(frame.GetMapSurround());
+}
+template <class Element>
+const Element* ElementOf(const CSurroundFrame& frame) {
+    return dynamic_cast<const Element*>(frame.GetMapSurround());
+}
+
+/// The frame of an item with or without an element, where it is of a class; null for
+/// another one and for a map.
+template <class Frame>
+Frame* FrameAs(PageItem& item) {
+    const auto* const frame = std::get_if<std::unique_ptr<CSurroundFrame>>(&item);
+    return frame == nullptr ? nullptr : dynamic_cast<Frame*>(frame->get());
+}
+template <class Frame>
+const Frame* FrameAs(const PageItem& item) {
+    const auto* const frame = std::get_if<std::unique_ptr<CSurroundFrame>>(&item);
+    return frame == nullptr ? nullptr : dynamic_cast<const Frame*>(frame->get());
+}
+
+/// The element of an item, where it has one of a class; else null.
+template <class Element>
+Element* ElementOf(PageItem& item) {
+    auto* const frame = FrameAs<CSurroundFrame>(item);
+    return frame == nullptr ? nullptr : ElementOf<Element>(*frame);
+}
+template <class Element>
+const Element* ElementOf(const PageItem& item) {
+    const auto* const frame = FrameAs<CSurroundFrame>(item);
+    return frame == nullptr ? nullptr : ElementOf<Element>(*frame);
+}
+
+}  // namespace host

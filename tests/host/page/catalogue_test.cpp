@@ -1,0 +1,176 @@
+// Every element of the catalogue, through each part of the host that reads it.
+
+#include "page/catalogue.h"
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+#include <fstream>
+#include <iterator>
+#include <set>
+#include <string>
+
+#include "page/document/document_test.h"
+#include "page/document/item_type.h"
+#include "page/document/map_on_page.h"
+#include "page/document/page_text.h"
+#include "page/document/raster_store.h"
+#include "page/element_of.h"
+#include "page/layout/layout.h"
+#include "page/placed_frame.h"
+
+namespace {
+
+using host::CatalogueEntry;
+using host::kCatalogue;
+using host::PageItem;
+using ::testing::AnyOf;
+using ::testing::HasSubstr;
+using ::testing::StartsWith;
+
+TEST(Catalogue, EveryEntryMakesWhatItSays) {
+    std::set<std::string> names;
+    for (const CatalogueEntry& entry : kCatalogue) {
+        SCOPED_TRACE(entry.name);
+        EXPECT_TRUE(names.insert(entry.name).second) << "is there twice";
+        EXPECT_THAT(entry.name, StartsWith(host::FamilyName(entry.family)));
+        EXPECT_STRNE(entry.about, "");
+        const auto element = entry.make();
+        EXPECT_EQ(element->GetItemType(), entry.family);
+        EXPECT_EQ(host::FindEntry(*element), &entry);
+        EXPECT_THAT(typeid(*element).name(), HasSubstr(entry.className));
+    }
+}
+
+TEST(Catalogue, EveryStyleHasAWordAndOneOfEachFamilyIsUsual) {
+    for (const MapSurroundType family : {SurroundScaleBar, SurroundNorthArrow}) {
+        std::set<std::string> words = {"", "none"};
+        int usual = 0;
+        for (const CatalogueEntry* const entry : host::StylesOf(family)) {
+            EXPECT_TRUE(words.insert(entry->Style()).second) << entry->name;
+            EXPECT_EQ(std::string(host::FamilyName(family)) + "-" + entry->Style(),
+                      entry->name);
+            usual += entry->isUsual ? 1 : 0;
+        }
+        EXPECT_EQ(usual, 1);
+    }
+    for (const MapSurroundType family :
+         {SurroundMapTitle, SurroundPicture, SurroundLegend}) {
+        ASSERT_EQ(host::StylesOf(family).size(), 1u);
+        EXPECT_STREQ(host::StylesOf(family).front()->Style(), "");
+        EXPECT_EQ(host::UsualStyle(family), nullptr);
+    }
+}
+
+TEST(Catalogue, AnElementIsTakenOverAsWhatItIs) {
+    std::unique_ptr<CMapSurround> element = std::make_unique<CScaleLine>();
+    EXPECT_EQ(host::TakeAs<CNorthArrowBase>(element), nullptr);
+    ASSERT_NE(element, nullptr);
+    EXPECT_NE(host::TakeAs<CScaleBarBase>(element), nullptr);
+    EXPECT_EQ(element, nullptr);
+}
+
+class CatalogueOnPages : public host_tests::DocumentTest {
+protected:
+    CatalogueOnPages() : m_path(folder.Path("scene.tif")) {}
+
+    /// A page laid out around the scene, with everything that is in the catalogue once.
+    host::Page PageWith(const CatalogueEntry& entry) {
+        host::PageDesign design;
+        design.title.text = L"Title";
+        const std::string logo = folder.Path("logo.png");
+        design.picture.path = std::wstring(logo.begin(), logo.end());
+        if (entry.family == SurroundScaleBar) {
+            design.scaleBar.style = &entry;
+        } else if (entry.family == SurroundNorthArrow) {
+            design.northArrow.style = &entry;
+        }
+        host::Page page =
+            host::LayOut(design,
+                         DescribeMap(store.Map({m_path}, std::nullopt), {m_path}, store))
+                .page;
+        NameRasters(page, {m_path});
+        return page;
+    }
+
+    /// The place of the item that holds an element of an entry.
+    static std::size_t Find(const host::Page& page, const CatalogueEntry& entry) {
+        const auto& items = page.Items();
+        return static_cast<std::size_t>(
+            std::find_if(items.begin(), items.end(),
+                         [&](const PageItem& item) {
+                             const auto* const element =
+                                 host::ElementOf<CMapSurround>(item);
+                             return element != nullptr && entry.is(*element);
+                         }) -
+            items.begin());
+    }
+
+    host::RasterStore store;
+
+private:
+    std::string m_path;
+};
+
+TEST_F(CatalogueOnPages, EveryEntryIsLaidOutWrittenReadAndDrawnTheSame) {
+    for (const CatalogueEntry& entry : kCatalogue) {
+        SCOPED_TRACE(entry.name);
+        host::Page page = PageWith(entry);
+        const std::size_t place = Find(page, entry);
+        ASSERT_LT(place, page.Items().size()) << "is not laid out";
+
+        const host::FilePaths paths(folder.Path("page.json"));
+        const std::string text = WritePage(page, paths);
+        EXPECT_THAT(text, HasSubstr("\"type\": \"" + std::string(entry.name) + "\""));
+        host::Page again = host::ReadPage(text, paths);
+        OpenRasters(again, store);
+        EXPECT_EQ(Find(again, entry), place);
+        EXPECT_EQ(WritePage(again, paths), text);
+
+        const auto pixels = host_tests::PixelsOf(page);
+        EXPECT_TRUE(host_tests::PixelsOf(again) == pixels);
+        auto& items = page.Items();
+        items.erase(items.begin() + static_cast<std::ptrdiff_t>(place));
+        EXPECT_FALSE(host_tests::PixelsOf(page) == pixels) << "is not seen";
+    }
+}
+
+TEST_F(CatalogueOnPages, TheUsualStylesAreWhatNobodyChose) {
+    const host::Page page = PageWith(kCatalogue.front());
+    for (const MapSurroundType family : {SurroundScaleBar, SurroundNorthArrow}) {
+        EXPECT_LT(Find(page, *host::UsualStyle(family)), page.Items().size());
+    }
+}
+
+TEST(Catalogue, EveryEntryIsAnItemTypeInItsPlace) {
+    const auto& types = host::ItemTypes();
+    ASSERT_EQ(types.size(), kCatalogue.size() + 2);  // the map and the empty frame
+    for (std::size_t i = 0; i < kCatalogue.size(); ++i) {
+        EXPECT_STREQ(types[i + 2].name, kCatalogue[i].name);
+        EXPECT_EQ(types[i + 2].element, &kCatalogue[i]);
+    }
+}
+
+/// An element in a frame that does not know what its kind needs, as somebody's own code
+/// might put it there.
+TEST(Catalogue, AnElementInTheWrongFrameIsOfNoType) {
+    auto frame = std::make_unique<host::PlacedFrame>(std::make_unique<CScaleLine>());
+    const PageItem item = std::unique_ptr<CSurroundFrame>(std::move(frame));
+    EXPECT_EQ(host::TypeOf(item), nullptr);
+}
+
+TEST(Catalogue, EveryEntryIsInTheDocumentation) {
+    const auto contentsOf = [](const std::string& path) {
+        std::ifstream file(std::string(MAP_SURROUND_SOURCES) + path);
+        return std::string{std::istreambuf_iterator<char>(file), {}};
+    };
+    const std::string readme = contentsOf("/README.md");
+    const std::string pageFile = contentsOf("/docs/page_file.md");
+    for (const CatalogueEntry& entry : kCatalogue) {
+        EXPECT_THAT(readme, HasSubstr("`" + std::string(entry.className) + "`"));
+        EXPECT_THAT(pageFile, AnyOf(HasSubstr("`" + std::string(entry.name) + "`"),
+                                    HasSubstr("`-" + std::string(entry.Style()) + "`")));
+    }
+}
+
+}  // namespace
