@@ -9,7 +9,10 @@
 
 #include "host/common_functions.h"
 #include "host/raster_data.h"
+#include "raster_data/raster_style.h"
 #include "system/progress.h"
+
+class GDALDataset;
 
 namespace host {
 
@@ -23,14 +26,19 @@ struct PixelImage {
 
 /// Any raster that GDAL opens, as the legend's data source and as the map's picture.
 ///
-/// The display type follows from the bands: three or more are shown as RGB (by their
-/// colour interpretation where they have one, else the first three), one with a palette
-/// or an attribute table as classified, any other as grey.
+/// The display type follows from the bands that are shown: three are RGB; one with a
+/// palette or an attribute table is classified, any other grey. A style chooses them,
+/// else their colours do: red, green and blue, else the first three that are no alpha;
+/// where there are no three, the first.
+///
+/// Its bands' ranges are the ranges drawn: ComputeMinMax tells which value is black and
+/// which white, `approximate` or not. No file is written beside the raster.
 class GdalRaster : public CRasterSource {
 public:
-    /// @return null when the file is no raster that GDAL opens; `why` then says so in a
-    /// few words, without the file's name
-    static std::unique_ptr<GdalRaster> Open(const std::string& path, std::string& why);
+    /// @return null when the file is no raster that GDAL opens, or has not the bands that
+    /// the style chooses; `why` then says so in a few words, without the file's name
+    static std::unique_ptr<GdalRaster> Open(const std::string& path, std::string& why,
+                                            const RasterStyle& style = {});
 
     ~GdalRaster() override;
 
@@ -73,16 +81,22 @@ public:
     /// @param window inside the raster, at least one pixel
     std::unique_ptr<GdalRaster> Part(const Window& window) const;
 
+    /// The same of a raster that is turned against its coordinates, with its rows from
+    /// west to east: each pixel is the nearest one's, and transparent beside the raster.
+    /// Throws std::runtime_error when it cannot be made.
+    std::unique_ptr<GdalRaster> NorthUp() const;
+
     /// The whole raster at the given size in pixels, read decimated or from overviews in
-    /// strips, so that memory does not follow the raster's size: RGB and grey stretched
-    /// from 2 % to 98 % of each band's values, classified in its own colours; no-data is
-    /// transparent. Throws std::runtime_error with the reason when it cannot be read or
-    /// is stopped.
+    /// strips, so that memory does not follow the raster's size; no-data is transparent.
+    /// A value has the same colour at every size, and in every part. Throws
+    /// std::runtime_error with the reason when it cannot be read or is stopped.
     PixelImage Render(int width, int height, const Progress& progress = {});
 
 private:
     struct State;
     explicit GdalRaster(std::unique_ptr<State> state);
+    std::unique_ptr<GdalRaster> Derived(std::shared_ptr<GDALDataset> dataset) const;
+
     std::unique_ptr<State> m_state;
 };
 

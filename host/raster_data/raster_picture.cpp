@@ -6,19 +6,14 @@
 #include <array>
 #include <cmath>
 #include <cstddef>
-#include <initializer_list>
 #include <iterator>
 #include <set>
-#include <type_traits>
 
 #include "raster_data/raster_reader.h"
 
 namespace host {
 
 namespace {
-
-constexpr double kDarkest = 0.02;
-constexpr double kLightest = 0.98;
 
 // Whole codes up to here are looked up, others searched for.
 constexpr int kCodes = 1 << 16;
@@ -53,103 +48,31 @@ int NearestOf(int index, int drawn, int pixels) {
                             (2 * std::int64_t{drawn}));
 }
 
-/// The values shown as black and as white.
-struct Stretch {
-    double black = 0.0;
-    double white = 0.0;
-
-    std::uint8_t Shade(double value) const {
-        if (!(black < white)) {
-            return 128;
-        }
-        // Halves, since the difference of two doubles may be no double.
-        const double t = (value / 2 - black / 2) / (white / 2 - black / 2);
-        if (!(t > 0.0)) {
-            return 0;
-        }
-        return t < 1.0 ? static_cast<std::uint8_t>(std::lround(t * 255.0))
-                       : std::uint8_t{255};
-    }
-};
-
-/// The place of a share of `count` sorted values: 2 % of 101 is the third.
-std::size_t Rank(double share, std::size_t count) {
-    return static_cast<std::size_t>(std::llround(share * static_cast<double>(count - 1)));
-}
-
-/// The value at a rank; reorders the values.
 template <class T>
-double SelectRanked(std::vector<T>& values, std::size_t rank) {
-    const auto at = values.begin() + static_cast<std::ptrdiff_t>(rank);
-    std::nth_element(values.begin(), at, values.end());
-    return static_cast<double>(*at);
-}
-
-/// Reorders the values.
-template <class T>
-Stretch StretchOf(std::vector<T>& values) {
-    if (values.empty()) {
-        return {};
-    }
-    const double black = SelectRanked(values, Rank(kDarkest, values.size()));
-    const double white = SelectRanked(values, Rank(kLightest, values.size()));
-    if (black < white) {
-        return {black, white};
-    }
-    const auto [least, most] = std::minmax_element(values.begin(), values.end());
-    return {static_cast<double>(*least), static_cast<double>(*most)};
-}
-
-template <class T>
-PixelImage DrawStretchedAs(const std::vector<GDALRasterBand*>& bands, int width,
-                           int height, const Progress& progress) {
-    PixelImage image = MakeImage(width, height);
-    std::vector<std::vector<T>> planes(bands.size(),
-                                       std::vector<T>(image.bgra.size() / kPixelBytes));
-    ReadRows<T>(
-        bands, width, height, Sampling::kAverage, progress, [&](const SampleRow<T>& row) {
-            const std::size_t at = Offset(width, row.x, row.y);
-            for (std::size_t b = 0; b < planes.size(); ++b) {
-                std::copy_n(row.bands[b], row.count, planes[b].data() + at);
-            }
-            for (int i = 0; i < row.count; ++i) {
-                image.bgra[(at + static_cast<std::size_t>(i)) * kPixelBytes + kAlpha] =
-                    row.alpha[i];
-            }
-        });
-
+PixelImage DrawShadesAs(const std::vector<GDALRasterBand*>& bands,
+                        const std::vector<ShadeRange>& ranges, int width, int height,
+                        const Progress& progress) {
     constexpr std::array<std::size_t, 3> kChannels{kRed, kGreen, kBlue};
-    std::vector<T> visible;
-    for (std::size_t b = 0; b < planes.size(); ++b) {
-        const std::vector<T>& plane = planes[b];
-        visible.clear();
-        for (std::size_t i = 0; i < plane.size(); ++i) {
-            if (image.bgra[i * kPixelBytes + kAlpha] != 0) {
-                visible.push_back(plane[i]);
-            }
-        }
-        const Stretch stretch = StretchOf(visible);
-        for (std::size_t i = 0; i < plane.size(); ++i) {
-            std::uint8_t* const pixel = image.bgra.data() + i * kPixelBytes;
-            const std::uint8_t shade = pixel[kAlpha] == 0
-                                           ? std::uint8_t{0}
-                                           : stretch.Shade(static_cast<double>(plane[i]));
-            if (planes.size() == 1) {
-                std::fill_n(pixel, kAlpha, shade);
-            } else {
-                pixel[kChannels[b]] = shade;
-            }
-        }
-    }
+    PixelImage image = MakeImage(width, height);
+    ReadRows<T>(bands, width, height, Sampling::kAverage, progress,
+                [&](const SampleRow<T>& row) {
+                    std::uint8_t* pixel =
+                        image.bgra.data() + Offset(width, row.x, row.y) * kPixelBytes;
+                    for (int i = 0; i < row.count; ++i, pixel += kPixelBytes) {
+                        if (row.alpha[i] == 0) {
+                            continue;
+                        }
+                        for (std::size_t b = 0; b < bands.size(); ++b) {
+                            pixel[kChannels[b]] =
+                                ranges[b].Shade(static_cast<double>(row.bands[b][i]));
+                        }
+                        if (bands.size() == 1) {
+                            pixel[kGreen] = pixel[kBlue] = pixel[kRed];
+                        }
+                        pixel[kAlpha] = row.alpha[i];
+                    }
+                });
     return image;
-}
-
-bool AllOf(const std::vector<GDALRasterBand*>& bands,
-           std::initializer_list<GDALDataType> types) {
-    return std::all_of(bands.begin(), bands.end(), [&](GDALRasterBand* band) {
-        return std::find(types.begin(), types.end(), band->GetRasterDataType()) !=
-               types.end();
-    });
 }
 
 /// A code that is looked up in a table, else -1.
@@ -224,17 +147,12 @@ private:
 
 }  // namespace
 
-PixelImage DrawStretched(const std::vector<GDALRasterBand*>& bands, int width, int height,
-                         const Progress& progress) {
-    if (AllOf(bands, {GDT_Byte})) {
-        return DrawStretchedAs<std::uint8_t>(bands, width, height, progress);
-    }
-    // What a float holds without loss.
-    if (AllOf(bands,
-              {GDT_Byte, GDT_UInt16, GDT_Int16, GDT_CInt16, GDT_Float32, GDT_CFloat32})) {
-        return DrawStretchedAs<float>(bands, width, height, progress);
-    }
-    return DrawStretchedAs<double>(bands, width, height, progress);
+PixelImage DrawShades(const std::vector<GDALRasterBand*>& bands,
+                      const std::vector<ShadeRange>& ranges, int width, int height,
+                      const Progress& progress) {
+    return WithSampleType(bands, [&](auto type) {
+        return DrawShadesAs<decltype(type)>(bands, ranges, width, height, progress);
+    });
 }
 
 PixelImage DrawClasses(GDALRasterBand* band, const RasterClasses& classes, int width,
@@ -261,14 +179,9 @@ PixelImage DrawClasses(GDALRasterBand* band, const RasterClasses& classes, int w
 
 std::unique_ptr<ClassificationTable> OccurringClasses(GDALRasterBand* band,
                                                       const RasterClasses& classes) {
-    int width = band->GetXSize();
-    int height = band->GetYSize();
-    if (std::int64_t{width} * height > std::int64_t{kCountedSide} * kCountedSide) {
-        width = std::min(width, kCountedSide);
-        height = std::min(height, kCountedSide);
-    }
+    const LookedAt size(*band, kCountedSide);
     SeenClasses seen(classes);
-    ReadRows<double>({band}, width, height, Sampling::kNearest, {},
+    ReadRows<double>({band}, size.width, size.height, Sampling::kNearest, {},
                      [&](const SampleRow<double>& row) {
                          for (int i = 0; i < row.count; ++i) {
                              if (row.alpha[i] != 0) {

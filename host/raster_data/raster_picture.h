@@ -5,17 +5,17 @@
 
 #include "raster_data/gdal_raster.h"
 #include "raster_data/raster_classes.h"
+#include "raster_data/raster_stretch.h"
 
 class GDALRasterBand;
 
 namespace host {
 
-/// One band as grey or three as red, green and blue, each stretched by itself: black at
-/// what 2 % of its visible pixels do not exceed, white at 98 %, of the pixels as they are
-/// drawn. Where those are one value, from the smallest to the largest; where these are
-/// too, mid grey. `width` and `height` are at most the bands'.
-PixelImage DrawStretched(const std::vector<GDALRasterBand*>& bands, int width, int height,
-                         const Progress& progress);
+/// One band as grey or three as red, green and blue, each value in the shade that its
+/// band's range gives it. `width` and `height` are at most the bands'.
+PixelImage DrawShades(const std::vector<GDALRasterBand*>& bands,
+                      const std::vector<ShadeRange>& ranges, int width, int height,
+                      const Progress& progress);
 
 /// A band in the colours of its classes, pixel by pixel. `width` and `height` are at most
 /// the band's.

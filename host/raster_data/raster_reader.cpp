@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <initializer_list>
 #include <stdexcept>
 
 #include "raster_data/cell_means.h"
@@ -143,7 +144,25 @@ private:
     std::size_t m_panel = 0;
 };
 
+bool AllOf(const std::vector<GDALRasterBand*>& bands,
+           std::initializer_list<GDALDataType> types) {
+    return std::all_of(bands.begin(), bands.end(), [&](GDALRasterBand* band) {
+        return std::find(types.begin(), types.end(), band->GetRasterDataType()) !=
+               types.end();
+    });
+}
+
 }  // namespace
+
+SampleType SampleTypeOf(const std::vector<GDALRasterBand*>& bands) {
+    if (AllOf(bands, {GDT_Byte})) {
+        return SampleType::Byte;
+    }
+    return AllOf(bands,
+                 {GDT_Byte, GDT_UInt16, GDT_Int16, GDT_CInt16, GDT_Float32, GDT_CFloat32})
+               ? SampleType::Float
+               : SampleType::Double;
+}
 
 template <class T>
 void ReadRows(const std::vector<GDALRasterBand*>& bands, int width, int height,

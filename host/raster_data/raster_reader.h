@@ -20,6 +20,26 @@ enum class Sampling {
 /// At most this many bands are read together: red, green and blue.
 constexpr std::size_t kMostBands = 3;
 
+/// The types that values are read as.
+enum class SampleType { Byte, Float, Double };
+
+/// The first of them that holds every value of the bands without loss.
+SampleType SampleTypeOf(const std::vector<GDALRasterBand*>& bands);
+
+/// What `work` answers, given a zero of that type.
+template <class Work>
+auto WithSampleType(const std::vector<GDALRasterBand*>& bands, Work work) {
+    switch (SampleTypeOf(bands)) {
+        case SampleType::Byte:
+            return work(std::uint8_t{0});
+        case SampleType::Float:
+            return work(0.0f);
+        case SampleType::Double:
+            break;
+    }
+    return work(0.0);
+}
+
 /// A piece of one row of what is read. The pointers hold for the call that it is given
 /// to.
 template <class T>

@@ -71,19 +71,29 @@ void Write(const std::string& path, const Raster& raster) {
     }
 }
 
-std::unique_ptr<host::GdalRaster> Open(const std::string& path) {
+std::unique_ptr<host::GdalRaster> Open(const std::string& path,
+                                       const host::RasterStyle& style) {
     std::string why;
-    std::unique_ptr<host::GdalRaster> raster = host::GdalRaster::Open(path, why);
+    std::unique_ptr<host::GdalRaster> raster = host::GdalRaster::Open(path, why, style);
     EXPECT_NE(raster, nullptr) << path << ": " << why;
     return raster;
 }
 
 std::unique_ptr<host::GdalRaster> WriteAndOpen(const TemporaryFolder& folder,
-                                               const Raster& raster) {
+                                               const Raster& raster,
+                                               const host::RasterStyle& style) {
     static std::atomic<int> count{0};
     const std::string path = folder / ("raster_" + std::to_string(++count) + ".tif");
     Write(path, raster);
-    return Open(path);
+    return Open(path, style);
+}
+
+host::RasterStyle Stretched(const char* stretch) {
+    const std::optional<host::Stretch> parsed = host::ParseStretch(stretch);
+    EXPECT_TRUE(parsed) << stretch;
+    host::RasterStyle style;
+    style.stretch = parsed.value_or(host::Stretch());
+    return style;
 }
 
 std::vector<double> Ramp(int first, int last) {

@@ -53,11 +53,16 @@ Dataset Create(const std::string& path, int width, int height, int bands,
                GDALDataType type, const std::vector<std::string>& options = {});
 
 /// Opens a raster that is there; null, and a failed test, when it does not open.
-std::unique_ptr<host::GdalRaster> Open(const std::string& path);
+std::unique_ptr<host::GdalRaster> Open(const std::string& path,
+                                       const host::RasterStyle& style = {});
 
 /// Writes a raster and opens it.
 std::unique_ptr<host::GdalRaster> WriteAndOpen(const TemporaryFolder& folder,
-                                               const Raster& raster);
+                                               const Raster& raster,
+                                               const host::RasterStyle& style = {});
+
+/// The style of a stretch, given as ParseStretch reads it.
+host::RasterStyle Stretched(const char* stretch);
 
 /// The whole numbers from first to last.
 std::vector<double> Ramp(int first, int last);

@@ -353,14 +353,19 @@ TEST(RasterClasses, ATableThatIsOnlyAHistogramMakesNone) {
     EXPECT_EQ(opened->GetClassifyDisplayTable()->GetClassesCount(), 0);
 }
 
-TEST(RasterClasses, AreOfOneBandOnly) {
+TEST(RasterClasses, AreOfTheBandThatIsShown) {
     const TemporaryFolder folder;
     Raster raster{1, {{1}, {1}}};
     raster.describe = [](GDALDataset& dataset) {
         SetTable(*dataset.GetRasterBand(1),
                  {kByUsage, {{"1", "One", "1", "2", "3"}}, {}});
     };
-    EXPECT_EQ(WriteAndOpen(folder, raster)->GetDisplayType(), DisplayGray);
+    EXPECT_EQ(WriteAndOpen(folder, raster)->GetDisplayType(), DisplayClassified);
+    host::RasterStyle style;
+    style.bands = {2};
+    EXPECT_EQ(WriteAndOpen(folder, raster, style)->GetDisplayType(), DisplayGray);
+    raster.bands.push_back({1});
+    EXPECT_EQ(WriteAndOpen(folder, raster)->GetDisplayType(), DisplayRGB);
 }
 
 TEST(RasterClasses, AreDrawnFromTheNearestPixelAndNeverMixed) {

@@ -15,6 +15,7 @@ using raster_test::Pixel;
 using raster_test::Pixels;
 using raster_test::Ramp;
 using raster_test::Raster;
+using raster_test::Stretched;
 using raster_test::TemporaryFolder;
 using raster_test::WriteAndOpen;
 
@@ -44,7 +45,8 @@ TEST(RenderGrey, StretchesFrom2To98PercentWhateverTheType) {
          {GDT_Byte, GDT_UInt16, GDT_Int16, GDT_UInt32, GDT_Int32, GDT_UInt64, GDT_Int64,
           GDT_Float32, GDT_Float64, GDT_CInt16, GDT_CInt32, GDT_CFloat32, GDT_CFloat64}) {
         SCOPED_TRACE(GDALGetDataTypeName(type));
-        const auto raster = WriteAndOpen(folder, {101, {Ramp(0, 100)}, type});
+        const auto raster =
+            WriteAndOpen(folder, {101, {Ramp(0, 100)}, type}, Stretched("percent 2 98"));
         const host::PixelImage image = raster->Render(101, 1);
         ASSERT_EQ(image.width, 101);
         ASSERT_EQ(image.height, 1);
@@ -62,8 +64,6 @@ struct GreyRow {
     Colours drawn;
 };
 
-// Of three values the ranks of 2 % and 98 % are the first and the last; of 101, the third
-// and the 99th.
 const GreyRow kGreys[] = {
     {"one pixel has no contrast", GDT_Byte, {7}, {}, {Grey(128)}},
     {"nor has a constant band", GDT_Float32, {0, 0, 0}, {}, Colours(3, Grey(128))},
@@ -116,7 +116,8 @@ TEST(RenderGrey, AnOutlierDoesNotDarkenTheRest) {
     const TemporaryFolder folder;
     std::vector<double> values = Ramp(0, 100);
     values.back() = 60000;
-    const auto raster = WriteAndOpen(folder, {101, {values}, GDT_UInt16});
+    const auto raster =
+        WriteAndOpen(folder, {101, {values}, GDT_UInt16}, Stretched("percent 2 98"));
     EXPECT_EQ(Pixel(raster->Render(101, 1), 50, 0), Grey(128));
 }
 
@@ -125,7 +126,7 @@ TEST(RenderGrey, WhereNearlyAllIsOneValueTheRestIsStillSeen) {
     std::vector<double> values(101, 5.0);
     values[0] = 3;
     values[100] = 13;
-    const auto raster = WriteAndOpen(folder, {101, {values}});
+    const auto raster = WriteAndOpen(folder, {101, {values}}, Stretched("percent 2 98"));
     const host::PixelImage image = raster->Render(101, 1);
     EXPECT_EQ(Pixel(image, 0, 0), Grey(0));
     EXPECT_EQ(Pixel(image, 50, 0), Grey(51));  // 2 / 10 of 255
@@ -148,7 +149,7 @@ TEST(RenderAlpha, IsTheAlphaBands) {
     Raster colour{3, {{0, 10, 3}, {0, 10, 3}, {3, 0, 10}, {255, 128, 0}}};
     colour.options = {"PHOTOMETRIC=RGB", "ALPHA=YES"};
     EXPECT_EQ(Pixels(WriteAndOpen(folder, colour)->Render(3, 1)),
-              (Colours{0xff0000ff, 0x80ffff00, 0}));
+              (Colours{0xff000003, 0x800a0a00, 0}));
 }
 
 /// Gives a raster of four pixels a mask: in the file, where it is on or off, or beside
@@ -193,8 +194,8 @@ TEST(RenderAlpha, OfClassesIsTheMasksToo) {
 
 TEST(RenderColour, StretchesEachBandByItself) {
     const TemporaryFolder folder;
-    const auto raster =
-        WriteAndOpen(folder, {3, {{0, 3, 10}, {200, 130, 100}, {50, 50, 50}}});
+    const auto raster = WriteAndOpen(
+        folder, {3, {{0, 3, 10}, {200, 130, 100}, {50, 50, 50}}, GDT_UInt16});
     EXPECT_EQ(Pixels(raster->Render(3, 1)),
               (Colours{0xff00ff80, 0xff4d4d80, 0xffff0080}));
 }
@@ -214,7 +215,7 @@ TEST(RenderColour, TakesTheBandsByTheirColours) {
 
 TEST(RenderColour, IsTransparentWhereABandHasNoValue) {
     const TemporaryFolder folder;
-    Raster raster{4, {{7, 0, 3, 10}, {0, 0, 3, 10}, {0, 7, 3, 10}}};
+    Raster raster{4, {{7, 0, 3, 10}, {0, 0, 3, 10}, {0, 7, 3, 10}}, GDT_UInt16};
     raster.noData = 7;
     EXPECT_EQ(Pixels(WriteAndOpen(folder, raster)->Render(4, 1)),
               (Colours{0, 0, 0xff000000, 0xffffffff}));
@@ -222,12 +223,12 @@ TEST(RenderColour, IsTransparentWhereABandHasNoValue) {
 
 TEST(RenderSize, SmallerIsTheMeanOfEachCell) {
     const TemporaryFolder folder;
-    // Two by two pixels a cell: means 0, 30 and 100.
+    // Two by two pixels a cell: means 0, 30 and 100, of a raster that goes up to 200.
     const std::vector<double> values = {0, 0, 10, 50, 100, 100,  //
                                         0, 0, 20, 40, 0,   200};
     for (const GDALDataType type : {GDT_Byte, GDT_UInt16, GDT_Float32, GDT_Float64}) {
         const auto raster = WriteAndOpen(folder, {6, {values}, type});
-        EXPECT_EQ(Pixels(raster->Render(3, 1)), (Colours{Grey(0), Grey(77), Grey(255)}));
+        EXPECT_EQ(Pixels(raster->Render(3, 1)), (Colours{Grey(0), Grey(38), Grey(128)}));
     }
 }
 
@@ -237,7 +238,7 @@ TEST(RenderSize, EveryPixelOfTheFileCountsInOneCell) {
     const auto raster =
         WriteAndOpen(folder, {10, {{0, 0, 0, 0, 90, 40, 60, 100, 0, 200}}});
     EXPECT_EQ(Pixels(raster->Render(4, 1)),
-              (Colours{Grey(0), Grey(77), Grey(128), Grey(255)}));
+              (Colours{Grey(0), Grey(38), Grey(64), Grey(128)}));
 }
 
 TEST(RenderSize, MeansOfBytesAreRounded) {
@@ -253,7 +254,7 @@ TEST(RenderSize, MeansOfBytesAreRounded) {
 TEST(RenderSize, NoDataIsLeftOutOfTheMeanAndThinsTheCell) {
     const TemporaryFolder folder;
     // Three of the second cell's four pixels have a value: their mean is 30, and 3 / 4 of
-    // 255 is 191.25. Two of the third's: 100, and 127.5.
+    // 255 is 191.25. Two of the third's: 100, and 127.5. White is 150.
     for (const double none : {255.0, kNan}) {
         Raster raster{6,
                       {{0, 0, none, 50, 50, none,  //
@@ -263,7 +264,7 @@ TEST(RenderSize, NoDataIsLeftOutOfTheMeanAndThinsTheCell) {
             raster.noData = none;
         }
         EXPECT_EQ(Pixels(WriteAndOpen(folder, raster)->Render(3, 1)),
-                  (Colours{Grey(0), 0xbf4d4d4d, 0x80ffffff}));
+                  (Colours{Grey(0), 0xbf333333, 0x80aaaaaa}));
     }
 }
 
@@ -324,7 +325,7 @@ TEST(RenderOverviews, TheSmallestThatIsLargeEnoughIsRead) {
         }
     }
     const auto raster = Open(path);
-    const unsigned int spot = 0xffffffff, ground = 0xff000000;
+    const unsigned int spot = 0xffc8c8c8, ground = 0xff000000;
     // The raster's spot is top left, the large overview's top right, the small one's
     // bottom left.
     EXPECT_EQ(Pixels(raster->Render(2, 2)), (Colours{ground, ground, spot, ground}));
