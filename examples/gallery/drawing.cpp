@@ -1,5 +1,6 @@
 #include "drawing.h"
 
+#include <algorithm>
 #include <cstdio>
 
 namespace gallery {
@@ -32,6 +33,20 @@ void Decorate(CFrameBase& frame, float shadowX, float shadowY) {
 void Smooth(Gdiplus::Graphics* graphics) {
     graphics->SetSmoothingMode(Gdiplus::SmoothingModeAntiAlias);
     graphics->SetTextRenderingHint(Gdiplus::TextRenderingHintAntiAlias);
+}
+
+std::wstring Wide(std::string_view word) { return {word.begin(), word.end()}; }
+
+std::wstring FileName(std::string_view word) {
+    std::wstring name = Wide(word);
+    std::replace(name.begin(), name.end(), L'-', L'_');
+    return name;
+}
+
+std::wstring Spoken(std::string_view word) {
+    std::wstring name = Wide(word);
+    std::replace(name.begin(), name.end(), L'-', L' ');
+    return name;
 }
 
 bool SavePng(Gdiplus::Bitmap& bitmap, const std::wstring& file) {

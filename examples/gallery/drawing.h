@@ -3,6 +3,7 @@
 #include <gdiplus.h>
 
 #include <string>
+#include <string_view>
 
 #include "map_surround/frame.h"
 
@@ -21,6 +22,13 @@ void Decorate(CFrameBase& frame, float shadowX, float shadowY);
 
 /// Smooth shapes and smooth text.
 void Smooth(Gdiplus::Graphics* graphics);
+
+/// A word of the catalogue in wide characters.
+std::wstring Wide(std::string_view word);
+/// "scale-bar-line" as "scale_bar_line".
+std::wstring FileName(std::string_view word);
+/// "scale-bar-line" as "scale bar line".
+std::wstring Spoken(std::string_view word);
 
 /// False with a message on standard error when the file cannot be written.
 bool SavePng(Gdiplus::Bitmap& bitmap, const std::wstring& file);

@@ -1,5 +1,8 @@
+#include <memory>
+
 #include "drawing.h"
 #include "gallery.h"
+#include "page/catalogue.h"
 #include "rasters.h"
 #include "sample_image.h"
 
@@ -7,52 +10,62 @@ namespace {
 
 using namespace gallery;
 
-void DrawTitle(Gdiplus::Graphics* graphics, CPoint centre) {
-    CMapTitle title;
+// Each family with the properties that a host would give it.
+
+void SetUp(CMapTitle& title) {
     title.SetFontValue(L"Vegetation 2024");
     title.SetFontStyle(L"Arial");
     title.SetFontProcess(FontProcessBold);
     title.SetFontSize(32.0);
     title.SetFrontColor(kInk);
-    title.ResetAspectRatio();
-    title.Draw(graphics, centre, 1.0);
 }
 
-void DrawPicture(Gdiplus::Graphics* graphics, CPoint centre) {
-    const SampleImage image;
-    CDrawPicture picture;
-    picture.Open(image.File());
-    picture.SetSize(130);
-    picture.ResetAspectRatio();
-    picture.Draw(graphics, centre, 1.0);
-}
-
-void DrawLegend(Gdiplus::Graphics* graphics, CPoint centre) {
-    CMapLegend legend;
-    legend.SetTitleValue(L"Land cover");
-    ExplainedRasters(legend, Of(LandCover(L"land_cover.tif")))
-        .Draw(graphics, centre, 1.0);
-}
-
-template <typename Arrow>
-void DrawNorthArrow(Gdiplus::Graphics* graphics, CPoint centre) {
-    Arrow arrow;
+void SetUp(CNorthArrowBase& arrow) {
     arrow.SetSize(140);
     arrow.SetFrontColor(kInk);
-    arrow.Draw(graphics, centre, 1.0);
 }
 
-template <typename Bar>
-void DrawScaleBar(Gdiplus::Graphics* graphics, CPoint centre) {
-    Bar bar;
+void SetUp(CScaleBarBase& bar) {
     bar.SetSize(48);
     bar.SetFrontColor(kInk);
     bar.SetUnitsName(L"Kilometre");
     bar.SetPaper2DataScale(5.0);
     bar.SetPaper2ScreenScale(44.0);
     bar.SetScreen2PaperByOneScale(44.0);
-    bar.ResetAspectRatio();
-    bar.Draw(graphics, centre, 1.0);
+}
+
+void DrawPicture(CDrawPicture& picture, Gdiplus::Graphics* graphics, CPoint centre) {
+    const SampleImage image;
+    picture.Open(image.File());
+    picture.SetSize(130);
+    picture.ResetAspectRatio();
+    picture.Draw(graphics, centre, 1.0);
+}
+
+void DrawLegend(CMapLegend& legend, Gdiplus::Graphics* graphics, CPoint centre) {
+    legend.SetTitleValue(L"Land cover");
+    ExplainedRasters(legend, Of(LandCover(L"land_cover.tif")))
+        .Draw(graphics, centre, 1.0);
+}
+
+void DrawEntry(const host::CatalogueEntry& entry, Gdiplus::Graphics* graphics,
+               CPoint centre) {
+    const std::unique_ptr<CMapSurround> element = entry.make();
+    if (auto* const picture = dynamic_cast<CDrawPicture*>(element.get())) {
+        return DrawPicture(*picture, graphics, centre);
+    }
+    if (auto* const legend = dynamic_cast<CMapLegend*>(element.get())) {
+        return DrawLegend(*legend, graphics, centre);
+    }
+    if (auto* const title = dynamic_cast<CMapTitle*>(element.get())) {
+        SetUp(*title);
+    } else if (auto* const arrow = dynamic_cast<CNorthArrowBase*>(element.get())) {
+        SetUp(*arrow);
+    } else if (auto* const bar = dynamic_cast<CScaleBarBase*>(element.get())) {
+        SetUp(*bar);
+    }
+    element->ResetAspectRatio();
+    element->Draw(graphics, centre, 1.0);
 }
 
 void DrawFrame(Gdiplus::Graphics* graphics, CPoint centre) {
@@ -67,27 +80,25 @@ void DrawFrame(Gdiplus::Graphics* graphics, CPoint centre) {
     frame.Draw(graphics, centre, 1.0);
 }
 
+std::vector<Element> AllElements() {
+    std::vector<Element> elements;
+    for (const host::CatalogueEntry& entry : host::kCatalogue) {
+        elements.push_back({FileName(entry.name), Wide(entry.className),
+                            [&entry](Gdiplus::Graphics* graphics, CPoint centre) {
+                                DrawEntry(entry, graphics, centre);
+                            }});
+        // Between the three that stand alone and the families of many styles.
+        if (entry.family == SurroundLegend) {
+            elements.push_back({L"frame", L"CSurroundFrame", DrawFrame});
+        }
+    }
+    return elements;
+}
+
 }  // namespace
 
 const std::vector<gallery::Element>& gallery::Elements() {
-    static const std::vector<Element> elements = {
-        {L"title", L"CMapTitle", DrawTitle},
-        {L"picture", L"CDrawPicture", DrawPicture},
-        {L"legend", L"CMapLegend", DrawLegend},
-        {L"frame", L"CSurroundFrame", DrawFrame},
-        {L"north_arrow_one", L"CNorthArrowOneAngle", DrawNorthArrow<CNorthArrowOneAngle>},
-        {L"north_arrow_two", L"CNorthArrowTwoAngle", DrawNorthArrow<CNorthArrowTwoAngle>},
-        {L"north_arrow_four", L"CNorthArrowFourAngle",
-         DrawNorthArrow<CNorthArrowFourAngle>},
-        {L"north_arrow_eight", L"CNorthArrowEightAngle",
-         DrawNorthArrow<CNorthArrowEightAngle>},
-        {L"scale_line", L"CScaleLine", DrawScaleBar<CScaleLine>},
-        {L"scale_stepped_line", L"CSteppedScaleLine", DrawScaleBar<CSteppedScaleLine>},
-        {L"scale_line2", L"CScaleLine2", DrawScaleBar<CScaleLine2>},
-        {L"scale_line3", L"CScaleLine3", DrawScaleBar<CScaleLine3>},
-        {L"scale_alternate", L"CScaleAlternate", DrawScaleBar<CScaleAlternate>},
-        {L"scale_equ_altenate", L"CScaleEquAltenate", DrawScaleBar<CScaleEquAltenate>},
-    };
+    static const std::vector<Element> elements = AllElements();
     return elements;
 }
 

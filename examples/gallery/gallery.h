@@ -68,9 +68,9 @@ Sheet DrawPictures();
 
 /// One element in one style, drawn with the properties that a host would give it.
 struct Element {
-    const wchar_t* name;  ///< the file's, without its ending
-    const wchar_t* caption;
-    void (*draw)(Gdiplus::Graphics*, CPoint centre);
+    std::wstring name;  ///< the file's, without its ending
+    std::wstring caption;
+    std::function<void(Gdiplus::Graphics*, CPoint centre)> draw;
 };
 
 constexpr int kElementWidth = 320;

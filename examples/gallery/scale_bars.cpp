@@ -1,4 +1,9 @@
+#include <memory>
+#include <string>
+
+#include "drawing.h"
 #include "gallery.h"
+#include "page/catalogue.h"
 
 namespace {
 
@@ -14,9 +19,7 @@ struct Ground {
 constexpr Ground kKilometres = {0.5, 36.0, L"Kilometre"};
 
 /// A bar whose width follows its divisions.
-template <typename Bar>
-Bar Make(int size, ScaleBarPostion position, Ground ground) {
-    Bar bar;
+void SetUp(CScaleBarBase& bar, int size, ScaleBarPostion position, const Ground& ground) {
     bar.SetSize(size);
     bar.SetFrontColor(Gdiplus::Color(0xFF1B2733));
     bar.SetUnitPos(position);
@@ -25,16 +28,28 @@ Bar Make(int size, ScaleBarPostion position, Ground ground) {
     bar.SetPaper2ScreenScale(ground.pixelsOfDivision);
     bar.SetScreen2PaperByOneScale(ground.pixelsOfDivision);
     bar.ResetAspectRatio();
-    return bar;
 }
 
 template <typename Bar>
-void AddBars(gallery::Sheet& sheet, const std::wstring& name) {
+Bar Make(int size, ScaleBarPostion position, const Ground& ground) {
+    Bar bar;
+    SetUp(bar, size, position, ground);
+    return bar;
+}
+
+void AddBars(gallery::Sheet& sheet, const host::CatalogueEntry& style) {
+    const std::wstring name = gallery::Spoken(style.Style());
     for (const ScaleBarPostion position : {UnitPosAfter, UnitPosBefore}) {
         for (const int size : kSizes) {
-            sheet.Add(name + L", size " + std::to_wstring(size) +
-                          (position == UnitPosAfter ? L", unit after" : L", unit before"),
-                      Make<Bar>(size, position, kKilometres));
+            const std::shared_ptr<CScaleBarBase> bar =
+                host::NewElement<CScaleBarBase>(style);
+            SetUp(*bar, size, position, kKilometres);
+            sheet.AddCell(
+                name + L", size " + std::to_wstring(size) +
+                    (position == UnitPosAfter ? L", unit after" : L", unit before"),
+                gallery::Paper::White, [bar](Gdiplus::Graphics* graphics, CPoint centre) {
+                    bar->Draw(graphics, centre, 1.0);
+                });
         }
     }
 }
@@ -43,12 +58,9 @@ void AddBars(gallery::Sheet& sheet, const std::wstring& name) {
 
 gallery::Sheet gallery::DrawScaleBars() {
     Sheet sheet(L"Scale bars", 3, 330, 130);
-    AddBars<CScaleLine>(sheet, L"line");
-    AddBars<CSteppedScaleLine>(sheet, L"stepped");
-    AddBars<CScaleLine2>(sheet, L"line 2");
-    AddBars<CScaleLine3>(sheet, L"line 3");
-    AddBars<CScaleAlternate>(sheet, L"alternating");
-    AddBars<CScaleEquAltenate>(sheet, L"equal alternating");
+    for (const host::CatalogueEntry* const style : host::StylesOf(SurroundScaleBar)) {
+        AddBars(sheet, *style);
+    }
 
     sheet.Add(L"0.037 degrees are rounded down to 0.03",
               Make<CScaleLine>(40, UnitPosAfter, {0.037, 60.0, L"degree"}));

@@ -54,16 +54,20 @@ std::unique_ptr<CScaleBarBase> NewBar(Style style) {
     return nullptr;
 }
 
+void SetProperties(CScaleBarBase& bar, const BarRow& row) {
+    bar.SetPaper2DataScale(row.paperToData);
+    bar.SetPaper2ScreenScale(row.paperToScreen);
+    bar.SetMainDivCount(row.mainCount);
+    bar.SetSubDivCount(row.subCount);
+    bar.SetUnitPos(static_cast<ScaleBarPostion>(row.unitPosition));
+    bar.SetSize(row.size);
+    bar.SetAspectRatio(row.aspectRatio);
+    bar.SetFrontColor(Gdiplus::Color(row.color));
+}
+
 std::unique_ptr<CScaleBarBase> NewBar(const BarRow& row) {
     std::unique_ptr<CScaleBarBase> bar = NewBar(row.style);
-    bar->SetPaper2DataScale(row.paperToData);
-    bar->SetPaper2ScreenScale(row.paperToScreen);
-    bar->SetMainDivCount(row.mainCount);
-    bar->SetSubDivCount(row.subCount);
-    bar->SetUnitPos(static_cast<ScaleBarPostion>(row.unitPosition));
-    bar->SetSize(row.size);
-    bar->SetAspectRatio(row.aspectRatio);
-    bar->SetFrontColor(Gdiplus::Color(row.color));
+    SetProperties(*bar, row);
     return bar;
 }
 

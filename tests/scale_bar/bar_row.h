@@ -39,7 +39,9 @@ std::string Describe(const BarRow& row);
 
 std::unique_ptr<CScaleBarBase> NewBar(Style style);
 
-/// A bar with the row's properties.
+void SetProperties(CScaleBarBase& bar, const BarRow& row);
+
+/// A bar with the row's style and properties.
 std::unique_ptr<CScaleBarBase> NewBar(const BarRow& row);
 
 /// The visible operations of drawing the row with no GDI+ behind it.

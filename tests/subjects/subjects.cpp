@@ -5,6 +5,7 @@
 
 #include "legend/fake_sources.h"
 #include "map_surround/map_surround.h"
+#include "page/catalogue.h"
 #include "scale_bar/bar_row.h"
 #include "title_picture/image_file.h"
 
@@ -62,7 +63,9 @@ private:
 
 class HeldBar : public Subject {
 public:
-    explicit HeldBar(const scale_bar_test::BarRow& row) : m_bar(NewBar(row)) {
+    HeldBar(const host::CatalogueEntry* style, const scale_bar_test::BarRow& row)
+        : m_bar(host::NewElement<CScaleBarBase>(*style)) {
+        SetProperties(*m_bar, row);
         m_bar->SetUnitsName(L"nautical miles");
     }
 
@@ -212,58 +215,64 @@ void AddLegends(std::vector<Row>& rows) {
     }));
 }
 
-template <typename Arrow>
-void AddArrows(std::vector<Row>& rows, const char* family) {
-    const auto add = [&](const char* name, Set<Arrow> set) {
-        rows.push_back(Make<Held<Arrow>>(family, name, true, set));
+class HeldArrow : public Subject {
+public:
+    HeldArrow(const host::CatalogueEntry* style, Set<CMapSurround> set)
+        : m_arrow(style->make()) {
+        set(*m_arrow);
+    }
+
+    void Measure() override { m_arrow->ResetAspectRatio(); }
+    void Draw(Gdiplus::Graphics* graphics) override {
+        m_arrow->Draw(graphics, kCentre, kScale);
+    }
+
+private:
+    std::unique_ptr<CMapSurround> m_arrow;
+};
+
+/// "ScaleLine" of CScaleLine.
+std::string FamilyOf(const host::CatalogueEntry& entry) { return entry.className + 1; }
+
+void AddArrows(std::vector<Row>& rows, const host::CatalogueEntry& style) {
+    const auto add = [&](const char* name, Set<CMapSurround> set) {
+        rows.push_back(Make<HeldArrow>(FamilyOf(style), name, true, &style, set));
     };
-    add("plain", [](Arrow& arrow) { arrow.SetSize(50); });
-    add("red and turned", [](Arrow& arrow) {
+    add("plain", [](CMapSurround& arrow) { arrow.SetSize(50); });
+    add("red and turned", [](CMapSurround& arrow) {
         arrow.SetSize(37);
         arrow.SetAngle(120.0f);
         arrow.SetFrontColor(Gdiplus::Color(0xFFFF0000));
     });
-    add("without a size", [](Arrow&) {});
+    add("without a size", [](CMapSurround&) {});
 }
 
-void AddBars(std::vector<Row>& rows) {
+void AddBars(std::vector<Row>& rows, const host::CatalogueEntry& style) {
     using scale_bar_test::BarRow;
-    using scale_bar_test::Style;
-    const struct {
-        Style style;
-        const char* family;
-    } styles[] = {
-        {Style::Line, "ScaleLine"},           {Style::Stepped, "SteppedScaleLine"},
-        {Style::Line2, "ScaleLine2"},         {Style::Line3, "ScaleLine3"},
-        {Style::Alternate, "ScaleAlternate"}, {Style::EquAlternate, "ScaleEquAltenate"},
+    const auto add = [&](const char* name, auto set) {
+        BarRow row;
+        set(row);
+        rows.push_back(Make<HeldBar>(FamilyOf(style), name, false, &style, row));
     };
-    for (const auto& style : styles) {
-        const auto add = [&](const char* name, auto set) {
-            BarRow row;
-            row.style = style.style;
-            set(row);
-            rows.push_back(Make<HeldBar>(style.family, name, false, row));
-        };
-        add("plain", [](BarRow&) {});
-        add("with long labels and the unit before", [](BarRow& row) {
-            row.paperToData = 25e6;
-            row.mainCount = 3;
-            row.subCount = 2;
-            row.unitPosition = UnitPosBefore;
-            row.color = 0x80FF7F00;
-        });
-        add("with decimals and the unit nowhere", [](BarRow& row) {
-            row.paperToData = 0.037;
-            row.mainCount = 2;
-            row.subCount = 0;
-            row.unitPosition = 7;
-        });
-        add("without sub-divisions", [](BarRow& row) { row.subCount = -1; });
-        add("without a division", [](BarRow& row) { row.mainCount = 0; });
-        add("with fewer divisions than none", [](BarRow& row) { row.mainCount = -1; });
-        add("without a size", [](BarRow& row) { row.size = 0; });
-        add("without a scale", [](BarRow& row) { row.paperToData = 0.0; });
-    }
+    add("plain", [](BarRow&) {});
+    add("with long labels and the unit before", [](BarRow& row) {
+        row.paperToData = 25e6;
+        row.mainCount = 3;
+        row.subCount = 2;
+        row.unitPosition = UnitPosBefore;
+        row.color = 0x80FF7F00;
+    });
+    add("with decimals and the unit nowhere", [](BarRow& row) {
+        row.paperToData = 0.037;
+        row.mainCount = 2;
+        row.subCount = 0;
+        row.unitPosition = 7;
+    });
+    add("without sub-divisions", [](BarRow& row) { row.subCount = -1; });
+    add("without a division", [](BarRow& row) { row.mainCount = 0; });
+    add("with fewer divisions than none", [](BarRow& row) { row.mainCount = -1; });
+    add("without a size", [](BarRow& row) { row.size = 0; });
+    add("without a scale", [](BarRow& row) { row.paperToData = 0.0; });
 }
 
 void AddFrames(std::vector<Row>& rows) {
@@ -303,11 +312,12 @@ std::vector<Row> AllRows() {
     AddTitles(rows);
     AddPictures(rows);
     AddLegends(rows);
-    AddArrows<CNorthArrowOneAngle>(rows, "NorthArrowOneAngle");
-    AddArrows<CNorthArrowTwoAngle>(rows, "NorthArrowTwoAngle");
-    AddArrows<CNorthArrowFourAngle>(rows, "NorthArrowFourAngle");
-    AddArrows<CNorthArrowEightAngle>(rows, "NorthArrowEightAngle");
-    AddBars(rows);
+    for (const host::CatalogueEntry* const style : host::StylesOf(SurroundNorthArrow)) {
+        AddArrows(rows, *style);
+    }
+    for (const host::CatalogueEntry* const style : host::StylesOf(SurroundScaleBar)) {
+        AddBars(rows, *style);
+    }
     AddFrames(rows);
     return rows;
 }

@@ -107,11 +107,11 @@ const std::vector<Picture>& Pictures() {
         {L"north_arrow_two", DrawTwoAngle},
         {L"north_arrow_four", DrawFourAngle},
         {L"north_arrow_eight", DrawEightAngle},
-        {L"scale_line", DrawScaleLine},
-        {L"scale_line2", DrawScaleLine2},
-        {L"scale_line3", DrawScaleLine3},
-        {L"scale_alternate", DrawScaleAlternate},
-        {L"scale_equ_altenate", DrawScaleEquAltenate},
+        {L"scale_bar_line", DrawScaleLine},
+        {L"scale_bar_line2", DrawScaleLine2},
+        {L"scale_bar_line3", DrawScaleLine3},
+        {L"scale_bar_alternating", DrawScaleAlternate},
+        {L"scale_bar_equal_alternating", DrawScaleEquAltenate},
     };
     return pictures;
 }

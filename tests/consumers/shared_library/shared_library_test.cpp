@@ -3,11 +3,11 @@
 
 #include <gtest/gtest.h>
 
-#include <initializer_list>
 #include <memory>
 #include <string>
 
 #include "map_surround/map_surround.h"
+#include "page/catalogue.h"
 
 namespace {
 
@@ -62,12 +62,8 @@ TEST(LibraryHost, DrawsAPictureFromAFile) {
 }
 
 TEST(LibraryHost, DrawsEveryNorthArrow) {
-    CNorthArrowOneAngle one;
-    CNorthArrowTwoAngle two;
-    CNorthArrowFourAngle four;
-    CNorthArrowEightAngle eight;
-    for (CNorthArrowBase* arrow :
-         std::initializer_list<CNorthArrowBase*>{&one, &two, &four, &eight}) {
+    for (const host::CatalogueEntry* const style : host::StylesOf(SurroundNorthArrow)) {
+        const auto arrow = host::NewElement<CNorthArrowBase>(*style);
         EXPECT_EQ(arrow->GetItemType(), SurroundNorthArrow);
         arrow->SetSize(150);
         arrow->SetAngle(20.0f);
@@ -76,14 +72,8 @@ TEST(LibraryHost, DrawsEveryNorthArrow) {
 }
 
 TEST(LibraryHost, DrawsEveryScaleBar) {
-    CScaleLine line;
-    CSteppedScaleLine stepped;
-    CScaleLine2 line2;
-    CScaleLine3 line3;
-    CScaleAlternate alternating;
-    CScaleEquAltenate equal;
-    for (CScaleBarBase* bar : std::initializer_list<CScaleBarBase*>{
-             &line, &stepped, &line2, &line3, &alternating, &equal}) {
+    for (const host::CatalogueEntry* const style : host::StylesOf(SurroundScaleBar)) {
+        const auto bar = host::NewElement<CScaleBarBase>(*style);
         bar->SetPaper2DataScale(37.0);
         bar->SetPaper2ScreenScale(40.0);
         bar->SetScreen2PaperByOneScale(40.0);
