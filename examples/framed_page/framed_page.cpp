@@ -1,4 +1,5 @@
-// A page with a title, a north arrow and a scale bar in frames, at any resolution.
+// A page with a title, a north arrow and a scale bar in frames. It prints the same at any
+// resolution, because everything is drawn in page units under one world transform.
 //   framed_page [DOTS_PER_INCH]
 
 #include <cstdlib>
@@ -7,26 +8,26 @@
 
 namespace {
 
-// The page unit is this host's choice: a tenth of a millimetre. A6, lying.
-constexpr double kPageWidth = 1480.0;
-constexpr double kPageHeight = 1050.0;
-constexpr double kUnitsOfInch = 254.0;
-constexpr double kMargin = 70.0;       // of an element in its frame
-constexpr double kMetresOfUnit = 2.5;  // a map of 1 : 25 000
+// The page unit is this host's choice: a tenth of a millimetre. A6 landscape.
+constexpr int kPageWidth = 1480;
+constexpr int kPageHeight = 1050;
+constexpr double kUnitsPerInch = 254.0;
+constexpr double kMargin = 70.0;        // around an element in its frame
+constexpr double kMetresPerUnit = 2.5;  // a map of 1 : 25 000
+constexpr int kBorderWidth = 2;         // a fifth of a millimetre
 
-/// Page units, y upwards, to device pixels, y downwards.
-CRect ToDevice(CBoundingBox extent, double scale) {
+/// Page units, y upwards, to drawing units, which are as large but have y downwards.
+CRect ToDrawing(CBoundingBox extent) {
     const CPoint2D topLeft = extent.TopLeft();
-    const int left = static_cast<int>(topLeft.x * scale);
-    const int top = static_cast<int>((kPageHeight - topLeft.y) * scale);
-    return {left, top, left + static_cast<int>(extent.GetWidth() * scale),
-            top + static_cast<int>(extent.GetHeight() * scale)};
+    const int left = static_cast<int>(topLeft.x);
+    const int top = static_cast<int>(kPageHeight - topLeft.y);
+    return {left, top, left + static_cast<int>(extent.GetWidth()),
+            top + static_cast<int>(extent.GetHeight())};
 }
 
-/// Draws an element in a frame around it, the middle at a place on the page. The frame
-/// owns the element and deletes it.
-void DrawFramed(Gdiplus::Graphics* graphics, CMapSurround* element, double x, double y,
-                double scale) {
+/// Draws an element in a frame around it, centred on a point of the page. The frame owns
+/// the element and deletes it.
+void DrawFramed(Gdiplus::Graphics* graphics, CMapSurround* element, double x, double y) {
     const double height = element->GetSize() + kMargin;
     const double width = element->GetSize() * double{element->GetAspectRatio()} + kMargin;
     CSurroundFrame frame;
@@ -34,15 +35,19 @@ void DrawFramed(Gdiplus::Graphics* graphics, CMapSurround* element, double x, do
     frame.SetExtent(CBoundingBox(x - width / 2.0, y - height / 2.0, x + width / 2.0,
                                  y + height / 2.0));
     frame.DrawBorder = true;
-    frame.BorderGapX = 1;  // pixels; the fill would cover half of the border otherwise
-    frame.BorderGapY = 1;
+    frame.BorderWidth = kBorderWidth;
+    frame.BorderGapX = kBorderWidth / 2;  // otherwise the fill covers half of the border
+    frame.BorderGapY = kBorderWidth / 2;
     frame.DrawFill = true;
     frame.FillColor = Gdiplus::Color(0xFFF7F3E8);
 
-    const CRect rect = ToDevice(frame.GetExtent(), scale);
+    // Titles, pictures and north arrows reset the transform, so keep it.
+    const Gdiplus::GraphicsState state = graphics->Save();
+    const CRect rect = ToDrawing(frame.GetExtent());
     frame.DrawFrame(graphics, rect);
     frame.Draw(graphics, {(rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2},
-               scale);
+               1.0);
+    graphics->Restore(state);
 }
 
 CMapTitle* NewTitle() {
@@ -61,35 +66,36 @@ CNorthArrowFourAngle* NewNorthArrow() {
     return arrow;
 }
 
-CScaleAlternate* NewScaleBar(double scale) {
+CScaleAlternate* NewScaleBar() {
     constexpr double kDivision = 500.0;  // metres
     auto* bar = new CScaleAlternate;
     bar->SetSize(80);
     bar->SetUnitsName(L"m");
     bar->SetMainDivCount(3);
     bar->SetPaper2DataScale(kDivision);
-    bar->SetScreen2PaperByOneScale(kDivision / kMetresOfUnit);
-    bar->SetPaper2ScreenScale(kDivision / kMetresOfUnit * scale);  // pixels, so by dpi
+    bar->SetScreen2PaperByOneScale(kDivision / kMetresPerUnit);
+    bar->SetPaper2ScreenScale(kDivision / kMetresPerUnit);
     bar->ResetAspectRatio();
     return bar;
 }
 
 bool DrawPage(const wchar_t* file, double dpi) {
-    const double scale = dpi / kUnitsOfInch;
-    Gdiplus::Bitmap page(static_cast<int>(kPageWidth * scale),
-                         static_cast<int>(kPageHeight * scale));
+    const double pixelsPerUnit = dpi / kUnitsPerInch;
+    Gdiplus::Bitmap page(static_cast<int>(kPageWidth * pixelsPerUnit),
+                         static_cast<int>(kPageHeight * pixelsPerUnit));
+    page.SetResolution(static_cast<float>(dpi), static_cast<float>(dpi));
     Gdiplus::Graphics graphics(&page);
     graphics.Clear(Gdiplus::Color(0xFFFFFFFF));
     graphics.SetSmoothingMode(Gdiplus::SmoothingModeAntiAlias);
     graphics.SetTextRenderingHint(Gdiplus::TextRenderingHintAntiAlias);
+    graphics.ScaleTransform(static_cast<float>(pixelsPerUnit),
+                            static_cast<float>(pixelsPerUnit));
 
     const Gdiplus::SolidBrush map(Gdiplus::Color(0xFFB9CFA8));  // where yours would be
-    const CRect mapRect = ToDevice(CBoundingBox(60.0, 60.0, 1420.0, 990.0), scale);
-    graphics.FillRectangle(&map, mapRect.left, mapRect.top, mapRect.right - mapRect.left,
-                           mapRect.bottom - mapRect.top);
-    DrawFramed(&graphics, NewTitle(), 740.0, 870.0, scale);
-    DrawFramed(&graphics, NewNorthArrow(), 1220.0, 560.0, scale);
-    DrawFramed(&graphics, NewScaleBar(scale), 740.0, 170.0, scale);
+    graphics.FillRectangle(&map, 60, 60, kPageWidth - 120, kPageHeight - 120);
+    DrawFramed(&graphics, NewTitle(), 740.0, 870.0);
+    DrawFramed(&graphics, NewNorthArrow(), 1220.0, 560.0);
+    DrawFramed(&graphics, NewScaleBar(), 740.0, 170.0);
 
     const CLSID png = {
         0x557CF406, 0x1A04, 0x11D3, {0x9A, 0x73, 0x00, 0x00, 0xF8, 0x1E, 0xF3, 0x2E}};

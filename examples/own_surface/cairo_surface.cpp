@@ -1,0 +1,44 @@
+// A north arrow on a Cairo image surface, between two drawings of Cairo's own.
+
+#include <cairo.h>
+
+#include "map_surround/map_surround.h"
+
+static void DrawNorthArrow(cairo_surface_t* surface) {
+    cairo_surface_flush(surface);  // what Cairo has drawn so far is then in memory
+    const int width = cairo_image_surface_get_width(surface);
+    const int height = cairo_image_surface_get_height(surface);
+    {
+        Gdiplus::Bitmap bitmap(width, height, cairo_image_surface_get_stride(surface),
+                               PixelFormat32bppPARGB,
+                               cairo_image_surface_get_data(surface));
+        Gdiplus::Graphics graphics(&bitmap);
+        CNorthArrowFourAngle arrow;
+        arrow.SetSize(100);
+        arrow.Draw(&graphics, CPoint(width / 2, height / 2), 1.0);
+        graphics.Flush();
+    }
+    cairo_surface_mark_dirty(surface);  // so that Cairo reads it again
+}
+
+int main() {
+    ULONG_PTR token = 0;
+    const Gdiplus::GdiplusStartupInput input;
+    Gdiplus::GdiplusStartup(&token, &input, nullptr);
+
+    cairo_surface_t* const surface =
+        cairo_image_surface_create(CAIRO_FORMAT_ARGB32, 120, 120);
+    cairo_t* const cairo = cairo_create(surface);
+    cairo_set_source_rgb(cairo, 0.97, 0.95, 0.91);
+    cairo_paint(cairo);
+    DrawNorthArrow(surface);
+    cairo_set_source_rgb(cairo, 0.8, 0.2, 0.1);
+    cairo_rectangle(cairo, 4.0, 4.0, 112.0, 112.0);
+    cairo_stroke(cairo);
+    const cairo_status_t status = cairo_surface_write_to_png(surface, "north.png");
+    cairo_destroy(cairo);
+    cairo_surface_destroy(surface);
+
+    Gdiplus::GdiplusShutdown(token);
+    return status == CAIRO_STATUS_SUCCESS ? 0 : 1;
+}

@@ -1,0 +1,45 @@
+#include <algorithm>
+
+#include "program.h"
+
+namespace {
+
+using namespace examples;
+
+TEST(OwnSurface, OfAnArrayIsDrawnOnInPlace) {
+    const Program program(OWN_ARRAY, "");
+    const std::string image = program.Contents("title.ppm");
+    const std::string head = "P6 320 120 255\n";
+    ASSERT_EQ(image.substr(0, head.size()), head);
+    ASSERT_EQ(image.size(), head.size() + 320 * 120 * 3);
+
+    const auto pixel = [&](int x, int y) {
+        return image.substr(head.size() + static_cast<std::size_t>((y * 320 + x) * 3), 3);
+    };
+    const std::string paper = "\xB9\xCF\xA8";
+    EXPECT_EQ(pixel(0, 0), paper);
+    EXPECT_EQ(pixel(319, 119), paper);
+    int ink = 0;
+    for (int x = 0; x < 320; ++x) {
+        for (int y = 0; y < 120; ++y) {
+            ink += pixel(x, y) == std::string(3, '\0') ? 1 : 0;
+        }
+    }
+    EXPECT_GT(ink, 500);  // six letters of 40 pixels
+    EXPECT_LT(ink, 3000);
+}
+
+#ifdef CAIRO_SURFACE
+// Cairo's paper is below the arrow, Cairo's border above everything.
+TEST(OwnSurface, OfCairoIsDrawnOnBetweenDrawings) {
+    const Session session;
+    const Program program(CAIRO_SURFACE, "");
+    const std::unique_ptr<Gdiplus::Bitmap> image = program.Image("north.png");
+    ASSERT_EQ(image->GetWidth(), 120u);
+    EXPECT_EQ(PixelAt(*image, 20, 20), 0xFFF8F3E8);  // 0.97, 0.95, 0.91 of 256
+    EXPECT_EQ(PixelAt(*image, 4, 60), 0xFFCC3319);   // 0.8, 0.2, 0.1 of 256
+    EXPECT_EQ(PixelAt(*image, 63, 60), 0xFF000000);  // the north arm's right half
+}
+#endif
+
+}  // namespace
