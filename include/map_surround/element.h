@@ -37,6 +37,7 @@ enum MapSurroundType : std::int32_t {
 ///   the operation and the element is as it was before; what was already drawn stays.
 /// - The box that size and aspect ratio span is the layout's, not the ink's: a title's
 ///   glyphs, a legend's labels and a scale bar's unit name may reach past it.
+/// @see [Hosting the library](docs/hosting.md)
 class MAP_SURROUND_API CMapSurround {
 public:
     CMapSurround() = default;

@@ -30,6 +30,7 @@ enum SpatialTopoRelation : std::int32_t {
 ///
 /// The extent is in page units, y growing upwards. The decoration fields are public and
 /// set by the host; their gaps and the border width are in device pixels.
+/// @see [Frames](docs/elements/frames.md)
 class MAP_SURROUND_API CFrameBase {
 public:
     CFrameBase() = default;
@@ -133,6 +134,7 @@ private:
 ///
 /// A copy of a frame points to the same element: the host takes it out of one of the two
 /// with SetMapSurround(nullptr) before both are destroyed.
+/// @see [Moving and resizing](docs/editing.md)
 class MAP_SURROUND_API CSurroundFrame : public CFrameBase {
 public:
     CSurroundFrame() : CFrameBase(FrameSurround) {}

@@ -42,6 +42,7 @@
 /// Until then the size and every proportion are 0 and no text is visible.
 ///
 /// The front colour and the angle have no effect.
+/// @see [Legend](docs/elements/legend.md)
 class MAP_SURROUND_API CMapLegend : public CMapSurround {
 public:
     CMapLegend();

@@ -36,6 +36,7 @@ enum NorthArrowType : std::int32_t {
 ///   letters fail, since GDI+ has no font of height 0.
 /// - Each style has fixed proportions: Draw does not read the aspect ratio, which only
 ///   says how much room the style needs, and ResetAspectRatio() leaves it alone.
+/// @see [North arrows](docs/elements/north_arrows.md)
 class MAP_SURROUND_API CNorthArrowBase : public CMapSurround {
 public:
     CNorthArrowBase();
@@ -55,6 +56,7 @@ private:
 /// pixel wide, with a head 10 pen widths long and 5 wide. Both the pen and the head's
 /// length in pen widths grow with n, so the head's length in pixels grows with its
 /// square: past n = 320 it is longer than the shaft.
+/// @see [North arrows](docs/elements/north_arrows.md)
 class MAP_SURROUND_API CNorthArrowOneAngle : public CNorthArrowBase {
 public:
     CNorthArrowOneAngle();
@@ -67,6 +69,7 @@ public:
 ///
 /// At n = 100 the tip is 34 pixels above the centre, the notch 20 and the corners 40
 /// below it, and the corners are 20 to each side.
+/// @see [North arrows](docs/elements/north_arrows.md)
 class MAP_SURROUND_API CNorthArrowTwoAngle : public CNorthArrowBase {
 public:
     CNorthArrowTwoAngle();
@@ -80,6 +83,7 @@ public:
 /// outlined. The star takes 85 % of the size and sits a little below the centre, which
 /// leaves room for the letter: at size 100 and scale 1, n is 85, the arms are 34 long and
 /// the star's own centre is 6 below.
+/// @see [North arrows](docs/elements/north_arrows.md)
 class MAP_SURROUND_API CNorthArrowFourAngle : public CNorthArrowBase {
 public:
     CNorthArrowFourAngle();
@@ -104,6 +108,7 @@ public:
 /// thirds and fifths of its width, each truncated from the left or the top: at n = 100,
 /// where the cardinal points are 40 from the centre, they are 14 pixels left of it and 13
 /// right of it.
+/// @see [North arrows](docs/elements/north_arrows.md)
 class MAP_SURROUND_API CNorthArrowEightAngle : public CNorthArrowBase {
 public:
     CNorthArrowEightAngle();

@@ -15,6 +15,7 @@
 ///
 /// Copies share the image: the host must not let two copies destroy it. An assignment
 /// that runs out of memory changes nothing.
+/// @see [Picture](docs/elements/picture.md)
 class MAP_SURROUND_API CDrawPicture : public CMapSurround {
 public:
     CDrawPicture();

@@ -60,6 +60,7 @@ enum ScaleBarPostion : std::int32_t {
 ///
 /// A bar holds a GDI+ font family and brush from construction on, so start GDI+ before
 /// making one. A copy has its own. An assignment that runs out of memory changes nothing.
+/// @see [Scale bars](docs/elements/scale_bars.md)
 class MAP_SURROUND_API CScaleBarBase : public CMapSurround {
 public:
     /// Item type SurroundScaleBar, size 40, aspect ratio 5.8.
@@ -131,6 +132,7 @@ protected:
 private:
     friend class map_surround::BarDrawing;
 
+    /// @cond
     /// The bar's GDI+ objects. GDI+ cannot copy them, so a copied bar makes its own,
     /// which are the same in every bar.
     struct Resources {
@@ -141,6 +143,7 @@ private:
         Gdiplus::FontFamily fontFamily{L"Times New Roman"};
         Gdiplus::SolidBrush brush{Gdiplus::Color(0xFF000000)};  // no style draws with it
     };
+    /// @endcond
 
     /// Draws the unit name with the top left corner of its layout box on a point.
     void DrawUintsName(Gdiplus::Graphics* graphics, Gdiplus::PointF topLeft,
@@ -166,6 +169,7 @@ private:
 /// A bar of size 40 at scale 1 is 40 pixels high: the labels stand at the top, the main
 /// ticks run from 26 to 40 below it, the sub ticks from 32 to 40, and the unit name
 /// starts 27 below it.
+/// @see [Scale bars](docs/elements/scale_bars.md)
 class MAP_SURROUND_API CScaleLine : public CScaleBarBase {
 public:
     CScaleLine();
@@ -178,6 +182,7 @@ private:
 };
 
 /// Draws as CScaleLine does.
+/// @see [Scale bars](docs/elements/scale_bars.md)
 class MAP_SURROUND_API CSteppedScaleLine : public CScaleLine {
 public:
     CSteppedScaleLine();
@@ -185,6 +190,7 @@ public:
 
 /// The line style with the base line a sixth of the height above the feet of the main
 /// ticks, and the sub ticks centred on it.
+/// @see [Scale bars](docs/elements/scale_bars.md)
 class MAP_SURROUND_API CScaleLine2 : public CScaleBarBase {
 public:
     CScaleLine2();
@@ -198,6 +204,7 @@ private:
 
 /// The line style with the base line along the tops of the main ticks and the sub ticks
 /// hanging from it.
+/// @see [Scale bars](docs/elements/scale_bars.md)
 class MAP_SURROUND_API CScaleLine3 : public CScaleBarBase {
 public:
     CScaleLine3();
@@ -215,6 +222,7 @@ private:
 ///
 /// With 5 divisions and 4 sub-divisions the first and the third of the small boxes and
 /// the third and the fifth division are filled.
+/// @see [Scale bars](docs/elements/scale_bars.md)
 class MAP_SURROUND_API CScaleAlternate : public CScaleBarBase {
 public:
     CScaleAlternate();
@@ -233,6 +241,7 @@ private:
 /// A box is as wide as the division before rounding, so boxes overlap where the division
 /// value was rounded down: at a paper-to-data scale of 2500 and a paper-to-screen scale
 /// of 25 they are 25 pixels wide and 20 apart.
+/// @see [Scale bars](docs/elements/scale_bars.md)
 class MAP_SURROUND_API CScaleEquAltenate : public CScaleBarBase {
 public:
     CScaleEquAltenate();

@@ -21,6 +21,7 @@ public:
     }
     /// A surface made with new, owned by the caller.
     static Graphics* FromImage(Image* image) { return new Graphics(image); }
+
     ~Graphics() { DllExports::GdipDeleteGraphics(native_); }
 
     /// Sets every pixel within the clip to a colour, alpha included.
