@@ -2,16 +2,20 @@
 
 #include <fcntl.h>
 #include <poll.h>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
+#include <chrono>
 #include <cmath>
 #include <csignal>
 #include <cstddef>
 #include <cstring>
 #include <exception>
+#include <new>
 #include <system_error>
 #include <utility>
 
@@ -28,6 +32,8 @@ constexpr char kDone = '+';
 constexpr char kFailed = '-';
 constexpr char kPart = '%';  // and the part as a double; a report may follow
 
+using Clock = std::chrono::steady_clock;
+
 constexpr double kSmallestStep = 1.0 / 256.0;  // of progress that is worth telling
 constexpr int kPatience = 100;                 // milliseconds between two looks
 
@@ -42,7 +48,22 @@ void Send(int descriptor, const std::string& message) {
     WriteAll(descriptor, message.data(), message.size());
 }
 
-std::string Report(int descriptor, const SeparateWork& work) {
+std::string NameOfLimit(const WorkLimits& limits) {
+    return "its limit of " + std::to_string(limits.megabytes) + " MB of memory";
+}
+
+/// Counts what is written to; the files of programs and fonts, shared by all, do not
+/// count.
+void LimitMemory(unsigned megabytes) {
+    rlimit most = {};
+    if (megabytes > 0 && getrlimit(RLIMIT_DATA, &most) == 0) {
+        most.rlim_max = std::min(most.rlim_max, rlim_t{megabytes} << 20);
+        most.rlim_cur = most.rlim_max;
+        setrlimit(RLIMIT_DATA, &most);
+    }
+}
+
+std::string Report(int descriptor, const SeparateWork& work, const WorkLimits& limits) {
     double told = 0.0;
     const Progress tell = [descriptor, &told](double part) {
         if (std::fabs(part - told) >= kSmallestStep) {  // each map begins anew
@@ -52,7 +73,12 @@ std::string Report(int descriptor, const SeparateWork& work) {
         return true;
     };
     try {
+        LimitMemory(limits.megabytes);
         return kDone + work(tell);
+    } catch (const std::bad_alloc& error) {
+        return kFailed + (limits.megabytes == 0
+                              ? LineFor(error)
+                              : "the page needs more than " + NameOfLimit(limits));
     } catch (const std::exception& error) {
         return kFailed + LineFor(error);
     }
@@ -61,8 +87,11 @@ std::string Report(int descriptor, const SeparateWork& work) {
 /// The separate process as seen from here.
 class Worker {
 public:
-    Worker(std::string what, pid_t process, int descriptor)
-        : m_what(std::move(what)), m_process(process), m_descriptor(descriptor) {}
+    Worker(std::string what, pid_t process, int descriptor, const WorkLimits& limits)
+        : m_what(std::move(what)),
+          m_process(process),
+          m_descriptor(descriptor),
+          m_limits(limits) {}
     Worker(const Worker&) = delete;
     Worker& operator=(const Worker&) = delete;
     ~Worker() {
@@ -77,12 +106,13 @@ public:
         std::string sent;
         double part = 0.0;
         for (bool isOpen = true; isOpen;) {
-            if (progress && !HasMore()) {
+            CheckTime();
+            if ((progress || m_limits.seconds > 0) && !HasMore()) {
                 Tell(progress, part);
                 continue;
             }
             isOpen = Receive(sent);
-            if (TakeParts(sent, part) && progress) {
+            if (TakeParts(sent, part)) {
                 Tell(progress, part);
             }
         }
@@ -108,8 +138,16 @@ private:
     }
 
     void Tell(const Progress& progress, double part) const {
-        if (!progress(part)) {
+        if (progress && !progress(part)) {
             throw std::runtime_error(m_what + " was stopped");
+        }
+    }
+
+    void CheckTime() const {
+        if (m_limits.seconds > 0 &&
+            Clock::now() - m_begin > std::chrono::seconds(m_limits.seconds)) {
+            throw std::runtime_error(m_what + " took longer than its limit of " +
+                                     std::to_string(m_limits.seconds) + " s");
         }
     }
 
@@ -128,8 +166,10 @@ private:
     void CheckEnd(int status, const std::string& sent) const {
         if (WIFSIGNALED(status)) {
             const int signal = WTERMSIG(status);
-            throw std::runtime_error(m_what + " failed: " + strsignal(signal) +
-                                     " (signal " + std::to_string(signal) + ")");
+            throw std::runtime_error(
+                m_what + " failed: " + strsignal(signal) + " (signal " +
+                std::to_string(signal) + ")" +
+                (m_limits.megabytes == 0 ? "" : " within " + NameOfLimit(m_limits)));
         }
         const bool isReport =
             !sent.empty() && (sent.front() == kDone || sent.front() == kFailed);
@@ -145,12 +185,14 @@ private:
     std::string m_what;
     pid_t m_process;
     int m_descriptor;
+    WorkLimits m_limits;
+    Clock::time_point m_begin = Clock::now();
 };
 
 }  // namespace
 
 std::string InSeparateProcess(const std::string& what, const SeparateWork& work,
-                              const Progress& progress) {
+                              const Progress& progress, const WorkLimits& limits) {
     const auto fail = [&what](int error) {
         throw std::runtime_error(what +
                                  " failed: " + std::generic_category().message(error));
@@ -161,12 +203,12 @@ std::string InSeparateProcess(const std::string& what, const SeparateWork& work,
     }
     const pid_t process = StartChild([&] {
         close(ends[0]);
-        Send(ends[1], Report(ends[1], work));
+        Send(ends[1], Report(ends[1], work, limits));
         return 0;
     });
     const int error = errno;
     close(ends[1]);
-    Worker worker(what, process, ends[0]);
+    Worker worker(what, process, ends[0], limits);
     if (process < 0) {
         fail(error);
     }

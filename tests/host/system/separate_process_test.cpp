@@ -120,4 +120,45 @@ TEST(SeparateProcess, IsStoppedEvenWhenItHangs) {
     EXPECT_EQ(waitpid(-1, nullptr, WNOHANG), -1) << "a process is left";
 }
 
+/// What it is told that ended the work.
+std::string EndOf(const host::SeparateWork& work, const host::WorkLimits& limits) {
+    try {
+        return host::InSeparateProcess("drawing", work, {}, limits);
+    } catch (const std::exception& error) {
+        return error.what();
+    }
+}
+
+TEST(SeparateProcess, EndsWhatTakesLongerThanItMay) {
+    const auto sleep = [](const host::Progress&) -> std::string {
+        usleep(1'200'000);
+        return "awake";
+    };
+    const auto talk = [](const host::Progress& tell) -> std::string {
+        for (int i = 0;; ++i) {
+            tell(i % 2);
+        }
+    };
+    EXPECT_EQ(EndOf(sleep, {1, 0}), "drawing took longer than its limit of 1 s");
+    EXPECT_EQ(EndOf(talk, {1, 0}), "drawing took longer than its limit of 1 s");
+    EXPECT_EQ(EndOf(sleep, {3, 0}), "awake");
+    EXPECT_EQ(waitpid(-1, nullptr, WNOHANG), -1) << "a process is left";
+}
+
+// AddressSanitizer has taken more than any limit before the work begins.
+#ifndef __SANITIZE_ADDRESS__
+TEST(SeparateProcess, RefusesMoreMemoryThanItMayTake) {
+    const auto take = [](const host::Progress&) {
+        return std::to_string(std::vector<char>(std::size_t{300} << 20, 'x').size());
+    };
+    const auto die = [](const host::Progress&) -> std::string { std::abort(); };
+    EXPECT_EQ(EndOf(take, {0, 200}),
+              "the page needs more than its limit of 200 MB of memory");
+    EXPECT_EQ(EndOf(die, {0, 200}),
+              "drawing failed: Aborted (signal 6) within its limit of 200 MB of memory");
+    EXPECT_EQ(EndOf(take, {0, 400}), "314572800");
+    EXPECT_EQ(EndOf(take, {}), "314572800");
+}
+#endif
+
 }  // namespace
