@@ -7,13 +7,17 @@
 
 #include <array>
 #include <cstdint>
+#include <filesystem>
 #include <new>
 #include <stdexcept>
+#include <system_error>
 #include <utility>
 
+#include "raster_data/confined_gdal.h"
 #include "raster_data/derived_dataset.h"
 #include "raster_data/gdal_session.h"
 #include "raster_data/raster_shading.h"
+#include "raster_data/vrt_sources.h"
 
 namespace host {
 
@@ -27,6 +31,18 @@ bool IsFile(const std::string& path) {
     return VSIStatExL(path.c_str(), &status,
                       VSI_STAT_EXISTS_FLAG | VSI_STAT_NATURE_FLAG) == 0 &&
            !VSI_ISDIR(status.st_mode);
+}
+
+/// What speaks against opening a raster before anything is read of it, and of VRTs before
+/// what they are made of is.
+std::string WhyNotRead(const std::string& path) {
+    std::error_code ignored;
+    const std::filesystem::file_status status = std::filesystem::status(path, ignored);
+    if (std::filesystem::is_other(status)) {
+        return "is not a plain file";  // a pipe may never answer
+    }
+    const std::string why = WhyNotAllowed(path);
+    return why.empty() ? WhyNotVrt(path) : why;
 }
 
 /// The file whose presence tells whether a dataset can be read; empty for one that is no
@@ -61,9 +77,18 @@ std::string WhyNotOpened(const std::string& path, const QuietGdal& quiet) {
     }
     std::string reason = quiet.Reason(path);
     if (reason.empty() || reason.find("not recognized") != std::string::npos) {
-        return "not a raster";
+        return IsGdalConfined() ? WhyNotOfThisKind() : "not a raster";
     }
     return reason;
+}
+
+/// So that it is told when they lead elsewhere: GDAL looks for them only when it needs
+/// them.
+void LookForSideFiles(GDALDataset& dataset) {
+    for (int i = 1; i <= dataset.GetRasterCount(); ++i) {
+        dataset.GetRasterBand(i)->GetOverviewCount();
+        dataset.GetRasterBand(i)->GetMaskFlags();
+    }
 }
 
 /// The dataset with the style's no-data instead of its own: what it masked otherwise
@@ -100,12 +125,17 @@ struct GdalRaster::State {
 std::unique_ptr<GdalRaster> GdalRaster::Open(const std::string& path, std::string& why,
                                              const RasterStyle& style) {
     StartGdal();
+    why = WhyNotRead(path);
+    if (!why.empty()) {
+        return nullptr;
+    }
+    ForgetRefused();
     const QuietGdal quiet;
     std::shared_ptr<GDALDataset> dataset(
         GDALDataset::Open(path.c_str(), GDAL_OF_RASTER | GDAL_OF_VERBOSE_ERROR),
         ReleaseDataset());
     if (dataset == nullptr) {
-        why = WhyNotOpened(path, quiet);
+        why = LastRefused().empty() ? WhyNotOpened(path, quiet) : LastRefused();
         return nullptr;
     }
     if (dataset->GetRasterCount() == 0) {
@@ -114,8 +144,12 @@ std::unique_ptr<GdalRaster> GdalRaster::Open(const std::string& path, std::strin
     }
     std::string mainFile = MainFile(*dataset, path);
     try {
+        LookForSideFiles(*dataset);
         dataset = WithNoData(std::move(dataset), style);
         auto shading = std::make_shared<RasterShading>(dataset, style);
+        if (!LastRefused().empty()) {
+            throw std::runtime_error(LastRefused());
+        }
         return std::unique_ptr<GdalRaster>(new GdalRaster(std::make_unique<State>(
             path, std::move(mainFile), std::move(dataset), std::move(shading))));
     } catch (const std::runtime_error& error) {

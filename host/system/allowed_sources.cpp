@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <iterator>
 #include <system_error>
 #include <utility>
 
@@ -9,6 +10,14 @@ namespace host {
 namespace {
 
 namespace fs = std::filesystem;
+
+// What these open in turn is looked at as well.
+constexpr std::string_view kFilesInFiles[] = {"/vsizip/", "/vsitar/", "/vsigzip/",
+                                              "/vsisubfile/", "/vsimem/"};
+
+bool Begins(std::string_view text, std::string_view with) {
+    return text.substr(0, with.size()) == with;
+}
 
 /// The file behind a name, as far as there is one; empty when that cannot be told.
 fs::path Resolved(const std::string& path) {
@@ -42,7 +51,31 @@ void AllowedSources::Allow(const std::string& path) {
     }
 }
 
-std::string AllowedSources::WhyNot(const std::string& path) const {
+bool AllowedSources::IsNoPath(std::string_view name) {
+    return Begins(name, "/vsi") || name.find(':') < name.find('/') ||
+           name.find_first_of("<{") < name.find('/');
+}
+
+bool AllowedSources::IsInFiles(std::string_view name) {
+    return std::any_of(std::begin(kFilesInFiles), std::end(kFilesInFiles),
+                       [&name](std::string_view folder) { return Begins(name, folder); });
+}
+
+std::string AllowedSources::WhyNot(const std::string& name) const {
+    std::error_code ignored;
+    if (IsInFiles(name)) {
+        return {};  // the file is looked at when it is opened
+    }
+    // GDAL looks for a description anywhere in a name.
+    const bool isNoFile = IsNoPath(name) || name.find('<') != std::string::npos;
+    if (isNoFile && !fs::exists(name, ignored)) {
+        return m_isNetworkAllowed ? ""
+                                  : "is not a plain file" + Hint(m_options.network, "");
+    }
+    return WhyNotFile(name);
+}
+
+std::string AllowedSources::WhyNotFile(const std::string& path) const {
     const fs::path resolved = Resolved(path);
     if (resolved.empty()) {
         return "cannot be found";
@@ -60,8 +93,9 @@ std::string AllowedSources::WhyNot(const std::string& path) const {
     return isPlain ? "" : "is not a plain file";
 }
 
-std::string AllowedSources::WhyNotRemote() const {
-    return m_isNetworkAllowed ? "" : "is not a plain file" + Hint(m_options.network, "");
+std::string AllowedSources::WhyNotOfThisKind() const {
+    return "is no raster of the kinds that are read by themselves" +
+           Hint(m_options.all, "");
 }
 
 }  // namespace host

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace host {
@@ -15,6 +16,7 @@ public:
     struct Options {
         std::string folder;   ///< "--allow-outside"; empty where there is none
         std::string network;  ///< "--allow-remote"; likewise
+        std::string all;      ///< "--allow-all"; likewise
     };
 
     /// Files below the folder of a file, "page.json" or "maps/page.json".
@@ -27,13 +29,23 @@ public:
     const std::vector<std::string>& Places() const { return m_places; }
     bool IsNetworkAllowed() const { return m_isNetworkAllowed; }
 
-    /// Why a file may not be read, "is outside /maps; --allow-outside /etc allows it",
-    /// and empty when it may. One that is not there may be looked for where it may be;
-    /// folders may be listed there.
-    std::string WhyNot(const std::string& path) const;
+    /// Why what a name stands for may not be read, "is outside /maps; --allow-outside
+    /// /etc allows it", and empty when it may: a file, or another name that GDAL knows.
+    std::string WhyNot(const std::string& name) const;
 
-    /// Why a name that is no file's may not be opened, and empty when it may.
-    std::string WhyNotRemote() const;
+    /// The same of a path. One that is not there may be looked for where it may be;
+    /// folders may be listed there.
+    std::string WhyNotFile(const std::string& path) const;
+
+    /// What to say of a file of a kind that is not read.
+    std::string WhyNotOfThisKind() const;
+
+    /// Whether a name tells its driver before the first slash, `NETCDF:grid.nc:depth`,
+    /// begins in one of GDAL's folders, `/vsizip/a.zip/b.tif`, or is a description.
+    static bool IsNoPath(std::string_view name);
+
+    /// Whether a name begins in one of GDAL's folders that show what is in a file.
+    static bool IsInFiles(std::string_view name);
 
 private:
     Options m_options;

@@ -3,18 +3,12 @@
 #include <filesystem>
 #include <system_error>
 
+#include "system/allowed_sources.h"
+
 namespace host {
 namespace {
 
 namespace fs = std::filesystem;
-
-/// Whether a name tells its driver before the first slash, or begins in one of GDAL's
-/// virtual folders.
-bool IsNoPath(const std::string& name) {
-    const std::size_t colon = name.find(':');
-    return name.rfind("/vsi", 0) == 0 ||
-           (colon != std::string::npos && colon < name.find('/'));
-}
 
 bool Exists(const std::string& path) {
     std::error_code ignored;
@@ -27,14 +21,14 @@ FilePaths::FilePaths(const std::string& pageFile)
     : m_keeps(false), m_folder(fs::path(pageFile).parent_path().string()) {}
 
 std::string FilePaths::FromFile(const std::string& path) const {
-    if (m_keeps || path.empty() || IsNoPath(path)) {
+    if (m_keeps || path.empty() || AllowedSources::IsNoPath(path)) {
         return path;
     }
     return (fs::path(m_folder) / path).lexically_normal().string();
 }
 
 std::string FilePaths::ToFile(const std::string& path) const {
-    if (m_keeps || path.empty() || (IsNoPath(path) && !Exists(path))) {
+    if (m_keeps || path.empty() || (AllowedSources::IsNoPath(path) && !Exists(path))) {
         return path;
     }
     const fs::path given = fs::path(path);
@@ -44,7 +38,7 @@ std::string FilePaths::ToFile(const std::string& path) const {
                                      .lexically_relative(folder.lexically_normal())
                                      .string();
     // A file whose name looks like none.
-    return IsNoPath(relative) ? "./" + relative : relative;
+    return AllowedSources::IsNoPath(relative) ? "./" + relative : relative;
 }
 
 }  // namespace host

@@ -62,7 +62,7 @@ TEST_F(AllowedSources, ArePlainFilesBelowTheFolder) {
     };
     for (const std::string page : {"maps/page.json", "link/page.json"}) {
         const host::AllowedSources allowed(folder.Path(page),
-                                           {"--allow-outside", "--allow-remote"});
+                                           {"--allow-outside", "--allow-remote", ""});
         for (const auto& [path, why] : rows) {
             EXPECT_EQ(allowed.WhyNot(folder.Path(path)), why) << page << " " << path;
         }
@@ -84,8 +84,19 @@ TEST_F(AllowedSources, AreRelativeToWhereTheProgramRuns) {
 }
 
 TEST_F(AllowedSources, AreMoreWhereTheCallerSaysSo) {
-    host::AllowedSources allowed(folder.Path("maps/page.json"), {"", "--allow-remote"});
-    EXPECT_EQ(allowed.WhyNotRemote(), "is not a plain file; --allow-remote allows it");
+    host::AllowedSources allowed(folder.Path("maps/page.json"),
+                                 {"", "--allow-remote", "--allow-all"});
+    const std::string names[] = {"NETCDF:grid.nc:depth",
+                                 "WMS:http://127.0.0.1/",
+                                 "/vsicurl/http://127.0.0.1/a.tif",
+                                 "/vsistdin/",
+                                 "<VRTDataset>x</VRTDataset>",
+                                 "maps/<VRTDataset/>",
+                                 "{\"type\": \"x\"}"};
+    for (const std::string& name : names) {
+        EXPECT_EQ(allowed.WhyNot(name), "is not a plain file; --allow-remote allows it");
+    }
+    EXPECT_EQ(allowed.WhyNot("/vsizip/" + folder.Path("maps/a.zip")), "");
     allowed.Allow(folder.Path("maps-old"));
     allowed.Allow("/etc/hostname");
     allowed.Allow(folder.Path("nowhere"));
@@ -95,7 +106,13 @@ TEST_F(AllowedSources, AreMoreWhereTheCallerSaysSo) {
     EXPECT_NE(allowed.WhyNot(folder.Path("nowhere")), "");
     EXPECT_EQ(allowed.Places().size(), 3u);
     allowed.AllowNetwork();
-    EXPECT_EQ(allowed.WhyNotRemote(), "");
+    EXPECT_EQ(
+        allowed.WhyNotOfThisKind(),
+        "is no raster of the kinds that are read by themselves; --allow-all allows it");
+    for (const std::string& name : names) {
+        EXPECT_EQ(allowed.WhyNot(name), "") << name;
+    }
+    EXPECT_NE(allowed.WhyNot("/etc/passwd"), "");
 }
 
 }  // namespace

@@ -1,0 +1,209 @@
+#include "raster_data/confined_gdal.h"
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "raster_data/gdal_session.h"
+#include "raster_data/make_raster.h"
+#include "system/separate_process.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string VrtOf(const std::string& sources, const std::string& band = "") {
+    return "<VRTDataset rasterXSize=\"2\" rasterYSize=\"1\"><VRTRasterBand "
+           "dataType=\"Byte\" band=\"1\"" +
+           band + ">" + sources + "</VRTRasterBand></VRTDataset>";
+}
+
+std::string SourceOf(const std::string& file) {
+    return "<SimpleSource><SourceFilename relativeToVRT=\"0\">" + file +
+           "</SourceFilename><SourceBand>1</SourceBand></SimpleSource>";
+}
+
+/// Folders `maps`, below which reading is allowed, and `other`, each with `a.tif`.
+class ConfinedGdal : public ::testing::Test {
+protected:
+    ConfinedGdal() {
+        for (const char* name : {"maps", "other"}) {
+            fs::create_directory(folder / name);
+        }
+        raster_test::Write(Maps("a.tif"), {2, {{10, 20}}});
+        raster_test::Write(Other("a.tif"), {2, {{30, 40}}});
+    }
+
+    std::string Maps(const std::string& name) const { return folder / ("maps/" + name); }
+    std::string Other(const std::string& name) const {
+        return folder / ("other/" + name);
+    }
+
+    void WriteText(const std::string& path, const std::string& text) const {
+        std::ofstream(path) << text;
+    }
+
+    /// A copy of a.tif with a side file of that ending, which is a link to another's.
+    std::string WithLinkedSideFile(const std::string& ending) const {
+        fs::copy_file(Maps("a.tif"), Maps("side.tif"));
+        fs::copy_file(Other("a.tif"), Other("side" + ending));
+        fs::create_symlink(Other("side" + ending), Maps("side.tif" + ending));
+        return Maps("side.tif");
+    }
+
+    /// Its first pixel, or why it is not read, in a process where GDAL is confined.
+    std::string Read(const std::string& raster,
+                     const host::AllowedSources& allowed) const {
+        return host::InSeparateProcess("reading", [&](const host::Progress&) {
+            host::ConfineGdal(allowed);
+            std::string why;
+            const auto opened = host::GdalRaster::Open(raster, why);
+            if (opened == nullptr) {
+                return why;
+            }
+            double low = 0.0;
+            double high = 0.0;
+            opened->GetRasterBand(0)->ComputeMinMax(&low, &high, false);
+            return std::to_string(static_cast<int>(low));
+        });
+    }
+    std::string Read(const std::string& raster) const { return Read(raster, Allowed()); }
+
+    host::AllowedSources Allowed() const {
+        return host::AllowedSources(Maps("page.json"),
+                                    {"--outside", "--remote", "--all"});
+    }
+    std::string Outside(const std::string& path) const {
+        return path + " is outside " + fs::canonical(folder / "maps").string() +
+               "; --outside " + fs::canonical(folder / "other").string() + " allows it";
+    }
+
+    raster_test::TemporaryFolder folder;
+};
+
+TEST_F(ConfinedGdal, ReadsPlainFilesBelowTheFolder) {
+    EXPECT_EQ(Read(Maps("a.tif")), "10");
+    EXPECT_EQ(Read(Other("a.tif")), Outside("").substr(1));
+    EXPECT_EQ(Read(Maps("none.tif")), "no such file");
+    fs::create_symlink("../other/a.tif", Maps("link.tif"));
+    EXPECT_EQ(Read(Maps("link.tif")), Outside("").substr(1));
+    mkfifo(Maps("pipe.tif").c_str(), 0600);
+    EXPECT_EQ(Read(Maps("pipe.tif")), "is not a plain file");
+    host::AllowedSources both = Allowed();
+    both.Allow(folder / "other");
+    EXPECT_EQ(Read(Maps("link.tif"), both), "30");
+}
+
+TEST_F(ConfinedGdal, ReadsKindsThatNameNoOtherFile) {
+    host::StartGdal();
+    const auto original = raster_test::Open(Maps("a.tif"));
+    for (const char* kind : {"PNG", "HFA", "AAIGrid", "NITF", "netCDF", "PCIDSK"}) {
+        GDALDataset* const from =
+            GDALDataset::Open(Maps("a.tif").c_str(), GDAL_OF_RASTER);
+        GDALClose(GetGDALDriverManager()->GetDriverByName(kind)->CreateCopy(
+            Maps(kind).c_str(), from, 0, nullptr, nullptr, nullptr));
+        GDALClose(from);
+        const bool isAllowed = kind != std::string("NITF") &&
+                               kind != std::string("netCDF") &&
+                               kind != std::string("PCIDSK");
+        EXPECT_EQ(Read(Maps(kind)),
+                  isAllowed ? "10"
+                            : "is no raster of the kinds that are read by themselves; "
+                              "--all allows it")
+            << kind;
+    }
+}
+
+TEST_F(ConfinedGdal, ReadsVrtsOfSuchFiles) {
+    WriteText(Maps("good.vrt"), VrtOf(SourceOf(Maps("a.tif"))));
+    EXPECT_EQ(Read(Maps("good.vrt")), "10");
+    WriteText(Maps("outside.vrt"), VrtOf(SourceOf(Other("a.tif"))));
+    EXPECT_EQ(Read(Maps("outside.vrt")),
+              "reads " + Other("a.tif") + ", which" + Outside(""));
+    WriteText(Maps("nested.vrt"), VrtOf(SourceOf(Maps("outside.vrt"))));
+    EXPECT_EQ(Read(Maps("nested.vrt")), Read(Maps("outside.vrt")));
+    WriteText(Maps("service.vrt"), VrtOf(SourceOf("/vsicurl/http://127.0.0.1:1/a.tif")));
+    EXPECT_EQ(Read(Maps("service.vrt")),
+              "reads /vsicurl/http://127.0.0.1:1/a.tif, which is not a plain file; "
+              "--remote allows it");
+    WriteText(Maps("raw.vrt"),
+              VrtOf("<SourceFilename>a.tif</SourceFilename><ImageOffset>0</ImageOffset>",
+                    " subClass=\"VRTRawRasterBand\""));
+    EXPECT_EQ(Read(Maps("raw.vrt")), "is a VRT of more than rasters");
+    WriteText(Maps("code.vrt"),
+              VrtOf("<PixelFunctionLanguage>Python</PixelFunctionLanguage>" +
+                        SourceOf(Maps("a.tif")),
+                    " subClass=\"VRTDerivedRasterBand\""));
+    EXPECT_EQ(Read(Maps("code.vrt")), "is a VRT of more than rasters");
+    EXPECT_EQ(Read(VrtOf(SourceOf(Maps("a.tif")))),
+              "is not a plain file; --remote allows it");
+    EXPECT_EQ(Read(Maps(VrtOf(SourceOf(Maps("a.tif"))))),
+              "is not a plain file; --remote allows it");
+}
+
+TEST_F(ConfinedGdal, FollowsNoSideFileThatIsALink) {
+    for (const std::string ending : {".ovr", ".msk", ".aux.xml"}) {
+        const std::string raster = WithLinkedSideFile(ending);
+        // GDAL names the link, or of masks what it leads to.
+        EXPECT_EQ(Read(raster),
+                  Outside(ending == ".msk" ? Other("side.msk") : raster + ending));
+        host::AllowedSources both = Allowed();
+        both.Allow(folder / "other");
+        EXPECT_EQ(Read(raster, both), "10") << ending;
+        fs::remove(raster);
+        fs::remove(raster + ending);
+    }
+}
+
+TEST_F(ConfinedGdal, FollowsNoReferenceInMetadata) {
+    const auto withOverviewsIn = [&](const std::string& file) {
+        WriteText(
+            Maps("a.tif.aux.xml"),
+            "<PAMDataset><Metadata domain=\"OVERVIEWS\"><MDI key=\"OVERVIEW_FILE\">" +
+                file + "</MDI></Metadata></PAMDataset>");
+        return Maps("a.tif");
+    };
+    EXPECT_EQ(Read(withOverviewsIn(Other("a.tif"))), Outside(Other("a.tif")));
+    EXPECT_EQ(
+        Read(withOverviewsIn("/vsicurl/http://127.0.0.1:1/a.tif")),
+        "/vsicurl/http://127.0.0.1:1/a.tif is not a plain file; --remote allows it");
+    EXPECT_EQ(Read(withOverviewsIn(":::BASE:::a.tif")), "10");
+}
+
+TEST_F(ConfinedGdal, LooksIntoArchives) {
+    host::StartGdal();
+    for (const char* place : {"maps", "other"}) {
+        const std::string archive = folder / (std::string(place) + "/a.zip");
+        VSILFILE* const file = VSIFOpenL(("/vsizip/" + archive + "/b.tif").c_str(), "wb");
+        const std::ifstream raster(Maps("a.tif"), std::ios::binary);
+        std::ostringstream bytes;
+        bytes << raster.rdbuf();
+        VSIFWriteL(bytes.str().data(), 1, bytes.str().size(), file);
+        VSIFCloseL(file);
+    }
+    EXPECT_EQ(Read("/vsizip/" + Maps("a.zip/b.tif")), "10");
+    EXPECT_EQ(Read("/vsizip/" + Other("a.zip/b.tif")), Outside(Other("a.zip")));
+}
+
+TEST_F(ConfinedGdal, WritesNothing) {
+    EXPECT_EQ(host::InSeparateProcess("writing",
+                                      [&](const host::Progress&) -> std::string {
+                                          host::ConfineGdal(Allowed());
+                                          for (const char* how : {"wb", "ab", "rb+"}) {
+                                              if (VSIFOpenL(Maps("a.tif").c_str(), how)) {
+                                                  return how;
+                                              }
+                                          }
+                                          return VSIUnlink(Maps("a.tif").c_str()) == 0
+                                                     ? "removed"
+                                                     : "";
+                                      }),
+              "");
+}
+
+}  // namespace

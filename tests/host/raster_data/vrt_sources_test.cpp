@@ -1,0 +1,83 @@
+#include "raster_data/vrt_sources.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <string>
+
+#include "raster_data/make_raster.h"
+
+namespace {
+
+/// A VRT of one band that has the sources, as often as told, written beside them.
+void WriteVrt(const std::string& path, const std::string& source, int times) {
+    std::ofstream file(path);
+    file << "<VRTDataset rasterXSize=\"2\" rasterYSize=\"1\">"
+            "<VRTRasterBand dataType=\"Byte\" band=\"1\">";
+    for (int i = 0; i < times; ++i) {
+        file << "<SimpleSource><SourceFilename relativeToVRT=\"1\">" << source
+             << "</SourceFilename><SourceBand>1</SourceBand></SimpleSource>";
+    }
+    file << "</VRTRasterBand></VRTDataset>";
+}
+
+/// A raster `0.vrt` of `a.tif`, and VRTs `1.vrt` of `0.vrt` and so on.
+class VrtSources : public ::testing::Test {
+protected:
+    VrtSources() { raster_test::Write(folder / "a.tif", {2, {{10, 20}}}); }
+
+    void WriteNested(int deepest, int times) {
+        for (int depth = 0; depth <= deepest; ++depth) {
+            WriteVrt(folder / (std::to_string(depth) + ".vrt"),
+                     depth == 0 ? "a.tif" : std::to_string(depth - 1) + ".vrt", times);
+        }
+    }
+    std::string WhyNot(const std::string& name) const {
+        return host::WhyNotVrt(folder / name);
+    }
+
+    raster_test::TemporaryFolder folder;
+};
+
+TEST_F(VrtSources, AreNestedAtMostThreeDeep) {
+    WriteNested(4, 1);
+    EXPECT_EQ(WhyNot("a.tif"), "");
+    EXPECT_EQ(WhyNot("0.vrt"), "");
+    EXPECT_EQ(WhyNot("2.vrt"), "");
+    EXPECT_EQ(WhyNot("3.vrt"), "has VRTs in VRTs, more than 3 deep");
+    EXPECT_EQ(WhyNot("4.vrt"), "has VRTs in VRTs, more than 3 deep");
+    std::string why;
+    EXPECT_NE(host::GdalRaster::Open(folder / "2.vrt", why), nullptr) << why;
+    EXPECT_EQ(host::GdalRaster::Open(folder / "3.vrt", why), nullptr);
+    EXPECT_EQ(why, "has VRTs in VRTs, more than 3 deep");
+}
+
+TEST_F(VrtSources, StandForAtMostTenThousandRastersTogether) {
+    WriteNested(1, 101);  // 101 times 101 are 10 201
+    EXPECT_EQ(WhyNot("1.vrt"),
+              "has VRTs in VRTs, which stand for more than 10000 rasters");
+    WriteNested(1, 100);
+    EXPECT_EQ(WhyNot("1.vrt"), "");
+    // As many as one likes beside each other: a mosaic.
+    WriteVrt(folder / "flat.vrt", "a.tif", 20'000);
+    EXPECT_EQ(WhyNot("flat.vrt"), "");
+    // Ten thousand times ten thousand times ten thousand.
+    WriteNested(2, 10'000);
+    EXPECT_EQ(WhyNot("2.vrt"),
+              "has VRTs in VRTs, which stand for more than 10000 rasters");
+}
+
+TEST_F(VrtSources, ThatGoRoundInACircleAreTold) {
+    WriteVrt(folder / "round.vrt", "round.vrt", 1);
+    EXPECT_EQ(WhyNot("round.vrt"), "has VRTs in VRTs, more than 3 deep");
+}
+
+TEST_F(VrtSources, AreNoneOfWhatIsNoVrt) {
+    std::ofstream(folder / "broken.vrt") << "<VRTDataset><VRTRasterBand>";
+    std::ofstream(folder / "empty.vrt");
+    EXPECT_EQ(WhyNot("broken.vrt"), "");
+    EXPECT_EQ(WhyNot("empty.vrt"), "");
+    EXPECT_EQ(WhyNot("none.vrt"), "");
+}
+
+}  // namespace
