@@ -103,7 +103,7 @@ abi-report:
 	scripts/abi_report build/abi $(BASE)
 
 gallery: build/release/with-demo
-	cmake --build --preset release --target gallery smallest_host framed_page
+	cmake --build --preset release --target gallery smallest_host framed_page edited_page
 	rm -rf build/gallery
 	build/release/examples/gallery build/gallery
 	build/release/examples/gallery --elements build/gallery/elements
@@ -111,6 +111,7 @@ gallery: build/release/with-demo
 	mkdir -p build/gallery/pages
 	cd build/gallery/pages && ../../release/examples/smallest_host
 	cd build/gallery/pages && ../../release/examples/framed_page
+	cd build/gallery/pages && ../../release/examples/edited_page >/dev/null
 
 images: gallery
 	scripts/check_images --keep build/gallery

@@ -181,7 +181,7 @@ int main(int argc, char** argv) {
             Drag(page, {std::atof(argv[i]), std::atof(argv[i + 1])},
                  {std::atof(argv[i + 2]), std::atof(argv[i + 3])});
         }
-        drawn = DrawPage(page, L"page.png");
+        drawn = DrawPage(page, L"edited_page.png");
     }
     Gdiplus::GdiplusShutdown(token);
     return drawn ? 0 : 1;

@@ -19,7 +19,7 @@ struct Extent {
 class EditedPage {
 public:
     explicit EditedPage(const std::string& drags)
-        : m_program(EDITED_PAGE, drags), m_image(m_program.Image("page.png")) {
+        : m_program(EDITED_PAGE, drags), m_image(m_program.Image("edited_page.png")) {
         std::istringstream lines(m_program.Contents("output"));
         for (Extent& frame : m_frames) {
             lines >> frame.left >> frame.bottom >> frame.right >> frame.top;
