@@ -144,6 +144,11 @@ public:
     /// Copies the pointer to the element; the element held before is not deleted.
     CSurroundFrame& operator=(const CSurroundFrame&) = default;
 
+    /// Moves the element along; the other frame then has none. An element held before an
+    /// assignment is deleted. So frames may be kept in a vector.
+    CSurroundFrame(CSurroundFrame&& other) noexcept;
+    CSurroundFrame& operator=(CSurroundFrame&& other) noexcept;
+
     /// Deletes the element.
     ~CSurroundFrame() override;
 

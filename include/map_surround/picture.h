@@ -23,6 +23,12 @@ public:
     CDrawPicture(const CDrawPicture&) = default;
     CDrawPicture& operator=(const CDrawPicture& other);
 
+    /// Moves the image along; the other picture then draws nothing until it is opened
+    /// again. An image held before an assignment is deleted. So pictures may be kept in a
+    /// vector.
+    CDrawPicture(CDrawPicture&& other) noexcept;
+    CDrawPicture& operator=(CDrawPicture&& other) noexcept;
+
     /// Deletes the image.
     ~CDrawPicture() override;
 

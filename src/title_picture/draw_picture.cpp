@@ -1,4 +1,5 @@
 #include <new>
+#include <utility>
 
 #include "element/numbers.h"
 #include "element/rotation.h"
@@ -42,7 +43,26 @@ CDrawPicture& CDrawPicture::operator=(const CDrawPicture& other) {
     return *this;
 }
 
-// The global operators, here and in Open, so that new and delete match whatever
+CDrawPicture::CDrawPicture(CDrawPicture&& other) noexcept
+    : CMapSurround(other),
+      m_imageAspectRatio(other.m_imageAspectRatio),
+      m_path(std::move(other.m_path)),
+      m_image(std::exchange(other.m_image, nullptr)),
+      m_newHeight(other.m_newHeight) {}
+
+CDrawPicture& CDrawPicture::operator=(CDrawPicture&& other) noexcept {
+    if (this != &other) {
+        CMapSurround::operator=(other);
+        m_imageAspectRatio = other.m_imageAspectRatio;
+        m_path = std::move(other.m_path);
+        ::delete m_image;
+        m_image = std::exchange(other.m_image, nullptr);
+        m_newHeight = other.m_newHeight;
+    }
+    return *this;
+}
+
+// The global operators, above, here and in Open, so that new and delete match whatever
 // allocation functions GDI+'s classes declare.
 CDrawPicture::~CDrawPicture() { ::delete m_image; }
 

@@ -2,8 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <memory>
 #include <type_traits>
+#include <utility>
+#include <vector>
 
 #include "recording/expect.h"
 
@@ -227,6 +230,67 @@ TEST(SurroundFrame, SharesItsElementWithCopies) {
         EXPECT_EQ(fate.deleted, 0);
     }
     EXPECT_EQ(fate.deleted, 1);
+}
+
+static_assert(std::is_nothrow_move_constructible_v<CSurroundFrame>);
+static_assert(std::is_nothrow_move_assignable_v<CSurroundFrame>);
+
+TEST(SurroundFrame, MovesItsElement) {
+    Fate fate;
+    {
+        CSurroundFrame frame;
+        FillIn(frame);
+        frame.SetMapSurround(new Probe(fate));
+        const CMapSurround* const element = frame.GetMapSurround();
+
+        CSurroundFrame moved(std::move(frame));
+        ExpectFilledIn(moved);
+        EXPECT_EQ(moved.GetFrameType(), FrameSurround);
+        EXPECT_EQ(moved.GetMapSurround(), element);
+        EXPECT_EQ(frame.GetMapSurround(), nullptr);
+
+        CSurroundFrame& itself = moved;
+        moved = std::move(itself);
+        EXPECT_EQ(moved.GetMapSurround(), element);
+        EXPECT_EQ(fate.deleted, 0);
+    }
+    EXPECT_EQ(fate.deleted, 1);
+}
+
+TEST(SurroundFrame, DeletesItsElementForOneThatIsMovedIn) {
+    Fate first;
+    Fate second;
+    {
+        CSurroundFrame frame;
+        frame.SetMapSurround(new Probe(first));
+        CSurroundFrame other;
+        FillIn(other);
+        other.SetMapSurround(new Probe(second));
+        EXPECT_EQ(&(frame = std::move(other)), &frame);
+        EXPECT_EQ(first.deleted, 1);
+        ExpectFilledIn(frame);
+        EXPECT_EQ(other.GetMapSurround(), nullptr);
+        EXPECT_EQ(second.deleted, 0);
+    }
+    EXPECT_EQ(second.deleted, 1);
+}
+
+TEST(SurroundFrame, MayBeHeldByAVector) {
+    std::array<Fate, 3> fates;
+    {
+        std::vector<CSurroundFrame> frames;
+        for (Fate& fate : fates) {
+            frames.emplace_back().SetMapSurround(new Probe(fate));
+        }
+        for (const Fate& fate : fates) {
+            EXPECT_EQ(fate.deleted, 0);
+        }
+        frames.erase(frames.begin());
+        EXPECT_EQ(fates[0].deleted, 1);
+        EXPECT_EQ(fates[1].deleted + fates[2].deleted, 0);
+    }
+    EXPECT_EQ(fates[1].deleted, 1);
+    EXPECT_EQ(fates[2].deleted, 1);
 }
 
 TEST(SurroundFrame, HandsDrawingOnAsItIs) {

@@ -2,6 +2,8 @@
 
 #include <limits>
 #include <new>
+#include <type_traits>
+#include <utility>
 
 #include "map_surround/picture.h"
 #include "recording/expect.h"
@@ -232,6 +234,55 @@ TEST(DrawPicture, SharesTheImageWithCopies) {
         assigned->Draw(surface.Graphics(), CPoint(0, 0), 1.0);
         EXPECT_EQ(recording.Drawing().at(3), DrawImage("image[\"a\"]", -8, -16, 16, 32));
         EXPECT_EQ(LiveObjects().size(), 1u);
+        recording.Clear();
+    }
+    EXPECT_TRUE(
+        Equal({{"disposal", "GdipDisposeImage image[\"a\"]"}}, recording.Lines()));
+}
+
+static_assert(std::is_nothrow_move_constructible_v<CDrawPicture>);
+static_assert(std::is_nothrow_move_assignable_v<CDrawPicture>);
+
+TEST(DrawPicture, MovesTheImage) {
+    Surface surface;
+    Recording recording(Mode::RecordOnly);
+    recording.ScriptImageSize(200, 100);
+    recording.ScriptBounds({{0, 0, 10, 20}});
+    {
+        CDrawPicture picture;
+        picture.Open(L"a");
+        picture.SetAngle(90.0f);
+        picture.ResetAspectRatio();
+        CDrawPicture assigned;
+        assigned.Open(L"b");
+        recording.Clear();
+
+        CDrawPicture moved(std::move(picture));
+        EXPECT_EQ(recording.Count(), 0);
+        CDrawPicture& itself = moved;
+        moved = std::move(itself);
+        EXPECT_EQ(recording.Count(), 0);
+        EXPECT_EQ(&(assigned = std::move(moved)), &assigned);
+        EXPECT_TRUE(
+            Equal({{"disposal", "GdipDisposeImage image[\"b\"]"}}, recording.Lines()));
+        recording.Clear();
+
+        picture.Draw(surface.Graphics(), CPoint(0, 0), 1.0);
+        moved.Draw(surface.Graphics(), CPoint(0, 0), 1.0);
+        EXPECT_EQ(recording.Count(), 0) << "nothing is left to draw";
+
+        EXPECT_EQ(assigned.GetPath(), L"a");
+        EXPECT_EQ(assigned.GetSize(), 33);
+        EXPECT_EQ(assigned.GetAspectRatio(), 0.5f);
+        EXPECT_EQ(assigned.GetAngle(), 90.0f);
+        EXPECT_EQ(assigned.GetNewHeight(), 20);
+        EXPECT_EQ(assigned.GetItemType(), SurroundPicture);
+        assigned.ResetAspectRatio();
+        // 33 * 2, the image's own proportions
+        EXPECT_EQ(recording.Lines().at(1), "GdipAddPathRectangleI rectangle 0 0 66 33");
+        recording.Clear();
+        assigned.Draw(surface.Graphics(), CPoint(0, 0), 1.0);
+        EXPECT_EQ(recording.Drawing().at(3), DrawImage("image[\"a\"]", -8, -16, 16, 32));
         recording.Clear();
     }
     EXPECT_TRUE(
