@@ -1,0 +1,168 @@
+#include "cairo/font_files.h"
+
+#include <hb-ot.h>
+
+#include "cairo/owned.h"
+#include "cairo/unicode.h"
+
+namespace engine {
+namespace {
+
+using Pattern = Owned<FcPattern, FcPatternDestroy>;
+
+const FcChar8* Bytes(const std::string& text) {
+    return reinterpret_cast<const FcChar8*>(text.c_str());
+}
+
+/// What Fontconfig is asked for: a family in a style, with the system's rules applied.
+Pattern Question(const std::string& name, INT style) {
+    Pattern pattern(FcPatternCreate());
+    if (pattern == nullptr) {
+        throw std::bad_alloc();
+    }
+    FcPatternAddString(pattern.get(), FC_FAMILY, Bytes(name));
+    FcPatternAddInteger(
+        pattern.get(), FC_WEIGHT,
+        (style & FontStyleBold) != 0 ? FC_WEIGHT_BOLD : FC_WEIGHT_REGULAR);
+    FcPatternAddInteger(
+        pattern.get(), FC_SLANT,
+        (style & FontStyleItalic) != 0 ? FC_SLANT_ITALIC : FC_SLANT_ROMAN);
+    FcPatternAddBool(pattern.get(), FC_SCALABLE, FcTrue);
+    FcConfigSubstitute(nullptr, pattern.get(), FcMatchPattern);
+    FcDefaultSubstitute(pattern.get());
+    return pattern;
+}
+
+bool IsGeneric(const std::string& name) {
+    for (const char* generic : {"sans", "sans-serif", "serif", "monospace", "mono"}) {
+        if (FcStrCmpIgnoreCase(Bytes(name), Bytes(generic)) == 0) {
+            return true;
+        }
+    }
+    return false;
+}
+
+/// Whether a face is what was meant: of a family that the question names as strongly as
+/// the name itself, as it does those of the same measures.
+bool IsMeant(const FcPattern* face, const FcPattern* question) {
+    FcValue value;
+    FcValueBinding binding = FcValueBindingWeak;
+    for (int i = 0; FcPatternGetWithBinding(question, FC_FAMILY, i, &value, &binding) ==
+                    FcResultMatch;
+         ++i) {
+        if (binding == FcValueBindingWeak || value.type != FcTypeString) {
+            continue;
+        }
+        FcChar8* family = nullptr;
+        for (int j = 0; FcPatternGetString(face, FC_FAMILY, j, &family) == FcResultMatch;
+             ++j) {
+            if (FcStrCmpIgnoreCase(family, value.u.s) == 0) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
+std::shared_ptr<const FaceFile> FileOf(const FcPattern* face) {
+    auto file = std::make_shared<FaceFile>();
+    FcChar8* path = nullptr;
+    if (FcPatternGetString(face, FC_FILE, 0, &path) != FcResultMatch) {
+        return nullptr;
+    }
+    file->path = reinterpret_cast<const char*>(path);
+    FcPatternGetInteger(face, FC_INDEX, 0, &file->index);
+    FcBool embolden = FcFalse;
+    FcPatternGetBool(face, FC_EMBOLDEN, 0, &embolden);
+    file->embolden = embolden != FcFalse;
+    FcMatrix* matrix = nullptr;
+    file->slant = FcPatternGetMatrix(face, FC_MATRIX, 0, &matrix) == FcResultMatch &&
+                  matrix->xy != 0.0;
+    FcBool hinting = FcTrue;
+    FcPatternGetBool(face, FC_HINTING, 0, &hinting);
+    FcPatternGetInteger(face, FC_HINT_STYLE, 0, &file->hintStyle);
+    if (hinting == FcFalse) {
+        file->hintStyle = FC_HINT_NONE;
+    }
+    return file;
+}
+
+FamilyMetrics MetricsOf(const FaceFile& file) {
+    hb_blob_t* const blob = hb_blob_create_from_file(file.path.c_str());
+    hb_face_t* const face = hb_face_create(blob, static_cast<unsigned>(file.index));
+    hb_font_t* const font = hb_font_create(face);
+    hb_font_extents_t extents = {};
+    hb_font_get_h_extents(font, &extents);
+    FamilyMetrics metrics;
+    metrics.em = static_cast<UINT16>(hb_face_get_upem(face));
+    metrics.ascent = static_cast<UINT16>(extents.ascender);
+    metrics.descent = static_cast<UINT16>(-extents.descender);
+    metrics.spacing =
+        static_cast<UINT16>(extents.ascender - extents.descender + extents.line_gap);
+    hb_font_destroy(font);
+    hb_face_destroy(face);
+    hb_blob_destroy(blob);
+    return metrics;
+}
+
+Pattern Match(const Pattern& question) {
+    FcResult result = FcResultMatch;
+    return Pattern(FcFontMatch(nullptr, question.get(), &result));
+}
+
+}  // namespace
+
+std::shared_ptr<const Family> FindFamily(const FlatChar* name) {
+    const std::string utf8 = Utf8(name);
+    if (utf8.empty()) {
+        return nullptr;
+    }
+    auto family = std::make_shared<Family>();
+    for (INT style = 0; style < 4; ++style) {
+        const Pattern question = Question(utf8, style);
+        const Pattern face = Match(question);
+        if (face == nullptr ||
+            !(IsMeant(face.get(), question.get()) || IsGeneric(utf8))) {
+            return nullptr;
+        }
+        FcChar8* found = nullptr;
+        if (style == 0 &&
+            FcPatternGetString(face.get(), FC_FAMILY, 0, &found) == FcResultMatch) {
+            family->name = Utf16(reinterpret_cast<const char*>(found));
+        }
+        family->faces[style] = FileOf(face.get());
+        if (family->faces[style] == nullptr) {
+            return nullptr;
+        }
+        family->metrics[style] = MetricsOf(*family->faces[style]);
+    }
+    return family;
+}
+
+Fallback FindFallback(const Family& family, INT style) {
+    Fallback fallback;
+    std::u16string name = family.name;
+    const Pattern question = Question(Utf8(name.c_str()), style);
+    FcResult result = FcResultMatch;
+    FcFontSet* const set = FcFontSort(nullptr, question.get(), FcTrue, nullptr, &result);
+    if (set == nullptr) {
+        return fallback;
+    }
+    const Owned<FcFontSet, FcFontSetDestroy> owned(set);
+    for (int i = 0; i < set->nfont; ++i) {
+        FcCharSet* characters = nullptr;
+        if (FcPatternGetCharSet(set->fonts[i], FC_CHARSET, 0, &characters) !=
+            FcResultMatch) {
+            continue;
+        }
+        const Pattern face(FcFontRenderPrepare(nullptr, question.get(), set->fonts[i]));
+        auto file = face == nullptr ? nullptr : FileOf(face.get());
+        if (file != nullptr) {
+            fallback.faces.push_back(std::move(file));
+            fallback.characters.emplace_back(FcCharSetCopy(characters), FcCharSetDestroy);
+        }
+    }
+    return fallback;
+}
+
+}  // namespace engine

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <cairo.h>
+
+#include <vector>
+
+#include "cairo/flat_functions.h"
+
+namespace engine {
+
+/// Points of figures. A figure begins with a Start; a Curve's points come in threes,
+/// after the point from which it goes.
+struct Path : GpPath {
+    enum Kind : BYTE { Start = 0, Line = 1, Curve = 3, KindBits = 7, Closes = 0x80 };
+
+    FillMode mode = FillModeAlternate;
+    std::vector<PointF> points;
+    std::vector<BYTE> kinds;
+    bool open = false;  ///< whether the last figure goes on
+
+    /// Makes room, so that the points that follow are all added or none.
+    void Reserve(std::size_t more);
+    void Add(REAL x, REAL y, Kind kind);
+    void Close();
+};
+
+inline Path* From(GpPath* path) { return static_cast<Path*>(path); }
+inline const Path* From(const GpPath* path) { return static_cast<const Path*>(path); }
+
+/// What the figures cover after a matrix, curves by their turning points; all zero for
+/// none.
+struct Extents {
+    double left = 0.0;
+    double top = 0.0;
+    double right = 0.0;
+    double bottom = 0.0;
+};
+Extents ExtentsOf(const Path& path, const cairo_matrix_t& matrix);
+
+}  // namespace engine

@@ -1,0 +1,111 @@
+#include "cairo/pencil.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace engine {
+
+Pencil::Pencil(Graphics& graphics, double offset)
+    : graphics_(graphics),
+      device_(graphics.Device()),
+      plain_(IsIdentity(device_)),
+      offset_(offset) {
+    constexpr double none = std::numeric_limits<double>::infinity();
+    extents_ = {none, none, -none, -none};
+    cairo_identity_matrix(graphics.cairo);
+    cairo_new_path(graphics.cairo);
+}
+
+void Pencil::Carry(double& x, double& y) {
+    if (!plain_) {
+        cairo_matrix_transform_point(&device_, &x, &y);
+    }
+    constexpr double most = 1 << 21;
+    bad_ = bad_ || std::isnan(x) || std::isnan(y);
+    x = std::clamp(x + offset_, -most, most);
+    y = std::clamp(y + offset_, -most, most);
+    extents_.left = std::min(extents_.left, x);
+    extents_.top = std::min(extents_.top, y);
+    extents_.right = std::max(extents_.right, x);
+    extents_.bottom = std::max(extents_.bottom, y);
+}
+
+void Pencil::MoveTo(double x, double y) {
+    Carry(x, y);
+    cairo_move_to(graphics_.cairo, x, y);
+}
+
+void Pencil::LineTo(double x, double y) {
+    Carry(x, y);
+    cairo_line_to(graphics_.cairo, x, y);
+}
+
+void Pencil::CurveTo(const PointF& second, const PointF& third, const PointF& end) {
+    double x[] = {second.X, third.X, end.X};
+    double y[] = {second.Y, third.Y, end.Y};
+    for (int i = 0; i < 3; ++i) {
+        Carry(x[i], y[i]);
+    }
+    cairo_curve_to(graphics_.cairo, x[0], y[0], x[1], y[1], x[2], y[2]);
+}
+
+Extents Pencil::Reach(double margin) const {
+    return {extents_.left - margin, extents_.top - margin, extents_.right + margin,
+            extents_.bottom + margin};
+}
+
+void SetColor(cairo_t* cairo, ARGB color) {
+    constexpr double whole = 255.0;
+    cairo_set_source_rgba(cairo, (color >> 16 & 255) / whole, (color >> 8 & 255) / whole,
+                          (color & 255) / whole, (color >> 24) / whole);
+}
+
+namespace {
+
+/// Writes the colour into every pixel.
+void Flood(Pixels& pixels, ARGB color) {
+    const std::vector<ARGB> colors(static_cast<std::size_t>(pixels.width), color);
+    for (INT y = 0; y < pixels.height; ++y) {
+        WriteColors(pixels.format, pixels.Row(y), 0, pixels.width, colors.data());
+    }
+    pixels.opaque = color >> 24 == 255 && pixels.memory != nullptr;
+}
+
+}  // namespace
+
+GpStatus Clear(Graphics& graphics, ARGB color) {
+    if (graphics.pixels != nullptr) {
+        if (graphics.state.clip == nullptr) {
+            Flood(*graphics.pixels, color);
+            return Ok;
+        }
+        graphics.pixels->opaque = graphics.pixels->opaque && color >> 24 == 255;
+    }
+    const double most = std::numeric_limits<int>::max();
+    Drawing drawing(graphics, {0.0, 0.0, most, most});
+    cairo_surface_mark_dirty(cairo_get_target(graphics.cairo));
+    SetColor(graphics.cairo, color);
+    cairo_set_operator(graphics.cairo, CAIRO_OPERATOR_SOURCE);
+    cairo_paint(graphics.cairo);
+    cairo_set_operator(graphics.cairo, CAIRO_OPERATOR_OVER);
+    return drawing.Finish();
+}
+
+GpStatus FillTraced(Pencil& pencil, ARGB color, FillMode mode) {
+    Graphics& graphics = pencil.Surface();
+    if (pencil.IsEmpty()) {
+        return Ok;
+    }
+    Drawing drawing(graphics, pencil.Reach(1.0));
+    cairo_t* const cairo = graphics.cairo;
+    cairo_set_antialias(
+        cairo, graphics.IsSmooth() ? CAIRO_ANTIALIAS_DEFAULT : CAIRO_ANTIALIAS_NONE);
+    cairo_set_fill_rule(cairo, mode == FillModeWinding ? CAIRO_FILL_RULE_WINDING
+                                                       : CAIRO_FILL_RULE_EVEN_ODD);
+    SetColor(cairo, color);
+    cairo_fill(cairo);
+    return drawing.Finish();
+}
+
+}  // namespace engine

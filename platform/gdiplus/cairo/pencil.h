@@ -1,0 +1,43 @@
+#pragma once
+
+#include "cairo/graphics.h"
+
+namespace engine {
+
+/// Traces figures in world coordinates into Cairo's path, and notes where they reach. A
+/// coordinate that Cairo cannot carry is brought to the last that it can, some 2 million
+/// units out; figures with one that is no number are not drawn.
+class Pencil {
+public:
+    /// @param offset by which everything is shifted after the transform
+    Pencil(Graphics& graphics, double offset);
+
+    void MoveTo(double x, double y);
+    void LineTo(double x, double y);
+    void CurveTo(const PointF& second, const PointF& third, const PointF& end);
+    void Close() { cairo_close_path(graphics_.cairo); }
+
+    Graphics& Surface() const { return graphics_; }
+    const cairo_matrix_t& Device() const { return device_; }
+    bool IsEmpty() const { return !(extents_.left <= extents_.right) || bad_; }
+
+    /// Of all points, wider by a margin on each side.
+    Extents Reach(double margin) const;
+
+private:
+    void Carry(double& x, double& y);
+
+    Graphics& graphics_;
+    cairo_matrix_t device_;
+    bool plain_;  ///< nothing to transform
+    double offset_;
+    bool bad_ = false;
+    Extents extents_;
+};
+
+void SetColor(cairo_t* cairo, ARGB color);
+
+GpStatus Clear(Graphics& graphics, ARGB color);
+GpStatus FillTraced(Pencil& pencil, ARGB color, FillMode mode);
+
+}  // namespace engine

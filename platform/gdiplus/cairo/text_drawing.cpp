@@ -1,0 +1,300 @@
+#include <algorithm>
+#include <cmath>
+
+#include "cairo/brush.h"
+#include "cairo/graphics.h"
+#include "cairo/pencil.h"
+#include "cairo/text_cache.h"
+
+namespace engine {
+namespace {
+
+/// How a surface takes a text: laid out for its pixels where the world transform only
+/// moves and enlarges, in world units where it turns.
+struct Placing {
+    bool upright = true;
+    double scale = 1.0;  ///< pixels of the layout to a world unit
+};
+
+Placing PlacingOn(const Graphics& graphics) {
+    const cairo_matrix_t device = graphics.Device();
+    const bool upright =
+        device.xy == 0.0 && device.yx == 0.0 && device.xx == device.yy && device.xx > 0.0;
+    return {upright && graphics.ofPixels, upright ? device.xx : 1.0};
+}
+
+TextStyle StyleOf(const Family& family, double size, INT fontStyle, const RectF& box,
+                  const GpStringFormat* format, double scale) {
+    TextStyle style;
+    style.family = &family;
+    style.size = size * scale;
+    style.style = fontStyle;
+    style.width = box.Width > 0.0f ? box.Width * scale : 0.0;
+    style.height = box.Height > 0.0f ? box.Height * scale : 0.0;
+    if (format != nullptr) {
+        const StringFormat& f = *From(format);
+        style.flags = f.flags;
+        style.alignment = f.alignment;
+        style.lineAlignment = f.lineAlignment;
+        style.trimming = f.trimming;
+    }
+    return style;
+}
+
+/// The units of a text up to its end or its null; -1 where the length is none.
+std::ptrdiff_t LengthOf(const FlatChar* text, INT length) {
+    if (length == -1) {
+        return static_cast<std::ptrdiff_t>(std::char_traits<FlatChar>::length(text));
+    }
+    return length < -1 ? -1 : length;
+}
+
+constexpr double kLargestSize = 1e6;
+
+bool IsBox(const RectF& box) {
+    return std::isfinite(box.X) && std::isfinite(box.Y) && !std::isnan(box.Width) &&
+           !std::isnan(box.Height);
+}
+
+/// Glyphs too large to be kept as pixels are filled as outlines.
+void FillGlyphs(cairo_t* cairo, const SizedFace& face,
+                const std::vector<cairo_glyph_t>& glyphs) {
+    const double enlarged = face.size / kLargestGlyphs;
+    for (const cairo_glyph_t& glyph : glyphs) {
+        cairo_save(cairo);
+        cairo_translate(cairo, glyph.x, glyph.y);
+        cairo_scale(cairo, enlarged, enlarged);
+        const cairo_glyph_t alone = {glyph.index, 0.0, 0.0};
+        cairo_set_font_face(cairo, face.face->glyphs.get());
+        cairo_set_font_size(cairo, kLargestGlyphs);
+        cairo_glyph_path(cairo, &alone, 1);
+        cairo_restore(cairo);
+    }
+    cairo_set_fill_rule(cairo, CAIRO_FILL_RULE_WINDING);
+    cairo_fill(cairo);
+}
+
+/// The glyphs of a run moved by (x, y), those left out that are nowhere near a surface.
+void Move(const GlyphRun& run, double x, double y, std::vector<cairo_glyph_t>& moved) {
+    constexpr double most = 1 << 21;
+    moved.clear();
+    for (const cairo_glyph_t& glyph : run.glyphs) {
+        const cairo_glyph_t there = {glyph.index, glyph.x + x, glyph.y + y};
+        if (std::fabs(there.x) < most && std::fabs(there.y) < most) {
+            moved.push_back(there);
+        }
+    }
+}
+
+/// With its corner at (x, y), under the matrix that Cairo has.
+void WriteGlyphs(Graphics& graphics, const TextLayout& layout, double x, double y,
+                 bool upright) {
+    cairo_t* const cairo = graphics.cairo;
+    thread_local std::vector<cairo_glyph_t> moved;
+    for (const GlyphRun& run : layout.runs) {
+        Move(run, x, y, moved);
+        const SizedFace& face = *run.face;
+        if (face.size > kLargestGlyphs) {
+            FillGlyphs(cairo, face, moved);
+            continue;
+        }
+        if (upright) {
+            cairo_set_scaled_font(cairo, face.glyphs.get());
+        } else {
+            cairo_set_font_face(cairo, face.face->glyphs.get());
+            cairo_set_font_size(cairo, face.size);
+            cairo_set_font_options(cairo,
+                                   OptionsFor(*face.face->file, face.fit, true).get());
+        }
+        cairo_show_glyphs(cairo, moved.data(), static_cast<int>(moved.size()));
+    }
+}
+
+void FillStrokes(cairo_t* cairo, const TextLayout& layout, double x, double y) {
+    for (const cairo_rectangle_t& stroke : layout.strokes) {
+        cairo_rectangle(cairo, x + stroke.x, y + stroke.y, stroke.width, stroke.height);
+        cairo_fill(cairo);
+    }
+}
+
+Extents ExtentsOf(const TextLayout& layout, const cairo_matrix_t& matrix, double x,
+                  double y, double size) {
+    // Slanted and stacked characters go past what they take up.
+    double left = x + layout.left - size;
+    double top = y + layout.top - size;
+    double right = left + layout.width + 2.0 * size;
+    double bottom = top + layout.height + 2.0 * size;
+    cairo_matrix_t transform = matrix;
+    Extents extents = {1e9, 1e9, -1e9, -1e9};
+    for (const double cornerX : {left, right}) {
+        for (const double cornerY : {top, bottom}) {
+            double atX = cornerX;
+            double atY = cornerY;
+            cairo_matrix_transform_point(&transform, &atX, &atY);
+            extents.left = std::min(extents.left, atX);
+            extents.top = std::min(extents.top, atY);
+            extents.right = std::max(extents.right, atX);
+            extents.bottom = std::max(extents.bottom, atY);
+        }
+    }
+    return extents;
+}
+
+GpStatus DrawText(Graphics& graphics, const FlatChar* text, std::size_t length,
+                  const Font& font, const RectF& box, const GpStringFormat* format,
+                  ARGB color) {
+    const cairo_matrix_t device = graphics.Device();
+    const Placing placing = PlacingOn(graphics);
+    const double size = font.size * PixelsIn(font.unit, graphics.ydpi);
+    if (!IsDrawable(device) || !IsInvertible(device)) {
+        return Ok;
+    }
+    const double scale = placing.upright ? placing.scale : 1.0;
+    TextStyle style = StyleOf(*font.family, size, font.style, box, format, scale);
+    style.fit = placing.upright;
+    style.smooth = graphics.state.textHint < TextRenderingHintSingleBitPerPixelGridFit ||
+                   graphics.state.textHint > TextRenderingHintSingleBitPerPixel;
+    if (!(style.size <= kLargestSize)) {
+        return InvalidParameter;
+    }
+    const TextLayout& layout = Texts().LayoutOf(font.family, style, text, length);
+    double x = box.X;
+    double y = box.Y;
+    cairo_matrix_t matrix = device;
+    if (placing.upright) {
+        cairo_matrix_transform_point(&device, &x, &y);
+        x = std::floor(x);
+        y = std::floor(y);
+        matrix = kIdentity;
+    }
+    Drawing drawing(graphics, ExtentsOf(layout, matrix, x, y, style.size));
+    cairo_t* const cairo = graphics.cairo;
+    cairo_set_matrix(cairo, &matrix);
+    cairo_new_path(cairo);
+    const bool clips = layout.clips && (style.flags & StringFormatFlagsNoClip) == 0;
+    if (clips) {
+        cairo_save(cairo);
+        constexpr double far = 1 << 20;
+        cairo_rectangle(cairo, style.width > 0.0 ? x : -far,
+                        style.height > 0.0 ? y : -far,
+                        style.width > 0.0 ? style.width : 2 * far,
+                        style.height > 0.0 ? style.height : 2 * far);
+        cairo_clip(cairo);
+    }
+    cairo_set_antialias(cairo,
+                        style.smooth ? CAIRO_ANTIALIAS_DEFAULT : CAIRO_ANTIALIAS_NONE);
+    SetColor(cairo, color);
+    // As for lines, a whole coordinate is the middle of a pixel for glyphs.
+    const double middle = placing.upright ? 0.5 : 0.0;
+    WriteGlyphs(graphics, layout, x + middle, y + middle, placing.upright);
+    FillStrokes(cairo, layout, x, y);
+    if (clips) {
+        cairo_restore(cairo);
+    }
+    return drawing.Finish();
+}
+
+GpStatus Measure(const Graphics& graphics, const FlatChar* text, std::size_t length,
+                 const Font& font, const RectF& box, const GpStringFormat* format,
+                 RectF& bounds, INT* characters, INT* lines) {
+    const Placing placing = PlacingOn(graphics);
+    const double scale = placing.upright ? placing.scale : 1.0;
+    const double size = font.size * PixelsIn(font.unit, graphics.ydpi);
+    TextStyle style = StyleOf(*font.family, size, font.style, box, format, scale);
+    style.fit = placing.upright;
+    if (!(style.size <= kLargestSize)) {
+        return InvalidParameter;
+    }
+    const TextLayout& layout = Texts().LayoutOf(font.family, style, text, length);
+    const auto real = [&](double pixels) { return static_cast<REAL>(pixels / scale); };
+    bounds = RectF(box.X + real(layout.left), box.Y + real(layout.top),
+                   real(layout.width), real(layout.height));
+    if (characters != nullptr) {
+        *characters = layout.characters;
+    }
+    if (lines != nullptr) {
+        *lines = layout.lines;
+    }
+    return Ok;
+}
+
+GpStatus AddText(Path& path, const FlatChar* text, std::size_t length,
+                 const std::shared_ptr<const Family>& family, INT style, REAL size,
+                 const RectF& box, const GpStringFormat* format) {
+    const TextStyle laid = StyleOf(*family, size, style, box, format, 1.0);
+    TextLayout& layout = Texts().LayoutOf(family, laid, text, length);
+    const Path& outline = OutlineOf(layout);
+    path.Reserve(outline.points.size());
+    for (std::size_t i = 0; i < outline.points.size(); ++i) {
+        path.points.emplace_back(outline.points[i].X + box.X,
+                                 outline.points[i].Y + box.Y);
+        path.kinds.push_back(outline.kinds[i]);
+    }
+    path.open = false;
+    return Ok;
+}
+
+}  // namespace
+}  // namespace engine
+
+namespace Gdiplus::DllExports {
+extern "C" {
+
+using engine::From;
+
+GpStatus GdipDrawString(GpGraphics* graphics, const FlatChar* text, INT length,
+                        const GpFont* font, const GpRectF* layout,
+                        const GpStringFormat* format, const GpBrush* brush) {
+    if (graphics == nullptr || text == nullptr || font == nullptr || layout == nullptr ||
+        brush == nullptr || !engine::IsBox(*layout)) {
+        return InvalidParameter;
+    }
+    return engine::Guarded([&] {
+        const std::ptrdiff_t units = engine::LengthOf(text, length);
+        if (units <= 0) {
+            return units < 0 ? InvalidParameter : Ok;
+        }
+        return engine::DrawText(*From(graphics), text, static_cast<std::size_t>(units),
+                                *From(font), *layout, format, From(brush)->color);
+    });
+}
+
+GpStatus GdipMeasureString(GpGraphics* graphics, const FlatChar* text, INT length,
+                           const GpFont* font, const GpRectF* layout,
+                           const GpStringFormat* format, GpRectF* bounds,
+                           INT* codepointsFitted, INT* linesFilled) {
+    if (graphics == nullptr || text == nullptr || font == nullptr || layout == nullptr ||
+        bounds == nullptr || !engine::IsBox(*layout)) {
+        return InvalidParameter;
+    }
+    return engine::Guarded([&] {
+        const std::ptrdiff_t units = engine::LengthOf(text, length);
+        if (units < 0) {
+            return InvalidParameter;
+        }
+        return engine::Measure(*From(graphics), text, static_cast<std::size_t>(units),
+                               *From(font), *layout, format, *bounds, codepointsFitted,
+                               linesFilled);
+    });
+}
+
+GpStatus GdipAddPathString(GpPath* path, const FlatChar* text, INT length,
+                           const GpFontFamily* family, INT style, REAL emSize,
+                           const GpRectF* layout, const GpStringFormat* format) {
+    if (path == nullptr || text == nullptr || family == nullptr || layout == nullptr ||
+        !engine::IsBox(*layout) || !engine::IsStyle(style) || !(emSize > 0.0f) ||
+        !(emSize <= engine::kLargestSize)) {
+        return InvalidParameter;
+    }
+    return engine::Guarded([&] {
+        const std::ptrdiff_t units = engine::LengthOf(text, length);
+        if (units <= 0) {
+            return units < 0 ? InvalidParameter : Ok;
+        }
+        return engine::AddText(*From(path), text, static_cast<std::size_t>(units),
+                               From(family)->family, style, emSize, *layout, format);
+    });
+}
+
+}  // extern "C"
+}  // namespace Gdiplus::DllExports

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "cairo/face.h"
+#include "cairo/font.h"
+#include "cairo/path.h"
+
+namespace engine {
+
+/// What decides how a text is laid out. Lengths are pixels.
+struct TextStyle {
+    const Family* family = nullptr;
+    double size = 0.0;
+    INT style = FontStyleRegular;
+    INT flags = 0;
+    StringAlignment alignment = StringAlignmentNear;
+    StringAlignment lineAlignment = StringAlignmentNear;
+    StringTrimming trimming = StringTrimmingCharacter;
+    double width = 0.0;   ///< of the box; 0 for no end of a line
+    double height = 0.0;  ///< 0 for no end of the lines
+    bool fit = true;
+    bool smooth = true;
+};
+
+bool operator==(const TextStyle& a, const TextStyle& b);
+
+/// Glyphs of one face, where they stand.
+struct GlyphRun {
+    std::shared_ptr<SizedFace> face;
+    std::vector<cairo_glyph_t> glyphs;
+};
+
+/// A text laid out, from the corner of its box.
+struct TextLayout {
+    std::vector<GlyphRun> runs;
+    std::vector<cairo_rectangle_t> strokes;  ///< under and through the text
+    // What the lines take up, with all their advances.
+    double left = 0.0;
+    double top = 0.0;
+    double width = 0.0;
+    double height = 0.0;
+    INT characters = 0;  ///< UTF-16 units that fit
+    INT lines = 0;
+    bool clips = false;  ///< whether something goes past the box
+
+    /// The glyphs' outlines, made when first asked for.
+    std::unique_ptr<const Path> outline;
+
+    std::size_t Bytes() const;
+};
+
+struct ThreadTexts;
+
+std::unique_ptr<TextLayout> LayOut(ThreadTexts& texts, const TextStyle& style,
+                                   const FlatChar* text, std::size_t length);
+
+/// The outlines of all glyphs and lines of a text.
+const Path& OutlineOf(TextLayout& layout);
+
+}  // namespace engine

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <string>
+
+#include "cairo/flat_functions.h"
+
+namespace engine {
+
+/// The code points of UTF-16 units; a lone surrogate becomes U+FFFD.
+std::u32string CodePoints(const FlatChar* units, std::size_t count);
+
+/// UTF-8 of a text that ends with a null, and back.
+std::string Utf8(const FlatChar* text);
+std::u16string Utf16(const char* utf8);
+
+}  // namespace engine
