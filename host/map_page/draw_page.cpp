@@ -9,6 +9,7 @@
 #include "page/document/raster_store.h"
 #include "page/output/output_format.h"
 #include "system/fonts.h"
+#include "system/one_line.h"
 
 namespace map_page {
 namespace {
@@ -40,8 +41,8 @@ host::OpenedPage Open(const Options& options) {
 
 std::string Save(const Options& options, const host::Page& page) {
     const std::size_t bytes = host::SavePageFile(page, options.save);
-    return options.save + ": " + std::to_string(page.Items().size()) + " elements, " +
-           std::to_string(bytes) + " bytes";
+    return host::OneLine(options.save) + ": " + std::to_string(page.Items().size()) +
+           " elements, " + std::to_string(bytes) + " bytes";
 }
 
 /// So that it is told before the work.

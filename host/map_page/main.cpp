@@ -5,6 +5,7 @@
 #include <exception>
 #include <optional>
 #include <string>
+#include <variant>
 #include <vector>
 
 #include "map_page/draw_page.h"
@@ -17,6 +18,7 @@
 #include "system/gdiplus_session.h"
 #include "system/output_file.h"
 #include "system/separate_process.h"
+#include "system/standard_streams.h"
 
 namespace {
 
@@ -76,19 +78,20 @@ std::string Draw(const map_page::Options& options) {
 }
 
 void Run(int argc, const char* const* argv) {
-    const std::optional<map_page::Options> options =
+    const std::variant<map_page::Options, std::string> call =
         map_page::ReadCommandLine(argc, argv);
-    if (!options) {
+    if (const auto* const text = std::get_if<std::string>(&call)) {
+        host::WriteToStandardOutput(*text);
         return;
     }
     host::RemoveUnfinishedOutputOnSignals();
-    const std::string summary = Draw(*options);
-    std::printf("%s\n", summary.c_str());
+    host::WriteToStandardOutput(Draw(std::get<map_page::Options>(call)) + "\n");
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
+    host::OpenClosedStandardStreams();
     try {
         Run(argc, argv);
         return kDrawn;

@@ -2,9 +2,9 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
-#include <iostream>
 #include <iterator>
 #include <optional>
+#include <sstream>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -15,10 +15,13 @@
 #include "page/colour_text.h"
 #include "page/document/opened_page.h"
 #include "page/document/schema.h"
+#include "system/numbers_from_text.h"
 
 namespace map_page {
 namespace {
 
+constexpr const char* kTrueNorth = "true";
+constexpr const char* kSeeHelp = "see map_page --help";
 constexpr const char* kDescription =
     "Draws rasters as a map on a page with a title, a legend, a scale bar, a north arrow "
     "and a picture, into an image file; or draws a page file.";
@@ -63,36 +66,54 @@ std::string Footer() {
     return footer.replace(footer.find(kPlace), kPlace.size(), names.substr(1));
 }
 
-/// The option values as they were given.
+/// The values that are not yet what they stand for.
 struct Given {
     std::vector<std::string> rasters;
-    std::string output;
-    std::string save;
-    std::string series;
-    std::optional<std::string> jobs;
     std::string title;
     std::string titleFont = "Arial";
-    std::optional<std::string> titleSize;
-    std::string titleStyle = "bold";
     std::string picture;
     std::string legendTitle = "Legend";
     std::string legendFont = "Arial";
     bool noLegend = false;
-    std::optional<std::string> scaleBar;
-    std::string divisions = "4";
-    std::string subdivisions = "2";
-    std::string unitPosition = "after";
     std::optional<std::string> units;
-    bool ground = false;
-    std::optional<std::string> northArrow;
-    std::string northAngle = "0";
     std::string size = "A4";
     bool portrait = false;
-    std::string dpi = "150";
     std::string border = "on";
     std::string shadow = "on";
     std::string background = "on";
+    bool schema = false;
 };
+
+/// An option that is one of a few words, of which each stands for a value.
+template <typename Target, typename Value>
+CLI::Option* AddChoice(CLI::App& app, const std::string& name, Target& target,
+                       const Words<Value>& words, const std::string& about) {
+    const auto take = [&target, words](const std::string& given) {
+        for (const auto& [word, value] : words) {
+            if (word == given) {
+                target = value;
+            }
+        }
+    };
+    return app.add_option_function<std::string>(name, take, about)
+        ->check(CLI::IsMember(words));
+}
+
+void DeclareTitle(CLI::App& app, Given& given, host::TitleDesign& title) {
+    app.add_option("--title", given.title, "Title above the map")
+        ->type_name("TEXT")
+        ->group("Title");
+    app.add_option("--title-font", given.titleFont, "Font family (Arial)")
+        ->type_name("NAME")
+        ->group("Title");
+    app.add_option("--title-size", title.points, "Type size (what suits the page)")
+        ->check(NumberIn(1.0, 1000.0))
+        ->type_name("POINTS")
+        ->group("Title");
+    AddChoice(app, "--title-style", title.style, FontStyles(), "How it is set (bold)")
+        ->type_name("STYLE")
+        ->group("Title");
+}
 
 void DeclareLegend(CLI::App& app, Given& given) {
     app.add_option("--legend-title", given.legendTitle, "First line (Legend)")
@@ -105,18 +126,22 @@ void DeclareLegend(CLI::App& app, Given& given) {
     app.add_flag("--no-legend", given.noLegend, "Leave the legend out")->group("Legend");
 }
 
-void DeclareScaleBar(CLI::App& app, Given& given) {
-    app.add_option("--scale-bar", given.scaleBar, StyleHelp(SurroundScaleBar))
+void DeclareScaleBar(CLI::App& app, Given& given, host::ScaleBarDesign& scaleBar) {
+    AddChoice(app, "--scale-bar", scaleBar.style, Styles(SurroundScaleBar),
+              "Style " + UsualStyle(SurroundScaleBar))
         ->type_name("STYLE")
         ->group("Scale bar");
-    app.add_option("--divisions", given.divisions, "Main divisions, 1 to 100 (4)")
+    app.add_option("--divisions", scaleBar.divisions, "Main divisions (4)")
+        ->check(CLI::Range(1, 100, "1 to 100"))
         ->type_name("COUNT")
         ->group("Scale bar");
-    app.add_option("--subdivisions", given.subdivisions,
-                   "Ticks or boxes within a division, 0 to 100 (2)")
+    app.add_option("--subdivisions", scaleBar.subdivisions,
+                   "Ticks or boxes within a division (2)")
+        ->check(CLI::Range(0, 100, "0 to 100"))
         ->type_name("COUNT")
         ->group("Scale bar");
-    app.add_option("--unit-position", given.unitPosition, "after or before (after)")
+    AddChoice(app, "--unit-position", scaleBar.unitPosition, UnitPositions(),
+              "The unit beside the numbers (after)")
         ->type_name("WHERE")
         ->group("Scale bar");
     app.add_option("--units", given.units,
@@ -124,33 +149,38 @@ void DeclareScaleBar(CLI::App& app, Given& given) {
         ->type_name("NAME")
         ->group("Scale bar");
     app.add_flag(
-           "--ground", given.ground,
+           "--ground", scaleBar.ground,
            "Lengths on the ground in the middle of the map, along the ellipsoid, in "
            "metres or kilometres")
         ->group("Scale bar");
 }
 
-void DeclareNorthArrow(CLI::App& app, Given& given) {
-    app.add_option("--north-arrow", given.northArrow, StyleHelp(SurroundNorthArrow))
+void DeclareNorthArrow(CLI::App& app, host::NorthArrowDesign& northArrow) {
+    AddChoice(app, "--north-arrow", northArrow.style, Styles(SurroundNorthArrow),
+              "Style " + UsualStyle(SurroundNorthArrow))
         ->type_name("STYLE")
         ->group("North arrow");
-    app.add_option("--north-angle", given.northAngle,
-                   "Degrees clockwise, or true: towards true north in the middle of the "
-                   "map (0)")
+    const auto turn = [&northArrow](const std::string& given) {
+        northArrow.trueNorth = given == kTrueNorth;
+        host::ParseNumber(given, northArrow.angle);
+    };
+    app.add_option_function<std::string>(
+           "--north-angle", turn,
+           "Degrees clockwise, or towards true north in the middle of the map (0)")
+        ->check((NumberIn(-360.0, 360.0) | CLI::IsMember({kTrueNorth}))
+                    .description("-360 to 360, or true"))
         ->type_name("DEGREES")
         ->group("North arrow");
 }
 
-// Every value is read as text, so that one that makes no sense is told from a call that
-// does not.
-void Declare(CLI::App& app, Given& given) {
+void Declare(CLI::App& app, Given& given, Options& options) {
     app.set_version_flag("--version", "map_page " MAP_SURROUND_VERSION,
                          "Print the version and exit");
     app.set_help_flag("-h,--help", "Print this help and exit");
     app.add_flag_callback(
         "--schema",
-        [] {
-            std::cout << host::PageSchema();
+        [&given] {
+            given.schema = true;
             throw CLI::Success();
         },
         "Print the JSON Schema of page files and exit");
@@ -161,44 +191,32 @@ void Declare(CLI::App& app, Given& given) {
            "Any raster that GDAL opens, the first on top; or one page file, .json")
         ->required()
         ->type_name("");
-    app.add_option("-o,--output", given.output,
+    app.add_option("-o,--output", options.output,
                    "File to write: .png .jpg .bmp .tif, or\n.pdf or .ps, whose texts and "
                    "shapes are no pixels")
         ->type_name("FILE");
-    app.add_option("--save", given.save, "Page file to write, .json; needs no --output")
+    app.add_option("--save", options.save, "Page file to write, .json; needs no --output")
         ->type_name("FILE");
 
-    app.add_option("--series", given.series,
-                   "List of pages, .csv: one page a row; --output has {column}s")
-        ->type_name("FILE")
-        ->group("Series of a page file");
-    app.add_option("--jobs", given.jobs, "Pages drawn at a time, 1 to 256 (1)")
+    CLI::Option* const series =
+        app.add_option("--series", options.series,
+                       "List of pages, .csv: one page a row; --output has {column}s")
+            ->type_name("FILE")
+            ->group("Series of a page file");
+    app.add_option("--jobs", options.jobs, "Pages drawn at a time (1)")
+        ->check(CLI::Range(1, 256, "1 to 256"))
+        ->needs(series)
         ->type_name("COUNT")
         ->group("Series of a page file");
 
-    app.add_option("--title", given.title, "Title above the map")
-        ->type_name("TEXT")
-        ->group("Title");
-    app.add_option("--title-font", given.titleFont, "Font family (Arial)")
-        ->type_name("NAME")
-        ->group("Title");
-    app.add_option("--title-size", given.titleSize,
-                   "Type size, 1 to 1000 points (what suits the page)")
-        ->type_name("POINTS")
-        ->group("Title");
-    app.add_option("--title-style", given.titleStyle,
-                   "regular, bold, italic or bold-italic (bold)")
-        ->type_name("STYLE")
-        ->group("Title");
-
+    DeclareTitle(app, given, options.design.title);
     app.add_option("--picture", given.picture,
                    "Image beside the map, such as a logo: PNG, JPEG, BMP, TIFF or GIF")
         ->type_name("FILE")
         ->group("Picture");
-
     DeclareLegend(app, given);
-    DeclareScaleBar(app, given);
-    DeclareNorthArrow(app, given);
+    DeclareScaleBar(app, given, options.design.scaleBar);
+    DeclareNorthArrow(app, options.design.northArrow);
 
     app.add_option("--size", given.size,
                    "A0 to A6, B0 to B5, Letter, Legal, Tabloid, or millimetres as "
@@ -206,7 +224,8 @@ void Declare(CLI::App& app, Given& given) {
         ->type_name("SIZE")
         ->group("Page");
     app.add_flag("--portrait", given.portrait, "Stand the page upright")->group("Page");
-    app.add_option("--dpi", given.dpi, "Resolution, 10 to 2400 pixels an inch (150)")
+    app.add_option("--dpi", options.dpi, "Resolution, in pixels an inch (150)")
+        ->check(NumberIn(10.0, 2400.0))
         ->type_name("NUMBER")
         ->group("Page");
 
@@ -221,30 +240,6 @@ void Declare(CLI::App& app, Given& given) {
         ->group("Frames");
 }
 
-void CheckScaleBar(const Given& given, host::ScaleBarDesign& scaleBar) {
-    if (given.scaleBar) {
-        scaleBar.style = ReadStyle("--scale-bar", *given.scaleBar, SurroundScaleBar);
-    }
-    scaleBar.divisions = ReadCount("--divisions", given.divisions, 1, 100);
-    scaleBar.subdivisions = ReadCount("--subdivisions", given.subdivisions, 0, 100);
-    scaleBar.unitPosition = ReadUnitPosition("--unit-position", given.unitPosition);
-    if (given.units) {
-        scaleBar.units = ReadText("--units", *given.units);
-    }
-    scaleBar.ground = given.ground;
-}
-
-void CheckNorthArrow(const Given& given, host::NorthArrowDesign& northArrow) {
-    if (given.northArrow) {
-        northArrow.style =
-            ReadStyle("--north-arrow", *given.northArrow, SurroundNorthArrow);
-    }
-    northArrow.trueNorth = given.northAngle == "true";
-    if (!northArrow.trueNorth) {
-        northArrow.angle = ReadNumber("--north-angle", given.northAngle, -360.0, 360.0);
-    }
-}
-
 bool IsOfPageFile(const Given& given) {
     return given.rasters.size() == 1 && host::IsPageFile(given.rasters.front());
 }
@@ -253,18 +248,15 @@ bool IsOfPageFile(const Given& given) {
 constexpr std::string_view kWithPageFile[] = {"RASTER", "--output", "--dpi", "--series",
                                               "--jobs"};
 
-void CheckCall(const CLI::App& app, const Given& given) {
-    if (given.output.empty() && given.save.empty()) {
-        throw UsageError("--output or --save is required", "see map_page --help");
+void CheckCall(const CLI::App& app, const Given& given, const Options& options) {
+    if (options.output.empty() && options.save.empty()) {
+        throw UsageError("--output or --save is required", kSeeHelp);
     }
-    if (!given.save.empty() && !host::IsPageFile(given.save)) {
-        throw UsageError(given.save, "does not end in .json");
-    }
-    if (given.jobs && given.series.empty()) {
-        throw UsageError("--jobs", "goes with --series only");
+    if (!options.save.empty() && !host::IsPageFile(options.save)) {
+        throw UsageError(options.save, "does not end in .json");
     }
     if (!IsOfPageFile(given)) {
-        if (!given.series.empty()) {
+        if (!options.series.empty()) {
             throw UsageError("--series", "goes with a page file only");
         }
         return;
@@ -287,21 +279,15 @@ host::OutputFormat FormatOf(const std::string& output) {
     }
 }
 
-Options Check(const Given& given) {
-    Options options;
+/// Fills in what is not only a matter of the command line.
+void Complete(const Given& given, Options& options) {
     if (IsOfPageFile(given)) {
         options.pageFile = given.rasters.front();
     }
     options.rasters = given.rasters;
-    options.output = given.output;
-    if (!given.output.empty()) {
-        options.format = FormatOf(given.output);
+    if (!options.output.empty()) {
+        options.format = FormatOf(options.output);
     }
-    options.save = given.save;
-    options.series = given.series;
-    options.jobs =
-        static_cast<std::size_t>(ReadCount("--jobs", given.jobs.value_or("1"), 1, 256));
-    options.dpi = ReadNumber("--dpi", given.dpi, 10.0, 2400.0);
 
     host::PageDesign& design = options.design;
     design.paper = ReadPaper("--size", given.size, given.portrait);
@@ -309,10 +295,6 @@ Options Check(const Given& given) {
     options.titleFamily = given.titleFont;
     design.title.text = ReadText("--title", given.title);
     design.title.family = ReadText("--title-font", given.titleFont);
-    design.title.style = ReadFontStyle("--title-style", given.titleStyle);
-    if (given.titleSize) {
-        design.title.points = ReadNumber("--title-size", *given.titleSize, 1.0, 1000.0);
-    }
 
     options.picture = given.picture;
     design.picture.path = ReadText("--picture", given.picture);
@@ -321,33 +303,36 @@ Options Check(const Given& given) {
     design.legend.shown = !given.noLegend;
     design.legend.title = ReadText("--legend-title", given.legendTitle);
     design.legend.family = ReadText("--legend-font", given.legendFont);
-    CheckScaleBar(given, design.scaleBar);
-    CheckNorthArrow(given, design.northArrow);
+    if (given.units) {
+        design.scaleBar.units = ReadText("--units", *given.units);
+    }
 
     const host::FrameStyle byDefault;
     design.frames.border = ReadColor("--border", given.border, byDefault.border);
     design.frames.shadow = ReadColor("--shadow", given.shadow, byDefault.shadow);
     design.frames.background =
         ReadColor("--background", given.background, byDefault.background);
-    return options;
 }
 
 }  // namespace
 
-std::optional<Options> ReadCommandLine(int argc, const char* const* argv) {
+std::variant<Options, std::string> ReadCommandLine(int argc, const char* const* argv) {
     CLI::App app(kDescription, "map_page");
     Given given;
-    Declare(app, given);
+    Options options;
+    Declare(app, given, options);
     try {
         app.parse(argc, argv);
     } catch (const CLI::Success& asked) {
-        app.exit(asked, std::cout, std::cerr);
-        return std::nullopt;
+        std::ostringstream said;
+        app.exit(asked, said, said);
+        return given.schema ? host::PageSchema() : said.str();
     } catch (const CLI::ParseError& error) {
-        throw UsageError(error.what(), "see map_page --help");
+        throw UsageError(error.what(), kSeeHelp);
     }
-    CheckCall(app, given);
-    return Check(given);
+    CheckCall(app, given, options);
+    Complete(given, options);
+    return options;
 }
 
 }  // namespace map_page

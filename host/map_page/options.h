@@ -1,8 +1,8 @@
 #pragma once
 
-#include <cstddef>
 #include <optional>
 #include <string>
+#include <variant>
 #include <vector>
 
 #include "page/document/page_changes.h"
@@ -19,7 +19,7 @@ struct Options {
     std::optional<host::OutputFormat> format;  ///< of the output
     std::string save;                          ///< the page file to write; empty for none
     std::string series;         ///< the list of pages to draw; empty for one page
-    std::size_t jobs = 1;       ///< pages of the series drawn at a time
+    int jobs = 1;               ///< pages of the series drawn at a time
     host::PageChanges changes;  ///< of the page file's page
     double dpi = 150.0;
     host::PageDesign design;
@@ -29,8 +29,8 @@ struct Options {
 };
 
 /// Reads the command line.
-/// @return none when only help or the version was asked for, which is then printed.
-/// Throws UsageError for a wrong call and Error for a value that makes no sense.
-std::optional<Options> ReadCommandLine(int argc, const char* const* argv);
+/// @return what to draw, or the text that was asked for instead: help, version, schema.
+/// Throws UsageError for a wrong call.
+std::variant<Options, std::string> ReadCommandLine(int argc, const char* const* argv);
 
 }  // namespace map_page

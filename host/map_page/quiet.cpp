@@ -6,6 +6,8 @@
 #include <cstdio>
 #include <utility>
 
+#include "system/one_line.h"
+
 namespace map_page {
 
 Quiet::Quiet(std::string place)
@@ -30,7 +32,8 @@ Quiet::~Quiet() {
 }
 
 void Quiet::Warn(const std::string& what) const {
-    dprintf(m_standardError, "map_page: warning: %s%s\n", m_place.c_str(), what.c_str());
+    dprintf(m_standardError, "map_page: warning: %s\n",
+            host::OneLine(m_place + what).c_str());
 }
 
 }  // namespace map_page

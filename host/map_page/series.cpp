@@ -20,6 +20,7 @@
 #include "map_page/series_list.h"
 #include "system/child_process.h"
 #include "system/errors.h"
+#include "system/one_line.h"
 
 namespace map_page {
 namespace {
@@ -33,7 +34,7 @@ bool IsDrawn(const std::string& output) {
 
 void Tell(const std::string& what) {
     ProgressLine::Erase(STDERR_FILENO);
-    dprintf(STDERR_FILENO, "map_page: %s\n", what.c_str());
+    dprintf(STDERR_FILENO, "map_page: %s\n", host::OneLine(what).c_str());
 }
 
 /// Pages that are being drawn, each in its process, and how those ended that are not.
@@ -54,7 +55,7 @@ public:
         } else if (IsDrawn(page.output)) {
             ++m_skipped;
         } else {
-            while (m_running.size() >= m_options.jobs) {
+            while (m_running.size() >= static_cast<std::size_t>(m_options.jobs)) {
                 WaitForOne();
             }
             Begin(page);
@@ -161,7 +162,7 @@ std::string DrawSeries(const Options& options, const CheckColumns& checkColumns,
     if (workers.AnyFailed()) {
         throw Error(options.series, workers.Sum());
     }
-    return options.series + ": " + workers.Sum();
+    return host::OneLine(options.series) + ": " + workers.Sum();
 }
 
 }  // namespace map_page

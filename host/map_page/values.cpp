@@ -1,13 +1,8 @@
 #include "map_page/values.h"
 
-#include <algorithm>
 #include <charconv>
-#include <cmath>
-#include <cstddef>
 #include <iterator>
-#include <string_view>
 #include <utility>
-#include <vector>
 
 #include "map_page/error.h"
 #include "page/colour_text.h"
@@ -17,57 +12,7 @@
 namespace map_page {
 namespace {
 
-template <typename Value>
-struct Named {
-    std::string_view name;
-    Value value;
-};
-
-constexpr Named<FontProcess> kFontStyles[] = {
-    {"regular", FontProcessRegular},
-    {"bold", FontProcessBold},
-    {"italic", FontProcessItalic},
-    {"bold-italic", FontProcessBoldItalic},
-};
-
-constexpr Named<ScaleBarPostion> kUnitPositions[] = {
-    {"after", UnitPosAfter},
-    {"before", UnitPosBefore},
-};
-
 std::string Quoted(const std::string& text) { return "\"" + text + "\""; }
-
-/// "line, stepped or none"
-template <typename Table>
-std::string Listed(const Table& table, const char* last) {
-    std::string names;
-    for (std::size_t i = 0; i < std::size(table); ++i) {
-        names += i == 0 ? "" : i + 1 == std::size(table) ? last : ", ";
-        names += table[i].name;
-    }
-    return names;
-}
-
-/// The value of a name out of a table; the error lists them all.
-template <typename Table>
-auto ReadNamed(const std::string& option, const std::string& text, const Table& table) {
-    for (const auto& named : table) {
-        if (named.name == text) {
-            return named.value;
-        }
-    }
-    throw Error(option, Quoted(text) + " is neither " + Listed(table, " nor "));
-}
-
-/// The styles of a family, and none.
-std::vector<Named<const host::CatalogueEntry*>> StyleWords(MapSurroundType family) {
-    std::vector<Named<const host::CatalogueEntry*>> words;
-    for (const host::CatalogueEntry* const entry : host::StylesOf(family)) {
-        words.push_back({entry->Style(), entry});
-    }
-    words.push_back({"none", nullptr});
-    return words;
-}
 
 /// "12", not "12.000000".
 std::string Plain(double value) {
@@ -79,14 +24,40 @@ std::string Plain(double value) {
 
 }  // namespace
 
-double ReadNumber(const std::string& option, const std::string& text, double lowest,
-                  double highest) {
-    double value = 0.0;
-    if (!host::ParseNumber(text, value) || value < lowest || value > highest) {
-        throw Error(option, Quoted(text) + " is no number from " + Plain(lowest) +
-                                " to " + Plain(highest));
+Words<FontProcess> FontStyles() {
+    return {{"regular", FontProcessRegular},
+            {"bold", FontProcessBold},
+            {"italic", FontProcessItalic},
+            {"bold-italic", FontProcessBoldItalic}};
+}
+
+Words<ScaleBarPostion> UnitPositions() {
+    return {{"after", UnitPosAfter}, {"before", UnitPosBefore}};
+}
+
+Words<const host::CatalogueEntry*> Styles(MapSurroundType family) {
+    Words<const host::CatalogueEntry*> words;
+    for (const host::CatalogueEntry* const entry : host::StylesOf(family)) {
+        words.emplace_back(entry->Style(), entry);
     }
-    return value;
+    words.emplace_back("none", nullptr);
+    return words;
+}
+
+std::string UsualStyle(MapSurroundType family) {
+    return std::string("(") + host::UsualStyle(family)->Style() +
+           ", where the map has coordinates)";
+}
+
+CLI::Validator NumberIn(double lowest, double highest) {
+    const std::string range = Plain(lowest) + " to " + Plain(highest);
+    const auto whyNot = [=](std::string& text) -> std::string {
+        double value = 0.0;
+        const bool isIn =
+            host::ParseNumber(text, value) && value >= lowest && value <= highest;
+        return isIn ? "" : Quoted(text) + " is no number from " + range;
+    };
+    return {whyNot, range};
 }
 
 std::optional<Gdiplus::Color> ReadColor(const std::string& option,
@@ -105,42 +76,16 @@ std::optional<Gdiplus::Color> ReadColor(const std::string& option,
     if (color) {
         return Gdiplus::Color(*color);
     }
-    throw Error(option, Quoted(text) +
-                            " is neither on, off, #RRGGBB, #RRGGBBAA nor the name of a "
-                            "colour");
-}
-
-FontProcess ReadFontStyle(const std::string& option, const std::string& text) {
-    return ReadNamed(option, text, kFontStyles);
-}
-
-const host::CatalogueEntry* ReadStyle(const std::string& option, const std::string& text,
-                                      MapSurroundType family) {
-    return ReadNamed(option, text, StyleWords(family));
-}
-
-std::string StyleHelp(MapSurroundType family) {
-    return Listed(StyleWords(family), " or ") + " (" + host::UsualStyle(family)->Style() +
-           ", where the map has coordinates)";
-}
-
-ScaleBarPostion ReadUnitPosition(const std::string& option, const std::string& text) {
-    return ReadNamed(option, text, kUnitPositions);
-}
-
-int ReadCount(const std::string& option, const std::string& text, int lowest,
-              int highest) {
-    const double value = ReadNumber(option, text, lowest, highest);
-    if (value != std::floor(value)) {
-        throw Error(option, Quoted(text) + " is no whole number");
-    }
-    return static_cast<int>(value);
+    throw UsageError(option,
+                     Quoted(text) +
+                         " is neither on, off, #RRGGBB, #RRGGBBAA nor the name of a "
+                         "colour");
 }
 
 std::wstring ReadText(const std::string& option, const std::string& text) {
     std::wstring wide;
     if (!host::Widen(text, wide)) {
-        throw Error(option, "is not valid UTF-8");
+        throw UsageError(option, "is not valid UTF-8");
     }
     return wide;
 }
@@ -149,9 +94,9 @@ host::PaperSize ReadPaper(const std::string& option, const std::string& text,
                           bool portrait) {
     host::PaperSize paper;
     if (!host::ParsePaperSize(text, paper)) {
-        throw Error(option, Quoted(text) +
-                                " is neither a paper size (A4, Letter, ...) nor "
-                                "WIDTHxHEIGHT with sides from 20 to 5000 mm");
+        throw UsageError(option, Quoted(text) +
+                                     " is neither a paper size (A4, Letter, ...) nor "
+                                     "WIDTHxHEIGHT with sides from 20 to 5000 mm");
     }
     if (portrait && paper.width > paper.height) {
         std::swap(paper.width, paper.height);

@@ -1,9 +1,15 @@
 #pragma once
 
+// The values of options: what they may be, and what those that CLI11 leaves as text stand
+// for.
+
 #include <gdiplus.h>
 
+#include <CLI/CLI.hpp>
 #include <optional>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "map_surround/title.h"
 #include "page/catalogue.h"
@@ -11,34 +17,29 @@
 
 namespace map_page {
 
-// Readers of option values. Each throws Error that names the option and says what it
-// takes.
+/// Words and what they stand for.
+template <typename Value>
+using Words = std::vector<std::pair<std::string, Value>>;
 
-/// A number from `lowest` to `highest`.
-double ReadNumber(const std::string& option, const std::string& text, double lowest,
-                  double highest);
+Words<FontProcess> FontStyles();
+Words<ScaleBarPostion> UnitPositions();
+
+/// The styles of a family; "none" is null.
+Words<const host::CatalogueEntry*> Styles(MapSurroundType family);
+
+/// What a page has when nobody chooses: "(two, where the map has coordinates)".
+std::string UsualStyle(MapSurroundType family);
+
+/// Takes a finite number from `lowest` to `highest`. (CLI::Range takes "nan" too.)
+CLI::Validator NumberIn(double lowest, double highest);
+
+// Each of these throws UsageError that names the option and says what it takes.
 
 /// "none" is no colour; else one of a few names, #RRGGBB or #RRGGBBAA. "on" leaves the
 /// colour as it is by default, "off" is none.
 std::optional<Gdiplus::Color> ReadColor(const std::string& option,
                                         const std::string& text,
                                         std::optional<Gdiplus::Color> byDefault);
-
-FontProcess ReadFontStyle(const std::string& option, const std::string& text);
-
-/// A style of a family by its word; null for "none".
-const host::CatalogueEntry* ReadStyle(const std::string& option, const std::string& text,
-                                      MapSurroundType family);
-
-/// What ReadStyle takes, and what a page has when nobody chooses: "one, two or none (two,
-/// where the map has coordinates)".
-std::string StyleHelp(MapSurroundType family);
-
-ScaleBarPostion ReadUnitPosition(const std::string& option, const std::string& text);
-
-/// A whole number from `lowest` to `highest`.
-int ReadCount(const std::string& option, const std::string& text, int lowest,
-              int highest);
 
 /// UTF-8 as wide text.
 std::wstring ReadText(const std::string& option, const std::string& text);

@@ -10,6 +10,7 @@
 #include "page/output/page_output.h"
 #include "page/units.h"
 #include "system/errors.h"
+#include "system/one_line.h"
 
 namespace map_page {
 namespace {
@@ -46,7 +47,7 @@ std::string WriteInto(const Options& options, const host::Page& page,
         line.Begin("writing the file");
         output.Write(bytes);
     });
-    return options.output + ": " + Measured(page, options) + ", " +
+    return host::OneLine(options.output) + ": " + Measured(page, options) + ", " +
            std::to_string(bytes.size()) + " bytes";
 }
 

@@ -8,12 +8,15 @@
 #include <exception>
 #include <memory>
 #include <optional>
+#include <sstream>
 #include <string>
 #include <vector>
 
 #include "page_editor/window/editor_window.h"
+#include "system/errors.h"
 #include "system/gdiplus_session.h"
 #include "system/output_file.h"
+#include "system/standard_streams.h"
 
 namespace {
 
@@ -40,7 +43,9 @@ std::optional<Options> ReadCommandLine(int argc, char** argv) {
     try {
         app.parse(argc, argv);
     } catch (const CLI::Success& success) {
-        app.exit(success);
+        std::ostringstream said;
+        app.exit(success, said, said);
+        host::WriteToStandardOutput(said.str());
         return std::nullopt;
     }
     return options;
@@ -101,13 +106,14 @@ int Run(int argc, char** argv) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    host::OpenClosedStandardStreams();
     try {
         return Run(argc, argv);
     } catch (const CLI::ParseError& error) {
-        Fail(error.what());
+        Fail(host::LineFor(error));
         return kWrongUsage;
     } catch (const std::exception& error) {
-        Fail(error.what());
+        Fail(host::LineFor(error));
         return kFailed;
     }
 }

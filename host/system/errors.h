@@ -5,6 +5,8 @@
 #include <stdexcept>
 #include <string>
 
+#include "system/one_line.h"
+
 namespace host {
 
 /// What is wrong, with what, in one line for a person: "page.png: Permission denied".
@@ -33,7 +35,7 @@ auto Naming(const std::string& thing, Step step) {
 inline std::string LineFor(const std::exception& error) {
     return dynamic_cast<const std::bad_alloc*>(&error) != nullptr
                ? "memory: the page needs more than there is"
-               : error.what();
+               : OneLine(error.what());
 }
 
 }  // namespace host

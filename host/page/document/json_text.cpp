@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "page/document/page_error.h"
+#include "system/one_line.h"
 
 namespace host {
 namespace {
@@ -111,15 +112,7 @@ private:
     std::vector<Open> m_open;
 };
 
-/// What of a key can be shown on one line of a terminal.
-std::string Shown(const std::string& key) {
-    std::string shown;
-    for (const char c : key.substr(0, kLongestKeyShown)) {
-        const auto byte = static_cast<unsigned char>(c);
-        shown += byte >= 0x20 && byte < 0x7F ? c : '?';
-    }
-    return key.size() > kLongestKeyShown ? shown + "..." : shown;
-}
+std::string Shown(const std::string& key) { return OneLine(key, kLongestKeyShown); }
 
 }  // namespace
 

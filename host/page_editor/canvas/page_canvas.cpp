@@ -11,6 +11,7 @@
 
 #include "page/units.h"
 #include "page_editor/canvas/overlay.h"
+#include "system/errors.h"
 
 namespace page_editor {
 namespace {
@@ -353,7 +354,7 @@ void PageCanvas::Attempt(const std::function<void()>& step) {
     try {
         step();
     } catch (const std::exception& error) {
-        Q_EMIT Failed(QString::fromStdString(error.what()));
+        Q_EMIT Failed(QString::fromStdString(host::LineFor(error)));
     }
 }
 

@@ -10,6 +10,7 @@
 #include <string>
 
 #include "page_editor/editing/property_change.h"
+#include "system/errors.h"
 
 namespace page_editor {
 namespace {
@@ -156,7 +157,7 @@ void PropertyPanel::Change(const host::Property& property,
         });
         ShowValues();
     } catch (const std::exception& error) {
-        Q_EMIT Failed(QString::fromStdString(error.what()));
+        Q_EMIT Failed(QString::fromStdString(host::LineFor(error)));
         ShowValues();
     }
 }

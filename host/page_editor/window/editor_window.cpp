@@ -17,6 +17,7 @@
 #include "page_editor/editing/new_item.h"
 #include "page_editor/editing/property_change.h"
 #include "page_editor/window/actions.h"
+#include "system/errors.h"
 
 namespace page_editor {
 namespace {
@@ -117,7 +118,8 @@ void EditorWindow::Paste() {
     try {
         m_document.Paste(text);
     } catch (const std::exception& error) {
-        ShowFailure(QString("the clipboard: %1").arg(error.what()));
+        ShowFailure(QString("the clipboard: %1")
+                        .arg(QString::fromStdString(host::LineFor(error))));
     }
 }
 
@@ -227,7 +229,7 @@ void EditorWindow::Attempt(const std::function<void()>& step) {
     try {
         step();
     } catch (const std::exception& error) {
-        ShowFailure(QString::fromStdString(error.what()));
+        ShowFailure(QString::fromStdString(host::LineFor(error)));
     }
 }
 

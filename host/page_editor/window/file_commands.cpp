@@ -16,6 +16,7 @@
 #include "page_editor/editing/page_files.h"
 #include "page_editor/window/recent_files.h"
 #include "page_editor/window/waiting.h"
+#include "system/errors.h"
 
 namespace page_editor {
 namespace {
@@ -155,7 +156,7 @@ bool FileCommands::Attempt(const std::function<void()>& step) {
         step();
         return true;
     } catch (const std::exception& error) {
-        Q_EMIT Failed(QString::fromStdString(error.what()));
+        Q_EMIT Failed(QString::fromStdString(host::LineFor(error)));
         return false;
     }
 }

@@ -181,7 +181,7 @@ TEST_F(Series, TellsAListThatIsNoneBeforeDrawing) {
     EXPECT_EQ(Run({"data/scene.tif", "--series", "list.csv", "-o", "a.png"}).err,
               "map_page: --series: goes with a page file only\n");
     EXPECT_EQ(Run({"page.json", "--jobs", "2", "-o", "a.png"}).err,
-              "map_page: --jobs: goes with --series only\n");
+              "map_page: --jobs requires --series: see map_page --help\n");
 }
 
 }  // namespace
