@@ -59,10 +59,27 @@ if(NOT MAP_SURROUND_HOST_INCLUDE_DIR)
   set(pkgconfig_dir ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
   file(RELATIVE_PATH prefix_from_pkgconfig "/${pkgconfig_dir}" "/")
   string(REGEX REPLACE "/$" "" prefix_from_pkgconfig "${prefix_from_pkgconfig}")
-  configure_file(${CMAKE_CURRENT_LIST_DIR}/map_surround.pc.in
-    ${PROJECT_BINARY_DIR}/map_surround.pc @ONLY)
-  install(FILES ${PROJECT_BINARY_DIR}/map_surround.pc
-    DESTINATION ${pkgconfig_dir} COMPONENT development)
+  foreach(kind shared static)
+    if(TARGET map_surround_${kind})
+      set(pc_name map_surround)
+      if(kind STREQUAL "static" AND TARGET map_surround_shared)
+        set(pc_name map_surround_static)
+      endif()
+      set(pc_flags)
+      set(pc_library "-L\${libdir} -lmap_surround")
+      if(kind STREQUAL "static")
+        set(pc_flags " -DMAP_SURROUND_STATIC_DEFINE")
+        # By its file, for beside the shared library its name means that.
+        set(pc_library "\${libdir}/$<TARGET_LINKER_FILE_NAME:map_surround_static>")
+      endif()
+      configure_file(${CMAKE_CURRENT_LIST_DIR}/map_surround.pc.in
+        ${PROJECT_BINARY_DIR}/${pc_name}.pc.in @ONLY)
+      file(GENERATE OUTPUT ${PROJECT_BINARY_DIR}/${pc_name}.pc
+        INPUT ${PROJECT_BINARY_DIR}/${pc_name}.pc.in)
+      install(FILES ${PROJECT_BINARY_DIR}/${pc_name}.pc
+        DESTINATION ${pkgconfig_dir} COMPONENT development)
+    endif()
+  endforeach()
 endif()
 
 include(packages)
