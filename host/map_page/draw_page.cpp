@@ -45,7 +45,7 @@ std::string Save(const Options& options, const host::Page& page) {
            " elements, " + std::to_string(bytes) + " bytes";
 }
 
-/// So that it is told before the work.
+/// Before the work, which may take minutes.
 void CheckOutput(const Options& options) {
     host::Naming(options.output, [&] { host::CheckCanBeMade(*options.format); });
 }

@@ -4,18 +4,18 @@
 
 namespace map_page {
 
-/// While it lives, nothing but what is told through it reaches standard error: the
-/// libraries that read and draw write there by themselves, and what is wrong is told in
-/// one line of ours. (AddressSanitizer's reports are kept with its option log_path.)
+/// Silences standard error while it lives, but for its own warnings: the libraries that
+/// read and draw write there by themselves, and a person gets one line of ours.
+/// (AddressSanitizer's reports are kept with its option log_path.)
 class Quiet {
 public:
-    /// @param place begins every warning, when it is not empty
+    /// @param place prefix of every warning; empty for none
     explicit Quiet(std::string place = "");
     Quiet(const Quiet&) = delete;
     Quiet& operator=(const Quiet&) = delete;
     ~Quiet();
 
-    /// The descriptor of what was standard error.
+    /// Standard error as it was before: a descriptor.
     int Voice() const { return m_standardError; }
 
     void Warn(const std::string& what) const;

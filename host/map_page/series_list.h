@@ -21,7 +21,7 @@ struct SeriesPage {
 struct SeriesList {
     /// Columns that set the text of the element of that name, where there is one.
     std::vector<std::string> textColumns;
-    /// Columns in the outputs' names, which need no other use.
+    /// Columns used in the outputs' names; they need not name an element as well.
     std::vector<std::string> nameColumns;
     std::vector<SeriesPage> pages;
 };
@@ -31,8 +31,8 @@ struct SeriesList {
 /// @param output name of the outputs, in which {column} is the row's value. Slashes and
 /// control characters in a value, and a dot at its start, become underscores, so that no
 /// value leads into another folder.
-/// Throws Error for a list that is none, a column without a name or with another's, a
-/// placeholder of no column, and two rows with one output.
+/// Throws Error when the file is not a list, a column has no name or another's, a
+/// placeholder names no column, or two rows have the same output.
 SeriesList ReadSeries(const std::string& path, const std::string& output);
 
 }  // namespace map_page

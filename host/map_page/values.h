@@ -27,7 +27,7 @@ Words<ScaleBarPostion> UnitPositions();
 /// The styles of a family; "none" is null.
 Words<const host::CatalogueEntry*> Styles(MapSurroundType family);
 
-/// What a page has when nobody chooses: "(two, where the map has coordinates)".
+/// The default style, for the help: "(two, where the map has coordinates)".
 std::string UsualStyle(MapSurroundType family);
 
 /// Takes a finite number from `lowest` to `highest`. (CLI::Range takes "nan" too.)

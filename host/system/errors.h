@@ -31,7 +31,7 @@ auto Naming(const std::string& thing, Step step) {
     }
 }
 
-/// What a person is told of an exception, in one line.
+/// The message of an exception, in one line.
 inline std::string LineFor(const std::exception& error) {
     return dynamic_cast<const std::bad_alloc*>(&error) != nullptr
                ? "memory: the page needs more than there is"

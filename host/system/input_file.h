@@ -5,8 +5,8 @@
 
 namespace host {
 
-/// The bytes of a file. Throws std::runtime_error with the reason when there is none,
-/// when it is something else (a folder, a device), and when it is larger than `most`.
+/// The bytes of a file. Throws std::runtime_error with the reason when it does not exist,
+/// is not a regular file (a folder, a device), or is larger than `most` bytes.
 std::string ReadFile(const std::string& path, std::size_t most);
 
 }  // namespace host

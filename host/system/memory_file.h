@@ -9,7 +9,7 @@ namespace host {
 /// A file that only lives in memory, for what can only be written to a file.
 class MemoryFile {
 public:
-    /// Throws std::runtime_error when there is none to be had.
+    /// Throws std::runtime_error when the system has none to give.
     MemoryFile();
     /// One that holds the bytes, to be read from its start. Throws likewise.
     explicit MemoryFile(const std::vector<std::uint8_t>& bytes);

@@ -38,6 +38,7 @@ bool TurnsLines(unsigned character) {
 std::string WithoutControls(const std::wstring& text) {
     std::string line;
     for (const wchar_t character : text) {
+        // NOLINTNEXTLINE(bugprone-signed-char-misuse): has 32 bits
         const auto code = static_cast<unsigned>(character);
         line += IsControl(code) || TurnsLines(code) ? Escaped(code) : Narrow({character});
     }
@@ -61,7 +62,7 @@ bool ContinuesACharacter(char byte) {
 
 std::string OneLine(const std::string& text, std::size_t longest) {
     std::wstring wide;
-    const std::string line = Widen(text, wide) ? WithoutControls(wide) : AsAscii(text);
+    std::string line = Widen(text, wide) ? WithoutControls(wide) : AsAscii(text);
     if (line.size() <= longest) {
         return line;
     }

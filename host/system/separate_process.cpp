@@ -43,7 +43,7 @@ std::string PartMessage(double part) {
     return message;
 }
 
-/// Where nobody listens any more this process is about to be ended.
+/// A failed write is ignored: the reader is gone, and ends this process next.
 void Send(int descriptor, const std::string& message) {
     WriteAll(descriptor, message.data(), message.size());
 }
@@ -151,7 +151,7 @@ private:
         }
     }
 
-    /// Takes what was told of progress from the front, the last of which counts.
+    /// Removes the progress messages at the front; the last one counts.
     static bool TakeParts(std::string& sent, double& part) {
         constexpr std::size_t kLength = 1 + sizeof(part);
         std::size_t taken = 0;

@@ -12,7 +12,7 @@ namespace {
 
 using CplText = std::unique_ptr<char, decltype(&VSIFree)>;
 
-/// Half of a surrogate pair is none, and GDAL lets it pass.
+/// Lone surrogates, which GDAL lets through, and what lies past the last character.
 bool IsNoCharacter(wchar_t c) { return (c >= 0xD800 && c <= 0xDFFF) || c > 0x10FFFF; }
 
 }  // namespace

@@ -5,7 +5,7 @@
 namespace host {
 
 /// UTF-8 as wide text.
-/// @return false when the bytes are not valid UTF-8; `wide` then stays as it was
+/// @return false when the bytes are not valid UTF-8; `wide` is then left alone
 bool Widen(const std::string& utf8, std::wstring& wide);
 
 /// Wide text as UTF-8; what is no character becomes U+FFFD.

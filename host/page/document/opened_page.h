@@ -1,8 +1,7 @@
 #pragma once
 
-// Pages from files and into files, for every program. What is wrong is a
-// std::runtime_error, in one line that begins with the file's name. GDI+ must have been
-// started.
+// Opens and saves whole pages, for every program. Errors are std::runtime_error, in one
+// line that begins with the file's name. GDI+ must have been started.
 
 #include <cstddef>
 #include <functional>
@@ -21,20 +20,20 @@ namespace host {
 struct OpenedPage {
     std::unique_ptr<RasterStore> rasters;
     Page page;
-    std::vector<std::string> remarks;  ///< what is not as it was asked for, one line each
+    std::vector<std::string> remarks;  ///< what could not be done as asked, one line each
 };
 
-/// The page of a page file: changed, if it is to be, with its pictures and fonts looked
-/// for, its rasters open, and scale bars and north arrows true to its maps.
-/// @param beforeRasters is shown the page before its rasters are opened, and may throw
+/// Opens a page file: checks its pictures and fonts, makes the changes, opens the rasters
+/// and fits scale bars and north arrows to the maps.
+/// @param beforeRasters called with the page before its rasters are opened; may throw
 OpenedPage OpenPageFile(const std::string& path, const PageChanges& changes = {},
                         const std::function<void(const Page&)>& beforeRasters = {});
 
-/// The page that is laid out by itself around rasters, at least one.
+/// Lays a page out by itself around at least one raster.
 OpenedPage LayOutRasters(const std::vector<std::string>& paths, const PageDesign& design);
 
-/// Writes a page file; what stood there stays when that fails.
-/// @return its bytes
+/// Saves a page file; on failure an older file of that name is left alone.
+/// @return its size in bytes
 std::size_t SavePageFile(const Page& page, const std::string& path);
 
 /// Whether a file's name is that of a page file and not of a raster: it ends in .json, in

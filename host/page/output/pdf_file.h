@@ -5,8 +5,8 @@
 
 namespace host {
 
-/// Throws std::runtime_error, which says that Ghostscript is not installed, where the
-/// program `gs` is not among those on the path; so that it is told before the work.
+/// Throws std::runtime_error saying that Ghostscript is not installed when there is no
+/// program `gs` on the path. Call it before drawing, which may take minutes.
 void CheckGhostscript();
 
 /// A PostScript file as PDF, made by Ghostscript: images without loss, fonts embedded.

@@ -11,18 +11,18 @@
 
 namespace page_editor {
 
-/// The page as pixels, drawn by the library and looked at by Qt where they lie: nothing
-/// is copied. Maps are rendered in processes of their own; one that cannot be is hatched.
+/// The page as pixels, drawn by the library and shown by Qt without a copy. Maps are
+/// rendered in separate processes; one that fails is hatched.
 class PageSurface {
 public:
     /// @param page outlives this
-    /// @param progress told how far a map that takes long has been read, a few times a
-    /// second, and 1 in the end; a map is hatched where it answers false
+    /// @param progress called a few times a second while reading a map takes long, and
+    /// with 1 at the end; returning false cancels it, and the map is hatched
     explicit PageSurface(const host::Page& page, host::Progress progress = {})
         : m_page(page), m_progress(std::move(progress)) {}
 
-    /// Whether something is being drawn: what progress is told may come back here, and
-    /// then draws nothing.
+    /// Whether something is being drawn: `progress` may lead back here, which then draws
+    /// nothing.
     bool IsDrawing() const { return m_isDrawing; }
 
     /// Draws everything at a resolution, rasters included. What was drawn before is shown
@@ -30,7 +30,7 @@ public:
     /// @param dpi device pixels an inch
     void Begin(double dpi);
 
-    /// Shows nothing of a page that is another now.
+    /// Forgets what is shown, when the page is replaced by another.
     void Forget();
 
     /// Draw what was changed; the pixels that are different now. See host::LivePage.

@@ -16,9 +16,9 @@ namespace page_editor {
 /// A page that is being edited: the items, what of them is selected, and every state that
 /// it went through, without anything of a screen.
 ///
-/// A command changes items and ends in Commit, or is given up with Revert; ChangeItems
-/// does both. What cannot be stored in a page file, or names what cannot be opened,
-/// leaves the page as it was and ends in host::PageError.
+/// A command changes items and ends in Commit, or is cancelled with Revert; ChangeItems
+/// does both. A change that no page file can hold, or that names a file that cannot be
+/// opened, throws host::PageError and leaves the page as it was.
 class PageDocument : public QObject {
     Q_OBJECT
 public:
@@ -34,10 +34,10 @@ public:
     host::RasterStore& Rasters() { return *m_rasters; }
 
     /// Files are read in processes of their own, and a disk or a decoder may be slow.
-    /// @param watch told how far one has come that takes long, a few times a second, and
-    /// 1 in the end; answers whether to wait for it
+    /// @param watch called a few times a second while one takes long, and with 1 at the
+    /// end; returning false cancels the reading
     void WatchReading(host::Progress watch) { m_watch = std::move(watch); }
-    /// Tells whoever watches; what reads files for the page is given it.
+    /// The progress to hand to whatever reads files for the page.
     host::Progress Reading() {
         return [this](double part) { return !m_watch || m_watch(part); };
     }

@@ -6,12 +6,12 @@
 
 namespace page_editor {
 
-/// Draws a page into a file of the kind that its name ends in, an image or a file for
-/// print. Throws std::runtime_error with the file's name and the reason; what stood there
-/// then stays. It is drawn in a process of its own.
+/// Draws a page into an image or a file for print, as the name's ending says, in a
+/// separate process. Throws std::runtime_error with the file's name and the reason; an
+/// older file of that name is then left alone.
 /// @param dpi device pixels an inch
-/// @param progress told how far the maps have been read, several times a second; the
-/// export ends with an exception when it answers false
+/// @param progress called several times a second with how far the maps have been read;
+/// returning false cancels the export, which then throws
 void ExportPage(const host::Page& page, const std::string& path, double dpi,
                 const host::Progress& progress = {});
 

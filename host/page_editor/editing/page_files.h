@@ -11,12 +11,12 @@
 
 namespace page_editor {
 
-/// The page of a page file.
-/// @param reading told how far reading has come; ends it by answering false
+/// Opens a page file.
+/// @param reading called with the progress of reading; returning false cancels it
 host::OpenedPage OpenPageFile(const std::string& path,
                               const host::Progress& reading = {});
 
-/// An A4 page laid out by itself around rasters, at least one; the first names it.
+/// Lays an A4 page out around at least one raster, titled after the first.
 /// @param reading as above
 host::OpenedPage LayOutRasters(const std::vector<std::string>& paths,
                                const host::Progress& reading = {});

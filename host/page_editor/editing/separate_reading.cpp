@@ -18,7 +18,7 @@ using Clock = std::chrono::steady_clock;
 
 constexpr std::chrono::milliseconds kTellingInterval(200);
 
-/// Tells on only what takes long, and when it is over.
+/// Passes progress on once reading takes long, and then 1 at the end.
 class Telling {
 public:
     explicit Telling(const host::Progress& progress) : m_progress(progress) {}
@@ -46,8 +46,8 @@ private:
     bool m_isTold = false;
 };
 
-/// Only how the process ends matters: what else is wrong is told when the file is read
-/// here.
+/// Only a process that dies matters here: other errors come up when the editor itself
+/// reads the file.
 template <typename Reading>
 void Try(const std::string& path, const host::Progress& progress, Reading read) {
     Telling telling(progress);

@@ -1,10 +1,10 @@
 #pragma once
 
-// What decodes files is done in processes of its own, so that a decoder that crashes on a
-// damaged one, or waits for a disk that is gone, does not take unsaved work along.
+// Files are decoded in separate processes, so that a decoder that crashes on a damaged
+// file, or hangs on a lost disk, does not take unsaved work with it.
 //
-// Each is given whom to tell how far it has come when it takes long, a few times a
-// second, and 1 in the end. It is given up where the answer is false.
+// `progress` is called a few times a second when reading takes long, and with 1 at the
+// end; returning false cancels the reading.
 
 #include <string>
 #include <vector>
@@ -14,30 +14,30 @@
 
 namespace page_editor {
 
-/// host::RenderMap in a separate process, of rasters opened there anew. Throws
-/// std::runtime_error when they cannot be read to the end.
+/// host::RenderMap in a separate process, which opens the rasters itself. Throws
+/// std::runtime_error when they cannot be read.
 host::PixelImage RenderSeparately(host::MapPicture& picture, int width, int height,
                                   const host::Progress& progress);
 
-/// Reads of rasters that are not open yet, in a separate process, what this one is going
-/// to read of them: their descriptions and what legends tell. Throws host::PageError that
-/// names the first on which a decoder died, or that was given up; what else is wrong with
-/// one is not told.
+/// Reads from rasters that are not open yet what the editor is going to read: their
+/// descriptions and what legends show. Throws host::PageError naming the first raster on
+/// which a decoder died or reading was cancelled; other errors come up when the editor
+/// reads it.
 void TryRasters(const std::vector<std::string>& paths, const host::RasterStore& rasters,
                 const host::Progress& progress);
 
-/// The same of the rasters that items name.
+/// The same for the rasters that items name.
 void TryRastersOf(const std::vector<host::PageItem>& items,
                   const host::RasterStore& rasters, const host::Progress& progress);
 
-/// The same of an image for a picture.
+/// The same for the image of a picture.
 void TryImage(const std::string& path, const host::Progress& progress);
 
-/// The same of a page file with its pictures, but without rasters; the error does not
-/// name it.
+/// The same for a page file with its pictures, but without rasters; the error does not
+/// name the file.
 void TryPageFile(const std::string& path, const host::Progress& progress);
 
-/// The same of items as text, a line each.
+/// The same for items as text, a line each.
 void TryItems(const std::string& lines, const host::Progress& progress);
 
 }  // namespace page_editor

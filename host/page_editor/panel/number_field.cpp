@@ -94,7 +94,7 @@ void NumberField::Step(double by) {
     }
 }
 
-/// The number behind a text that nobody changed has more digits.
+/// An unchanged text stands for the exact number, which has more digits.
 std::optional<double> NumberField::ValueOfText() const {
     return m_line->isModified() || m_line->text().isEmpty() ? NumberIn(m_line->text())
                                                             : std::optional(m_value);

@@ -9,19 +9,19 @@
 
 namespace page_editor {
 
-/// What edits one property: a widget that shows a value and tells when a person has
-/// given another. It does not check values and does not know items.
+/// Edits one property: a widget that shows a value and reports the one that a person
+/// enters. It does not check values and knows nothing of items.
 class PropertyField : public QWidget {
 public:
     using QWidget::QWidget;
 
-    /// Shows a value of the property's kind; tells nothing.
+    /// Shows a value of the property's kind, without reporting it.
     virtual void Show(const host::PropertyValue& value) = 0;
 
     /// Takes what was typed so far, as leaving the field does.
     virtual void FinishTyping() {}
 
-    /// Called with a value of the property's kind, or with why there is none.
+    /// Called with a value of the property's kind, or with what is wrong with the entry.
     std::function<void(const host::PropertyValue&)> changed;
     std::function<void(const QString&)> refused;
 
@@ -30,9 +30,9 @@ protected:
     void Fill(QWidget* widget);
     void Tell(const host::PropertyValue& value) const;
     void Refuse(const QString& why) const;
-    /// Has typing finished when a line is left or Enter pressed.
+    /// Ends typing when the line loses focus or Enter is pressed.
     void FinishWith(const QLineEdit* line) const;
-    /// Tells a line as a text, once after it was changed.
+    /// Reports a line as text, once after it was changed.
     void TellChanged(QLineEdit& line) const;
 };
 

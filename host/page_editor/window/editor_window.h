@@ -51,7 +51,7 @@ public:
     /// @return false, and nothing is changed, when the text is no sheet
     bool SetSheet(const QString& paper);
 
-    /// The last line that told of something that failed.
+    /// The last error message shown.
     const QString& LastFailure() const { return m_lastFailure; }
 
 protected:

@@ -9,8 +9,8 @@
 
 namespace page_editor {
 
-/// Opening, saving and exporting the page, with the questions that go with it. What
-/// fails is told in one line and changes nothing.
+/// Opening, saving and exporting the page, with the questions that go with it. A failure
+/// is reported in one line and changes nothing.
 class FileCommands : public QObject {
     Q_OBJECT
 public:
@@ -40,7 +40,7 @@ public:
 Q_SIGNALS:
     void PathChanged();
     void Failed(const QString& why);
-    /// What was done, or is not as it was asked for.
+    /// What was done, or could not be done as asked.
     void Told(const QString& what);
 
 private:

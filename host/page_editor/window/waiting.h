@@ -7,8 +7,8 @@
 
 namespace page_editor {
 
-/// A dialog, shown once something has taken long, that tells how far it has come and in
-/// which it can be given up. The window takes no other commands while it is there.
+/// A progress dialog with a Cancel button, shown once something takes long. The window
+/// takes no other commands meanwhile.
 class Waiting {
 public:
     /// @param what what is waited for, in a few words
