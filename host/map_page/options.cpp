@@ -11,16 +11,15 @@
 #include <vector>
 
 #include "map_page/error.h"
+#include "map_page/map_options.h"
 #include "map_page/values.h"
 #include "page/colour_text.h"
 #include "page/document/opened_page.h"
 #include "page/document/schema.h"
-#include "system/numbers_from_text.h"
 
 namespace map_page {
 namespace {
 
-constexpr const char* kTrueNorth = "true";
 constexpr const char* kSeeHelp = "see map_page --help";
 constexpr const char* kDescription =
     "Draws rasters as a map on a page with a title, a legend, a scale bar, a north arrow "
@@ -75,7 +74,6 @@ struct Given {
     std::string legendTitle = "Legend";
     std::string legendFont = "Arial";
     bool noLegend = false;
-    std::optional<std::string> units;
     std::string size = "A4";
     bool portrait = false;
     std::string border = "on";
@@ -83,21 +81,6 @@ struct Given {
     std::string background = "on";
     bool schema = false;
 };
-
-/// An option that is one of a few words, of which each stands for a value.
-template <typename Target, typename Value>
-CLI::Option* AddChoice(CLI::App& app, const std::string& name, Target& target,
-                       const Words<Value>& words, const std::string& about) {
-    const auto take = [&target, words](const std::string& given) {
-        for (const auto& [word, value] : words) {
-            if (word == given) {
-                target = value;
-            }
-        }
-    };
-    return app.add_option_function<std::string>(name, take, about)
-        ->check(CLI::IsMember(words));
-}
 
 void DeclareTitle(CLI::App& app, Given& given, host::TitleDesign& title) {
     app.add_option("--title", given.title, "Title above the map")
@@ -124,53 +107,6 @@ void DeclareLegend(CLI::App& app, Given& given) {
         ->type_name("NAME")
         ->group("Legend");
     app.add_flag("--no-legend", given.noLegend, "Leave the legend out")->group("Legend");
-}
-
-void DeclareScaleBar(CLI::App& app, Given& given, host::ScaleBarDesign& scaleBar) {
-    AddChoice(app, "--scale-bar", scaleBar.style, Styles(SurroundScaleBar),
-              "Style " + UsualStyle(SurroundScaleBar))
-        ->type_name("STYLE")
-        ->group("Scale bar");
-    app.add_option("--divisions", scaleBar.divisions, "Main divisions (4)")
-        ->check(CLI::Range(1, 100, "1 to 100"))
-        ->type_name("COUNT")
-        ->group("Scale bar");
-    app.add_option("--subdivisions", scaleBar.subdivisions,
-                   "Ticks or boxes within a division (2)")
-        ->check(CLI::Range(0, 100, "0 to 100"))
-        ->type_name("COUNT")
-        ->group("Scale bar");
-    AddChoice(app, "--unit-position", scaleBar.unitPosition, UnitPositions(),
-              "The unit beside the numbers (after)")
-        ->type_name("WHERE")
-        ->group("Scale bar");
-    app.add_option("--units", given.units,
-                   "Name of the unit (what the coordinate system counts in)")
-        ->type_name("NAME")
-        ->group("Scale bar");
-    app.add_flag(
-           "--ground", scaleBar.ground,
-           "Lengths on the ground in the middle of the map, along the ellipsoid, in "
-           "metres or kilometres")
-        ->group("Scale bar");
-}
-
-void DeclareNorthArrow(CLI::App& app, host::NorthArrowDesign& northArrow) {
-    AddChoice(app, "--north-arrow", northArrow.style, Styles(SurroundNorthArrow),
-              "Style " + UsualStyle(SurroundNorthArrow))
-        ->type_name("STYLE")
-        ->group("North arrow");
-    const auto turn = [&northArrow](const std::string& given) {
-        northArrow.trueNorth = given == kTrueNorth;
-        host::ParseNumber(given, northArrow.angle);
-    };
-    app.add_option_function<std::string>(
-           "--north-angle", turn,
-           "Degrees clockwise, or towards true north in the middle of the map (0)")
-        ->check((NumberIn(-360.0, 360.0) | CLI::IsMember({kTrueNorth}))
-                    .description("-360 to 360, or true"))
-        ->type_name("DEGREES")
-        ->group("North arrow");
 }
 
 void Declare(CLI::App& app, Given& given, Options& options) {
@@ -215,8 +151,9 @@ void Declare(CLI::App& app, Given& given, Options& options) {
         ->type_name("FILE")
         ->group("Picture");
     DeclareLegend(app, given);
-    DeclareScaleBar(app, given, options.design.scaleBar);
-    DeclareNorthArrow(app, options.design.northArrow);
+    DeclareMap(app, options);
+    DeclareScaleBar(app, options);
+    DeclareNorthArrow(app, options);
 
     app.add_option("--size", given.size,
                    "A0 to A6, B0 to B5, Letter, Legal, Tabloid, or millimetres as "
@@ -303,9 +240,6 @@ void Complete(const Given& given, Options& options) {
     design.legend.shown = !given.noLegend;
     design.legend.title = ReadText("--legend-title", given.legendTitle);
     design.legend.family = ReadText("--legend-font", given.legendFont);
-    if (given.units) {
-        design.scaleBar.units = ReadText("--units", *given.units);
-    }
 
     const host::FrameStyle byDefault;
     design.frames.border = ReadColor("--border", given.border, byDefault.border);

@@ -30,6 +30,21 @@ Words<const host::CatalogueEntry*> Styles(MapSurroundType family);
 /// The default style, for the help: "(two, where the map has coordinates)".
 std::string UsualStyle(MapSurroundType family);
 
+/// An option that is one of a few words, of which each stands for a value.
+template <typename Target, typename Value>
+CLI::Option* AddChoice(CLI::App& app, const std::string& name, Target& target,
+                       const Words<Value>& words, const std::string& about) {
+    const auto take = [&target, words](const std::string& given) {
+        for (const auto& [word, value] : words) {
+            if (word == given) {
+                target = value;
+            }
+        }
+    };
+    return app.add_option_function<std::string>(name, take, about)
+        ->check(CLI::IsMember(words));
+}
+
 /// Takes a finite number from `lowest` to `highest`. (CLI::Range takes "nan" too.)
 CLI::Validator NumberIn(double lowest, double highest);
 

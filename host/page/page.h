@@ -3,6 +3,7 @@
 #include <gdiplus.h>
 
 #include <cstddef>
+#include <limits>
 #include <memory>
 #include <optional>
 #include <string>
@@ -23,6 +24,9 @@ struct MapFrame {
     std::string name = {};                      ///< what people call it; UTF-8
     std::vector<std::string> rasterPaths = {};  ///< the first on top
     std::optional<Box> extent = std::nullopt;   ///< shown; else all of the rasters
+    /// The denominator of the scale that the frame keeps whatever its size, around the
+    /// middle of the extent; NaN for none.
+    double scale = std::numeric_limits<double>::quiet_NaN();
 };
 
 /// What stands on a page: a map, or a frame with one element in it.

@@ -1,5 +1,6 @@
 #include "page/placed_frame.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "page/catalogue.h"
@@ -35,10 +36,30 @@ void ScaleBarFrame::SetDivisionValue(double value) {
 }
 
 void ScaleBarFrame::Draw(Gdiplus::Graphics* graphics, CPoint centre, double scale) {
-    if (auto* const bar = ElementOf<CScaleBarBase>(*this)) {
-        bar->SetPaper2ScreenScale(m_divisionLength * scale);
+    constexpr double kNobodySees = 0.5;   // pixels
+    constexpr double kAboveWhole = 1e-3;  // pixels, for what the bar cuts off is rounded
+    auto* const bar = ElementOf<CScaleBarBase>(*this);
+    const double length = m_divisionLength * scale;
+    if (bar == nullptr || !m_isExact || !(length > 0.0)) {
+        if (bar != nullptr) {
+            bar->SetPaper2ScreenScale(length);
+        }
+        PlacedFrame::Draw(graphics, centre, scale);
+        return;
     }
+    const double whole = std::max(1.0, std::round(length));
+    bar->SetPaper2ScreenScale(whole + kAboveWhole);
+    if (std::fabs(length - whole) * bar->GetMainDivCount() <= kNobodySees) {
+        PlacedFrame::Draw(graphics, centre, scale);
+        return;
+    }
+    const Gdiplus::GraphicsState state = graphics->Save();
+    const auto middle = static_cast<float>(centre.x);
+    graphics->TranslateTransform(middle, 0.0f);
+    graphics->ScaleTransform(static_cast<float>(length / whole), 1.0f);
+    graphics->TranslateTransform(-middle, 0.0f);
     PlacedFrame::Draw(graphics, centre, scale);
+    graphics->Restore(state);
 }
 
 void LegendFrame::SetSizeFactor(float factor) {

@@ -10,6 +10,7 @@
 #include "map_surround/legend.h"
 #include "map_surround/north_arrow.h"
 #include "map_surround/scale_bar.h"
+#include "page/map/shown_map.h"
 
 namespace host {
 
@@ -39,11 +40,11 @@ private:
     CPoint2D m_offset;
 };
 
-/// What a scale bar on a page measures.
-enum class BarDistances : std::int32_t {
-    Fixed,   ///< what it was told to
-    Map,     ///< the map on the page, in map units
-    Ground,  ///< the ground in the middle of that map, along the ellipsoid
+/// What of a scale bar stays when its map changes; the rest follows from the map.
+enum class BarFit : std::int32_t {
+    Count,  ///< the number of divisions
+    Width,  ///< the width, as far as whole divisions go
+    Value,  ///< what a division stands for
 };
 
 /// The frame of a scale bar, which keeps the bar true to the map at any resolution. A bar
@@ -61,6 +62,26 @@ public:
     void SetDivisionValue(double value);
     double DivisionValue() const { return m_divisionValue; }
 
+    /// Whether the whole bar is true to a pixel. A bar cuts each of its divisions to
+    /// whole pixels: ten of 9.99 are 90 long, not 99.9. An exact one is drawn with the
+    /// nearest whole pixels, and stretched by the rest where that is more than half a
+    /// pixel.
+    void SetExact(bool isExact) { m_isExact = isExact; }
+    bool IsExact() const { return m_isExact; }
+
+    /// What the bar counts in; what its unit is called is the bar's own.
+    void SetUnit(DistanceUnit unit) { m_unit = unit; }
+    DistanceUnit Unit() const { return m_unit; }
+
+    /// What FitToMap leaves as it is.
+    void SetFit(BarFit fit) { m_fit = fit; }
+    BarFit Fit() const { return m_fit; }
+
+    /// How long FitToMap makes the whole bar at most, page units; as long as it was,
+    /// where this is 0.
+    void SetLongest(double length) { m_longest = length; }
+    double Longest() const { return m_longest; }
+
     /// What FitToMap keeps the bar true to.
     void SetBarDistances(BarDistances distances) { m_distances = distances; }
     BarDistances GetBarDistances() const { return m_distances; }
@@ -71,6 +92,10 @@ private:
     double m_divisionLength = 25.0;
     double m_divisionValue = 1.0;
     BarDistances m_distances = BarDistances::Fixed;
+    bool m_isExact = true;
+    DistanceUnit m_unit = DistanceUnit::Metric;
+    BarFit m_fit = BarFit::Count;
+    double m_longest = 0.0;
 };
 
 /// The frame of a north arrow.

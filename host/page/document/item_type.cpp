@@ -8,6 +8,7 @@
 #include "page/document/tables/subject.h"
 #include "page/document/tables/tables.h"
 #include "page/element_of.h"
+#include "page/numeric_scale.h"
 
 namespace host {
 namespace {
@@ -90,11 +91,25 @@ ItemType Framed(const CatalogueEntry& entry) {
             }};
 }
 
+ItemType Numeric() {
+    return {"numeric-scale",
+            "The scale of the map in figures",
+            tables::Join({tables::PlacedFrameProperties(),
+                          tables::NumericScaleProperties(), tables::ElementProperties()}),
+            nullptr,
+            [] { return PageItem(Frame(FrameFor(std::make_unique<NumericScale>()))); },
+            [](const PageItem& item) {
+                return ElementOf<NumericScale>(item) != nullptr &&
+                       FrameAs<PlacedFrame>(item) != nullptr;
+            }};
+}
+
 std::vector<ItemType> AllTypes() {
     std::vector<ItemType> types = {Map(), EmptyFrame()};
     for (const CatalogueEntry& entry : kCatalogue) {
         types.push_back(Framed(entry));
     }
+    types.push_back(Numeric());
     return types;
 }
 

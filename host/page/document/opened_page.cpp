@@ -11,6 +11,21 @@
 #include "system/output_file.h"
 
 namespace host {
+namespace {
+
+/// Has the page's map remember what part of it is shown, and show that.
+void ShowAsDesigned(const MapDesign& design, Page& page, RasterStore& rasters) {
+    for (PageItem& item : page.Items()) {
+        auto* const map = std::get_if<MapFrame>(&item);
+        if (map != nullptr && (design.extent || design.scale)) {
+            map->extent = design.extent;
+            map->scale = design.scale.value_or(map->scale);
+            OpenRasters(item, rasters);
+        }
+    }
+}
+
+}  // namespace
 
 OpenedPage OpenPageFile(const std::string& path, const PageChanges& changes,
                         const std::function<void(const Page&)>& beforeRasters) {
@@ -21,8 +36,9 @@ OpenedPage OpenPageFile(const std::string& path, const PageChanges& changes,
             beforeRasters(page);
         }
         auto rasters = std::make_unique<RasterStore>();
-        ChangeAndOpen(page, changes, *rasters);
+        const std::vector<std::string> untrue = ChangeAndOpen(page, changes, *rasters);
         std::vector<std::string> remarks = RemarksOfLeftOut(page);
+        remarks.insert(remarks.end(), untrue.begin(), untrue.end());
         return OpenedPage{std::move(rasters), std::move(page), std::move(remarks)};
     });
 }
@@ -30,11 +46,12 @@ OpenedPage OpenPageFile(const std::string& path, const PageChanges& changes,
 OpenedPage LayOutRasters(const std::vector<std::string>& paths,
                          const PageDesign& design) {
     auto rasters = std::make_unique<RasterStore>();
-    const std::shared_ptr<MapLayers> map = rasters->Map(paths, std::nullopt);
+    const std::shared_ptr<MapLayers> map = rasters->Map(paths, design.map.extent);
     LaidOutPage laidOut = LayOut(design, DescribeMap(map, paths, *rasters));
     std::vector<std::string> remarks = RemarksOfLeftOut(laidOut.page);
     remarks.insert(remarks.end(), laidOut.remarks.begin(), laidOut.remarks.end());
     NameRasters(laidOut.page, paths);
+    ShowAsDesigned(design.map, laidOut.page, *rasters);
     return {std::move(rasters), std::move(laidOut.page), std::move(remarks)};
 }
 

@@ -70,6 +70,10 @@ void Change(host::Page& page, const PageChanges& changes) {
         if (extent != nullptr && changes.extent) {
             extent->write(item, changes.extent);
         }
+        const host::Property* const scale = PropertyOf(item, "scale");
+        if (scale != nullptr && changes.scale) {
+            scale->write(item, *changes.scale);
+        }
         for (const auto& [name, text] : changes.texts) {
             SetText(item, name, text);
         }
@@ -116,14 +120,14 @@ void FitLegend(const LegendPlace& place) {
 
 }  // namespace
 
-void ChangeAndOpen(host::Page& page, const PageChanges& changes,
-                   host::RasterStore& store) {
+std::vector<std::string> ChangeAndOpen(host::Page& page, const PageChanges& changes,
+                                       host::RasterStore& store) {
     Change(page, changes);
     const std::vector<LegendPlace> legends =
         changes.rasters.empty() ? std::vector<LegendPlace>() : ForgetLegendSizes(page);
     host::OpenRasters(page, store);
     std::for_each(legends.begin(), legends.end(), FitLegend);
-    host::FitToMap(page);
+    return host::FitToMap(page);
 }
 
 bool HasText(const host::Page& page, const std::string& name) {

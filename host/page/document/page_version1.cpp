@@ -15,6 +15,8 @@ namespace {
 
 using nlohmann::json;
 
+constexpr const char* kExactKey = "exact";  // of scale bars
+
 /// "#AARRGGBB" as "#RRGGBBAA".
 std::string AlphaLast(const std::string& text) {
     constexpr std::size_t kLength = 9;
@@ -50,6 +52,9 @@ void UpgradeElement(json& element, const std::string& place) {
                                       : nullptr;
     if (known != nullptr) {
         UpgradeColours(element, known->properties, place);
+        if (FindProperty(known->properties, kExactKey) != nullptr) {
+            element[kExactKey] = false;
+        }
     }
     const auto frame = element.find(kFrameKey);
     if (frame != element.end() && frame->is_object()) {

@@ -12,6 +12,7 @@
 #include "page/element_of.h"
 #include "page/layout/fit_to_map.h"
 #include "page/map/map_geometry.h"
+#include "page/map/shown_map.h"
 #include "page/placed_frame.h"
 #include "system/fonts.h"
 #include "system/utf8.h"
@@ -34,6 +35,23 @@ void Placing(const std::string& place, Step step) {
     }
 }
 
+/// What a map shows: as much more than its extent as its frame has room for, or what its
+/// frame holds at the scale that it keeps.
+Box ShownOf(const MapFrame& map, const MapLayers& layers) {
+    const CBoundingBox box = map.frame.GetExtent();
+    if (!(map.scale > 0.0)) {
+        return Widened(layers.Extent(), box.GetWidth() / box.GetHeight());
+    }
+    const std::optional<Box> shown = ExtentAtScale(
+        layers.Projection(), layers.Extent(), map.scale, box.GetWidth(), box.GetHeight());
+    if (!shown) {
+        throw PageError("",
+                        "no scale can be kept, for no coordinate system is known for the "
+                        "middle of the map");
+    }
+    return *shown;
+}
+
 /// A map that is not stretched: where its frame has other proportions, it shows more.
 std::shared_ptr<MapPicture> PictureOf(const MapFrame& map, RasterStore& store) {
     std::shared_ptr<MapLayers> layers = store.Map(map.rasterPaths, map.extent);
@@ -41,8 +59,7 @@ std::shared_ptr<MapPicture> PictureOf(const MapFrame& map, RasterStore& store) {
     if (!layers->IsPlaced() || !(ratio * kLongestMap >= 1.0 && ratio <= kLongestMap)) {
         return layers;
     }
-    const CBoundingBox box = map.frame.GetExtent();
-    const Box shown = Widened(layers->Extent(), box.GetWidth() / box.GetHeight());
+    const Box shown = ShownOf(map, *layers);
     return shown.Width() == layers->Extent().Width() &&
                    shown.Height() == layers->Extent().Height()
                ? layers

@@ -2,13 +2,19 @@
 
 #include <cmath>
 #include <memory>
+#include <optional>
+#include <string>
+#include <vector>
 
 #include "map_surround/north_arrow.h"
 #include "map_surround/scale_bar.h"
 #include "page/element_of.h"
+#include "page/layout/bar_on_map.h"
 #include "page/layout/scale_division.h"
 #include "page/map/map_geometry.h"
 #include "page/map/map_layers.h"
+#include "page/map/shown_map.h"
+#include "page/numeric_scale.h"
 #include "page/placed_frame.h"
 
 namespace host {
@@ -21,85 +27,182 @@ constexpr double kNearlyTrue = 1.0e-9;
 
 constexpr double kMetresInAKilometre = 1000.0;
 
-/// The map that a page speaks of.
-struct ShownMap {
-    const MapLayers* layers = nullptr;
-    double perPageUnit = 0.0;  // map units
+/// The map that a page speaks of: the first that is open and has coordinates.
+struct SpokenOf {
+    const MapFrame* frame = nullptr;
+    ShownMap shown;
 };
 
-ShownMap MapOf(const Page& page) {
+std::optional<SpokenOf> MapOf(const Page& page) {
     for (const PageItem& item : page.Items()) {
         const auto* const map = std::get_if<MapFrame>(&item);
         const auto* const layers =
             map == nullptr ? nullptr : dynamic_cast<const MapLayers*>(map->picture.get());
         const double width = map == nullptr ? 0.0 : map->frame.GetExtent().GetWidth();
         if (layers != nullptr && layers->IsPlaced() && width > 0.0) {
-            return {layers, layers->Extent().Width() / width};
+            return SpokenOf{map, {layers->Projection(), layers->Extent(), width}};
         }
     }
-    return {};
+    return std::nullopt;
 }
 
-/// How much of the bar's unit one page unit is; none where that is not known.
-std::optional<double> UnitsPerPageUnit(const ScaleBarFrame& frame,
-                                       const CScaleBarBase& bar, const ShownMap& map) {
-    if (frame.GetBarDistances() == BarDistances::Map) {
-        return map.perPageUnit;
+/// Pages of version 1 have bars that are not exact: their divisions are of one digit, and
+/// what they count is the type of their unit.
+void FitAsInVersion1(ScaleBarFrame& frame, const CScaleBarBase& bar,
+                     const ShownMap& map) {
+    const bool isKilometre = bar.GetDestUnitType() == MeasureKilometer &&
+                             frame.GetBarDistances() == BarDistances::Ground;
+    double perPageUnit = map.MapUnitsPerPageUnit();
+    if (frame.GetBarDistances() == BarDistances::Ground) {
+        const std::optional<MapGround> ground = MapGround::Of(map.projection, map.extent);
+        const double step = map.extent.Width() / 1000.0;
+        const std::optional<double> metres = ground ? ground->Metres(step) : std::nullopt;
+        if (!metres) {
+            return;
+        }
+        perPageUnit *= *metres / step / (isKilometre ? kMetresInAKilometre : 1.0);
     }
-    const std::optional<double> metres =
-        GroundMetresPerUnit(map.layers->Projection(), map.layers->Extent());
-    if (!metres) {
-        return std::nullopt;
-    }
-    const double unit =
-        bar.GetDestUnitType() == MeasureKilometer ? kMetresInAKilometre : 1.0;
-    return map.perPageUnit * *metres / unit;
-}
-
-void FitBar(ScaleBarFrame& frame, const CScaleBarBase& bar, const ShownMap& map) {
-    if (frame.GetBarDistances() == BarDistances::Fixed) {
-        return;
-    }
-    const std::optional<double> perPageUnit = UnitsPerPageUnit(frame, bar, map);
     const double told = frame.DivisionValue();
     const double length = frame.DivisionLength();
-    if (!perPageUnit || !(length > 0.0) ||
-        std::fabs(length * *perPageUnit - told) <= kNearlyTrue * told) {
+    if (!(length > 0.0) || std::fabs(length * perPageUnit - told) <= kNearlyTrue * told) {
         return;
     }
-    const Division division = DivisionOf(length, *perPageUnit);
+    const Division division = DivisionOf(length, perPageUnit);
     frame.SetDivisionValue(division.value);
     frame.SetDivisionLength(division.length);
 }
 
-void FitArrow(const NorthArrowFrame& frame, CNorthArrowBase& arrow, const ShownMap& map) {
-    const std::optional<double> angle =
-        frame.TrueNorth() ? TrueNorthAt(map.layers->Projection(), map.layers->Extent())
-                          : std::nullopt;
+/// The unit that a bar counts in now: of a choice by length, the one that it names.
+DistanceUnit CountedUnit(const ScaleBarFrame& frame, const CScaleBarBase& bar) {
+    for (const DistanceUnitFacts& facts : DistanceUnits()) {
+        if (!IsByLength(facts.unit) && IsByLength(frame.Unit()) &&
+            bar.GetUnitsName() == facts.sign) {
+            return facts.unit;
+        }
+    }
+    return UnitFor(frame.Unit(), 0.0);
+}
+
+/// Whether the whole bar stands for what it says.
+bool IsTrue(const ScaleBarFrame& frame, const CScaleBarBase& bar, const ShownMap& map,
+            const BarMeasure& measure) {
+    const int divisions = bar.GetMainDivCount();
+    const double said = frame.DivisionValue() * FactsOf(CountedUnit(frame, bar)).size;
+    const std::optional<double> length =
+        measure.Length(frame.DivisionLength() * divisions * map.MapUnitsPerPageUnit());
+    return length && divisions > 0 &&
+           std::fabs(*length - said * divisions) <= kNearlyTrue * *length;
+}
+
+void FitBarToMap(ScaleBarFrame& frame, CScaleBarBase& bar, const ShownMap& map,
+                 std::vector<std::string>& remarks) {
+    if (frame.GetBarDistances() == BarDistances::Fixed) {
+        return;
+    }
+    if (!frame.IsExact()) {
+        FitAsInVersion1(frame, bar, map);
+        return;
+    }
+    std::string why;
+    const std::optional<BarMeasure> measure =
+        MeasureFor(map, frame.GetBarDistances(), frame.Unit(), why);
+    if (measure && IsTrue(frame, bar, map, *measure)) {
+        return;
+    }
+    const double asItIs = frame.DivisionLength() * bar.GetMainDivCount();
+    const DistanceUnit unit =
+        frame.Fit() == BarFit::Value ? CountedUnit(frame, bar) : frame.Unit();
+    const std::optional<BarOnMap> fitted =
+        measure ? FitBar(map, *measure, unit, frame.Fit(), frame.DivisionValue(),
+                         bar.GetMainDivCount(),
+                         frame.Longest() > 0.0 ? frame.Longest() : asItIs)
+                : std::nullopt;
+    if (fitted) {
+        SetDivisions(frame, bar, *fitted);
+        return;
+    }
+    remarks.push_back(frame.Name() + ": the scale bar is not true to the map: " +
+                      (why.empty() ? "none fits within its width" : why));
+}
+
+void FitArrow(const NorthArrowFrame& frame, CNorthArrowBase& arrow, const ShownMap& map,
+              std::vector<std::string>& remarks) {
+    if (!frame.TrueNorth()) {
+        return;
+    }
+    const std::optional<MapGround> ground = MapGround::Of(map.projection, map.extent);
+    const std::optional<double> angle = ground ? ground->TrueNorth() : std::nullopt;
     if (angle) {
         arrow.SetAngle(static_cast<float>(*angle));
+        return;
+    }
+    remarks.push_back(frame.Name() +
+                      ": the north arrow is not turned to true north: the map's "
+                      "coordinate system does not tell where that is");
+}
+
+/// The length of a page's first scale bar that is true to the map, page units; 0 for
+/// none.
+double BarLength(const Page& page) {
+    for (const PageItem& item : page.Items()) {
+        const auto* const frame = FrameAs<ScaleBarFrame>(item);
+        const auto* const bar = ElementOf<CScaleBarBase>(item);
+        if (frame != nullptr && bar != nullptr &&
+            frame->GetBarDistances() == BarDistances::Ground) {
+            return frame->DivisionLength() * bar->GetMainDivCount();
+        }
+    }
+    return 0.0;
+}
+
+void FitNumericScale(const PlacedFrame& frame, NumericScale& text, const SpokenOf& map,
+                     double barLength, std::vector<std::string>& remarks) {
+    const std::optional<double> scale =
+        map.frame->scale > 0.0 ? map.frame->scale : ScaleOf(map.shown, barLength);
+    if (!scale) {
+        remarks.push_back(frame.Name() +
+                          ": the numeric scale is not that of the map, whose coordinate "
+                          "system is not known");
+        return;
+    }
+    const double rounded =
+        map.frame->scale > 0.0 ? *scale : NumericScale::Rounded(*scale);
+    if (rounded != text.Denominator()) {
+        text.SetDenominator(rounded);
+        text.ResetAspectRatio();
     }
 }
 
 }  // namespace
 
-void FitToMap(Page& page) {
-    const ShownMap map = MapOf(page);
-    if (map.layers == nullptr) {
-        return;
+std::vector<std::string> FitToMap(Page& page) {
+    std::vector<std::string> remarks;
+    const std::optional<SpokenOf> map = MapOf(page);
+    if (!map) {
+        return remarks;
     }
     for (PageItem& item : page.Items()) {
         auto* const barFrame = FrameAs<ScaleBarFrame>(item);
-        const auto* const bar = ElementOf<CScaleBarBase>(item);
+        auto* const bar = ElementOf<CScaleBarBase>(item);
         if (barFrame != nullptr && bar != nullptr) {
-            FitBar(*barFrame, *bar, map);
+            FitBarToMap(*barFrame, *bar, map->shown, remarks);
         }
         const auto* const arrowFrame = FrameAs<NorthArrowFrame>(item);
         auto* const arrow = ElementOf<CNorthArrowBase>(item);
         if (arrowFrame != nullptr && arrow != nullptr) {
-            FitArrow(*arrowFrame, *arrow, map);
+            FitArrow(*arrowFrame, *arrow, map->shown, remarks);
         }
     }
+    // Over the length of the bar, which has its own now.
+    const double barLength = BarLength(page);
+    for (PageItem& item : page.Items()) {
+        const auto* const frame = FrameAs<PlacedFrame>(item);
+        auto* const scale = ElementOf<NumericScale>(item);
+        if (frame != nullptr && scale != nullptr) {
+            FitNumericScale(*frame, *scale, *map, barLength, remarks);
+        }
+    }
+    return remarks;
 }
 
 Box Widened(const Box& extent, double aspectRatio) {

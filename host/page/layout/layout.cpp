@@ -15,22 +15,22 @@ struct Body {
 };
 
 /// The panel to the right of the map and as high, both together in the middle.
-Body PanelBeside(const Box& room, double aspectRatio, const Measures& measures) {
+Body PanelBeside(const Box& room, const MapShape& shape, const Measures& measures) {
     Box left = room;
     left.right -= measures.gap + measures.panel;
     Body body;
-    body.map = FitMap(left, aspectRatio);
+    body.map = FitMap(left, shape);
     body.panel = {body.map.right + measures.gap, body.map.bottom,
                   body.map.right + measures.gap + measures.panel, body.map.top};
     return body;
 }
 
 /// The map on top, the panel as wide below it, down to the end of the room.
-Body PanelBelow(const Box& room, double aspectRatio, const Measures& measures) {
+Body PanelBelow(const Box& room, const MapShape& shape, const Measures& measures) {
     Box above = room;
     above.bottom += measures.gap + measures.panel;
     Body body;
-    body.map = FitMap(above, aspectRatio);
+    body.map = FitMap(above, shape);
     const double rise = room.top - body.map.top;
     body.map.bottom += rise;
     body.map.top += rise;
@@ -42,13 +42,14 @@ Body PanelBelow(const Box& room, double aspectRatio, const Measures& measures) {
 /// The panel goes where it leaves the larger map.
 Body Divide(const PageDesign& design, const MapOnPage& map, const Box& room,
             const Measures& measures) {
-    const double aspectRatio = map.aspectRatio;
+    const MapShape shape = ShapeOf(design.map, map);
     if (!HasPanel(design, map)) {
-        return {FitMap(room, aspectRatio), {}};
+        return {FitMap(room, shape), {}};
     }
-    const Body beside = PanelBeside(room, aspectRatio, measures);
-    const Body below = PanelBelow(room, aspectRatio, measures);
-    return beside.map.Height() >= below.map.Height() ? beside : below;
+    const Body beside = PanelBeside(room, shape, measures);
+    const Body below = PanelBelow(room, shape, measures);
+    const auto size = [](const Box& box) { return box.Width() * box.Height(); };
+    return size(beside.map) >= size(below.map) ? beside : below;
 }
 
 /// A panel with a picture only may be narrower than one with texts.
@@ -63,6 +64,18 @@ Measures MeasuresFor(const PageDesign& design, const MapOnPage& map) {
 void AddUnlessEmpty(Page& page, std::unique_ptr<CSurroundFrame> frame) {
     if (frame != nullptr) {
         page.Add(std::move(frame));
+    }
+}
+
+/// A map at a scale may be larger than there is room for.
+void TellWhatIsCutOff(const MapDesign& design, const MapOnPage& map,
+                      const ShownMap& shown, std::vector<std::string>& remarks) {
+    constexpr double kNothing = 1e-6;  // of the map
+    if (design.scale && map.extent &&
+        (shown.extent.Width() < map.extent->Width() * (1.0 - kNothing) ||
+         shown.extent.Height() < map.extent->Height() * (1.0 - kNothing))) {
+        remarks.emplace_back(
+            "the map is larger than the sheet at this scale: only its middle is shown");
     }
 }
 
@@ -81,7 +94,9 @@ LaidOutPage LayOut(const PageDesign& design, const MapOnPage& map) {
     result.page.Add(PlaceNeatLine(design.paper, measures));
     result.page.Add(PlaceMap(body.map, map.picture, measures));
     AddUnlessEmpty(result.page, std::move(title));
-    FillPanel(result.page, design, map, body.map, measures, body.panel, result.remarks);
+    const ShownMap shown = Shown(design.map, map, body.map);
+    TellWhatIsCutOff(design.map, map, shown, result.remarks);
+    FillPanel(result.page, design, map, shown, measures, body.panel, result.remarks);
     return result;
 }
 

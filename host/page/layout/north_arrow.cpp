@@ -8,19 +8,24 @@
 namespace host {
 namespace {
 
-double AngleOf(const NorthArrowDesign& design, const MapOnPage& map,
-               std::vector<std::string>& remarks) {
-    if (!design.trueNorth) {
+/// The direction of north, where there is one to be told.
+std::optional<double> AngleOf(const NorthArrowDesign& design, const ShownMap& shown,
+                              std::vector<std::string>& remarks) {
+    if (design.angle) {
         return design.angle;
     }
-    const std::optional<double> angle =
-        map.extent ? TrueNorthAt(map.projection, *map.extent) : std::nullopt;
+    const std::optional<MapGround> ground = MapGround::Of(shown.projection, shown.extent);
+    const std::optional<double> angle = ground ? ground->TrueNorth() : std::nullopt;
     if (!angle) {
         remarks.emplace_back(
-            "the direction of true north is unknown, for the map has no coordinate "
-            "system");
+            shown.projection.empty()
+                ? "the north arrow is left out: the map has no coordinate system that "
+                  "tells where north is"
+                : "the north arrow is left out: the coordinate system does not tell "
+                  "where "
+                  "north is in the middle of the map");
     }
-    return angle.value_or(0.0);
+    return angle;
 }
 
 }  // namespace
@@ -31,7 +36,7 @@ const CatalogueEntry* NorthArrowStyleOn(const PageDesign& design, const MapOnPag
 }
 
 std::unique_ptr<PlacedFrame> PlaceNorthArrow(const PageDesign& design,
-                                             const MapOnPage& map,
+                                             const MapOnPage& map, const ShownMap& shown,
                                              const Measures& measures, const Box& room,
                                              std::vector<std::string>& remarks) {
     const CatalogueEntry* const style = NorthArrowStyleOn(design, map);
@@ -41,17 +46,21 @@ std::unique_ptr<PlacedFrame> PlaceNorthArrow(const PageDesign& design,
     if (arrow == nullptr || side <= 2.0 * space) {
         return nullptr;
     }
+    const std::optional<double> angle = AngleOf(design.northArrow, shown, remarks);
+    if (!angle) {
+        return nullptr;
+    }
     // All styles keep within a square of their size, and a turned one within its
     // diagonal.
     arrow->SetSize(static_cast<int>(side - 2.0 * space));
     arrow->SetFrontColor(Gdiplus::Color(kInkColor));
-    arrow->SetAngle(static_cast<float>(AngleOf(design.northArrow, map, remarks)));
+    arrow->SetAngle(static_cast<float>(*angle));
     const Box extent = {room.left, room.bottom, room.left + side, room.bottom + side};
     const InkBox ink = MeasureInk(*arrow);
     auto frame = std::make_unique<NorthArrowFrame>(std::move(arrow));
     Decorate(*frame, extent, design.frames, measures);
     frame->SetName("north arrow");
-    frame->SetTrueNorth(design.northArrow.trueNorth);
+    frame->SetTrueNorth(!design.northArrow.angle);
     frame->SetElementOffset((ink.left - ink.right) / 2.0, (ink.down - ink.up) / 2.0);
     return frame;
 }

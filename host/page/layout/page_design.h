@@ -7,7 +7,9 @@
 
 #include "map_surround/scale_bar.h"
 #include "map_surround/title.h"
+#include "page/box.h"
 #include "page/catalogue.h"
+#include "page/map/shown_map.h"
 #include "page/paper.h"
 
 namespace host {
@@ -39,14 +41,20 @@ struct ScaleBarDesign {
     int divisions = 4;
     int subdivisions = 2;  ///< ticks between two main ones
     ScaleBarPostion unitPosition = UnitPosAfter;
-    std::optional<std::wstring> units;  ///< else what the coordinate system counts in
-    bool ground = false;                ///< lengths on the ellipsoid, not on the map
+    BarDistances distances = BarDistances::Ground;  ///< or Map
+    std::optional<DistanceUnit> unit;               ///< else UsualUnit
+    std::optional<std::wstring> unitName;           ///< else the unit's sign
+    bool numeric = false;  ///< the scale in figures, under the bar
 };
 
 struct NorthArrowDesign {
     StyleChoice style;
-    double angle = 0.0;      ///< degrees clockwise
-    bool trueNorth = false;  ///< the direction of true north instead
+    std::optional<double> angle;  ///< degrees clockwise; else towards true north
+};
+
+struct MapDesign {
+    std::optional<Box> extent;    ///< the part that is shown; else all of it
+    std::optional<double> scale;  ///< its denominator; else as large as there is room
 };
 
 struct LegendDesign {
@@ -61,6 +69,7 @@ struct PageDesign {
     FrameStyle frames;
     TitleDesign title;
     PictureDesign picture;
+    MapDesign map;
     ScaleBarDesign scaleBar;
     NorthArrowDesign northArrow;
     LegendDesign legend;

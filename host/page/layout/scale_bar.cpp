@@ -2,81 +2,61 @@
 #include <cmath>
 
 #include "map_surround/scale_bar.h"
-#include "page/layout/scale_division.h"
+#include "page/element_of.h"
+#include "page/layout/bar_on_map.h"
 #include "page/layout/steps.h"
-#include "page/map/map_geometry.h"
+#include "page/numeric_scale.h"
 
 namespace host {
 namespace {
 
-/// What the bar counts: how much of its unit one page unit is, and the unit's name.
-struct Measurement {
-    double perPageUnit;
-    std::wstring unit;
-    CommonMeasureUnits type;
-    bool isGround = false;
+// A page is not told from another by less; more is told, for maps in degrees.
+constexpr double kNearlyConformal = 0.01;
+
+/// What a bar is to be made with, and how the map is measured for it.
+struct Plan {
+    std::unique_ptr<ScaleBarFrame> frame;
+    CScaleBarBase* bar = nullptr;
+    BarMeasure measure;
 };
 
-constexpr double kKilometresFrom = 10'000.0;  // metres that the whole bar stands for
-
-CommonMeasureUnits TypeOf(MapUnit unit) {
-    switch (unit) {
-        case MapUnit::Metre:
-            return MeasureMeter;
-        case MapUnit::Degree:
-            return MeasureDegree;
-        case MapUnit::Unknown:
-            break;
+std::optional<Plan> PlanBar(const CatalogueEntry& style, const ScaleBarDesign& design,
+                            const ShownMap& map, const Measures& measures,
+                            std::vector<std::string>& remarks) {
+    const DistanceUnit unit =
+        design.unit.value_or(UsualUnit(map.projection, design.distances));
+    std::string why;
+    const std::optional<BarMeasure> measure =
+        MeasureFor(map, design.distances, unit, why);
+    if (!measure) {
+        remarks.push_back("the scale bar is left out: it cannot count " +
+                          std::string(FactsOf(unit).about) + ", for " + why);
+        return std::nullopt;
     }
-    return MeasureUnknown;
+    auto bar = NewElement<CScaleBarBase>(style);
+    bar->SetSize(static_cast<int>(std::max(1.0, std::round(2.1 * measures.module))));
+    bar->SetFrontColor(Gdiplus::Color(kInkColor));
+    bar->SetMainDivCount(design.divisions);
+    bar->SetSubDivCount(design.subdivisions);
+    bar->SetUnitPos(design.unitPosition);
+    bar->SetUnitsName(design.unitName.value_or(FactsOf(unit).sign));
+    Plan plan{std::make_unique<ScaleBarFrame>(std::move(bar)), nullptr, *measure};
+    plan.bar = ElementOf<CScaleBarBase>(*plan.frame);
+    plan.frame->SetUnit(unit);
+    plan.frame->SetBarDistances(IsLength(unit) ? design.distances : BarDistances::Map);
+    return plan;
 }
 
-const wchar_t* NameOf(MapUnit unit) {
-    switch (unit) {
-        case MapUnit::Metre:
-            return L"meter";
-        case MapUnit::Degree:
-            return L"degree";
-        case MapUnit::Unknown:
-            break;
+/// A scale that another direction does not have is told.
+void TellDirection(const ShownMap& map, std::vector<std::string>& remarks) {
+    const std::optional<MapGround> ground = MapGround::Of(map.projection, map.extent);
+    const std::optional<double> stretch = ground ? ground->UpwardStretch() : std::nullopt;
+    if (stretch && std::fabs(*stretch - 1.0) > kNearlyConformal) {
+        remarks.push_back(
+            "the scale is that from left to right in the middle of the map; upwards the "
+            "map is drawn " +
+            std::to_string(std::lround(*stretch * 100.0)) + " % as long");
     }
-    return L"unknown";
-}
-
-/// @param barLength page units, about
-Measurement Measure(const ScaleBarDesign& design, const MapOnPage& map,
-                    const Box& mapRoom, double barLength,
-                    std::vector<std::string>& remarks) {
-    const MapUnit mapUnit = UnitOf(map.projection);
-    Measurement result{map.extent->Width() / mapRoom.Width(), NameOf(mapUnit),
-                       TypeOf(mapUnit)};
-    if (design.ground) {
-        const std::optional<double> metres =
-            GroundMetresPerUnit(map.projection, *map.extent);
-        if (metres) {
-            result = {result.perPageUnit * *metres, L"meter", MeasureMeter, true};
-            if (result.perPageUnit * barLength >= kKilometresFrom) {
-                result = {result.perPageUnit / 1000.0, L"Kilometer", MeasureKilometer,
-                          true};
-            }
-        } else {
-            remarks.emplace_back(
-                "lengths on the ground are unknown, for the map has no coordinate "
-                "system");
-        }
-    }
-    if (design.units) {
-        result.unit = *design.units;
-    }
-    return result;
-}
-
-InkBox SetDivisions(CScaleBarBase& bar, const Division& division) {
-    bar.SetPaper2DataScale(division.value);
-    bar.SetScreen2PaperByOneScale(division.length);
-    bar.SetPaper2ScreenScale(division.length);  // for measuring at scale 1
-    bar.ResetAspectRatio();
-    return MeasureInk(bar);
 }
 
 }  // namespace
@@ -87,47 +67,74 @@ const CatalogueEntry* ScaleBarStyleOn(const PageDesign& design, const MapOnPage&
 }
 
 std::unique_ptr<PlacedFrame> PlaceScaleBar(const PageDesign& design, const MapOnPage& map,
-                                           const Box& mapRoom, const Measures& measures,
-                                           const Box& room,
+                                           const ShownMap& shown,
+                                           const Measures& measures, const Box& room,
                                            std::vector<std::string>& remarks) {
-    const ScaleBarDesign& scaleBar = design.scaleBar;
-    const double space = 1.2 * measures.module;
     const CatalogueEntry* const style = ScaleBarStyleOn(design, map);
-    const double most = room.Width() - space;
-    auto bar = style == nullptr ? nullptr : NewElement<CScaleBarBase>(*style);
-    if (bar == nullptr || most <= 0.0) {
+    const double most = room.Width() - 1.2 * measures.module;
+    if (style == nullptr || most <= 0.0) {
         return nullptr;
     }
-    bar->SetSize(static_cast<int>(std::max(1.0, std::round(2.1 * measures.module))));
-    bar->SetFrontColor(Gdiplus::Color(kInkColor));
-    bar->SetMainDivCount(scaleBar.divisions);
-    bar->SetSubDivCount(scaleBar.subdivisions);
-    bar->SetUnitPos(scaleBar.unitPosition);
-
-    const Measurement measurement = Measure(scaleBar, map, mapRoom, most, remarks);
-    bar->SetUnitsName(measurement.unit);
-    bar->SetDestUnitType(measurement.type);
-
+    std::optional<Plan> plan = PlanBar(*style, design.scaleBar, shown, measures, remarks);
+    if (!plan) {
+        return nullptr;
+    }
     // Labels and unit name stand out from the divisions, so make these smaller until all
     // of it fits.
-    double length = most / std::max(1, scaleBar.divisions);
-    Division division = DivisionOf(length, measurement.perPageUnit);
-    InkBox ink = SetDivisions(*bar, division);
-    for (int i = 0; i < 40 && ink.Width() > most; ++i) {
-        length *= 0.95;
-        division = DivisionOf(length, measurement.perPageUnit);
-        ink = SetDivisions(*bar, division);
+    InkBox ink;
+    double longest = most;
+    for (int i = 0; i < 60 && (i == 0 || ink.Width() > most); ++i, longest *= 0.95) {
+        const std::optional<BarOnMap> divisions =
+            FitBar(shown, plan->measure, plan->frame->Unit(), BarFit::Count, 0.0,
+                   design.scaleBar.divisions, longest);
+        if (!divisions) {
+            break;
+        }
+        if (design.scaleBar.unitName && IsByLength(plan->frame->Unit())) {
+            plan->frame->SetUnit(divisions->unit);  // a name goes with one unit only
+        }
+        SetDivisions(*plan->frame, *plan->bar, *divisions);
+        plan->bar->ResetAspectRatio();
+        ink = MeasureInk(*plan->frame);
+        plan->frame->SetLongest(longest);
     }
+    if (ink.IsEmpty()) {
+        remarks.emplace_back("the scale bar is left out: there is no room for it");
+        return nullptr;
+    }
+    TellDirection(shown, remarks);
+    FrameInk(*plan->frame, ink, room, At::Bottom, design.frames, measures);
+    plan->frame->SetName("scale bar");
+    return std::move(plan->frame);
+}
+
+std::unique_ptr<PlacedFrame> PlaceNumericScale(const PageDesign& design,
+                                               const ShownMap& shown, double barLength,
+                                               const Measures& measures, const Box& room,
+                                               std::vector<std::string>& remarks) {
+    if (!design.scaleBar.numeric) {
+        return nullptr;
+    }
+    const std::optional<double> scale =
+        design.map.scale ? design.map.scale : ScaleOf(shown, barLength);
+    if (!scale) {
+        remarks.emplace_back(
+            "the numeric scale is left out: the map has no coordinate system that "
+            "reaches its middle");
+        return nullptr;
+    }
+    auto text = std::make_unique<NumericScale>();
+    text->SetFontSize(0.75 * measures.module);
+    text->SetFrontColor(Gdiplus::Color(kInkColor));
+    text->SetDenominator(design.map.scale ? *scale : NumericScale::Rounded(*scale));
+    text->ResetAspectRatio();
+    auto frame = std::make_unique<PlacedFrame>(std::move(text));
+    const InkBox ink = MeasureInk(*frame);
     if (ink.IsEmpty()) {
         return nullptr;
     }
-    auto frame = std::make_unique<ScaleBarFrame>(std::move(bar));
     FrameInk(*frame, ink, room, At::Bottom, design.frames, measures);
-    frame->SetName("scale bar");
-    frame->SetBarDistances(measurement.isGround ? BarDistances::Ground
-                                                : BarDistances::Map);
-    frame->SetDivisionLength(division.length);
-    frame->SetDivisionValue(division.value);
+    frame->SetName("numeric scale");
     return frame;
 }
 

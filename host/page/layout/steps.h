@@ -46,8 +46,22 @@ std::unique_ptr<CSurroundFrame> PlaceTitle(const PageDesign& design,
 std::unique_ptr<CSurroundFrame> PlaceNeatLine(const PaperSize& paper,
                                               const Measures& measures);
 
-/// The largest room of the map's proportions, in the middle of the one given.
-Box FitMap(const Box& room, double aspectRatio);
+/// How a map may lie in a room.
+struct MapShape {
+    double aspectRatio = 1.0;  ///< width divided by height
+    /// At a scale that is asked for: the size of all of the map, which may be cut off.
+    std::optional<PaperSize> atScale = std::nullopt;
+};
+
+/// The shape of a map on a page. Throws std::runtime_error where the scale that is asked
+/// for cannot be kept.
+MapShape ShapeOf(const MapDesign& design, const MapOnPage& map);
+
+/// The largest room for the map, in the middle of the one given.
+Box FitMap(const Box& room, const MapShape& shape);
+
+/// What the map shows in its frame.
+ShownMap Shown(const MapDesign& design, const MapOnPage& map, const Box& frame);
 
 /// The map in its own border.
 MapFrame PlaceMap(const Box& extent, std::shared_ptr<MapPicture> picture,
@@ -68,16 +82,23 @@ std::unique_ptr<LegendFrame> PlaceLegend(const PageDesign& design, const MapOnPa
 
 /// A scale bar that is true to the map, at most as wide as the room, at its bottom left.
 /// Null when none is wanted or the map has no extent.
-/// @param mapRoom where the map stands on the page
 std::unique_ptr<PlacedFrame> PlaceScaleBar(const PageDesign& design, const MapOnPage& map,
-                                           const Box& mapRoom, const Measures& measures,
-                                           const Box& room,
+                                           const ShownMap& shown,
+                                           const Measures& measures, const Box& room,
                                            std::vector<std::string>& remarks);
 
+/// The map's scale in figures, at the bottom left of the room. Null when it is not
+/// wanted, or not known.
+/// @param barLength of the scale bar, page units, 0 for none
+std::unique_ptr<PlacedFrame> PlaceNumericScale(const PageDesign& design,
+                                               const ShownMap& shown, double barLength,
+                                               const Measures& measures, const Box& room,
+                                               std::vector<std::string>& remarks);
+
 /// A north arrow in a square frame at the bottom left of the room, at most as large as
-/// it. Null when none is wanted.
+/// it. Null when none is wanted, or nothing is known of where north is.
 std::unique_ptr<PlacedFrame> PlaceNorthArrow(const PageDesign& design,
-                                             const MapOnPage& map,
+                                             const MapOnPage& map, const ShownMap& shown,
                                              const Measures& measures, const Box& room,
                                              std::vector<std::string>& remarks);
 
@@ -97,7 +118,7 @@ bool HasPanel(const PageDesign& design, const MapOnPage& map);
 /// Fills the panel: a high one from the top with the legend, at its bottom scale bar,
 /// north arrow and picture; a wide one from left to right.
 void FillPanel(Page& page, const PageDesign& design, const MapOnPage& map,
-               const Box& mapRoom, const Measures& measures, const Box& panel,
+               const ShownMap& shown, const Measures& measures, const Box& panel,
                std::vector<std::string>& remarks);
 
 /// Places the picture in the bottom right corner of a panel.

@@ -3,8 +3,10 @@
 #include <geodesic.h>
 #include <ogr_spatialref.h>
 
+#include <algorithm>
 #include <cmath>
 #include <memory>
+#include <utility>
 
 namespace host {
 namespace {
@@ -22,52 +24,61 @@ struct MapPoint {
     double y;
 };
 
-/// The way between a map's coordinates and its own ellipsoid.
-class Ellipsoid {
+bool ReadSystem(const std::string& projection, OGRSpatialReference& system) {
+    system.SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
+    return !projection.empty() && system.importFromWkt(projection.c_str()) == OGRERR_NONE;
+}
+
+/// The point elsewhere; none where the transformation does not reach.
+std::optional<MapPoint> Transformed(OGRCoordinateTransformation& way, MapPoint point) {
+    if (way.Transform(1, &point.x, &point.y) == 0 || !std::isfinite(point.x) ||
+        !std::isfinite(point.y)) {
+        return std::nullopt;
+    }
+    return point;
+}
+
+}  // namespace
+
+/// The ellipsoid under a map, and the way there and back.
+class MapGround::Ellipsoid {
 public:
-    static std::optional<Ellipsoid> Of(const std::string& projection) {
+    static std::shared_ptr<const Ellipsoid> Of(const std::string& projection) {
         OGRSpatialReference system;
-        system.SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
-        if (projection.empty() ||
-            system.importFromWkt(projection.c_str()) != OGRERR_NONE) {
-            return std::nullopt;
+        if (!ReadSystem(projection, system)) {
+            return nullptr;
         }
         const std::unique_ptr<OGRSpatialReference> geographic(system.CloneGeogCS());
         if (geographic == nullptr) {
-            return std::nullopt;
+            return nullptr;
         }
         geographic->SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
-        Ellipsoid ellipsoid;
-        ellipsoid.m_toPlace.reset(
+        auto ellipsoid = std::make_shared<Ellipsoid>();
+        ellipsoid->m_toPlace.reset(
             OGRCreateCoordinateTransformation(&system, geographic.get()));
-        ellipsoid.m_toMap.reset(
+        ellipsoid->m_toMap.reset(
             OGRCreateCoordinateTransformation(geographic.get(), &system));
-        if (ellipsoid.m_toPlace == nullptr || ellipsoid.m_toMap == nullptr) {
-            return std::nullopt;
+        if (ellipsoid->m_toPlace == nullptr || ellipsoid->m_toMap == nullptr) {
+            return nullptr;
         }
-        ellipsoid.m_degreesPerUnit = geographic->GetAngularUnits() * kDegrees;
+        ellipsoid->m_degreesPerUnit = geographic->GetAngularUnits() * kDegrees;
         const double inverseFlattening = system.GetInvFlattening();
-        geod_init(&ellipsoid.m_geodesic, system.GetSemiMajor(),
+        geod_init(&ellipsoid->m_geodesic, system.GetSemiMajor(),
                   inverseFlattening == 0.0 ? 0.0 : 1.0 / inverseFlattening);
         return ellipsoid;
     }
 
     std::optional<Place> PlaceOf(MapPoint point) const {
-        if (m_toPlace->Transform(1, &point.x, &point.y) == 0 || !std::isfinite(point.x) ||
-            !std::isfinite(point.y)) {
+        const std::optional<MapPoint> place = Transformed(*m_toPlace, point);
+        if (!place) {
             return std::nullopt;
         }
-        return Place{point.x * m_degreesPerUnit, point.y * m_degreesPerUnit};
+        return Place{place->x * m_degreesPerUnit, place->y * m_degreesPerUnit};
     }
 
     std::optional<MapPoint> PointOf(const Place& place) const {
-        MapPoint point = {place.longitude / m_degreesPerUnit,
-                          place.latitude / m_degreesPerUnit};
-        if (m_toMap->Transform(1, &point.x, &point.y) == 0 || !std::isfinite(point.x) ||
-            !std::isfinite(point.y)) {
-            return std::nullopt;
-        }
-        return point;
+        return Transformed(*m_toMap, {place.longitude / m_degreesPerUnit,
+                                      place.latitude / m_degreesPerUnit});
     }
 
     /// The place that many metres due north.
@@ -78,12 +89,18 @@ public:
         return north;
     }
 
-    /// The length of the geodesic between two places, in metres.
-    double Distance(const Place& a, const Place& b) const {
+    /// The metres along the geodesic between what lies under two points.
+    std::optional<double> Distance(MapPoint a, MapPoint b) const {
+        const std::optional<Place> from = PlaceOf(a);
+        const std::optional<Place> to = PlaceOf(b);
+        if (!from || !to) {
+            return std::nullopt;
+        }
         double metres = 0.0;
-        geod_inverse(&m_geodesic, a.latitude, a.longitude, b.latitude, b.longitude,
-                     &metres, nullptr, nullptr);
-        return metres;
+        geod_inverse(&m_geodesic, from->latitude, from->longitude, to->latitude,
+                     to->longitude, &metres, nullptr, nullptr);
+        return std::isfinite(metres) && metres > 0.0 ? std::optional<double>(metres)
+                                                     : std::nullopt;
     }
 
 private:
@@ -93,62 +110,90 @@ private:
     geod_geodesic m_geodesic = {};
 };
 
-}  // namespace
-
-MapUnit UnitOf(const std::string& projection) {
+CoordinateUnit UnitOf(const std::string& projection) {
     OGRSpatialReference system;
-    if (projection.empty() || system.importFromWkt(projection.c_str()) != OGRERR_NONE) {
-        return MapUnit::Unknown;
+    if (!ReadSystem(projection, system)) {
+        return {};
     }
-    constexpr double kClose = 1e-9;
+    const char* name = nullptr;
     if (system.IsGeographic() != 0) {
-        return std::fabs(system.GetAngularUnits() * kDegrees - 1.0) < kClose
-                   ? MapUnit::Degree
-                   : MapUnit::Unknown;
+        const double degrees = system.GetAngularUnits(&name) * kDegrees;
+        return {CoordinateUnit::Kind::Angle, degrees, name};
     }
-    return system.IsProjected() != 0 && std::fabs(system.GetLinearUnits() - 1.0) < kClose
-               ? MapUnit::Metre
-               : MapUnit::Unknown;
+    const double metres = system.GetLinearUnits(&name);
+    const bool isLength = (system.IsProjected() != 0 || system.IsLocal() != 0) &&
+                          std::isfinite(metres) && metres > 0.0;
+    return isLength ? CoordinateUnit{CoordinateUnit::Kind::Length, metres, name}
+                    : CoordinateUnit{};
 }
 
-std::optional<double> TrueNorthAt(const std::string& projection, const Box& extent) {
-    constexpr double kStep = 10.0;  // metres, short enough for meridians to be straight
-    const std::optional<Ellipsoid> ellipsoid = Ellipsoid::Of(projection);
-    if (!ellipsoid) {
-        return std::nullopt;
-    }
+std::optional<MapGround> MapGround::Of(const std::string& projection, const Box& extent) {
+    std::shared_ptr<const Ellipsoid> ellipsoid = Ellipsoid::Of(projection);
     const MapPoint middle = {extent.MiddleX(), extent.MiddleY()};
-    const std::optional<Place> place = ellipsoid->PlaceOf(middle);
-    if (!place) {
+    if (ellipsoid == nullptr || !ellipsoid->PlaceOf(middle)) {
         return std::nullopt;
     }
+    const double step = std::min(extent.Width(), extent.Height()) / 1000.0;
+    return MapGround(std::move(ellipsoid), middle.x, middle.y, step);
+}
+
+std::optional<double> MapGround::TrueNorth() const {
+    constexpr double kStep = 10.0;  // metres, short enough for meridians to be straight
     // Both points go the same way there and back, so that what that loses cancels out.
-    const std::optional<MapPoint> here = ellipsoid->PointOf(*place);
+    const std::optional<Place> place = m_ellipsoid->PlaceOf({m_x, m_y});
+    const std::optional<MapPoint> here = m_ellipsoid->PointOf(*place);
     const std::optional<MapPoint> north =
-        ellipsoid->PointOf(ellipsoid->NorthOf(*place, kStep));
+        m_ellipsoid->PointOf(m_ellipsoid->NorthOf(*place, kStep));
     if (!here || !north) {
         return std::nullopt;
     }
     return std::atan2(north->x - here->x, north->y - here->y) * kDegrees;
 }
 
-std::optional<double> GroundMetresPerUnit(const std::string& projection,
-                                          const Box& extent) {
-    const std::optional<Ellipsoid> ellipsoid = Ellipsoid::Of(projection);
-    if (!ellipsoid) {
+std::optional<double> MapGround::Metres(double mapUnits) const {
+    const double half = mapUnits / 2.0;
+    return m_ellipsoid->Distance({m_x - half, m_y}, {m_x + half, m_y});
+}
+
+double MapGround::Reach(double most) const {
+    constexpr double kLess = 0.95;
+    constexpr int kMostTries = 200;  // to a thirty-thousandth
+    std::optional<double> metres = Metres(most);
+    for (int i = 0; i < kMostTries; ++i, most *= kLess) {
+        const std::optional<double> shorter = Metres(most * kLess);
+        if (metres && shorter && *metres > *shorter) {
+            return most;
+        }
+        metres = shorter;
+    }
+    return 0.0;
+}
+
+std::optional<double> MapGround::MapUnits(double metres, double most) const {
+    constexpr int kHalvings = 60;  // more than a double has bits
+    double less = 0.0;
+    double more = Reach(most);
+    const std::optional<double> reached = Metres(more);
+    if (!(metres > 0.0) || !reached || metres > *reached) {
         return std::nullopt;
     }
-    const double step = extent.Width() / 1000.0;
-    const std::optional<Place> west =
-        ellipsoid->PlaceOf({extent.MiddleX() - step / 2.0, extent.MiddleY()});
-    const std::optional<Place> east =
-        ellipsoid->PlaceOf({extent.MiddleX() + step / 2.0, extent.MiddleY()});
-    if (!west || !east) {
+    for (int i = 0; i < kHalvings; ++i) {
+        const double middle = less + (more - less) / 2.0;
+        const std::optional<double> length = Metres(middle);
+        (length && *length >= metres ? more : less) = middle;
+    }
+    return more;
+}
+
+std::optional<double> MapGround::UpwardStretch() const {
+    const double half = m_step / 2.0;
+    const std::optional<double> across = Metres(m_step);
+    const std::optional<double> upwards =
+        m_ellipsoid->Distance({m_x, m_y - half}, {m_x, m_y + half});
+    if (!across || !upwards) {
         return std::nullopt;
     }
-    const double metres = ellipsoid->Distance(*west, *east) / step;
-    return std::isfinite(metres) && metres > 0.0 ? std::optional<double>(metres)
-                                                 : std::nullopt;
+    return *across / *upwards;
 }
 
 }  // namespace host

@@ -53,15 +53,15 @@ public:
 
     std::unique_ptr<CSurroundFrame> ScaleBar(const host::CatalogueEntry& style) {
         m_design.scaleBar.style = &style;
-        return host::PlaceScaleBar(m_design, m_map.map, m_map.room, m_measures, m_room,
+        return host::PlaceScaleBar(m_design, m_map.map, Shown(), m_measures, m_room,
                                    m_remarks);
     }
 
     std::unique_ptr<CSurroundFrame> NorthArrow(const host::CatalogueEntry& style) {
         m_design.northArrow.style = &style;
         const double side = m_measures.panel;
-        return host::PlaceNorthArrow(m_design, m_map.map, m_measures, {0, 0, side, side},
-                                     m_remarks);
+        return host::PlaceNorthArrow(m_design, m_map.map, Shown(), m_measures,
+                                     {0, 0, side, side}, m_remarks);
     }
 
     std::unique_ptr<CSurroundFrame> Legend() {
@@ -116,12 +116,14 @@ public:
             host::Inset({0.0, 0.0, m_design.paper.width, m_design.paper.height},
                         m_design.paper.height / 6.0);
         host::MapFrame map =
-            host::PlaceMap(host::FitMap(room, layers->AspectRatio()), layers, m_measures);
+            host::PlaceMap(host::FitMap(room, {layers->AspectRatio()}), layers, m_measures);
         map.rasterPaths = paths;
         return map;
     }
 
 private:
+    host::ShownMap Shown() const { return host::Shown({}, m_map.map, m_map.room); }
+
     /// A legend of nothing shows its title, so that one sees it.
     void Name(CMapLegend& legend) const {
         legend.SetTitleValue(m_design.legend.title);

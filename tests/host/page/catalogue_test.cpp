@@ -144,7 +144,8 @@ TEST_F(CatalogueOnPages, TheUsualStylesAreWhatNobodyChose) {
 
 TEST(Catalogue, EveryEntryIsAnItemTypeInItsPlace) {
     const auto& types = host::ItemTypes();
-    ASSERT_EQ(types.size(), kCatalogue.size() + 2);  // the map and the empty frame
+    // The map and the empty frame before them, the scale in figures after.
+    ASSERT_EQ(types.size(), kCatalogue.size() + 3);
     for (std::size_t i = 0; i < kCatalogue.size(); ++i) {
         EXPECT_STREQ(types[i + 2].name, kCatalogue[i].name);
         EXPECT_EQ(types[i + 2].element, &kCatalogue[i]);

@@ -1,6 +1,7 @@
 #include "map_surround/map_surround.h"
 #include "page/document/tables/subject.h"
 #include "page/document/tables/tables.h"
+#include "page/numeric_scale.h"
 
 namespace host::tables {
 namespace {
@@ -42,6 +43,20 @@ void OpenPicture(PageItem& item, const PropertyValue& value) {
     SubjectOf<CDrawPicture>(item).Open(path.c_str());
 }
 
+/// How a line of text is set.
+std::vector<Property> TypeProperties() {
+    return {
+        Of<&CMapTitle::GetFontStyle, &CMapTitle::SetFontStyle>("font", "Font family",
+                                                               PropertyKind::Font),
+        Within(Of<&CMapTitle::GetFontSize, &CMapTitle::SetFontSize>(
+                   "fontSize", "Em size, page units", PropertyKind::Number),
+               kLengths),
+        OneOf(Of<&CMapTitle::GetFontProcess, &CMapTitle::SetFontProcess>(
+                  "fontStyle", "Style of the font", PropertyKind::Choice),
+              kFontStyles),
+    };
+}
+
 }  // namespace
 
 std::vector<Property> PlacedFrameProperties() {
@@ -79,18 +94,18 @@ std::vector<Property> ElementProperties() {
 }
 
 std::vector<Property> TitleProperties() {
-    return {
-        Of<&CMapTitle::GetFontValue, &CMapTitle::SetFontValue>("text", "The text",
-                                                               PropertyKind::Text),
-        Of<&CMapTitle::GetFontStyle, &CMapTitle::SetFontStyle>("font", "Font family",
-                                                               PropertyKind::Font),
-        Within(Of<&CMapTitle::GetFontSize, &CMapTitle::SetFontSize>(
-                   "fontSize", "Em size, page units", PropertyKind::Number),
-               kLengths),
-        OneOf(Of<&CMapTitle::GetFontProcess, &CMapTitle::SetFontProcess>(
-                  "fontStyle", "Style of the font", PropertyKind::Choice),
-              kFontStyles),
-    };
+    return Join({{Of<&CMapTitle::GetFontValue, &CMapTitle::SetFontValue>(
+                     "text", "The text", PropertyKind::Text)},
+                 TypeProperties()});
+}
+
+std::vector<Property> NumericScaleProperties() {
+    return Join({{Within(Of<&NumericScale::Denominator, &NumericScale::SetDenominator>(
+                             "denominator",
+                             "25000 for 1 : 25 000; follows the map where there is one",
+                             PropertyKind::Number),
+                         {1.0, 1.0e15})},
+                 TypeProperties()});
 }
 
 std::vector<Property> PictureProperties() {

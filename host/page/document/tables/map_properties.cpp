@@ -12,6 +12,12 @@ std::vector<Property> MapProperties() {
         OfField<&MapFrame::extent>("extent",
                                    "The part shown, in map units; null for all of it",
                                    PropertyKind::MapExtent),
+        Within(OfField<&MapFrame::scale>(
+                   "scale",
+                   "The denominator of the scale that the frame keeps, 25000 for "
+                   "1 : 25 000; null for as much of the map as it holds",
+                   PropertyKind::Ratio),
+               {1.0, 1.0e12}),
     };
 }
 

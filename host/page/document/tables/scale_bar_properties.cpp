@@ -13,6 +13,23 @@ constexpr Choice kBarDistances[] = {
     {"ground", static_cast<std::int32_t>(BarDistances::Ground)},
 };
 
+constexpr Choice kFits[] = {
+    {"count", static_cast<std::int32_t>(BarFit::Count)},
+    {"width", static_cast<std::int32_t>(BarFit::Width)},
+    {"value", static_cast<std::int32_t>(BarFit::Value)},
+};
+
+Choices DistanceUnitChoices() {
+    static const std::vector<Choice> choices = [] {
+        std::vector<Choice> made;
+        for (const DistanceUnitFacts& facts : DistanceUnits()) {
+            made.push_back({facts.word, static_cast<std::int32_t>(facts.unit)});
+        }
+        return made;
+    }();
+    return {choices.data(), choices.size()};
+}
+
 constexpr Choice kUnits[] = {
     {"unknown", MeasureUnknown},
     {"meter", MeasureMeter},
@@ -30,6 +47,24 @@ std::vector<Property> ScaleBarProperties() {
                 "What it is kept true to: nothing, the map, or the ground in its middle",
                 PropertyKind::Choice),
             kBarDistances),
+        OneOf(Of<&ScaleBarFrame::Unit, &ScaleBarFrame::SetUnit>(
+                  "unit", "What it counts in; metric and imperial choose by length",
+                  PropertyKind::Choice),
+              DistanceUnitChoices()),
+        OneOf(
+            Of<&ScaleBarFrame::Fit, &ScaleBarFrame::SetFit>(
+                "fit",
+                "What stays when the map changes: the count of the divisions, the width "
+                "of the bar, or the value of a division",
+                PropertyKind::Choice),
+            kFits),
+        Within(Of<&ScaleBarFrame::Longest, &ScaleBarFrame::SetLongest>(
+                   "longest", "How long it may become then, page units; 0: as it is",
+                   PropertyKind::Number),
+               kLengths),
+        Of<&ScaleBarFrame::IsExact, &ScaleBarFrame::SetExact>(
+            "exact", "Whether it counts 1, 2 or 5 and is true as a whole",
+            PropertyKind::Switch),
         Within(Of<&ScaleBarFrame::DivisionValue, &ScaleBarFrame::SetDivisionValue>(
                    "divisionValue",
                    "What a division stands for, before the bar rounds it down to one "
@@ -52,7 +87,7 @@ std::vector<Property> ScaleBarProperties() {
                   PropertyKind::Choice),
               kUnitPositions),
         Of<&CScaleBarBase::GetUnitsName, &CScaleBarBase::SetUnitsName>(
-            "units", "Name of the unit; the bar translates a few words",
+            "units", "Name of the unit; one that is chosen by length names itself",
             PropertyKind::Text),
         OneOf(Of<&CScaleBarBase::GetDestUnitType, &CScaleBarBase::SetDestUnitType>(
                   "unitType",

@@ -45,6 +45,7 @@ std::vector<Property> MapProperties();          ///< MapFrame
 std::vector<Property> PlacedFrameProperties();  ///< of a frame with or without element
 std::vector<Property> ElementProperties();      ///< CMapSurround
 std::vector<Property> TitleProperties();
+std::vector<Property> NumericScaleProperties();
 std::vector<Property> PictureProperties();
 std::vector<Property> LegendProperties();
 std::vector<Property> NorthArrowProperties();

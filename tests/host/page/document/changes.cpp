@@ -5,6 +5,7 @@
 
 #include "map_surround/map_surround.h"
 #include "page/element_of.h"
+#include "page/numeric_scale.h"
 #include "page/placed_frame.h"
 
 namespace host_tests {
@@ -70,6 +71,9 @@ std::vector<Change> MapChanges() {
                        m.extent->bottom == -1.0 / 3.0 && m.extent->right == 1e17 &&
                        m.extent->top == 5e-324;
             }),
+        On<M>(
+            "scale", [](M& m) { m.scale = 25000.0; },
+            [](const M& m) { return m.scale == 25000.0; }),
     };
 }
 
@@ -199,10 +203,31 @@ std::vector<Change> NorthArrowChanges(NorthArrowType other) {
              }}};
 }
 
+std::vector<Change> NumericScaleChanges() {
+    using N = host::NumericScale;
+    return {
+        On<N>(
+            "denominator", [](N& n) { n.SetDenominator(12500.0); },
+            [](const N& n) { return n.Denominator() == 12500.0; }),
+    };
+}
+
 std::vector<Change> ScaleBarChanges(ScaleBarType other) {
     using B = CScaleBarBase;
     using P = host::ScaleBarFrame;
     return {
+        On<P>(
+            "unit", [](P& p) { p.SetUnit(host::DistanceUnit::NauticalMile); },
+            [](const P& p) { return p.Unit() == host::DistanceUnit::NauticalMile; }),
+        On<P>(
+            "fit", [](P& p) { p.SetFit(host::BarFit::Value); },
+            [](const P& p) { return p.Fit() == host::BarFit::Value; }),
+        On<P>(
+            "longest", [](P& p) { p.SetLongest(123.5); },
+            [](const P& p) { return p.Longest() == 123.5; }),
+        On<P>(
+            "exact", [](P& p) { p.SetExact(false); },
+            [](const P& p) { return !p.IsExact(); }),
         On<P>(
             "distances", [](P& p) { p.SetBarDistances(host::BarDistances::Ground); },
             [](const P& p) { return p.GetBarDistances() == host::BarDistances::Ground; }),
@@ -333,6 +358,11 @@ std::vector<Change> ChangesOf(const std::string& type, const std::string& folder
     const std::vector<Change> all = PlacedFrameChanges() + ElementChanges();
     if (type == "title") {
         return all + TitleChanges();
+    }
+    if (type == "numeric-scale") {
+        std::vector<Change> changes = TitleChanges();
+        changes.erase(changes.begin());  // its text is its own
+        return all + std::move(changes) + NumericScaleChanges();
     }
     if (type == "picture") {
         return PictureChanges(folder) + all;

@@ -207,8 +207,11 @@ std::string PageOfColour(int version, const std::string& colour) {
     for (const host::ItemType& type : host::ItemTypes()) {
         page.Items().push_back(type.make());
     }
-    const std::string text = std::regex_replace(
-        WritePage(page, {}), std::regex("\"#[0-9A-F]+\""), "\"" + colour + "\"");
+    const std::string inexact =
+        std::regex_replace(WritePage(page, {}), std::regex("\"exact\": true"),
+                           "\"exact\": false");  // as version 1 has every bar
+    const std::string text =
+        std::regex_replace(inexact, std::regex("\"#[0-9A-F]+\""), "\"" + colour + "\"");
     return std::regex_replace(text, std::regex("\"version\": 2"),
                               "\"version\": " + std::to_string(version));
 }

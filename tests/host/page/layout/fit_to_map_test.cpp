@@ -1,5 +1,6 @@
 #include "page/layout/fit_to_map.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -11,6 +12,8 @@
 #include "page/document/page_text.h"
 #include "page/document/raster_store.h"
 #include "page/element_of.h"
+#include "page/map/map_layers.h"
+#include "page/numeric_scale.h"
 #include "page/placed_frame.h"
 
 namespace {
@@ -54,7 +57,7 @@ protected:
                 element + "]}",
             host::FilePaths(folder.Path("page.json")));
         OpenRasters(page, store);
-        host::FitToMap(page);
+        remarks = host::FitToMap(page);
         return page.Items()[1];
     }
 
@@ -64,6 +67,7 @@ protected:
 
     host::RasterStore store;
     host::Page page{1.0, 1.0};
+    std::vector<std::string> remarks;
 };
 
 struct BarRow {
@@ -80,32 +84,106 @@ TEST_F(FitToMap, DivisionsAreTrueToTheMap) {
         // True, and so left alone, though 75 is not round.
         {R"("distances": "map", "divisionValue": 75, "divisionLength": 25)", "null", 75,
          25},
-        // 25 units are 75 m; 70 m are 23.3 units.
-        {R"("distances": "map", "divisionValue": 100, "divisionLength": 25)", "null", 70,
-         70.0 / 3.0},
-        // Half the map on the same frame: 1.5 m a unit.
-        {R"("distances": "map", "divisionValue": 75, "divisionLength": 25)", half, 30,
-         20},
+        // 25 units are 75 m; 50 m are 16.7 units.
+        {R"("distances": "map", "divisionValue": 100, "divisionLength": 25)", "null", 50,
+         50.0 / 3.0},
+        // There is room for four times as much: 300 m, of which 200 are round.
+        {R"("distances": "map", "divisionValue": 100, "divisionLength": 25,
+            "longest": 100)",
+         "null", 200, 200.0 / 3.0},
+        // Half the map on the same frame: 1.5 m a unit, and 37.5 m.
+        {R"("distances": "map", "divisionValue": 75, "divisionLength": 25)", half, 20,
+         20.0 / 1.5},
         {R"("distances": "fixed", "divisionValue": 75, "divisionLength": 25)", half, 75,
          25},
+        // As version 1 does: any one digit, 70 and 30.
+        {R"("distances": "map", "exact": false, "divisionValue": 100,
+            "divisionLength": 25)",
+         "null", 70, 70.0 / 3.0},
+        {R"("distances": "map", "exact": false, "divisionValue": 75,
+            "divisionLength": 25)",
+         half, 30, 20},
+        // 75 m are 246.06 feet.
+        {R"("distances": "map", "unit": "ft", "divisionValue": 1, "divisionLength": 25)",
+         "null", 200, 200.0 * 0.3048 / 3.0},
     };
     for (const BarRow& row : rows) {
         const host::ScaleBarFrame& frame =
-            FitBar("{\"type\": \"scale-bar-line\", " + row.properties + "}", row.extent);
+            FitBar(R"({"type": "scale-bar-line", "divisions": 1, "units": "m", )" +
+                       row.properties + "}",
+                   row.extent);
         EXPECT_DOUBLE_EQ(frame.DivisionValue(), row.value) << row.properties;
         EXPECT_DOUBLE_EQ(frame.DivisionLength(), row.length) << row.properties;
+    }
+}
+
+TEST_F(FitToMap, KeepsWhatIsToStay) {
+    struct Row {
+        std::string fit;
+        int divisions;
+        double value;
+    };
+    // 400 units of 3 m are to be no longer than 100, which are 300 m: 3 of 100 m are as
+    // long, 4 of 50 m are 200 m, and there are ten times 30 m.
+    const Row rows[] = {{"width", 3, 100.0}, {"count", 4, 50.0}, {"value", 10, 30.0}};
+    for (const Row& row : rows) {
+        host::ScaleBarFrame& frame = FitBar(
+            R"({"type": "scale-bar-line", "distances": "map", "divisions": 4, "units": "m",
+                "divisionValue": 30, "divisionLength": 25, "fit": ")" +
+                row.fit + "\"}",
+            "null");
+        EXPECT_EQ(host::ElementOf<CScaleBarBase>(frame)->GetMainDivCount(), row.divisions)
+            << row.fit;
+        EXPECT_DOUBLE_EQ(frame.DivisionValue(), row.value) << row.fit;
     }
 }
 
 TEST_F(FitToMap, GroundDivisionsAreInTheUnitOfTheBar) {
     // The scale of UTM on its central meridian is 0.9996: 1 km on the ground is 999.6 m
     // on the map, near easting 500 000.
-    const host::ScaleBarFrame& frame = FitBar(
+    const host::ScaleBarFrame& inVersion1 = FitBar(
         R"({"type": "scale-bar-line", "distances": "ground", "unitType": "kilometer",
-            "divisionValue": 1, "divisionLength": 100})",
+            "exact": false, "divisionValue": 1, "divisionLength": 100})",
         "null");
-    EXPECT_DOUBLE_EQ(frame.DivisionValue(), 0.3);
-    EXPECT_NEAR(frame.DivisionLength(), 300.0 * 0.9996 / 3.0, 0.01);
+    EXPECT_DOUBLE_EQ(inVersion1.DivisionValue(), 0.3);
+    EXPECT_NEAR(inVersion1.DivisionLength(), 300.0 * 0.9996 / 3.0, 0.01);
+
+    host::ScaleBarFrame& metric = FitBar(
+        R"({"type": "scale-bar-line", "distances": "ground", "units": "km",
+            "divisions": 1, "divisionValue": 1, "divisionLength": 100})",
+        "null");
+    EXPECT_DOUBLE_EQ(metric.DivisionValue(), 200.0);
+    EXPECT_NEAR(metric.DivisionLength(), 200.0 * 0.9996 / 3.0, 0.01);
+    EXPECT_EQ(host::ElementOf<CScaleBarBase>(metric)->GetUnitsName(), L"m");
+}
+
+TEST_F(FitToMap, TheScaleInFiguresIsThatOfTheGround) {
+    // 3 m on 1/96 inch are 1 : 11 338.58 on the map, 0.9996 of that on the ground.
+    host::PageItem& scale = Fit(R"({"type": "numeric-scale"})", "null");
+    EXPECT_EQ(host::ElementOf<host::NumericScale>(scale)->Denominator(), 11340.0);
+    EXPECT_EQ(host::ElementOf<CMapTitle>(scale)->GetFontValue(),
+              L"1\u00A0:\u00A011\u00A0340");
+}
+
+TEST_F(FitToMap, AMapKeepsItsScale) {
+    host::PageItem& scale = Fit(R"({"type": "numeric-scale"})", R"(null, "scale": 5000)");
+    EXPECT_EQ(host::ElementOf<host::NumericScale>(scale)->Denominator(), 5000.0);
+    const auto& map = std::get<host::MapFrame>(page.Items()[0]);
+    // 400 page units are 105.83 mm, and 529.17 m at that scale.
+    const auto& layers = dynamic_cast<const host::MapLayers&>(*map.picture);
+    EXPECT_NEAR(layers.Extent().Width() / 0.9996, 400.0 / 96.0 * 0.0254 * 5000.0, 0.01);
+    EXPECT_DOUBLE_EQ(layers.Extent().MiddleX(), 500600.0);
+}
+
+TEST_F(FitToMap, TellsWhatItCannotMakeTrue) {
+    Fit(R"({"type": "scale-bar-line", "name": "bar", "distances": "map", "unit": "deg"})",
+        "null");
+    ASSERT_EQ(remarks.size(), 1u);
+    EXPECT_THAT(remarks[0], ::testing::HasSubstr("bar: the scale bar is not true"));
+    Fit(R"({"type": "scale-bar-line", "distances": "map", "unit": "km", "fit": "value",
+            "divisionValue": 50})",
+        "null");
+    EXPECT_EQ(remarks.size(), 1u) << "50 km do not fit";
 }
 
 TEST_F(FitToMap, ArrowsThatFollowTrueNorthTurn) {

@@ -2,7 +2,9 @@
 
 #include <cmath>
 #include <memory>
+#include <optional>
 #include <regex>
+#include <stdexcept>
 #include <string>
 #include <variant>
 #include <vector>
@@ -10,7 +12,9 @@
 #include "map_surround/legend.h"
 #include "map_surround/north_arrow.h"
 #include "map_surround/scale_bar.h"
+#include "page/element_of.h"
 #include "page/layout/layout.h"
+#include "page/placed_frame.h"
 #include "recording/expect.h"
 
 namespace {
@@ -69,6 +73,8 @@ host::MapOnPage MapOf(double width, double height) {
     host::MapOnPage map;
     map.aspectRatio = width / height;
     map.extent = host::Box{1000.0, 2000.0, 1000.0 + width, 2000.0 + height};
+    // A plane in metres: of what lies on Earth, nothing is known.
+    map.projection = R"(LOCAL_CS["site",UNIT["metre",1]])";
     return map;
 }
 
@@ -94,7 +100,7 @@ std::vector<Label> LabelsOf(const std::vector<std::string>& drawing) {
     return labels;
 }
 
-TEST(Furniture, DivisionsAreTrueToTheMapsPixels) {
+TEST(Furniture, DivisionsAreTrueToTheMap) {
     for (const host::CatalogueEntry* const style : host::StylesOf(SurroundScaleBar)) {
         for (const double width : {0.5, 7.0, 970.0, 10031.0, 3.7e6}) {
             for (const int divisions : {1, 3, 5}) {
@@ -102,27 +108,68 @@ TEST(Furniture, DivisionsAreTrueToTheMapsPixels) {
                 ASSERT_TRUE(host::ParsePaperSize("A4", design.paper));
                 design.scaleBar.style = style;
                 design.scaleBar.divisions = divisions;
+                design.scaleBar.distances = host::BarDistances::Map;
+                design.scaleBar.unit = host::DistanceUnit::Metre;
                 const host::LaidOutPage laidOut =
                     host::LayOut(design, MapOf(width, width * 0.8));
                 const Furniture found = Find(laidOut.page);
-                ASSERT_NE(found.scaleBar, nullptr);
-                for (const double scale : {1.0, 150.0 / 96.0, 3.125}) {
-                    recording::Surface surface(8, 8);
-                    recording::Recording recording(recording::Mode::RecordOnly);
-                    found.scaleBar->Draw(surface.Graphics(), CPoint(500, 500), scale);
-                    const std::vector<Label> labels = LabelsOf(recording.Drawing());
-                    ASSERT_EQ(labels.size(), static_cast<std::size_t>(divisions) + 1);
-                    const double pixelsPerUnit = found.map.GetWidth() * scale / width;
-                    for (std::size_t i = 0; i < labels.size(); ++i) {
-                        const double drawn = labels[i].x - labels[0].x;
-                        EXPECT_NEAR(drawn, labels[i].value * pixelsPerUnit,
-                                    static_cast<double>(i))
-                            << "label " << labels[i].value << " of a map " << width
-                            << " wide at scale " << scale;
-                    }
+                const auto* const frame =
+                    dynamic_cast<const host::ScaleBarFrame*>(found.scaleBar);
+                ASSERT_NE(frame, nullptr);
+                EXPECT_NEAR(frame->DivisionLength() / found.map.GetWidth() * width /
+                                frame->DivisionValue(),
+                            1.0, 1e-12)
+                    << "of a map " << width << " wide";
+                recording::Surface surface(8, 8);
+                recording::Recording recording(recording::Mode::RecordOnly);
+                found.scaleBar->Draw(surface.Graphics(), CPoint(500, 500), 3.0);
+                const std::vector<Label> labels = LabelsOf(recording.Drawing());
+                ASSERT_EQ(labels.size(), static_cast<std::size_t>(divisions) + 1);
+                for (std::size_t i = 0; i < labels.size(); ++i) {
+                    EXPECT_NEAR(labels[i].value,
+                                frame->DivisionValue() * static_cast<double>(i), 1e-9);
                 }
             }
         }
+    }
+}
+
+TEST(Furniture, CountsWhatItIsAskedToCount) {
+    struct Row {
+        host::BarDistances distances;
+        std::optional<host::DistanceUnit> unit;
+        std::wstring name;
+        double value;  ///< of a division, in metres
+    };
+    using host::DistanceUnit;
+    constexpr auto kMap = host::BarDistances::Map;
+    // The bar has room for about a third of a map of 12 km; four divisions of 1 km are
+    // too long for it, four of 1000 yards as well.
+    const Row rows[] = {
+        {kMap, std::nullopt, L"m", 500.0},
+        {kMap, DistanceUnit::Kilometre, L"km", 500.0},
+        {kMap, DistanceUnit::Foot, L"ft", 2000.0 * 0.3048},
+        {kMap, DistanceUnit::UsSurveyFoot, L"US ft", 2000.0 * 1200.0 / 3937.0},
+        {kMap, DistanceUnit::Yard, L"yd", 500.0 * 0.9144},
+        {kMap, DistanceUnit::Mile, L"mi", 0.2 * 1609.344},
+        {kMap, DistanceUnit::Imperial, L"ft", 2000.0 * 0.3048},
+        {kMap, DistanceUnit::NauticalMile, L"nmi", 0.2 * 1852.0},
+    };
+    for (const Row& row : rows) {
+        host::PageDesign design;
+        ASSERT_TRUE(host::ParsePaperSize("A4", design.paper));
+        design.scaleBar.distances = row.distances;
+        design.scaleBar.unit = row.unit;
+        const host::LaidOutPage laidOut = host::LayOut(design, MapOf(12000.0, 9000.0));
+        const Furniture found = Find(laidOut.page);
+        const auto* const frame =
+            dynamic_cast<const host::ScaleBarFrame*>(found.scaleBar);
+        ASSERT_NE(frame, nullptr);
+        const auto* const bar = host::ElementOf<CScaleBarBase>(*frame);
+        EXPECT_EQ(bar->GetUnitsName(), row.name);
+        EXPECT_NEAR(frame->DivisionLength() / found.map.GetWidth() * 12000.0, row.value,
+                    1e-6)
+            << frame->DivisionValue();
     }
 }
 
@@ -131,6 +178,8 @@ TEST(Furniture, StandsInsideThePageAndApart) {
     for (const char* paper : {"A4", "210x297", "100x100", "400x60"}) {
         host::PageDesign design;
         ASSERT_TRUE(host::ParsePaperSize(paper, design.paper));
+        design.scaleBar.distances = host::BarDistances::Map;
+        design.northArrow.angle = 0.0;
         host::MapOnPage map = MapOf(1000.0, 900.0);
         map.sources = {&source, &source, &source};
         const host::LaidOutPage laidOut = host::LayOut(design, map);
@@ -174,6 +223,7 @@ TEST(Furniture, IsLeftOutWhereTheMapHasNoCoordinates) {
     EXPECT_EQ(found.legend, nullptr);
 
     design.northArrow.style = StyleOf<CNorthArrowTwoAngle>();
+    design.northArrow.angle = 0.0;
     const host::LaidOutPage withArrow = host::LayOut(design, {nullptr, 1.5});
     EXPECT_NE(Find(withArrow.page).northArrow, nullptr) << "as asked for";
 }
@@ -185,7 +235,8 @@ TEST(Furniture, TakesWhatTheDesignSays) {
     design.scaleBar.style = StyleOf<CScaleLine3>();
     design.scaleBar.subdivisions = 3;
     design.scaleBar.unitPosition = UnitPosBefore;
-    design.scaleBar.units = L"Kilometre";
+    design.scaleBar.distances = host::BarDistances::Map;
+    design.scaleBar.unitName = L"Kilometre";
     design.northArrow.style = StyleOf<CNorthArrowFourAngle>();
     design.northArrow.angle = 12.5;
     design.legend.title = L"What it shows";
@@ -212,12 +263,16 @@ TEST(Furniture, TakesWhatTheDesignSays) {
     EXPECT_EQ(Find(host::LayOut(design, map).page).legend, nullptr);
 }
 
-TEST(Furniture, SaysThatTrueNorthAndTheGroundAreUnknown) {
+TEST(Furniture, LeavesOutWhatItDoesNotKnowAndTells) {
     host::PageDesign design;
     ASSERT_TRUE(host::ParsePaperSize("A4", design.paper));
-    design.northArrow.trueNorth = true;
-    design.scaleBar.ground = true;
-    EXPECT_EQ(host::LayOut(design, MapOf(10.0, 10.0)).remarks.size(), 2u);
+    design.scaleBar.numeric = true;
+    const host::LaidOutPage laidOut = host::LayOut(design, MapOf(10.0, 10.0));
+    EXPECT_EQ(laidOut.remarks.size(), 3u) << "north, the bar and the scale";
+    EXPECT_EQ(Find(laidOut.page).scaleBar, nullptr);
+    EXPECT_EQ(Find(laidOut.page).northArrow, nullptr);
+    design.map.scale = 1000.0;
+    EXPECT_THROW(host::LayOut(design, MapOf(10.0, 10.0)), std::runtime_error);
 }
 
 }  // namespace

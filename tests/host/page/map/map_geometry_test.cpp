@@ -4,6 +4,8 @@
 #include <ogr_spatialref.h>
 
 #include <cmath>
+#include <memory>
+#include <optional>
 #include <string>
 
 namespace {
@@ -59,13 +61,35 @@ double Convergence(double fromCentralMeridian, double latitude) {
            kRadians;
 }
 
-TEST(MapGeometry, KnowsMetresAndDegrees) {
-    EXPECT_EQ(host::UnitOf(Wkt(32725)), host::MapUnit::Metre);
-    EXPECT_EQ(host::UnitOf(Wkt(3857)), host::MapUnit::Metre);
-    EXPECT_EQ(host::UnitOf(Wkt(4326)), host::MapUnit::Degree);
-    EXPECT_EQ(host::UnitOf(Wkt(2263)), host::MapUnit::Unknown) << "feet";
-    EXPECT_EQ(host::UnitOf(""), host::MapUnit::Unknown);
-    EXPECT_EQ(host::UnitOf("no WKT"), host::MapUnit::Unknown);
+std::optional<host::MapGround> GroundAt(int epsg, double longitude, double latitude,
+                                        double size) {
+    return host::MapGround::Of(Wkt(epsg), Around(epsg, longitude, latitude, size));
+}
+
+TEST(MapGeometry, KnowsWhatCoordinatesCount) {
+    using Kind = host::CoordinateUnit::Kind;
+    struct Row {
+        std::string projection;
+        Kind kind;
+        double size;
+        std::string name;
+    };
+    const Row rows[] = {
+        {Wkt(32725), Kind::Length, 1.0, "metre"},
+        {Wkt(3857), Kind::Length, 1.0, "metre"},
+        {Wkt(4326), Kind::Angle, 1.0, "degree"},
+        {Wkt(4807), Kind::Angle, 0.9, "grad"},
+        {Wkt(2263), Kind::Length, 1200.0 / 3937.0, "US survey foot"},
+        {Wkt(2222), Kind::Length, 0.3048, "foot"},
+        {"", Kind::Unknown, 0.0, ""},
+        {"no WKT", Kind::Unknown, 0.0, ""},
+    };
+    for (const Row& row : rows) {
+        const host::CoordinateUnit unit = host::UnitOf(row.projection);
+        EXPECT_EQ(unit.kind, row.kind) << row.projection;
+        EXPECT_NEAR(unit.size, row.size, 1e-12) << row.projection;
+        EXPECT_EQ(unit.name, row.name);
+    }
 }
 
 TEST(MapGeometry, TurnsTowardsTrueNorth) {
@@ -82,47 +106,84 @@ TEST(MapGeometry, TurnsTowardsTrueNorth) {
         {32633, 15.0, 15.0, 52.0},
     };
     for (const Row& row : rows) {
-        const auto angle = host::TrueNorthAt(
-            Wkt(row.epsg), Around(row.epsg, row.longitude, row.latitude, 1000.0));
+        const auto ground = GroundAt(row.epsg, row.longitude, row.latitude, 1000.0);
+        ASSERT_TRUE(ground.has_value());
+        const std::optional<double> angle = ground->TrueNorth();
         ASSERT_TRUE(angle.has_value());
         EXPECT_NEAR(*angle,
                     -Convergence(row.longitude - row.centralMeridian, row.latitude), 0.01)
             << row.epsg << " at " << row.longitude << " " << row.latitude;
     }
-    const auto geographic = host::TrueNorthAt(Wkt(4326), {10.0, 45.0, 11.0, 46.0});
+    // Around the South Pole, the meridian of 90 degrees east lies level, the pole left.
+    const auto polar = GroundAt(3031, 90.0, -75.0, 1000.0);
+    ASSERT_TRUE(polar.has_value());
+    EXPECT_NEAR(polar->TrueNorth().value(), 90.0, 1e-6);
+    const auto geographic = GroundAt(4326, 10.0, 45.0, 0.5);
     ASSERT_TRUE(geographic.has_value());
-    EXPECT_NEAR(*geographic, 0.0, 1e-6);
+    EXPECT_NEAR(geographic->TrueNorth().value(), 0.0, 1e-6);
 }
 
 TEST(MapGeometry, MeasuresOnTheGround) {
     for (const double latitude : {0.0, 45.0, 70.0, -45.0}) {
         const double metres = DegreeOfLongitude(latitude);
-        const auto inDegrees =
-            host::GroundMetresPerUnit(Wkt(4326), Around(4326, 10.0, latitude, 0.5));
+        const auto inDegrees = GroundAt(4326, 10.0, latitude, 0.5);
         ASSERT_TRUE(inDegrees.has_value());
-        EXPECT_NEAR(*inDegrees / metres, 1.0, 0.001) << latitude;
+        EXPECT_NEAR(inDegrees->Metres(0.01).value() / metres, 0.01, 1e-5) << latitude;
 
         // Mercator's unit is a metre at the equator only.
-        const auto mercator =
-            host::GroundMetresPerUnit(Wkt(3857), Around(3857, 10.0, latitude, 5000.0));
+        const auto mercator = GroundAt(3857, 10.0, latitude, 5000.0);
         ASSERT_TRUE(mercator.has_value());
-        EXPECT_NEAR(*mercator / (metres / DegreeOfLongitude(0.0)), 1.0, 0.001)
+        EXPECT_NEAR(mercator->Metres(100.0).value() / (metres / DegreeOfLongitude(0.0)),
+                    100.0, 0.1)
             << latitude;
     }
     // A UTM zone's central meridian is drawn at 0.9996 of its length.
-    const auto utm =
-        host::GroundMetresPerUnit(Wkt(32633), Around(32633, 15.0, 45.0, 1000.0));
+    const auto utm = GroundAt(32633, 15.0, 45.0, 1000.0);
     ASSERT_TRUE(utm.has_value());
-    EXPECT_NEAR(*utm, 1.0 / 0.9996, 1e-6);
+    EXPECT_NEAR(utm->Metres(100.0).value(), 100.0 / 0.9996, 1e-4);
+}
+
+TEST(MapGeometry, FindsTheWayBack) {
+    const auto ground = GroundAt(4326, 10.0, 45.0, 20.0);
+    ASSERT_TRUE(ground.has_value());
+    for (const double metres : {1.0, 1000.0, 1.0e6}) {
+        const std::optional<double> units = ground->MapUnits(metres, 40.0);
+        ASSERT_TRUE(units.has_value()) << metres;
+        EXPECT_NEAR(ground->Metres(*units).value() / metres, 1.0, 1e-9);
+    }
+    EXPECT_FALSE(ground->MapUnits(1.0e7, 40.0).has_value()) << "longer than the map";
+    EXPECT_FALSE(ground->MapUnits(-1.0, 40.0).has_value());
+}
+
+TEST(MapGeometry, GoesNoFurtherThanDistancesGrow) {
+    // Half around the equator is as far as anything is.
+    const host::Box world = {-180.0, -90.0, 180.0, 90.0};
+    const auto ground = host::MapGround::Of(Wkt(4326), world);
+    ASSERT_TRUE(ground.has_value());
+    EXPECT_LE(ground->Reach(360.0), 180.0);
+    EXPECT_GT(ground->Reach(360.0), 160.0);
+    EXPECT_EQ(ground->Reach(90.0), 90.0);
+    // What is drawn around the disc of the Earth is nowhere on it.
+    const host::Box disc = {-2.0e7, -2.0e7, 2.0e7, 2.0e7};
+    const auto lambert = host::MapGround::Of(Wkt(3035), disc);
+    ASSERT_TRUE(lambert.has_value());
+    EXPECT_GT(lambert->Reach(4.0e7), 1.0e6);
+}
+
+TEST(MapGeometry, TellsWhereUpwardsIsAnotherScale) {
+    // A degree of latitude at 45 degrees is 111 132 m on WGS 84.
+    const auto degrees = GroundAt(4326, 10.0, 45.0, 0.5);
+    ASSERT_TRUE(degrees.has_value());
+    EXPECT_NEAR(degrees->UpwardStretch().value(), DegreeOfLongitude(45.0) / 111132.0,
+                1e-5);
+    const auto utm = GroundAt(32633, 15.0, 45.0, 1000.0);
+    ASSERT_TRUE(utm.has_value());
+    EXPECT_NEAR(utm->UpwardStretch().value(), 1.0, 1e-6);
 }
 
 TEST(MapGeometry, SaysNothingOfWhatItDoesNotKnow) {
-    const host::Box extent = {0.0, 0.0, 10.0, 10.0};
-    EXPECT_FALSE(host::TrueNorthAt("", extent).has_value());
-    EXPECT_FALSE(host::GroundMetresPerUnit("", extent).has_value());
-    const host::Box offTheEarth = {1e30, 1e30, 2e30, 2e30};
-    EXPECT_FALSE(host::GroundMetresPerUnit(Wkt(32633), offTheEarth).has_value());
-    EXPECT_FALSE(host::TrueNorthAt(Wkt(32633), offTheEarth).has_value());
+    EXPECT_FALSE(host::MapGround::Of("", {0.0, 0.0, 10.0, 10.0}).has_value());
+    EXPECT_FALSE(host::MapGround::Of(Wkt(32633), {1e30, 1e30, 2e30, 2e30}).has_value());
 }
 
 }  // namespace

@@ -1,0 +1,138 @@
+#include "map_page/map_options.h"
+
+#include <array>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "map_page/values.h"
+#include "page/map/distance_unit.h"
+#include "system/numbers_from_text.h"
+
+namespace map_page {
+namespace {
+
+constexpr const char* kTrueNorth = "true";
+constexpr const char* kMap = "Map";
+constexpr const char* kScaleBar = "Scale bar";
+constexpr std::string_view kOneTo = "1:";
+
+/// The denominator of "1:25000" or "25000"; none where it is no scale.
+std::optional<double> ScaleIn(const std::string& text) {
+    constexpr double kLargest = 1.0e12;
+    const bool hasOne = text.compare(0, kOneTo.size(), kOneTo) == 0;
+    const std::string_view digits =
+        std::string_view(text).substr(hasOne ? kOneTo.size() : 0);
+    double scale = 0.0;
+    const bool isScale =
+        host::ParseNumber(digits, scale) && scale >= 1.0 && scale <= kLargest;
+    return isScale ? std::optional<double>(scale) : std::nullopt;
+}
+
+CLI::Validator IsScale() {
+    return {[](std::string& text) -> std::string {
+                return ScaleIn(text) ? "" : text + " is no scale such as 1:25000";
+            },
+            ""};
+}
+
+std::string UnitsHelp() {
+    std::string help = "What the bar counts in:";
+    for (const host::DistanceUnitFacts& facts : host::DistanceUnits()) {
+        help += std::string("\n") + facts.word + ": " + facts.about;
+    }
+    return help + "\n(metric; imperial where the coordinates are feet)";
+}
+
+Words<host::DistanceUnit> Units() {
+    Words<host::DistanceUnit> words;
+    for (const host::DistanceUnitFacts& facts : host::DistanceUnits()) {
+        words.emplace_back(facts.word, facts.unit);
+    }
+    return words;
+}
+
+}  // namespace
+
+void DeclareMap(CLI::App& app, Options& options) {
+    host::MapDesign& map = options.design.map;
+    app.add_option_function<std::vector<double>>(
+           "--extent",
+           [&map](const std::vector<double>& sides) {
+               map.extent = host::Box{sides[0], sides[1], sides[2], sides[3]};
+           },
+           "The part that is shown, in map coordinates (all of it)")
+        ->expected(4)
+        ->type_name("LEFT BOTTOM RIGHT TOP")
+        ->group(kMap);
+    app.add_option_function<std::string>(
+           "--scale", [&map](const std::string& given) { map.scale = ScaleIn(given); },
+           "1:25000: the scale on paper (as large as there is room)")
+        ->check(IsScale())
+        ->type_name("1:N")
+        ->group(kMap);
+}
+
+void DeclareScaleBar(CLI::App& app, Options& options) {
+    host::ScaleBarDesign& bar = options.design.scaleBar;
+    AddChoice(app, "--scale-bar", bar.style, Styles(SurroundScaleBar),
+              "Style " + UsualStyle(SurroundScaleBar))
+        ->type_name("STYLE")
+        ->group(kScaleBar);
+    app.add_option("--divisions", bar.divisions, "Main divisions (4)")
+        ->check(CLI::Range(1, 100, "1 to 100"))
+        ->type_name("COUNT")
+        ->group(kScaleBar);
+    app.add_option("--subdivisions", bar.subdivisions,
+                   "Ticks or boxes within a division (2)")
+        ->check(CLI::Range(0, 100, "0 to 100"))
+        ->type_name("COUNT")
+        ->group(kScaleBar);
+    AddChoice(app, "--units", bar.unit, Units(), UnitsHelp())
+        ->type_name("UNIT")
+        ->group(kScaleBar);
+    app.add_option_function<std::string>(
+           "--unit-name",
+           [&bar](const std::string& given) {
+               bar.unitName = ReadText("--unit-name", given);
+           },
+           "What the unit is called on the page (its sign); converts nothing")
+        ->type_name("TEXT")
+        ->group(kScaleBar);
+    AddChoice(app, "--unit-position", bar.unitPosition, UnitPositions(),
+              "The unit beside the numbers (after)")
+        ->type_name("WHERE")
+        ->group(kScaleBar);
+    const Words<host::BarDistances> distances = {{"ground", host::BarDistances::Ground},
+                                                 {"map", host::BarDistances::Map}};
+    AddChoice(app, "--distances", bar.distances, distances,
+              "What is measured: the ground in the middle of the map, along the "
+              "ellipsoid, or the map's coordinates (ground)")
+        ->type_name("WHAT")
+        ->group(kScaleBar);
+    app.add_flag("--numeric-scale", bar.numeric, "Write the scale in figures, too")
+        ->group(kScaleBar);
+}
+
+void DeclareNorthArrow(CLI::App& app, Options& options) {
+    host::NorthArrowDesign& arrow = options.design.northArrow;
+    AddChoice(app, "--north-arrow", arrow.style, Styles(SurroundNorthArrow),
+              "Style " + UsualStyle(SurroundNorthArrow))
+        ->type_name("STYLE")
+        ->group("North arrow");
+    const auto turn = [&arrow](const std::string& given) {
+        double angle = 0.0;
+        arrow.angle =
+            host::ParseNumber(given, angle) ? std::optional<double>(angle) : std::nullopt;
+    };
+    app.add_option_function<std::string>(
+           "--north-angle", turn,
+           "Degrees clockwise, or towards true north in the middle of the map (true)")
+        ->check((NumberIn(-360.0, 360.0) | CLI::IsMember({kTrueNorth}))
+                    .description("-360 to 360, or true"))
+        ->type_name("DEGREES")
+        ->group("North arrow");
+}
+
+}  // namespace map_page

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <CLI/CLI.hpp>
+
+#include "map_page/options.h"
+
+// The options of the map, and of what on the page follows from it.
+namespace map_page {
+
+void DeclareMap(CLI::App& app, Options& options);
+void DeclareScaleBar(CLI::App& app, Options& options);
+void DeclareNorthArrow(CLI::App& app, Options& options);
+
+}  // namespace map_page

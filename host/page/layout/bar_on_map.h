@@ -1,0 +1,31 @@
+#pragma once
+
+#include <optional>
+
+#include "page/map/shown_map.h"
+#include "page/placed_frame.h"
+
+namespace host {
+
+/// The divisions of a bar that are true to a map.
+struct BarOnMap {
+    DistanceUnit unit;  ///< never a choice by length
+    double value;       ///< of a division, in that unit
+    double length;      ///< of a division, page units
+    int divisions;
+};
+
+/// Divisions of a round value for a bar: as many as it has, or more or fewer of them
+/// where something else of it is to stay.
+/// @param value what a division stands for, where that is to stay; in the bar's unit
+/// @param divisions how many it has
+/// @param longest the whole bar, page units
+/// @return nothing where none fits
+std::optional<BarOnMap> FitBar(const ShownMap& map, const BarMeasure& measure,
+                               DistanceUnit unit, BarFit fit, double value, int divisions,
+                               double longest);
+
+/// Gives a bar its divisions and the name of its unit.
+void SetDivisions(ScaleBarFrame& frame, CScaleBarBase& bar, const BarOnMap& divisions);
+
+}  // namespace host

@@ -1,0 +1,87 @@
+#include "page/map/distance_unit.h"
+
+#include <cmath>
+#include <iterator>
+
+namespace host {
+namespace {
+
+constexpr double kFoot = 0.3048;
+constexpr double kMile = 5280.0 * kFoot;
+
+/// The units that a choice by length is between.
+struct ByLength {
+    DistanceUnit choice;
+    DistanceUnit smaller;
+    DistanceUnit larger;
+};
+
+constexpr ByLength kByLength[] = {
+    {DistanceUnit::Metric, DistanceUnit::Metre, DistanceUnit::Kilometre},
+    {DistanceUnit::Imperial, DistanceUnit::Foot, DistanceUnit::Mile},
+};
+
+// Rounding leaves a length of 1000 m a hair short of it now and then.
+constexpr double kNearly = 1.0 - 1.0e-12;
+
+}  // namespace
+
+const std::vector<DistanceUnitFacts>& DistanceUnits() {
+    static const std::vector<DistanceUnitFacts> units = {
+        {DistanceUnit::Metric, "metric", "metres or kilometres, by length", L"m", 1.0,
+         MeasureMeter},
+        {DistanceUnit::Imperial, "imperial", "feet or miles, by length", L"ft", kFoot,
+         MeasureUnknown},
+        {DistanceUnit::Metre, "m", "metres", L"m", 1.0, MeasureMeter},
+        {DistanceUnit::Kilometre, "km", "kilometres", L"km", 1000.0, MeasureKilometer},
+        {DistanceUnit::Foot, "ft", "feet", L"ft", kFoot, MeasureUnknown},
+        {DistanceUnit::UsSurveyFoot, "us-ft", "US survey feet", L"US ft", 1200.0 / 3937.0,
+         MeasureUnknown},
+        {DistanceUnit::Yard, "yd", "yards", L"yd", 3.0 * kFoot, MeasureUnknown},
+        {DistanceUnit::Mile, "mi", "miles", L"mi", kMile, MeasureUnknown},
+        {DistanceUnit::NauticalMile, "nmi", "nautical miles", L"nmi", 1852.0,
+         MeasureUnknown},
+        {DistanceUnit::Degree, "deg", "degrees, where the map's coordinates are degrees",
+         L"\u00B0", 1.0, MeasureDegree},
+        {DistanceUnit::Coordinate, "map-units",
+         "the map's coordinates, whatever they count", L"map units", 1.0, MeasureUnknown},
+    };
+    return units;
+}
+
+const DistanceUnitFacts& FactsOf(DistanceUnit unit) {
+    for (const DistanceUnitFacts& facts : DistanceUnits()) {
+        if (facts.unit == unit) {
+            return facts;
+        }
+    }
+    return DistanceUnits().front();
+}
+
+DistanceUnit UnitFor(DistanceUnit unit, double size) {
+    for (const ByLength& choice : kByLength) {
+        if (choice.choice == unit) {
+            return size >= FactsOf(choice.larger).size * kNearly ? choice.larger
+                                                                 : choice.smaller;
+        }
+    }
+    return unit;
+}
+
+double RoundDivision(double value) {
+    constexpr double kDigits[] = {10.0, 5.0, 2.0};
+    const double power = std::pow(10.0, std::floor(std::log10(value)));
+    // Multiplying a power of ten below 1 would miss the double that its text stands for.
+    const double inverse = std::round(1.0 / power);
+    const auto times = [&](double digit) {
+        return power >= 1.0 ? digit * power : digit / inverse;
+    };
+    for (const double digit : kDigits) {
+        if (times(digit) * kNearly <= value) {
+            return times(digit);
+        }
+    }
+    return times(1.0);
+}
+
+}  // namespace host

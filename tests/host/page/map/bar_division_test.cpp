@@ -1,0 +1,125 @@
+#include "page/map/bar_division.h"
+
+#include <gtest/gtest.h>
+#include <ogr_spatialref.h>
+
+#include <cmath>
+#include <string>
+
+#include "map_surround/scale_bar.h"
+
+namespace {
+
+using host::BarMeasure;
+using host::DistanceUnit;
+
+TEST(DistanceUnits, KeepTheSizesOfTheirDefinitions) {
+    EXPECT_EQ(host::FactsOf(DistanceUnit::Foot).size, 0.3048);
+    EXPECT_EQ(host::FactsOf(DistanceUnit::UsSurveyFoot).size * 3937.0, 1200.0);
+    EXPECT_DOUBLE_EQ(host::FactsOf(DistanceUnit::Yard).size, 0.9144);
+    EXPECT_DOUBLE_EQ(host::FactsOf(DistanceUnit::Mile).size, 1609.344);
+    EXPECT_EQ(host::FactsOf(DistanceUnit::NauticalMile).size, 1852.0);
+    for (const host::DistanceUnitFacts& facts : host::DistanceUnits()) {
+        EXPECT_EQ(&host::FactsOf(facts.unit), &facts) << facts.word;
+    }
+}
+
+TEST(DistanceUnits, ChooseTheLargerAsSoonAsADivisionIsOneOfIt) {
+    EXPECT_EQ(host::UnitFor(DistanceUnit::Metric, 999.0), DistanceUnit::Metre);
+    EXPECT_EQ(host::UnitFor(DistanceUnit::Metric, 1000.0), DistanceUnit::Kilometre);
+    EXPECT_EQ(host::UnitFor(DistanceUnit::Imperial, 1609.0), DistanceUnit::Foot);
+    EXPECT_EQ(host::UnitFor(DistanceUnit::Imperial, 1609.344), DistanceUnit::Mile);
+    EXPECT_EQ(host::UnitFor(DistanceUnit::Metre, 1.0e6), DistanceUnit::Metre);
+}
+
+TEST(RoundDivision, TakesTheLargestOfOneTwoAndFive) {
+    struct Row {
+        double value;
+        double rounded;
+    };
+    const Row rows[] = {
+        {1.0, 1.0},     {1.9, 1.0},        {2.0, 2.0},       {4.99, 2.0},  {5.0, 5.0},
+        {9.99, 5.0},    {10.0, 10.0},      {37.0, 20.0},     {0.3, 0.2},   {0.1, 0.1},
+        {0.007, 0.005}, {999.0, 500.0},    {1000.0, 1000.0}, {0.05, 0.05}, {1e-5, 1e-5},
+        {3e7, 2e7},     {0.0999999, 0.05},
+    };
+    for (const Row& row : rows) {
+        EXPECT_EQ(host::RoundDivision(row.value), row.rounded) << row.value;
+    }
+}
+
+// A bar's aspect ratio follows from its division after rounding: what it leaves alone is
+// as long as it was told.
+TEST(RoundDivision, GivesWhatScaleBarsLeaveAlone) {
+    for (int power = -6; power <= 9; ++power) {
+        for (const double digit : {1.0, 2.0, 5.0}) {
+            const double value =
+                host::RoundDivision(digit * std::pow(10.0, power) * 1.01);
+            CScaleLine bar;
+            bar.SetSize(40);
+            bar.SetMainDivCount(1);
+            bar.SetScreen2PaperByOneScale(1000.0);
+            bar.SetPaper2DataScale(1.0);
+            bar.ResetAspectRatio();
+            const float expected = bar.GetAspectRatio();
+            bar.SetPaper2DataScale(value);
+            bar.ResetAspectRatio();
+            EXPECT_NEAR(bar.GetAspectRatio(), expected, 1e-3) << value;
+        }
+    }
+}
+
+TEST(BarDivision, CountsCoordinatesInTheUnitThatIsAskedFor) {
+    // A bar of at most 10 000 map units, which are metres.
+    const BarMeasure metres = BarMeasure::OfCoordinates(1.0);
+    const auto division = host::LargestDivision(metres, DistanceUnit::Metric, 4, 10000.0);
+    ASSERT_TRUE(division.has_value());
+    EXPECT_EQ(division->unit, DistanceUnit::Kilometre);
+    EXPECT_EQ(division->value, 2.0);
+    EXPECT_DOUBLE_EQ(division->mapUnits, 2000.0);
+
+    const auto miles = host::LargestDivision(metres, DistanceUnit::Mile, 3, 10000.0);
+    ASSERT_TRUE(miles.has_value());
+    EXPECT_EQ(miles->value, 2.0);
+    EXPECT_DOUBLE_EQ(miles->mapUnits, 3218.688);
+
+    // Feet over coordinates in US survey feet: 2 000 000 of one are 2 000 004 of the
+    // other.
+    const BarMeasure survey = BarMeasure::OfCoordinates(1200.0 / 3937.0);
+    const auto feet =
+        host::DivisionOfValue(survey, DistanceUnit::Foot, 2000004.0, 1, 1e9);
+    ASSERT_TRUE(feet.has_value());
+    EXPECT_NEAR(feet->mapUnits, 2000000.0, 1e-3);
+}
+
+TEST(BarDivision, IsNoneWhereNothingFits) {
+    const BarMeasure metres = BarMeasure::OfCoordinates(1.0);
+    EXPECT_FALSE(host::LargestDivision(metres, DistanceUnit::Metric, 4, 0.0));
+    EXPECT_FALSE(host::LargestDivision(metres, DistanceUnit::Metric, 4, HUGE_VAL));
+    EXPECT_FALSE(host::DivisionOfValue(metres, DistanceUnit::Metre, 100.0, 4, 399.0));
+    EXPECT_TRUE(host::DivisionOfValue(metres, DistanceUnit::Metre, 100.0, 4, 400.0));
+}
+
+TEST(BarDivision, MakesTheWholeBarTrueOnTheGround) {
+    // Europe on a map in degrees: the ends of a bar of 30 degrees at 50 degrees north.
+    OGRSpatialReference system;
+    system.importFromEPSG(4326);
+    char* text = nullptr;
+    system.exportToWkt(&text);
+    const std::string wkt = text;
+    CPLFree(text);
+    const auto ground = host::MapGround::Of(wkt, {-20.0, 30.0, 40.0, 70.0});
+    ASSERT_TRUE(ground.has_value());
+    const BarMeasure measure = BarMeasure::OfGround(*ground);
+    const auto division = host::LargestDivision(measure, DistanceUnit::Metric, 4, 30.0);
+    ASSERT_TRUE(division.has_value());
+    EXPECT_EQ(division->unit, DistanceUnit::Kilometre);
+    EXPECT_EQ(division->value, 500.0);
+    // On a sphere of the Earth's mean radius, within the flattening.
+    const double half = division->mapUnits * 2.0 * std::acos(-1.0) / 180.0;
+    const double latitude = 50.0 * std::acos(-1.0) / 180.0;
+    const double chord = std::cos(latitude) * std::sin(half);
+    EXPECT_NEAR(2.0 * 6371.0 * std::asin(chord), 2000.0, 2000.0 / 298.0);
+}
+
+}  // namespace
