@@ -1,6 +1,5 @@
-# In our headers a comment goes for all members below it down to the next blank line: for
-# a getter with its setter, for both overloads. Doxygen wants one for each, and gets it
-# here.
+# In our headers a comment applies to all members below it up to the next blank line: to a
+# getter and its setter, to both overloads. Doxygen wants one each, so repeat it.
 /^    \/\/\// {
     if (!in_comment) comment = ""
     in_comment = 1

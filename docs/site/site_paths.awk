@@ -1,5 +1,5 @@
-# In the project pictures are where each page sees docs/images; on the site all pages stand
-# in one folder, beside images/ and the schema.
+# In the project each page has its own path to docs/images; on the site all pages are in one
+# folder, beside images/ and the schema.
 {
     gsub(/\(\.\.\/images\//, "(images/")
     gsub(/docs\/images\//, "images/")

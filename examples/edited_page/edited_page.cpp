@@ -50,6 +50,9 @@ void SetDivision(CScaleAlternate& bar, double length) {
 /// Each kind of element grows by setters of its own.
 void Enlarge(Placed& placed, double factor) {
     CMapSurround* const element = placed.frame.GetMapSurround();
+    if (element == nullptr) {
+        return;  // an empty frame, such as a neat line
+    }
     if (auto* title = dynamic_cast<CMapTitle*>(element)) {
         title->SetFontSize(title->GetFontSize() * factor);
         title->ResetAspectRatio();  // sets the size

@@ -10,17 +10,16 @@
 
 namespace gallery {
 
-/// The paper that a cell is drawn on: what an element looks like on it depends on the
-/// element's front colour.
+/// The paper of a cell; an element's front colour has to suit it.
 enum class Paper { White, Dark };
 
-/// A picture of many cells, each with an element and a caption below it.
+/// A contact sheet: cells with an element and a caption each.
 class Sheet {
 public:
-    /// @param cellWidth pixels, like the height; the caption is taken from the height
+    /// @param cellWidth pixels, like the height, which includes the caption
     Sheet(std::wstring title, int columns, int cellWidth, int cellHeight);
 
-    /// A cell with an element in its middle.
+    /// A cell with an element at its centre.
     template <typename Element>
     void Add(std::wstring caption, Element element, double scale = 1.0,
              Paper paper = Paper::White) {
@@ -30,7 +29,7 @@ public:
                 });
     }
 
-    /// A cell whose content is drawn around the middle of it by a function.
+    /// A cell drawn by a function around the cell's centre.
     void AddCell(std::wstring caption, Paper paper,
                  std::function<void(Gdiplus::Graphics*, CPoint centre)> draw);
 

@@ -1,5 +1,5 @@
-// Draws every element of the library in every style, from sources in memory: pictures for
-// people to look at.
+// Draws every element of the library in every style from sources in memory, for people to
+// look at.
 
 #include <cstdio>
 #include <filesystem>

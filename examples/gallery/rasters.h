@@ -32,7 +32,7 @@ private:
     Gdiplus::Color m_color;
 };
 
-/// A raster with no pixels: only what a legend asks for.
+/// A raster without pixels: only what a legend queries.
 class Raster : public CRasterSource, private CRasterBand, private CClassifyDisplayTable {
 public:
     static std::unique_ptr<Raster> Rgb(std::wstring name, int red, int green, int blue) {
@@ -126,8 +126,8 @@ public:
 
     const CMapLegend& Legend() const { return m_legend; }
 
-    /// The strips of a ramp are thinner than a pixel: smoothed, they would never come to
-    /// black.
+    /// The strips of a ramp are thinner than a pixel: anti-aliased, they would never
+    /// reach black.
     void Draw(Gdiplus::Graphics* graphics, CPoint centre, double scale) {
         const Gdiplus::SmoothingMode mode = graphics->GetSmoothingMode();
         graphics->SetSmoothingMode(Gdiplus::SmoothingModeDefault);

@@ -5,7 +5,7 @@
 namespace gallery {
 
 /// An image file of a landscape, 360 by 240 pixels, in the folder for temporary files;
-/// it is gone with this object.
+/// it is deleted with this object.
 class SampleImage {
 public:
     SampleImage();

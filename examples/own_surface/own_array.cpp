@@ -1,5 +1,6 @@
 // A title drawn into the program's own array of pixels.
 
+#include <cstddef>
 #include <cstdint>
 #include <cstdio>
 #include <vector>
@@ -23,7 +24,7 @@ static void DrawTitle(std::vector<std::uint32_t>& pixels, int width, int height)
 int main() {
     constexpr int kWidth = 320;
     constexpr int kHeight = 120;
-    std::vector<std::uint32_t> pixels(kWidth * kHeight, 0xFFB9CFA8);
+    std::vector<std::uint32_t> pixels(std::size_t{kWidth} * kHeight, 0xFFB9CFA8);
 
     ULONG_PTR token = 0;
     const Gdiplus::GdiplusStartupInput input;

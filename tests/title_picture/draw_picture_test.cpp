@@ -261,8 +261,10 @@ TEST(DrawPicture, MovesTheImage) {
         EXPECT_EQ(recording.Count(), 0);
         CDrawPicture& itself = moved;
         moved = std::move(itself);
+        CDrawPicture empty;
+        empty = std::move(moved);
         EXPECT_EQ(recording.Count(), 0);
-        EXPECT_EQ(&(assigned = std::move(moved)), &assigned);
+        EXPECT_EQ(&(assigned = std::move(empty)), &assigned);
         EXPECT_TRUE(
             Equal({{"disposal", "GdipDisposeImage image[\"b\"]"}}, recording.Lines()));
         recording.Clear();

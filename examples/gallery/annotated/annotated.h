@@ -10,8 +10,8 @@
 
 namespace gallery::annotated {
 
-/// A drawing of an element with the names of its lengths, as a draughtsman adds them:
-/// dimension lines between arrows, thin lines to what they measure, and marked points.
+/// A drawing of an element with its dimensions, as a draughtsman adds them: dimension
+/// lines between arrows, extension lines to what they measure, and marked points.
 /// All coordinates are pixels.
 class Drawing {
 public:
@@ -19,16 +19,16 @@ public:
 
     Gdiplus::Graphics* Surface() { return m_graphics.get(); }
 
-    /// A length from x1 to x2, its name above the middle of the line.
+    /// A dimension from x1 to x2, its name above the middle of the line.
     void Across(int x1, int x2, int y, const std::wstring& name);
-    /// A length from y1 to y2, its name to the right of the middle of the line.
+    /// A dimension from y1 to y2, its name to the right of the middle of the line.
     void Down(int y1, int y2, int x, const std::wstring& name);
 
-    /// A thin line from an element to a dimension line.
+    /// An extension line from an element to a dimension line.
     void Guide(int x1, int y1, int x2, int y2);
     void Outline(const std::vector<Gdiplus::Point>& corners);
 
-    /// A marked point, with its name set off from it.
+    /// A marked point with its name beside it.
     void Mark(int x, int y, const std::wstring& name, int dx = 6, int dy = -18);
     void Note(int x, int y, const std::wstring& text);
 

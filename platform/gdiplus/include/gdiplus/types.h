@@ -13,7 +13,8 @@ typedef std::uint32_t UINT32;
 typedef std::uint8_t BYTE;
 typedef std::uint32_t DWORD;
 typedef std::uint32_t ULONG;  ///< 32 bits, as on Windows
-#ifndef BOOL  // a macro in ODBC's headers, for the same type
+// A macro in ODBC's headers, for the same type.
+#ifndef BOOL
 typedef std::int32_t BOOL;
 #endif
 typedef wchar_t WCHAR;
