@@ -13,6 +13,7 @@
 #include "map_page/error.h"
 #include "map_page/map_options.h"
 #include "map_page/values.h"
+#include "map_surround/version.h"
 #include "page/colour_text.h"
 #include "page/document/opened_page.h"
 #include "page/document/schema.h"
@@ -110,7 +111,7 @@ void DeclareLegend(CLI::App& app, Given& given) {
 }
 
 void Declare(CLI::App& app, Given& given, Options& options) {
-    app.set_version_flag("--version", "map_page " MAP_SURROUND_VERSION,
+    app.set_version_flag("--version", "map_page " MAP_SURROUND_VERSION_STRING,
                          "Print the version and exit");
     app.set_help_flag("-h,--help", "Print this help and exit");
     app.add_flag_callback(

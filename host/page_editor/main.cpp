@@ -12,6 +12,7 @@
 #include <string>
 #include <vector>
 
+#include "map_surround/version.h"
 #include "page_editor/window/editor_window.h"
 #include "system/errors.h"
 #include "system/gdiplus_session.h"
@@ -39,7 +40,7 @@ std::optional<Options> ReadCommandLine(int argc, char** argv) {
                    "Draw the window into this image file and end");
     app.add_option("--select", options.select,
                    "Select the elements with these numbers, from 0");
-    app.set_version_flag("--version", std::string(MAP_SURROUND_VERSION));
+    app.set_version_flag("--version", MAP_SURROUND_VERSION_STRING);
     try {
         app.parse(argc, argv);
     } catch (const CLI::Success& success) {

@@ -253,7 +253,7 @@ TEST_F(MapPage, TellsItsOptionsAndItsVersion) {
     }
     const Result version = Draw({"--version"});
     EXPECT_EQ(version.status, 0);
-    EXPECT_EQ(version.out, "map_page " MAP_SURROUND_VERSION "\n");
+    EXPECT_EQ(version.out, "map_page " MAP_PAGE_VERSION "\n");
 }
 
 // The real rasters, where a folder with them is named.
