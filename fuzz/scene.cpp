@@ -3,45 +3,35 @@
 #include <cstdlib>
 #include <cstring>
 #include <memory>
+#include <tuple>
 #include <type_traits>
+#include <utility>
+
+#include "page/catalogue.h"
 
 namespace fuzz {
 namespace {
 
-/// Calls with a null pointer of the type of element that a number stands for.
-template <typename Visit>
-void VisitElementType(int number, Visit visit) {
-    switch (number) {
-        case 0:
-            return visit(static_cast<CMapTitle*>(nullptr));
-        case 1:
-            return visit(static_cast<CDrawPicture*>(nullptr));
-        case 2:
-            return visit(static_cast<CNorthArrowOneAngle*>(nullptr));
-        case 3:
-            return visit(static_cast<CNorthArrowTwoAngle*>(nullptr));
-        case 4:
-            return visit(static_cast<CNorthArrowFourAngle*>(nullptr));
-        case 5:
-            return visit(static_cast<CNorthArrowEightAngle*>(nullptr));
-        case 6:
-            return visit(static_cast<CScaleLine*>(nullptr));
-        case 7:
-            return visit(static_cast<CSteppedScaleLine*>(nullptr));
-        case 8:
-            return visit(static_cast<CScaleLine2*>(nullptr));
-        case 9:
-            return visit(static_cast<CScaleLine3*>(nullptr));
-        case 10:
-            return visit(static_cast<CScaleAlternate*>(nullptr));
-        case 11:
-            return visit(static_cast<CScaleEquAltenate*>(nullptr));
-        default:
-            return visit(static_cast<CMapLegend*>(nullptr));
-    }
+/// Calls with the entry of the catalogue that a number stands for; an entry still knows
+/// its class.
+template <typename Visit, int... Numbers>
+void VisitEntry(int number, Visit visit, std::integer_sequence<int, Numbers...>) {
+    ((number == Numbers ? visit(std::get<Numbers>(host::kElements)) : void()), ...);
 }
 
-constexpr int kElementTypes = 13;
+constexpr int kEntries = static_cast<int>(host::kCatalogue.size());
+
+template <typename Visit>
+void VisitEntry(int number, Visit visit) {
+    VisitEntry(number, visit, std::make_integer_sequence<int, kEntries>());
+}
+
+// What an input plays with: one of two kinds of frame, or an element by itself. The
+// frames are first, so that a style at the end of the catalogue leaves the corpus its
+// meaning.
+constexpr int kBareFrame = 0;
+constexpr int kFramedElement = 1;
+constexpr int kFirstEntry = 2;
 
 void GiveUp(CMapSurround&) {}
 void GiveUp(CDrawPicture& copy) { copy = CDrawPicture(); }
@@ -75,14 +65,15 @@ void SetByte(bool& flag, int value) {
 }  // namespace
 
 void Scene::Play() {
-    const int kind = m_input.Choice(16);
-    if (kind == 14) {
+    const int kind = m_input.Choice(kFirstEntry + kEntries);
+    if (kind == kBareFrame) {
         CFrameBase frame;
         PlayFrame(frame);
-    } else if (kind == 15) {
+    } else if (kind == kFramedElement) {
         CSurroundFrame frame;
-        VisitElementType(m_input.Choice(kElementTypes), [&](auto* type) {
-            auto element = std::make_unique<std::remove_pointer_t<decltype(type)>>();
+        VisitEntry(m_input.Choice(kEntries), [&](const auto& entry) {
+            auto element =
+                std::make_unique<typename std::decay_t<decltype(entry)>::Class>();
             SetBaseProperty(*element);
             SetProperty(*element);
             element->ResetAspectRatio();
@@ -90,8 +81,8 @@ void Scene::Play() {
         });
         PlayFrame(frame);
     } else {
-        VisitElementType(kind, [&](auto* type) {
-            PlayElement<std::remove_pointer_t<decltype(type)>>();
+        VisitEntry(kind - kFirstEntry, [&](const auto& entry) {
+            PlayElement<typename std::decay_t<decltype(entry)>::Class>();
         });
     }
 }
