@@ -8,7 +8,7 @@
 
 #include "map_page/values.h"
 #include "page/map/distance_unit.h"
-#include "system/numbers_from_text.h"
+#include "system/number_text.h"
 
 namespace map_page {
 namespace {

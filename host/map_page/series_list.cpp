@@ -10,7 +10,7 @@
 #include "map_page/error.h"
 #include "page/document/file_paths.h"
 #include "system/input_file.h"
-#include "system/numbers_from_text.h"
+#include "system/number_text.h"
 
 namespace map_page {
 namespace {

@@ -1,26 +1,16 @@
 #include "map_page/values.h"
 
-#include <charconv>
-#include <iterator>
 #include <utility>
 
 #include "map_page/error.h"
 #include "page/colour_text.h"
-#include "system/numbers_from_text.h"
+#include "system/number_text.h"
 #include "system/utf8.h"
 
 namespace map_page {
 namespace {
 
 std::string Quoted(const std::string& text) { return "\"" + text + "\""; }
-
-/// "12", not "12.000000".
-std::string Plain(double value) {
-    char buffer[32];
-    const std::to_chars_result end =
-        std::to_chars(std::begin(buffer), std::end(buffer), value);
-    return {std::begin(buffer), end.ptr};
-}
 
 }  // namespace
 
@@ -50,7 +40,8 @@ std::string UsualStyle(MapSurroundType family) {
 }
 
 CLI::Validator NumberIn(double lowest, double highest) {
-    const std::string range = Plain(lowest) + " to " + Plain(highest);
+    const std::string range =
+        host::NumberText(lowest) + " to " + host::NumberText(highest);
     const auto whyNot = [=](std::string& text) -> std::string {
         double value = 0.0;
         const bool isIn =

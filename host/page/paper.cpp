@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <string_view>
 
-#include "system/numbers_from_text.h"
+#include "system/number_text.h"
 
 namespace host {
 namespace {

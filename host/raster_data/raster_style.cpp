@@ -1,12 +1,10 @@
 #include "raster_data/raster_style.h"
 
-#include <array>
-#include <charconv>
 #include <cmath>
 #include <cstddef>
 #include <limits>
 
-#include "system/numbers_from_text.h"
+#include "system/number_text.h"
 
 namespace host {
 namespace {
@@ -25,13 +23,6 @@ std::vector<std::string_view> Split(std::string_view text, char separator) {
         }
         text.remove_prefix(end + 1);
     }
-}
-
-/// As few digits as it takes to read the same number again.
-std::string NumberText(double value) {
-    std::array<char, 32> text{};
-    return {text.data(),
-            std::to_chars(text.data(), text.data() + text.size(), value).ptr};
 }
 
 }  // namespace

@@ -1,10 +1,22 @@
-#include "system/numbers_from_text.h"
+#include "system/number_text.h"
 
 #include <charconv>
 #include <cmath>
+#include <iterator>
 #include <system_error>
 
 namespace host {
+namespace {
+
+template <typename Number>
+std::string TextOf(Number value) {
+    char text[32];
+    const std::to_chars_result end =
+        std::to_chars(std::begin(text), std::end(text), value);
+    return {std::begin(text), end.ptr};
+}
+
+}  // namespace
 
 bool ParseNumber(std::string_view text, double& value) {
     double number = 0.0;
@@ -16,5 +28,9 @@ bool ParseNumber(std::string_view text, double& value) {
     value = number;
     return true;
 }
+
+std::string NumberText(double value) { return TextOf(value); }
+
+std::string NumberText(float value) { return TextOf(value); }
 
 }  // namespace host

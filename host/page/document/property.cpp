@@ -1,27 +1,20 @@
 #include "page/document/property.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
-#include <iterator>
 
+#include "system/number_text.h"
 #include "system/utf8.h"
 
 namespace host {
 namespace {
 
-std::string Plain(double value) {
-    char buffer[32];
-    const std::to_chars_result end =
-        std::to_chars(std::begin(buffer), std::end(buffer), value);
-    return {std::begin(buffer), end.ptr};
-}
-
 std::string CheckNumber(const NumberRange& range, double value) {
     // Written so that what is no number is refused, too.
     return value >= range.lowest && value <= range.highest
                ? ""
-               : "must be from " + Plain(range.lowest) + " to " + Plain(range.highest);
+               : "must be from " + NumberText(range.lowest) + " to " +
+                     NumberText(range.highest);
 }
 
 std::string CheckText(const std::string& text) {

@@ -1,13 +1,12 @@
 #include "page/document/value_json.h"
 
-#include <charconv>
 #include <cmath>
 #include <cstdint>
-#include <iterator>
 #include <limits>
 
 #include "page/colour_text.h"
 #include "page/document/page_error.h"
+#include "system/number_text.h"
 
 namespace host {
 namespace {
@@ -34,12 +33,9 @@ Gdiplus::ARGB ColourFromJson(const json& value, const std::string& place) {
 /// A float as the shortest decimal that is that float again: 0.1, and not the double
 /// 0.10000000149011612.
 double ShortestDouble(double value) {
-    char buffer[32];
     const auto single = static_cast<float>(value);
-    const std::to_chars_result end =
-        std::to_chars(std::begin(buffer), std::end(buffer), single);
-    double shortest = 0.0;
-    std::from_chars(std::begin(buffer), end.ptr, shortest);
+    double shortest = value;
+    ParseNumber(NumberText(single), shortest);
     return static_cast<float>(shortest) == single ? shortest : value;
 }
 
