@@ -16,15 +16,15 @@ namespace {
 constexpr int kLargestSide =
     3000;  // pixels; a longer element is measured at a smaller scale
 
-/// A first look is so much smaller, and shows where to look closely. What is wider than a
-/// pixel of it leaves a trace.
+/// The first look is drawn this much smaller, to find where to measure. Anything wider
+/// than one of its pixels leaves a trace.
 constexpr double kGlance = 0.25;
 constexpr double kLeastGlance = 300.0;  // pixels; saving more than that saves nothing
 /// Lengths in whole pixels add up to something else at a small scale.
 constexpr double kGlancePixels = 4.0;
 
-/// Only the alpha is read; and where a bitmap does not keep its pixels multiplied by it,
-/// libgdiplus converts all of them, over and over while something is drawn.
+/// Only the alpha is read. With any but premultiplied pixels, libgdiplus converts the
+/// whole bitmap again for every shape that is drawn.
 constexpr Gdiplus::PixelFormat kFormat = PixelFormat32bppPARGB;
 
 /// The part of a bitmap that is not transparent.
@@ -101,7 +101,7 @@ InkBox Look(const Reach& reach, double scale, Drawing draw) {
             (reach.up - box.top) / scale, (box.bottom + 1 - reach.up) / scale};
 }
 
-/// Where a drawing surely lies, of which a small one reached so far.
+/// A bitmap that surely holds a drawing, from how far its small version reached.
 Reach Around(const InkBox& glanced, double leeway, double scale, const Reach& all) {
     const auto side = [=](double length, int most) {
         const double pixels = (std::max(0.0, length) * kHinting + leeway) * scale;
@@ -111,8 +111,7 @@ Reach Around(const InkBox& glanced, double leeway, double scale, const Reach& al
             side(glanced.up, all.up), side(glanced.down, all.down)};
 }
 
-/// Whether nothing comes so near to an edge within which there may be more that it could
-/// go on beyond.
+/// Whether the ink keeps clear of every edge that may have cut it off.
 bool IsWithin(const InkBox& ink, double leeway, double scale, const Reach& reach,
               const Reach& all) {
     const auto isClear = [=](double length, int side, int most) {
@@ -123,8 +122,8 @@ bool IsWithin(const InkBox& ink, double leeway, double scale, const Reach& reach
            isClear(ink.up, reach.up, all.up) && isClear(ink.down, reach.down, all.down);
 }
 
-/// Most of a square that has room for anything is empty: what is drawn is looked for at a
-/// small scale, and then measured where it was found.
+/// Most of a square with room for anything is empty: the drawing is found at a small
+/// scale, then measured where it is.
 template <typename Drawing>
 InkBox Measure(double room, Drawing draw) {
     const double scale = std::min(1.0, kLargestSide / room);

@@ -11,7 +11,7 @@ namespace {
 
 constexpr int kLeeway = 4;  // pixels; smoothed edges reach further than they measure
 
-/// A map has no ink beyond its frame.
+/// How far an item's element reaches; a map stays within its frame.
 InkBox ElementInk(const PageItem& item) {
     const auto* const frame = std::get_if<std::unique_ptr<CSurroundFrame>>(&item);
     return frame == nullptr ? InkBox{} : MeasureInk(**frame);

@@ -42,7 +42,8 @@ std::string ReasonIn(const std::string& message) {
     return "is not valid JSON: " + reason.substr(0, reason.find("; last read"));
 }
 
-/// Follows the parser through the text to see what the parser itself lets pass.
+/// Follows the parser through the text and refuses what it would accept: a key given
+/// twice, and nesting without end.
 class Watch {
 public:
     bool operator()(json::parse_event_t event, const json& parsed) {
@@ -70,7 +71,7 @@ public:
         return true;
     }
 
-    /// Of a value that was not told of.
+    /// The place of the value that the parser failed at.
     std::string PlaceOfNext() {
         Count();
         return Place();

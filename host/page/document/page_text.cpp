@@ -52,7 +52,7 @@ const json& ObjectAt(const json& value, const std::string& place) {
     return value;
 }
 
-/// Writes those of the properties into the item that the object has.
+/// Sets those properties of the item that the object has.
 void ReadProperties(const json& object, const std::vector<Property>& properties,
                     PageItem& item, const FilePaths& paths, const std::string& place) {
     for (const Property& property : properties) {
@@ -64,7 +64,7 @@ void ReadProperties(const json& object, const std::vector<Property>& properties,
     }
 }
 
-/// Throws for a key that is none of the properties nor of the others.
+/// Throws for a key that is not known.
 void CheckKeys(const json& object, const std::vector<Property>& properties,
                const std::vector<std::string>& others, const std::string& place) {
     for (const auto& entry : object.items()) {
@@ -99,7 +99,7 @@ const ItemType& TypeIn(const json& object, const std::string& place) {
     return *type;
 }
 
-/// What was measured, but is given, is as it is given.
+/// A measured property that the file gives keeps the value given.
 void ReadMeasured(const json& object, const ItemType& type, PageItem& item,
                   const FilePaths& paths, const std::string& place) {
     std::vector<Property> measured;

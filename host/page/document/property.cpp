@@ -10,7 +10,7 @@ namespace host {
 namespace {
 
 std::string CheckNumber(const NumberRange& range, double value) {
-    // Written so that what is no number is refused, too.
+    // Written so that NaN is refused, too.
     return value >= range.lowest && value <= range.highest
                ? ""
                : "must be from " + NumberText(range.lowest) + " to " +

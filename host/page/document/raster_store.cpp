@@ -66,7 +66,8 @@ std::shared_ptr<MapPicture> PictureOf(const MapFrame& map, RasterStore& store) {
                : store.Map(map.rasterPaths, shown);
 }
 
-/// A legend multiplies its font sizes each time it is measured; here they have been.
+/// A legend multiplies its font sizes whenever it is measured. Those of a page have been
+/// already.
 void Measure(CMapLegend& legend, float sizeFactor) {
     const int size = legend.GetSize();
     const float aspectRatio = legend.GetAspectRatio();

@@ -6,8 +6,8 @@
 namespace host::tables {
 namespace {
 
-/// What a frame's box tells of itself. The box keeps its edges and tells its sizes, so
-/// an edge is chosen that gives back the size that was asked for.
+/// A frame's box as page files have it. The frame stores edges and reports sizes, so the
+/// far edge is chosen to give back exactly the size that was asked for.
 struct Box {
     double left;
     double top;

@@ -18,7 +18,7 @@
 
 namespace host::tables {
 
-/// What of an item has the member functions of a class: its frame, or its element.
+/// The part of an item that a class is about: the map, the frame, or its element.
 template <class Class>
 Class& SubjectOf(PageItem& item) {
     if constexpr (std::is_same_v<Class, MapFrame>) {
