@@ -22,11 +22,25 @@ ARGB* FirstOf(const Pixels& pixels, const cairo_rectangle_int_t& area, int row) 
 
 /// Opaque and wholly clear pixels are the same either way; most rows have no others.
 bool HasOthers(const ARGB* row, int count) {
-    UINT others = 0;
+    ARGB others = 0;
     for (int x = 0; x < count; ++x) {
-        others |= static_cast<UINT>((row[x] >> 24 != 255) & (row[x] != 0));
+        others |= row[x] >= 0xFF000000 ? 0 : row[x];
     }
     return others != 0;
+}
+
+bool IsOpaque(const Pixels& pixels, const cairo_rectangle_int_t& area) {
+    for (int y = 0; y < area.height; ++y) {
+        const ARGB* const row = FirstOf(pixels, area, y);
+        ARGB all = 0xFF000000;
+        for (int x = 0; x < area.width; ++x) {
+            all &= row[x];
+        }
+        if (all != 0xFF000000) {
+            return false;
+        }
+    }
+    return true;
 }
 
 void Premultiply(const Pixels& pixels, const cairo_rectangle_int_t& area,
@@ -78,6 +92,10 @@ Drawing::Drawing(Graphics& graphics, const Extents& extents) : graphics_(graphic
     }
     if (pixels->format == PixelFormat32bppARGB && !pixels->opaque) {
         area_ = AreaOf(*pixels, extents);
+        if (IsOpaque(*pixels, area_)) {
+            area_.width = 0;  // and stays so, whatever is drawn over it
+            return;
+        }
         Premultiply(*pixels, area_, graphics.straight);
     } else if (graphics.scratch != nullptr) {
         area_ = AreaOf(*pixels, extents);

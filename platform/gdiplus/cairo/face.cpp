@@ -138,8 +138,9 @@ SizedFace::SizedFace(std::shared_ptr<Face> of, double emSize, bool fitToPixels,
     hb_font_extents_t extents = {};
     hb_font_get_h_extents(face->shapes.get(), &extents);
     const double unit = size / face->em;
-    // Whole units for lines, whether or not they will lie on pixels.
-    const auto whole = [&](double units) { return std::ceil(units * unit - 1e-6); };
+    const auto whole = [&](double units) {
+        return fit ? std::ceil(units * unit - 1e-6) : units * unit;
+    };
     ascent = whole(extents.ascender);
     descent = whole(-extents.descender);
     const auto line = [&](hb_ot_metrics_tag_t tag, double otherwise) {

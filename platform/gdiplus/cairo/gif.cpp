@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <map>
 
 #include "cairo/codecs.h"
 
@@ -139,47 +140,99 @@ std::unique_ptr<Bitmap> DecodeGif(FileBytes file) {
 
 namespace {
 
-/// The colours of the image in up to 255 of a palette's, and which of them each pixel
-/// has. The last of 256 is kept for clear pixels.
-bool Reduce(const Source& source, ColorMapObject& map, std::vector<BYTE>& indices) {
-    const auto width = static_cast<std::size_t>(source.Width());
-    const auto height = static_cast<std::size_t>(source.Height());
-    std::vector<BYTE> red(width * height);
-    std::vector<BYTE> green(width * height);
-    std::vector<BYTE> blue(width * height);
-    std::vector<BYTE> clear(width * height);
-    std::vector<ARGB> colors(width);
-    for (std::size_t y = 0; y < height; ++y) {
-        source.Read(static_cast<INT>(y), colors.data());
-        for (std::size_t x = 0; x < width; ++x) {
-            const std::size_t i = y * width + x;
-            red[i] = static_cast<BYTE>(colors[x] >> 16);
-            green[i] = static_cast<BYTE>(colors[x] >> 8);
-            blue[i] = static_cast<BYTE>(colors[x]);
-            clear[i] = colors[x] >> 24 < 128;
+constexpr BYTE kClear = 255;  // the last index is kept for clear pixels
+
+/// The image as indices of up to 255 colours: its own where it has no more, else those
+/// that giflib finds nearest.
+class Reduced {
+public:
+    Reduced(const Source& source, ColorMapObject& map)
+        : indices(static_cast<std::size_t>(source.Width()) *
+                  static_cast<std::size_t>(source.Height())),
+          source_(source),
+          map_(map),
+          width_(static_cast<std::size_t>(source.Width())),
+          height_(static_cast<std::size_t>(source.Height())) {}
+
+    bool Find() { return TakeOwn() || TakeNearest(); }
+
+    std::vector<BYTE> indices;
+
+private:
+    const Source& source_;
+    ColorMapObject& map_;
+    std::size_t width_;
+    std::size_t height_;
+
+    template <typename Use>
+    void ForEach(Use use) const {
+        std::vector<ARGB> colors(width_);
+        for (std::size_t y = 0; y < height_; ++y) {
+            source_.Read(static_cast<INT>(y), colors.data());
+            for (std::size_t x = 0; x < width_; ++x) {
+                use(y * width_ + x, colors[x]);
+            }
         }
     }
-    indices.resize(width * height);
-    int count = 255;
-    if (GifQuantizeBuffer(static_cast<unsigned>(width), static_cast<unsigned>(height),
-                          &count, red.data(), green.data(), blue.data(), indices.data(),
-                          map.Colors) != GIF_OK) {
-        return false;
+
+    bool TakeOwn() {
+        std::map<ARGB, BYTE> found;
+        bool fits = true;
+        ForEach([&](std::size_t i, ARGB color) {
+            if (color >> 24 < 128) {
+                indices[i] = kClear;
+                return;
+            }
+            const auto index = static_cast<BYTE>(found.size());
+            const auto [place, added] = found.emplace(color | 0xFF000000, index);
+            indices[i] = place->second;
+            if (added && found.size() < 256) {
+                map_.Colors[index] = {static_cast<BYTE>(color >> 16),
+                                      static_cast<BYTE>(color >> 8),
+                                      static_cast<BYTE>(color)};
+            } else if (added) {
+                fits = false;
+                found.erase(place);
+            }
+        });
+        return fits;
     }
-    for (std::size_t i = 0; i < indices.size(); ++i) {
-        indices[i] = clear[i] != 0 ? 255 : indices[i];
+
+    bool TakeNearest() {
+        std::vector<BYTE> red(indices.size());
+        std::vector<BYTE> green(indices.size());
+        std::vector<BYTE> blue(indices.size());
+        std::vector<bool> clear(indices.size());
+        ForEach([&](std::size_t i, ARGB color) {
+            red[i] = static_cast<BYTE>(color >> 16);
+            green[i] = static_cast<BYTE>(color >> 8);
+            blue[i] = static_cast<BYTE>(color);
+            clear[i] = color >> 24 < 128;
+        });
+        int count = kClear;
+        if (GifQuantizeBuffer(static_cast<unsigned>(width_),
+                              static_cast<unsigned>(height_), &count, red.data(),
+                              green.data(), blue.data(), indices.data(),
+                              map_.Colors) != GIF_OK) {
+            return false;
+        }
+        for (std::size_t i = 0; i < indices.size(); ++i) {
+            indices[i] = clear[i] ? kClear : indices[i];
+        }
+        return true;
     }
-    return true;
-}
+};
 
 }  // namespace
 
 bool EncodeGif(const Source& source, std::vector<BYTE>& file) {
     constexpr INT longestSide = 65535;
     const Owned<ColorMapObject, GifFreeMapObject> map(GifMakeMapObject(256, nullptr));
-    std::vector<BYTE> indices;
-    if (map == nullptr || source.Width() > longestSide || source.Height() > longestSide ||
-        !Reduce(source, *map, indices)) {
+    if (map == nullptr || source.Width() > longestSide || source.Height() > longestSide) {
+        return false;
+    }
+    Reduced reduced(source, *map);
+    if (!reduced.Find()) {
         return false;
     }
     const Owned<GifFileType, EndWriting> gif(EGifOpen(&file, WriteBytes, nullptr));
@@ -188,7 +241,7 @@ bool EncodeGif(const Source& source, std::vector<BYTE>& file) {
     }
     EGifSetGifVersion(gif.get(), true);
     GraphicsControlBlock control = {};
-    control.TransparentColor = source.HasAlpha() ? 255 : NO_TRANSPARENT_COLOR;
+    control.TransparentColor = source.HasAlpha() ? kClear : NO_TRANSPARENT_COLOR;
     GifByteType extension[4];
     EGifGCBToExtension(&control, extension);
     if (EGifPutScreenDesc(gif.get(), source.Width(), source.Height(), 8, 0, map.get()) !=
@@ -199,8 +252,8 @@ bool EncodeGif(const Source& source, std::vector<BYTE>& file) {
         return false;
     }
     for (INT y = 0; y < source.Height(); ++y) {
-        BYTE* const row = &indices[static_cast<std::size_t>(y) *
-                                   static_cast<std::size_t>(source.Width())];
+        BYTE* const row = &reduced.indices[static_cast<std::size_t>(y) *
+                                           static_cast<std::size_t>(source.Width())];
         if (EGifPutLine(gif.get(), row, source.Width()) != GIF_OK) {
             return false;
         }

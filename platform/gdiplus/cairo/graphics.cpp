@@ -40,6 +40,13 @@ cairo_matrix_t Graphics::Device() const {
     return device;
 }
 
+double Graphics::PixelMiddle() const {
+    const cairo_matrix_t device = Device();
+    const bool moved =
+        device.xx == 1.0 && device.yx == 0.0 && device.xy == 0.0 && device.yy == 1.0;
+    return ofPixels && moved ? 0.5 : 0.0;
+}
+
 namespace {
 
 GpStatus MakeOn(Bitmap& bitmap, GpGraphics** place) {

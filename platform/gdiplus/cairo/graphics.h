@@ -62,6 +62,9 @@ struct Graphics : GpGraphics {
     }
     /// From world coordinates to Cairo's.
     cairo_matrix_t Device() const;
+    /// How far the middle of a pixel is from its whole coordinate, for lines and glyphs:
+    /// half a pixel where the world is only moved.
+    double PixelMiddle() const;
     /// Lets Cairo know of the clip.
     void ApplyClip();
 };

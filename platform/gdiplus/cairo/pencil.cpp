@@ -63,33 +63,42 @@ void SetColor(cairo_t* cairo, ARGB color) {
 
 namespace {
 
-/// Writes the colour into every pixel.
-void Flood(Pixels& pixels, ARGB color) {
-    const std::vector<ARGB> colors(static_cast<std::size_t>(pixels.width), color);
-    for (INT y = 0; y < pixels.height; ++y) {
-        WriteColors(pixels.format, pixels.Row(y), 0, pixels.width, colors.data());
+/// Writes the colour into the pixels within a clip's part.
+void Flood(const Pixels& pixels, const cairo_rectangle_int_t& part, ARGB color) {
+    const int left = std::max(part.x, 0);
+    const int right = std::min(part.x + part.width, pixels.width);
+    const int bottom = std::min(part.y + part.height, pixels.height);
+    const std::vector<ARGB> colors(static_cast<std::size_t>(std::max(0, right - left)),
+                                   color);
+    for (int y = std::max(part.y, 0); y < bottom && left < right; ++y) {
+        WriteColors(pixels.format, pixels.Row(y), left, right - left, colors.data());
     }
-    pixels.opaque = color >> 24 == 255 && pixels.memory != nullptr;
 }
 
 }  // namespace
 
 GpStatus Clear(Graphics& graphics, ARGB color) {
-    if (graphics.pixels != nullptr) {
-        if (graphics.state.clip == nullptr) {
-            Flood(*graphics.pixels, color);
+    const cairo_region_t* const clip = graphics.state.clip.get();
+    if (Pixels* const pixels = graphics.pixels.get()) {
+        const bool opaque = color >> 24 == 255;
+        if (clip == nullptr) {
+            Flood(*pixels, {0, 0, pixels->width, pixels->height}, color);
+            pixels->opaque = opaque && pixels->memory != nullptr;
             return Ok;
         }
-        graphics.pixels->opaque = graphics.pixels->opaque && color >> 24 == 255;
+        for (int i = 0; i < cairo_region_num_rectangles(clip); ++i) {
+            cairo_rectangle_int_t part;
+            cairo_region_get_rectangle(clip, i, &part);
+            Flood(*pixels, part, color);
+        }
+        pixels->opaque = pixels->opaque && opaque;
+        return Ok;
     }
-    const double most = std::numeric_limits<int>::max();
-    Drawing drawing(graphics, {0.0, 0.0, most, most});
-    cairo_surface_mark_dirty(cairo_get_target(graphics.cairo));
     SetColor(graphics.cairo, color);
     cairo_set_operator(graphics.cairo, CAIRO_OPERATOR_SOURCE);
     cairo_paint(graphics.cairo);
     cairo_set_operator(graphics.cairo, CAIRO_OPERATOR_OVER);
-    return drawing.Finish();
+    return cairo_status(graphics.cairo) == CAIRO_STATUS_SUCCESS ? Ok : GenericError;
 }
 
 GpStatus FillTraced(Pencil& pencil, ARGB color, FillMode mode) {

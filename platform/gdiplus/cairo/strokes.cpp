@@ -8,35 +8,46 @@ namespace engine {
 double StrokeOffset(const Graphics& graphics) {
     const bool half = graphics.state.pixelOffset == PixelOffsetModeHalf ||
                       graphics.state.pixelOffset == PixelOffsetModeHighQuality;
-    return graphics.ofPixels && !half ? 0.5 : 0.0;
+    return half ? 0.0 : graphics.PixelMiddle();
 }
 
 namespace {
 
 /// How a pen's line comes out on the surface.
 struct Width {
-    double units;  ///< of the matrix
-    double device;
+    double units;           ///< of the matrix
+    double device;          ///< at most
     cairo_matrix_t matrix;  ///< under which the pen is round
-    bool thin;              ///< a line of the thinnest, one pixel
+    bool thin;              ///< no wider than a unit
 };
+
+/// The thinnest line is as wide, in world units, as a pixel's diagonal is along x or y.
+double ThinnestOn(const cairo_matrix_t& device) {
+    cairo_matrix_t back = device;
+    cairo_matrix_invert(&back);
+    return std::max(std::fabs(back.xx + back.xy), std::fabs(back.yx + back.yy));
+}
 
 Width WidthOf(const Pen& pen, const Pencil& pencil) {
     const cairo_matrix_t& device = pencil.Device();
-    const bool world = pen.unit == UnitWorld;
-    const double scale =
-        world ? std::sqrt(std::fabs(device.xx * device.yy - device.xy * device.yx)) : 1.0;
-    const double units =
-        world ? pen.width : pen.width * PixelsIn(pen.unit, pencil.Surface().xdpi);
     constexpr double most = 1 << 21;
-    const double width = std::min(units * scale, most);
-    if (!(width > 1.0)) {
-        return {1.0, 1.0, kIdentity, true};
+    const bool thin = !(pen.width > 1.0f);
+    if (pen.unit != UnitWorld || !IsInvertible(device)) {
+        const double pixels =
+            pen.unit == UnitWorld
+                ? 1.0
+                : pen.width * double(PixelsIn(pen.unit, pencil.Surface().xdpi));
+        const double width = std::clamp(pixels, 1.0, most);
+        return {width, width, kIdentity, thin};
     }
-    if (!world || !IsInvertible(device) || units * scale >= most) {
-        return {width, width, kIdentity, false};
+    const double units = std::max(double(pen.width), ThinnestOn(device));
+    const double scale =
+        std::hypot(std::hypot(device.xx, device.yx), std::hypot(device.xy, device.yy));
+    if (units * scale > most) {
+        return {most, most, kIdentity, thin};
     }
-    return {units, width, {device.xx, device.yx, device.xy, device.yy, 0, 0}, false};
+    return {
+        units, units * scale, {device.xx, device.yx, device.xy, device.yy, 0, 0}, thin};
 }
 
 void SetDash(cairo_t* cairo, DashStyle style, double unit) {

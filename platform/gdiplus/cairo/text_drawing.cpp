@@ -151,7 +151,7 @@ GpStatus DrawText(Graphics& graphics, const FlatChar* text, std::size_t length,
     }
     const double scale = placing.upright ? placing.scale : 1.0;
     TextStyle style = StyleOf(*font.family, size, font.style, box, format, scale);
-    style.fit = placing.upright;
+    style.fit = graphics.ofPixels;
     style.smooth = graphics.state.textHint < TextRenderingHintSingleBitPerPixelGridFit ||
                    graphics.state.textHint > TextRenderingHintSingleBitPerPixel;
     if (!(style.size <= kLargestSize)) {
@@ -184,8 +184,7 @@ GpStatus DrawText(Graphics& graphics, const FlatChar* text, std::size_t length,
     cairo_set_antialias(cairo,
                         style.smooth ? CAIRO_ANTIALIAS_DEFAULT : CAIRO_ANTIALIAS_NONE);
     SetColor(cairo, color);
-    // As for lines, a whole coordinate is the middle of a pixel for glyphs.
-    const double middle = placing.upright ? 0.5 : 0.0;
+    const double middle = graphics.PixelMiddle();
     WriteGlyphs(graphics, layout, x + middle, y + middle, placing.upright);
     FillStrokes(cairo, layout, x, y);
     if (clips) {
@@ -201,7 +200,7 @@ GpStatus Measure(const Graphics& graphics, const FlatChar* text, std::size_t len
     const double scale = placing.upright ? placing.scale : 1.0;
     const double size = font.size * PixelsIn(font.unit, graphics.ydpi);
     TextStyle style = StyleOf(*font.family, size, font.style, box, format, scale);
-    style.fit = placing.upright;
+    style.fit = graphics.ofPixels;
     if (!(style.size <= kLargestSize)) {
         return InvalidParameter;
     }

@@ -103,18 +103,6 @@ TEST(Shutdown, LeavesTheProgramAliveWhileSomeoneHoldsAFont) {
         ::testing::ExitedWithCode(0), "^$");
 }
 
-/// Why the binding's shutdown is its own.
-TEST(Shutdown, OfLibgdiplusItselfEndsTheProgramWhileSomeoneHoldsAFont) {
-    EXPECT_EXIT(
-        {
-            const ULONG_PTR token = Start();
-            HoldAFont();
-            DllExports::GdiplusShutdown(token);
-            std::exit(0);
-        },
-        ::testing::KilledBySignal(SIGABRT), "FcCacheFini");
-}
-
 TEST(Shutdown, MayBeFollowedByAnotherStart) {
     EXPECT_EXIT(
         {

@@ -1,4 +1,4 @@
-#include "libgdiplus/flat_spy.h"
+#include "binding/flat_spy.h"
 
 #include <gdiplus.h>
 

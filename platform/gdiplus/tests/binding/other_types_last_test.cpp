@@ -1,12 +1,13 @@
 #define GDIPLUS_NO_WINDOWS_TYPES
-#include "libgdiplus/other_windows_types.h"
-//
 #include <gdiplus.h>
+//
 #include <gtest/gtest.h>
+
+#include "binding/other_windows_types.h"
 
 namespace {
 
-TEST(OtherWindowsTypes, MayComeBeforeOurs) {
+TEST(OtherWindowsTypes, MayComeAfterOurs) {
     const Gdiplus::AdjustableArrowCap cap(4.0f, 2.0f, TRUE);
     const BOOL filled = cap.IsFilled();
     EXPECT_EQ(filled, TRUE);

@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-#include "libgdiplus/flat_spy.h"
+#include "binding/indexed_bmp.h"
 #include "portable/pixels.h"
 
 using namespace Gdiplus;
@@ -221,32 +221,6 @@ TEST_F(Extremes, OfImagesAreRefusedBeforeTheySpoilTheSurface) {
     }
 }
 
-/// A BMP file of 8 by 8 pixels, all of the same index into a palette of red shades.
-void WriteIndexedBmp(const std::filesystem::path& file, unsigned bits, unsigned colors,
-                     unsigned index) {
-    std::string bytes = "BM";
-    const auto append = [&bytes](unsigned value, int count) {
-        for (int i = 0; i < count; ++i) {
-            bytes.push_back(static_cast<char>(value >> (8 * i) & 0xFF));
-        }
-    };
-    const unsigned headers = 14 + 40;
-    for (const unsigned value : {0u, 0u, headers + 4 * colors, 40u, 8u, 8u}) {
-        append(value, 4);
-    }
-    append(1, 2);
-    append(bits, 2);
-    for (const unsigned value : {0u, 0u, 2835u, 2835u, colors, 0u}) {
-        append(value, 4);
-    }
-    for (unsigned i = 0; i < colors; ++i) {
-        append((i + 1) << 16, 4);
-    }
-    const unsigned pair = bits == 4 ? index << 4 | index : index;
-    bytes.append(8 * bits, static_cast<char>(pair));  // rows of 8 pixels, 4 or 8 bytes
-    std::ofstream(file, std::ios::binary) << bytes;
-}
-
 struct PaletteRow {
     unsigned bits;
     unsigned colors;
@@ -269,27 +243,6 @@ TEST_F(Extremes, OfPalettesEndInBlack) {
         EXPECT_EQ(PixelAt(bitmap, 4, 4), row.drawn)
             << row.bits << " bits, " << row.colors << " colours, index " << row.index;
     }
-    std::filesystem::remove(file);
-}
-
-TEST_F(Extremes, OfPalettesThatCannotBeReadStayAsTheyAre) {
-    const std::filesystem::path file =
-        std::filesystem::temp_directory_path() /
-        ("gdiplus_palette_" + std::to_string(std::random_device()()) + ".bmp");
-    WriteIndexedBmp(file, 8, 3, 2);
-    const flat_spy::Palette rows[] = {{Ok, 0, Ok, 1},
-                                      {GenericError, 0, Ok, 0},
-                                      {Ok, 4 * 256, Ok, 0},
-                                      {Ok, 0, OutOfMemory, 0}};
-    for (const flat_spy::Palette& row : rows) {
-        flat_spy::Clear();
-        flat_spy::Palettes() = row;
-        flat_spy::Palettes().sets = 0;
-        const Image image(file.wstring().c_str());
-        EXPECT_EQ(flat_spy::Palettes().sets, row.sets);
-        EXPECT_EQ(image.GetLastStatus(), Ok);
-    }
-    flat_spy::Clear();
     std::filesystem::remove(file);
 }
 

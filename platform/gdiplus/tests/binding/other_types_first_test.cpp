@@ -1,13 +1,12 @@
 #define GDIPLUS_NO_WINDOWS_TYPES
-#include <gdiplus.h>
+#include "binding/other_windows_types.h"
 //
+#include <gdiplus.h>
 #include <gtest/gtest.h>
-
-#include "libgdiplus/other_windows_types.h"
 
 namespace {
 
-TEST(OtherWindowsTypes, MayComeAfterOurs) {
+TEST(OtherWindowsTypes, MayComeBeforeOurs) {
     const Gdiplus::AdjustableArrowCap cap(4.0f, 2.0f, TRUE);
     const BOOL filled = cap.IsFilled();
     EXPECT_EQ(filled, TRUE);
