@@ -1,9 +1,11 @@
 #include "map_page/draw_page.h"
 
+#include <algorithm>
 #include <cstddef>
 
 #include "map_page/error.h"
 #include "map_page/write_page.h"
+#include "page/document/map_on_page.h"
 #include "page/document/opened_page.h"
 #include "page/document/page_text.h"
 #include "page/document/raster_store.h"
@@ -64,6 +66,13 @@ std::string DrawPage(const Options& options, host::OutputFile* output,
     std::string summary;
     if (output != nullptr) {
         summary = WriteInto(options, opened.page, *output, quiet);
+        // A map without data is known when it has been drawn.
+        for (const std::string& remark : host::RemarksOfMaps(opened.page)) {
+            if (std::find(opened.remarks.begin(), opened.remarks.end(), remark) ==
+                opened.remarks.end()) {
+                quiet.Warn(remark);
+            }
+        }
     }
     if (!options.save.empty()) {
         summary += (summary.empty() ? "" : "\n") + Save(options, opened.page);

@@ -8,10 +8,12 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "map_page/error.h"
 #include "map_page/map_options.h"
+#include "map_page/style_options.h"
 #include "map_page/values.h"
 #include "map_surround/version.h"
 #include "page/colour_text.h"
@@ -32,14 +34,18 @@ coordinate system. The map spans all of them. A raster that has another coordina
 or no georeference is left off the map, with a warning.
 
 A single name that ends in .json is a page file: drawn as it says, and with no other
-options than --output and --dpi. --save writes one, of the page that would be drawn, to be
-changed by hand; what it says is in docs/page_file.md.
+options than --output and --dpi, and --stretch, --bands and --nodata for its maps. --save
+writes one, of the page that would be drawn, to be changed by hand; docs/page_file.md tells
+what it says.
 
 A series draws one page for each row of a list of comma-separated values. Its first row
-names the columns: rasters (files with ; between), extent (left bottom right top), and
-names of elements, such as title, whose text the row has. Any column may be part of the
-output's name. An empty cell leaves what the page file says. Outputs that are there are
-not drawn again. docs/series.md tells the rest.
+names the columns: rasters (files with ; between), extent (left bottom right top),
+stretch, bands, noData, and names of elements, such as title, whose text the row has. Any
+column may be part of the output's name. An empty cell leaves what the page file says.
+Outputs that are there are not drawn again. docs/series.md tells the rest.
+
+A raster is stretched by all of its values, so that one value has one shade on every page
+and in the legend, whose range is the range drawn. Classes keep their colours.
 
 COLOR is on (the default colour), off, #RRGGBB, #RRGGBBAA or one of
 {colours}.
@@ -69,6 +75,7 @@ std::string Footer() {
 /// The values that are not yet what they stand for.
 struct Given {
     std::vector<std::string> rasters;
+    GivenStyle style;
     std::string title;
     std::string titleFont = "Arial";
     std::string picture;
@@ -151,6 +158,7 @@ void Declare(CLI::App& app, Given& given, Options& options) {
                    "Image beside the map, such as a logo: PNG, JPEG, BMP, TIFF or GIF")
         ->type_name("FILE")
         ->group("Picture");
+    DeclareStyle(app, given.style);
     DeclareLegend(app, given);
     DeclareMap(app, options);
     DeclareScaleBar(app, options);
@@ -183,8 +191,9 @@ bool IsOfPageFile(const Given& given) {
 }
 
 /// The options that go with a page file, which says the rest itself.
-constexpr std::string_view kWithPageFile[] = {"RASTER", "--output", "--dpi", "--series",
-                                              "--jobs"};
+constexpr std::string_view kWithPageFile[] = {"RASTER",   "--output", "--dpi",
+                                              "--series", "--jobs",   "--stretch",
+                                              "--bands",  "--nodata"};
 
 void CheckCall(const CLI::App& app, const Given& given, const Options& options) {
     if (options.output.empty() && options.save.empty()) {
@@ -241,6 +250,8 @@ void Complete(const Given& given, Options& options) {
     design.legend.shown = !given.noLegend;
     design.legend.title = ReadText("--legend-title", given.legendTitle);
     design.legend.family = ReadText("--legend-font", given.legendFont);
+    options.design.map.style = ReadStyle(given.style);
+    options.changes.mapTexts = MapTexts(given.style);
 
     const host::FrameStyle byDefault;
     design.frames.border = ReadColor("--border", given.border, byDefault.border);
@@ -257,7 +268,9 @@ std::variant<Options, std::string> ReadCommandLine(int argc, const char* const* 
     Options options;
     Declare(app, given, options);
     try {
-        app.parse(argc, argv);
+        std::vector<std::string> arguments = Arguments(argc, argv);
+        std::reverse(arguments.begin(), arguments.end());  // as CLI11 takes them
+        app.parse(std::move(arguments));
     } catch (const CLI::Success& asked) {
         std::ostringstream said;
         app.exit(asked, said, said);

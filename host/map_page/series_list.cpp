@@ -1,6 +1,7 @@
 #include "map_page/series_list.h"
 
 #include <algorithm>
+#include <array>
 #include <map>
 #include <stdexcept>
 #include <string_view>
@@ -17,9 +18,15 @@ namespace {
 
 constexpr const char* kRastersColumn = "rasters";
 constexpr const char* kExtentColumn = "extent";
+// Properties of every map.
+constexpr std::array<std::string_view, 3> kMapColumns = {"stretch", "bands", "noData"};
 constexpr char kBetweenRasters = ';';
 constexpr std::size_t kMostBytes = std::size_t{1} << 30;
 constexpr std::size_t kNoColumn = static_cast<std::size_t>(-1);
+
+bool IsMapColumn(const std::string& column) {
+    return std::find(kMapColumns.begin(), kMapColumns.end(), column) != kMapColumns.end();
+}
 
 /// A piece of an output's name: text, or the value of a column.
 struct NamePiece {
@@ -137,6 +144,8 @@ host::PageChanges ChangesIn(const std::vector<std::string>& columns,
             changes.rasters = RastersIn(value, paths);
         } else if (columns[i] == kExtentColumn) {
             changes.extent = ExtentIn(value);
+        } else if (IsMapColumn(columns[i])) {
+            changes.mapTexts.emplace_back(columns[i], value);
         } else if (ColumnOf(textColumns, columns[i]) != kNoColumn) {
             changes.texts.emplace_back(columns[i], value);
         }
@@ -154,7 +163,7 @@ std::vector<std::string> TextColumnsOf(const std::vector<std::string>& columns) 
         if (std::count(columns.begin(), columns.end(), column) > 1) {
             throw Error("line 1", "names the column \"" + column + "\" twice");
         }
-        if (column != kRastersColumn && column != kExtentColumn) {
+        if (column != kRastersColumn && column != kExtentColumn && !IsMapColumn(column)) {
             texts.push_back(column);
         }
     }

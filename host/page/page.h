@@ -14,6 +14,7 @@
 #include "page/box.h"
 #include "page/map/map_picture.h"
 #include "page/map/rendered_maps.h"
+#include "raster_data/raster_style.h"
 
 namespace host {
 
@@ -27,6 +28,7 @@ struct MapFrame {
     /// The denominator of the scale that the frame keeps whatever its size, around the
     /// middle of the extent; NaN for none.
     double scale = std::numeric_limits<double>::quiet_NaN();
+    RasterStyle style = {};  ///< in which its rasters are shown
 };
 
 /// What stands on a page: a map, or a frame with one element in it.

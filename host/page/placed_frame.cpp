@@ -62,6 +62,13 @@ void ScaleBarFrame::Draw(Gdiplus::Graphics* graphics, CPoint centre, double scal
     graphics->Restore(state);
 }
 
+void LegendFrame::SetSources(std::vector<CGISDataSource*> sources) {
+    m_sources = std::move(sources);
+    if (auto* const legend = ElementOf<CMapLegend>(*this)) {
+        legend->SetDataSouce(m_sources);
+    }
+}
+
 void LegendFrame::SetSizeFactor(float factor) {
     m_sizeFactor = factor;
     if (auto* const legend = ElementOf<CMapLegend>(*this)) {

@@ -128,9 +128,14 @@ public:
     }
     const std::vector<std::string>& RasterPaths() const { return m_rasterPaths; }
 
+    /// What the legend explains; not owned.
+    void SetSources(std::vector<CGISDataSource*> sources);
+    const std::vector<CGISDataSource*>& Sources() const { return m_sources; }
+
 private:
     float m_sizeFactor = 1.0f;
     std::vector<std::string> m_rasterPaths;
+    std::vector<CGISDataSource*> m_sources;
 };
 
 /// The frame that suits an element, which it takes over: a ScaleBarFrame for a scale bar.

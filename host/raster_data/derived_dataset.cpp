@@ -52,7 +52,18 @@ std::shared_ptr<GDALDataset> Translated(GDALDataset& dataset,
 
 std::shared_ptr<GDALDataset> TurnedNorthUp(GDALDataset& dataset) {
     const QuietGdal quiet;
-    CPLStringList list = ListOf({"-of", "VRT", "-r", "near", "-dstalpha"});
+    CPLStringList list = ListOf({"-of", "VRT", "-r", "near"});
+    GDALRasterBand* const band = dataset.GetRasterBand(1);
+    int hasNoData = FALSE;
+    band->GetNoDataValue(&hasNoData);
+    if (hasNoData == FALSE && band->GetRasterDataType() == GDT_Byte) {
+        list.AddString("-dstalpha");
+    } else if (hasNoData == FALSE) {
+        // GDAL masks by no alpha band of most other types.
+        for (const char* argument : {"-ot", "Float64", "-dstnodata", "nan"}) {
+            list.AddString(argument);
+        }
+    }
     const std::unique_ptr<GDALWarpAppOptions, decltype(&GDALWarpAppOptionsFree)> options(
         GDALWarpAppOptionsNew(list.List(), nullptr), GDALWarpAppOptionsFree);
     GDALDatasetH source = GDALDataset::ToHandle(&dataset);

@@ -20,8 +20,9 @@ std::shared_ptr<GDALDataset> Translated(GDALDataset& dataset,
                                         const std::vector<std::string>& arguments);
 
 /// A dataset whose rows run from west to east and from north to south, with the nearest
-/// pixels of one that is turned, and a band more, of alpha, that is 0 where there are
-/// none. Throws std::runtime_error with the reason.
+/// pixels of one that is turned. Those beside it are masked: by its no-data value; where
+/// it has none, by a band more, of alpha, for bytes, and by NaN for anything else, whose
+/// values are doubles then. Throws std::runtime_error with the reason.
 std::shared_ptr<GDALDataset> TurnedNorthUp(GDALDataset& dataset);
 
 }  // namespace host

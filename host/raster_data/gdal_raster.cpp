@@ -201,6 +201,8 @@ CClassifyDisplayTable* GdalRaster::GetClassifyDisplayTable() {
 }
 
 const std::string& GdalRaster::Path() const { return m_state->path; }
+const RasterStyle& GdalRaster::Style() const { return m_state->shading->Style(); }
+int GdalRaster::BandCount() const { return m_state->shading->BandCount(); }
 int GdalRaster::Width() const { return m_state->dataset->GetRasterXSize(); }
 int GdalRaster::Height() const { return m_state->dataset->GetRasterYSize(); }
 

@@ -56,6 +56,8 @@ public:
     CClassifyDisplayTable* GetClassifyDisplayTable() override;
 
     const std::string& Path() const;
+    const RasterStyle& Style() const;  ///< as it was opened with
+    int BandCount() const;
     int Width() const;   ///< pixels
     int Height() const;  ///< pixels
 

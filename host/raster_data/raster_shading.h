@@ -23,7 +23,9 @@ public:
     /// Throws std::runtime_error when the style asks for a band that there is not.
     RasterShading(std::shared_ptr<GDALDataset> whole, RasterStyle style);
 
+    const RasterStyle& Style() const { return m_style; }
     DataDisplayType Type() const;
+    int BandCount() const { return static_cast<int>(m_bands.size()); }
 
     /// From 0: three as red, green and blue, or one.
     const std::vector<int>& Shown() const { return m_shown; }

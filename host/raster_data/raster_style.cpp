@@ -112,6 +112,23 @@ bool RasterStyle::ParseNoData(std::string_view text) {
     return true;
 }
 
+std::string RasterStyle::WhyNoStretch(std::string_view text) {
+    return ParseStretch(text) ? ""
+                              : "must be auto, none, minmax, percent LOW HIGH (from 0 to "
+                                "100) or stddev COUNT (above 0)";
+}
+
+std::string RasterStyle::WhyNoBands(std::string_view text) {
+    return RasterStyle().ParseBands(text)
+               ? ""
+               : "must be the number of a band, or three with commas between, such as "
+                 "3,2,1";
+}
+
+std::string RasterStyle::WhyNoNoData(std::string_view text) {
+    return RasterStyle().ParseNoData(text) ? "" : "must be a number, nan, or none";
+}
+
 bool operator<(const RasterStyle& a, const RasterStyle& b) {
     const auto texts = [](const RasterStyle& style) {
         return std::make_tuple(style.stretch.Text(), style.bands, style.NoDataText());

@@ -59,6 +59,12 @@ struct RasterStyle {
     /// that is none.
     bool ParseBands(std::string_view text);
     bool ParseNoData(std::string_view text);
+
+    /// What the text of a stretch, of bands or of a no-data value must be, as the end of
+    /// a sentence that begins with its name; empty where it is that.
+    static std::string WhyNoStretch(std::string_view text);
+    static std::string WhyNoBands(std::string_view text);
+    static std::string WhyNoNoData(std::string_view text);
 };
 
 /// Styles are the same when their texts are.

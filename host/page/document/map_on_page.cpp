@@ -2,8 +2,7 @@
 
 namespace host {
 
-MapOnPage DescribeMap(const std::shared_ptr<MapLayers>& map,
-                      const std::vector<std::string>& paths, RasterStore& rasters) {
+MapOnPage DescribeMap(const std::shared_ptr<MapLayers>& map) {
     MapOnPage onPage;
     onPage.picture = map;
     onPage.aspectRatio = map->AspectRatio();
@@ -11,8 +10,8 @@ MapOnPage DescribeMap(const std::shared_ptr<MapLayers>& map,
         onPage.extent = map->Extent();
         onPage.projection = map->Projection();
     }
-    for (const std::string& path : paths) {
-        onPage.sources.push_back(rasters.Raster(path).get());
+    for (const std::shared_ptr<GdalRaster>& raster : map->Rasters()) {
+        onPage.sources.push_back(raster.get());
     }
     return onPage;
 }
@@ -22,14 +21,12 @@ std::shared_ptr<MapLayers> LayersOf(const PageItem& item) {
     return map == nullptr ? nullptr : std::dynamic_pointer_cast<MapLayers>(map->picture);
 }
 
-std::vector<std::string> RemarksOfLeftOut(const Page& page) {
+std::vector<std::string> RemarksOfMaps(const Page& page) {
     std::vector<std::string> remarks;
     for (const PageItem& item : page.Items()) {
         if (const std::shared_ptr<MapLayers> map = LayersOf(item)) {
-            for (const LeftOutRaster& raster : map->LeftOut()) {
-                remarks.push_back(raster.raster->Path() +
-                                  ": left off the map: " + raster.why);
-            }
+            const std::vector<std::string> ofMap = map->Remarks();
+            remarks.insert(remarks.end(), ofMap.begin(), ofMap.end());
         }
     }
     return remarks;

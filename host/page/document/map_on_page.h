@@ -10,14 +10,14 @@
 
 namespace host {
 
-/// What the furniture of a page says of a map.
-MapOnPage DescribeMap(const std::shared_ptr<MapLayers>& map,
-                      const std::vector<std::string>& paths, RasterStore& rasters);
+/// What the furniture of a page says of a map; its legend explains the rasters that are
+/// on it.
+MapOnPage DescribeMap(const std::shared_ptr<MapLayers>& map);
 
 /// The layers of an item that is a map whose rasters are open; else null.
 std::shared_ptr<MapLayers> LayersOf(const PageItem& item);
 
-/// The rasters that could not be placed on a page's maps, and why, one line each.
-std::vector<std::string> RemarksOfLeftOut(const Page& page);
+/// What the maps of a page remark (see MapLayers::Remarks).
+std::vector<std::string> RemarksOfMaps(const Page& page);
 
 }  // namespace host

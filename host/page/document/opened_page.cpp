@@ -13,11 +13,15 @@
 namespace host {
 namespace {
 
-/// Has the page's map remember what part of it is shown, and show that.
+/// Has the page's map remember how and what part of it is shown, and show that.
 void ShowAsDesigned(const MapDesign& design, Page& page, RasterStore& rasters) {
     for (PageItem& item : page.Items()) {
         auto* const map = std::get_if<MapFrame>(&item);
-        if (map != nullptr && (design.extent || design.scale)) {
+        if (map == nullptr) {
+            continue;
+        }
+        map->style = design.style;
+        if (design.extent || design.scale) {
             map->extent = design.extent;
             map->scale = design.scale.value_or(map->scale);
             OpenRasters(item, rasters);
@@ -37,7 +41,7 @@ OpenedPage OpenPageFile(const std::string& path, const PageChanges& changes,
         }
         auto rasters = std::make_unique<RasterStore>();
         const std::vector<std::string> untrue = ChangeAndOpen(page, changes, *rasters);
-        std::vector<std::string> remarks = RemarksOfLeftOut(page);
+        std::vector<std::string> remarks = RemarksOfMaps(page);
         remarks.insert(remarks.end(), untrue.begin(), untrue.end());
         return OpenedPage{std::move(rasters), std::move(page), std::move(remarks)};
     });
@@ -46,12 +50,13 @@ OpenedPage OpenPageFile(const std::string& path, const PageChanges& changes,
 OpenedPage LayOutRasters(const std::vector<std::string>& paths,
                          const PageDesign& design) {
     auto rasters = std::make_unique<RasterStore>();
-    const std::shared_ptr<MapLayers> map = rasters->Map(paths, design.map.extent);
-    LaidOutPage laidOut = LayOut(design, DescribeMap(map, paths, *rasters));
-    std::vector<std::string> remarks = RemarksOfLeftOut(laidOut.page);
-    remarks.insert(remarks.end(), laidOut.remarks.begin(), laidOut.remarks.end());
+    const std::shared_ptr<MapLayers> map =
+        rasters->Map(paths, design.map.extent, design.map.style);
+    LaidOutPage laidOut = LayOut(design, DescribeMap(map));
     NameRasters(laidOut.page, paths);
     ShowAsDesigned(design.map, laidOut.page, *rasters);
+    std::vector<std::string> remarks = RemarksOfMaps(laidOut.page);
+    remarks.insert(remarks.end(), laidOut.remarks.begin(), laidOut.remarks.end());
     return {std::move(rasters), std::move(laidOut.page), std::move(remarks)};
 }
 

@@ -45,16 +45,21 @@ void FitTitle(const CSurroundFrame& frame, CMapTitle& title) {
     }
 }
 
+void WriteText(host::PageItem& item, const host::Property& property,
+               const std::string& name, const std::string& text) {
+    const std::string why = host::CheckValue(property, text);
+    if (!why.empty()) {
+        throw host::PageError(name, why);
+    }
+    property.write(item, text);
+}
+
 void SetText(host::PageItem& item, const std::string& name, const std::string& text) {
     const host::Property* const property = TextOf(item);
     if (property == nullptr || !IsNamed(item, name)) {
         return;
     }
-    const std::string why = host::CheckValue(*property, text);
-    if (!why.empty()) {
-        throw host::PageError(name, why);
-    }
-    property->write(item, text);
+    WriteText(item, *property, name, text);
     if (auto* const title = host::ElementOf<CMapTitle>(item)) {
         title->ResetAspectRatio();
         FitTitle(*host::FrameAs<CSurroundFrame>(item), *title);
@@ -73,6 +78,11 @@ void Change(host::Page& page, const PageChanges& changes) {
         const host::Property* const scale = PropertyOf(item, "scale");
         if (scale != nullptr && changes.scale) {
             scale->write(item, *changes.scale);
+        }
+        if (std::holds_alternative<host::MapFrame>(item)) {
+            for (const auto& [name, text] : changes.mapTexts) {
+                WriteText(item, *PropertyOf(item, name.c_str()), name, text);
+            }
         }
         for (const auto& [name, text] : changes.texts) {
             SetText(item, name, text);

@@ -76,8 +76,12 @@ std::string CheckValue(const Property& property, const PropertyValue& value) {
             return CheckNumber(property.range, std::get<double>(value));
         case PropertyKind::Text:
         case PropertyKind::Font:
-        case PropertyKind::File:
-            return CheckText(std::get<std::string>(value));
+        case PropertyKind::File: {
+            const auto& text = std::get<std::string>(value);
+            std::string why = CheckText(text);
+            return why.empty() && property.checkText != nullptr ? property.checkText(text)
+                                                                : why;
+        }
         case PropertyKind::Rasters:
             return CheckPaths(std::get<std::vector<std::string>>(value));
         case PropertyKind::MapExtent:

@@ -2,12 +2,13 @@
 
 #include <sys/stat.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <system_error>
 
-#include "map_surround/legend.h"
 #include "page/document/item_type.h"
 #include "page/document/json_text.h"
+#include "page/document/legend_sources.h"
 #include "page/document/page_format.h"
 #include "page/element_of.h"
 #include "page/layout/fit_to_map.h"
@@ -54,7 +55,7 @@ Box ShownOf(const MapFrame& map, const MapLayers& layers) {
 
 /// A map that is not stretched: where its frame has other proportions, it shows more.
 std::shared_ptr<MapPicture> PictureOf(const MapFrame& map, RasterStore& store) {
-    std::shared_ptr<MapLayers> layers = store.Map(map.rasterPaths, map.extent);
+    std::shared_ptr<MapLayers> layers = store.Map(map.rasterPaths, map.extent, map.style);
     const double ratio = layers->AspectRatio();
     if (!layers->IsPlaced() || !(ratio * kLongestMap >= 1.0 && ratio <= kLongestMap)) {
         return layers;
@@ -63,30 +64,7 @@ std::shared_ptr<MapPicture> PictureOf(const MapFrame& map, RasterStore& store) {
     return shown.Width() == layers->Extent().Width() &&
                    shown.Height() == layers->Extent().Height()
                ? layers
-               : store.Map(map.rasterPaths, shown);
-}
-
-/// A legend multiplies its font sizes whenever it is measured. Those of a page have been
-/// already.
-void Measure(CMapLegend& legend, float sizeFactor) {
-    const int size = legend.GetSize();
-    const float aspectRatio = legend.GetAspectRatio();
-    legend.SetSizeAspect(1.0f);
-    legend.ResetAspectRatio();
-    legend.SetSizeAspect(sizeFactor);
-    if (size != 0) {
-        legend.SetSize(size);
-        legend.SetAspectRatio(aspectRatio);
-    }
-}
-
-void OpenLegend(const LegendFrame& frame, CMapLegend& legend, RasterStore& store) {
-    std::vector<CGISDataSource*> sources;
-    for (const std::string& path : frame.RasterPaths()) {
-        sources.push_back(store.Raster(path).get());
-    }
-    legend.SetDataSouce(std::move(sources));
-    Measure(legend, frame.SizeFactor());
+               : store.Map(map.rasterPaths, shown, map.style);
 }
 
 std::string WhyNot(const Property& property, const PageItem& item) {
@@ -104,32 +82,44 @@ std::string WhyNot(const Property& property, const PageItem& item) {
 
 }  // namespace
 
-std::shared_ptr<GdalRaster> RasterStore::Raster(const std::string& path) {
-    const auto known = m_rasters.find(path);
-    if (known != m_rasters.end()) {
-        return known->second;
-    }
-    std::string why;
-    std::shared_ptr<GdalRaster> raster = GdalRaster::Open(path, why);
+std::shared_ptr<GdalRaster> RasterStore::Raster(const std::string& path,
+                                                const RasterStyle& style) {
+    std::shared_ptr<GdalRaster>& raster = m_rasters[{path, style}];
     if (raster == nullptr) {
-        throw PageError(path, why);
+        std::string why;
+        raster = GdalRaster::Open(path, why, style);
+        if (raster == nullptr) {
+            m_rasters.erase({path, style});
+            throw PageError(path, why);
+        }
     }
-    m_rasters.emplace(path, raster);
     return raster;
 }
 
+bool RasterStore::Has(const std::string& path) const {
+    return std::any_of(m_rasters.begin(), m_rasters.end(),
+                       [&](const auto& entry) { return entry.first.first == path; });
+}
+
 std::shared_ptr<MapLayers> RasterStore::Map(const std::vector<std::string>& paths,
-                                            const std::optional<Box>& extent) {
-    MapKey key{paths, {}};
+                                            const std::optional<Box>& extent,
+                                            const RasterStyle& style) {
+    MapKey key{paths, {}, style};
     if (extent) {
-        key.second = {extent->left, extent->bottom, extent->right, extent->top};
+        std::get<1>(key) = {extent->left, extent->bottom, extent->right, extent->top};
     }
     std::shared_ptr<MapLayers>& map = m_maps[key];
     if (map == nullptr) {
         std::vector<std::shared_ptr<GdalRaster>> rasters;
         rasters.reserve(paths.size());
         for (const std::string& path : paths) {
-            rasters.push_back(Raster(path));
+            rasters.push_back(Raster(path, style));
+        }
+        if (!style.bands.empty() &&
+            std::all_of(rasters.begin(), rasters.end(),
+                        [](const auto& raster) { return raster->BandCount() == 1; })) {
+            throw PageError(paths.front(),
+                            "has one band only, so that none can be chosen");
         }
         map = std::make_shared<MapLayers>(std::move(rasters), extent);
     }
@@ -140,22 +130,29 @@ void OpenRasters(PageItem& item, RasterStore& store) {
     Placing(kRastersKey, [&] {
         if (auto* const map = std::get_if<MapFrame>(&item)) {
             map->picture = map->rasterPaths.empty() ? nullptr : PictureOf(*map, store);
-            return;
-        }
-        const auto* const frame = FrameAs<LegendFrame>(item);
-        auto* const legend = ElementOf<CMapLegend>(item);
-        if (frame != nullptr && legend != nullptr) {
-            OpenLegend(*frame, *legend, store);
+        } else {
+            OpenLegend(item, nullptr, store);
         }
     });
 }
 
 void OpenRasters(Page& page, RasterStore& store) {
-    for (std::size_t i = 0; i < page.Items().size(); ++i) {
-        try {
-            OpenRasters(page.Items()[i], store);
-        } catch (const PageError& error) {
-            throw PageError("", PlaceOfElement(i) + "." + error.what());
+    // Legends explain what the maps show.
+    for (const bool isMap : {true, false}) {
+        for (std::size_t i = 0; i < page.Items().size(); ++i) {
+            PageItem& item = page.Items()[i];
+            if (std::holds_alternative<MapFrame>(item) != isMap) {
+                continue;
+            }
+            try {
+                if (isMap) {
+                    OpenRasters(item, store);
+                } else {
+                    Placing(kRastersKey, [&] { OpenLegend(item, &page, store); });
+                }
+            } catch (const PageError& error) {
+                throw PageError("", PlaceOfElement(i) + "." + error.what());
+            }
         }
     }
 }

@@ -4,6 +4,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -13,27 +14,33 @@
 
 namespace host {
 
-/// The rasters of pages, opened once each, by path, and the maps made of them: items that
-/// name the same rasters share them, also after an item was written and read again. So
-/// undoing a change reads no raster (see RenderedMaps, which knows maps by their object).
+/// The rasters of pages, opened once each, by path and style, and the maps made of them:
+/// items that name the same rasters share them, also after an item was written and read
+/// again. So undoing a change reads no raster (see RenderedMaps, which knows maps by
+/// their object).
 ///
 /// Must outlive the pages that were given rasters from it.
 class RasterStore {
 public:
-    /// A raster. Throws PageError that names the path when it cannot be opened.
-    std::shared_ptr<GdalRaster> Raster(const std::string& path);
+    /// A raster in a style. Throws PageError that names the path when it cannot be
+    /// opened.
+    std::shared_ptr<GdalRaster> Raster(const std::string& path,
+                                       const RasterStyle& style = {});
 
-    /// Whether a raster is open.
-    bool Has(const std::string& path) const { return m_rasters.count(path) > 0; }
+    /// Whether a raster is open, in any style.
+    bool Has(const std::string& path) const;
 
-    /// A map of at least one raster. Throws as Raster does.
+    /// A map of at least one raster. Throws as Raster does, and where bands are chosen of
+    /// rasters that all have only one.
     std::shared_ptr<MapLayers> Map(const std::vector<std::string>& paths,
-                                   const std::optional<Box>& extent);
+                                   const std::optional<Box>& extent,
+                                   const RasterStyle& style = {});
 
 private:
-    using MapKey = std::pair<std::vector<std::string>, std::vector<double>>;
+    using RasterKey = std::pair<std::string, RasterStyle>;
+    using MapKey = std::tuple<std::vector<std::string>, std::vector<double>, RasterStyle>;
 
-    std::map<std::string, std::shared_ptr<GdalRaster>> m_rasters;
+    std::map<RasterKey, std::shared_ptr<GdalRaster>> m_rasters;
     std::map<MapKey, std::shared_ptr<MapLayers>> m_maps;
 };
 
@@ -43,7 +50,8 @@ private:
 /// as it was.
 void OpenRasters(PageItem& item, RasterStore& store);
 
-/// The same for every item of a page; the error names the element.
+/// The same for every item of a page, and its legends explain what its maps show (see
+/// OpenLegend); the error names the element.
 void OpenRasters(Page& page, RasterStore& store);
 
 /// Names the rasters of every map and legend of a page that was laid out from them.

@@ -74,8 +74,13 @@ ordered_json ValueSchema(const Property& property) {
             return {{"type", "string"}, {"pattern", "^#([0-9A-Fa-f]{2}){3,4}$"}};
         case PropertyKind::Text:
         case PropertyKind::Font:
-        case PropertyKind::File:
-            return Text(0);
+        case PropertyKind::File: {
+            ordered_json schema = Text(0);
+            if (property.pattern != nullptr) {
+                schema["pattern"] = property.pattern;
+            }
+            return schema;
+        }
         case PropertyKind::Rasters:
             return {{"type", "array"}, {"items", Text(1)}, {"maxItems", kMostRasters}};
         case PropertyKind::MapExtent:

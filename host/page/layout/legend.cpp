@@ -50,6 +50,7 @@ std::unique_ptr<LegendFrame> PlaceLegend(const PageDesign& design, const MapOnPa
         return nullptr;
     }
     auto frame = std::make_unique<LegendFrame>(std::move(legend));
+    frame->SetSources(map.sources);
     FrameInk(*frame, ink, room, At::Top, design.frames, measures);
     frame->SetName("legend");
     return frame;

@@ -11,6 +11,7 @@
 #include "page/catalogue.h"
 #include "page/map/shown_map.h"
 #include "page/paper.h"
+#include "raster_data/raster_style.h"
 
 namespace host {
 
@@ -55,6 +56,7 @@ struct NorthArrowDesign {
 struct MapDesign {
     std::optional<Box> extent;    ///< the part that is shown; else all of it
     std::optional<double> scale;  ///< its denominator; else as large as there is room
+    RasterStyle style;            ///< in which its rasters are shown
 };
 
 struct LegendDesign {

@@ -41,6 +41,15 @@ void LayOver(const std::uint8_t* above, std::uint8_t* below) {
 
 }  // namespace
 
+bool IsBlank(const PixelImage& image) {
+    for (std::size_t i = 3; i < image.bgra.size(); i += 4) {
+        if (image.bgra[i] != 0) {
+            return false;
+        }
+    }
+    return true;
+}
+
 void MirrorRows(PixelImage& image) {
     for (int row = 0; row < image.height; ++row) {
         for (int left = 0, right = image.width - 1; left < right; ++left, --right) {

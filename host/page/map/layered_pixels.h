@@ -14,6 +14,9 @@ struct PixelSpan {
 /// 0.25 and 0.5 of ten are 3 and 4.
 PixelSpan PixelsBetween(double from, double to, int size);
 
+/// Whether every pixel is fully transparent.
+bool IsBlank(const PixelImage& image);
+
 /// Swaps left and right.
 void MirrorRows(PixelImage& image);
 

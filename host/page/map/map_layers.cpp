@@ -11,6 +11,21 @@
 namespace host {
 namespace {
 
+/// A raster with its rows from west to east, or from east to west; as it is where it has
+/// no georeference, or where `why` says that it cannot be.
+std::shared_ptr<GdalRaster> Straight(std::shared_ptr<GdalRaster> raster,
+                                     std::string& why) {
+    if (!IsGeoreferenced(*raster) || !IsTurned(*raster)) {
+        return raster;
+    }
+    try {
+        return raster->NorthUp();
+    } catch (const std::runtime_error& error) {
+        why = std::string("is turned against north: ") + error.what();
+        return raster;
+    }
+}
+
 /// A map edge where all rasters end, or where the first ends when that is nearly there.
 double MapEdge(double ofAll, double ofFirst, double firstLength) {
     return std::fabs(ofAll - ofFirst) <= firstLength / 100.0 ? ofFirst : ofAll;
@@ -50,28 +65,35 @@ MapLayers::Layer MapLayers::Placed(std::shared_ptr<GdalRaster> raster) {
 
 MapLayers::MapLayers(std::vector<std::shared_ptr<GdalRaster>> rasters,
                      const std::optional<Box>& extent)
-    : m_asked(extent) {
-    if (rasters.empty()) {
+    : m_given(std::move(rasters)), m_asked(extent) {
+    if (m_given.empty()) {
         throw std::invalid_argument("a map needs a raster");
     }
-    for (const std::shared_ptr<GdalRaster>& raster : rasters) {
-        m_paths.push_back(raster->Path());
-    }
-    const std::shared_ptr<GdalRaster> first = rasters.front();
-    const std::string whyNotPlaced = WhyNotPlaced(*first, *first);
-    m_isPlaced = whyNotPlaced.empty();
+    std::string whyTurned;
+    const std::shared_ptr<GdalRaster> first = Straight(m_given.front(), whyTurned);
+    m_isPlaced = WhyNotPlaced(*first, *first).empty();
     m_layers.push_back(m_isPlaced ? Placed(first) : AsStored(first));
+    m_onMap.push_back(m_given.front());
     if (m_isPlaced) {
         m_projection = first->Projection();
     }
+    if (!whyTurned.empty()) {
+        m_remarks.push_back(first->Path() + ": shown as it is stored, for it " +
+                            whyTurned);
+    }
     Box all = m_layers.front().extent;
-    for (std::size_t i = 1; i < rasters.size(); ++i) {
-        std::string why = WhyNotPlaced(*rasters[i], *first);
+    for (std::size_t i = 1; i < m_given.size(); ++i) {
+        std::string why;
+        std::shared_ptr<GdalRaster> raster = Straight(m_given[i], why);
         if (why.empty()) {
-            m_layers.push_back(Placed(std::move(rasters[i])));
+            why = WhyNotPlaced(*raster, *first);
+        }
+        if (why.empty()) {
+            m_layers.push_back(Placed(std::move(raster)));
+            m_onMap.push_back(m_given[i]);
             all = Union(all, m_layers.back().extent);
         } else {
-            m_leftOut.push_back({std::move(rasters[i]), std::move(why)});
+            m_remarks.push_back(m_given[i]->Path() + ": left off the map: " + why);
         }
     }
     const Box& own = m_layers.front().extent;
@@ -86,14 +108,29 @@ MapLayers::MapLayers(std::vector<std::shared_ptr<GdalRaster>> rasters,
 
 std::unique_ptr<MapLayers> MapLayers::Reopened() const {
     std::vector<std::shared_ptr<GdalRaster>> rasters;
-    for (const std::string& path : m_paths) {
+    for (const std::shared_ptr<GdalRaster>& given : m_given) {
         std::string why;
-        rasters.push_back(GdalRaster::Open(path, why));
+        rasters.push_back(GdalRaster::Open(given->Path(), why, given->Style()));
         if (rasters.back() == nullptr) {
-            throw std::runtime_error(why.insert(0, path + ": "));
+            throw std::runtime_error(why.insert(0, given->Path() + ": "));
         }
     }
     return std::make_unique<MapLayers>(std::move(rasters), m_asked);
+}
+
+std::vector<std::string> MapLayers::Remarks() const {
+    std::vector<std::string> remarks = m_remarks;
+    if (m_layers.empty()) {
+        remarks.push_back(m_onMap.front()->Path() + ": the map's extent lies beside " +
+                          (m_onMap.size() == 1 ? "it" : "it and the other rasters") +
+                          ", so that the map is blank");
+    } else if (m_isBlank) {
+        remarks.push_back(
+            m_onMap.front()->Path() + ": " +
+            (m_onMap.size() == 1 ? "it has" : "it and the other rasters have") +
+            " no data in the map's extent, so that the map is blank");
+    }
+    return remarks;
 }
 
 /// Keeps of each raster the pixels that show, so that no others are read.
@@ -135,6 +172,13 @@ bool MapLayers::Fills(const Box& extent) const {
 }
 
 PixelImage MapLayers::Render(int width, int height, const Progress& progress) {
+    PixelImage map = RenderLayers(width, height, progress);
+    m_isBlank = IsBlank(map);
+    return map;
+}
+
+PixelImage MapLayers::RenderLayers(int width, int height,
+                                   const Progress& progress) const {
     if (m_layers.size() == 1 && Fills(m_layers.front().extent)) {
         return RenderLayer(m_layers.front(), width, height, progress);
     }

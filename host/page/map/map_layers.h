@@ -11,20 +11,15 @@
 
 namespace host {
 
-/// A raster that is not on the map, and why.
-struct LeftOutRaster {
-    std::shared_ptr<GdalRaster> raster;
-    std::string why;
-};
-
 /// A map of rasters that lie on each other as in a list of layers: the first on top.
 ///
 /// The first raster is always on the map and sets its coordinate system. The others are
-/// placed by their own georeference; one that cannot be (no georeference, a turned one,
-/// or another coordinate system) is left out. The map spans all that are placed, north
-/// up, east to the right; what would stand out from the first by no more than a hundredth
-/// of it is cut off, for grids of one area seldom end on the same line. A raster without
-/// georeference, and a turned one, is shown as it is stored, and alone.
+/// placed by their own georeference; one that cannot be (no georeference, or another
+/// coordinate system) is left out. The map spans all that are placed, north up, east to
+/// the right, those that are turned by their nearest pixels; what would stand out from
+/// the first by no more than a hundredth of it is cut off, for grids of one area seldom
+/// end on the same line. A first raster without georeference is shown as it is stored,
+/// and alone.
 class MapLayers : public MapPicture {
 public:
     /// @param rasters at least one, none null
@@ -51,7 +46,13 @@ public:
     /// Width divided by height.
     double AspectRatio() const { return m_extent.Width() / m_extent.Height(); }
 
-    const std::vector<LeftOutRaster>& LeftOut() const { return m_leftOut; }
+    /// Those on the map, the first on top, whether they reach into its extent or not.
+    const std::vector<std::shared_ptr<GdalRaster>>& Rasters() const { return m_onMap; }
+
+    /// What is not as one would expect, one line each: rasters that are left off the map,
+    /// an extent that they all lie beside, and, once it has been rendered, a map on which
+    /// no pixel has a value.
+    std::vector<std::string> Remarks() const;
 
 private:
     struct Layer {
@@ -65,13 +66,16 @@ private:
     static Layer Placed(std::shared_ptr<GdalRaster> raster);
     void CutTo(const Box& extent);
     bool Fills(const Box& extent) const;
+    PixelImage RenderLayers(int width, int height, const Progress& progress) const;
     static PixelImage RenderLayer(const Layer& layer, int width, int height,
                                   const Progress& progress);
 
-    std::vector<std::string> m_paths;
+    std::vector<std::shared_ptr<GdalRaster>> m_given;
     std::optional<Box> m_asked;
-    std::vector<Layer> m_layers;  // the first on top
-    std::vector<LeftOutRaster> m_leftOut;
+    std::vector<std::shared_ptr<GdalRaster>> m_onMap;
+    std::vector<Layer> m_layers;  // the first on top; none that lies beside the extent
+    std::vector<std::string> m_remarks;
+    bool m_isBlank = false;  // as it was rendered last
     Box m_extent;
     bool m_isPlaced = false;
     std::string m_projection;

@@ -115,13 +115,10 @@ std::string WhyNotPlaced(const GdalRaster& raster, const GdalRaster& first) {
         return "the first raster has no georeference to place it by";
     }
     if (IsTurned(first)) {
-        return "the first raster is turned against north";
+        return "the first raster is shown as it is stored";
     }
     if (!IsGeoreferenced(raster)) {
         return "it has no georeference";
-    }
-    if (IsTurned(raster)) {
-        return "it is turned against north";
     }
     if (!IsSameSystem(raster, first)) {
         return "its coordinate system is not that of the first raster";

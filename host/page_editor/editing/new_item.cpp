@@ -27,12 +27,12 @@ struct PlacedMap {
     std::vector<std::string> paths;
 };
 
-PlacedMap FirstMap(const host::Page& page, host::RasterStore& rasters) {
+PlacedMap FirstMap(const host::Page& page) {
     for (const host::PageItem& item : page.Items()) {
         if (const auto layers = host::LayersOf(item)) {
             const auto& map = std::get<host::MapFrame>(item);
             const host::Box box = host::BoxOf(map.frame.GetExtent());
-            return {host::DescribeMap(layers, map.rasterPaths, rasters),
+            return {host::DescribeMap(layers),
                     {box.left, box.bottom, box.right, box.top},
                     map.rasterPaths};
         }
@@ -43,8 +43,8 @@ PlacedMap FirstMap(const host::Page& page, host::RasterStore& rasters) {
 /// How an item of a type is laid out on this sheet.
 class Placing {
 public:
-    Placing(const host::Page& page, host::RasterStore& rasters)
-        : m_map(FirstMap(page, rasters)),
+    explicit Placing(const host::Page& page)
+        : m_map(FirstMap(page)),
           m_measures({page.Width(), page.Height()}),
           m_room{page.Width() / 3.0, page.Height() / 3.0, page.Width() * 2.0 / 3.0,
                  page.Height() * 2.0 / 3.0} {
@@ -115,8 +115,8 @@ public:
         const host::Box room =
             host::Inset({0.0, 0.0, m_design.paper.width, m_design.paper.height},
                         m_design.paper.height / 6.0);
-        host::MapFrame map =
-            host::PlaceMap(host::FitMap(room, {layers->AspectRatio()}), layers, m_measures);
+        host::MapFrame map = host::PlaceMap(host::FitMap(room, {layers->AspectRatio()}),
+                                            layers, m_measures);
         map.rasterPaths = paths;
         return map;
     }
@@ -169,7 +169,7 @@ void Centre(CFrameBase& frame, const host::Page& page) {
 host::PageItem NewItem(const host::ItemType& type, const host::Page& page,
                        host::RasterStore& rasters, const std::vector<std::string>& files,
                        const host::Progress& reading) {
-    Placing placing(page, rasters);
+    Placing placing(page);
     if (type.name == std::string_view(host::kMapType) && !files.empty()) {
         return placing.Map(files, rasters, reading);
     }

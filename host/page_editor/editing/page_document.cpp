@@ -1,9 +1,11 @@
 #include "page_editor/editing/page_document.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 #include <vector>
 
+#include "page/document/legend_sources.h"
 #include "page/document/page_text.h"
 #include "page/layout/fit_to_map.h"
 #include "page/paper.h"
@@ -37,6 +39,12 @@ Indices Differences(const std::vector<ItemText>& a, const std::vector<ItemText>&
         }
     }
     return places;
+}
+
+Indices Union(const Indices& a, const Indices& b) {
+    Indices both;
+    std::set_union(a.begin(), a.end(), b.begin(), b.end(), std::back_inserter(both));
+    return both;
 }
 
 /// Whether every item is, perhaps changed, where it was.
@@ -113,8 +121,10 @@ void PageDocument::ChangeItems(const Indices& items, const std::string& label,
 void PageDocument::Commit(const std::string& label, const std::string& merge) {
     const PageState& before = m_history.Current();
     PageState after{m_page.Width(), m_page.Height(), {}, before.selection};
+    Indices legends;
     try {
         host::FitToMap(m_page);
+        legends = host::FitLegendsToMaps(m_page, *m_rasters);
         for (std::size_t i = 0; i < Count(); ++i) {
             after.items.push_back(TextOf(Item(i), before.items[i]));
         }
@@ -125,7 +135,7 @@ void PageDocument::Commit(const std::string& label, const std::string& merge) {
     const Indices changed = Differences(before.items, after.items);
     if (!changed.empty()) {
         m_history.Push(std::move(after), label, merge);
-        Q_EMIT ItemsChanged(changed);
+        Q_EMIT ItemsChanged(Union(changed, legends));
         Q_EMIT HistoryChanged();
     }
 }
@@ -265,8 +275,9 @@ void PageDocument::Show(const PageState& state) {
 /// Tells what is different from the state before.
 void PageDocument::Announce(const PageState& before) {
     const PageState& now = m_history.Current();
+    const Indices legends = host::FitLegendsToMaps(m_page, *m_rasters);
     if (IsSameArrangement(before, now)) {
-        Q_EMIT ItemsChanged(Differences(before.items, now.items));
+        Q_EMIT ItemsChanged(Union(Differences(before.items, now.items), legends));
     } else {
         Q_EMIT PageRearranged();
     }

@@ -15,8 +15,8 @@ host::Page Reopened(const host::Page& page, host::RasterStore& rasters) {
     host::Page copy(page.Width(), page.Height());
     for (const host::PageItem& item : page.Items()) {
         copy.Items().push_back(host::ReadItem(host::WriteItem(item)));
-        host::OpenRasters(copy.Items().back(), rasters);
     }
+    host::OpenRasters(copy, rasters);
     return copy;
 }
 

@@ -86,9 +86,7 @@ protected:
             design.northArrow.style = &entry;
         }
         host::Page page =
-            host::LayOut(design,
-                         DescribeMap(store.Map({m_path}, std::nullopt), {m_path}, store))
-                .page;
+            host::LayOut(design, DescribeMap(store.Map({m_path}, std::nullopt))).page;
         NameRasters(page, {m_path});
         return page;
     }

@@ -263,19 +263,32 @@ TEST(RasterNorthUp, ShowsThePixelsWhereTheyAre) {
 
 TEST(RasterNorthUp, IsTransparentBesideTheRasterAndKeepsItsShades) {
     const TemporaryFolder folder;
-    Raster raster{10, {std::vector<double>(100, 50.0)}};
-    raster.bands[0][0] = 0.0;
-    raster.bands[0][99] = 100.0;
-    raster.describe = [](GDALDataset& dataset) {
-        std::array<double, 6> place{0.0, 5.0, 5.0, 0.0, 5.0, -5.0};  // on its corner
-        dataset.SetGeoTransform(place.data());
-    };
-    const auto turned = WriteAndOpen(folder, raster)->NorthUp();
-    EXPECT_EQ(turned->GetDisplayType(), DisplayGray);
-    const host::PixelImage image = turned->Render(turned->Width(), turned->Height());
-    EXPECT_EQ(Pixel(image, 0, 0), 0U);
-    EXPECT_EQ(Pixel(image, image.width - 1, image.height - 1), 0U);
-    EXPECT_EQ(Pixel(image, image.width / 2, image.height / 2), 0xff808080);
+    for (const auto& [type, noData] : {std::pair(GDT_Byte, std::optional<double>()),
+                                       {GDT_Byte, 255.0},
+                                       {GDT_UInt16, {}},
+                                       {GDT_Int16, {}},
+                                       {GDT_Int16, -9999.0},
+                                       {GDT_Float32, {}},
+                                       {GDT_Float32, -9999.0}}) {
+        SCOPED_TRACE(GDALGetDataTypeName(type));
+        Raster raster{10, {std::vector<double>(100, 50.0)}, type};
+        raster.noData = noData;
+        raster.bands[0][0] = noData.value_or(0.0);
+        raster.bands[0][1] = 0.0;
+        raster.bands[0][99] = 100.0;
+        raster.describe = [](GDALDataset& dataset) {
+            std::array<double, 6> place{0.0, 5.0, 5.0, 0.0, 5.0, -5.0};  // on its corner
+            dataset.SetGeoTransform(place.data());
+        };
+        const auto turned = WriteAndOpen(folder, raster)->NorthUp();
+        EXPECT_EQ(turned->GetDisplayType(), DisplayGray);
+        const host::PixelImage image = turned->Render(turned->Width(), turned->Height());
+        const int right = image.width - 1;
+        const int bottom = image.height - 1;
+        EXPECT_EQ(Pixel(image, 0, 0), 0U);
+        EXPECT_EQ(Pixel(image, right, bottom), 0U);
+        EXPECT_EQ(Pixel(image, right / 2, bottom / 2), 0xff808080);
+    }
 }
 
 }  // namespace

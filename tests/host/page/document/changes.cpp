@@ -74,6 +74,21 @@ std::vector<Change> MapChanges() {
         On<M>(
             "scale", [](M& m) { m.scale = 25000.0; },
             [](const M& m) { return m.scale == 25000.0; }),
+        On<M>(
+            "stretch",
+            [](M& m) { m.style.stretch = *host::ParseStretch("percent 5 90"); },
+            [](const M& m) { return m.style.stretch.Text() == "percent 5 90"; }),
+        On<M>(
+            "bands",
+            [](M& m) {
+                m.style.bands = {3, 1, 2};
+            },
+            [](const M& m) {
+                return m.style.bands == std::vector<int>{3, 1, 2};
+            }),
+        On<M>(
+            "noData", [](M& m) { m.style.noData = -0.1; },
+            [](const M& m) { return m.style.noData == -0.1; }),
     };
 }
 

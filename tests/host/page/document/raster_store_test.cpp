@@ -4,12 +4,15 @@
 
 #include <memory>
 #include <stdexcept>
+#include <tuple>
 
 #include "map_surround/legend.h"
 #include "page/document/document_test.h"
 #include "page/document/item_type.h"
+#include "page/document/legend_sources.h"
 #include "page/document/page_text.h"
 #include "page/element_of.h"
+#include "page/made_raster.h"
 #include "page/placed_frame.h"
 
 namespace {
@@ -89,6 +92,64 @@ TEST_F(OpeningRasters, WhatIsMissingIsToldWithItsPlace) {
                   "elements[1].rasters: " + folder.Path("none.tif") + ": no such file");
     }
     EXPECT_EQ(std::get<MapFrame>(page.Items()[1]).picture, nullptr);
+}
+
+std::vector<std::string> Explained(const PageItem& legend) {
+    const auto& frame = *std::get<std::unique_ptr<CSurroundFrame>>(legend);
+    std::vector<std::string> said;
+    for (CGISDataSource* source :
+         dynamic_cast<const host::LegendFrame&>(frame).Sources()) {
+        const auto& raster = dynamic_cast<const host::GdalRaster&>(*source);
+        said.push_back(raster.Path() + " " + raster.Style().stretch.Text());
+    }
+    return said;
+}
+
+TEST_F(OpeningRasters, ALegendExplainsWhatTheMapsShow) {
+    MadeRaster plain;  // without georeference
+    WriteRaster(folder.Path("plain.tif"), plain);
+    WriteRaster(folder.Path("alone.tif"), plain);
+    const std::string scene = folder.Path("scene.tif");
+    const std::string lost = folder.Path("plain.tif");
+    const std::string alone = folder.Path("alone.tif");
+    host::RasterStore store;
+    host::Page page(400.0, 300.0);
+    page.Items().push_back(LegendOf({scene, lost, alone}));
+    page.Items().push_back(MapOf({scene, lost}));
+    page.Items().push_back(MapOf({scene}));
+    const auto style = [&](std::size_t i) -> host::RasterStyle& {
+        return std::get<MapFrame>(page.Items()[i]).style;
+    };
+    style(1).stretch = *host::ParseStretch("minmax");
+    style(2).stretch = *host::ParseStretch("none");
+    OpenRasters(page, store);
+    EXPECT_EQ(Explained(page.Items()[0]),
+              (std::vector<std::string>{scene + " minmax", alone + " auto"}));
+
+    EXPECT_TRUE(FitLegendsToMaps(page, store).empty());
+    style(1).stretch = *host::ParseStretch("percent 1 99");
+    OpenRasters(page.Items()[1], store);
+    EXPECT_EQ(FitLegendsToMaps(page, store), std::vector<std::size_t>{0});
+    EXPECT_EQ(Explained(page.Items()[0]),
+              (std::vector<std::string>{scene + " percent 1 99", alone + " auto"}));
+}
+
+TEST_F(OpeningRasters, BandsThatThereAreNotAreToldWithTheirFile) {
+    host::RasterStore store;
+    WriteRaster(folder.Path("one.tif"), MadeRaster());
+    for (const auto& [name, bands, why] :
+         {std::tuple{"scene.tif", std::vector{1, 2, 7}, "has no band 7 (it has 3)"},
+          {"one.tif", std::vector{1}, "has one band only, so that none can be chosen"}}) {
+        PageItem item = MapOf({folder.Path(name)});
+        std::get<MapFrame>(item).style.bands = bands;
+        try {
+            OpenRasters(item, store);
+            FAIL();
+        } catch (const host::PageError& error) {
+            EXPECT_EQ(std::string(error.what()),
+                      "rasters: " + folder.Path(name) + ": " + why);
+        }
+    }
 }
 
 struct FileRow {

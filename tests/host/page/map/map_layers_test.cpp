@@ -176,7 +176,7 @@ TEST_F(MapLayers, TakeTheSameSystemInOtherWords) {
                 Square(300080.0, 9000000.0, kGreen,
                        "+proj=utm +zone=25 +south +ellps=GRS80 +towgs84=0,0,0 "
                        "+units=m")});
-    EXPECT_TRUE(map.LeftOut().empty());
+    EXPECT_TRUE(map.Remarks().empty());
     EXPECT_DOUBLE_EQ(map.Extent().right, 300160.0);
 }
 
@@ -201,18 +201,19 @@ TEST_F(MapLayers, LeaveOutWhatTheyCannotPlace) {
         {first, other, "its coordinate system is not that of the first raster"},
         {first, unknown, "its coordinate system is not that of the first raster"},
         {first, plain, "it has no georeference"},
-        {first, turned, "it is turned against north"},
+        {first, turned, ""},
         {plain, first, "the first raster has no georeference to place it by"},
         {plain, plain, "the first raster has no georeference to place it by"},
-        {turned, first, "the first raster is turned against north"},
+        {turned, first, ""},
     };
     for (const Row& row : rows) {
         host::MapLayers map = Layers({row.first, row.second});
-        ASSERT_EQ(map.LeftOut().size(), row.why.empty() ? 0u : 1u) << row.why;
-        if (!row.why.empty()) {
-            EXPECT_EQ(map.LeftOut().front().why, row.why);
-            EXPECT_NE(map.LeftOut().front().raster, nullptr);
-        }
+        const std::string second = folder.Path("raster" + std::to_string(count - 1));
+        EXPECT_EQ(map.Remarks(),
+                  row.why.empty() ? std::vector<std::string>()
+                                  : std::vector<std::string>{
+                                        second + ".tif: left off the map: " + row.why});
+        EXPECT_EQ(map.Rasters().size(), row.why.empty() ? 2U : 1U);
         EXPECT_EQ(map.Render(16, 16, {}).bgra.size(), 16u * 16u * 4u);
     }
 }
@@ -298,6 +299,64 @@ TEST_F(MapLayers, ShowAllOfARasterAsStored) {
     raster.argb = raster.cornerArgb = kRed;
     const host::MapLayers map = Layers({raster}, host::Box{1.0, 1.0, 2.0, 2.0});
     ExpectExtent(map.Extent(), 0.0, 0.0, 8.0, 8.0);
+}
+
+TEST_F(MapLayers, ShowATurnedRasterNorthUp) {
+    // Its columns run to the south and its rows to the west, from the north-east corner.
+    MadeRaster raster = Square(0.0, 0.0, kGreen);
+    raster.width = 4;
+    raster.transform = {80.0, 0.0, -10.0, 80.0, -10.0, 0.0};
+    raster.cornerArgb = kRed;
+    host::MapLayers map = Layers({raster});
+    EXPECT_TRUE(map.IsPlaced());
+    EXPECT_TRUE(map.Remarks().empty());
+    ExpectExtent(map.Extent(), 0.0, 40.0, 80.0, 80.0);
+    const host::PixelImage image = map.Render(8, 4, {});
+    for (int x = 0; x < 8; ++x) {
+        for (int y = 0; y < 4; ++y) {
+            EXPECT_EQ(At(image, x, y), x == 7 && y == 0 ? kRed : kGreen) << x << " " << y;
+        }
+    }
+    const auto reopened = map.Reopened();
+    EXPECT_EQ(At(reopened->Render(8, 4, {}), 7, 0), kRed);
+}
+
+TEST_F(MapLayers, TellWhenATurnedRasterCannotBeTurnedBack) {
+    MadeRaster raster = Square(0.0, 0.0, kRed);
+    raster.transform = {0.0, 1e300, 1e300, 0.0, 1e300, -1e300};
+    const host::MapLayers map = Layers({raster});
+    EXPECT_FALSE(map.IsPlaced());
+    ASSERT_EQ(map.Remarks().size(), 1U);
+    EXPECT_EQ(map.Remarks().front().rfind(
+                  folder.Path("raster0.tif") +
+                      ": shown as it is stored, for it is turned against north: ",
+                  0),
+              0U)
+        << map.Remarks().front();
+}
+
+TEST_F(MapLayers, TellOfABlankMap) {
+    MadeRaster raster = Square(0.0, 80.0, kRed);
+    raster.hole = true;  // from (70, 10) to (80, 0)
+    const std::string path = folder.Path("raster0.tif");
+    host::MapLayers beside = Layers({raster}, host::Box{500.0, 500.0, 600.0, 600.0});
+    const std::vector<std::string> liesBeside = {
+        path + ": the map's extent lies beside it, so that the map is blank"};
+    EXPECT_EQ(beside.Remarks(), liesBeside);
+    beside.Render(3, 3, {});
+    EXPECT_EQ(beside.Remarks(), liesBeside) << "once";
+
+    count = 0;
+    host::MapLayers inHole = Layers({raster}, host::Box{72.0, 2.0, 78.0, 8.0});
+    EXPECT_TRUE(inHole.Remarks().empty());
+    inHole.Render(3, 3, {});
+    EXPECT_EQ(inHole.Remarks(),
+              std::vector<std::string>{path + ": it has no data in the map's extent, so "
+                                              "that the map is blank"});
+    count = 0;
+    host::MapLayers partly = Layers({raster}, host::Box{62.0, 2.0, 78.0, 8.0});
+    partly.Render(3, 3, {});
+    EXPECT_TRUE(partly.Remarks().empty());
 }
 
 }  // namespace

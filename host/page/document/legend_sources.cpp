@@ -1,0 +1,93 @@
+#include "page/document/legend_sources.h"
+
+#include <algorithm>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "map_surround/legend.h"
+#include "page/document/map_on_page.h"
+#include "page/element_of.h"
+#include "page/placed_frame.h"
+
+namespace host {
+namespace {
+
+std::shared_ptr<GdalRaster> OnMap(const MapLayers& map, const std::string& path) {
+    const auto& rasters = map.Rasters();
+    const auto found =
+        std::find_if(rasters.begin(), rasters.end(),
+                     [&](const auto& raster) { return raster->Path() == path; });
+    return found == rasters.end() ? nullptr : *found;
+}
+
+/// A raster as the first map shows it that has it; null when it is left off them all.
+std::shared_ptr<GdalRaster> AsShown(const std::string& path, const Page* page,
+                                    RasterStore& store) {
+    bool isNamed = false;
+    for (std::size_t i = 0; page != nullptr && i < page->Items().size(); ++i) {
+        const PageItem& item = page->Items()[i];
+        const std::shared_ptr<MapLayers> map = LayersOf(item);
+        if (map == nullptr) {
+            continue;
+        }
+        if (std::shared_ptr<GdalRaster> raster = OnMap(*map, path)) {
+            return raster;
+        }
+        const std::vector<std::string>& named = std::get<MapFrame>(item).rasterPaths;
+        isNamed = isNamed || std::find(named.begin(), named.end(), path) != named.end();
+    }
+    return isNamed ? nullptr : store.Raster(path);
+}
+
+std::vector<CGISDataSource*> SourcesOf(const LegendFrame& frame, const Page* page,
+                                       RasterStore& store) {
+    std::vector<CGISDataSource*> sources;
+    for (const std::string& path : frame.RasterPaths()) {
+        if (const std::shared_ptr<GdalRaster> raster = AsShown(path, page, store)) {
+            sources.push_back(raster.get());
+        }
+    }
+    return sources;
+}
+
+/// A legend multiplies its font sizes whenever it is measured. Those of a page have been
+/// already.
+void Measure(CMapLegend& legend, float sizeFactor) {
+    const int size = legend.GetSize();
+    const float aspectRatio = legend.GetAspectRatio();
+    legend.SetSizeAspect(1.0f);
+    legend.ResetAspectRatio();
+    legend.SetSizeAspect(sizeFactor);
+    if (size != 0) {
+        legend.SetSize(size);
+        legend.SetAspectRatio(aspectRatio);
+    }
+}
+
+}  // namespace
+
+void OpenLegend(PageItem& item, const Page* page, RasterStore& store) {
+    auto* const frame = FrameAs<LegendFrame>(item);
+    auto* const legend = ElementOf<CMapLegend>(item);
+    if (frame != nullptr && legend != nullptr) {
+        frame->SetSources(SourcesOf(*frame, page, store));
+        Measure(*legend, frame->SizeFactor());
+    }
+}
+
+std::vector<std::size_t> FitLegendsToMaps(Page& page, RasterStore& store) {
+    std::vector<std::size_t> changed;
+    for (std::size_t i = 0; i < page.Items().size(); ++i) {
+        PageItem& item = page.Items()[i];
+        const auto* const frame = FrameAs<LegendFrame>(std::as_const(item));
+        if (frame != nullptr && frame->Sources() != SourcesOf(*frame, &page, store)) {
+            OpenLegend(item, &page, store);
+            changed.push_back(i);
+        }
+    }
+    return changed;
+}
+
+}  // namespace host

@@ -1,0 +1,205 @@
+// The colours of a drawn map, read back from its pixels.
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <fstream>
+#include <memory>
+#include <string>
+#include <tuple>
+#include <vector>
+
+#include "map_page/page_file_folder.h"
+
+namespace {
+
+using host_tests::Arguments;
+using host_tests::ContentsOf;
+using host_tests::Result;
+
+// data/scene.tif has 120 x 120 pixels of 30 m, the first at 500000, 9000000. At column x
+// and row y its red is x * 200 / 120, its green y * 200 / 120, its blue (x + y) % 200.
+constexpr int kSide = 120;
+
+class MapColours : public host_tests::PageFileTest {
+protected:
+    /// A page that is nothing but a map, at 96 dpi three pixels for each of the scene's.
+    void WritePage(const std::string& properties) const {
+        std::ofstream(folder.Path("page.json"))
+            << R"({"version": 2, "width": 360, "height": 360, "elements": [{"type": "map",)"
+            << R"("rasters": ["data/scene.tif"], )" << properties
+            << R"("frame": {"left": 0, "top": 360, "width": 360, "height": 360}}]})";
+    }
+
+    /// Draws page.json and reads the picture.
+    Result Draw(const Arguments& options, const std::string& output = "map.png") {
+        Arguments arguments = {"page.json", "-o", output, "--dpi", "96"};
+        arguments.insert(arguments.begin(), options.begin(), options.end());
+        const Result result = Run(arguments);
+        if (result.status == 0) {
+            Read(output);
+        }
+        return result;
+    }
+
+    void Read(const std::string& output) {
+        const std::string path = folder.Path(output);
+        picture = std::make_unique<Gdiplus::Bitmap>(
+            std::wstring(path.begin(), path.end()).c_str());
+        ASSERT_EQ(picture->GetWidth(), 360U);
+    }
+
+    /// The colour of the scene's pixel where the whole scene is drawn, without its alpha.
+    unsigned At(int column, int row) const {
+        Gdiplus::Color colour;
+        picture->GetPixel(3 * column + 1, 3 * row + 1, &colour);
+        return colour.GetValue() & 0xFFFFFFU;
+    }
+
+    std::unique_ptr<Gdiplus::Bitmap> picture;
+};
+
+unsigned Colour(long red, long green, long blue) {
+    return static_cast<unsigned>(red << 16 | green << 8 | blue);
+}
+
+unsigned Grey(double part) {
+    const long shade = std::lround(255.0 * std::min(1.0, std::max(0.0, part)));
+    return Colour(shade, shade, shade);
+}
+
+int Red(int column) { return column * 200 / kSide; }
+int Green(int row) { return row * 200 / kSide; }
+
+TEST_F(MapColours, OfFinishedRasterAreItsOwn) {
+    WritePage("");
+    ASSERT_EQ(Draw({}).err, "");
+    for (const int column : {1, 17, 60, 118}) {
+        for (const int row : {2, 59, 117}) {
+            EXPECT_EQ(At(column, row),
+                      Colour(Red(column), Green(row), (column + row) % 200))
+                << column << " " << row;
+        }
+    }
+}
+
+TEST_F(MapColours, AreTheSameOnEverySheetAndAtEverySize) {
+    // One band is stretched from its least value, 0, to its greatest, 198.
+    WritePage(R"("bands": "1", )");
+    ASSERT_EQ(Draw({}).err, "");
+    EXPECT_EQ(At(60, 60), Grey(100.0 / 198.0));
+    EXPECT_EQ(At(118, 60), Grey(196.0 / 198.0));
+    // 20 x 20 pixels of the scene, column 50 to 69, row 50 to 69: 18 pixels for each.
+    std::ofstream(folder.Path("list.csv"))
+        << "name,extent,stretch\n"
+           "a,501500 8997900 502100 8998500,\n"
+           "b,501500 8997900 502100 8998500,percent 10 90\n";
+    ASSERT_EQ(
+        Run({"page.json", "--series", "list.csv", "-o", "{name}.png", "--dpi", "96"})
+            .status,
+        0);
+    for (const auto& [output, black, white] :
+         {std::tuple{"a.png", 0.0, 198.0}, {"b.png", 20.0, 178.0}}) {
+        Read(output);
+        for (const int column : {50, 57, 69}) {
+            Gdiplus::Color colour;
+            picture->GetPixel(18 * (column - 50) + 9, 100, &colour);
+            EXPECT_EQ(colour.GetValue() & 0xFFFFFFU,
+                      Grey((Red(column) - black) / (white - black)))
+                << output << " " << column;
+        }
+    }
+}
+
+struct OptionRow {
+    Arguments options;
+    unsigned at;  ///< column 60, row 30: red 100, green 50, blue 90
+};
+
+// Of green, each value of 0 to 198 as often as the next: half of 0 to 198 is 99, a
+// twelfth of the raster's variance as of any even spread.
+TEST_F(MapColours, FollowTheOptions) {
+    const OptionRow rows[] = {
+        {{"--bands", "2,1,3"}, Colour(50, 100, 90)},
+        {{"--bands", "3", "--stretch", "none"}, Colour(90, 90, 90)},
+        {{"--bands", "2"}, Grey(50.0 / 198.0)},
+        {{"--bands", "2", "--stretch", "percent 10 90"}, Grey((50.0 - 20.0) / 158.0)},
+        {{"--stretch", "percent", "0", "100", "--bands", "1"}, Grey(100.0 / 198.0)},
+        {{"--stretch", "minmax"},
+         Colour(std::lround(100 * 255.0 / 198.0), std::lround(50 * 255.0 / 198.0),
+                std::lround(90 * 255.0 / 199.0))},
+        {{"--stretch", "none", "--nodata", "100"}, 0xFFFFFFU},
+        {{"--stretch", "none", "--nodata", "99"}, Colour(100, 50, 90)},
+    };
+    WritePage("");
+    for (const OptionRow& row : rows) {
+        ASSERT_EQ(Draw(row.options).err, "");
+        EXPECT_EQ(At(60, 30), row.at) << row.options[0] << " " << row.options[1];
+    }
+}
+
+TEST_F(MapColours, AreSavedWithThePage) {
+    const Arguments options = {"--stretch", "percent", "5",        "95",
+                               "--bands",   "3,2,1",   "--nodata", "7"};
+    Arguments laidOut = {"data/scene.tif", "-o", "a.png", "--save", "saved.json"};
+    laidOut.insert(laidOut.begin(), options.begin(), options.end());
+    ASSERT_EQ(Run(laidOut).err, "");
+    const std::string saved = ContentsOf(folder.Path("saved.json"));
+    EXPECT_THAT(saved, ::testing::HasSubstr(R"("stretch": "percent 5 95")"));
+    EXPECT_THAT(saved, ::testing::HasSubstr(R"("bands": "3,2,1")"));
+    EXPECT_THAT(saved, ::testing::HasSubstr(R"("noData": "7")"));
+    ASSERT_EQ(Run({"saved.json", "-o", "b.png"}).err, "");
+    EXPECT_EQ(ContentsOf(folder.Path("a.png")), ContentsOf(folder.Path("b.png")));
+    ASSERT_EQ(Run({"saved.json", "-o", "b.png", "--bands", "1,2,3"}).err, "");
+    EXPECT_NE(ContentsOf(folder.Path("a.png")), ContentsOf(folder.Path("b.png")));
+}
+
+TEST_F(MapColours, ThatCannotBeAreRefusedInOneLine) {
+    WritePage("");
+    struct Row {
+        Arguments options;
+        int status;
+        std::string error;
+    };
+    const Row rows[] = {
+        {{"--stretch", "percent", "98", "2"},
+         2,
+         "--stretch: must be auto, none, minmax, percent LOW HIGH (from 0 to 100) or "
+         "stddev COUNT (above 0)"},
+        {{"--bands", "1,2"},
+         2,
+         "--bands: must be the number of a band, or three with commas between, such as "
+         "3,2,1"},
+        {{"--nodata", "x"}, 2, "--nodata: must be a number, nan, or none"},
+        {{"--bands", "1,2,9"},
+         1,
+         "page.json: elements[0].rasters: data/scene.tif: has no band 9 (it has 3)"},
+    };
+    for (const Row& row : rows) {
+        const Result result = Draw(row.options);
+        EXPECT_EQ(result.status, row.status);
+        EXPECT_EQ(result.err, "map_page: " + row.error + "\n");
+    }
+    WritePage(R"("stretch": "much", )");
+    EXPECT_THAT(Draw({}).err,
+                ::testing::HasSubstr("elements[0].stretch: must be auto, "));
+}
+
+TEST_F(MapColours, OfNothingAreTold) {
+    WritePage(R"("extent": {"left": 0, "bottom": 0, "right": 9, "top": 9}, )");
+    EXPECT_EQ(
+        Draw({}).err,
+        "map_page: warning: data/scene.tif: the map's extent lies beside it, so that "
+        "the map is blank\n");
+    // All of the first column and row are 0 in one band or the other.
+    WritePage(
+        R"("extent": {"left": 500005, "bottom": 8999975, "right": 500025, "top": 8999995}, )");
+    EXPECT_EQ(Draw({"--nodata", "0"}).err,
+              "map_page: warning: data/scene.tif: it has no data in the map's extent, so "
+              "that the map is blank\n");
+    EXPECT_EQ(Draw({}).err, "");
+}
+
+}  // namespace
