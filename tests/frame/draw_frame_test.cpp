@@ -343,28 +343,6 @@ TEST(DrawFrame, DropsTheShadowBeyond32Bits) {
     EXPECT_EQ(lines.at(2), FillRectangle(brush, begin, edge, 100, 400));
 }
 
-TEST(DrawFrame, GoesOnWhenACallFails) {
-    for (int n = 1; n <= 14; ++n) {
-        Surface surface;
-        CFrameBase frame = ColouredFrame();
-        frame.DrawBorder = frame.DrawFill = frame.DrawShadow = frame.DashedBorder = true;
-        frame.BorderWidth = 0.0f;
-        frame.ShadowRatioX = 0.1f;
-        Recording recording;
-        recording.FailCall(n, Gdiplus::OutOfMemory);
-        frame.DrawFrame(surface.Graphics(), CRect(10, 20, 110, 70));
-        // 5 for the border, 4 for the shadow, 3 for the fill
-        EXPECT_EQ(recording.Count(), 12) << "failing call " << n;
-        const bool draws = n == 4 || n == 7 || n == 8 || n == 11;
-        const bool makes = n == 1 || n == 6 || n == 10;
-        EXPECT_EQ(surface.Graphics()->GetLastStatus(), draws   ? Gdiplus::OutOfMemory
-                                                       : makes ? Gdiplus::InvalidParameter
-                                                               : Gdiplus::Ok)
-            << "failing call " << n;
-        EXPECT_TRUE(NothingAlive()) << "failing call " << n;
-    }
-}
-
 TEST(DrawFrame, CoversTheShadowWithTheFill) {
     Surface surface(60, 60);
     CFrameBase frame = ColouredFrame();

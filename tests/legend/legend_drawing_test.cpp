@@ -319,69 +319,6 @@ TEST(LegendDrawing, TheRampAsksTheFirstBandForAnEstimate) {
     EXPECT_TRUE(square.gray.band.askedToApproximate);
 }
 
-TEST(LegendDrawing, WithoutSourcesOnlyTheTitleIsDrawnAndAnEmptyOneToo) {
-    for (const std::string text : {"T", ""}) {
-        Square square;
-        square.legend.SetTitleValue(std::wstring(text.begin(), text.end()));
-        square.legend.SetDataSouce({});
-        EXPECT_TRUE(Equal({{"title", DrawString(text, FontLook("Serif", 12, 1), 172, 72,
-                                                BrushLook(0xFF112233))}},
-                          square.Draw(CPoint(300, 200), 1.0)));
-    }
-}
-
-/// Where the line of a source is that follows another one.
-TEST(LegendDrawing, HowFarEachSourceMovesTheNext) {
-    Square square;
-    Raster away(L"away", DisplayRGB);
-    away.available = false;
-    fakes::Vector vector;
-    Raster none(L"none", DisplayClassified);
-    Raster minus(L"minus", DisplayClassified);
-    minus.table.Claim(-5);
-    Raster tableless(L"tableless", DisplayClassified);
-    tableless.hasTable = false;
-    tableless.table.items = {{L"one", 0, 0, 0}};
-    Raster bandless(L"bandless", DisplayGray);
-    bandless.hasBand = false;
-    Raster holed(L"holed", DisplayClassified);
-    holed.table.items = {{L"one", 0, 0, 0}, {L"two", 0, 0, 0}};
-    holed.table.missing = 0;
-    Raster one(L"one", DisplayClassified);
-    one.table.items = {{L"one", 0, 0, 0}};
-
-    const struct {
-        const char* what;
-        CGISDataSource* source;
-        float down;
-        int pieces;
-    } rows[] = {
-        {"null", nullptr, 0, 0},
-        {"not available", &away, 0, 0},
-        {"no raster", &vector, 0, 0},
-        {"unknown display", &square.unknown, 22, 1},
-        {"rgb", &square.rgb, 22 + 54, 7},
-        {"gray", &square.gray, 22 + 36, 257},
-        {"gray without a band", &bandless, 22 + 36, 257},
-        {"no class: a gap that the layout has not", &none, 22 + 12, 1},
-        {"fewer than no class", &minus, 22 + 12, 1},
-        {"no table", &tableless, 22 + 12, 1},
-        {"one class", &one, 22 + 18, 3},
-        {"three classes", &square.classes, 22 + 54, 7},
-        {"a class missing: its row stays empty", &holed, 22 + 36, 3},
-    };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.what);
-        Raster after(L"after", static_cast<DataDisplayType>(7));
-        square.legend.SetDataSouce({row.source, &after});
-        const std::vector<std::string> drawing = square.Draw(CPoint(300, 200), 1.0);
-        ASSERT_EQ(drawing.size(), static_cast<std::size_t>(row.pieces + 2));
-        EXPECT_EQ(drawing.back(),
-                  DrawString(kFileNameCaption + "after", FontLook("Mono", 10, 4), 172,
-                             72 + 24 + 8 + row.down, BrushLook(0x80445566)));
-    }
-}
-
 TEST(LegendDrawing, ABandThatCannotTellItsValuesHasNought) {
     Square square;
     square.gray.band.computable = false;
@@ -412,20 +349,6 @@ TEST(LegendDrawing, AMissingClassLeavesItsRowEmpty) {
     std::vector<Named> expected = SquareDrawing({1.0, 1.0f, CPoint(300, 200), 172, 72});
     expected.erase(expected.end() - 4, expected.end() - 2);
     EXPECT_TRUE(Equal(expected, drawing));
-}
-
-TEST(LegendDrawing, GoesOnAfterAFailureAndLeavesItsStatus) {
-    Square square;
-    const std::vector<std::string> whole = square.Draw(CPoint(300, 200), 1.0);
-    for (const char* function : {"GdipDrawString", "GdipFillRectangle"}) {
-        Surface surface;
-        Recording recording(Mode::RecordOnly);
-        ink::Script(recording, Square::Ink);
-        recording.FailCallsOf(function, Gdiplus::OutOfMemory);
-        square.legend.Draw(surface.Graphics(), CPoint(300, 200), 1.0);
-        EXPECT_EQ(recording.Drawing(), whole);
-        EXPECT_EQ(surface.Graphics()->GetLastStatus(), Gdiplus::OutOfMemory);
-    }
 }
 
 }  // namespace

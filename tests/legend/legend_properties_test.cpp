@@ -207,28 +207,4 @@ TEST(LegendProperties, SourcesOutliveEveryCopy) {
     EXPECT_EQ(destroyed, 1);
 }
 
-TEST(LegendProperties, BeforeMeasuringEverythingHasNoHeight) {
-    CMapLegend legend;
-    fakes::Raster raster(L"a.tif", DisplayRGB);
-    legend.SetDataSouce({&raster});
-    legend.SetTitleValue(L"Legend");
-    const std::string black = BrushLook(0xFF000000);
-    const auto label = [&](const std::string& text) {
-        return DrawString(text, "null", 200, 150, black);
-    };
-    const auto swatch = [](Gdiplus::ARGB color) {
-        return FillRectangle(BrushLook(color), 200, 150, 0, 0);
-    };
-    EXPECT_TRUE(Equal({{"title", label("Legend")},
-                       {"file name", label("\u5F71\u50CF\u540D\uFF1A"
-                                           "a.tif")},
-                       {"red", swatch(0xFFFF0000)},
-                       {"red label", label("\u6CE2\u6BB5_1")},
-                       {"green", swatch(0xFF008000)},
-                       {"green label", label("\u6CE2\u6BB5_2")},
-                       {"blue", swatch(0xFF0000FF)},
-                       {"blue label", label("\u6CE2\u6BB5_3")}},
-                      DrawingOf(legend)));
-}
-
 }  // namespace

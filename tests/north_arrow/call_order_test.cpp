@@ -80,19 +80,6 @@ TEST(OneAngleArrow, MakesAndReleasesInOrder) {
     }));
 }
 
-TEST(OneAngleArrow, PutsNoArrowheadOnAPenThatCouldNotBeMade) {
-    Surface surface;
-    CNorthArrowOneAngle arrow;
-    arrow.SetSize(100);
-    Recording recording(Mode::RecordOnly);
-    recording.FailCallsOf("GdipCreatePen", Gdiplus::OutOfMemory);
-    arrow.Draw(surface.Graphics(), CPoint(150, 100), 1.0);
-    for (const std::string& line : recording.Lines()) {
-        EXPECT_EQ(line.find("GdipSetPenCustomEndCap"), std::string::npos) << line;
-    }
-    EXPECT_GT(recording.Count(), 10);
-}
-
 TEST(TwoAngleArrow, MakesAndReleasesInOrder) {
     EXPECT_TRUE(Makes<CNorthArrowTwoAngle>({
         kMakeBrush,

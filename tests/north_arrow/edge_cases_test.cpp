@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <iterator>
 #include <limits>
 
 #include "north_arrow/arrow_models.h"
@@ -130,130 +131,72 @@ TEST(TwoAngleArrow, DrawsTheseNumbers) {
     }
 }
 
+using Points = std::vector<Gdiplus::Point>;
+
+/// x and y in turns
+Points At(const std::vector<int>& coordinates) {
+    Points points;
+    for (std::size_t i = 0; i + 1 < coordinates.size(); i += 2) {
+        points.emplace_back(coordinates[i], coordinates[i + 1]);
+    }
+    return points;
+}
+
+enum FourAngleCorner { C, N, E, S, W, NW, NE, SE, SW };
+
 struct FourAngleRow {
     Setting setting;
     Named letter;
-    Gdiplus::Point c, n, e, s, w, nw, ne, se, sw;
+    Points corners;  ///< in the order of FourAngleCorner
 };
 
 TEST(FourAngleArrow, DrawsTheseNumbers) {
     const FourAngleRow rows[] = {
-        {Red(100),
-         Letter("N", 17.0f, -8, -42),
-         {0, 6},
-         {0, -28},
-         {34, 6},
-         {0, 40},
-         {-34, 6},
-         {-6, 0},
-         {6, 0},
-         {6, 12},
-         {-6, 12}},
-        {Red(40),
-         Letter("N", 6.8f, -3, -17),
-         {0, 2},
-         {0, -11},
-         {13, 2},
-         {0, 15},
-         {-13, 2},
-         {-2, 0},
-         {2, 0},
-         {2, 4},
-         {-2, 4}},
+        {Red(100), Letter("N", 17.0f, -8, -42),
+         At({0, 6, 0, -28, 34, 6, 0, 40, -34, 6, -6, 0, 6, 0, 6, 12, -6, 12})},
+        {Red(40), Letter("N", 6.8f, -3, -17),
+         At({0, 2, 0, -11, 13, 2, 0, 15, -13, 2, -2, 0, 2, 0, 2, 4, -2, 4})},
         // A plus sign.
-        {Red(7),
-         Letter("N", 1.2f, 0, -3),
-         {0, 0},
-         {0, -2},
-         {2, 0},
-         {0, 2},
-         {-2, 0},
-         {0, 0},
-         {0, 0},
-         {0, 0},
-         {0, 0}},
-        {Red(100, 1.0, {200, 100}),
-         Letter("N", 17.0f, 192, 58),
-         {200, 106},
-         {200, 72},
-         {234, 106},
-         {200, 140},
-         {166, 106},
-         {194, 100},
-         {206, 100},
-         {206, 112},
-         {194, 112}},
+        {Red(7), Letter("N", 1.2f, 0, -3),
+         At({0, 0, 0, -2, 2, 0, 0, 2, -2, 0, 0, 0, 0, 0, 0, 0, 0, 0})},
+        {Red(100, 1.0, {200, 100}), Letter("N", 17.0f, 192, 58),
+         At({200, 106, 200, 72, 234, 106, 200, 140, 166, 106, 194, 100, 206, 100, 206,
+             112, 194, 112})},
         // 10 pixels at 85 percent are 8.5, and that is 9.
-        {Red(20, 0.5),
-         Letter("N", 1.8f, 0, -4),
-         {0, 0},
-         {0, -3},
-         {3, 0},
-         {0, 3},
-         {-3, 0},
-         {0, 0},
-         {0, 0},
-         {0, 0},
-         {0, 0}},
+        {Red(20, 0.5), Letter("N", 1.8f, 0, -4),
+         At({0, 0, 0, -3, 3, 0, 0, 3, -3, 0, 0, 0, 0, 0, 0, 0, 0, 0})},
         // 150 pixels at 85 percent are 127.5; 85 percent of 1.5 fall short of it.
-        {Red(100, 1.5),
-         Letter("N", 25.6f, -12, -64),
-         {0, 10},
-         {0, -41},
-         {51, 10},
-         {0, 61},
-         {-51, 10},
-         {-10, 0},
-         {10, 0},
-         {10, 20},
-         {-10, 20}},
-        {Red(-100),
-         Letter("N", -16.8f, 8, 42),
-         {0, -6},
-         {0, 27},
-         {-33, -6},
-         {0, -39},
-         {33, -6},
-         {6, 0},
-         {-6, 0},
-         {-6, -12},
-         {6, -12}},
-        {Red(kMost),
-         Letter("N", 365072220.0f, -182536110.0f, -912680550.0f),
-         {0, 146028888},
-         {0, -584115552},
-         {730144440, 146028888},
-         {0, 876173328},
-         {-730144440, 146028888},
-         {-146028888, 0},
-         {146028888, 0},
-         {146028888, 292057776},
-         {-146028888, 292057776}},
+        {Red(100, 1.5), Letter("N", 25.6f, -12, -64),
+         At({0, 10, 0, -41, 51, 10, 0, 61, -51, 10, -10, 0, 10, 0, 10, 20, -10, 20})},
+        {Red(-100), Letter("N", -16.8f, 8, 42),
+         At({0, -6, 0, 27, -33, -6, 0, -39, 33, -6, 6, 0, -6, 0, -6, -12, 6, -12})},
+        {Red(kMost), Letter("N", 365072220.0f, -182536110.0f, -912680550.0f),
+         At({0, 146028888, 0, -584115552, 730144440, 146028888, 0, 876173328, -730144440,
+             146028888, -146028888, 0, 146028888, 0, 146028888, 292057776, -146028888,
+             292057776})},
         {Red(kMost, 1.0, {kMost, 0}),
          Letter("N", 365072220.0f, 1964947537.0f, -912680550.0f),
-         {kMost, 146028888},
-         {kMost, -584115552},
-         {kMost, 146028888},
-         {kMost, 876173328},
-         {1417339207, 146028888},
-         {2001454759, 0},
-         {kMost, 0},
-         {kMost, 292057776},
-         {2001454759, 292057776}},
+         At({kMost, 146028888, kMost, -584115552, kMost, 146028888, kMost, 876173328,
+             1417339207, 146028888, 2001454759, 0, kMost, 0, kMost, 292057776, 2001454759,
+             292057776})},
     };
     for (const FourAngleRow& r : rows) {
+        const auto figure = [&](FourAngleCorner first, FourAngleCorner second) {
+            return Points{r.corners[C], r.corners[first], r.corners[second],
+                          r.corners[C]};
+        };
         const std::string pen = PenLook(kRed, 1.0f);
         const std::string brush = BrushLook(kRed);
         EXPECT_TRUE(Draws<CNorthArrowFourAngle>(
             r.setting, {r.letter,
-                        {"W-NW", FillPolygon(brush, {r.c, r.w, r.nw, r.c})},
-                        {"NW-N", DrawPath(pen, LinesPath({r.c, r.nw, r.n, r.c}))},
-                        {"N-NE", FillPolygon(brush, {r.c, r.n, r.ne, r.c})},
-                        {"NE-E", DrawPath(pen, LinesPath({r.c, r.ne, r.e, r.c}))},
-                        {"E-SE", FillPolygon(brush, {r.c, r.e, r.se, r.c})},
-                        {"SE-S", DrawPath(pen, LinesPath({r.c, r.se, r.s, r.c}))},
-                        {"S-SW", FillPolygon(brush, {r.c, r.s, r.sw, r.c})},
-                        {"SW-W", DrawPath(pen, LinesPath({r.c, r.sw, r.w, r.c}))}}))
+                        {"W-NW", FillPolygon(brush, figure(W, NW))},
+                        {"NW-N", DrawPath(pen, LinesPath(figure(NW, N)))},
+                        {"N-NE", FillPolygon(brush, figure(N, NE))},
+                        {"NE-E", DrawPath(pen, LinesPath(figure(NE, E)))},
+                        {"E-SE", FillPolygon(brush, figure(E, SE))},
+                        {"SE-S", DrawPath(pen, LinesPath(figure(SE, S)))},
+                        {"S-SW", FillPolygon(brush, figure(S, SW))},
+                        {"SW-W", DrawPath(pen, LinesPath(figure(SW, W)))}}))
             << r.setting;
     }
 }
@@ -261,8 +204,7 @@ TEST(FourAngleArrow, DrawsTheseNumbers) {
 struct EightAngleRow {
     Setting setting;
     std::vector<Named> letters;
-    Gdiplus::Point w, nw, n, ne, e, se, s, sw;
-    Gdiplus::Point i1, i2, i3, i4, i5, i6, i7, i8;
+    Points corners;  ///< of the rose from the west clockwise, then of the inner ring
 };
 
 TEST(EightAngleArrow, DrawsTheseNumbers) {
@@ -270,42 +212,14 @@ TEST(EightAngleArrow, DrawsTheseNumbers) {
         {Red(100),
          {Letter("N", 10, -5, -50), Letter("W", 10, -52, -5), Letter("S", 10, -5, 40),
           Letter("E", 10, 40, -6)},
-         {-40, 0},
-         {-24, -24},
-         {0, -40},
-         {24, -24},
-         {40, 0},
-         {24, 24},
-         {0, 40},
-         {-24, 24},
-         {-14, -8},
-         {-8, -14},
-         {8, -14},
-         {13, -8},
-         {13, 8},
-         {8, 13},
-         {-8, 13},
-         {-14, 8}},
+         At({-40, 0,  -24, -24, 0, -40, 24, -24, 40, 0, 24, 24, 0,  40, -24, 24,
+             -14, -8, -8,  -14, 8, -14, 13, -8,  13, 8, 8,  13, -8, 13, -14, 8})},
         // The grid lines are 5, 9, 11, 14, 16, 18 and 22 from the left and the top.
         {Red(37),
          {Letter("N", 3.7f, -2, -17.7f), Letter("W", 3.7f, -19.24f, -2),
           Letter("S", 3.7f, -2, 14), Letter("E", 3.7f, 14, -2)},
-         {-14, 0},
-         {-9, -9},
-         {0, -14},
-         {8, -9},
-         {14, 0},
-         {8, 8},
-         {0, 14},
-         {-9, 8},
-         {-5, -3},
-         {-3, -5},
-         {2, -5},
-         {4, -3},
-         {4, 2},
-         {2, 4},
-         {-3, 4},
-         {-5, 2}},
+         At({-14, 0,  -9, -9, 0, -14, 8, -9, 14, 0, 8, 8, 0,  14, -9, 8,
+             -5,  -3, -3, -5, 2, -5,  4, -3, 4,  2, 2, 4, -3, 4,  -5, 2})},
         // The letters come out next to 0, at 100000000 - 100000000.1 and at
         // 520000001 - 520000000.52: multiplied first and then divided.
         {Red(1000000001, 1.0, {520000001, 500000000}),
@@ -313,77 +227,47 @@ TEST(EightAngleArrow, DrawsTheseNumbers) {
           Letter("W", 100000000.1f, 0.48000002f, 441176471.0f),
           Letter("S", 100000000.1f, 464444446.0f, 900000000.0f),
           Letter("E", 100000000.1f, 920000001.0f, 437500000.0f)},
-         {120000001, 500000000},
-         {280000001, 260000000},
-         {520000001, 100000000},
-         {760000001, 260000000},
-         {920000001, 500000000},
-         {760000001, 740000000},
-         {520000001, 900000000},
-         {280000001, 740000000},
-         {386666667, 420000000},
-         {440000001, 366666666},
-         {600000001, 366666666},
-         {653333334, 420000000},
-         {653333334, 580000000},
-         {600000001, 633333333},
-         {440000001, 633333333},
-         {386666667, 580000000}},
+         At({120000001, 500000000, 280000001, 260000000, 520000001, 100000000, 760000001,
+             260000000, 920000001, 500000000, 760000001, 740000000, 520000001, 900000000,
+             280000001, 740000000, 386666667, 420000000, 440000001, 366666666, 600000001,
+             366666666, 653333334, 420000000, 653333334, 580000000, 600000001, 633333333,
+             440000001, 633333333, 386666667, 580000000})},
         // Too small to have a radius: everything falls on the centre.
         {Red(2, 1.0, {30, 40}),
          {Letter("N", 0.2f, 30, 39.8f), Letter("W", 0.2f, 28.96f, 40),
           Letter("S", 0.2f, 30, 40), Letter("E", 0.2f, 30, 40)},
-         {30, 40},
-         {30, 40},
-         {30, 40},
-         {30, 40},
-         {30, 40},
-         {30, 40},
-         {30, 40},
-         {30, 40},
-         {30, 40},
-         {30, 40},
-         {30, 40},
-         {30, 40},
-         {30, 40},
-         {30, 40},
-         {30, 40},
-         {30, 40}},
+         At({30, 40, 30, 40, 30, 40, 30, 40, 30, 40, 30, 40, 30, 40, 30, 40,
+             30, 40, 30, 40, 30, 40, 30, 40, 30, 40, 30, 40, 30, 40, 30, 40})},
         {Red(kMost),
          {Letter("N", 214748364.7f, -119304647.0f, -1073741822.7f),
           Letter("W", 214748364.7f, -1116691496.44f, -126322567.0f),
           Letter("S", 214748364.7f, -119304647.0f, 858993458.0f),
           Letter("E", 214748364.7f, 858993458.0f, -134217727.0f)},
-         {-858993458, 0},
-         {-515396075, -515396075},
-         {0, -858993458},
-         {515396074, -515396075},
-         {858993458, 0},
-         {515396074, 515396074},
-         {0, 858993458},
-         {-515396075, 515396074},
-         {-286331153, -171798692},
-         {-171798692, -286331153},
-         {171798691, -286331153},
-         {286331152, -171798692},
-         {286331152, 171798691},
-         {171798691, 286331152},
-         {-171798692, 286331152},
-         {-286331153, 171798691}},
+         At({-858993458, 0,          -515396075, -515396075, 0,          -858993458,
+             515396074,  -515396075, 858993458,  0,          515396074,  515396074,
+             0,          858993458,  -515396075, 515396074,  -286331153, -171798692,
+             -171798692, -286331153, 171798691,  -286331153, 286331152,  -171798692,
+             286331152,  171798691,  171798691,  286331152,  -171798692, 286331152,
+             -286331153, 171798691})},
     };
     for (const EightAngleRow& r : rows) {
         const Gdiplus::Point c{r.setting.centre.x, r.setting.centre.y};
-        const std::vector<std::vector<Gdiplus::Point>> sectors{
-            {r.w, r.i1, c}, {r.nw, c, r.i1}, {r.nw, r.i2, c}, {r.i2, r.n, c},
-            {r.n, r.i3, c}, {r.i3, r.ne, c}, {r.ne, c, r.i4}, {r.e, c, r.i4},
-            {c, r.i5, r.e}, {r.se, r.i5, c}, {r.se, r.i6, c}, {r.s, r.i6, c},
-            {r.i7, r.s, c}, {r.sw, r.i7, c}, {r.i8, r.sw, c}, {r.w, r.i8, c}};
+        Points corners = r.corners;
+        corners.push_back(c);
+        const int sectors[][3] = {{0, 8, 16},  {1, 16, 8},  {1, 9, 16},  {9, 2, 16},
+                                  {2, 10, 16}, {10, 3, 16}, {3, 16, 11}, {4, 16, 11},
+                                  {16, 12, 4}, {5, 12, 16}, {5, 13, 16}, {6, 13, 16},
+                                  {14, 6, 16}, {7, 14, 16}, {15, 7, 16}, {0, 15, 16}};
         std::vector<Named> shapes = r.letters;
-        for (std::size_t i = 0; i < sectors.size(); ++i) {
+        for (std::size_t i = 0; i < std::size(sectors); ++i) {
+            Points sector;
+            for (const int corner : sectors[i]) {
+                sector.push_back(corners[static_cast<std::size_t>(corner)]);
+            }
             const std::string name = "sector " + std::to_string(i + 1);
-            shapes.push_back({name, DrawPolygon(PenLook(kRed, 1.0f), sectors[i])});
+            shapes.push_back({name, DrawPolygon(PenLook(kRed, 1.0f), sector)});
             if (i % 2 == 0) {
-                shapes.push_back({name, FillPolygon(BrushLook(kRed), sectors[i])});
+                shapes.push_back({name, FillPolygon(BrushLook(kRed), sector)});
             }
         }
         EXPECT_TRUE(Draws<CNorthArrowEightAngle>(r.setting, shapes)) << r.setting;

@@ -72,79 +72,6 @@ TEST(Recording, ForwardsOnlyWhenAskedTo) {
     }
 }
 
-TEST(Recording, ShowsObjectsAsTheyAreWhenUsed) {
-    Surface surface;
-    Recording recording;
-    {
-        Gdiplus::Pen pen(Gdiplus::Color(0xFF000000), 1.0f);
-        surface.Graphics()->DrawLine(&pen, 0, 0, 9, 9);
-        pen.SetDashStyle(Gdiplus::DashStyleDash);
-        pen.SetColor(Gdiplus::Color(0x80FF0000));
-        surface.Graphics()->DrawLine(&pen, 0, 0, 9, 9);
-        const Gdiplus::AdjustableArrowCap cap(4.0f, 3.0f, 1);
-        pen.SetCustomEndCap(&cap);
-        surface.Graphics()->DrawLine(&pen, 0, 0, 9, 9);
-        Gdiplus::SolidBrush brush(Gdiplus::Color(0xFF0000FF));
-        brush.SetColor(Gdiplus::Color(0xFF00FF00));
-        surface.Graphics()->FillRectangle(&brush, 1.5f, 2.0f, 3.0f, 4.25f);
-    }
-    EXPECT_TRUE(
-        Equal({{"plain", DrawLine("pen[#FF000000 width 1]", 0, 0, 9, 9)},
-               {"dashed", DrawLine("pen[#80FF0000 width 1 dash 1]", 0, 0, 9, 9)},
-               {"arrow",
-                DrawLine("pen[#80FF0000 width 1 dash 1 cap[4 x 3 filled]]", 0, 0, 9, 9)},
-               {"box", "GdipFillRectangle brush[#FF00FF00] (1.5, 2) 3 x 4.25"}},
-              recording.Drawing()));
-}
-
-TEST(Recording, ShowsTextsFontsAndFormats) {
-    Surface surface;
-    Recording recording;
-    {
-        const Gdiplus::FontFamily family(L"Arial");
-        const Gdiplus::Font font(&family, 12.5f, Gdiplus::FontStyleBold,
-                                 Gdiplus::UnitPixel);
-        const Gdiplus::SolidBrush brush(Gdiplus::Color(0xFF000000));
-        surface.Graphics()->DrawString(L"\u6BD4\u4F8B\u5C3A", 3, &font,
-                                       Gdiplus::PointF(1.0f, 2.0f), &brush);
-        Gdiplus::StringFormat format(0, 0);
-        format.SetAlignment(Gdiplus::StringAlignmentCenter);
-        surface.Graphics()->DrawString(L"\U0001F5FAx", -1, &font,
-                                       Gdiplus::RectF(1.0f, 2.0f, 3.0f, 4.0f), &format,
-                                       &brush);
-    }
-    const std::string font = "font[\"Arial\" 12.5 style 1 unit 2]";
-    EXPECT_TRUE(
-        Equal({{"Chinese",
-                "GdipDrawString \"\xE6\xAF\x94\xE4\xBE\x8B\xE5\xB0\xBA\" (1, 2)"
-                " 0 x 0 " +
-                    font + " brush[#FF000000] format null"},
-               {"past U+FFFF", "GdipDrawString \"\xF0\x9F\x97\xBAx\" (1, 2) 3 x 4 " +
-                                   font + " brush[#FF000000] format format[0 align 1]"}},
-              recording.Drawing()));
-}
-
-TEST(Recording, ShowsAllThatAPathHolds) {
-    Recording recording;
-    {
-        Gdiplus::GraphicsPath path;
-        const Gdiplus::Point line[] = {{1, 2}, {3, 4}};
-        path.AddLines(line, 2);
-        path.AddRectangle(Gdiplus::Rect(5, 6, 7, 8));
-        path.GetBounds(std::make_unique<Gdiplus::Rect>().get(), nullptr, nullptr);
-        path.Reset();
-    }
-    EXPECT_TRUE(
-        Equal({{"path", "GdipCreatePath 0"},
-               {"line", "GdipAddPathLine2I path[lines (1, 2) (3, 4)]"},
-               {"box", "GdipAddPathRectangleI rectangle 5 6 7 8"},
-               {"bounds",
-                "GdipGetPathWorldBoundsI path[lines (1, 2) (3, 4), rectangle 5 6 7 8]"},
-               {"emptied", "GdipResetPath"},
-               {"path", "GdipDeletePath path[]"}},
-              recording.Lines()));
-}
-
 TEST(Recording, LeavesOutWhatGdiPlusCallsWithinItself) {
     Surface surface;
     const Gdiplus::FontFamily family(L"Arial");
@@ -331,15 +258,6 @@ TEST(Equal, TellsTheFirstDifference) {
     EXPECT_STREQ(Equal(expected, {"a"}).message(),
                  "tick 2: expected b, but the drawing ends after 1 calls");
     EXPECT_STREQ(Equal(expected, {"a", "b", "c"}).message(), "call 3 is one too many: c");
-}
-
-TEST(NumberLine, IsWrittenShortAndExactly) {
-    EXPECT_EQ(Number(-0.0f), "0");
-    EXPECT_EQ(Number(0.1f), "0.1");
-    EXPECT_EQ(Number(46.875f), "46.875");
-    EXPECT_EQ(Number(-1e30f), "-1e+30");
-    EXPECT_EQ(Number(std::numeric_limits<float>::infinity()), "inf");
-    EXPECT_EQ(Number(-std::numeric_limits<float>::quiet_NaN()), "nan");
 }
 
 }  // namespace

@@ -63,36 +63,6 @@ TEST(AlternatingBar, CountsSmallBoxesAndDivisionsInOneRow) {
         DrawingOf(Row(Style::Alternate, 5, 4))));
 }
 
-TEST(AlternatingBar, WithoutSubDivisionsClosesTheFirstDivisionAlone) {
-    EXPECT_TRUE(Equal(
-        {
-            {"strip top", Line(89, 156, 139, 156)},
-            {"strip bottom", Line(89, 169, 139, 169)},
-            {"label 0", Label("0.0", 89)},
-            {"closing line", Line(114, 156, 114, 169)},
-            {"label 1", Label("1.0", 114)},
-            {"division 2, the first box, empty", Box(114, 25)},
-            {"label 2", Label("2.0", 139)},
-            {"unit name", DefaultUnitName(143, 157)},
-        },
-        DrawingOf(Row(Style::Alternate, 2, 0))));
-}
-
-TEST(AlternatingBar, OfOneDivisionHasItsSmallBoxesOnly) {
-    EXPECT_TRUE(Equal(
-        {
-            {"strip top", Line(121, 156, 146, 156)},
-            {"strip bottom", Line(121, 169, 146, 169)},
-            {"label 0", Label("0.0", 121)},
-            {"small box 1, 12.5 wide", Box(121, 12)},
-            {"small box 1 filled", Fill(121, 12)},
-            {"closing line", Line(146, 156, 146, 169)},
-            {"label 1", Label("1.0", 146)},
-            {"unit name", DefaultUnitName(84, 157)},
-        },
-        DrawingOf(Row(Style::Alternate, 1, 1, 1))));
-}
-
 // Divisions of 2500 x 0.8: 80 pixels, in parts of 26.67 whose boxes are 26 wide.
 TEST(AlternatingBar, ClosesTheFirstDivisionAtItsUnroundedEnd) {
     BarRow row = Row(Style::Alternate, 2, 2);
@@ -113,36 +83,6 @@ TEST(AlternatingBar, ClosesTheFirstDivisionAtItsUnroundedEnd) {
             {"unit name", DefaultUnitName(253, 157)},
         },
         DrawingOf(row)));
-}
-
-TEST(AlternatingBar, WithoutDivisionsHasAPointForAStrip) {
-    EXPECT_TRUE(Equal(
-        {
-            {"strip top", Line(89, 156, 89, 156)},
-            {"strip bottom", Line(89, 169, 89, 169)},
-            {"label 0", Label("0.0", 89)},
-            {"unit name", DefaultUnitName(93, -13)},
-        },
-        DrawingOf(Row(Style::Alternate, 0, 4))));
-}
-
-TEST(AlternatingBar, OfNegativeCountLabelsItAtTheFirstBoundary) {
-    EXPECT_TRUE(Equal(
-        {
-            {"strip top, to the left", Line(89, 156, 64, 156)},
-            {"strip bottom", Line(89, 169, 64, 169)},
-            {"label -1", Label("-1.0", 89)},
-            {"unit name", DefaultUnitName(93, -13)},
-        },
-        DrawingOf(Row(Style::Alternate, -1, 4))));
-    EXPECT_TRUE(Equal(
-        {
-            {"strip top, to the left", Line(121, 156, 71, 156)},
-            {"strip bottom", Line(121, 169, 71, 169)},
-            {"label -2", Label("-2.0", 121)},
-            {"unit name", DefaultUnitName(84, -13)},
-        },
-        DrawingOf(Row(Style::Alternate, -2, 4, 1))));
 }
 
 struct ClosingRow {
@@ -166,17 +106,6 @@ TEST(AlternatingBar, ClosesTheFirstDivisionWhateverTheSubCount) {
             },
             DrawingOf(Row(Style::Alternate, 1, row.subCount))))
             << row.subCount;
-    }
-}
-
-TEST(AlternatingBar, DrawsAUnitNameOfNoPositionAtTheOrigin) {
-    for (const Style style : {Style::Alternate, Style::EquAlternate}) {
-        for (const int position : {2, -1}) {
-            EXPECT_EQ(DrawingOf(Row(style, 5, 4, position)).back(),
-                      DefaultUnitName(0, 0));
-            EXPECT_EQ(DrawingOf(Row(style, 0, 4, position)).back(),
-                      DefaultUnitName(0, 0));
-        }
     }
 }
 
@@ -221,22 +150,6 @@ TEST(EqualAlternatingBar, BoxesOverlapWhereTheValueWasRoundedDown) {
             {"unit name", DefaultUnitName(84, 157)},
         },
         DrawingOf(row)));
-}
-
-TEST(EqualAlternatingBar, HasNoSubDivisions) {
-    const std::vector<std::string> drawing = DrawingOf(Row(Style::EquAlternate, 3, 4));
-    for (const int subCount : {-2147483647 - 1, -1, 0, 1, 100, 2147483647}) {
-        EXPECT_EQ(DrawingOf(Row(Style::EquAlternate, 3, subCount)), drawing) << subCount;
-    }
-}
-
-TEST(EqualAlternatingBar, WithoutDivisionsHasALabelAndAUnitName) {
-    EXPECT_TRUE(
-        Equal({{"label 0", Label("0", 89)}, {"unit name", DefaultUnitName(93, -13)}},
-              DrawingOf(Row(Style::EquAlternate, 0, 4))));
-    EXPECT_TRUE(
-        Equal({{"label -3", Label("-3", 121)}, {"unit name", DefaultUnitName(84, -13)}},
-              DrawingOf(Row(Style::EquAlternate, -3, 4, 1))));
 }
 
 // Size 83 at scale 0.5 is 41 pixels, truncated. The alternating bar is 40 high; the equal

@@ -153,26 +153,4 @@ std::string TestName(const ::testing::TestParamInfo<Style>& style) {
 
 INSTANTIATE_TEST_SUITE_P(ScaleBar, EveryStyle, ::testing::ValuesIn(kStyles), TestName);
 
-// The row that tells one style from another is the style's own.
-TEST(ScaleBarStyles, SteppedDrawsAsLineCallForCall) {
-    for (const double paperToData : kPaperToData) {
-        for (const int count : kCounts) {
-            Surface surface;
-            std::vector<std::string> lines[2];
-            for (const Style style : {Style::Line, Style::Stepped}) {
-                BarRow row;
-                row.style = style;
-                row.paperToData = paperToData;
-                row.mainCount = count;
-                row.subCount = 5 - count;
-                Recording recording(Mode::RecordOnly);
-                NewBar(row)->Draw(surface.Graphics(), row.centre, 1.37);
-                lines[style == Style::Line ? 0 : 1] = recording.Lines();
-            }
-            EXPECT_FALSE(lines[0].empty());
-            EXPECT_EQ(lines[1], lines[0]) << paperToData << ", " << count;
-        }
-    }
-}
-
 }  // namespace

@@ -197,42 +197,4 @@ TEST(ScaleBarExtremes, GdiplusSurvives) {
     EXPECT_TRUE(surface.WorldTransform() == (std::vector<float>{1, 0, 0, 1, 0, 0}));
 }
 
-TEST(ScaleBarExtremes, GoesOnAfterAFailure) {
-    for (const Style style : kStyles) {
-        Surface surface;
-        const std::unique_ptr<CScaleBarBase> bar = NewBar(style);
-        Recording recording;
-        bar->Draw(surface.Graphics(), CPoint(200, 150), 1.0);
-        const int calls = recording.Count();
-        EXPECT_EQ(surface.Graphics()->GetLastStatus(), Gdiplus::Ok);
-        const std::vector<Call> all = recording.Calls();
-        for (int n = 1; n <= calls; ++n) {
-            recording.Clear();
-            recording.FailCall(n, Gdiplus::OutOfMemory);
-            bar->Draw(surface.Graphics(), CPoint(200, 150), 1.0);
-            const Gdiplus::Status status = surface.Graphics()->GetLastStatus();
-            EXPECT_EQ(recording.Count(), calls) << NameOf(style) << ", call " << n;
-            if (all[static_cast<std::size_t>(n) - 1].visible) {
-                EXPECT_EQ(status, Gdiplus::OutOfMemory) << NameOf(style) << ", " << n;
-            }
-        }
-    }
-}
-
-// Without a family there are no fonts, and so no text; the lines are drawn all the same.
-TEST(ScaleBarExtremes, DrawsWithoutAFontFamily) {
-    for (const Style style : kStyles) {
-        Surface surface;
-        Recording recording;
-        recording.FailCallsOf("GdipCreateFontFamily", Gdiplus::FontFamilyNotFound);
-        const std::unique_ptr<CScaleBarBase> bar = NewBar(style);
-        recording.Clear();
-        bar->Draw(surface.Graphics(), CPoint(200, 150), 1.0);
-        BarRow row;
-        row.style = style;
-        EXPECT_EQ(recording.Drawing().size(), ExpectedDrawing(row).size());
-        EXPECT_NE(surface.Graphics()->GetLastStatus(), Gdiplus::Ok);
-    }
-}
-
 }  // namespace

@@ -65,54 +65,6 @@ TEST(LineStyles, ShareTicksAndLabels) {
     }
 }
 
-// The bar moves right by 0.8 x 40 = 32, and the unit name stands at the left edge.
-TEST(LineStyles, LeaveRoomForTheUnitNameBefore) {
-    for (const ShapeRow& shape : kShapes) {
-        EXPECT_TRUE(Equal(
-            {
-                {"tick 0", Tick(121)},
-                {"label 0", BlackLabel("0", 116, 130)},
-                {"sub tick", Line(121, shape.subTop, 121, shape.subFoot)},
-                {"tick 1", Tick(146)},
-                {"label 1", BlackLabel("1", 141, 130)},
-                {"base line", Line(121, shape.baseLine, 146, shape.baseLine)},
-                {"unit name", DefaultUnitName(84, static_cast<float>(shape.unitTop))},
-            },
-            DrawingOf(Row(shape.style, 1, 0, 1))))
-            << NameOf(shape.style);
-    }
-}
-
-TEST(LineStyles, DrawAUnitNameOfNoPositionAtTheOrigin) {
-    for (const ShapeRow& shape : kShapes) {
-        for (const int position : {2, -1, 2147483647}) {
-            EXPECT_TRUE(Equal(
-                {
-                    {"tick 0, not moved", Tick(89)},
-                    {"label 0", BlackLabel("0", 84, 130)},
-                    {"base line", Line(89, shape.baseLine, 89, shape.baseLine)},
-                    {"unit name", DefaultUnitName(0, 0)},
-                },
-                DrawingOf(Row(shape.style, 0, 4, position))))
-                << NameOf(shape.style) << ", " << position;
-        }
-    }
-}
-
-TEST(LineStyles, WithoutDivisionsHaveOneTickAndAPointForALine) {
-    for (const ShapeRow& shape : kShapes) {
-        EXPECT_TRUE(Equal(
-            {
-                {"tick 0", Tick(89)},
-                {"label 0", BlackLabel("0", 84, 130)},
-                {"base line", Line(89, shape.baseLine, 89, shape.baseLine)},
-                {"unit name", DefaultUnitName(93, static_cast<float>(shape.unitTop))},
-            },
-            DrawingOf(Row(shape.style, 0, 4))))
-            << NameOf(shape.style);
-    }
-}
-
 struct NegativeRow {
     Style style;
     int baseLine;
@@ -143,20 +95,6 @@ TEST(LineStyles, WithANegativeCountRunToTheOrigin) {
                 << NameOf(row.style);
         }
     }
-}
-
-TEST(LineStyles, WithoutSubDivisionsHaveTheSubTickOnTheMainTick) {
-    EXPECT_TRUE(Equal(
-        {
-            {"tick 0", Tick(89)},
-            {"label 0", BlackLabel("0", 84, 130)},
-            {"sub tick 0.0", Line(89, 162, 89, 170)},
-            {"tick 1", Tick(114)},
-            {"label 1", BlackLabel("1", 109, 130)},
-            {"base line", Line(89, 170, 114, 170)},
-            {"unit name", DefaultUnitName(118, 157)},
-        },
-        DrawingOf(Row(Style::Line, 1, 0))));
 }
 
 TEST(LineStyles, WithANegativeSubCountHaveNoSubTicks) {

@@ -291,25 +291,6 @@ TEST(DrawPicture, MovesTheImage) {
         Equal({{"disposal", "GdipDisposeImage image[\"a\"]"}}, recording.Lines()));
 }
 
-TEST(DrawPicture, GoesOnWhenACallFails) {
-    const ImageFolder folder;
-    const std::wstring path = folder.WriteBmp("a.bmp", 30, 20, 0);
-    for (int n = 1; n <= 19; ++n) {
-        Surface surface;
-        Recording recording;
-        recording.FailCall(n, Gdiplus::OutOfMemory);
-        {
-            CDrawPicture picture;
-            EXPECT_TRUE(picture.Open(path.c_str())) << "failing call " << n;
-            picture.ResetAspectRatio();
-            picture.Draw(surface.Graphics(), CPoint(100, 50), 1.0);
-        }
-        // 3 to open, 10 to measure, 5 to draw, 1 to dispose of
-        EXPECT_EQ(recording.Count(), 19) << "failing call " << n;
-        EXPECT_TRUE(NothingAlive()) << "failing call " << n;
-    }
-}
-
 TEST(DrawPicture, PaintsTheImage) {
     const ImageFolder folder;
     Surface surface(100, 100);

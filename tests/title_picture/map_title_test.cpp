@@ -289,36 +289,6 @@ TEST(MapTitle, LeavesTheIdentityBehind) {
     EXPECT_EQ(surface.WorldTransform(), (std::vector<float>{1, 0, 0, 1, 0, 0}));
 }
 
-TEST(MapTitle, GoesOnWhenACallFails) {
-    for (int n = 1; n <= 12; ++n) {
-        Surface surface;
-        CMapTitle title = Title();
-        Recording recording(Mode::RecordOnly);
-        recording.FailCall(n, Gdiplus::OutOfMemory);
-        title.Draw(surface.Graphics(), CPoint(100, 50), 1.0);
-        EXPECT_EQ(recording.Count(), 11) << "failing call " << n;
-        EXPECT_TRUE(NothingAlive()) << "failing call " << n;
-        const bool draws = (n >= 3 && n <= 5) || n == 7 || n == 8;
-        const bool makes = n == 1 || n == 2 || n == 6;
-        EXPECT_EQ(surface.Graphics()->GetLastStatus(), draws   ? Gdiplus::OutOfMemory
-                                                       : makes ? Gdiplus::InvalidParameter
-                                                               : Gdiplus::Ok)
-            << "failing call " << n;
-    }
-    for (const Mode mode : {Mode::Forward, Mode::RecordOnly}) {
-        for (int n = 1; n <= 24; ++n) {
-            CMapTitle title = Title();
-            Recording recording(mode);
-            recording.FailCall(n);
-            title.ResetAspectRatio();
-            // Without a font there is no outline to add.
-            const bool noFont = n <= 2 || n == 6 || n == 7;
-            EXPECT_EQ(recording.Count(), noFont ? 22 : 23) << "failing call " << n;
-            EXPECT_TRUE(NothingAlive()) << "failing call " << n;
-        }
-    }
-}
-
 /// The bounds of the outline of a title's text, as GDI+ measures it.
 Gdiplus::Rect OutlineOf(const CMapTitle& title) {
     const Gdiplus::FontFamily family(title.GetFontStyle().c_str());

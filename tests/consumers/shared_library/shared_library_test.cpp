@@ -6,6 +6,7 @@
 #include <memory>
 #include <string>
 
+#include "legend/fake_sources.h"
 #include "map_surround/map_surround.h"
 #include "page/catalogue.h"
 
@@ -84,22 +85,8 @@ TEST(LibraryHost, DrawsEveryScaleBar) {
     }
 }
 
-/// A raster source in memory, shown as three bands.
-class Source : public CRasterSource {
-public:
-    bool IsAvailable() override { return true; }
-    GISDataSourceType GetDataSourceType() override { return DataSourceRaster; }
-    std::wstring GetFileName() override { return L"scene.tif"; }
-    DataDisplayType GetDisplayType() override { return DisplayRGB; }
-    int GetRedBandNum() override { return 0; }
-    int GetGreenBandNum() override { return 1; }
-    int GetBlueBandNum() override { return 2; }
-    CRasterBand* GetRasterBand(int) override { return nullptr; }
-    CClassifyDisplayTable* GetClassifyDisplayTable() override { return nullptr; }
-};
-
 TEST(LibraryHost, DrawsTheLegend) {
-    Source source;
+    fakes::Raster source(L"scene.tif", DisplayRGB);
     CMapLegend legend;
     legend.SetTitleValue(L"Legend");
     legend.SetDataSouce({&source});

@@ -9,6 +9,7 @@
 #include <variant>
 #include <vector>
 
+#include "legend/fake_sources.h"
 #include "map_surround/legend.h"
 #include "map_surround/north_arrow.h"
 #include "map_surround/scale_bar.h"
@@ -18,20 +19,6 @@
 #include "recording/expect.h"
 
 namespace {
-
-/// A raster source in memory, shown as three bands.
-class Source : public CRasterSource {
-public:
-    bool IsAvailable() override { return true; }
-    GISDataSourceType GetDataSourceType() override { return DataSourceRaster; }
-    std::wstring GetFileName() override { return L"a_scene_with_quite_a_long_name.tif"; }
-    DataDisplayType GetDisplayType() override { return DisplayRGB; }
-    int GetRedBandNum() override { return 0; }
-    int GetGreenBandNum() override { return 1; }
-    int GetBlueBandNum() override { return 2; }
-    CRasterBand* GetRasterBand(int) override { return nullptr; }
-    CClassifyDisplayTable* GetClassifyDisplayTable() override { return nullptr; }
-};
 
 struct Furniture {
     CBoundingBox map;
@@ -174,7 +161,8 @@ TEST(Furniture, CountsWhatItIsAskedToCount) {
 }
 
 TEST(Furniture, StandsInsideThePageAndApart) {
-    Source source;
+    fakes::Raster source(L"a_scene_with_quite_a_long_name.tif", DisplayRGB);
+    source.hasBand = source.hasTable = false;
     for (const char* paper : {"A4", "210x297", "100x100", "400x60"}) {
         host::PageDesign design;
         ASSERT_TRUE(host::ParsePaperSize(paper, design.paper));
@@ -229,7 +217,8 @@ TEST(Furniture, IsLeftOutWhereTheMapHasNoCoordinates) {
 }
 
 TEST(Furniture, TakesWhatTheDesignSays) {
-    Source source;
+    fakes::Raster source(L"a_scene_with_quite_a_long_name.tif", DisplayRGB);
+    source.hasBand = source.hasTable = false;
     host::PageDesign design;
     ASSERT_TRUE(host::ParsePaperSize("A4", design.paper));
     design.scaleBar.style = StyleOf<CScaleLine3>();
