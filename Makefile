@@ -6,6 +6,7 @@
     bench-editor \
     bench-map \
     bench-peers \
+    benches \
     clean \
     coverage \
     demo \
@@ -126,6 +127,10 @@ editor-test: build/release/with-test build/release/with-editor
 bench: build/release/with-bench
 	cmake --build --preset release --target library_bench
 	build/release/bench/library/library_bench
+
+benches: build/release/with-bench build/release/with-editor
+	cmake --build --preset release \
+	    --target library_bench furniture_page live_page_bench editor_drag_bench
 
 bench-peers: build/release/with-bench demo
 	scripts/install_packages peers

@@ -88,11 +88,12 @@ class Workshop:
                 current = line.partition(":")[0]
             elif str(self.source) in line:
                 includes[current].add(os.path.realpath(self.tree / line.strip()))
+        linked = self._link_command()
         units = []
         for entry in json.loads((self.tree / "compile_commands.json").read_text()):
             command = shlex.split(entry["command"])
             made = command[command.index("-o") + 1]
-            if "map_surround_static.dir" in made or "/library_tests.dir/" in made:
+            if "map_surround_static.dir" in made or made in linked:
                 units.append(Unit(pathlib.Path(entry["file"]), command, made, includes[made]))
         return units
 
@@ -108,11 +109,14 @@ class Workshop:
         subprocess.run(command, cwd=self.tree, check=True)
         return file
 
+    def _link_command(self):
+        last = self._ninja("commands", "library_tests").strip().split("\n")[-1]
+        return shlex.split(last.split(" && ")[1])
+
     def _read_link(self):
         """The command that links the test program, up to its first object and behind its
         last; the objects of the library stand for its archive."""
-        last = self._ninja("commands", "library_tests").strip().split("\n")[-1]
-        command = shlex.split(last.split(" && ")[1])
+        command = self._link_command()
         objects = {unit.object for unit in self.units}
         rest = [word for word in command if word not in objects and "libmap_surround.a" not in word]
         made = rest.index("-o")
