@@ -93,7 +93,7 @@ void LookForSideFiles(GDALDataset& dataset) {
 
 /// The dataset with the style's no-data instead of its own: what it masked otherwise
 /// counts again.
-std::shared_ptr<GDALDataset> WithNoData(std::shared_ptr<GDALDataset> dataset,
+std::shared_ptr<GDALDataset> WithNoData(const std::shared_ptr<GDALDataset>& dataset,
                                         const RasterStyle& style) {
     const std::string noData = style.NoDataText();
     return noData.empty() ? dataset
@@ -145,7 +145,7 @@ std::unique_ptr<GdalRaster> GdalRaster::Open(const std::string& path, std::strin
     std::string mainFile = MainFile(*dataset, path);
     try {
         LookForSideFiles(*dataset);
-        dataset = WithNoData(std::move(dataset), style);
+        dataset = WithNoData(dataset, style);
         auto shading = std::make_shared<RasterShading>(dataset, style);
         if (!LastRefused().empty()) {
             throw std::runtime_error(LastRefused());

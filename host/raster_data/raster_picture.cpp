@@ -18,7 +18,6 @@ namespace {
 // Whole codes up to here are looked up, others searched for.
 constexpr int kCodes = 1 << 16;
 
-constexpr int kCountedSide = 1 << 12;
 constexpr std::size_t kMostClasses = 10'000;
 
 // Where the components of a pixel stand in memory.

@@ -13,7 +13,6 @@ namespace host {
 namespace {
 
 // Of percents all values are kept.
-constexpr int kCountedSide = 1 << 12;
 constexpr int kRankedSide = 1 << 11;
 
 // More would take too long.
@@ -81,6 +80,7 @@ std::vector<std::optional<ShadeRange>> CountedRanges(
         bands, LookedAt(*bands.front(), mostASide), progress,
         [&](std::size_t band, double value) { summaries[band].Add(value); });
     std::vector<std::optional<ShadeRange>> ranges;
+    ranges.reserve(bands.size());
     for (const Summary& summary : summaries) {
         ranges.push_back(summary.Of(stretch));
     }
@@ -120,6 +120,7 @@ std::vector<std::optional<ShadeRange>> RankedRanges(
     ReadValues<T>(bands, LookedAt(*bands.front(), kRankedSide), progress,
                   [&](std::size_t band, T value) { values[band].push_back(value); });
     std::vector<std::optional<ShadeRange>> ranges;
+    ranges.reserve(bands.size());
     for (std::vector<T>& ofBand : values) {
         ranges.push_back(RankedRange(ofBand, stretch));
     }

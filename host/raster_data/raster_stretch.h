@@ -20,6 +20,9 @@ struct ShadeRange {
     std::uint8_t Shade(double value) const;
 };
 
+/// So many pixels a side are counted at most; larger rasters are sampled.
+constexpr int kCountedSide = 1 << 12;
+
 /// At what size the pixels of a band are looked at where `most` a side are enough: at its
 /// own as long as it has no more of them than `most` by `most`, so that the answer is
 /// exact, else at no more than `most` by `most`.

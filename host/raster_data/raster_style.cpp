@@ -10,9 +10,9 @@ namespace host {
 namespace {
 
 // GDAL's own limit.
-constexpr int kMostBands = 65536;
+constexpr int kHighestBand = 65536;
 
-/// The pieces between separators, of which several count as one only where asked.
+/// The pieces between separators; two separators have an empty one between them.
 std::vector<std::string_view> Split(std::string_view text, char separator) {
     std::vector<std::string_view> pieces;
     for (;;) {
@@ -90,7 +90,7 @@ bool RasterStyle::ParseBands(std::string_view text) {
          text.empty() ? std::vector<std::string_view>() : Split(text, ',')) {
         double number = 0.0;
         if (!ParseNumber(piece, number) || number != std::floor(number) || number < 1 ||
-            number > kMostBands) {
+            number > kHighestBand) {
             return false;
         }
         read.push_back(static_cast<int>(number));
