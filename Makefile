@@ -21,11 +21,13 @@
     images \
     install-tests \
     interruptions \
+    likeness \
     lint \
     mutants \
     package \
     soak \
     test \
+    test-cairo \
     test-sanitized \
     test-threads \
     test-valgrind \
@@ -42,6 +44,14 @@ demo: build/release/with-demo
 test: build/release/with-test
 	cmake --build --preset release
 	ctest --preset release
+
+test-cairo: build/cairo/build.ninja
+	cmake --build --preset cairo
+	ctest --preset cairo
+
+likeness: build/cairo/build.ninja
+	cmake --build --preset cairo --target gallery compare_pictures
+	scripts/likeness build/cairo
 
 test-sanitized: build/sanitized/build.ninja
 	cmake --build --preset sanitized
@@ -184,6 +194,7 @@ build/release/with-%: CMakePresets.json scripts/install_packages
 	cmake --preset release $(part_of_$*) >/dev/null
 	touch $@
 
+purpose_of_cairo = cairo
 purpose_of_coverage = coverage
 purpose_of_fuzz = fuzz
 purpose_of_lint = lint

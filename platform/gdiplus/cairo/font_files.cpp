@@ -2,6 +2,8 @@
 
 #include <hb-ot.h>
 
+#include <mutex>
+
 #include "cairo/owned.h"
 #include "cairo/unicode.h"
 
@@ -112,7 +114,16 @@ Pattern Match(const Pattern& question) {
 
 }  // namespace
 
+namespace {
+
+/// Fontconfig minds its threads itself, in ways that no checker of threads can follow;
+/// little is asked of it, so one may wait for the other.
+std::mutex g_fontconfig;
+
+}  // namespace
+
 std::shared_ptr<const Family> FindFamily(const FlatChar* name) {
+    const std::lock_guard lock(g_fontconfig);
     const std::string utf8 = Utf8(name);
     if (utf8.empty()) {
         return nullptr;
@@ -140,9 +151,9 @@ std::shared_ptr<const Family> FindFamily(const FlatChar* name) {
 }
 
 Fallback FindFallback(const Family& family, INT style) {
+    const std::lock_guard lock(g_fontconfig);
     Fallback fallback;
-    std::u16string name = family.name;
-    const Pattern question = Question(Utf8(name.c_str()), style);
+    const Pattern question = Question(Utf8(family.name.c_str()), style);
     FcResult result = FcResultMatch;
     FcFontSet* const set = FcFontSort(nullptr, question.get(), FcTrue, nullptr, &result);
     if (set == nullptr) {

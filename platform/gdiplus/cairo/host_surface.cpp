@@ -3,7 +3,7 @@
 #include "cairo/graphics.h"
 
 #pragma GCC visibility push(default)
-#include "gdiplus/cairo.h"
+#include "gdiplus/flat_cairo.h"
 #pragma GCC visibility pop
 
 namespace engine {

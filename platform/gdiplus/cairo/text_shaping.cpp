@@ -131,7 +131,8 @@ void Shaper::ShapeItem(const Item& item, ShapedLine& line,
                             item.level % 2 == 0 ? HB_DIRECTION_LTR : HB_DIRECTION_RTL);
     hb_buffer_set_script(buffer.get(),
                          IsCommon(item.script) ? HB_SCRIPT_LATIN : item.script);
-    hb_buffer_set_language(buffer.get(), hb_language_get_default());
+    static const hb_language_t language = hb_language_get_default();
+    hb_buffer_set_language(buffer.get(), language);
     hb_shape(item.face->shapes.get(), buffer.get(), nullptr, 0);
     if (hb_buffer_allocation_successful(buffer.get()) == 0) {
         throw std::bad_alloc();

@@ -1,19 +1,9 @@
 #pragma once
 
-#include <cairo.h>
-
+#include "gdiplus/flat_cairo.h"
 #include "gdiplus/graphics.h"
 
 namespace Gdiplus {
-
-namespace DllExports {
-extern "C" {
-
-GpStatus GdipGetCairoGraphicsContext(cairo_t* cairo, REAL xdpi, REAL ydpi,
-                                     GpGraphics** graphics);
-
-}  // extern "C"
-}  // namespace DllExports
 
 /// A surface that draws with a Cairo context of the host's: on an image, a window, or a
 /// page of a PDF, SVG or PostScript file, in which shapes stay shapes and texts texts.

@@ -78,12 +78,12 @@ void WatchName(const char16_t* name) {
 }  // namespace
 
 flat_spy::Text& flat_spy::Last() {
-    static Text last;
+    thread_local Text last;
     return last;
 }
 
 flat_spy::Palette& flat_spy::Palettes() {
-    static Palette palettes;
+    thread_local Palette palettes;
     return palettes;
 }
 

@@ -16,7 +16,7 @@ struct Text {
     bool surface = false;  ///< whether there was a graphics or path to draw on
 };
 
-/// Since the last Clear.
+/// By the calling thread, since the last Clear.
 Text& Last();
 
 /// What asking for a palette answers, and how often one was set since the last Clear.
