@@ -29,9 +29,12 @@ else()
 
   set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME ${development_package})
   set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
-  # libgdiplus has the name that programs are linked with, too.
   set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS
-    "${runtime_package} (= ${PROJECT_VERSION}), libgdiplus")
+    "${runtime_package} (= ${PROJECT_VERSION})")
+  if(MAP_SURROUND_GDIPLUS STREQUAL "libgdiplus")
+    # libgdiplus has the name that programs are linked with, too.
+    string(APPEND CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS ", libgdiplus")
+  endif()
   set(CPACK_DEBIAN_DEVELOPMENT_DESCRIPTION "This package has the headers, the static library, the GDI+ binding, and what CMake and
 pkg-config need to find them.")
 endif()
