@@ -1,10 +1,8 @@
 #include "system/memory_file.h"
 
 #include <sys/mman.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
-#include <cstddef>
 #include <stdexcept>
 #include <system_error>
 
@@ -29,21 +27,8 @@ MemoryFile::MemoryFile(const std::vector<std::uint8_t>& bytes) : MemoryFile() {
 MemoryFile::~MemoryFile() { close(m_descriptor); }
 
 std::vector<std::uint8_t> MemoryFile::Bytes() const {
-    struct stat status = {};
-    if (fstat(m_descriptor, &status) != 0) {
-        return {};
-    }
-    std::vector<std::uint8_t> bytes(static_cast<std::size_t>(status.st_size));
-    std::size_t done = 0;
-    while (done < bytes.size()) {
-        const ssize_t count = pread(m_descriptor, bytes.data() + done,
-                                    bytes.size() - done, static_cast<off_t>(done));
-        if (count <= 0) {
-            return {};
-        }
-        done += static_cast<std::size_t>(count);
-    }
-    return bytes;
+    std::vector<std::uint8_t> bytes;
+    return ReadAll(m_descriptor, bytes) ? bytes : std::vector<std::uint8_t>();
 }
 
 }  // namespace host

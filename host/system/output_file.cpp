@@ -21,13 +21,15 @@ namespace {
 
 constexpr int kEndingSignals[] = {SIGINT, SIGTERM, SIGHUP};
 
-// The name of the temporary file, empty when there is none: where a signal handler can
-// read it.
-char g_unfinished[PATH_MAX];
+// The names of temporary files, empty where there is none: where a signal handler can
+// read them.
+char g_unfinished[2][PATH_MAX];
 
 void RemoveAndEnd(int signal) {
-    if (g_unfinished[0] != '\0') {
-        unlink(g_unfinished);
+    for (const auto& name : g_unfinished) {
+        if (name[0] != '\0') {
+            unlink(name);
+        }
     }
     std::signal(signal, SIG_DFL);
     std::raise(signal);
@@ -84,15 +86,38 @@ std::string Resolved(const std::string& path) {
     return target.get();
 }
 
-/// The permissions of the file replaced, else those of any new file.
-mode_t ModeFor(const std::string& path) {
+/// Whoever may write there by the rights of the folder alone, a file that is marked is
+/// not to be replaced.
+void CheckMayBeReplaced(const std::string& path) {
     struct stat status = {};
-    if (stat(path.c_str(), &status) == 0) {
-        return status.st_mode & 07777;
+    if (stat(path.c_str(), &status) != 0) {
+        return;
     }
-    const mode_t mask = umask(0);
-    umask(mask);
-    return 0666 & ~mask;
+    if ((status.st_mode & 0222) == 0) {
+        throw std::runtime_error("is write-protected");
+    }
+    if (faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) != 0) {
+        Fail(errno);
+    }
+}
+
+/// Gives a file the owner and the permissions of the one it replaces, else those of any
+/// new file. What runs with its owner's rights is another program now, and does not.
+void TakeAfter(const std::string& path, int descriptor) {
+    struct stat status = {};
+    if (stat(path.c_str(), &status) != 0) {
+        const mode_t mask = umask(0);
+        umask(mask);
+        status.st_mode = 0666 & ~mask;
+    } else if (fchown(descriptor, status.st_uid, status.st_gid) != 0 &&
+               fchown(descriptor, static_cast<uid_t>(-1), status.st_gid) != 0) {
+        // Neither may be given away by this user, whose own the file then is: no more
+        // people than before may read it.
+        status.st_mode &= ~static_cast<mode_t>(S_IRWXG);
+    }
+    if (fchmod(descriptor, status.st_mode & 0777) != 0) {
+        Fail(errno);
+    }
 }
 
 /// So that the new name is on the disk too; a folder that cannot be read does without.
@@ -106,10 +131,13 @@ void SyncFolder(const std::string& folder) {
 
 }  // namespace
 
-OutputFile::OutputFile(const std::string& path) : m_path(Resolved(path)) {
+OutputFile::OutputFile(const std::string& path)
+    : m_path(Resolved(path)),
+      m_unfinished(g_unfinished[g_unfinished[0][0] == '\0' ? 0 : 1]) {
+    CheckMayBeReplaced(m_path);
     std::string name = FolderOf(m_path);
     name += name.back() == '/' ? ".page-XXXXXX" : "/.page-XXXXXX";
-    if (name.size() >= sizeof g_unfinished) {
+    if (name.size() >= sizeof g_unfinished[0]) {
         Fail(ENAMETOOLONG);
     }
     const SignalsHeldBack held;
@@ -117,17 +145,17 @@ OutputFile::OutputFile(const std::string& path) : m_path(Resolved(path)) {
     if (m_descriptor < 0) {
         Fail(errno);
     }
-    std::memcpy(g_unfinished, name.c_str(), name.size() + 1);
+    std::memcpy(m_unfinished, name.c_str(), name.size() + 1);
 }
 
 OutputFile::~OutputFile() {
     if (m_descriptor >= 0) {
         close(m_descriptor);
     }
-    if (g_unfinished[0] != '\0') {
+    if (m_unfinished[0] != '\0') {
         const SignalsHeldBack held;
-        unlink(g_unfinished);
-        g_unfinished[0] = '\0';
+        unlink(m_unfinished);
+        m_unfinished[0] = '\0';
     }
 }
 
@@ -138,8 +166,33 @@ void OutputFile::Write(const std::vector<std::uint8_t>& bytes) const {
     }
 }
 
+std::vector<std::uint8_t> OutputFile::Bytes() const {
+    std::vector<std::uint8_t> bytes;
+    if (!ReadAll(m_descriptor, bytes)) {
+        Fail(errno);
+    }
+    return bytes;
+}
+
+void OutputFile::Replace(const std::vector<std::uint8_t>& bytes) const {
+    if (ftruncate(m_descriptor, 0) != 0 || lseek(m_descriptor, 0, SEEK_SET) != 0) {
+        Fail(errno);
+    }
+    Write(bytes);
+}
+
+std::string OutputFile::Remark() const {
+    struct stat status = {};
+    const bool isShared = stat(m_path.c_str(), &status) == 0 && S_ISREG(status.st_mode) &&
+                          status.st_nlink > 1;
+    return isShared
+               ? m_path + " has other names (hard links), under which it stays as it was"
+               : "";
+}
+
 void OutputFile::Commit() {
-    if (fchmod(m_descriptor, ModeFor(m_path)) != 0 || fsync(m_descriptor) != 0) {
+    TakeAfter(m_path, m_descriptor);
+    if (fsync(m_descriptor) != 0) {
         Fail(errno);
     }
     const int descriptor = m_descriptor;
@@ -149,10 +202,10 @@ void OutputFile::Commit() {
     }
     {
         const SignalsHeldBack held;
-        if (std::rename(g_unfinished, m_path.c_str()) != 0) {
+        if (std::rename(m_unfinished, m_path.c_str()) != 0) {
             Fail(errno);
         }
-        g_unfinished[0] = '\0';
+        m_unfinished[0] = '\0';
     }
     SyncFolder(FolderOf(m_path));
 }

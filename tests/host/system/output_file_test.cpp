@@ -33,6 +33,12 @@ protected:
         std::ofstream(folder.Path(name), std::ios::binary) << text;
     }
 
+    struct stat Status(const std::string& name) const {
+        struct stat status = {};
+        EXPECT_EQ(stat(folder.Path(name).c_str(), &status), 0);
+        return status;
+    }
+
     ScratchFolder folder;
 };
 
@@ -68,6 +74,87 @@ TEST_F(OutputFile, TakesThePermissionsOfWhatItReplaces) {
     struct stat status = {};
     ASSERT_EQ(stat(folder.Path("page.png").c_str(), &status), 0);
     EXPECT_EQ(status.st_mode & 0777, 0640u);
+}
+
+TEST_F(OutputFile, GivesNoRightsOfItsOwnerToAnotherProgram) {
+    Write("page.png", "before");
+    chmod(folder.Path("page.png").c_str(), 06755);
+    host::OutputFile output(folder.Path("page.png"));
+    output.Commit();
+    EXPECT_EQ(Status("page.png").st_mode & 07777, 0755u);
+}
+
+TEST_F(OutputFile, KeepsTheOwnerWhereItMay) {
+    if (geteuid() != 0) {
+        GTEST_SKIP() << "only root gives files away";
+    }
+    Write("page.png", "before");
+    ASSERT_EQ(chown(folder.Path("page.png").c_str(), 1234, 2345), 0);
+    {
+        host::OutputFile output(folder.Path("page.png"));
+        output.Commit();
+    }
+    EXPECT_EQ(Status("page.png").st_uid, 1234u);
+    EXPECT_EQ(Status("page.png").st_gid, 2345u);
+    // Another, who may write to it and to the folder but not give files away, owns it
+    // then; their group is not the one that could read it.
+    chmod(folder.Path("page.png").c_str(), 0666);
+    chmod(folder.Path().c_str(), 0777);
+    const pid_t child = fork();
+    if (child == 0) {
+        if (setgid(3456) != 0 || setuid(3456) != 0) {
+            _exit(1);
+        }
+        host::OutputFile output(folder.Path("page.png"));
+        output.Commit();
+        _exit(0);
+    }
+    int status = 0;
+    ASSERT_EQ(waitpid(child, &status, 0), child);
+    EXPECT_EQ(status, 0);
+    EXPECT_EQ(Status("page.png").st_uid, 3456u);
+    EXPECT_EQ(Status("page.png").st_mode & 07777, 0606u);
+}
+
+TEST_F(OutputFile, RefusesAWriteProtectedFile) {
+    Write("page.png", "before");
+    chmod(folder.Path("page.png").c_str(), 0444);
+    try {
+        const host::OutputFile output(folder.Path("page.png"));
+        ADD_FAILURE() << "was taken";
+    } catch (const std::runtime_error& error) {
+        EXPECT_STREQ(error.what(), "is write-protected");
+    }
+    EXPECT_EQ(Contents("page.png"), "before");
+    EXPECT_EQ(folder.Names().size(), 1u);
+}
+
+TEST_F(OutputFile, SaysThatAHardLinkParts) {
+    Write("page.png", "before");
+    {
+        const host::OutputFile output(folder.Path("page.png"));
+        EXPECT_EQ(output.Remark(), "");
+    }
+    fs::create_hard_link(folder.Path("page.png"), folder.Path("other.png"));
+    host::OutputFile output(folder.Path("page.png"));
+    EXPECT_EQ(output.Remark(),
+              folder.Path("page.png") +
+                  " has other names (hard links), under which it stays as it was");
+    output.Write(BytesOf("after"));
+    output.Commit();
+    EXPECT_EQ(Contents("page.png"), "after");
+    EXPECT_EQ(Contents("other.png"), "before");
+}
+
+TEST_F(OutputFile, IsReadAndWrittenAnew) {
+    host::OutputFile output(folder.Path("page.pdf"));
+    output.Write(BytesOf("post"));
+    output.Write(BytesOf("script"));
+    EXPECT_EQ(output.Bytes(), BytesOf("postscript"));
+    output.Replace(BytesOf("pdf"));
+    EXPECT_EQ(output.Bytes(), BytesOf("pdf"));
+    output.Commit();
+    EXPECT_EQ(Contents("page.pdf"), "pdf");
 }
 
 TEST_F(OutputFile, HasThePermissionsOfAnyNewFile) {
@@ -126,7 +213,8 @@ TEST_F(OutputFile, GoesWhenTheProgramIsEnded) {
             std::signal(signal, SIG_DFL);
             host::RemoveUnfinishedOutputOnSignals();
             const host::OutputFile output(folder.Path("page.png"));
-            if (folder.Names().size() == 1) {
+            const host::OutputFile saved(folder.Path("page.json"));
+            if (folder.Names().size() == 2) {
                 std::raise(signal);
             }
             _exit(0);
