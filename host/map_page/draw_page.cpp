@@ -8,6 +8,7 @@
 #include "page/document/map_on_page.h"
 #include "page/document/opened_page.h"
 #include "page/document/page_text.h"
+#include "page/document/picture_file.h"
 #include "page/document/raster_store.h"
 #include "page/output/output_format.h"
 #include "system/fonts.h"
@@ -33,7 +34,7 @@ void CheckFont(const std::string& option, const std::string& family) {
 /// The page of the page file, or the automatic one around the rasters.
 host::OpenedPage Open(const Options& options) {
     if (!options.pageFile.empty()) {
-        return host::OpenPageFile(options.pageFile, options.changes);
+        return host::OpenPageFile(options.pageFile, nullptr, options.changes);
     }
     CheckFont("--title-font", options.titleFamily);
     CheckFont("--legend-font", options.legendFamily);

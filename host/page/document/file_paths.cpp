@@ -3,8 +3,6 @@
 #include <filesystem>
 #include <system_error>
 
-#include "system/allowed_sources.h"
-
 namespace host {
 namespace {
 
@@ -17,8 +15,14 @@ bool Exists(const std::string& path) {
 
 }  // namespace
 
-FilePaths::FilePaths(const std::string& pageFile)
-    : m_keeps(false), m_folder(fs::path(pageFile).parent_path().string()) {}
+FilePaths::FilePaths(const std::string& pageFile, const AllowedSources* allowed)
+    : m_keeps(false),
+      m_folder(fs::path(pageFile).parent_path().string()),
+      m_allowed(allowed) {}
+
+std::string FilePaths::WhyNot(const std::string& path) const {
+    return m_allowed == nullptr || path.empty() ? "" : m_allowed->WhyNot(path);
+}
 
 std::string FilePaths::FromFile(const std::string& path) const {
     if (m_keeps || path.empty() || AllowedSources::IsNoPath(path)) {

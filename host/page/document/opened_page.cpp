@@ -31,10 +31,11 @@ void ShowAsDesigned(const MapDesign& design, Page& page, RasterStore& rasters) {
 
 }  // namespace
 
-OpenedPage OpenPageFile(const std::string& path, const PageChanges& changes,
+OpenedPage OpenPageFile(const std::string& path, const AllowedSources* allowed,
+                        const PageChanges& changes,
                         const std::function<void(const Page&)>& beforeRasters) {
     return Naming(path, [&] {
-        Page page = LoadPage(path);
+        Page page = LoadPage(path, allowed);
         CheckFilesAndFonts(page);
         if (beforeRasters) {
             beforeRasters(page);

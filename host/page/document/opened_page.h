@@ -13,6 +13,7 @@
 #include "page/document/raster_store.h"
 #include "page/layout/page_design.h"
 #include "page/page.h"
+#include "system/allowed_sources.h"
 
 namespace host {
 
@@ -25,8 +26,11 @@ struct OpenedPage {
 
 /// Opens a page file: checks its pictures and fonts, makes the changes, opens the rasters
 /// and fits scale bars and north arrows to the maps.
+/// @param allowed what may be read of the files that it names; null: all. What rasters lead
+/// to in turn is not looked at here: see ConfineGdal.
 /// @param beforeRasters called with the page before its rasters are opened; may throw
-OpenedPage OpenPageFile(const std::string& path, const PageChanges& changes = {},
+OpenedPage OpenPageFile(const std::string& path, const AllowedSources* allowed,
+                        const PageChanges& changes = {},
                         const std::function<void(const Page&)>& beforeRasters = {});
 
 /// Lays a page out by itself around at least one raster.

@@ -194,8 +194,8 @@ Page ReadPage(const std::string& text, const FilePaths& paths) {
     return page;
 }
 
-Page LoadPage(const std::string& path) {
-    return ReadPage(ReadFile(path, kMostJsonBytes), FilePaths(path));
+Page LoadPage(const std::string& path, const AllowedSources* allowed) {
+    return ReadPage(ReadFile(path, kMostJsonBytes), FilePaths(path, allowed));
 }
 
 }  // namespace host

@@ -34,6 +34,7 @@ std::string WritePage(const Page& page, const FilePaths& paths);
 Page ReadPage(const std::string& text, const FilePaths& paths);
 
 /// Reads a page file. Throws std::runtime_error with the reason, without the file's name.
-Page LoadPage(const std::string& path);
+/// @param allowed what may be read of what it names; null: all
+Page LoadPage(const std::string& path, const AllowedSources* allowed = nullptr);
 
 }  // namespace host

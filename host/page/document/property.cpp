@@ -17,16 +17,6 @@ std::string CheckNumber(const NumberRange& range, double value) {
                      NumberText(range.highest);
 }
 
-std::string CheckText(const std::string& text) {
-    std::wstring wide;
-    if (text.find('\0') != std::string::npos || !Widen(text, wide)) {
-        return "must be text without zero characters";
-    }
-    return wide.size() <= kLongestText
-               ? ""
-               : "must have at most " + std::to_string(kLongestText) + " characters";
-}
-
 std::string CheckPaths(const std::vector<std::string>& paths) {
     if (paths.size() > kMostRasters) {
         return "must have at most " + std::to_string(kMostRasters) + " files";
@@ -61,6 +51,20 @@ std::string CheckChoice(const Choices& choices, std::int32_t value) {
 }
 
 }  // namespace
+
+std::string CheckText(const std::string& text) {
+    std::wstring wide;
+    if (text.find('\0') != std::string::npos || !Widen(text, wide)) {
+        return "must be text without zero characters";
+    }
+    if (wide.size() > kLongestText) {
+        return "must have at most " + std::to_string(kLongestText) + " characters";
+    }
+    return std::count(wide.begin(), wide.end(), L'\n') <
+                   static_cast<std::ptrdiff_t>(kMostLines)
+               ? ""
+               : "must have at most " + std::to_string(kMostLines) + " lines";
+}
 
 std::string CheckValue(const Property& property, const PropertyValue& value) {
     switch (property.kind) {

@@ -79,11 +79,16 @@ struct Property {
 
 /// Characters of a text: a line of type that long is over a hundred metres.
 constexpr std::size_t kLongestText = 10'000;
+/// Lines of a text: as high as ten sheets of A0.
+constexpr std::size_t kMostLines = 1'000;
 /// Files of a list.
 constexpr std::size_t kMostRasters = 1'000;
 
 /// What is wrong with a value for a property, as the end of a sentence that begins with
 /// its name: "must be from 0 to 100". Empty when nothing is.
 std::string CheckValue(const Property& property, const PropertyValue& value);
+
+/// The same of a text alone.
+std::string CheckText(const std::string& text);
 
 }  // namespace host

@@ -1,15 +1,13 @@
 #include "page/document/raster_store.h"
 
-#include <sys/stat.h>
-
 #include <algorithm>
-#include <cerrno>
-#include <system_error>
 
+#include "map_surround/legend.h"
 #include "page/document/item_type.h"
 #include "page/document/json_text.h"
 #include "page/document/legend_sources.h"
 #include "page/document/page_format.h"
+#include "page/document/picture_file.h"
 #include "page/element_of.h"
 #include "page/layout/fit_to_map.h"
 #include "page/map/map_geometry.h"
@@ -20,9 +18,6 @@
 
 namespace host {
 namespace {
-
-// GDI+ reads no larger images.
-constexpr unsigned kLongestImageSide = 32767;
 
 constexpr const char* kRastersKey = "rasters";
 
@@ -180,30 +175,6 @@ void CheckFilesAndFonts(const Page& page) {
             }
         }
     }
-}
-
-std::string CheckImageFile(const std::string& path) {
-    struct stat status = {};
-    if (stat(path.c_str(), &status) != 0) {
-        return path + ": " + std::generic_category().message(errno);
-    }
-    if (S_ISDIR(status.st_mode)) {
-        return path + ": " + std::generic_category().message(EISDIR);
-    }
-    std::wstring wide;
-    Widen(path, wide);
-    Gdiplus::Image image(wide.c_str());
-    const unsigned width = image.GetWidth();
-    const unsigned height = image.GetHeight();
-    if (image.GetLastStatus() != Gdiplus::Ok || width == 0 || height == 0) {
-        return path + ": is no image that can be read";
-    }
-    if (width > kLongestImageSide || height > kLongestImageSide) {
-        return path + ": has " + std::to_string(width) + " x " + std::to_string(height) +
-               " pixels; at most " + std::to_string(kLongestImageSide) +
-               " a side are drawn";
-    }
-    return {};
 }
 
 }  // namespace host

@@ -62,7 +62,4 @@ void NameRasters(Page& page, const std::vector<std::string>& paths);
 /// not installed.
 void CheckFilesAndFonts(const Page& page);
 
-/// What is wrong with an image file for a picture; empty when nothing is.
-std::string CheckImageFile(const std::string& path);
-
 }  // namespace host

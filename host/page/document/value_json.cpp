@@ -6,6 +6,7 @@
 
 #include "page/colour_text.h"
 #include "page/document/page_error.h"
+#include "page/document/picture_file.h"
 #include "system/number_text.h"
 
 namespace host {
@@ -91,6 +92,28 @@ std::int32_t ChoiceFromJson(const Choices& choices, const json& value,
     return -1;
 }
 
+/// A file that may be read.
+std::string FileFromJson(const json& value, const FilePaths& paths,
+                         const std::string& place) {
+    std::string file = paths.FromFile(TextFromJson(value, place));
+    const std::string why = paths.WhyNot(file);
+    if (!why.empty()) {
+        throw PageError(place, file + " " + why);
+    }
+    return file;
+}
+
+/// One that may be opened without a look at it, which writing the property does.
+std::string PictureFromJson(const json& value, const FilePaths& paths,
+                            const std::string& place) {
+    std::string file = FileFromJson(value, paths, place);
+    const std::string why = WhyNotOpened(file);
+    if (!why.empty()) {
+        throw PageError(place, file + ": " + why);
+    }
+    return file;
+}
+
 std::vector<std::string> PathsFromJson(const json& value, const FilePaths& paths,
                                        const std::string& place) {
     if (!value.is_array()) {
@@ -98,8 +121,8 @@ std::vector<std::string> PathsFromJson(const json& value, const FilePaths& paths
     }
     std::vector<std::string> list;
     for (std::size_t i = 0; i < value.size(); ++i) {
-        list.push_back(paths.FromFile(
-            TextFromJson(value[i], place + "[" + std::to_string(i) + "]")));
+        list.push_back(
+            FileFromJson(value[i], paths, place + "[" + std::to_string(i) + "]"));
     }
     return list;
 }
@@ -128,7 +151,7 @@ PropertyValue Read(const Property& property, const json& value, const FilePaths&
         case PropertyKind::Font:
             return TextFromJson(value, place);
         case PropertyKind::File:
-            return paths.FromFile(TextFromJson(value, place));
+            return PictureFromJson(value, paths, place);
         case PropertyKind::Rasters:
             return PathsFromJson(value, paths, place);
         case PropertyKind::MapExtent:

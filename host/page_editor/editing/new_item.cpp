@@ -8,6 +8,7 @@
 
 #include "map_surround/map_surround.h"
 #include "page/document/map_on_page.h"
+#include "page/document/picture_file.h"
 #include "page/element_of.h"
 #include "page/layout/steps.h"
 #include "page_editor/editing/arrange.h"

@@ -19,7 +19,7 @@ std::wstring TitleFor(const std::string& path) {
 
 host::OpenedPage OpenPageFile(const std::string& path, const host::Progress& reading) {
     host::Naming(path, [&] { TryPageFile(path, reading); });
-    return host::OpenPageFile(path, {}, [&](const host::Page& page) {
+    return host::OpenPageFile(path, nullptr, {}, [&](const host::Page& page) {
         TryRastersOf(page.Items(), host::RasterStore(), reading);
     });
 }

@@ -10,6 +10,7 @@
 #include "page/document/item_type.h"
 #include "page/document/page_error.h"
 #include "page/document/page_format.h"
+#include "page/document/picture_file.h"
 #include "page/element_of.h"
 #include "page_editor/editing/arrange.h"
 #include "page_editor/editing/page_document.h"

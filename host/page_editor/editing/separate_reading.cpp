@@ -8,6 +8,7 @@
 #include "page/document/item_type.h"
 #include "page/document/page_error.h"
 #include "page/document/page_text.h"
+#include "page/document/picture_file.h"
 #include "page/map/map_layers.h"
 #include "system/separate_process.h"
 
