@@ -1,9 +1,11 @@
 #include "map_page/draw_page.h"
 
 #include <algorithm>
-#include <cstddef>
+#include <optional>
+#include <sstream>
 
 #include "map_page/error.h"
+#include "map_page/safe_drawing.h"
 #include "map_page/write_page.h"
 #include "page/document/map_on_page.h"
 #include "page/document/opened_page.h"
@@ -11,6 +13,7 @@
 #include "page/document/picture_file.h"
 #include "page/document/raster_store.h"
 #include "page/output/output_format.h"
+#include "page/output/page_output.h"
 #include "system/fonts.h"
 #include "system/one_line.h"
 
@@ -34,7 +37,9 @@ void CheckFont(const std::string& option, const std::string& family) {
 /// The page of the page file, or the automatic one around the rasters.
 host::OpenedPage Open(const Options& options) {
     if (!options.pageFile.empty()) {
-        return host::OpenPageFile(options.pageFile, nullptr, options.changes);
+        const std::optional<host::AllowedSources> allowed = AllowedBy(options);
+        return host::OpenPageFile(options.pageFile, allowed ? &*allowed : nullptr,
+                                  options.changes);
     }
     CheckFont("--title-font", options.titleFamily);
     CheckFont("--legend-font", options.legendFamily);
@@ -42,10 +47,10 @@ host::OpenedPage Open(const Options& options) {
     return host::LayOutRasters(options.rasters, options.design);
 }
 
-std::string Save(const Options& options, const host::Page& page) {
-    const std::size_t bytes = host::SavePageFile(page, options.save);
-    return host::OneLine(options.save) + ": " + std::to_string(page.Items().size()) +
-           " elements, " + std::to_string(bytes) + " bytes";
+std::string LineOf(const std::string& name, const host::OutputFile& file,
+                   const std::string& told) {
+    return host::OneLine(name) + ": " + told + ", " + std::to_string(file.Size()) +
+           " bytes";
 }
 
 /// Before the work, which may take minutes.
@@ -55,18 +60,27 @@ void CheckOutput(const Options& options) {
 
 }  // namespace
 
-std::string DrawPage(const Options& options, host::OutputFile* output,
+OutputFiles::OutputFiles(const Options& options) {
+    if (!options.output.empty()) {
+        host::Naming(options.output, [&] { output.emplace(options.output); });
+    }
+    if (!options.save.empty()) {
+        host::Naming(options.save, [&] { saved.emplace(options.save); });
+    }
+}
+
+std::string DrawPage(const Options& options, const OutputFiles& files,
                      const Quiet& quiet) {
-    if (output != nullptr) {
+    if (files.output) {
         CheckOutput(options);
     }
     const host::OpenedPage opened = Open(options);
     for (const std::string& remark : opened.remarks) {
         quiet.Warn(remark);
     }
-    std::string summary;
-    if (output != nullptr) {
-        summary = WriteInto(options, opened.page, *output, quiet);
+    std::string told;
+    if (files.output) {
+        told = WriteInto(options, opened.page, *files.output, quiet) + "\n";
         // A map without data is known when it has been drawn.
         for (const std::string& remark : host::RemarksOfMaps(opened.page)) {
             if (std::find(opened.remarks.begin(), opened.remarks.end(), remark) ==
@@ -75,16 +89,46 @@ std::string DrawPage(const Options& options, host::OutputFile* output,
             }
         }
     }
-    if (!options.save.empty()) {
-        summary += (summary.empty() ? "" : "\n") + Save(options, opened.page);
+    if (files.saved) {
+        files.saved->Write(host::PageFileBytes(opened.page, options.save));
+        told += std::to_string(opened.page.Items().size()) + " elements\n";
+    }
+    for (const auto* const file : {&files.output, &files.saved}) {
+        if (*file && !(*file)->Remark().empty()) {
+            quiet.Warn((*file)->Remark());
+        }
+    }
+    return told;
+}
+
+std::string Finish(const Options& options, OutputFiles& files, const std::string& told) {
+    std::istringstream lines(told);
+    std::string line;
+    std::string summary;
+    if (files.output) {
+        host::FinishOutput(*files.output, options.output, *options.format, {},
+                           options.limits);
+        std::getline(lines, line);
+        summary = LineOf(options.output, *files.output, line);
+    }
+    if (files.saved) {
+        std::getline(lines, line);
+        summary +=
+            (summary.empty() ? "" : "\n") + LineOf(options.save, *files.saved, line);
+        host::Naming(options.save, [&] { files.saved->Commit(); });
+    }
+    if (files.output) {
+        host::Naming(options.output, [&] { files.output->Commit(); });
     }
     return summary;
 }
 
 void CheckSeries(const Options& options, const std::vector<std::string>& columns) {
     CheckOutput(options);
-    const host::Page page =
-        host::Naming(options.pageFile, [&] { return host::LoadPage(options.pageFile); });
+    const std::optional<host::AllowedSources> allowed = AllowedBy(options);
+    const host::Page page = host::Naming(options.pageFile, [&] {
+        return host::LoadPage(options.pageFile, allowed ? &*allowed : nullptr);
+    });
     for (const std::string& column : columns) {
         if (!host::HasText(page, column)) {
             throw Error(options.series,

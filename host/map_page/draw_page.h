@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -9,12 +10,25 @@
 
 namespace map_page {
 
-/// Draws the page that the options ask for into the file, when there is one, saves it as
-/// a page file when they ask for that, and returns the lines that say where both will be
-/// once the file is committed. Throws Error, and std::bad_alloc when the memory does not
-/// suffice. GDI+ must have been started.
-std::string DrawPage(const Options& options, host::OutputFile* output,
+/// The files that the options ask for, begun.
+struct OutputFiles {
+    explicit OutputFiles(const Options& options);
+
+    std::optional<host::OutputFile> output;
+    std::optional<host::OutputFile> saved;
+};
+
+/// Draws the page that the options ask for into the one file and saves it in the other,
+/// and returns what a person is told of each, on a line of its own: "1754 x 1240 pixels",
+/// "6 elements". Throws Error, and std::bad_alloc when the memory does not suffice. GDI+
+/// must have been started.
+std::string DrawPage(const Options& options, const OutputFiles& files,
                      const Quiet& quiet);
+
+/// Finishes the files that were drawn into and gives them their names.
+/// @param told what DrawPage returned
+/// @return the lines that say where they are
+std::string Finish(const Options& options, OutputFiles& files, const std::string& told);
 
 /// Throws Error for outputs that cannot be made here, and for the first of the columns
 /// that names no element with a text in the page file. GDI+ must have been started.

@@ -13,6 +13,7 @@
 #include "map_page/options.h"
 #include "map_page/progress_line.h"
 #include "map_page/quiet.h"
+#include "map_page/safe_drawing.h"
 #include "map_page/series.h"
 #include "system/errors.h"
 #include "system/gdiplus_session.h"
@@ -35,20 +36,16 @@ int Fail(int status, const std::exception& error) {
 /// Whatever reads rasters and pictures and draws them is in the separate process; here is
 /// only what speaks to people and what gives the output its name.
 std::string DrawSeparately(const map_page::Options& options, const std::string& place) {
-    std::optional<host::OutputFile> output;
-    if (!options.output.empty()) {
-        output.emplace(options.output);
-    }
-    std::string summary = host::InSeparateProcess("drawing", [&](const host::Progress&) {
+    map_page::OutputFiles files(options);
+    const auto draw = [&](const host::Progress&) {
         const map_page::Quiet quiet(place);
         CPLSetErrorHandler(CPLQuietErrorHandler);
         const host::GdiplusSession session;
-        return map_page::DrawPage(options, output ? &*output : nullptr, quiet);
-    });
-    if (output) {
-        output->Commit();
-    }
-    return summary;
+        map_page::Confine(options);
+        return map_page::DrawPage(options, files, quiet);
+    };
+    return map_page::Finish(options, files,
+                            host::InSeparateProcess("drawing", draw, {}, options.limits));
 }
 
 std::string DrawOne(const map_page::Options& options, const std::string& place) {
@@ -59,12 +56,14 @@ std::string DrawOne(const map_page::Options& options, const std::string& place) 
 /// A page file may name pictures, and those are read.
 void CheckColumns(const map_page::Options& options,
                   const std::vector<std::string>& columns) {
-    host::InSeparateProcess("drawing", [&](const host::Progress&) {
+    const auto check = [&](const host::Progress&) {
         const map_page::Quiet quiet;
         const host::GdiplusSession session;
+        map_page::Confine(options);
         map_page::CheckSeries(options, columns);
         return std::string();
-    });
+    };
+    host::InSeparateProcess("drawing", check, {}, options.limits);
 }
 
 std::string Draw(const map_page::Options& options) {

@@ -19,6 +19,7 @@
 #include "page/colour_text.h"
 #include "page/document/opened_page.h"
 #include "page/document/schema.h"
+#include "system/confinement.h"
 
 namespace map_page {
 namespace {
@@ -34,9 +35,13 @@ coordinate system. The map spans all of them. A raster that has another coordina
 or no georeference is left off the map, with a warning.
 
 A single name that ends in .json is a page file: drawn as it says, and with no other
-options than --output and --dpi, and --stretch, --bands and --nodata for its maps. --save
-writes one, of the page that would be drawn, to be changed by hand; docs/page_file.md tells
-what it says.
+options than --output and --dpi, --stretch, --bands and --nodata for its maps, and those of
+safety. --save writes one, of the page that would be drawn, to be changed by hand;
+docs/page_file.md tells what it says.
+
+A page file may be another's. So it, and the list of a series, may have plain files read
+that lie below their folders, and nothing is written but the output; what follows from
+that, and what --allow-outside, --allow-remote and --allow-all change, is there as well.
 
 A series draws one page for each row of a list of comma-separated values. Its first row
 names the columns: rasters (files with ; between), extent (left bottom right top),
@@ -117,9 +122,41 @@ void DeclareLegend(CLI::App& app, Given& given) {
     app.add_flag("--no-legend", given.noLegend, "Leave the legend out")->group("Legend");
 }
 
+void DeclareSafety(CLI::App& app, Options& options) {
+    app.add_option(
+           "--allow-outside", options.allowedFolders,
+           "A page file may have this file, or those below this folder, read, too")
+        ->check(CLI::ExistingPath)
+        ->expected(1)
+        ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll)
+        ->type_name("PATH")
+        ->group("Safety");
+    app.add_flag("--allow-remote", options.allowRemote,
+                 "It may name services, and files on the network")
+        ->group("Safety");
+    app.add_flag("--allow-all", options.allowAll,
+                 "It may name whatever GDAL opens, as if on the command line")
+        ->group("Safety");
+    app.add_option("--limit-memory", options.limits.megabytes,
+                   "Memory that a page may take (all there is)")
+        ->check(CLI::Range(1U, 1'048'576U, "1 to 1048576"))
+        ->type_name("MB")
+        ->group("Safety");
+    app.add_option("--limit-time", options.limits.seconds,
+                   "Time that a page may take (as long as it takes)")
+        ->check(CLI::Range(1U, 1'000'000U, "1 to 1000000"))
+        ->type_name("SECONDS")
+        ->group("Safety");
+}
+
+std::string Version() {
+    return "map_page " MAP_SURROUND_VERSION_STRING
+           "\nThe process that draws a page file: " +
+           host::ConfinementHere();
+}
+
 void Declare(CLI::App& app, Given& given, Options& options) {
-    app.set_version_flag("--version", "map_page " MAP_SURROUND_VERSION_STRING,
-                         "Print the version and exit");
+    app.set_version_flag("--version", Version, "Print the version and exit");
     app.set_help_flag("-h,--help", "Print this help and exit");
     app.add_flag_callback(
         "--schema",
@@ -163,6 +200,7 @@ void Declare(CLI::App& app, Given& given, Options& options) {
     DeclareMap(app, options);
     DeclareScaleBar(app, options);
     DeclareNorthArrow(app, options);
+    DeclareSafety(app, options);
 
     app.add_option("--size", given.size,
                    "A0 to A6, B0 to B5, Letter, Legal, Tabloid, or millimetres as "
@@ -191,9 +229,14 @@ bool IsOfPageFile(const Given& given) {
 }
 
 /// The options that go with a page file, which says the rest itself.
-constexpr std::string_view kWithPageFile[] = {"RASTER",   "--output", "--dpi",
-                                              "--series", "--jobs",   "--stretch",
-                                              "--bands",  "--nodata"};
+constexpr std::string_view kWithPageFile[] = {
+    "RASTER",      "--output",       "--dpi",       "--series",        "--jobs",
+    "--stretch",   "--bands",        "--nodata",    "--allow-outside", "--allow-remote",
+    "--allow-all", "--limit-memory", "--limit-time"};
+
+/// Those that go with nothing else.
+constexpr const char* kOnlyWithPageFile[] = {"--series", "--allow-outside",
+                                             "--allow-remote", "--allow-all"};
 
 void CheckCall(const CLI::App& app, const Given& given, const Options& options) {
     if (options.output.empty() && options.save.empty()) {
@@ -203,8 +246,10 @@ void CheckCall(const CLI::App& app, const Given& given, const Options& options) 
         throw UsageError(options.save, "does not end in .json");
     }
     if (!IsOfPageFile(given)) {
-        if (!options.series.empty()) {
-            throw UsageError("--series", "goes with a page file only");
+        for (const char* const name : kOnlyWithPageFile) {
+            if (app.get_option(name)->count() > 0) {
+                throw UsageError(name, "goes with a page file only");
+            }
         }
         return;
     }

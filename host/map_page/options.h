@@ -8,6 +8,7 @@
 #include "page/document/page_changes.h"
 #include "page/layout/page_design.h"
 #include "page/output/output_format.h"
+#include "system/separate_process.h"
 
 namespace map_page {
 
@@ -23,6 +24,10 @@ struct Options {
     host::PageChanges changes;  ///< of the page file's page
     double dpi = 150.0;
     host::PageDesign design;
+    std::vector<std::string> allowedFolders;  ///< files may be read there, too
+    bool allowRemote = false;                 ///< a page file may name services
+    bool allowAll = false;    ///< a page file may name whatever the caller may
+    host::WorkLimits limits;  ///< of the process that draws
     std::string picture;      ///< as given; design.picture holds it as wide text
     std::string titleFamily;  ///< likewise
     std::string legendFamily;

@@ -12,11 +12,13 @@
 #include <exception>
 #include <iterator>
 #include <map>
+#include <optional>
 #include <system_error>
 #include <vector>
 
 #include "map_page/error.h"
 #include "map_page/progress_line.h"
+#include "map_page/safe_drawing.h"
 #include "map_page/series_list.h"
 #include "system/child_process.h"
 #include "system/errors.h"
@@ -156,7 +158,9 @@ std::vector<std::string> ColumnsWithoutUse(const SeriesList& list) {
 
 std::string DrawSeries(const Options& options, const CheckColumns& checkColumns,
                        const DrawOne& draw) {
-    const SeriesList list = ReadSeries(options.series, options.output);
+    const std::optional<host::AllowedSources> allowed = AllowedBy(options);
+    const SeriesList list =
+        ReadSeries(options.series, options.output, allowed ? &*allowed : nullptr);
     checkColumns(ColumnsWithoutUse(list));
     Workers workers(options, list.pages.size(), draw);
     for (const SeriesPage& page : list.pages) {

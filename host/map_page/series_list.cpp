@@ -105,6 +105,10 @@ std::vector<std::string> RastersIn(const std::string& text,
             throw Error(kRastersColumn, "has an empty name");
         }
         rasters.push_back(paths.FromFile(text.substr(at, end - at)));
+        const std::string why = paths.WhyNot(rasters.back());
+        if (!why.empty()) {
+            throw Error(kRastersColumn, rasters.back() + " " + why);
+        }
         at = end + 1;
     }
     return rasters;
@@ -201,7 +205,8 @@ SeriesPage PageOf(const CsvRecord& record, const std::vector<std::string>& colum
     return page;
 }
 
-SeriesList Read(const std::string& path, const std::string& output) {
+SeriesList Read(const std::string& path, const std::string& output,
+                const host::AllowedSources* allowed) {
     const std::vector<CsvRecord> records = ReadCsv(host::ReadFile(path, kMostBytes));
     if (records.empty()) {
         throw Error("has no first row with the names of columns");
@@ -210,7 +215,7 @@ SeriesList Read(const std::string& path, const std::string& output) {
     SeriesList list;
     list.textColumns = TextColumnsOf(columns);
     const std::vector<NamePiece> pieces = PiecesOf(output, columns);
-    const host::FilePaths paths(path);
+    const host::FilePaths paths(path, allowed);
     for (std::size_t i = 1; i < records.size(); ++i) {
         list.pages.push_back(PageOf(records[i], columns, list, pieces, paths));
     }
@@ -226,9 +231,10 @@ SeriesList Read(const std::string& path, const std::string& output) {
 
 }  // namespace
 
-SeriesList ReadSeries(const std::string& path, const std::string& output) {
+SeriesList ReadSeries(const std::string& path, const std::string& output,
+                      const host::AllowedSources* allowed) {
     try {
-        return Read(path, output);
+        return Read(path, output, allowed);
     } catch (const std::runtime_error& error) {
         throw Error(path, error.what());
     }

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "page/document/page_changes.h"
+#include "system/allowed_sources.h"
 
 namespace map_page {
 
@@ -31,8 +32,10 @@ struct SeriesList {
 /// @param output name of the outputs, in which {column} is the row's value. Slashes and
 /// control characters in a value, and a dot at its start, become underscores, so that no
 /// value leads into another folder.
-/// Throws Error when the file is not a list, a column has no name or another's, a
+/// @param allowed what may be read of the rasters; null: all. A row with others has an
+/// error Throws Error when the file is not a list, a column has no name or another's, a
 /// placeholder names no column, or two rows have the same output.
-SeriesList ReadSeries(const std::string& path, const std::string& output);
+SeriesList ReadSeries(const std::string& path, const std::string& output,
+                      const host::AllowedSources* allowed);
 
 }  // namespace map_page

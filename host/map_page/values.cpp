@@ -4,6 +4,7 @@
 
 #include "map_page/error.h"
 #include "page/colour_text.h"
+#include "page/document/property.h"
 #include "system/number_text.h"
 #include "system/utf8.h"
 
@@ -77,6 +78,10 @@ std::wstring ReadText(const std::string& option, const std::string& text) {
     std::wstring wide;
     if (!host::Widen(text, wide)) {
         throw UsageError(option, "is not valid UTF-8");
+    }
+    const std::string why = host::CheckText(text);
+    if (!why.empty()) {
+        throw UsageError(option, why);
     }
     return wide;
 }

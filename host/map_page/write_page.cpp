@@ -31,9 +31,8 @@ std::string Measured(const host::Page& page, const Options& options) {
 }  // namespace
 
 std::string WriteInto(const Options& options, const host::Page& page,
-                      host::OutputFile& output, const Quiet& quiet) {
+                      const host::OutputFile& output, const Quiet& quiet) {
     host::Naming("--dpi", [&] { host::CheckPageSize(page, options.dpi); });
-    std::vector<std::uint8_t> bytes;
     host::Naming(options.output, [&] {
         // Of a series, the pages that are done are shown.
         ProgressLine line(options.series.empty() ? quiet.Voice() : -1);
@@ -42,13 +41,13 @@ std::string WriteInto(const Options& options, const host::Page& page,
             line.Show(part);
             return true;
         };
-        bytes = host::EncodePage(page, *options.format, options.dpi, show,
-                                 [&line] { line.Begin("encoding the image"); });
+        const std::vector<std::uint8_t> bytes =
+            host::EncodePage(page, *options.format, options.dpi, show,
+                             [&line] { line.Begin("encoding the image"); });
         line.Begin("writing the file");
         output.Write(bytes);
     });
-    return host::OneLine(options.output) + ": " + Measured(page, options) + ", " +
-           std::to_string(bytes.size()) + " bytes";
+    return Measured(page, options);
 }
 
 }  // namespace map_page

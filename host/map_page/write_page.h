@@ -9,9 +9,9 @@
 
 namespace map_page {
 
-/// Draws the page into the file that the options name, and returns the line that says
-/// where it will be once the file is committed. Throws as DrawPage does.
+/// Draws the page into the file that the options name, and returns how large it is:
+/// "1754 x 1240 pixels". Throws as DrawPage does.
 std::string WriteInto(const Options& options, const host::Page& page,
-                      host::OutputFile& output, const Quiet& quiet);
+                      const host::OutputFile& output, const Quiet& quiet);
 
 }  // namespace map_page

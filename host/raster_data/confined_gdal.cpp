@@ -3,6 +3,7 @@
 #include <cpl_conv.h>
 #include <cpl_vsi_virtual.h>
 #include <gdal_priv.h>
+#include <ogr_srs_api.h>
 
 #include <algorithm>
 #include <cerrno>
@@ -147,12 +148,38 @@ void ConfineDrivers() {
 void ConfineGdal(const AllowedSources& allowed) {
     StartGdal();
     Current() = Confinement{allowed, {}};
-    // Its own tables of coordinate systems and the like.
-    if (const char* const table = CPLFindFile("gdal", "gdalvrt.xsd")) {
-        Current()->allowed.Allow(CPLGetDirname(table));
+    for (const std::string& place : GdalPlaces()) {
+        Current()->allowed.Allow(place);
     }
     ConfineDrivers();
     ConfineFilesystems();
+}
+
+bool IsPlainRaster(const std::string& raster) {
+    StartGdal();
+    const QuietGdal quiet;
+    std::error_code ignored;
+    CPLStringList drivers;
+    for (const std::string_view name : kFileDrivers) {
+        if (name != "VRT") {
+            drivers.AddString(std::string(name).c_str());
+        }
+    }
+    return std::filesystem::is_regular_file(raster, ignored) &&
+           GDALIdentifyDriverEx(raster.c_str(), GDAL_OF_RASTER, drivers.List(),
+                                nullptr) != nullptr;
+}
+
+std::vector<std::string> GdalPlaces() {
+    std::vector<std::string> places;
+    if (const char* const table = CPLFindFile("gdal", "gdalvrt.xsd")) {
+        places.emplace_back(CPLGetDirname(table));
+    }
+    const CPLStringList folders(OSRGetPROJSearchPaths());
+    for (int i = 0; i < folders.size(); ++i) {
+        places.emplace_back(folders[i]);
+    }
+    return places;
 }
 
 bool IsGdalConfined() { return Current().has_value(); }

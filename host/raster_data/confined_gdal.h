@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "system/allowed_sources.h"
 
@@ -14,6 +15,13 @@ namespace host {
 void ConfineGdal(const AllowedSources& allowed);
 
 bool IsGdalConfined();
+
+/// Whether a raster is a plain file of a kind that ConfineGdal leaves to read, and no
+/// VRT.
+bool IsPlainRaster(const std::string& raster);
+
+/// The folders of GDAL's own tables, and of those about coordinate systems.
+std::vector<std::string> GdalPlaces();
 
 /// Why a raster may not be opened under that confinement, in a few words without its
 /// name; empty when it may, and where nothing is confined.

@@ -39,6 +39,10 @@ std::string Hint(const std::string& option, const std::string& value) {
 
 AllowedSources::AllowedSources(const std::string& file, Options options)
     : m_options(std::move(options)) {
+    AllowFolderOf(file);
+}
+
+void AllowedSources::AllowFolderOf(const std::string& file) {
     const fs::path folder = fs::path(file).parent_path();
     Allow(folder.empty() ? "." : folder.string());
 }

@@ -22,6 +22,9 @@ public:
     /// Files below the folder of a file, "page.json" or "maps/page.json".
     explicit AllowedSources(const std::string& file, Options options = {});
 
+    /// Files below the folder of another file.
+    void AllowFolderOf(const std::string& file);
+
     /// A folder with all below it, or one file. What is not there allows nothing.
     void Allow(const std::string& path);
     void AllowNetwork() { m_isNetworkAllowed = true; }

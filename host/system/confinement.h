@@ -12,6 +12,9 @@ struct Kept {
     /// whatever it may open now.
     std::optional<std::vector<std::string>> readable;
     bool network = false;  ///< whether it may still connect to anything
+    /// Whether it may still make files without a name in /tmp, with tmpfile(): Cairo does
+    /// for PostScript. Where /tmp has no such files, files are not taken at all.
+    bool temporaryFiles = false;
 };
 
 /// Takes from this process and its children, for good, what reading and drawing do not

@@ -65,4 +65,20 @@ bool IsFontFamilyKnown(const std::string& family) {
     return false;
 }
 
+std::vector<std::string> FontPlaces() {
+    std::vector<std::string> places;
+    FcConfig* const fonts = FcInit() == FcFalse ? nullptr : FcConfigGetCurrent();
+    for (FcStrList* const list : {FcConfigGetFontDirs(fonts), FcConfigGetCacheDirs(fonts),
+                                  FcConfigGetConfigFiles(fonts)}) {
+        while (const FcChar8* const place =
+                   list == nullptr ? nullptr : FcStrListNext(list)) {
+            places.emplace_back(reinterpret_cast<const char*>(place));
+        }
+        if (list != nullptr) {
+            FcStrListDone(list);
+        }
+    }
+    return places;
+}
+
 }  // namespace host

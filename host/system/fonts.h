@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 namespace host {
 
@@ -9,5 +10,9 @@ namespace host {
 /// without a word. Generic names (sans-serif, serif, monospace) are known.
 /// @param family UTF-8
 bool IsFontFamilyKnown(const std::string& family);
+
+/// The folders of the fonts, of what is known about them, and of how they are configured;
+/// all that is read of the configuration has been read then.
+std::vector<std::string> FontPlaces();
 
 }  // namespace host

@@ -174,6 +174,14 @@ std::vector<std::uint8_t> OutputFile::Bytes() const {
     return bytes;
 }
 
+std::size_t OutputFile::Size() const {
+    struct stat status = {};
+    if (fstat(m_descriptor, &status) != 0) {
+        Fail(errno);
+    }
+    return static_cast<std::size_t>(status.st_size);
+}
+
 void OutputFile::Replace(const std::vector<std::uint8_t>& bytes) const {
     if (ftruncate(m_descriptor, 0) != 0 || lseek(m_descriptor, 0, SEEK_SET) != 0) {
         Fail(errno);

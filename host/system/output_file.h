@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -29,6 +30,9 @@ public:
 
     /// The bytes written so far. Throws likewise.
     std::vector<std::uint8_t> Bytes() const;
+
+    /// How many they are. Throws likewise.
+    std::size_t Size() const;
 
     /// Writes others in their place. Throws likewise.
     void Replace(const std::vector<std::uint8_t>& bytes) const;

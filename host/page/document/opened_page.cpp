@@ -61,13 +61,18 @@ OpenedPage LayOutRasters(const std::vector<std::string>& paths,
     return {std::move(rasters), std::move(laidOut.page), std::move(remarks)};
 }
 
-std::size_t SavePageFile(const Page& page, const std::string& path) {
-    return Naming(path, [&] {
+std::vector<std::uint8_t> PageFileBytes(const Page& page, const std::string& path) {
+    return Naming(path, [&]() -> std::vector<std::uint8_t> {
         const std::string text = WritePage(page, FilePaths(path));
+        return {text.begin(), text.end()};
+    });
+}
+
+void SavePageFile(const Page& page, const std::string& path) {
+    Naming(path, [&] {
         OutputFile file(path);
-        file.Write({text.begin(), text.end()});
+        file.Write(PageFileBytes(page, path));
         file.Commit();
-        return text.size();
     });
 }
 

@@ -3,7 +3,7 @@
 // Opens and saves whole pages, for every program. Errors are std::runtime_error, in one
 // line that begins with the file's name. GDI+ must have been started.
 
-#include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <string>
@@ -26,8 +26,8 @@ struct OpenedPage {
 
 /// Opens a page file: checks its pictures and fonts, makes the changes, opens the rasters
 /// and fits scale bars and north arrows to the maps.
-/// @param allowed what may be read of the files that it names; null: all. What rasters lead
-/// to in turn is not looked at here: see ConfineGdal.
+/// @param allowed what may be read of the files that it names; null: all. What rasters
+/// lead to in turn is not looked at here: see ConfineGdal.
 /// @param beforeRasters called with the page before its rasters are opened; may throw
 OpenedPage OpenPageFile(const std::string& path, const AllowedSources* allowed,
                         const PageChanges& changes = {},
@@ -36,9 +36,11 @@ OpenedPage OpenPageFile(const std::string& path, const AllowedSources* allowed,
 /// Lays a page out by itself around at least one raster.
 OpenedPage LayOutRasters(const std::vector<std::string>& paths, const PageDesign& design);
 
+/// The text of a page file as bytes. Throws NamedError with the file's name.
+std::vector<std::uint8_t> PageFileBytes(const Page& page, const std::string& path);
+
 /// Saves a page file; on failure an older file of that name is left alone.
-/// @return its size in bytes
-std::size_t SavePageFile(const Page& page, const std::string& path);
+void SavePageFile(const Page& page, const std::string& path);
 
 /// Whether a file's name is that of a page file and not of a raster: it ends in .json, in
 /// any case.

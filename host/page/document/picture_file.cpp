@@ -19,13 +19,12 @@ constexpr std::int64_t kLongestSide = 32767;
 constexpr std::int64_t kMostPixels = 100'000'000;
 
 std::string WhyTooLarge(const ImageSize& size) {
-    if (size.width <= kLongestSide && size.height <= kLongestSide &&
-        size.width * size.height <= kMostPixels) {
-        return {};
+    const std::string has = "has " + std::to_string(size.width) + " x " +
+                            std::to_string(size.height) + " pixels; at most ";
+    if (size.width > kLongestSide || size.height > kLongestSide) {
+        return has + std::to_string(kLongestSide) + " a side are drawn";
     }
-    return "has " + std::to_string(size.width) + " x " + std::to_string(size.height) +
-           " pixels; at most " + std::to_string(kLongestSide) +
-           " a side and 100 million are drawn";
+    return size.width * size.height > kMostPixels ? has + "100 million are drawn" : "";
 }
 
 }  // namespace

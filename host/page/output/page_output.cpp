@@ -9,6 +9,7 @@
 #include "page/output/page_image.h"
 #include "page/output/pdf_file.h"
 #include "page/output/postscript_file.h"
+#include "system/errors.h"
 
 namespace host {
 namespace {
@@ -16,12 +17,6 @@ namespace {
 // libgdiplus draws on surfaces of at most 32767 pixels a side.
 constexpr int kLongestSide = 32767;
 constexpr std::int64_t kMostPixels = 250'000'000;
-
-std::vector<std::uint8_t> EncodeForPrint(const Page& page, OutputFormat format,
-                                         double dpi, const Progress& progress) {
-    std::vector<std::uint8_t> file = EncodePostScript(page, dpi, progress);
-    return format == OutputFormat::Pdf ? PdfFromPostScript(file) : file;
-}
 
 }  // namespace
 
@@ -40,7 +35,7 @@ std::vector<std::uint8_t> EncodePage(const Page& page, OutputFormat format, doub
                                      const Progress& progress,
                                      const std::function<void()>& encoding) {
     if (IsForPrint(format)) {
-        return EncodeForPrint(page, format, dpi, progress);
+        return EncodePostScript(page, dpi, progress);
     }
     PageImage image(PixelSize(page, dpi));
     {
@@ -51,6 +46,18 @@ std::vector<std::uint8_t> EncodePage(const Page& page, OutputFormat format, doub
         encoding();
     }
     return Encode(image, format, dpi);
+}
+
+void FinishOutput(const OutputFile& file, const std::string& name, OutputFormat format,
+                  const Progress& progress, const WorkLimits& limits) {
+    if (format != OutputFormat::Pdf) {
+        return;
+    }
+    const auto make = [&](const Progress&) {
+        Naming(name, [&] { file.Replace(PdfFromPostScript(file.Bytes())); });
+        return std::string();
+    };
+    Naming(name, [&] { InSeparateProcess("making the PDF", make, progress, limits); });
 }
 
 }  // namespace host

@@ -41,6 +41,7 @@ void ExportPage(const host::Page& page, const std::string& path, double dpi,
                 return host::Naming(path, [&] { return draw(tell); });
             },
             progress);
+        host::FinishOutput(file, path, format, progress);
         file.Commit();
     });
 }

@@ -1,9 +1,10 @@
 #include <gtest/gtest.h>
 #include <sys/prctl.h>
 #include <sys/resource.h>
-#include <sys/stat.h>
 #include <sys/wait.h>
+#include <unistd.h>
 
+#include <array>
 #include <csignal>
 #include <cstdlib>
 #include <fstream>
@@ -19,13 +20,20 @@ namespace {
 using host_tests::Result;
 using host_tests::RunningMapPage;
 
-/// A page whose picture is a pipe that nobody writes to: map_page draws it until it is
-/// ended from outside, as a decoder that crashes would end it.
+/// Has the program's input be a pipe that nobody writes to.
+void GiveEndlessInput() {
+    std::array<int, 2> ends{};
+    if (pipe(ends.data()) == 0) {
+        dup2(ends[0], STDIN_FILENO);  // and the other end stays open
+    }
+}
+
+/// A page whose raster is an input that never ends: map_page reads it until it is ended
+/// from outside, as a decoder that crashes would end it.
 class MapPageThatEndsEarly : public ::testing::Test {
 protected:
     MapPageThatEndsEarly() {
         WriteScene(folder.Path("scene.tif"), 120, 120);
-        mkfifo(folder.Path("endless.png").c_str(), 0600);
         std::ofstream(folder.Path("page.png")) << "what was here before";
         names = folder.Names();
     }
@@ -36,8 +44,7 @@ protected:
     }
 
     ScratchFolder folder;
-    const std::vector<std::string> endless = {"scene.tif", "-o", "page.png", "--picture",
-                                              "endless.png"};
+    const std::vector<std::string> endless = {"/vsistdin/", "-o", "page.png"};
     std::vector<std::string> names;
 };
 
@@ -52,6 +59,7 @@ TEST_F(MapPageThatEndsEarly, SaysWhatTheDrawingDiedOf) {
         // AddressSanitizer would otherwise take the signal and exit.
         const RunningMapPage running(folder, endless, [] {
             setenv("ASAN_OPTIONS", "handle_segv=0:handle_sigfpe=0", 1);
+            GiveEndlessInput();
         });
         const pid_t drawing = running.DrawingProcess();
         ASSERT_GT(drawing, 0);
@@ -67,7 +75,7 @@ TEST_F(MapPageThatEndsEarly, TakesTheDrawingWithIt) {
     // So that the orphan is told to this process.
     ASSERT_EQ(prctl(PR_SET_CHILD_SUBREAPER, 1), 0);
     for (const int signal : {SIGINT, SIGTERM, SIGHUP, SIGKILL}) {
-        const RunningMapPage running(folder, endless);
+        const RunningMapPage running(folder, endless, GiveEndlessInput);
         const pid_t drawing = running.DrawingProcess();
         ASSERT_GT(drawing, 0);
         kill(running.Process(), signal);

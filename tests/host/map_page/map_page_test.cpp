@@ -10,6 +10,7 @@
 #include "page/made_raster.h"
 #include "png_encoder.h"
 #include "scratch_folder.h"
+#include "system/confinement.h"
 
 namespace {
 
@@ -253,7 +254,9 @@ TEST_F(MapPage, TellsItsOptionsAndItsVersion) {
     }
     const Result version = Draw({"--version"});
     EXPECT_EQ(version.status, 0);
-    EXPECT_EQ(version.out, "map_page " MAP_PAGE_VERSION "\n");
+    EXPECT_EQ(version.out, "map_page " MAP_PAGE_VERSION
+                           "\nThe process that draws a page file: " +
+                               host::ConfinementHere() + "\n");
 }
 
 // The real rasters, where a folder with them is named.

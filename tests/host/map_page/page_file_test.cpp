@@ -55,7 +55,8 @@ TEST_F(PageFile, DrawsThePixelsOfThePageThatWasSaved) {
             const Result drawn = Run(arguments);
             ASSERT_EQ(drawn.status, 0) << drawn.err;
             const Result again =
-                Run({"pages/page.json", "-o", "again.png", "--dpi", dpi});
+                Run({"pages/page.json", "-o", "again.png", "--dpi", dpi,
+                     "--allow-outside", "data", "--allow-outside", "logo.png"});
             ASSERT_EQ(again.status, 0) << again.err;
             EXPECT_EQ(again.err, "");
             EXPECT_TRUE(ContentsOf(folder.Path("drawn.png")) ==

@@ -1,0 +1,68 @@
+#include "map_page/safe_drawing.h"
+
+#include <algorithm>
+#include <iterator>
+#include <string>
+#include <vector>
+
+#include "page/output/output_format.h"
+#include "raster_data/confined_gdal.h"
+#include "system/confinement.h"
+#include "system/fonts.h"
+
+namespace map_page {
+namespace {
+
+// Of what libraries load when they first need it.
+constexpr const char* kSystemPlaces[] = {"/usr", "/lib", "/lib64", "/etc/ld.so.cache",
+                                         "/etc/localtime"};
+
+std::vector<std::string> Readable(const Options& options,
+                                  const host::AllowedSources& allowed) {
+    std::vector<std::string> places(std::begin(kSystemPlaces), std::end(kSystemPlaces));
+    for (const std::vector<std::string>& more :
+         {allowed.Places(), host::FontPlaces(), host::GdalPlaces(), {options.pageFile}}) {
+        places.insert(places.end(), more.begin(), more.end());
+    }
+    return places;
+}
+
+}  // namespace
+
+std::optional<host::AllowedSources> AllowedBy(const Options& options) {
+    if (options.pageFile.empty() || options.allowAll) {
+        return std::nullopt;
+    }
+    host::AllowedSources allowed(options.pageFile,
+                                 {"--allow-outside", "--allow-remote", "--allow-all"});
+    if (!options.series.empty()) {
+        allowed.AllowFolderOf(options.series);
+    }
+    for (const std::string& folder : options.allowedFolders) {
+        allowed.Allow(folder);
+    }
+    if (options.allowRemote) {
+        allowed.AllowNetwork();
+    }
+    return allowed;
+}
+
+void Confine(const Options& options) {
+    const std::optional<host::AllowedSources> allowed = AllowedBy(options);
+    host::Kept kept;
+    kept.temporaryFiles = options.format && host::IsForPrint(*options.format);
+    if (allowed) {
+        host::ConfineGdal(*allowed);
+        kept.network = allowed->IsNetworkAllowed();
+        if (!kept.network) {
+            kept.readable = Readable(options, *allowed);
+        }
+    } else if (options.allowAll ||
+               !std::all_of(options.rasters.begin(), options.rasters.end(),
+                            host::IsPlainRaster)) {
+        return;
+    }
+    host::Confine(kept);
+}
+
+}  // namespace map_page
