@@ -185,7 +185,7 @@ GpStatus GdipBitmapGetPixel(GpBitmap* bitmap, INT x, INT y, ARGB* color) {
 
 GpStatus GdipBitmapSetPixel(GpBitmap* bitmap, INT x, INT y, ARGB color) {
     if (bitmap == nullptr || !engine::IsWithin(*From(bitmap), x, y) ||
-        IsIndexedPixelFormat(From(bitmap)->format)) {
+        IsIndexedPixelFormat(From(bitmap)->format) != 0) {
         return InvalidParameter;
     }
     engine::Pixels& pixels = *From(bitmap)->pixels;

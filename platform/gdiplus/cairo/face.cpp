@@ -23,7 +23,7 @@ struct FreeType {
 
 FreeType& TheFreeType() {
     // Never destroyed: Cairo may let go of a last face after everything else has ended.
-    static FreeType* const freeType = new FreeType;
+    static auto* const freeType = new FreeType;
     return *freeType;
 }
 
@@ -58,7 +58,7 @@ void Close(void* face) {
 }
 
 cairo_font_face_t* CairoFace(const FaceFile& file) {
-    const FT_Face face = Open(file);
+    FT_FaceRec_* const face = Open(file);
     if (face == nullptr) {
         return cairo_toy_font_face_create("", CAIRO_FONT_SLANT_NORMAL,
                                           CAIRO_FONT_WEIGHT_NORMAL);
@@ -145,7 +145,8 @@ SizedFace::SizedFace(std::shared_ptr<Face> of, double emSize, bool fitToPixels,
     descent = whole(-extents.descender);
     const auto line = [&](hb_ot_metrics_tag_t tag, double otherwise) {
         hb_position_t position = 0;
-        const bool told = hb_ot_metrics_get_position(face->shapes.get(), tag, &position);
+        const bool told =
+            hb_ot_metrics_get_position(face->shapes.get(), tag, &position) != 0;
         const double pixels = (told ? position : otherwise * face->em) * unit;
         return fit ? std::floor(pixels + 0.5) : pixels;
     };

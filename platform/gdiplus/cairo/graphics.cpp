@@ -109,7 +109,7 @@ GpStatus GdipGetImageGraphicsContext(GpImage* image, GpGraphics** graphics) {
     if (image == nullptr || graphics == nullptr) {
         return InvalidParameter;
     }
-    if (IsIndexedPixelFormat(From(image)->format)) {
+    if (IsIndexedPixelFormat(From(image)->format) != 0) {
         return OutOfMemory;
     }
     return engine::Guarded([&] { return engine::MakeOn(*From(image), graphics); });

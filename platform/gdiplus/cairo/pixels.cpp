@@ -25,7 +25,7 @@ std::int64_t RowBytes(INT width, PixelFormat format) {
 
 std::vector<ARGB> GreyPalette(PixelFormat format) {
     std::vector<ARGB> palette;
-    if (IsIndexedPixelFormat(format)) {
+    if (IsIndexedPixelFormat(format) != 0) {
         const UINT count = 1U << GetPixelFormatSize(format);
         for (UINT i = 0; i < count; ++i) {
             palette.push_back(0xFF000000 | i * 255 / (count - 1) * 0x010101);

@@ -34,7 +34,8 @@ std::uint64_t Bits(double value) {
 }
 
 std::uint64_t HashOf(const TextStyle& style, std::u16string_view text) {
-    std::uint64_t hash = reinterpret_cast<std::uintptr_t>(style.family);
+    auto hash =
+        static_cast<std::uint64_t>(reinterpret_cast<std::uintptr_t>(style.family));
     hash = Mixed(hash, Bits(style.size));
     hash = Mixed(hash, Bits(style.width));
     hash = Mixed(hash, Bits(style.height));
