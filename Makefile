@@ -31,7 +31,8 @@
     test-sanitized \
     test-threads \
     test-valgrind \
-    test-windows
+    test-windows \
+    true-pages
 
 # A little less than the machine has would be slower and no kinder.
 export CMAKE_BUILD_PARALLEL_LEVEL ?= $(shell nproc)
@@ -87,6 +88,11 @@ hostile-rasters: build/release/with-test
 	cmake --build --preset release --target map_page_tests
 	ulimit -v 6000000; HOSTILE_RASTERS=$(or $(COUNT),2000) \
 	    build/release/tests/host/map_page/map_page_tests --gtest_filter='HostileRasters.*'
+
+true-pages: build/release/with-test
+	cmake --build --preset release --target true_pages_tests
+	TRUE_PAGES=$(or $(COUNT),2000) TRUE_PAGES_FIRST=$(or $(FIRST),0) \
+	    build/release/tests/host/true_pages/true_pages_tests
 
 soak: build/release/with-test
 	cmake --build --preset release --target soak

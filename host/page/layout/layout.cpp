@@ -22,6 +22,10 @@ Body PanelBeside(const Box& room, const MapShape& shape, const Measures& measure
     body.map = FitMap(left, shape);
     body.panel = {body.map.right + measures.gap, body.map.bottom,
                   body.map.right + measures.gap + measures.panel, body.map.top};
+    if (shape.atScale) {  // however small the map is
+        body.panel.bottom = room.bottom;
+        body.panel.top = room.top;
+    }
     return body;
 }
 
@@ -36,6 +40,10 @@ Body PanelBelow(const Box& room, const MapShape& shape, const Measures& measures
     body.map.top += rise;
     body.panel = {body.map.left, room.bottom, body.map.right,
                   body.map.bottom - measures.gap};
+    if (shape.atScale) {
+        body.panel.left = room.left;
+        body.panel.right = room.right;
+    }
     return body;
 }
 

@@ -47,6 +47,50 @@ std::optional<Plan> PlanBar(const CatalogueEntry& style, const ScaleBarDesign& d
     return plan;
 }
 
+/// Whether the numbers over the divisions keep clear of one another. They are set in a
+/// quarter of the bar's size, in which a digit is half an em wide.
+bool NumbersAreApart(const CScaleBarBase& bar, const BarOnMap& divisions) {
+    constexpr double kDigit = 0.5;
+    constexpr double kApart = 1.0;
+    const double em = bar.GetSize() / 4.0;
+    const double largest = divisions.value * divisions.divisions;
+    double digits = std::floor(std::log10(std::fmax(1.0, largest))) + 1.0;
+    if (divisions.value < 1.0) {
+        digits += 1.0 - std::floor(std::log10(divisions.value));
+    }
+    return divisions.length >= (kDigit * digits + kApart) * em;
+}
+
+/// Gives a bar so many divisions, as long as there is room for.
+/// @return its ink; empty where there is no room
+InkBox Fit(Plan& plan, const ScaleBarDesign& design, const ShownMap& map, int count,
+           double most) {
+    constexpr double kLess = 0.95;
+    constexpr int kTries = 60;
+    // Labels and unit name stand out from the divisions, so make these smaller until all
+    // of it fits.
+    double longest = most;
+    for (int i = 0; i < kTries; ++i, longest *= kLess) {
+        const std::optional<BarOnMap> divisions = FitBar(
+            map, plan.measure, plan.frame->Unit(), BarFit::Count, 0.0, count, longest);
+        if (!divisions || !NumbersAreApart(*plan.bar, *divisions)) {
+            return {};
+        }
+        SetDivisions(*plan.frame, *plan.bar, *divisions);
+        plan.bar->ResetAspectRatio();
+        const InkBox ink = MeasureInk(*plan.frame);
+        if (ink.Width() <= most) {
+            if (design.unitName && IsByLength(plan.frame->Unit())) {
+                plan.frame->SetUnit(divisions->unit);  // a name goes with one unit only
+                plan.bar->SetUnitsName(*design.unitName);
+            }
+            plan.frame->SetLongest(longest);
+            return ink;
+        }
+    }
+    return {};
+}
+
 /// A scale that another direction does not have is told.
 void TellDirection(const ShownMap& map, std::vector<std::string>& remarks) {
     const std::optional<MapGround> ground = MapGround::Of(map.projection, map.extent);
@@ -79,28 +123,19 @@ std::unique_ptr<PlacedFrame> PlaceScaleBar(const PageDesign& design, const MapOn
     if (!plan) {
         return nullptr;
     }
-    // Labels and unit name stand out from the divisions, so make these smaller until all
-    // of it fits.
-    InkBox ink;
-    double longest = most;
-    for (int i = 0; i < 60 && (i == 0 || ink.Width() > most); ++i, longest *= 0.95) {
-        const std::optional<BarOnMap> divisions =
-            FitBar(shown, plan->measure, plan->frame->Unit(), BarFit::Count, 0.0,
-                   design.scaleBar.divisions, longest);
-        if (!divisions) {
-            break;
-        }
-        if (design.scaleBar.unitName && IsByLength(plan->frame->Unit())) {
-            plan->frame->SetUnit(divisions->unit);  // a name goes with one unit only
-        }
-        SetDivisions(*plan->frame, *plan->bar, *divisions);
-        plan->bar->ResetAspectRatio();
-        ink = MeasureInk(*plan->frame);
-        plan->frame->SetLongest(longest);
+    int count = design.scaleBar.divisions;
+    InkBox ink = Fit(*plan, design.scaleBar, shown, count, most);
+    while (ink.IsEmpty() && count > 1) {
+        ink = Fit(*plan, design.scaleBar, shown, --count, most);
     }
     if (ink.IsEmpty()) {
         remarks.emplace_back("the scale bar is left out: there is no room for it");
         return nullptr;
+    }
+    if (count < design.scaleBar.divisions) {
+        remarks.push_back("the scale bar has fewer divisions than were asked for, " +
+                          std::to_string(count) +
+                          ": the numbers of more would run into one another");
     }
     TellDirection(shown, remarks);
     FrameInk(*plan->frame, ink, room, At::Bottom, design.frames, measures);

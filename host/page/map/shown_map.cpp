@@ -31,13 +31,17 @@ std::optional<double> ScaleOf(const ShownMap& map, double span) {
 
 std::optional<Box> ExtentAtScale(const std::string& projection, const Box& around,
                                  double scale, double width, double height) {
-    constexpr double kWidest = 1.0e6;  // times the extent that is there
+    constexpr double kAmple = 4.0;  // times what it would be on a plane
     const std::optional<MapGround> ground = MapGround::Of(projection, around);
     if (!ground) {
         return std::nullopt;
     }
     const double metres = kSpan * width * kMetresPerPageUnit * scale;
-    const std::optional<double> span = ground->MapUnits(metres, around.Width() * kWidest);
+    const double known = ground->Reach(around.Width());
+    const std::optional<double> knownMetres = ground->Metres(known);
+    const std::optional<double> span =
+        knownMetres ? ground->MapUnits(metres, known * metres / *knownMetres * kAmple)
+                    : std::nullopt;
     if (!span) {
         return std::nullopt;
     }

@@ -1,0 +1,81 @@
+#include "true_pages/page_reading.h"
+
+#include <gdiplus.h>
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <fstream>
+#include <variant>
+
+#include "page/document/opened_page.h"
+#include "recording/recording.h"
+
+namespace true_pages {
+namespace {
+
+/// What a trace's line writes: GdipDrawString "12" (10, 4) ...
+std::optional<std::string> TextIn(const std::string& line) {
+    const std::string call = "GdipDrawString \"";
+    if (line.compare(0, call.size(), call) != 0) {
+        return std::nullopt;
+    }
+    return line.substr(call.size(), line.find("\" (", call.size()) - call.size());
+}
+
+}  // namespace
+
+WrittenPage::WrittenPage(const std::string& path, double dpi) : m_path(path), m_dpi(dpi) {
+    std::ifstream file(path);
+    m_page = nlohmann::json::parse(file, nullptr, false);
+    EXPECT_TRUE(m_page.is_object()) << path;
+}
+
+const nlohmann::json* WrittenPage::Find(const std::string& type) const {
+    for (const nlohmann::json& item : m_page["elements"]) {
+        if (item["type"].get<std::string>().compare(0, type.size(), type) == 0) {
+            return &item;
+        }
+    }
+    return nullptr;
+}
+
+Area WrittenPage::FrameOf(const nlohmann::json& item) const {
+    const nlohmann::json& frame = item["frame"];
+    const double left = frame["left"];
+    const double top = m_page["height"].get<double>() - frame["top"].get<double>();
+    const auto edge = [&](double at) {
+        return static_cast<int>(std::floor(ToDevice(at) + 0.5));
+    };
+    return {edge(left), edge(top), edge(left + frame["width"].get<double>()),
+            edge(top + frame["height"].get<double>())};
+}
+
+double WrittenPage::CentreX(const nlohmann::json& item) const {
+    const Area frame = FrameOf(item);
+    return (frame.left + frame.right) / 2.0 + ToDevice(item["offsetX"]);
+}
+
+double WrittenPage::CentreY(const nlohmann::json& item) const {
+    const Area frame = FrameOf(item);
+    return (frame.top + frame.bottom) / 2.0 - ToDevice(item["offsetY"]);
+}
+
+std::vector<std::string> WrittenPage::TextsOf(const nlohmann::json& item) const {
+    const host::OpenedPage opened = host::OpenPageFile(m_path, nullptr);
+    const auto& elements = m_page["elements"];
+    const auto index = static_cast<std::size_t>(&item - &elements[0]);
+    Gdiplus::Bitmap surface(1, 1, PixelFormat32bppRGB);
+    Gdiplus::Graphics graphics(&surface);
+    host::RenderedMaps maps;
+    const recording::Recording recording;
+    opened.page.DrawItems(graphics, m_dpi, {index}, maps);
+    std::vector<std::string> texts;
+    for (const std::string& line : recording.Drawing()) {
+        if (const std::optional<std::string> text = TextIn(line)) {
+            texts.push_back(*text);
+        }
+    }
+    return texts;
+}
+
+}  // namespace true_pages

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include <nlohmann/json.hpp>
+
+#include "page/box.h"
+#include "true_pages/picture.h"
+
+namespace true_pages {
+
+/// A page file as it was written, and where its items stand on a picture of the page.
+class WrittenPage {
+public:
+    /// Fails the test when the file cannot be read.
+    WrittenPage(const std::string& path, double dpi);
+
+    /// The item whose type begins so: "scale-bar-", "map"; null where there is none.
+    const nlohmann::json* Find(const std::string& type) const;
+
+    /// The device pixels of an item's frame.
+    Area FrameOf(const nlohmann::json& item) const;
+
+    /// The device point of an element's centre.
+    double CentreX(const nlohmann::json& item) const;
+    double CentreY(const nlohmann::json& item) const;
+
+    /// The texts that the item writes, in their order.
+    std::vector<std::string> TextsOf(const nlohmann::json& item) const;
+
+private:
+    double ToDevice(double length) const { return length * m_dpi / 96.0; }
+
+    std::string m_path;
+    double m_dpi;
+    nlohmann::json m_page;
+};
+
+}  // namespace true_pages

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "page/box.h"
+
+namespace true_pages {
+
+/// A map and what is asked of its page: the same for the same seed, on every machine.
+struct RandomPage {
+    std::string system;  ///< the map's coordinate system, as PROJ reads it
+    std::string raster;  ///< its file
+    host::Box extent;    ///< of the raster
+    bool isGrey =
+        false;  ///< values from `low` to `high`, growing to the right; else classes
+    double low = 0.0;
+    double high = 0.0;
+    double dpi = 0.0;
+    double scale = 0.0;  ///< asked for; 0 for none
+    /// map_page's, but for the page to be written and the arrow's angle.
+    std::vector<std::string> arguments;
+};
+
+/// The colours of a page's classes, left to right in equal strips.
+constexpr std::uint32_t kClassColours[] = {0x1B9E77, 0xD95F02, 0x7570B3, 0xE6AB02};
+
+/// Draws a page from a seed, and writes its raster into the folder.
+RandomPage MakeRandomPage(std::uint32_t seed, const std::string& folder);
+
+}  // namespace true_pages

@@ -1,0 +1,345 @@
+// Draws random pages with map_page and reads back from the pixels what they say: the
+// length of the bar, the numeric scale, the turn of the north arrow, the colours.
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+#include <filesystem>
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "map_page/run_map_page.h"
+#include "true_pages/earth.h"
+#include "true_pages/page_reading.h"
+#include "true_pages/picture.h"
+#include "true_pages/random_page.h"
+
+namespace {
+
+using true_pages::Area;
+using true_pages::Earth;
+using true_pages::Picture;
+using true_pages::Pixel;
+using true_pages::RandomPage;
+using true_pages::TurnBetween;
+using true_pages::WrittenPage;
+
+constexpr Pixel kInk = {0x1E, 0x28, 0x32};
+constexpr double kInch = 0.0254;  // metres
+const std::map<std::string, double> kMetres = {
+    {"m", 1.0},     {"km", 1000.0},   {"ft", 0.3048},  {"US ft", 1200.0 / 3937.0},
+    {"yd", 0.9144}, {"mi", 1609.344}, {"nmi", 1852.0},
+};
+// Ratios that a page may be off by, beyond a pixel.
+constexpr double kTrue = 0.001;
+
+/// A page on paper and what it was drawn from.
+struct DrawnPage {
+    const RandomPage& asked;
+    const WrittenPage& written;
+    const Picture& picture;
+    Earth earth;
+
+    /// Map units in a pixel of the map.
+    double MapUnitsPerPixel() const {
+        const Area frame = written.FrameOf(*written.Find("map"));
+        return Shown().Width() / (frame.right - frame.left);
+    }
+
+    /// The part of the map that is shown: all of it, or at a scale what the frame holds
+    /// of it. A scale is measured over a quarter of the frame.
+    host::Box Shown() const {
+        if (!(asked.scale > 0.0)) {
+            return asked.extent;
+        }
+        const Area frame = written.FrameOf(*written.Find("map"));
+        const double width = frame.right - frame.left;
+        const double metres = width / 4.0 / asked.dpi * kInch * asked.scale;
+        const double x = asked.extent.MiddleX();
+        const double y = asked.extent.MiddleY();
+        double less = 0.0;
+        double more = asked.extent.Width() * 1000.0;
+        for (int i = 0; i < 100; ++i) {
+            const double span = (less + more) / 2.0;
+            const auto length = earth.Distance({x - span / 2.0, y}, {x + span / 2.0, y});
+            (length && *length < metres ? less : more) = span;
+        }
+        const double half = more * 2.0;
+        const double halfHeight = half * (frame.bottom - frame.top) / width;
+        return {x - half, y - halfHeight, x + half, y + halfHeight};
+    }
+
+    /// The metres under so many pixels in the middle of the map.
+    std::optional<double> Metres(double pixels) const {
+        const host::Box shown = Shown();
+        const double half = pixels * MapUnitsPerPixel() / 2.0;
+        return earth.Distance({shown.MiddleX() - half, shown.MiddleY()},
+                              {shown.MiddleX() + half, shown.MiddleY()});
+    }
+};
+
+/// What a bar's texts say: the largest number, and what it counts in metres.
+struct BarTexts {
+    double total = 0.0;
+    double unit = 0.0;
+};
+
+std::optional<BarTexts> ReadBarTexts(const std::vector<std::string>& texts) {
+    BarTexts read;
+    for (const std::string& text : texts) {
+        char* end = nullptr;
+        const double number = std::strtod(text.c_str(), &end);
+        if (*end == '\0' && end != text.c_str()) {
+            read.total = std::fmax(read.total, number);
+            continue;
+        }
+        const auto unit = kMetres.find(text);
+        read.unit = unit == kMetres.end() ? read.unit : unit->second;
+    }
+    return read.total > 0.0 && read.unit > 0.0 ? std::optional<BarTexts>(read)
+                                               : std::nullopt;
+}
+
+/// The pixels between the ends of a bar: of the ticks at the ends of its longest level
+/// line. Without ticks, that line reaches half a pen further at each end, and the pen is
+/// as wide as the line is thick.
+double BarPixels(const DrawnPage& page, const nlohmann::json& bar) {
+    const Area frame = page.written.FrameOf(bar);
+    const true_pages::Run run = LongestRun(page.picture, frame, kInk, 90);
+    const double ticks = BetweenEndTicks(page.picture, frame, run, kInk, 90);
+    if (ticks > 0.0) {
+        return ticks;
+    }
+    int pen = frame.bottom;
+    for (int x = run.first; x < run.end; ++x) {
+        int top = run.y;
+        int bottom = run.y;
+        while (IsNear(page.picture.At(x, top - 1), kInk, 90)) {
+            --top;
+        }
+        while (IsNear(page.picture.At(x, bottom + 1), kInk, 90)) {
+            ++bottom;
+        }
+        pen = std::min(pen, bottom + 1 - top);
+    }
+    return run.Length() - pen / 2.0;
+}
+
+void CheckBar(const DrawnPage& page) {
+    const nlohmann::json* const bar = page.written.Find("scale-bar-");
+    if (bar == nullptr) {
+        return;
+    }
+    const auto texts = ReadBarTexts(page.written.TextsOf(*bar));
+    ASSERT_TRUE(texts.has_value());
+    const double said = texts->total * texts->unit;
+    const double pixels = BarPixels(page, *bar);
+    const std::optional<double> metres = page.Metres(pixels);
+    ASSERT_TRUE(metres.has_value());
+    // Of a line without ticks, nobody can tell whether half a pen stands out at its ends.
+    const bool hasTicks =
+        (*bar)["type"].get<std::string>().find("alternating") == std::string::npos;
+    const double pixel = *metres / pixels * (hasTicks ? 1.0 : 1.5);
+    EXPECT_NEAR(*metres, said, pixel + kTrue * said)
+        << "the bar is " << pixels << " pixels long and says " << texts->total;
+
+    const nlohmann::json* const scale = page.written.Find("numeric-scale");
+    if (scale == nullptr) {
+        return;
+    }
+    std::string digits;
+    for (const char c : page.written.TextsOf(*scale).at(0).substr(1)) {
+        digits += c >= '0' && c <= '9' ? std::string(1, c) : "";
+    }
+    const double denominator = std::strtod(digits.c_str(), nullptr);
+    const double onPaper = pixels * kInch / page.asked.dpi;
+    EXPECT_NEAR(denominator, said / onPaper,
+                denominator * ((hasTicks ? 1.0 : 1.5) / pixels + kTrue) + 0.5);
+    if (page.asked.scale > 0.0) {
+        EXPECT_EQ(denominator, page.asked.scale);
+    }
+}
+
+void CheckArrow(const DrawnPage& page, const WrittenPage& upright,
+                const Picture& uprightPicture) {
+    const nlohmann::json* const arrow = page.written.Find("north-arrow-");
+    const nlohmann::json* const straight = upright.Find("north-arrow-");
+    if (arrow == nullptr || straight == nullptr) {
+        return;
+    }
+    const host::Box shown = page.Shown();
+    const auto north = page.earth.North({shown.MiddleX(), shown.MiddleY()});
+    ASSERT_TRUE(north.has_value());
+    const double radius = (*arrow)["size"].get<double>() * page.asked.dpi / 96.0 / 2.0;
+    const true_pages::Turn turn =
+        TurnBetween({uprightPicture, upright.FrameOf(*straight),
+                     upright.CentreX(*straight), upright.CentreY(*straight)},
+                    {page.picture, page.written.FrameOf(*arrow),
+                     page.written.CentreX(*arrow), page.written.CentreY(*arrow)});
+    EXPECT_NEAR(std::remainder((*arrow)["angle"].get<double>() - *north, 360.0), 0.0,
+                0.01);
+    // What a pixel at its tip is of a turn is no fault of the arrow's.
+    const double pixel = 1.5 / radius * 180.0 / std::acos(-1.0);
+    EXPECT_NEAR(std::remainder(turn.degrees - *north, turn.period), 0.0, 0.5 + pixel)
+        << "true north is " << *north << ", the arrow is turned by " << turn.degrees
+        << ", or by a multiple of " << turn.period << " more";
+}
+
+/// The value or class of the raster under a pixel of the map, counted from its left.
+double PartOfRaster(const DrawnPage& page, int pixel) {
+    const host::Box shown = page.Shown();
+    const double x = shown.left + (pixel + 0.5) * page.MapUnitsPerPixel();
+    return (x - page.asked.extent.left) / page.asked.extent.Width();
+}
+
+/// The ramp of a legend's greys: its pixels from the top, each with its grey.
+std::vector<int> RampIn(const Picture& picture, const Area& legend) {
+    std::vector<int> longest;
+    for (int x = legend.left; x < legend.right; ++x) {
+        std::vector<int> ramp;
+        for (int y = legend.top; y < legend.bottom; ++y) {
+            const Pixel pixel = picture.At(x, y);
+            const bool isGrey = pixel.red == pixel.green && pixel.green == pixel.blue;
+            if (!isGrey || (!ramp.empty() && pixel.red > ramp.back())) {
+                ramp.clear();
+            }
+            if (isGrey) {
+                ramp.push_back(pixel.red);
+            }
+            if (!ramp.empty() && ramp.front() - ramp.back() > 200 &&
+                ramp.size() > longest.size()) {
+                longest = ramp;
+            }
+        }
+    }
+    return longest;
+}
+
+void CheckColours(const DrawnPage& page) {
+    const Area map = page.written.FrameOf(*page.written.Find("map"));
+    const nlohmann::json* const legend = page.written.Find("legend");
+    ASSERT_NE(legend, nullptr);
+    const Area inLegend = page.written.FrameOf(*legend);
+    const int middle = (map.top + map.bottom) / 2;
+    constexpr int kColumns = 64;
+    for (int i = 1; i < 8; ++i) {
+        const int pixel = (map.right - map.left) * i / 8;
+        const double part = PartOfRaster(page, pixel);
+        const int column = static_cast<int>(part * kColumns);
+        // Nearer to an edge of the raster's pixel than this, another may be drawn.
+        const double within = part * kColumns - column;
+        if (part < 0.0 || part >= 1.0 || within < 0.1 || within > 0.9) {
+            continue;
+        }
+        const Pixel drawn = page.picture.At(map.left + pixel, middle);
+        if (page.asked.isGrey) {
+            // From low to high, column by column: black to white.
+            const double grey = 255.0 * column / (kColumns - 1.0);
+            EXPECT_TRUE(drawn.red == drawn.green && drawn.green == drawn.blue);
+            EXPECT_NEAR(drawn.red, grey, 255.0 / kColumns + 2.0) << "column " << column;
+            continue;
+        }
+        const std::uint32_t colour = true_pages::kClassColours[column * 4 / kColumns];
+        const Pixel expected = {static_cast<int>(colour >> 16 & 0xFF),
+                                static_cast<int>(colour >> 8 & 0xFF),
+                                static_cast<int>(colour & 0xFF)};
+        EXPECT_TRUE(IsNear(drawn, expected, 0)) << "column " << column;
+        EXPECT_GT(LongestRun(page.picture, inLegend, expected, 0).Length(), 2)
+            << "no swatch of class " << column * 4 / kColumns;
+    }
+    if (page.asked.isGrey) {
+        const std::vector<int> ramp = RampIn(page.picture, inLegend);
+        ASSERT_GT(ramp.size(), 3u) << "no ramp";
+        EXPECT_GE(ramp.front(), 255 - 3 * 255 / static_cast<int>(ramp.size()) - 4);
+        EXPECT_LE(ramp.back(), 3 * 255 / static_cast<int>(ramp.size()) + 4);
+        const std::vector<std::string> texts = page.written.TextsOf(*legend);
+        const auto says = [&](double value) {
+            const std::string number = std::to_string(std::lround(value));
+            for (const std::string& text : texts) {
+                if (text.size() >= number.size() &&
+                    text.compare(text.size() - number.size(), number.size(), number) ==
+                        0) {
+                    return true;
+                }
+            }
+            return false;
+        };
+        EXPECT_TRUE(says(page.asked.low)) << page.asked.low;
+        EXPECT_TRUE(says(page.asked.high)) << page.asked.high;
+    }
+}
+
+std::string CommandOf(const std::vector<std::string>& arguments) {
+    std::string command = "map_page";
+    for (const std::string& argument : arguments) {
+        command += " " + argument;
+    }
+    return command;
+}
+
+/// The pages that say what is not so stay there, with their rasters, to be looked at.
+void TryPage(std::uint32_t seed) {
+    const std::string folder = TRUE_PAGES_FOLDER "/" + std::to_string(seed) + "/";
+    std::filesystem::create_directories(folder);
+    const RandomPage asked = true_pages::MakeRandomPage(seed, folder);
+    SCOPED_TRACE("page " + std::to_string(seed) + ": " + CommandOf(asked.arguments));
+    const auto draw = [&](const std::string& name, const std::vector<std::string>& more) {
+        std::vector<std::string> arguments = asked.arguments;
+        arguments.insert(arguments.end(), more.begin(), more.end());
+        arguments.insert(arguments.end(), {"-o", folder + name + ".png", "--save",
+                                           folder + name + ".json"});
+        const ScratchFolder scratch;
+        const host_tests::Result result = host_tests::RunMapPage(scratch, arguments);
+        EXPECT_EQ(result.status, 0) << result.err;
+        return result.status == 0;
+    };
+    if (!draw("page", {}) || !draw("upright", {"--north-angle", "0"})) {
+        return;
+    }
+    const WrittenPage written(folder + "page.json", asked.dpi);
+    const WrittenPage upright(folder + "upright.json", asked.dpi);
+    const Picture picture(folder + "page.png");
+    const Picture uprightPicture(folder + "upright.png");
+    const DrawnPage page{asked, written, picture, Earth(asked.system)};
+    CheckBar(page);
+    CheckArrow(page, upright, uprightPicture);
+    CheckColours(page);
+}
+
+/// What a variable of the environment says.
+std::uint32_t Given(const char* name, std::uint32_t otherwise) {
+    const char* const text = std::getenv(name);
+    return text == nullptr ? otherwise
+                           : static_cast<std::uint32_t>(std::strtoul(text, nullptr, 10));
+}
+
+/// A tenth of the pages each, so that they can be tried beside one another.
+class TruePages : public ::testing::TestWithParam<std::uint32_t> {};
+
+constexpr std::uint32_t kParts = 10;
+
+TEST_P(TruePages, SayWhatIsSo) {
+    const std::uint32_t first = Given("TRUE_PAGES_FIRST", 0);
+    const std::uint32_t count = Given("TRUE_PAGES", 100);
+    const auto failures = [] {
+        return ::testing::UnitTest::GetInstance()
+            ->current_test_info()
+            ->result()
+            ->total_part_count();
+    };
+    for (std::uint32_t seed = first + GetParam(); seed < first + count; seed += kParts) {
+        const int before = failures();
+        TryPage(seed);
+        if (failures() == before) {
+            std::filesystem::remove_all(TRUE_PAGES_FOLDER "/" + std::to_string(seed));
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Part, TruePages, ::testing::Range(std::uint32_t{0}, kParts));
+
+}  // namespace
