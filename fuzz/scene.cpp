@@ -34,7 +34,10 @@ constexpr int kFramedElement = 1;
 constexpr int kFirstEntry = 2;
 
 void GiveUp(CMapSurround&) {}
-void GiveUp(CDrawPicture& copy) { copy = CDrawPicture(); }
+void GiveUp(CDrawPicture& copy) {
+    const CDrawPicture none;
+    copy = none;  // assigned as a copy, which deletes nothing
+}
 void GiveUp(CFrameBase&) {}
 void GiveUp(CSurroundFrame& copy) { copy.SetMapSurround(nullptr); }
 

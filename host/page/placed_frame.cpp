@@ -36,7 +36,7 @@ void ScaleBarFrame::SetDivisionValue(double value) {
 }
 
 void ScaleBarFrame::Draw(Gdiplus::Graphics* graphics, CPoint centre, double scale) {
-    constexpr double kNobodySees = 0.05;  // pixels
+    constexpr double kNobodySees = 0.15;  // pixels
     constexpr double kAboveWhole = 1e-3;  // pixels, for what the bar cuts off is rounded
     auto* const bar = ElementOf<CScaleBarBase>(*this);
     const double length = m_divisionLength * scale;

@@ -64,7 +64,7 @@ public:
 
     /// Whether the whole bar is true to a pixel. A bar cuts each of its divisions to
     /// whole pixels: ten of 9.99 are 90 long, not 99.9. An exact one is drawn with the
-    /// nearest whole pixels, and stretched by the rest where that is a fifth of a pixel
+    /// nearest whole pixels, and stretched by the rest where that is a seventh of a pixel
     /// or more.
     void SetExact(bool isExact) { m_isExact = isExact; }
     bool IsExact() const { return m_isExact; }
