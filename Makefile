@@ -26,6 +26,7 @@
     mutants \
     package \
     soak \
+    strangers \
     test \
     test-cairo \
     test-sanitized \
@@ -102,6 +103,11 @@ interruptions: build/release/with-test
 	cmake --build --preset release --target map_page_tests
 	INTERRUPTIONS=$(or $(COUNT),200) \
 	    build/release/tests/host/map_page/map_page_tests --gtest_filter='Interrupted.*'
+
+strangers: build/release/with-test
+	cmake --build --preset release --target map_page_tests
+	STRANGERS=all \
+	    build/release/tests/host/map_page/map_page_tests --gtest_filter='StrangersPage.*'
 
 install-tests: build/package/build.ninja
 	cmake --build --preset package

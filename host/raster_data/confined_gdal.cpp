@@ -82,7 +82,9 @@ public:
     }
 
     char** ReadDirEx(const char* path, int most) override {
-        return MayOpen(path) ? m_files.ReadDirEx(path, most) : nullptr;
+        // Of a file that is allowed alone the folder is not, and needs not be told.
+        return Current()->allowed.WhyNotFile(path).empty() ? m_files.ReadDirEx(path, most)
+                                                           : nullptr;
     }
 
 private:
