@@ -53,6 +53,19 @@ std::string LineOf(const std::string& name, const host::OutputFile& file,
            " bytes";
 }
 
+/// No output may be one of the inputs.
+void CheckInputsStay(const Options& options, const host::Page& page,
+                     const host::RasterStore& rasters) {
+    std::vector<std::string> named = options.rasters;
+    named.insert(named.end(), options.changes.rasters.begin(),
+                 options.changes.rasters.end());
+    named.insert(named.end(), {options.pageFile, options.picture, options.series});
+    for (const std::string& output : {options.output, options.save}) {
+        host::Naming(output,
+                     [&] { host::CheckReplacesNoInput(output, page, rasters, named); });
+    }
+}
+
 /// Before the work, which may take minutes.
 void CheckOutput(const Options& options) {
     host::Naming(options.output, [&] { host::CheckCanBeMade(*options.format); });
@@ -74,7 +87,9 @@ std::string DrawPage(const Options& options, const OutputFiles& files,
     if (files.output) {
         CheckOutput(options);
     }
+    CheckInputsStay(options, host::Page(1.0, 1.0), host::RasterStore());
     const host::OpenedPage opened = Open(options);
+    CheckInputsStay(options, opened.page, *opened.rasters);
     for (const std::string& remark : opened.remarks) {
         quiet.Warn(remark);
     }

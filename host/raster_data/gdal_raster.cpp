@@ -55,6 +55,11 @@ std::string MainFile(GDALDataset& dataset, const std::string& path) {
     return files.empty() ? std::string() : files[0];
 }
 
+std::vector<std::string> FilesOf(GDALDataset& dataset) {
+    const CPLStringList files(dataset.GetFileList());
+    return {files.List(), files.List() + files.size()};
+}
+
 /// What stands in the way of opening, as a person would say it.
 std::string WhyNotOpened(const std::string& path, const QuietGdal& quiet) {
     VSIStatBufL status{};
@@ -103,10 +108,11 @@ std::shared_ptr<GDALDataset> WithNoData(const std::shared_ptr<GDALDataset>& data
 }  // namespace
 
 struct GdalRaster::State {
-    State(std::string openedPath, std::string file, std::shared_ptr<GDALDataset> opened,
-          std::shared_ptr<RasterShading> shades)
+    State(std::string openedPath, std::string file, std::vector<std::string> all,
+          std::shared_ptr<GDALDataset> opened, std::shared_ptr<RasterShading> shades)
         : path(std::move(openedPath)),
           mainFile(std::move(file)),
+          files(std::move(all)),
           dataset(std::move(opened)),
           shading(std::move(shades)),
           projection(dataset->GetProjectionRef()) {
@@ -115,6 +121,7 @@ struct GdalRaster::State {
 
     std::string path;
     std::string mainFile;
+    std::vector<std::string> files;
     std::shared_ptr<GDALDataset> dataset;
     std::shared_ptr<RasterShading> shading;  ///< of the whole raster
     std::string projection;
@@ -143,6 +150,7 @@ std::unique_ptr<GdalRaster> GdalRaster::Open(const std::string& path, std::strin
         return nullptr;
     }
     std::string mainFile = MainFile(*dataset, path);
+    std::vector<std::string> files = FilesOf(*dataset);
     try {
         LookForSideFiles(*dataset);
         dataset = WithNoData(dataset, style);
@@ -150,8 +158,9 @@ std::unique_ptr<GdalRaster> GdalRaster::Open(const std::string& path, std::strin
         if (!LastRefused().empty()) {
             throw std::runtime_error(LastRefused());
         }
-        return std::unique_ptr<GdalRaster>(new GdalRaster(std::make_unique<State>(
-            path, std::move(mainFile), std::move(dataset), std::move(shading))));
+        return std::unique_ptr<GdalRaster>(new GdalRaster(
+            std::make_unique<State>(path, std::move(mainFile), std::move(files),
+                                    std::move(dataset), std::move(shading))));
     } catch (const std::runtime_error& error) {
         why = error.what();
         return nullptr;
@@ -201,6 +210,7 @@ CClassifyDisplayTable* GdalRaster::GetClassifyDisplayTable() {
 }
 
 const std::string& GdalRaster::Path() const { return m_state->path; }
+const std::vector<std::string>& GdalRaster::Files() const { return m_state->files; }
 const RasterStyle& GdalRaster::Style() const { return m_state->shading->Style(); }
 int GdalRaster::BandCount() const { return m_state->shading->BandCount(); }
 int GdalRaster::Width() const { return m_state->dataset->GetRasterXSize(); }
@@ -216,8 +226,9 @@ const std::string& GdalRaster::Projection() const { return m_state->projection; 
 
 std::unique_ptr<GdalRaster> GdalRaster::Derived(
     std::shared_ptr<GDALDataset> dataset) const {
-    return std::unique_ptr<GdalRaster>(new GdalRaster(std::make_unique<State>(
-        m_state->path, m_state->mainFile, std::move(dataset), m_state->shading)));
+    return std::unique_ptr<GdalRaster>(new GdalRaster(
+        std::make_unique<State>(m_state->path, m_state->mainFile, m_state->files,
+                                std::move(dataset), m_state->shading)));
 }
 
 std::unique_ptr<GdalRaster> GdalRaster::Part(const Window& window) const {

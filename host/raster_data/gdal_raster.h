@@ -57,6 +57,10 @@ public:
 
     const std::string& Path() const;
     const RasterStyle& Style() const;  ///< as it was opened with
+
+    /// The files that it is read from, side files and a VRT's sources included.
+    const std::vector<std::string>& Files() const;
+
     int BandCount() const;
     int Width() const;   ///< pixels
     int Height() const;  ///< pixels

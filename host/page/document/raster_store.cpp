@@ -14,6 +14,7 @@
 #include "page/map/shown_map.h"
 #include "page/placed_frame.h"
 #include "system/fonts.h"
+#include "system/same_file.h"
 #include "system/utf8.h"
 
 namespace host {
@@ -91,6 +92,15 @@ std::shared_ptr<GdalRaster> RasterStore::Raster(const std::string& path,
     return raster;
 }
 
+std::vector<std::string> RasterStore::Files() const {
+    std::vector<std::string> files;
+    for (const auto& [key, raster] : m_rasters) {
+        files.push_back(raster->Path());
+        files.insert(files.end(), raster->Files().begin(), raster->Files().end());
+    }
+    return files;
+}
+
 bool RasterStore::Has(const std::string& path) const {
     return std::any_of(m_rasters.begin(), m_rasters.end(),
                        [&](const auto& entry) { return entry.first.first == path; });
@@ -160,6 +170,26 @@ void NameRasters(Page& page, const std::vector<std::string>& paths) {
         if (rasters != nullptr) {
             rasters->write(item, paths);
         }
+    }
+}
+
+void CheckReplacesNoInput(const std::string& output, const Page& page,
+                          const RasterStore& rasters,
+                          const std::vector<std::string>& others) {
+    std::vector<std::string> inputs = rasters.Files();
+    inputs.insert(inputs.end(), others.begin(), others.end());
+    for (const PageItem& item : page.Items()) {
+        const ItemType* const type = TypeOf(item);
+        for (const Property& property :
+             type == nullptr ? std::vector<Property>() : type->properties) {
+            if (property.kind == PropertyKind::File) {
+                inputs.push_back(std::get<std::string>(property.read(item)));
+            }
+        }
+    }
+    if (const std::optional<std::string> input = InputReplacedBy(output, inputs)) {
+        throw std::runtime_error("would replace " + *input +
+                                 ", which the page is drawn from");
     }
 }
 

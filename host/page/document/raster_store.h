@@ -27,6 +27,9 @@ public:
     std::shared_ptr<GdalRaster> Raster(const std::string& path,
                                        const RasterStyle& style = {});
 
+    /// The files that all open rasters are read from.
+    std::vector<std::string> Files() const;
+
     /// Whether a raster is open, in any style.
     bool Has(const std::string& path) const;
 
@@ -56,6 +59,13 @@ void OpenRasters(Page& page, RasterStore& store);
 
 /// Names the rasters of every map and legend of a page that was laid out from them.
 void NameRasters(Page& page, const std::vector<std::string>& paths);
+
+/// Throws std::runtime_error that names the input, where a file that is to be written is
+/// one of those that a page is drawn from, by whatever name: its rasters with all their
+/// side files, its pictures, and the others given.
+void CheckReplacesNoInput(const std::string& output, const Page& page,
+                          const RasterStore& rasters,
+                          const std::vector<std::string>& others = {});
 
 /// Throws PageError that names the first property whose file or font cannot be used: a
 /// picture that is missing, no image or over 32767 pixels a side, a font family that is

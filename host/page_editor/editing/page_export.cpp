@@ -32,6 +32,7 @@ void ExportPage(const host::Page& page, const std::string& path, double dpi,
         const auto draw = [&](const host::Progress& tell) {
             host::RasterStore rasters;
             const host::Page copy = Reopened(page, rasters);
+            host::CheckReplacesNoInput(path, copy, rasters);
             file.Write(host::EncodePage(copy, format, dpi, tell));
             return std::string();
         };
