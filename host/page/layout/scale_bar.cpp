@@ -51,7 +51,7 @@ std::optional<Plan> PlanBar(const CatalogueEntry& style, const ScaleBarDesign& d
 /// quarter of the bar's size, in which a digit is half an em wide.
 bool NumbersAreApart(const CScaleBarBase& bar, const BarOnMap& divisions) {
     constexpr double kDigit = 0.5;
-    constexpr double kApart = 1.0;
+    constexpr double kApart = 0.4;
     const double em = bar.GetSize() / 4.0;
     const double largest = divisions.value * divisions.divisions;
     double digits = std::floor(std::log10(std::fmax(1.0, largest))) + 1.0;

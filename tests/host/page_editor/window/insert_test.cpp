@@ -99,11 +99,12 @@ TEST_F(Insert, EveryElementIsInTheMenuAndLaidOutForTheMap) {
 TEST_F(Insert, ScaleBarsAreTrueToTheMap) {
     window.Insert("map", {Scene()});
     window.Insert("scale-bar-line");
-    // 8 pixels of 30 m across the map's frame.
+    // 8 pixels of 30 m across the map's frame. Bars are true to the ground, which differs
+    // from the map by less than half a thousandth in the middle of a UTM zone.
     const double perUnit = 8.0 * 30.0 / BoxOf(0).Width();
     const double value = std::get<double>(Value(1, "divisionValue"));
     const double length = std::get<double>(Value(1, "divisionLength"));
-    EXPECT_NEAR(value / length, perUnit, 1e-9);
+    EXPECT_NEAR(value / length, perUnit, 5e-4 * perUnit);
 }
 
 TEST_F(Insert, ScaleBarsFollowTheMap) {
@@ -114,7 +115,7 @@ TEST_F(Insert, ScaleBarsFollowTheMap) {
     });
     EXPECT_NEAR(std::get<double>(Value(1, "divisionValue")) /
                     std::get<double>(Value(1, "divisionLength")),
-                8.0 * 30.0 / 100.0, 1e-9);
+                8.0 * 30.0 / 100.0, 5e-4 * 2.4);
     ExpectImageIsThePage();
 }
 
