@@ -80,7 +80,7 @@ void DrawFrame(Gdiplus::Graphics* graphics, CPoint centre) {
     frame.Draw(graphics, centre, 1.0);
 }
 
-std::vector<Element> AllElements() {
+std::vector<Element> EachElement() {
     std::vector<Element> elements;
     for (const host::CatalogueEntry& entry : host::kCatalogue) {
         elements.push_back({FileName(entry.name), Wide(entry.className),
@@ -98,7 +98,7 @@ std::vector<Element> AllElements() {
 }  // namespace
 
 const std::vector<gallery::Element>& gallery::Elements() {
-    static const std::vector<Element> elements = AllElements();
+    static const std::vector<Element> elements = EachElement();
     return elements;
 }
 

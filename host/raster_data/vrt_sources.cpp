@@ -57,6 +57,8 @@ bool IsNotOfRasters(const CPLXMLNode& node) {
             EQUAL(CPLGetXMLValue(&node, "key", ""), "OVERVIEW_FILE"));
 }
 
+// NOLINTBEGIN(misc-no-recursion): no deeper than kDeepest VRTs, and than an XML file
+// nests
 /// What a VRT is made of, and so on. Throws std::runtime_error with what speaks against
 /// it.
 class Sources {
@@ -119,6 +121,7 @@ private:
     bool m_isNested = false;
     std::map<std::pair<std::string, int>, std::int64_t> m_counts;
 };
+// NOLINTEND(misc-no-recursion)
 
 }  // namespace
 

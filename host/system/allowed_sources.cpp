@@ -20,7 +20,7 @@ bool Begins(std::string_view text, std::string_view with) {
 }
 
 /// The file behind a name, as far as there is one; empty when that cannot be told.
-fs::path Resolved(const std::string& path) {
+fs::path ResolvedPath(const std::string& path) {
     std::error_code error;
     fs::path resolved = fs::weakly_canonical(fs::absolute(path, error), error);
     return error ? fs::path() : resolved;
@@ -80,7 +80,7 @@ std::string AllowedSources::WhyNot(const std::string& name) const {
 }
 
 std::string AllowedSources::WhyNotFile(const std::string& path) const {
-    const fs::path resolved = Resolved(path);
+    const fs::path resolved = ResolvedPath(path);
     if (resolved.empty()) {
         return "cannot be found";
     }

@@ -45,6 +45,7 @@ constexpr const FamilyOnPage* FamilyOf(const CatalogueEntry& entry) {
 }
 
 constexpr bool AllHaveAFamily() {
+    // NOLINTNEXTLINE(readability-use-anyofallof): std::all_of is no constant expression
     for (const CatalogueEntry& entry : kCatalogue) {
         if (FamilyOf(entry) == nullptr) {
             return false;

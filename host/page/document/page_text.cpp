@@ -138,10 +138,12 @@ double SideOf(const json& page, const char* key) {
 /// The page as the newest version has it.
 json Upgraded(json page) {
     const json& version = MemberOf(page, kVersionKey, "");
-    if (!version.is_number_integer() || (version != 1 && version != kPageVersion)) {
+    const bool isFirst = version.is_number_integer() && version == 1;
+    const bool isNewest = version.is_number_integer() && version == kPageVersion;
+    if (!isFirst && !isNewest) {
         throw PageError(kVersionKey, "must be 1 or " + std::to_string(kPageVersion));
     }
-    if (version == 1) {
+    if (isFirst) {
         UpgradeFromVersion1(page);
     }
     return page;

@@ -15,16 +15,17 @@ namespace host {
 namespace {
 
 // GDI+ reads no larger images, and holds one whole: here 800 MB.
-constexpr std::int64_t kLongestSide = 32767;
-constexpr std::int64_t kMostPixels = 100'000'000;
+constexpr std::int64_t kLongestPictureSide = 32767;
+constexpr std::int64_t kMostPicturePixels = 100'000'000;
 
 std::string WhyTooLarge(const ImageSize& size) {
     const std::string has = "has " + std::to_string(size.width) + " x " +
                             std::to_string(size.height) + " pixels; at most ";
-    if (size.width > kLongestSide || size.height > kLongestSide) {
-        return has + std::to_string(kLongestSide) + " a side are drawn";
+    if (size.width > kLongestPictureSide || size.height > kLongestPictureSide) {
+        return has + std::to_string(kLongestPictureSide) + " a side are drawn";
     }
-    return size.width * size.height > kMostPixels ? has + "100 million are drawn" : "";
+    return size.width * size.height > kMostPicturePixels ? has + "100 million are drawn"
+                                                         : "";
 }
 
 }  // namespace

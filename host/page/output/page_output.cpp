@@ -15,15 +15,15 @@ namespace host {
 namespace {
 
 // libgdiplus draws on surfaces of at most 32767 pixels a side.
-constexpr int kLongestSide = 32767;
-constexpr std::int64_t kMostPixels = 250'000'000;
+constexpr int kLongestImageSide = 32767;
+constexpr std::int64_t kMostImagePixels = 250'000'000;
 
 }  // namespace
 
 void CheckPageSize(const Page& page, double dpi) {
     const Gdiplus::Size size = PixelSize(page, dpi);
-    if (size.Width > kLongestSide || size.Height > kLongestSide ||
-        std::int64_t{size.Width} * size.Height > kMostPixels) {
+    if (size.Width > kLongestImageSide || size.Height > kLongestImageSide ||
+        std::int64_t{size.Width} * size.Height > kMostImagePixels) {
         throw std::runtime_error("the page would have " + std::to_string(size.Width) +
                                  " x " + std::to_string(size.Height) +
                                  " pixels; at most 32767 a side and 250 million are "
