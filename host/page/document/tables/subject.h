@@ -155,6 +155,7 @@ Property OneOf(Property property, const Choice (&choices)[Count]) {
 /// Choices in the order of their numbers.
 inline std::vector<Choice> ByNumber(const std::map<std::int32_t, const char*>& names) {
     std::vector<Choice> choices;
+    choices.reserve(names.size());
     for (const auto& [number, name] : names) {
         choices.push_back({name, number});
     }
