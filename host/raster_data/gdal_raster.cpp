@@ -150,9 +150,12 @@ std::unique_ptr<GdalRaster> GdalRaster::Open(const std::string& path, std::strin
         return nullptr;
     }
     std::string mainFile = MainFile(*dataset, path);
-    std::vector<std::string> files = FilesOf(*dataset);
+    std::vector<std::string> files;
     try {
         LookForSideFiles(*dataset);
+        if (LastRefused().empty()) {  // which asking for the files could overwrite
+            files = FilesOf(*dataset);
+        }
         dataset = WithNoData(dataset, style);
         auto shading = std::make_shared<RasterShading>(dataset, style);
         if (!LastRefused().empty()) {
