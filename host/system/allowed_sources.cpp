@@ -66,6 +66,12 @@ bool AllowedSources::IsInFiles(std::string_view name) {
 }
 
 std::string AllowedSources::WhyNot(const std::string& name) const {
+    std::string why = WhyNotName(name);
+    m_hasRefused = m_hasRefused || !why.empty();
+    return why;
+}
+
+std::string AllowedSources::WhyNotName(const std::string& name) const {
     std::error_code ignored;
     if (IsInFiles(name)) {
         return {};  // the file is looked at when it is opened

@@ -40,6 +40,9 @@ public:
     /// folders may be listed there.
     std::string WhyNotFile(const std::string& path) const;
 
+    /// Whether WhyNot has refused anything yet.
+    bool HasRefused() const { return m_hasRefused; }
+
     /// What to say of a file of a kind that is not read.
     std::string WhyNotOfThisKind() const;
 
@@ -51,9 +54,12 @@ public:
     static bool IsInFiles(std::string_view name);
 
 private:
+    std::string WhyNotName(const std::string& name) const;
+
     Options m_options;
     std::vector<std::string> m_places;  // absolute, and no links in them
     bool m_isNetworkAllowed = false;
+    mutable bool m_hasRefused = false;
 };
 
 }  // namespace host

@@ -1,6 +1,7 @@
 #include "page_editor/editing/page_files.h"
 
 #include <filesystem>
+#include <stdexcept>
 
 #include "page_editor/editing/separate_reading.h"
 #include "system/errors.h"
@@ -15,13 +16,29 @@ std::wstring TitleFor(const std::string& path) {
     return title;
 }
 
+host::OpenedPage Open(const std::string& path, const host::AllowedSources* allowed,
+                      const host::Progress& reading) {
+    host::Naming(path, [&] { TryPageFile(path, reading, allowed); });
+    return host::OpenPageFile(path, allowed, {}, [&](const host::Page& page) {
+        TryRastersOf(page.Items(), host::RasterStore(), reading, allowed);
+    });
+}
+
 }  // namespace
 
-host::OpenedPage OpenPageFile(const std::string& path, const host::Progress& reading) {
-    host::Naming(path, [&] { TryPageFile(path, reading); });
-    return host::OpenPageFile(path, nullptr, {}, [&](const host::Page& page) {
-        TryRastersOf(page.Items(), host::RasterStore(), reading);
-    });
+host::OpenedPage OpenPageFile(const std::string& path, const MayRead& mayRead,
+                              const host::Progress& reading) {
+    const host::AllowedSources allowed(path);
+    try {
+        return Open(path, &allowed, reading);
+    } catch (const std::runtime_error& error) {
+        const bool isRefused =
+            allowed.HasRefused() || dynamic_cast<const NotAllowed*>(&error) != nullptr;
+        if (!isRefused || !mayRead(error.what())) {
+            throw;
+        }
+    }
+    return Open(path, nullptr, reading);
 }
 
 host::OpenedPage LayOutRasters(const std::vector<std::string>& paths,

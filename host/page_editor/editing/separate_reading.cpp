@@ -1,8 +1,10 @@
 #include "page_editor/editing/separate_reading.h"
 
 #include <chrono>
+#include <filesystem>
 #include <functional>
 #include <stdexcept>
+#include <system_error>
 #include <variant>
 
 #include "page/document/item_type.h"
@@ -10,6 +12,8 @@
 #include "page/document/page_text.h"
 #include "page/document/picture_file.h"
 #include "page/map/map_layers.h"
+#include "raster_data/confined_gdal.h"
+#include "system/confinement.h"
 #include "system/separate_process.h"
 
 namespace page_editor {
@@ -49,29 +53,26 @@ private:
 
 /// Only a process that dies matters here: other errors come up when the editor itself
 /// reads the file.
-template <typename Reading>
-void Try(const std::string& path, const host::Progress& progress, Reading read) {
+/// @return what reading returns; empty when it throws
+std::string Try(const std::string& path, const host::Progress& progress,
+                const std::function<std::string()>& read) {
     Telling telling(progress);
     try {
-        host::InSeparateProcess(
-            "reading",
-            [&](const host::Progress&) {
-                read();
-                return std::string();
-            },
-            std::ref(telling));
+        return host::InSeparateProcess(
+            "reading", [&](const host::Progress&) { return read(); }, std::ref(telling));
     } catch (const host::WorkFailed&) {
-        return;
+        return {};
     } catch (const std::runtime_error& error) {
         throw host::PageError(path, error.what());
     }
 }
 
-void ReadRaster(const std::string& path) {
+/// @return why it cannot be opened; empty when it can
+std::string ReadRaster(const std::string& path) {
     std::string why;
     const auto raster = host::GdalRaster::Open(path, why);
     if (raster == nullptr) {
-        return;
+        return why;
     }
     raster->GetClassifyDisplayTable();
     if (raster->GetDisplayType() == DisplayGray) {
@@ -79,6 +80,20 @@ void ReadRaster(const std::string& path) {
         double high = 0.0;
         raster->GetRasterBand(0)->ComputeMinMax(&low, &high, true);
     }
+    return {};
+}
+
+/// The same where no more is read than is allowed, and nothing else can be done. One that
+/// is not there is nobody's to allow.
+std::string ReadAllowedRaster(const std::string& path,
+                              const host::AllowedSources& allowed) {
+    host::ConfineGdal(allowed);
+    host::Confine({});
+    std::string why = ReadRaster(path);
+    std::error_code ignored;
+    const bool isNowhere =
+        !host::AllowedSources::IsNoPath(path) && !std::filesystem::exists(path, ignored);
+    return isNowhere ? "" : why;
 }
 
 }  // namespace
@@ -102,38 +117,56 @@ host::PixelImage RenderSeparately(host::MapPicture& picture, int width, int heig
 }
 
 void TryRasters(const std::vector<std::string>& paths, const host::RasterStore& rasters,
-                const host::Progress& progress) {
+                const host::Progress& progress, const host::AllowedSources* allowed) {
     for (const std::string& path : paths) {
-        if (!rasters.Has(path)) {
-            Try(path, progress, [&] { ReadRaster(path); });
+        if (rasters.Has(path)) {
+            continue;
+        }
+        const std::string why = Try(path, progress, [&] {
+            return allowed != nullptr ? ReadAllowedRaster(path, *allowed)
+                                      : ReadRaster(path);
+        });
+        if (allowed != nullptr && !why.empty()) {
+            throw NotAllowed(path + " " + why);
         }
     }
 }
 
 void TryRastersOf(const std::vector<host::PageItem>& items,
-                  const host::RasterStore& rasters, const host::Progress& progress) {
+                  const host::RasterStore& rasters, const host::Progress& progress,
+                  const host::AllowedSources* allowed) {
     for (const host::PageItem& item : items) {
         const host::ItemType* const type = host::TypeOf(item);
         for (const host::Property& property :
              type == nullptr ? std::vector<host::Property>() : type->properties) {
             if (property.kind == host::PropertyKind::Rasters) {
                 TryRasters(std::get<std::vector<std::string>>(property.read(item)),
-                           rasters, progress);
+                           rasters, progress, allowed);
             }
         }
     }
 }
 
 void TryImage(const std::string& path, const host::Progress& progress) {
-    Try(path, progress, [&] { host::CheckImageFile(path); });
+    Try(path, progress, [&] { return host::CheckImageFile(path); });
 }
 
-void TryPageFile(const std::string& path, const host::Progress& progress) {
-    Try("", progress, [&] { host::CheckFilesAndFonts(host::LoadPage(path)); });
+void TryPageFile(const std::string& path, const host::Progress& progress,
+                 const host::AllowedSources* allowed) {
+    Try("", progress, [&] {
+        if (allowed != nullptr) {
+            host::Confine({});
+        }
+        host::CheckFilesAndFonts(host::LoadPage(path, allowed));
+        return std::string();
+    });
 }
 
 void TryItems(const std::string& lines, const host::Progress& progress) {
-    Try("", progress, [&] { host::ReadItems(lines); });
+    Try("", progress, [&] {
+        host::ReadItems(lines);
+        return std::string();
+    });
 }
 
 }  // namespace page_editor

@@ -11,6 +11,8 @@
 
 #include "page/document/raster_store.h"
 #include "page/page.h"
+#include "system/allowed_sources.h"
+#include "system/errors.h"
 
 namespace page_editor {
 
@@ -19,23 +21,35 @@ namespace page_editor {
 host::PixelImage RenderSeparately(host::MapPicture& picture, int width, int height,
                                   const host::Progress& progress);
 
+/// What a page file would have read that it may not: "/etc/a.tif is outside /maps".
+class NotAllowed : public host::NamedError {
+public:
+    using NamedError::NamedError;
+};
+
 /// Reads from rasters that are not open yet what the editor is going to read: their
 /// descriptions and what legends show. Throws host::PageError naming the first raster on
 /// which a decoder died or reading was cancelled; other errors come up when the editor
 /// reads it.
+/// @param allowed what may be read, by them and what they lead to; null: all. Throws
+/// NotAllowed for a raster that cannot be read by that alone.
 void TryRasters(const std::vector<std::string>& paths, const host::RasterStore& rasters,
-                const host::Progress& progress);
+                const host::Progress& progress,
+                const host::AllowedSources* allowed = nullptr);
 
 /// The same for the rasters that items name.
 void TryRastersOf(const std::vector<host::PageItem>& items,
-                  const host::RasterStore& rasters, const host::Progress& progress);
+                  const host::RasterStore& rasters, const host::Progress& progress,
+                  const host::AllowedSources* allowed = nullptr);
 
 /// The same for the image of a picture.
 void TryImage(const std::string& path, const host::Progress& progress);
 
 /// The same for a page file with its pictures, but without rasters; the error does not
 /// name the file.
-void TryPageFile(const std::string& path, const host::Progress& progress);
+/// @param allowed what may be read; null: all. Others are left to be refused later.
+void TryPageFile(const std::string& path, const host::Progress& progress,
+                 const host::AllowedSources* allowed);
 
 /// The same for items as text, a line each.
 void TryItems(const std::string& lines, const host::Progress& progress);

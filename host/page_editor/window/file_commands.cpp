@@ -17,6 +17,7 @@
 #include "page_editor/window/recent_files.h"
 #include "page_editor/window/waiting.h"
 #include "system/errors.h"
+#include "system/one_line.h"
 
 namespace page_editor {
 namespace {
@@ -94,7 +95,10 @@ bool FileCommands::OpenFiles(const QStringList& paths) {
     const bool isOpen = Attempt([&] {
         const WaitCursor waiting;
         host::OpenedPage opened =
-            isPage ? OpenPageFile(first.toStdString(), m_document.Reading())
+            isPage ? OpenPageFile(
+                         first.toStdString(),
+                         [this](const std::string& what) { return MayRead(what); },
+                         m_document.Reading())
                    : LayOutRasters(Standard(paths), m_document.Reading());
         m_document.Replace(std::move(opened.page), std::move(opened.rasters));
         for (const std::string& remark : opened.remarks) {
@@ -107,6 +111,18 @@ bool FileCommands::OpenFiles(const QStringList& paths) {
         RemoveRecentFile(first);
     }
     return isOpen;
+}
+
+bool FileCommands::MayRead(const std::string& what) {
+    QMessageBox box(QMessageBox::Warning, "Files of others",
+                    "This page has more read than the rasters and pictures beside it:",
+                    QMessageBox::Yes | QMessageBox::No, &m_window);
+    box.setInformativeText(QString::fromStdString(host::OneLine(what)) +
+                           "\n\nAllow it to have anything read? Say no to a page that "
+                           "you do not trust.");
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(QMessageBox::No);
+    return box.exec() == QMessageBox::Yes;
 }
 
 bool FileCommands::Save() { return m_path.isEmpty() ? SaveAs() : SaveTo(m_path); }

@@ -4,6 +4,7 @@
 #include <QStringList>
 #include <QWidget>
 #include <functional>
+#include <string>
 
 #include "page_editor/editing/page_document.h"
 
@@ -44,6 +45,8 @@ Q_SIGNALS:
     void Told(const QString& what);
 
 private:
+    /// Asks whether a page file may have read what it may not by itself.
+    bool MayRead(const std::string& what);
     bool Attempt(const std::function<void()>& step);
     void SetPath(const QString& path);
 

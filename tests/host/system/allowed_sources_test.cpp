@@ -79,7 +79,9 @@ TEST_F(AllowedSources, AreRelativeToWhereTheProgramRuns) {
     fs::current_path(folder.Path("maps"));
     const host::AllowedSources allowed("page.json");
     EXPECT_EQ(allowed.WhyNot("a.tif"), "");
+    EXPECT_FALSE(allowed.HasRefused());
     EXPECT_EQ(allowed.WhyNot("../maps-old/b.tif"), "is outside " + Real("maps"));
+    EXPECT_TRUE(allowed.HasRefused());
     fs::current_path(before);
 }
 

@@ -9,6 +9,7 @@
 #include <QProcess>
 #include <QTimer>
 #include <algorithm>
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 
@@ -38,11 +39,65 @@ void AnswerWith(QMessageBox::StandardButton button) {
     });
 }
 
+/// The same of a question that is asked only after a while.
+void AnswerLater(QMessageBox::StandardButton button) {
+    auto* const timer = new QTimer(qApp);
+    QObject::connect(timer, &QTimer::timeout, timer, [timer, button] {
+        auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        if (box != nullptr) {
+            timer->deleteLater();
+            box->button(button)->click();
+        }
+    });
+    timer->start(20);
+}
+
 class FileCommands : public EditorTest {
 protected:
     QString Path(const char* name) { return QString::fromStdString(folder.Path(name)); }
     page_editor::FileCommands& files = window.Files();
 };
+
+// A page of a stranger: the rasters and pictures beside it are read, and no others unless
+// the person says so.
+TEST_F(FileCommands, AsksBeforeAPageHasMoreReadThanWhatIsBesideIt) {
+    std::filesystem::create_directory(folder.Path("maps"));
+    WriteScene(folder.Path("maps/scene.tif"), 60, 40);
+    WriteScene(folder.Path("scene.tif"), 60, 40);
+    std::ofstream(folder.Path("maps/scene.vrt"))
+        << "<VRTDataset rasterXSize=\"60\" rasterYSize=\"40\"><VRTRasterBand "
+           "dataType=\"Byte\" band=\"1\"><SimpleSource><SourceFilename>"
+        << folder.Path("scene.tif")
+        << "</SourceFilename></SimpleSource></VRTRasterBand></VRTDataset>";
+    const std::string outside = folder.Path("scene.tif") + " is outside " +
+                                std::filesystem::canonical(folder.Path("maps")).string();
+    const std::pair<std::string, std::string> rows[] = {
+        {R"("type": "map", "rasters": ["scene.tif"])", ""},
+        {R"("type": "map", "rasters": ["../scene.tif"])", outside},
+        {R"("type": "map", "rasters": ["scene.vrt"])",
+         "reads " + folder.Path("scene.tif") + ", which is outside"},
+        {R"("type": "picture", "path": "../scene.tif")", outside},
+    };
+    QString failed;
+    QObject::connect(&files, &page_editor::FileCommands::Failed,
+                     [&failed](const QString& why) { failed = why; });
+    for (const auto& [element, why] : rows) {
+        std::ofstream(folder.Path("maps/page.json"))
+            << R"({"version": 2, "width": 800, "height": 600, "elements": [{)" << element
+            << R"(, "frame": {"width": 300, "height": 200}}]})";
+        if (why.empty()) {
+            EXPECT_TRUE(files.OpenFiles({Path("maps/page.json")})) << element;
+            continue;
+        }
+        const std::size_t before = document.Page().Items().size();
+        AnswerLater(QMessageBox::No);
+        EXPECT_FALSE(files.OpenFiles({Path("maps/page.json")})) << element;
+        EXPECT_THAT(failed.toStdString(), HasSubstr(why));
+        EXPECT_EQ(document.Page().Items().size(), before);
+        AnswerLater(QMessageBox::Yes);
+        EXPECT_TRUE(files.OpenFiles({Path("maps/page.json")})) << element;
+    }
+}
 
 TEST_F(FileCommands, SavesAndOpensAgain) {
     WriteScene(folder.Path("scene.tif"), 60, 40);
