@@ -15,6 +15,7 @@
 #include <memory>
 #include <stdexcept>
 #include <utility>
+#include <vector>
 
 #include "raster_data/confined_gdal.h"
 #include "raster_data/gdal_session.h"
@@ -57,71 +58,79 @@ bool IsNotOfRasters(const CPLXMLNode& node) {
             EQUAL(CPLGetXMLValue(&node, "key", ""), "OVERVIEW_FILE"));
 }
 
-// NOLINTBEGIN(misc-no-recursion): no deeper than kDeepest VRTs, and than an XML file
-// nests
-/// What a VRT is made of, and so on. Throws std::runtime_error with what speaks against
-/// it.
-class Sources {
-public:
-    /// The rasters that a VRT stands for; each is read as often as it is named.
-    std::int64_t CountIn(const std::string& vrt, int depth = 1) {
-        const auto known = m_counts.find({vrt, depth});
-        if (known != m_counts.end()) {
-            return known->second;
+/// Rasters, and how often each is read.
+using Counts = std::map<std::string, std::int64_t>;
+
+std::string SourceIn(const CPLXMLNode& element, const std::string& vrt) {
+    const char* const name = CPLGetXMLValue(&element, nullptr, "");
+    const bool isRelative =
+        std::atoi(CPLGetXMLValue(&element, "relativeToVRT", "0")) != 0;
+    return isRelative ? CPLProjectRelativeFilename(CPLGetPath(vrt.c_str()), name) : name;
+}
+
+/// What a VRT is made of. Throws std::runtime_error with what is not allowed of it.
+Counts SourcesOf(const std::string& vrt) {
+    Counts sources;
+    const Xml xml(CPLParseXMLFile(vrt.c_str()), CPLDestroyXMLNode);
+    std::vector<const CPLXMLNode*> left = {xml.get()};
+    while (!left.empty()) {
+        const CPLXMLNode* const node = left.back();
+        left.pop_back();
+        if (node == nullptr) {
+            continue;
         }
+        if (IsGdalConfined() && IsNotOfRasters(*node)) {
+            throw std::runtime_error("is a VRT of more than rasters");
+        }
+        left.push_back(node->psNext);
+        if (std::any_of(std::begin(kSources), std::end(kSources),
+                        [node](const char* name) { return IsCalled(*node, name); })) {
+            ++sources[SourceIn(*node, vrt)];
+        } else {
+            left.push_back(node->psChild);
+        }
+    }
+    return sources;
+}
+
+void CheckAllowed(const std::string& source) {
+    const std::string why = WhyNotAllowed(source);
+    if (!why.empty()) {
+        throw std::runtime_error("reads " + source + ", which " + why);
+    }
+}
+
+/// Goes down from a VRT to those in it and so on. Throws std::runtime_error with what
+/// speaks against them.
+void CheckVrt(const std::string& raster) {
+    Counts vrts = {{raster, 1}};
+    std::int64_t count = 0;
+    for (int depth = 1; !vrts.empty(); ++depth) {
         if (depth > kDeepest) {
             throw std::runtime_error("has VRTs in VRTs, more than " +
                                      std::to_string(kDeepest) + " deep");
         }
-        const Xml xml(CPLParseXMLFile(vrt.c_str()), CPLDestroyXMLNode);
-        const std::int64_t count = CountOfAll(xml.get(), vrt, depth);
-        if (m_isNested && count > kMostNested) {
+        Counts below;
+        std::int64_t nested = 0;
+        for (const auto& [vrt, times] : vrts) {
+            for (const auto& [source, timesHere] : SourcesOf(vrt)) {
+                CheckAllowed(source);
+                const std::int64_t all = times * timesHere;
+                if (IsVrt(source)) {
+                    below[source] += all;
+                    nested += all;
+                } else {
+                    count += all;
+                }
+            }
+        }
+        if ((depth > 1 || nested > 0) && count + nested > kMostNested) {
             throw std::runtime_error("has VRTs in VRTs, which stand for more than " +
                                      std::to_string(kMostNested) + " rasters");
         }
-        m_counts[{vrt, depth}] = count;
-        return count;
+        vrts = std::move(below);
     }
-
-private:
-    /// Of a node, those after it, and all below them.
-    std::int64_t CountOfAll(const CPLXMLNode* node, const std::string& vrt, int depth) {
-        std::int64_t count = 0;
-        for (; node != nullptr; node = node->psNext) {
-            if (IsGdalConfined() && IsNotOfRasters(*node)) {
-                throw std::runtime_error("is a VRT of more than rasters");
-            }
-            const bool isSource =
-                std::any_of(std::begin(kSources), std::end(kSources),
-                            [&](const char* name) { return IsCalled(*node, name); });
-            count += isSource ? CountOf(*node, vrt, depth)
-                              : CountOfAll(node->psChild, vrt, depth);
-        }
-        return count;
-    }
-
-    std::int64_t CountOf(const CPLXMLNode& element, const std::string& vrt, int depth) {
-        const std::string name = CPLGetXMLValue(&element, nullptr, "");
-        const bool isRelative =
-            std::atoi(CPLGetXMLValue(&element, "relativeToVRT", "0")) != 0;
-        const std::string source =
-            isRelative ? CPLProjectRelativeFilename(CPLGetPath(vrt.c_str()), name.c_str())
-                       : name;
-        const std::string why = WhyNotAllowed(source);
-        if (!why.empty()) {
-            throw std::runtime_error("reads " + source + ", which " + why);
-        }
-        if (!IsVrt(source)) {
-            return 1;
-        }
-        m_isNested = true;
-        return CountIn(source, depth + 1);
-    }
-
-    bool m_isNested = false;
-    std::map<std::pair<std::string, int>, std::int64_t> m_counts;
-};
-// NOLINTEND(misc-no-recursion)
+}
 
 }  // namespace
 
@@ -129,7 +138,7 @@ std::string WhyNotVrt(const std::string& raster) {
     const QuietGdal quiet;
     try {
         if (IsVrt(raster)) {
-            Sources().CountIn(raster);
+            CheckVrt(raster);
         }
         return {};
     } catch (const std::runtime_error& error) {

@@ -72,6 +72,18 @@ TEST_F(VrtSources, ThatGoRoundInACircleAreTold) {
     EXPECT_EQ(WhyNot("round.vrt"), "has VRTs in VRTs, more than 3 deep");
 }
 
+TEST_F(VrtSources, MayStandDeepInADescription) {
+    std::string description = "<VRTDataset>";
+    for (int i = 0; i < 100'000; ++i) {
+        description += "<a>";
+    }
+    std::ofstream(folder / "deep.vrt") << description;
+    EXPECT_EQ(WhyNot("deep.vrt"), "");
+    std::ofstream(folder / "many.vrt")
+        << "<VRTDataset>" + std::string(3'000'000, ' ') << "</VRTDataset>";
+    EXPECT_EQ(WhyNot("many.vrt"), "");
+}
+
 TEST_F(VrtSources, AreNoneOfWhatIsNoVrt) {
     std::ofstream(folder / "broken.vrt") << "<VRTDataset><VRTRasterBand>";
     std::ofstream(folder / "empty.vrt");
