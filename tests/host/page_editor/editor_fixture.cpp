@@ -1,8 +1,10 @@
 #include "page_editor/editor_fixture.h"
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
 #include <QMouseEvent>
+#include <QTimer>
 #include <QtTest>
 #include <algorithm>
 #include <cstdlib>
@@ -127,6 +129,18 @@ void EditorTest::Command(const char* name) {
 void EditorTest::ExpectImageIsThePage() {
     const double dpi = canvas.Zoom() * 96.0;
     EXPECT_LE(MostDifference(canvas.Image(), DrawnWhole(document.Page(), dpi)), kHair);
+}
+
+void AnswerLater(QMessageBox::StandardButton button) {
+    auto* const timer = new QTimer(qApp);
+    QObject::connect(timer, &QTimer::timeout, timer, [timer, button] {
+        auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        if (box != nullptr) {
+            timer->deleteLater();
+            box->button(button)->click();
+        }
+    });
+    timer->start(20);
 }
 
 void ExpectBox(const host::Box& box, const host::Box& expected) {

@@ -4,6 +4,7 @@
 
 #include <QEvent>
 #include <QImage>
+#include <QMessageBox>
 #include <QPointF>
 #include <string>
 
@@ -52,6 +53,9 @@ private:
     void Send(QEvent::Type type, CPoint2D at, Qt::MouseButton button,
               Qt::MouseButtons buttons, Qt::KeyboardModifiers modifiers);
 };
+
+/// Presses a button of the next question, whenever it is asked.
+void AnswerLater(QMessageBox::StandardButton button);
 
 void ExpectBox(const host::Box& box, const host::Box& expected);
 

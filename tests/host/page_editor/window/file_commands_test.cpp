@@ -21,6 +21,7 @@
 
 namespace {
 
+using editor_tests::AnswerLater;
 using editor_tests::EditorTest;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
@@ -37,19 +38,6 @@ void AnswerWith(QMessageBox::StandardButton button) {
         ASSERT_NE(box, nullptr);
         box->button(button)->click();
     });
-}
-
-/// The same of a question that is asked only after a while.
-void AnswerLater(QMessageBox::StandardButton button) {
-    auto* const timer = new QTimer(qApp);
-    QObject::connect(timer, &QTimer::timeout, timer, [timer, button] {
-        auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-        if (box != nullptr) {
-            timer->deleteLater();
-            box->button(button)->click();
-        }
-    });
-    timer->start(20);
 }
 
 class FileCommands : public EditorTest {

@@ -101,6 +101,7 @@ TEST_F(TrapFiles, AreNotOpenedWithAPage) {
     const std::string now = Text();
     WriteTrap(folder.Path("well.trap"), Trap::DiesWhenOpened);
     page_editor::EditorWindow other;
+    editor_tests::AnswerLater(QMessageBox::Yes);  // for it is of no plain kind
     EXPECT_FALSE(other.Files().OpenFiles({Path("page.json")}));
     EXPECT_EQ(other.LastFailure().toStdString(),
               folder.Path("page.json") + ": " + Died("well.trap"));
