@@ -57,6 +57,9 @@ bool IsOneOf(std::string_view text, const std::string_view (&list)[Count]) {
     return std::find(std::begin(list), std::end(list), text) != std::end(list);
 }
 
+/// Memory of this process, in which nothing is but what it writes: TIFF files.
+constexpr std::string_view kMemoryFolder = "/vsimem/";
+
 /// The file system as GDAL sees it: what is not allowed is not there, and nothing can be
 /// written.
 class AllowedFilesystem : public VSIFilesystemHandler {
@@ -125,6 +128,7 @@ void ConfineFilesystems() {
     for (int i = 0; i < prefixes.size(); ++i) {
         const std::string_view prefix = prefixes[i];
         const bool isKept = AllowedSources::IsInFiles(prefix) ||
+                            prefix == kMemoryFolder ||
                             (Current()->allowed.IsNetworkAllowed() &&
                              !BeginsWithOneOf(prefix, kNeverFolders));
         if (!isKept) {

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "page/output/image_resolution.h"
+#include "page/output/tiff_image.h"
 #include "system/memory_file.h"
 
 namespace host {
@@ -13,16 +14,9 @@ const wchar_t* MimeTypeOf(OutputFormat format) {
     switch (format) {
         case OutputFormat::Jpeg:
             return L"image/jpeg";
-        case OutputFormat::Bmp:
+        default:
             return L"image/bmp";
-        case OutputFormat::Tiff:
-            return L"image/tiff";
-        case OutputFormat::Png:
-        case OutputFormat::PostScript:
-        case OutputFormat::Pdf:
-            break;
     }
-    return L"image/png";
 }
 
 CLSID EncoderOf(OutputFormat format) {
@@ -44,9 +38,13 @@ CLSID EncoderOf(OutputFormat format) {
 }  // namespace
 
 std::vector<std::uint8_t> Encode(PageImage& image, OutputFormat format, double dpi) {
-    // GDI+ writes PNG files too, but takes three times as long.
+    // GDI+ writes PNG files too, but takes three times as long; and TIFF files, without a
+    // resolution, unpacked, and with an alpha.
     if (format == OutputFormat::Png) {
         return EncodePng(image.Rows(), dpi);
+    }
+    if (format == OutputFormat::Tiff) {
+        return EncodeTiff(image.Rows(), dpi);
     }
     const MemoryFile file;
     const CLSID encoder = EncoderOf(format);

@@ -163,7 +163,9 @@ public:
         return SetStatus(
             DllExports::GdipBitmapSetPixel(Pixels(), x, y, color.GetValue()));
     }
-    /// Dots per inch, as stored in files and used by DrawImage.
+    /// Dots per inch: DrawImage draws the bitmap by them, and a Graphics on it answers
+    /// them. libgdiplus writes them into no file; the flat functions over Cairo write
+    /// them into PNG, JPEG, TIFF and BMP.
     Status SetResolution(REAL xdpi, REAL ydpi) {
         return SetStatus(DllExports::GdipBitmapSetResolution(Pixels(), xdpi, ydpi));
     }
