@@ -144,8 +144,7 @@ editor: build/release/with-editor
 
 editor-test: build/release/with-test build/release/with-editor
 	cmake --build --preset release --target page_editor_tests
-	# A process that is forked beside Pango's own thread may wait for ever for its lock.
-	ctest --preset release -R '^page_editor_tests' --repeat until-pass:2
+	ctest --preset release -R '^page_editor_tests'
 
 bench: build/release/with-bench
 	cmake --build --preset release --target library_bench

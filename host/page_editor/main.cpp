@@ -13,9 +13,12 @@
 #include <vector>
 
 #include "map_surround/version.h"
+#include "page_editor/editing/file_jobs.h"
 #include "page_editor/window/editor_window.h"
+#include "raster_data/gdal_session.h"
 #include "system/errors.h"
 #include "system/gdiplus_session.h"
+#include "system/helper_process.h"
 #include "system/output_file.h"
 #include "system/standard_streams.h"
 
@@ -91,9 +94,11 @@ int Run(int argc, char** argv) {
     if (!options) {
         return 0;
     }
+    CPLSetErrorHandler(CPLQuietErrorHandler);
+    host::StartGdal();  // for the helper too
+    host::StartHelper(page_editor::FileJobs());
     const QApplication application(argc, argv);
     host::RemoveUnfinishedOutputOnSignals();
-    CPLSetErrorHandler(CPLQuietErrorHandler);
     const host::GdiplusSession session;
     page_editor::EditorWindow window;
     window.show();

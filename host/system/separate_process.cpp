@@ -1,7 +1,6 @@
 #include "system/separate_process.h"
 
 #include <fcntl.h>
-#include <poll.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -12,7 +11,6 @@
 #include <chrono>
 #include <cmath>
 #include <csignal>
-#include <cstddef>
 #include <cstring>
 #include <exception>
 #include <new>
@@ -22,26 +20,14 @@
 #include "system/child_process.h"
 #include "system/descriptor.h"
 #include "system/errors.h"
+#include "system/work_report.h"
 
 namespace host {
 namespace {
 
-// The first byte of what is sent. A process that ends without a report has crashed,
-// whatever status it ended with: some decoders call exit.
-constexpr char kDone = '+';
-constexpr char kFailed = '-';
-constexpr char kPart = '%';  // and the part as a double; a report may follow
-
 using Clock = std::chrono::steady_clock;
 
 constexpr double kSmallestStep = 1.0 / 256.0;  // of progress that is worth telling
-constexpr int kPatience = 100;                 // milliseconds between two looks
-
-std::string PartMessage(double part) {
-    std::string message(1 + sizeof(part), kPart);
-    std::memcpy(&message[1], &part, sizeof(part));
-    return message;
-}
 
 /// A failed write is ignored: the reader is gone, and ends this process next.
 void Send(int descriptor, const std::string& message) {
@@ -103,40 +89,20 @@ public:
     }
 
     std::string Result(const Progress& progress) {
-        std::string sent;
-        double part = 0.0;
-        for (bool isOpen = true; isOpen;) {
+        ReportReader reader(m_descriptor);
+        while (reader.Next()) {
             CheckTime();
-            if ((progress || m_limits.seconds > 0) && !HasMore()) {
-                Tell(progress, part);
-                continue;
-            }
-            isOpen = Receive(sent);
-            if (TakeParts(sent, part)) {
-                Tell(progress, part);
+            if (reader.IsWorthTelling()) {
+                Tell(progress, reader.Part());
             }
         }
         const int status = WaitFor(m_process);
         m_process = -1;
-        CheckEnd(status, sent);
-        return sent.substr(1);
+        CheckEnd(status, reader);
+        return reader.Report().substr(1);
     }
 
 private:
-    /// Whether reading would not wait.
-    bool HasMore() const {
-        pollfd descriptor = {m_descriptor, POLLIN, 0};
-        return poll(&descriptor, 1, kPatience) > 0;
-    }
-
-    /// @return false at the end
-    bool Receive(std::string& sent) const {
-        std::array<char, 65536> part{};
-        const ssize_t count = read(m_descriptor, part.data(), part.size());
-        sent.append(part.data(), count > 0 ? static_cast<std::size_t>(count) : 0);
-        return count > 0 || (count < 0 && errno == EINTR);
-    }
-
     void Tell(const Progress& progress, double part) const {
         if (progress && !progress(part)) {
             throw std::runtime_error(m_what + " was stopped");
@@ -151,19 +117,7 @@ private:
         }
     }
 
-    /// Removes the progress messages at the front; the last one counts.
-    static bool TakeParts(std::string& sent, double& part) {
-        constexpr std::size_t kLength = 1 + sizeof(part);
-        std::size_t taken = 0;
-        while (sent.size() - taken >= kLength && sent[taken] == kPart) {
-            std::memcpy(&part, &sent[taken + 1], sizeof(part));
-            taken += kLength;
-        }
-        sent.erase(0, taken);
-        return taken > 0;
-    }
-
-    void CheckEnd(int status, const std::string& sent) const {
+    void CheckEnd(int status, const ReportReader& reader) const {
         if (WIFSIGNALED(status)) {
             const int signal = WTERMSIG(status);
             throw std::runtime_error(
@@ -171,14 +125,12 @@ private:
                 std::to_string(signal) + ")" +
                 (m_limits.megabytes == 0 ? "" : " within " + NameOfLimit(m_limits)));
         }
-        const bool isReport =
-            !sent.empty() && (sent.front() == kDone || sent.front() == kFailed);
-        if (!isReport || WEXITSTATUS(status) != 0) {
+        if (!reader.IsReport() || WEXITSTATUS(status) != 0) {
             throw std::runtime_error(m_what + " failed: ended with status " +
                                      std::to_string(WEXITSTATUS(status)));
         }
-        if (sent.front() == kFailed) {
-            throw WorkFailed(sent.substr(1));
+        if (reader.Report().front() == kFailed) {
+            throw WorkFailed(reader.Report().substr(1));
         }
     }
 

@@ -106,18 +106,6 @@ MapLayers::MapLayers(std::vector<std::shared_ptr<GdalRaster>> rasters,
     }
 }
 
-std::unique_ptr<MapLayers> MapLayers::Reopened() const {
-    std::vector<std::shared_ptr<GdalRaster>> rasters;
-    for (const std::shared_ptr<GdalRaster>& given : m_given) {
-        std::string why;
-        rasters.push_back(GdalRaster::Open(given->Path(), why, given->Style()));
-        if (rasters.back() == nullptr) {
-            throw std::runtime_error(why.insert(0, given->Path() + ": "));
-        }
-    }
-    return std::make_unique<MapLayers>(std::move(rasters), m_asked);
-}
-
 std::vector<std::string> MapLayers::Remarks() const {
     std::vector<std::string> remarks = m_remarks;
     if (m_layers.empty()) {

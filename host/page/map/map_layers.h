@@ -30,9 +30,10 @@ public:
 
     PixelImage Render(int width, int height, const Progress& progress) override;
 
-    /// The same map of its files opened anew. Throws std::runtime_error that names the
-    /// file and the reason when one cannot be.
-    std::unique_ptr<MapLayers> Reopened() const;
+    /// What it was made of, for one that makes it again of its files: also the rasters
+    /// that are left out.
+    const std::vector<std::shared_ptr<GdalRaster>>& Given() const { return m_given; }
+    const std::optional<Box>& Asked() const { return m_asked; }
 
     /// What the map spans: pixels and lines for a raster without georeference.
     const Box& Extent() const { return m_extent; }

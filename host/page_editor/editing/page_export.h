@@ -2,17 +2,21 @@
 
 #include <string>
 
+#include "page/document/raster_store.h"
 #include "page/page.h"
 
 namespace page_editor {
 
 /// Draws a page into an image or a file for print, as the name's ending says, in a
 /// separate process. Throws std::runtime_error with the file's name and the reason; an
-/// older file of that name is then left alone.
+/// older file of that name is then left alone, as is whatever the page is drawn from.
+/// @param rasters those of the page
 /// @param dpi device pixels an inch
+/// @param pageFile the page's own file, which stays as well; empty for none
 /// @param progress called several times a second with how far the maps have been read;
 /// returning false cancels the export, which then throws
-void ExportPage(const host::Page& page, const std::string& path, double dpi,
+void ExportPage(const host::Page& page, const host::RasterStore& rasters,
+                const std::string& path, double dpi, const std::string& pageFile,
                 const host::Progress& progress = {});
 
 }  // namespace page_editor

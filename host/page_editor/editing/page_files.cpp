@@ -18,9 +18,10 @@ std::wstring TitleFor(const std::string& path) {
 
 host::OpenedPage Open(const std::string& path, const host::AllowedSources* allowed,
                       const host::Progress& reading) {
-    host::Naming(path, [&] { TryPageFile(path, reading, allowed); });
+    host::Naming(path, [&] { TryPageFile(path, allowed != nullptr, reading); });
     return host::OpenPageFile(path, allowed, {}, [&](const host::Page& page) {
-        TryRastersOf(page.Items(), host::RasterStore(), reading, allowed);
+        TryRastersOf(page.Items(), host::RasterStore(), reading,
+                     allowed != nullptr ? path : "");
     });
 }
 

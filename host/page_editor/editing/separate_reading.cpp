@@ -1,20 +1,16 @@
 #include "page_editor/editing/separate_reading.h"
 
 #include <chrono>
-#include <filesystem>
 #include <functional>
 #include <stdexcept>
-#include <system_error>
 #include <variant>
 
 #include "page/document/item_type.h"
 #include "page/document/page_error.h"
 #include "page/document/page_text.h"
-#include "page/document/picture_file.h"
 #include "page/map/map_layers.h"
-#include "raster_data/confined_gdal.h"
-#include "system/confinement.h"
-#include "system/separate_process.h"
+#include "page_editor/editing/file_jobs.h"
+#include "system/helper_process.h"
 
 namespace page_editor {
 namespace {
@@ -53,13 +49,12 @@ private:
 
 /// Only a process that dies matters here: other errors come up when the editor itself
 /// reads the file.
-/// @return what reading returns; empty when it throws
-std::string Try(const std::string& path, const host::Progress& progress,
-                const std::function<std::string()>& read) {
+/// @return what the job returns; empty when it throws
+std::string Try(const std::string& path, const std::string& job, const std::string& input,
+                const host::Progress& progress) {
     Telling telling(progress);
     try {
-        return host::InSeparateProcess(
-            "reading", [&](const host::Progress&) { return read(); }, std::ref(telling));
+        return host::InHelper("reading", job, input, std::ref(telling));
     } catch (const host::WorkFailed&) {
         return {};
     } catch (const std::runtime_error& error) {
@@ -67,33 +62,15 @@ std::string Try(const std::string& path, const host::Progress& progress,
     }
 }
 
-/// @return why it cannot be opened; empty when it can
-std::string ReadRaster(const std::string& path) {
-    std::string why;
-    const auto raster = host::GdalRaster::Open(path, why);
-    if (raster == nullptr) {
-        return why;
+/// What a map was made of, as an item.
+std::string TextOf(const host::MapLayers& layers) {
+    host::MapFrame map;
+    for (const auto& raster : layers.Given()) {
+        map.rasterPaths.push_back(raster->Path());
+        map.style = raster->Style();
     }
-    raster->GetClassifyDisplayTable();
-    if (raster->GetDisplayType() == DisplayGray) {
-        double low = 0.0;
-        double high = 0.0;
-        raster->GetRasterBand(0)->ComputeMinMax(&low, &high, true);
-    }
-    return {};
-}
-
-/// The same where no more is read than is allowed, and nothing else can be done. One that
-/// is not there is nobody's to allow.
-std::string ReadAllowedRaster(const std::string& path,
-                              const host::AllowedSources& allowed) {
-    host::ConfineGdal(allowed);
-    host::Confine({});
-    std::string why = ReadRaster(path);
-    std::error_code ignored;
-    const bool isNowhere =
-        !host::AllowedSources::IsNoPath(path) && !std::filesystem::exists(path, ignored);
-    return isNowhere ? "" : why;
+    map.extent = layers.Asked();
+    return host::WriteItem(map);
 }
 
 }  // namespace
@@ -105,68 +82,52 @@ host::PixelImage RenderSeparately(host::MapPicture& picture, int width, int heig
     if (layers == nullptr) {
         return picture.Render(width, height, std::ref(telling));
     }
-    const std::string bytes = host::InSeparateProcess(
-        "reading the rasters",
-        [&](const host::Progress& tell) {
-            const host::PixelImage image =
-                layers->Reopened()->Render(width, height, tell);
-            return std::string(image.bgra.begin(), image.bgra.end());
-        },
+    const std::string bytes = host::InHelper(
+        "reading the rasters", kRenderMap,
+        Joined({TextOf(*layers), std::to_string(width), std::to_string(height)}),
         std::ref(telling));
     return {width, height, {bytes.begin(), bytes.end()}};
 }
 
 void TryRasters(const std::vector<std::string>& paths, const host::RasterStore& rasters,
-                const host::Progress& progress, const host::AllowedSources* allowed) {
+                const host::Progress& progress, const std::string& pageFile) {
     for (const std::string& path : paths) {
         if (rasters.Has(path)) {
             continue;
         }
-        const std::string why = Try(path, progress, [&] {
-            return allowed != nullptr ? ReadAllowedRaster(path, *allowed)
-                                      : ReadRaster(path);
-        });
-        if (allowed != nullptr && !why.empty()) {
-            throw NotAllowed(path + " " + why);
+        const std::string why =
+            Try(path, kReadRaster, Joined({path, pageFile}), progress);
+        if (!pageFile.empty() && !why.empty()) {
+            throw NotAllowed(std::string(path).append(" ").append(why));
         }
     }
 }
 
 void TryRastersOf(const std::vector<host::PageItem>& items,
                   const host::RasterStore& rasters, const host::Progress& progress,
-                  const host::AllowedSources* allowed) {
+                  const std::string& pageFile) {
     for (const host::PageItem& item : items) {
         const host::ItemType* const type = host::TypeOf(item);
         for (const host::Property& property :
              type == nullptr ? std::vector<host::Property>() : type->properties) {
             if (property.kind == host::PropertyKind::Rasters) {
                 TryRasters(std::get<std::vector<std::string>>(property.read(item)),
-                           rasters, progress, allowed);
+                           rasters, progress, pageFile);
             }
         }
     }
 }
 
 void TryImage(const std::string& path, const host::Progress& progress) {
-    Try(path, progress, [&] { return host::CheckImageFile(path); });
+    Try(path, kReadImage, Joined({path}), progress);
 }
 
-void TryPageFile(const std::string& path, const host::Progress& progress,
-                 const host::AllowedSources* allowed) {
-    Try("", progress, [&] {
-        if (allowed != nullptr) {
-            host::Confine({});
-        }
-        host::CheckFilesAndFonts(host::LoadPage(path, allowed));
-        return std::string();
-    });
+void TryPageFile(const std::string& path, bool isHeld, const host::Progress& progress) {
+    Try("", kReadPage, Joined({path, isHeld ? "held" : ""}), progress);
 }
 
 void TryItems(const std::string& lines, const host::Progress& progress) {
-    Try("", progress, [&] {
-        host::ReadItems(lines);
-        return std::string();
-    });
+    Try("", kReadItems, Joined({lines}), progress);
 }
 
 }  // namespace page_editor

@@ -1,7 +1,6 @@
 #pragma once
 
-// Files are decoded in separate processes, so that a decoder that crashes on a damaged
-// file, or hangs on a lost disk, does not take unsaved work with it.
+// Files are decoded in separate processes first (see file_jobs.h).
 //
 // `progress` is called a few times a second when reading takes long, and with 1 at the
 // end; returning false cancels the reading.
@@ -11,7 +10,6 @@
 
 #include "page/document/raster_store.h"
 #include "page/page.h"
-#include "system/allowed_sources.h"
 #include "system/errors.h"
 
 namespace page_editor {
@@ -31,25 +29,25 @@ public:
 /// descriptions and what legends show. Throws host::PageError naming the first raster on
 /// which a decoder died or reading was cancelled; other errors come up when the editor
 /// reads it.
-/// @param allowed what may be read, by them and what they lead to; null: all. Throws
-/// NotAllowed for a raster that cannot be read by that alone.
+/// @param pageFile on whose behalf, which may have read only what host::AllowedSources
+/// has below its folder; empty for a person's own. Throws NotAllowed for a raster that
+/// cannot be read by that alone.
 void TryRasters(const std::vector<std::string>& paths, const host::RasterStore& rasters,
-                const host::Progress& progress,
-                const host::AllowedSources* allowed = nullptr);
+                const host::Progress& progress, const std::string& pageFile = {});
 
 /// The same for the rasters that items name.
 void TryRastersOf(const std::vector<host::PageItem>& items,
                   const host::RasterStore& rasters, const host::Progress& progress,
-                  const host::AllowedSources* allowed = nullptr);
+                  const std::string& pageFile = {});
 
 /// The same for the image of a picture.
 void TryImage(const std::string& path, const host::Progress& progress);
 
 /// The same for a page file with its pictures, but without rasters; the error does not
 /// name the file.
-/// @param allowed what may be read; null: all. Others are left to be refused later.
-void TryPageFile(const std::string& path, const host::Progress& progress,
-                 const host::AllowedSources* allowed);
+/// @param isHeld whether it may have read only what host::AllowedSources has below its
+/// folder; others are left to be refused later
+void TryPageFile(const std::string& path, bool isHeld, const host::Progress& progress);
 
 /// The same for items as text, a line each.
 void TryItems(const std::string& lines, const host::Progress& progress);

@@ -161,7 +161,8 @@ bool FileCommands::ExportTo(const QString& path, double dpi) {
     return Attempt([&] {
         Waiting waiting("Drawing " + QFileInfo(path).fileName(), kExportPatience,
                         m_window);
-        ExportPage(m_document.Page(), path.toStdString(), dpi,
+        ExportPage(m_document.Page(), m_document.Rasters(), path.toStdString(), dpi,
+                   m_path.toStdString(),
                    [&waiting](double part) { return waiting.Show(part); });
         Q_EMIT Told("Exported " + path);
     });

@@ -6,13 +6,24 @@
 #include <QSettings>
 #include <QTemporaryDir>
 
+#include "page_editor/editing/file_jobs.h"
+#include "page_editor/test_jobs.h"
+#include "page_editor/trap_raster.h"
+#include "raster_data/gdal_session.h"
+#include "system/helper_process.h"
+
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QTemporaryDir settings;  // a person's own stay as they are
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
     ::testing::InitGoogleTest(&argc, argv);
-    const QApplication application(argc, argv);
     CPLSetErrorHandler(CPLQuietErrorHandler);
+    host::StartGdal();
+    editor_tests::RegisterTraps();
+    host::Jobs jobs = editor_tests::TestJobs();
+    jobs.merge(page_editor::FileJobs());
+    host::StartHelper(jobs);
+    const QApplication application(argc, argv);
     const Gdiplus::GdiplusStartupInput input;
     ULONG_PTR token = 0;
     if (Gdiplus::GdiplusStartup(&token, &input, nullptr) != Gdiplus::Ok) {

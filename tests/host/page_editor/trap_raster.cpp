@@ -82,10 +82,9 @@ public:
     }
 };
 
-void RegisterFormat() {
-    if (GDALGetDriverByName("TRAP") != nullptr) {
-        return;
-    }
+}  // namespace
+
+void RegisterTraps() {
     auto driver = std::make_unique<GDALDriver>();
     driver->SetDescription("TRAP");
     driver->SetMetadataItem(GDAL_DCAP_RASTER, "YES");
@@ -93,10 +92,7 @@ void RegisterFormat() {
     GetGDALDriverManager()->RegisterDriver(driver.release());
 }
 
-}  // namespace
-
 void WriteTrap(const std::string& path, Trap trap) {
-    RegisterFormat();
     std::ofstream(path) << static_cast<char>('0' + static_cast<int>(trap));
 }
 

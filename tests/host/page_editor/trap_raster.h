@@ -14,7 +14,10 @@ enum class Trap {
     IsSlowToRead,  ///< a fifth of a second for all of it
 };
 
-/// Writes a raster of three bands in that format, which GDAL of this process then knows.
+/// Has GDAL know that format: for this process, and for a helper that starts later.
+void RegisterTraps();
+
+/// Writes a raster of three bands in that format.
 /// @param path ends in .trap
 void WriteTrap(const std::string& path, Trap trap);
 

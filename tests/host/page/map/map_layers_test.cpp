@@ -317,8 +317,8 @@ TEST_F(MapLayers, ShowATurnedRasterNorthUp) {
             EXPECT_EQ(At(image, x, y), x == 7 && y == 0 ? kRed : kGreen) << x << " " << y;
         }
     }
-    const auto reopened = map.Reopened();
-    EXPECT_EQ(At(reopened->Render(8, 4, {}), 7, 0), kRed);
+    host::MapLayers again(map.Given(), map.Asked());
+    EXPECT_EQ(At(again.Render(8, 4, {}), 7, 0), kRed);
 }
 
 TEST_F(MapLayers, TellWhenATurnedRasterCannotBeTurnedBack) {

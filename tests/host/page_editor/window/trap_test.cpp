@@ -1,7 +1,7 @@
 // Files whose decoders crash or hang: the editor stays, and so does the work.
 
 #include <gmock/gmock.h>
-#include <sys/wait.h>
+#include <unistd.h>
 
 #include <QApplication>
 #include <QLineEdit>
@@ -9,7 +9,9 @@
 #include <QTimer>
 #include <QWheelEvent>
 #include <QtTest>
+#include <fstream>
 #include <functional>
+#include <iterator>
 #include <utility>
 
 #include "page/document/page_text.h"
@@ -36,7 +38,16 @@ protected:
         before = host::WritePage(document.Page(), {});
     }
     ~TrapFiles() override {
-        EXPECT_EQ(waitpid(-1, nullptr, WNOHANG), -1) << "a process is left";
+        const auto isDone = [] { return ChildrenOf(ChildrenOf("self")).empty(); };
+        EXPECT_TRUE(QTest::qWaitFor(isDone)) << "a process is left beside the helper";
+    }
+
+    /// The processes that a process has started.
+    static std::string ChildrenOf(const std::string& process) {
+        const std::string number = process == "self" ? std::to_string(getpid()) : process;
+        std::ifstream file("/proc/" + number + "/task/" + number + "/children");
+        std::string children{std::istreambuf_iterator<char>(file), {}};
+        return children.substr(0, children.find_last_not_of(' ') + 1);
     }
 
     QString Path(const char* name) { return QString::fromStdString(folder.Path(name)); }

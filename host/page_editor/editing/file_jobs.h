@@ -1,0 +1,37 @@
+#pragma once
+
+// What the editor has done to files in processes of their own (see
+// system/helper_process.h), so that a decoder that crashes on a damaged file, or hangs on
+// a lost disk, does not take unsaved work with it. Their inputs are fields in the order
+// of their comments.
+
+#include <string>
+#include <vector>
+
+#include "system/helper_process.h"
+
+namespace page_editor {
+
+/// Has a raster read as the editor is going to: its description and what legends show.
+/// Path; page file on whose behalf, empty for a person's own. Returns why it cannot be.
+constexpr const char* kReadRaster = "read a raster";
+/// Path.
+constexpr const char* kReadImage = "read an image";
+/// Path; "held" where it may read no more than a page file may.
+constexpr const char* kReadPage = "read a page";
+/// The items, a line each.
+constexpr const char* kReadItems = "read items";
+/// The map as an item; width; height. Returns its pixels.
+constexpr const char* kRenderMap = "render a map";
+/// The name of what is made; its format as a number; dpi; the page.
+constexpr const char* kDrawPage = "draw a page";
+/// A PostScript file. Returns the PDF.
+constexpr const char* kMakePdf = "make a PDF";
+
+/// For host::StartHelper, in main().
+host::Jobs FileJobs();
+
+/// Fields as one input, and the fields of an input. None has a zero byte.
+std::string Joined(const std::vector<std::string>& fields);
+
+}  // namespace page_editor
