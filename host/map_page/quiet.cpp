@@ -13,13 +13,10 @@ namespace map_page {
 Quiet::Quiet(std::string place)
     : m_place(place.empty() ? "" : std::move(place) + ": "),
       m_standardError(fcntl(STDERR_FILENO, F_DUPFD_CLOEXEC, 3)) {
-    const int nowhere = open("/dev/null", O_WRONLY | O_CLOEXEC);
-    if (m_standardError >= 0 && nowhere >= 0) {
+    if (m_standardError >= 0) {
         std::fflush(stderr);
-        dup2(nowhere, STDERR_FILENO);
-    }
-    if (nowhere >= 0) {
-        close(nowhere);
+        close(STDERR_FILENO);
+        open("/dev/null", O_WRONLY);  // gets its number, where no other may be left
     }
 }
 

@@ -4,8 +4,12 @@
 #include <cmath>
 #include <utility>
 
+#include "page/catalogue.h"
 #include "page/device_view.h"
+#include "page/drawing_status.h"
 #include "page/element_drawing.h"
+#include "page/element_of.h"
+#include "page/placed_frame.h"
 
 namespace host {
 namespace {
@@ -115,12 +119,27 @@ CFrameBase& FrameOf(PageItem& item) {
     return const_cast<CFrameBase&>(FrameOf(std::as_const(item)));
 }
 
+std::string NameOf(const PageItem& item) {
+    const auto* const map = std::get_if<MapFrame>(&item);
+    if (map != nullptr) {
+        return map->name.empty() ? "map" : map->name;
+    }
+    const auto* const placed = FrameAs<PlacedFrame>(item);
+    if (placed != nullptr && !placed->Name().empty()) {
+        return placed->Name();
+    }
+    const auto* const element = ElementOf<CMapSurround>(item);
+    return element == nullptr ? "frame" : FamilyName(element->GetItemType());
+}
+
 void Page::Draw(Gdiplus::Graphics& graphics, double dpi, const Progress& progress) const {
     const DeviceView view(m_height, dpi);
     PaintPaper(graphics);
+    CheckDrawn(graphics, "page", "");
     for (const PageItem& item : m_items) {
         RenderedMaps forThisItem;  // one large image at a time
         std::visit(ItemDrawing{graphics, view, forThisItem, progress}, item);
+        CheckDrawn(graphics, NameOf(item), WhyNotWritten(item, view.Scale()));
     }
 }
 

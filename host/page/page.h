@@ -38,6 +38,9 @@ using PageItem = std::variant<MapFrame, std::unique_ptr<CSurroundFrame>>;
 CFrameBase& FrameOf(PageItem& item);
 const CFrameBase& FrameOf(const PageItem& item);
 
+/// What people call an item: its name, or else what it is ("map", "title").
+std::string NameOf(const PageItem& item);
+
 /// A sheet with maps and framed elements, drawn at any resolution.
 ///
 /// Extents and sizes are in page units, y growing upwards from the bottom left corner.
@@ -63,7 +66,8 @@ public:
     std::vector<PageItem>& Items() { return m_items; }
 
     /// Draws the sheet and every item on it. The surface's world transform is the
-    /// identity before each item. Throws what a map's picture throws.
+    /// identity before each item. Throws what a map's picture throws, and NamedError with
+    /// the name of the first item of which GDI+ did not draw all.
     /// @param dpi device pixels an inch: an A4 page is 1754 x 1240 pixels at 150 dpi
     /// @param progress told how far the maps have been read
     void Draw(Gdiplus::Graphics& graphics, double dpi,

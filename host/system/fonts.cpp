@@ -1,10 +1,18 @@
 #include "system/fonts.h"
 
+#include <fcntl.h>
 #include <fontconfig/fontconfig.h>
+#include <sys/mman.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include <algorithm>
+#include <cerrno>
+#include <cstddef>
 #include <iterator>
-#include <memory>
+#include <set>
+#include <system_error>
+#include <utility>
 
 namespace host {
 namespace {
@@ -38,7 +46,121 @@ bool IsGeneric(const FcChar8* family) {
                        });
 }
 
+struct CharacterRange {
+    char32_t first;
+    char32_t last;
+};
+
+// Spaces, and what only joins, parts or turns what stands beside it.
+constexpr CharacterRange kWithoutShape[] = {
+    {0x00, 0x20},     {0x7F, 0xA0},      {0xAD, 0xAD},     {0x34F, 0x34F},
+    {0x61C, 0x61C},   {0x1680, 0x1680},  {0x180B, 0x180F}, {0x2000, 0x200F},
+    {0x2028, 0x202F}, {0x205F, 0x206F},  {0x3000, 0x3000}, {0xFE00, 0xFE0F},
+    {0xFEFF, 0xFEFF}, {0xE0000, 0xE0FFF}};
+
+bool HasShape(char32_t character) {
+    return std::none_of(std::begin(kWithoutShape), std::end(kWithoutShape),
+                        [character](const CharacterRange& range) {
+                            return range.first <= character && character <= range.last;
+                        });
+}
+
+/// The characters of a text that are seen, each once.
+std::u32string ShapesOf(const std::wstring& text) {
+    std::u32string shapes;
+    for (const wchar_t unit : text) {
+        const auto character = static_cast<char32_t>(unit);
+        if (HasShape(character) && shapes.find(character) == std::u32string::npos) {
+            shapes += character;
+        }
+    }
+    return shapes;
+}
+
+/// Whether a font's file can be had in memory, as it is for drawing.
+std::string WhyNotMapped(const char* file) {
+    const auto failed = [file] {
+        return std::string(file) + ": " + std::generic_category().message(errno);
+    };
+    const int descriptor = open(file, O_RDONLY | O_CLOEXEC);
+    if (descriptor < 0) {
+        return failed();
+    }
+    struct stat status = {};
+    fstat(descriptor, &status);
+    const auto size = static_cast<std::size_t>(status.st_size);
+    void* const mapped = mmap(nullptr, size, PROT_READ, MAP_PRIVATE, descriptor, 0);
+    std::string why = mapped == MAP_FAILED ? failed() : "";
+    if (mapped != MAP_FAILED) {
+        munmap(mapped, size);
+    }
+    close(descriptor);
+    return why;
+}
+
 }  // namespace
+
+struct FontChain::Fonts {
+    FontSet set;
+
+    /// The place in the set of the first that has a character; -1 for none.
+    int With(char32_t character) const {
+        for (int i = 0; set != nullptr && i < set->nfont; ++i) {
+            FcCharSet* has = nullptr;
+            if (FcPatternGetCharSet(set->fonts[i], FC_CHARSET, 0, &has) ==
+                    FcResultMatch &&
+                FcCharSetHasChar(has, character) != FcFalse) {
+                return i;
+            }
+        }
+        return -1;
+    }
+};
+
+FontChain::FontChain(const std::string& family, bool bold, bool italic) {
+    if (FcInit() == FcFalse) {
+        return;
+    }
+    const Pattern pattern = PatternOf(reinterpret_cast<const FcChar8*>(family.c_str()));
+    FcPatternAddInteger(pattern.get(), FC_WEIGHT,
+                        bold ? FC_WEIGHT_BOLD : FC_WEIGHT_REGULAR);
+    FcPatternAddInteger(pattern.get(), FC_SLANT,
+                        italic ? FC_SLANT_ITALIC : FC_SLANT_ROMAN);
+    FcConfigSubstitute(nullptr, pattern.get(), FcMatchPattern);
+    FcDefaultSubstitute(pattern.get());
+    FcResult result = FcResultMatch;
+    FontSet set(FcFontSort(nullptr, pattern.get(), FcTrue, nullptr, &result),
+                &FcFontSetDestroy);
+    m_fonts = std::make_shared<Fonts>(Fonts{std::move(set)});
+}
+
+std::u32string FontChain::Missing(const std::wstring& text) const {
+    std::u32string missing;
+    for (const char32_t character : ShapesOf(text)) {
+        if (m_fonts == nullptr || m_fonts->With(character) < 0) {
+            missing += character;
+        }
+    }
+    return missing;
+}
+
+std::string FontChain::WhyUnusable(const std::wstring& text) const {
+    std::set<int> used;
+    for (const char32_t character : ShapesOf(text)) {
+        const int font = m_fonts == nullptr ? -1 : m_fonts->With(character);
+        FcChar8* file = nullptr;
+        if (font < 0 || !used.insert(font).second ||
+            FcPatternGetString(m_fonts->set->fonts[font], FC_FILE, 0, &file) !=
+                FcResultMatch) {
+            continue;
+        }
+        std::string why = WhyNotMapped(reinterpret_cast<const char*>(file));
+        if (!why.empty()) {
+            return why;
+        }
+    }
+    return {};
+}
 
 bool IsFontFamilyKnown(const std::string& family) {
     const auto* const name = reinterpret_cast<const FcChar8*>(family.c_str());

@@ -6,6 +6,7 @@
 #include "page/document/page_text.h"
 #include "page/layout/layout.h"
 #include "page/map/map_layers.h"
+#include "page/texts.h"
 #include "system/errors.h"
 #include "system/file_ending.h"
 #include "system/output_file.h"
@@ -29,6 +30,16 @@ void ShowAsDesigned(const MapDesign& design, Page& page, RasterStore& rasters) {
     }
 }
 
+/// What of an opened page is told, in this order.
+std::vector<std::string> RemarksOf(const Page& page,
+                                   const std::vector<std::string>& ofLayout) {
+    std::vector<std::string> remarks = RemarksOfMaps(page);
+    for (const std::vector<std::string>& more : {ofLayout, RemarksOfTexts(page)}) {
+        remarks.insert(remarks.end(), more.begin(), more.end());
+    }
+    return remarks;
+}
+
 }  // namespace
 
 OpenedPage OpenPageFile(const std::string& path, const AllowedSources* allowed,
@@ -37,13 +48,13 @@ OpenedPage OpenPageFile(const std::string& path, const AllowedSources* allowed,
     return Naming(path, [&] {
         Page page = LoadPage(path, allowed);
         CheckFilesAndFonts(page);
+        CheckFontsOf(page);
         if (beforeRasters) {
             beforeRasters(page);
         }
         auto rasters = std::make_unique<RasterStore>();
         const std::vector<std::string> untrue = ChangeAndOpen(page, changes, *rasters);
-        std::vector<std::string> remarks = RemarksOfMaps(page);
-        remarks.insert(remarks.end(), untrue.begin(), untrue.end());
+        std::vector<std::string> remarks = RemarksOf(page, untrue);
         return OpenedPage{std::move(rasters), std::move(page), std::move(remarks)};
     });
 }
@@ -54,10 +65,10 @@ OpenedPage LayOutRasters(const std::vector<std::string>& paths,
     const std::shared_ptr<MapLayers> map =
         rasters->Map(paths, design.map.extent, design.map.style);
     LaidOutPage laidOut = LayOut(design, DescribeMap(map));
+    CheckFontsOf(laidOut.page);
     NameRasters(laidOut.page, paths);
     ShowAsDesigned(design.map, laidOut.page, *rasters);
-    std::vector<std::string> remarks = RemarksOfMaps(laidOut.page);
-    remarks.insert(remarks.end(), laidOut.remarks.begin(), laidOut.remarks.end());
+    std::vector<std::string> remarks = RemarksOf(laidOut.page, laidOut.remarks);
     return {std::move(rasters), std::move(laidOut.page), std::move(remarks)};
 }
 

@@ -9,6 +9,7 @@
 #include "page/output/page_image.h"
 #include "page/output/pdf_file.h"
 #include "page/output/postscript_file.h"
+#include "page/texts.h"
 #include "system/errors.h"
 
 namespace host {
@@ -35,13 +36,16 @@ std::vector<std::uint8_t> EncodePage(const Page& page, OutputFormat format, doub
                                      const Progress& progress,
                                      const std::function<void()>& encoding) {
     if (IsForPrint(format)) {
-        return EncodePostScript(page, dpi, progress);
+        std::vector<std::uint8_t> file = EncodePostScript(page, dpi, progress);
+        CheckWritten(page);
+        return file;
     }
     PageImage image(PixelSize(page, dpi));
     {
         Gdiplus::Graphics graphics(&image.Bitmap());
         page.Draw(graphics, dpi, progress);
     }
+    CheckWritten(page);
     if (encoding) {
         encoding();
     }

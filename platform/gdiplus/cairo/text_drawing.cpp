@@ -244,14 +244,17 @@ using engine::From;
 GpStatus GdipDrawString(GpGraphics* graphics, const FlatChar* text, INT length,
                         const GpFont* font, const GpRectF* layout,
                         const GpStringFormat* format, const GpBrush* brush) {
-    if (graphics == nullptr || text == nullptr || font == nullptr || layout == nullptr ||
-        brush == nullptr || !engine::IsBox(*layout)) {
+    if (graphics == nullptr || text == nullptr || layout == nullptr || brush == nullptr ||
+        !engine::IsBox(*layout)) {
         return InvalidParameter;
     }
     return engine::Guarded([&] {
         const std::ptrdiff_t units = engine::LengthOf(text, length);
-        if (units <= 0) {
-            return units < 0 ? InvalidParameter : Ok;
+        if (units == 0) {
+            return Ok;  // which needs no font
+        }
+        if (units < 0 || font == nullptr) {
+            return InvalidParameter;
         }
         return engine::DrawText(*From(graphics), text, static_cast<std::size_t>(units),
                                 *From(font), *layout, format, From(brush)->color);

@@ -77,6 +77,7 @@ TEST(MissingArgument, OfAnObjectWithoutANativeOneIsTheSame) {
     const SolidBrush brush(Color(0xFF000000));
     EXPECT_EQ(graphics.DrawString(L"Nord", -1, &noFont, PointF(), &brush),
               InvalidParameter);
+    EXPECT_EQ(graphics.DrawString(L"", -1, &noFont, PointF(), &brush), Ok);
     Bitmap nothing(-1, -1);
     EXPECT_EQ(graphics.DrawImage(&nothing, 0, 0, 10, 10), InvalidParameter);
     const FontFamily noFamily;

@@ -8,9 +8,13 @@
 #include <utility>
 #include <vector>
 
+#include "page/document/item_type.h"
+#include "page/element_of.h"
 #include "page/made_raster.h"
+#include "page/numeric_scale.h"
 #include "page/output/page_image.h"
 #include "page/page.h"
+#include "page/placed_frame.h"
 #include "png_encoder.h"
 #include "scratch_folder.h"
 
@@ -33,6 +37,28 @@ inline std::vector<std::uint8_t> PixelsOf(host::PageItem& item) {
     std::vector<std::uint8_t> pixels = PixelsOf(page);
     item = std::move(page.Items().front());
     return pixels;
+}
+
+/// An item of a type that can be seen: with the least that its element needs for that.
+inline host::PageItem MakeVisible(const host::ItemType& type, const std::string& folder) {
+    host::PageItem item = type.make();
+    host::FrameOf(item).SetExtent({20.0, 20.0, 280.0, 180.0});
+    auto* const title = host::ElementOf<CMapTitle>(item);
+    if (title != nullptr && host::ElementOf<host::NumericScale>(item) == nullptr) {
+        title->SetFontValue(L"Title");
+        title->SetFontStyle(L"Arial");
+    }
+    if (auto* const picture = host::ElementOf<CDrawPicture>(item)) {
+        const std::string path = folder + "/logo.png";
+        picture->Open(std::wstring(path.begin(), path.end()).c_str());
+    }
+    if (auto* const legend = host::FrameAs<host::LegendFrame>(item)) {
+        legend->SetRasterPaths({folder + "/scene.tif"});
+    } else if (auto* const element = host::ElementOf<CMapSurround>(item)) {
+        element->SetSize(40);
+        element->ResetAspectRatio();
+    }
+    return item;
 }
 
 /// A folder with a raster, scene.tif, and an image, logo.png.

@@ -15,8 +15,7 @@
 #include "page/document/page_text.h"
 #include "page/document/raster_store.h"
 #include "page/element_of.h"
-#include "page/numeric_scale.h"
-#include "page/placed_frame.h"
+#include "system/errors.h"
 
 namespace {
 
@@ -26,6 +25,7 @@ using host::PageItem;
 using host_tests::Change;
 using host_tests::ChangesOf;
 using host_tests::FrameChanges;
+using host_tests::MakeVisible;
 using host_tests::PixelsOf;
 using nlohmann::json;
 
@@ -45,28 +45,6 @@ std::vector<std::string> NamesOf(const std::vector<Change>& changes) {
         names.push_back(change.property);
     }
     return names;
-}
-
-/// An item of a type that can be seen: with the least that its element needs for that.
-PageItem MakeVisible(const ItemType& type, const std::string& folder) {
-    PageItem item = type.make();
-    host::FrameOf(item).SetExtent({20.0, 20.0, 280.0, 180.0});
-    auto* const title = host::ElementOf<CMapTitle>(item);
-    if (title != nullptr && host::ElementOf<host::NumericScale>(item) == nullptr) {
-        title->SetFontValue(L"Title");
-        title->SetFontStyle(L"Arial");
-    }
-    if (auto* const picture = host::ElementOf<CDrawPicture>(item)) {
-        const std::string path = folder + "/logo.png";
-        picture->Open(std::wstring(path.begin(), path.end()).c_str());
-    }
-    if (auto* const legend = host::FrameAs<host::LegendFrame>(item)) {
-        legend->SetRasterPaths({folder + "/scene.tif"});
-    } else if (auto* const element = host::ElementOf<CMapSurround>(item)) {
-        element->SetSize(40);
-        element->ResetAspectRatio();
-    }
-    return item;
 }
 
 /// Whether two texts differ in a member ("left" of "frame").
@@ -160,8 +138,9 @@ TEST_F(PropertyTable, WhatIsReadBackIsDrawnTheSame) {
     }
 }
 
-TEST_F(PropertyTable, EveryNumberAtTheEndsOfItsRangeIsDrawn) {
+TEST_F(PropertyTable, EveryNumberAtTheEndsOfItsRangeIsDrawnUnlessItIsNoFontsSize) {
     host::RasterStore store;
+    std::vector<std::string> refused;
     for (const ItemType& type : ItemTypes()) {
         std::vector<host::Property> properties = type.properties;
         properties.insert(properties.end(), host::FrameProperties().begin(),
@@ -179,11 +158,27 @@ TEST_F(PropertyTable, EveryNumberAtTheEndsOfItsRangeIsDrawn) {
                 SCOPED_TRACE(std::string(type.name) + " " + property.name);
                 PageItem again = host::ReadItem(WriteItem(item));
                 OpenRasters(again, store);
-                EXPECT_FALSE(PixelsOf(again).empty());
                 EXPECT_EQ(WriteItem(host::ReadItem(WriteItem(again))), WriteItem(again));
+                try {
+                    EXPECT_FALSE(PixelsOf(again).empty());
+                } catch (const host::NamedError&) {
+                    refused.push_back(std::string(type.name) + " " + property.name + " " +
+                                      std::to_string(end));
+                }
             }
         }
     }
+    std::vector<std::string> expected = {
+        "legend fileNameSize 0.000000", "legend size 1000000.000000",
+        "title fontSize 0.000000", "numeric-scale fontSize 0.000000"};
+    for (const ItemType& type : ItemTypes()) {
+        const std::string name = type.name;
+        if (name.rfind("north-arrow", 0) == 0 || name.rfind("scale-bar", 0) == 0) {
+            expected.push_back(name + " size 0.000000");
+            expected.push_back(name + " size 1000000.000000");
+        }
+    }
+    EXPECT_THAT(refused, ::testing::UnorderedElementsAreArray(expected));
 }
 
 TEST_F(PropertyTable, ABoxOfAnyNumbersKeepsEveryDigit) {

@@ -1,0 +1,110 @@
+// What map_page cannot draw or write as asked, it tells; a page is whole or there is
+// none.
+
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <string>
+
+#include "map_page/page_file_folder.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+using host_tests::Arguments;
+using host_tests::ContentsOf;
+using host_tests::Result;
+using host_tests::RunningMapPage;
+
+class HonestStatus : public host_tests::PageFileTest {
+protected:
+    /// That a refused page is told in one line and leaves nothing.
+    void ExpectRefused(const Result& result, const std::string& line) {
+        EXPECT_EQ(result.status, 1);
+        EXPECT_EQ(result.err, "map_page: " + line + "\n");
+        EXPECT_FALSE(fs::exists(folder.Path("page.png")));
+    }
+
+    /// A configuration of fonts, in which map_page runs.
+    Result RunWithFonts(const std::string& configuration, const Arguments& arguments) {
+        host_tests::WriteFile(folder.Path("fonts.conf"),
+                              "<?xml version=\"1.0\"?><!DOCTYPE fontconfig SYSTEM "
+                              "\"fonts.dtd\"><fontconfig>" +
+                                  configuration + "</fontconfig>");
+        const RunningMapPage running(folder, arguments, [this] {
+            setenv("FONTCONFIG_FILE", folder.Path("fonts.conf").c_str(), 1);
+        });
+        return running.Wait();
+    }
+};
+
+TEST_F(HonestStatus, OfTextsThatAreTooLargeOrTooSmall) {
+    ASSERT_EQ(Run({"data/scene.tif", "--title", "Olinda", "--save", "page.json"}).status,
+              0);
+    std::string page = ContentsOf(folder.Path("page.json"));
+    const std::size_t size = page.find("\"fontSize\": ");
+    page.replace(size, page.find(',', size) - size, "\"fontSize\": 20000");
+    host_tests::WriteFile(folder.Path("page.json"), page);
+    ExpectRefused(Run({"page.json", "-o", "page.png", "--dpi", "400"}),
+                  "title: is 83333 pixels high, and texts of at most 65535 are drawn");
+    ExpectRefused(
+        Run({"data/scene.tif", "--size", "A6", "--dpi", "10", "-o", "page.png"}),
+        "scale bar: is 2 pixels high, too little for its text");
+}
+
+TEST_F(HonestStatus, OfFontsThatAreNotThere) {
+    const Arguments draw = {"data/scene.tif", "-o", "page.png"};
+    ExpectRefused(RunWithFonts("", draw),
+                  "--title-font: no font family \"Arial\" is installed");
+    // Sans, but no serif for the numbers of the bar, and no Chinese for the captions.
+    const std::string sans =
+        "<dir>/usr/share/fonts/truetype/liberation</dir><selectfont><rejectfont>"
+        "<glob>*Serif*</glob></rejectfont></selectfont>"
+        "<include>/etc/fonts/conf.d</include>";
+    const std::string why = "scale bar: no font family \"Times New Roman\" is installed";
+    ExpectRefused(RunWithFonts(sans, draw), why);
+    ASSERT_EQ(Run({"data/scene.tif", "--save", "page.json"}).status, 0);
+    ExpectRefused(RunWithFonts(sans, {"page.json", "-o", "page.png"}),
+                  "page.json: " + why);
+    const Result boxes =
+        RunWithFonts(sans, {"data/scene.tif", "-o", "page.png", "--scale-bar", "none"});
+    EXPECT_EQ(boxes.status, 0);
+    EXPECT_EQ(boxes.err.rfind("map_page: warning: legend: no font has \"影像名：", 0), 0u)
+        << boxes.err;
+}
+
+// Fonts and rasters are files, and take memory: without either, texts were once boxes.
+TEST_F(HonestStatus, OfDescriptorsAndMemoryThatRunOut) {
+    const Arguments draw = {"data/scene.tif", "-o", "page.png", "--dpi", "60"};
+    ASSERT_EQ(Run(draw).status, 0);
+    const std::string whole = ContentsOf(folder.Path("page.png"));
+    const auto tryWith = [&](int resource, rlim_t most) {
+        fs::remove(folder.Path("page.png"));
+        const RunningMapPage running(folder, draw, [resource, most] {
+            const rlimit limit = {most, most};
+            setrlimit(static_cast<__rlimit_resource>(resource), &limit);
+        });
+        const Result result = running.Wait();
+        const bool drawn = result.status == 0;
+        EXPECT_EQ(fs::exists(folder.Path("page.png")), drawn) << most;
+        EXPECT_TRUE(!drawn || ContentsOf(folder.Path("page.png")) == whole) << most;
+        EXPECT_EQ(std::count(result.err.begin(), result.err.end(), '\n'), drawn ? 0 : 1)
+            << most << result.err;
+        return drawn;
+    };
+    bool isEnough = false;
+    for (rlim_t most = 4; !isEnough; ++most) {
+        ASSERT_LT(most, 100u);
+        isEnough = tryWith(RLIMIT_NOFILE, most);
+    }
+#ifndef __SANITIZE_ADDRESS__
+    for (rlim_t megabytes = 200; megabytes <= 300; megabytes += 10) {
+        tryWith(RLIMIT_AS, megabytes << 20);
+    }
+#endif
+}
+
+}  // namespace
