@@ -1,8 +1,9 @@
 #include "map_page/draw_page.h"
 
-#include <algorithm>
 #include <optional>
+#include <set>
 #include <sstream>
+#include <vector>
 
 #include "map_page/error.h"
 #include "map_page/safe_drawing.h"
@@ -66,6 +67,25 @@ void CheckInputsStay(const Options& options, const host::Page& page,
     }
 }
 
+/// Warns of each thing once.
+class ToldRemarks {
+public:
+    explicit ToldRemarks(const Quiet& quiet) : m_quiet(quiet) {}
+
+    void Tell(const std::vector<std::string>& remarks) {
+        for (const std::string& remark : remarks) {
+            if (m_told.insert(remark).second) {
+                m_quiet.Warn(remark);
+            }
+        }
+    }
+    std::size_t Count() const { return m_told.size(); }
+
+private:
+    const Quiet& m_quiet;
+    std::set<std::string> m_told;
+};
+
 /// Before the work, which may take minutes.
 void CheckOutput(const Options& options) {
     host::Naming(options.output, [&] { host::CheckCanBeMade(*options.format); });
@@ -90,19 +110,13 @@ std::string DrawPage(const Options& options, const OutputFiles& files,
     CheckInputsStay(options, host::Page(1.0, 1.0), host::RasterStore());
     const host::OpenedPage opened = Open(options);
     CheckInputsStay(options, opened.page, *opened.rasters);
-    for (const std::string& remark : opened.remarks) {
-        quiet.Warn(remark);
-    }
+    ToldRemarks remarks(quiet);
+    remarks.Tell(opened.remarks);
     std::string told;
     if (files.output) {
         told = WriteInto(options, opened.page, *files.output, quiet) + "\n";
         // A map without data is known when it has been drawn.
-        for (const std::string& remark : host::RemarksOfMaps(opened.page)) {
-            if (std::find(opened.remarks.begin(), opened.remarks.end(), remark) ==
-                opened.remarks.end()) {
-                quiet.Warn(remark);
-            }
-        }
+        remarks.Tell(host::RemarksOfMaps(opened.page));
     }
     if (files.saved) {
         files.saved->Write(host::PageFileBytes(opened.page, options.save));
@@ -110,8 +124,12 @@ std::string DrawPage(const Options& options, const OutputFiles& files,
     }
     for (const auto* const file : {&files.output, &files.saved}) {
         if (*file && !(*file)->Remark().empty()) {
-            quiet.Warn((*file)->Remark());
+            remarks.Tell({(*file)->Remark()});
         }
+    }
+    if (options.isStrict && remarks.Count() > 0) {
+        throw Error(options.output.empty() ? options.save : options.output,
+                    "is not written, for --strict allows no warnings");
     }
     return told;
 }

@@ -35,8 +35,8 @@ coordinate system. The map spans all of them. A raster that has another coordina
 or no georeference is left off the map, with a warning.
 
 A single name that ends in .json is a page file: drawn as it says, and with no other
-options than --output and --dpi, --stretch, --bands and --nodata for its maps, and those of
-safety. --save writes one, of the page that would be drawn, to be changed by hand;
+options than --output, --strict and --dpi, --stretch, --bands and --nodata for its maps,
+and those of safety. --save writes one, of the page that would be drawn, to be changed by hand;
 docs/page_file.md tells what it says.
 
 A page file may be another's. So it, and the list of a series, may have plain files read
@@ -54,6 +54,10 @@ and in the legend, whose range is the range drawn. Classes keep their colours.
 
 COLOR is on (the default colour), off, #RRGGBB, #RRGGBBAA or one of
 {colours}.
+
+Whatever on a page a reader would stumble over is told in a line of its own: an element
+that leaves its frame or the sheet, lies over another one or over the edge of a map, or is
+written in less than 5 points. --strict takes that, and every other warning, for a failure.
 
 Exit status: 0 when the page was drawn, 1 when it could not be, 2 for a wrong call.
 
@@ -179,6 +183,10 @@ void Declare(CLI::App& app, Given& given, Options& options) {
     app.add_option("--save", options.save, "Page file to write, .json; needs no --output")
         ->type_name("FILE");
 
+    app.add_flag(
+        "--strict", options.isStrict,
+        "Take every warning for a failure: write nothing, and end with status 1");
+
     CLI::Option* const series =
         app.add_option("--series", options.series,
                        "List of pages, .csv: one page a row; --output has {column}s")
@@ -230,9 +238,9 @@ bool IsOfPageFile(const Given& given) {
 
 /// The options that go with a page file, which says the rest itself.
 constexpr std::string_view kWithPageFile[] = {
-    "RASTER",      "--output",       "--dpi",       "--series",        "--jobs",
-    "--stretch",   "--bands",        "--nodata",    "--allow-outside", "--allow-remote",
-    "--allow-all", "--limit-memory", "--limit-time"};
+    "RASTER",      "--output",       "--dpi",        "--series",        "--jobs",
+    "--stretch",   "--bands",        "--nodata",     "--allow-outside", "--allow-remote",
+    "--allow-all", "--limit-memory", "--limit-time", "--strict"};
 
 /// Those that go with nothing else.
 constexpr const char* kOnlyWithPageFile[] = {"--series", "--allow-outside",

@@ -23,6 +23,7 @@ struct Options {
     int jobs = 1;               ///< pages of the series drawn at a time
     host::PageChanges changes;  ///< of the page file's page
     double dpi = 150.0;
+    bool isStrict = false;  ///< a warning is a failure
     host::PageDesign design;
     std::vector<std::string> allowedFolders;  ///< files may be read there, too
     bool allowRemote = false;                 ///< a page file may name services

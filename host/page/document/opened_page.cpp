@@ -5,6 +5,7 @@
 #include "page/document/map_on_page.h"
 #include "page/document/page_text.h"
 #include "page/layout/layout.h"
+#include "page/layout/page_remarks.h"
 #include "page/map/map_layers.h"
 #include "page/texts.h"
 #include "system/errors.h"
@@ -30,11 +31,12 @@ void ShowAsDesigned(const MapDesign& design, Page& page, RasterStore& rasters) {
     }
 }
 
-/// What of an opened page is told, in this order.
-std::vector<std::string> RemarksOf(const Page& page,
-                                   const std::vector<std::string>& ofLayout) {
+/// Of the maps, of what was done with the page, and of what can be seen on it.
+std::vector<std::string> AllRemarks(const Page& page,
+                                    const std::vector<std::string>& ofWhatWasDone) {
     std::vector<std::string> remarks = RemarksOfMaps(page);
-    for (const std::vector<std::string>& more : {ofLayout, RemarksOfTexts(page)}) {
+    for (const std::vector<std::string>& more :
+         {ofWhatWasDone, RemarksOfTexts(page), RemarksOf(page)}) {
         remarks.insert(remarks.end(), more.begin(), more.end());
     }
     return remarks;
@@ -54,7 +56,7 @@ OpenedPage OpenPageFile(const std::string& path, const AllowedSources* allowed,
         }
         auto rasters = std::make_unique<RasterStore>();
         const std::vector<std::string> untrue = ChangeAndOpen(page, changes, *rasters);
-        std::vector<std::string> remarks = RemarksOf(page, untrue);
+        std::vector<std::string> remarks = AllRemarks(page, untrue);
         return OpenedPage{std::move(rasters), std::move(page), std::move(remarks)};
     });
 }
@@ -68,7 +70,7 @@ OpenedPage LayOutRasters(const std::vector<std::string>& paths,
     CheckFontsOf(laidOut.page);
     NameRasters(laidOut.page, paths);
     ShowAsDesigned(design.map, laidOut.page, *rasters);
-    std::vector<std::string> remarks = RemarksOf(laidOut.page, laidOut.remarks);
+    std::vector<std::string> remarks = AllRemarks(laidOut.page, laidOut.remarks);
     return {std::move(rasters), std::move(laidOut.page), std::move(remarks)};
 }
 

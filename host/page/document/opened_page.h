@@ -21,7 +21,9 @@ namespace host {
 struct OpenedPage {
     std::unique_ptr<RasterStore> rasters;
     Page page;
-    std::vector<std::string> remarks;  ///< what could not be done as asked, one line each
+    /// What could not be done as asked, and what a reader would stumble over (see
+    /// RemarksOf), one line each.
+    std::vector<std::string> remarks;
 };
 
 /// Opens a page file: checks its pictures and fonts, makes the changes, opens the rasters

@@ -35,12 +35,15 @@ double WidthOf(const CMapSurround& element) {
     return element.GetSize() * double{element.GetAspectRatio()};
 }
 
-/// A title that is too long for its frame is set smaller, with half an em to each side.
+/// A title that is too large for its frame is set smaller, with half an em to each side
+/// and a tenth above and below.
 void FitTitle(const CSurroundFrame& frame, CMapTitle& title) {
-    const double room = frame.GetExtent().GetWidth();
-    const double needed = WidthOf(title) + title.GetFontSize();
-    if (needed > room && room > 0.0) {
-        title.SetFontSize(title.GetFontSize() * room / needed);
+    const CBoundingBox room = frame.GetExtent();
+    const double em = title.GetFontSize();
+    const double fits = std::min(room.GetWidth() / (WidthOf(title) + em),
+                                 room.GetHeight() / (title.GetSize() + 0.2 * em));
+    if (fits > 0.0 && fits < 1.0) {
+        title.SetFontSize(em * fits);
         title.ResetAspectRatio();
     }
 }

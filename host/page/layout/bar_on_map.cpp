@@ -1,6 +1,7 @@
 #include "page/layout/bar_on_map.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace host {
 namespace {
@@ -71,6 +72,17 @@ void SetDivisions(ScaleBarFrame& frame, CScaleBarBase& bar, const BarOnMap& divi
     }
     frame.SetDivisionValue(divisions.value);
     frame.SetDivisionLength(divisions.length);
+}
+
+bool NumbersAreApart(double em, double value, double length, int divisions) {
+    constexpr double kDigit = 0.5;  // em
+    constexpr double kApart = 0.4;
+    const double largest = value * divisions;
+    double digits = std::floor(std::log10(std::fmax(1.0, largest))) + 1.0;
+    if (value < 1.0) {
+        digits += 1.0 - std::floor(std::log10(value));
+    }
+    return length >= (kDigit * digits + kApart) * em;
 }
 
 }  // namespace host

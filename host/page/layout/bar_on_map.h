@@ -28,4 +28,9 @@ std::optional<BarOnMap> FitBar(const ShownMap& map, const BarMeasure& measure,
 /// Gives a bar its divisions and the name of its unit.
 void SetDivisions(ScaleBarFrame& frame, CScaleBarBase& bar, const BarOnMap& divisions);
 
+/// Whether the numbers over a bar's divisions keep clear of one another.
+/// @param em their size, page units
+/// @param value,length of a division
+bool NumbersAreApart(double em, double value, double length, int divisions);
+
 }  // namespace host

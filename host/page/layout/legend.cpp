@@ -3,6 +3,7 @@
 
 #include "map_surround/legend.h"
 #include "page/layout/steps.h"
+#include "page/layout/text_size.h"
 
 namespace host {
 namespace {
@@ -14,8 +15,11 @@ std::unique_ptr<CMapLegend> MakeLegend(const LegendDesign& design, const MapOnPa
     legend->SetTitleValue(design.title);
     legend->SetTitle(design.family);
     legend->SetFileName(design.family);
-    legend->SetTitleSize(static_cast<float>(0.95 * measures.module));
-    legend->SetFileNameSize(static_cast<float>(0.7 * measures.module));
+    // It is drawn in the height of the ink of these, three quarters of them or more.
+    constexpr double kSmallest = kSmallestEm / 0.75;
+    legend->SetTitleSize(static_cast<float>(std::max(kSmallest, 0.95 * measures.module)));
+    legend->SetFileNameSize(
+        static_cast<float>(std::max(kSmallest, 0.7 * measures.module)));
     legend->ResetAspectRatio();
     return legend;
 }

@@ -1,8 +1,11 @@
 #include <algorithm>
 #include <cmath>
+#include <utility>
+#include <vector>
 
 #include "map_surround/north_arrow.h"
 #include "page/layout/steps.h"
+#include "page/layout/text_size.h"
 #include "page/map/map_geometry.h"
 
 namespace host {
@@ -28,6 +31,20 @@ std::optional<double> AngleOf(const NorthArrowDesign& design, const ShownMap& sh
     return angle;
 }
 
+/// The usual style, or on a small sheet, on which nobody could read its letters, one with
+/// larger letters.
+std::unique_ptr<CNorthArrowBase> LegibleArrow(std::unique_ptr<CNorthArrowBase> usual,
+                                              double size) {
+    const std::vector<const CatalogueEntry*> styles = StylesOf(SurroundNorthArrow);
+    for (auto style = styles.rbegin(); style != styles.rend(); ++style) {
+        if (LettersOf(*usual) * size >= kSmallestEm) {
+            break;
+        }
+        usual = NewElement<CNorthArrowBase>(**style);
+    }
+    return usual;
+}
+
 }  // namespace
 
 const CatalogueEntry* NorthArrowStyleOn(const PageDesign& design, const MapOnPage& map) {
@@ -50,9 +67,13 @@ std::unique_ptr<PlacedFrame> PlaceNorthArrow(const PageDesign& design,
     if (!angle) {
         return nullptr;
     }
+    const double size = side - 2.0 * space;
+    if (!design.northArrow.style) {
+        arrow = LegibleArrow(std::move(arrow), size);
+    }
     // All styles keep within a square of their size, and a turned one within its
     // diagonal.
-    arrow->SetSize(static_cast<int>(side - 2.0 * space));
+    arrow->SetSize(static_cast<int>(size));
     arrow->SetFrontColor(Gdiplus::Color(kInkColor));
     arrow->SetAngle(static_cast<float>(*angle));
     const Box extent = {room.left, room.bottom, room.left + side, room.bottom + side};

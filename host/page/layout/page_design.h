@@ -39,8 +39,8 @@ using StyleChoice = std::optional<const CatalogueEntry*>;
 
 struct ScaleBarDesign {
     StyleChoice style;
-    int divisions = 4;
-    int subdivisions = 2;  ///< ticks between two main ones
+    std::optional<int> divisions;  ///< else four, or as many as there is room for
+    int subdivisions = 2;          ///< ticks between two main ones
     ScaleBarPostion unitPosition = UnitPosAfter;
     BarDistances distances = BarDistances::Ground;  ///< or Map
     std::optional<DistanceUnit> unit;               ///< else UsualUnit

@@ -5,10 +5,13 @@
 #include "page/element_of.h"
 #include "page/layout/bar_on_map.h"
 #include "page/layout/steps.h"
+#include "page/layout/text_size.h"
 #include "page/numeric_scale.h"
 
 namespace host {
 namespace {
+
+constexpr int kUsualDivisions = 4;
 
 // A page is not told from another by less; more is told, for maps in degrees.
 constexpr double kNearlyConformal = 0.01;
@@ -21,8 +24,7 @@ struct Plan {
 };
 
 std::optional<Plan> PlanBar(const CatalogueEntry& style, const ScaleBarDesign& design,
-                            const ShownMap& map, const Measures& measures,
-                            std::vector<std::string>& remarks) {
+                            const ShownMap& map, std::vector<std::string>& remarks) {
     const DistanceUnit unit =
         design.unit.value_or(UsualUnit(map.projection, design.distances));
     std::string why;
@@ -34,9 +36,8 @@ std::optional<Plan> PlanBar(const CatalogueEntry& style, const ScaleBarDesign& d
         return std::nullopt;
     }
     auto bar = NewElement<CScaleBarBase>(style);
-    bar->SetSize(static_cast<int>(std::max(1.0, std::round(2.1 * measures.module))));
     bar->SetFrontColor(Gdiplus::Color(kInkColor));
-    bar->SetMainDivCount(design.divisions);
+    bar->SetMainDivCount(design.divisions.value_or(kUsualDivisions));
     bar->SetSubDivCount(design.subdivisions);
     bar->SetUnitPos(design.unitPosition);
     bar->SetUnitsName(design.unitName.value_or(FactsOf(unit).sign));
@@ -45,20 +46,6 @@ std::optional<Plan> PlanBar(const CatalogueEntry& style, const ScaleBarDesign& d
     plan.frame->SetUnit(unit);
     plan.frame->SetBarDistances(IsLength(unit) ? design.distances : BarDistances::Map);
     return plan;
-}
-
-/// Whether the numbers over the divisions keep clear of one another. They are set in a
-/// quarter of the bar's size, in which a digit is half an em wide.
-bool NumbersAreApart(const CScaleBarBase& bar, const BarOnMap& divisions) {
-    constexpr double kDigit = 0.5;
-    constexpr double kApart = 0.4;
-    const double em = bar.GetSize() / 4.0;
-    const double largest = divisions.value * divisions.divisions;
-    double digits = std::floor(std::log10(std::fmax(1.0, largest))) + 1.0;
-    if (divisions.value < 1.0) {
-        digits += 1.0 - std::floor(std::log10(divisions.value));
-    }
-    return divisions.length >= (kDigit * digits + kApart) * em;
 }
 
 /// Gives a bar so many divisions, as long as there is room for.
@@ -73,7 +60,8 @@ InkBox Fit(Plan& plan, const ScaleBarDesign& design, const ShownMap& map, int co
     for (int i = 0; i < kTries; ++i, longest *= kLess) {
         const std::optional<BarOnMap> divisions = FitBar(
             map, plan.measure, plan.frame->Unit(), BarFit::Count, 0.0, count, longest);
-        if (!divisions || !NumbersAreApart(*plan.bar, *divisions)) {
+        if (!divisions || !NumbersAreApart(plan.bar->GetSize() * kBarNumbers,
+                                           divisions->value, divisions->length, count)) {
             return {};
         }
         SetDivisions(*plan.frame, *plan.bar, *divisions);
@@ -86,6 +74,26 @@ InkBox Fit(Plan& plan, const ScaleBarDesign& design, const ShownMap& map, int co
             }
             plan.frame->SetLongest(longest);
             return ink;
+        }
+    }
+    return {};
+}
+
+/// Gives a bar as many divisions as there is room for, and no more than so many, in a
+/// size whose numbers can be read; in a smaller one that suits the sheet where there is
+/// no room for that.
+InkBox FitLegibly(Plan& plan, const ScaleBarDesign& design, const ShownMap& map,
+                  const Measures& measures, double most) {
+    const int suiting =
+        static_cast<int>(std::max(1.0, std::round(2.1 * measures.module)));
+    const int legible = static_cast<int>(std::ceil(kSmallestEm / kBarNumbers));
+    for (const int size : {std::max(suiting, legible), suiting}) {
+        plan.bar->SetSize(size);
+        for (int count = design.divisions.value_or(kUsualDivisions); count > 0; --count) {
+            const InkBox ink = Fit(plan, design, map, count, most);
+            if (!ink.IsEmpty()) {
+                return ink;
+            }
         }
     }
     return {};
@@ -119,20 +127,17 @@ std::unique_ptr<PlacedFrame> PlaceScaleBar(const PageDesign& design, const MapOn
     if (style == nullptr || most <= 0.0) {
         return nullptr;
     }
-    std::optional<Plan> plan = PlanBar(*style, design.scaleBar, shown, measures, remarks);
+    std::optional<Plan> plan = PlanBar(*style, design.scaleBar, shown, remarks);
     if (!plan) {
         return nullptr;
     }
-    int count = design.scaleBar.divisions;
-    InkBox ink = Fit(*plan, design.scaleBar, shown, count, most);
-    while (ink.IsEmpty() && count > 1) {
-        ink = Fit(*plan, design.scaleBar, shown, --count, most);
-    }
+    const InkBox ink = FitLegibly(*plan, design.scaleBar, shown, measures, most);
     if (ink.IsEmpty()) {
         remarks.emplace_back("the scale bar is left out: there is no room for it");
         return nullptr;
     }
-    if (count < design.scaleBar.divisions) {
+    const int count = plan->bar->GetMainDivCount();
+    if (count < design.scaleBar.divisions.value_or(1)) {
         remarks.push_back("the scale bar has fewer divisions than were asked for, " +
                           std::to_string(count) +
                           ": the numbers of more would run into one another");

@@ -52,7 +52,7 @@ TEST_F(HonestStatus, OfTextsThatAreTooLargeOrTooSmall) {
                   "title: is 83333 pixels high, and texts of at most 65535 are drawn");
     ExpectRefused(
         Run({"data/scene.tif", "--size", "A6", "--dpi", "10", "-o", "page.png"}),
-        "scale bar: is 2 pixels high, too little for its text");
+        "scale bar: is 3 pixels high, too little for its text");
 }
 
 TEST_F(HonestStatus, OfFontsThatAreNotThere) {

@@ -103,8 +103,8 @@ TEST_F(MapPage, HasTheSizeAskedFor) {
         {{"--portrait"}, 1240, 1754},
         {{"--size", "Letter", "--dpi", "100"}, 1100, 850},
         {{"--size", "a5", "--portrait", "--dpi", "96"}, 559, 794},
-        {{"--size", "100x50", "--dpi", "254"}, 1000, 500},
-        {{"--size", "50x100", "--dpi", "254", "--portrait"}, 500, 1000},
+        {{"--size", "240x120", "--dpi", "127"}, 1200, 600},
+        {{"--size", "120x240", "--dpi", "127", "--portrait"}, 600, 1200},
     };
     for (const SizeRow& row : rows) {
         Arguments arguments = {"scene.tif", "-o", "page.png"};

@@ -221,6 +221,44 @@ TEST_F(PageFile, SaysWhatIsWrongInOneLineAndOverwritesNothing) {
     }
 }
 
+TEST_F(PageFile, IsNotDrawnStrictlyWhereSomethingIsToBeSaidOfIt) {
+    ASSERT_EQ(Run({"data/scene.tif", "--title", "A", "--save", "good.json"}).status, 0);
+    host_tests::WriteFile(
+        folder.Path("bad.json"),
+        std::regex_replace(ContentsOf(folder.Path("good.json")),
+                           std::regex("\"text\": \"A\""),
+                           "\"text\": \"As long as can be, and longer\""));
+    host_tests::WriteFile(folder.Path("list.csv"), "name\na\n");
+    const Arguments calls[] = {
+        {"data/scene.tif", "--title", "A", "--size", "30x30"},
+        {"bad.json"},
+        {"bad.json", "--series", "list.csv"},
+    };
+    for (const Arguments& call : calls) {
+        Arguments arguments = call;
+        arguments.insert(arguments.end(), {"--dpi", "200", "-o", "{name}.png"});
+        const Result lenient = Run(arguments);
+        EXPECT_EQ(lenient.status, 0) << call.front();
+        EXPECT_NE(lenient.err.find("warning: "), std::string::npos) << call.front();
+        fs::remove(folder.Path("{name}.png"));
+        fs::remove(folder.Path("a.png"));
+
+        arguments.emplace_back("--strict");
+        const std::vector<std::string> names = folder.Names();
+        const Result strict = Run(arguments);
+        EXPECT_EQ(strict.status, 1) << call.front();
+        EXPECT_EQ(strict.out, "") << call.front();
+        EXPECT_EQ(strict.err.find(lenient.err), 0u) << strict.err;
+        EXPECT_NE(
+            strict.err.find(".png: is not written, for --strict allows no warnings\n"),
+            std::string::npos)
+            << strict.err;
+        EXPECT_EQ(folder.Names(), names) << call.front();
+    }
+    const Result good = Run({"good.json", "-o", "good.png", "--dpi", "50", "--strict"});
+    EXPECT_EQ(good.status, 0) << good.err;
+}
+
 TEST_F(PageFile, TellsItsSchema) {
     const Result result = Run({"--schema"});
     EXPECT_EQ(result.status, 0) << result.err;

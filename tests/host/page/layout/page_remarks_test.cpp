@@ -1,0 +1,175 @@
+#include "page/layout/page_remarks.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "page/catalogue.h"
+#include "page/document/document_test.h"
+#include "page/document/page_text.h"
+#include "page/document/raster_store.h"
+#include "page/layout/text_size.h"
+
+namespace {
+
+using PageRemarks = host_tests::DocumentTest;
+
+/// An item at a place on a sheet of 400 x 300 units, drawn with a border.
+std::string Item(const std::string& type, const std::string& box,
+                 const std::string& more = "", const std::string& frame = "") {
+    return R"({"type": ")" + type + R"(", )" + more + R"("frame": {"border": true, )" +
+           frame + box + "}}";
+}
+
+std::string At(int left, int top, int width, int height) {
+    return "\"left\": " + std::to_string(left) + ", \"top\": " + std::to_string(top) +
+           ", \"width\": " + std::to_string(width) +
+           ", \"height\": " + std::to_string(height);
+}
+
+struct RemarksRow {
+    const char* what;
+    std::string elements;
+    std::vector<std::string> remarks;  ///< how each begins
+};
+
+TEST_F(PageRemarks, TellOfEachElementWhatAReaderWouldStumbleOver) {
+    const std::string map =
+        Item("map", At(50, 250, 200, 200), R"("rasters": ["scene.tif"], )");
+    const std::string neatLine =
+        Item("frame", At(10, 290, 380, 280), R"("name": "neat line", )");
+    const std::string text = R"("text": "Olinda", "fontSize": 20, )";
+    const std::string title = Item("title", At(100, 280, 100, 28), text);
+    const std::string logo = R"("path": "logo.png", "size": 48, )";
+    const std::string opaque = R"("fill": true, "fillColor": "#FFFFFF", )";
+    const auto bar = [](int divisions, int subdivisions, double length) {
+        return Item("scale-bar-line", At(50, 80, 300, 60),
+                    R"("size": 40, "divisions": )" + std::to_string(divisions) +
+                        R"(, "subdivisions": )" + std::to_string(subdivisions) +
+                        R"(, "divisionValue": 100, "divisionLength": )" +
+                        std::to_string(length) + ", ");
+    };
+    const RemarksRow rows[] = {
+        {"a page as it should be", neatLine + "," + map + "," + title, {}},
+        {"drawn in another order", title + "," + map + "," + neatLine, {}},
+        {"within the map", map + "," + Item("title", At(60, 240, 100, 28), text), {}},
+        {"before the map",
+         Item("title", At(60, 240, 100, 28), text) + "," + map,
+         {"title: is covered by map"}},
+        {"over the map's edge",
+         map + "," + Item("title", At(200, 240, 100, 28), text),
+         {"title: lies over the edge of map"}},
+        {"under the map's edge",
+         Item("title", At(200, 240, 100, 28), text) + "," + map,
+         {"map: lies over title"}},
+        {"over the neat line",
+         neatLine + "," + Item("title", At(300, 280, 98, 28), text),
+         {"title: lies over the edge of neat line"}},
+        {"under a neat line's edge",
+         Item("title", At(300, 280, 98, 28), text) + "," + neatLine,
+         {"title: lies over the edge of neat line"}},
+        {"two titles",
+         title + "," + Item("title", At(150, 270, 100, 28), text + R"("name": "sub", )"),
+         {"sub: lies over title"}},
+        {"side by side", title + "," + Item("title", At(200, 280, 100, 28), text), {}},
+        {"on a panel", Item("frame", At(90, 290, 150, 60), "", opaque) + "," + title, {}},
+        {"under a panel",
+         title + "," +
+             Item("frame", At(90, 290, 150, 60), R"("name": "panel", )", opaque),
+         {"title: is covered by panel"}},
+        {"a title that was made longer",
+         Item("title", At(100, 280, 100, 28),
+              R"("text": "Olinda and its surroundings", "fontSize": 20, )"),
+         {"title: leaves its frame by "}},
+        {"a title without a frame",
+         R"({"type": "title", "text": "Olinda", "frame": {"left": 200, "top": 200}})",
+         {}},
+        {"over the edge of the sheet",
+         Item("picture", At(370, 100, 70, 60), logo),
+         {"picture: leaves the sheet by 10.6 mm"}},
+        {"beside the sheet",
+         Item("picture", At(420, 100, 70, 60), logo),
+         {"picture: lies beside the sheet"}},
+        {"larger than its frame, 64 x 48",
+         Item("picture", At(100, 100, 40, 40), logo),
+         {"picture: leaves its frame by 3.2 mm"}},
+        {"small type",
+         Item("title", At(100, 280, 100, 28), R"("text": "a", "fontSize": 6, )"),
+         {"title: is written in 4.5 points, smaller than 5"}},
+        {"type that is large enough",
+         Item("title", At(100, 280, 100, 28), R"("text": "a", "fontSize": 6.7, )"),
+         {}},
+        {"a bar", bar(4, 2, 40.0), {}},
+        {"a bar whose numbers meet",
+         bar(10, 0, 20.0),
+         {"scale-bar: its numbers run into one another"}},
+        {"a bar of fifty divisions",
+         bar(50, 2, 4.0),
+         {"scale-bar: its numbers run into one another",
+          "scale-bar: its ticks are less than 0.5 mm apart"}},
+        {"a bar of many subdivisions",
+         bar(4, 30, 40.0),
+         {"scale-bar: its ticks are less than 0.5 mm apart"}},
+    };
+    for (const RemarksRow& row : rows) {
+        SCOPED_TRACE(row.what);
+        const host::Page page = host::ReadPage(
+            R"({"version": 2, "width": 400, "height": 300, "elements": [)" +
+                row.elements + "]}",
+            host::FilePaths(folder.Path("page.json")));
+        const std::vector<std::string> remarks = host::RemarksOf(page);
+        EXPECT_EQ(remarks.size(), row.remarks.size())
+            << ::testing::PrintToString(remarks);
+        for (std::size_t i = 0; i < remarks.size() && i < row.remarks.size(); ++i) {
+            EXPECT_THAT(remarks[i], ::testing::StartsWith(row.remarks[i]));
+        }
+    }
+}
+
+/// The em sizes in which an element of 100 units writes, as its manual says.
+TEST_F(PageRemarks, KnowTheSmallestTextOfEveryElement) {
+    struct Row {
+        const char* item;
+        double units;
+    };
+    const Row rows[] = {
+        {R"("title", "text": "a", "fontSize": 40)", 40.0},
+        {R"("numeric-scale", "fontSize": 24)", 24.0},
+        {R"("scale-bar-alternating", "size": 100)", 25.0},
+        {R"("north-arrow-one", "size": 100)", 400.0 / 15.0},
+        {R"("north-arrow-two", "size": 100)", 200.0 / 15.0},
+        {R"("north-arrow-four", "size": 100)", 20.0},
+        {R"("north-arrow-eight", "size": 100)", 10.0},
+    };
+    for (const Row& row : rows) {
+        const auto points = host::SmallestText(
+            host::ReadItem(R"({"type": )" + std::string(row.item) + "}"));
+        ASSERT_TRUE(points.has_value()) << row.item;
+        EXPECT_NEAR(*points, row.units * 0.75, 1e-9) << row.item;
+    }
+    EXPECT_FALSE(host::SmallestText(host::ReadItem(R"({"type": "frame"})")));
+    for (const host::CatalogueEntry* const entry : host::StylesOf(SurroundNorthArrow)) {
+        const auto arrow = host::NewElement<CNorthArrowBase>(*entry);
+        EXPECT_GT(host::LettersOf(*arrow), 0.0) << entry->name;
+    }
+}
+
+/// A legend's rows are as high as the ink of "Band_1", and so is what it writes.
+TEST_F(PageRemarks, KnowHowSmallALegendIs) {
+    host::RasterStore store;
+    const auto points = [&](const std::string& more) {
+        host::PageItem item = host::ReadItem(
+            R"({"type": "legend", "fileNameSize": 40, "titleSize": 60, "rasters": [")" +
+            folder.Path("scene.tif") + "\"]" + more + "}");
+        host::OpenRasters(item, store);
+        return host::SmallestText(item).value_or(0.0) / 0.75;
+    };
+    const double natural = points("");
+    EXPECT_GT(natural, 0.75 * 40.0);
+    EXPECT_LE(natural, 40.0);
+    EXPECT_LT(points(R"(, "size": 40)"), 0.25 * 40.0);
+}
+
+}  // namespace
