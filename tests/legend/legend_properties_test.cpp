@@ -1,36 +1,57 @@
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <type_traits>
 
-#include "legend/legend_model.h"
+#include "legend/fake_sources.h"
+#include "legend/scripted_ink.h"
+#include "map_surround/legend.h"
+#include "recording/expect.h"
 
 namespace {
 
-using model::Kind;
+using fakes::Raster;
 using namespace recording;
 
-model::Legend Described() {
-    model::Legend legend;
-    legend.title = {"Explanation", "Serif", 21, 3, 0xFF123456};
-    legend.fileName = {"", "Mono", 15, 2, 0x80654321};
-    legend.sources = {{Kind::Rgb, "a.tif", {0, 1, 2}, 0, 0, {}},
-                      {Kind::Gray, "b.tif", {0, 1, 2}, -5, 250, {}},
-                      {Kind::Classified,
-                       "c.tif",
-                       {0, 1, 2},
-                       0,
-                       0,
-                       {{"water", 0xFF0000AA}, {"forest", 0xFF00AA00}}}};
-    return legend;
+void Measure(CMapLegend& legend) {
+    Recording recording(Mode::RecordOnly);
+    ink::Script(recording, ink::Typical);
+    legend.ResetAspectRatio();
 }
 
-/// What measuring leaves in the fields that can be read.
-void ExpectMeasured(const CMapLegend& legend, const model::Natural& natural) {
-    EXPECT_EQ(legend.GetSize(), natural.height);
-    EXPECT_EQ(legend.GetAspectRatio(), natural.aspect);
-    EXPECT_EQ(legend.GetTitleSize(), natural.titleEm);
-    EXPECT_EQ(legend.GetFileNameSize(), natural.fileNameEm);
-}
+/// A legend with everything set, its sources and the size it was measured to.
+struct Described {
+    Raster rgb{L"a.tif", DisplayRGB};
+    Raster gray{L"b.tif", DisplayGray};
+    Raster classes{L"c.tif", DisplayClassified};
+    CMapLegend legend;
+    int size;
+    float aspectRatio;
+
+    explicit Described(float factor = 1.0f) {
+        classes.table.items = {{L"water", 0, 0, 170}, {L"forest", 0, 170, 0}};
+        legend.SetTitleValue(L"Explanation");
+        legend.SetTitle(L"Serif");
+        legend.SetTitleSize(21.0f);
+        legend.SetTitleStyle(Gdiplus::FontStyleBoldItalic);
+        legend.SetTitleColor(Gdiplus::Color(0xFF123456));
+        legend.SetFileName(L"Mono");
+        legend.SetFileNameStyle(Gdiplus::FontStyleItalic);
+        legend.SetFileColor(Gdiplus::Color(0x80654321));
+        legend.SetSizeAspect(factor);
+        legend.SetDataSouce({&rgb, &gray, &classes});
+        Measure(legend);
+        size = legend.GetSize();
+        aspectRatio = legend.GetAspectRatio();
+    }
+
+    void ExpectMeasured(const CMapLegend& measured, float factor = 1.0f) const {
+        EXPECT_EQ(measured.GetSize(), size);
+        EXPECT_EQ(measured.GetAspectRatio(), aspectRatio);
+        EXPECT_EQ(measured.GetTitleSize(), 21.0f * factor);
+        EXPECT_EQ(measured.GetFileNameSize(), 15.0f * factor);
+    }
+};
 
 /// What a legend draws, with the ink scripted.
 std::vector<std::string> DrawingOf(CMapLegend& legend, double scale = 1.0) {
@@ -39,12 +60,6 @@ std::vector<std::string> DrawingOf(CMapLegend& legend, double scale = 1.0) {
     ink::Script(recording, ink::Typical);
     legend.Draw(surface.Graphics(), CPoint(200, 150), scale);
     return recording.Drawing();
-}
-
-void Measure(CMapLegend& legend) {
-    Recording recording(Mode::RecordOnly);
-    ink::Script(recording, ink::Typical);
-    legend.ResetAspectRatio();
 }
 
 TEST(LegendProperties, AFreshLegendHasItsDefaults) {
@@ -107,8 +122,7 @@ static_assert(std::is_same_v<decltype(&CMapLegend::GetTitleValue),
                              std::wstring (CMapLegend::*)() const>);
 
 TEST(LegendProperties, SettersDoNotMeasure) {
-    model::Built built = model::Build(Described());
-    Measure(built.legend);
+    Described built;
     const int size = built.legend.GetSize();
     Recording recording;
     built.legend.SetTitleValue(L"Another");
@@ -120,27 +134,22 @@ TEST(LegendProperties, SettersDoNotMeasure) {
 }
 
 TEST(LegendProperties, MeasuringOverwritesTheHostsSize) {
-    model::Built built = model::Build(Described());
+    Described built;
     built.legend.SetSize(999);
     built.legend.SetAspectRatio(99.0f);
     Measure(built.legend);
-    ExpectMeasured(built.legend, model::Measured(Described(), ink::Typical));
+    built.ExpectMeasured(built.legend);
 }
 
 TEST(LegendProperties, DrawingChangesNoField) {
-    model::Built built = model::Build(Described());
-    built.legend.SetSizeAspect(2.0f);
-    Measure(built.legend);
-    model::Legend described = Described();
-    described.factor = 2.0f;
+    Described built(2.0f);
     const std::vector<std::string> first = DrawingOf(built.legend, 3.125);
     EXPECT_EQ(DrawingOf(built.legend, 3.125), first);
-    ExpectMeasured(built.legend, model::Measured(described, ink::Typical));
+    built.ExpectMeasured(built.legend, 2.0f);
 }
 
 TEST(LegendProperties, NeitherFrontColourNorAngleHasAnyEffect) {
-    model::Built built = model::Build(Described());
-    Measure(built.legend);
+    Described built;
     const std::vector<std::string> plain = DrawingOf(built.legend);
     built.legend.SetFrontColor(Gdiplus::Color(0xFFAABBCC));
     built.legend.SetAngle(30.0f);
@@ -148,10 +157,7 @@ TEST(LegendProperties, NeitherFrontColourNorAngleHasAnyEffect) {
 }
 
 TEST(LegendProperties, ACopyHasEveryFieldAndTheSameSources) {
-    model::Legend described = Described();
-    described.factor = 2.0f;
-    model::Built built = model::Build(described);
-    Measure(built.legend);
+    Described built(2.0f);
     built.legend.SetFrontColor(Gdiplus::Color(0xFFAABBCC));
     built.legend.SetAngle(12.5f);
     built.legend.SetItemType(SurroundPicture);
@@ -166,7 +172,7 @@ TEST(LegendProperties, ACopyHasEveryFieldAndTheSameSources) {
         EXPECT_EQ(copy.GetFileName(), L"Mono");
         EXPECT_EQ(copy.GetTitleStyle(), Gdiplus::FontStyleBoldItalic);
         EXPECT_EQ(copy.GetFileNameStyle(), Gdiplus::FontStyleItalic);
-        ExpectMeasured(copy, model::Measured(described, ink::Typical));
+        built.ExpectMeasured(copy, 2.0f);
         EXPECT_EQ(DrawingOf(copy), drawing);
     };
     CMapLegend copy(built.legend);

@@ -3,6 +3,4 @@ set(legend_test_sources
   legend_changing_sources_test.cpp
   legend_drawing_test.cpp
   legend_properties_test.cpp
-  legend_layout_test.cpp
-  legend_lists_test.cpp
-  legend_model.cpp)
+  legend_layout_test.cpp)

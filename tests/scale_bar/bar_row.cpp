@@ -2,29 +2,23 @@
 
 #include <sstream>
 
+#include "page/catalogue.h"
 #include "recording/lines.h"
 
 using namespace recording;
 
 namespace scale_bar_test {
 
-const char* NameOf(Style style) {
-    switch (style) {
-        case Style::Line:
-            return "line";
-        case Style::Stepped:
-            return "stepped";
-        case Style::Line2:
-            return "line 2";
-        case Style::Line3:
-            return "line 3";
-        case Style::Alternate:
-            return "alternating";
-        case Style::EquAlternate:
-            return "equal alternating";
-    }
-    return "?";
+namespace {
+
+/// The catalogue has the styles in their order here.
+const host::CatalogueEntry& EntryOf(Style style) {
+    return *host::StylesOf(SurroundScaleBar).at(static_cast<std::size_t>(style));
 }
+
+}  // namespace
+
+const char* NameOf(Style style) { return EntryOf(style).name; }
 
 std::string Describe(const BarRow& row) {
     std::ostringstream text;
@@ -37,21 +31,7 @@ std::string Describe(const BarRow& row) {
 }
 
 std::unique_ptr<CScaleBarBase> NewBar(Style style) {
-    switch (style) {
-        case Style::Line:
-            return std::make_unique<CScaleLine>();
-        case Style::Stepped:
-            return std::make_unique<CSteppedScaleLine>();
-        case Style::Line2:
-            return std::make_unique<CScaleLine2>();
-        case Style::Line3:
-            return std::make_unique<CScaleLine3>();
-        case Style::Alternate:
-            return std::make_unique<CScaleAlternate>();
-        case Style::EquAlternate:
-            return std::make_unique<CScaleEquAltenate>();
-    }
-    return nullptr;
+    return host::NewElement<CScaleBarBase>(EntryOf(style));
 }
 
 void SetProperties(CScaleBarBase& bar, const BarRow& row) {

@@ -16,8 +16,6 @@ enum class Style { Line, Stepped, Line2, Line3, Alternate, EquAlternate };
 constexpr Style kStyles[] = {Style::Line,  Style::Stepped,   Style::Line2,
                              Style::Line3, Style::Alternate, Style::EquAlternate};
 
-constexpr Style kLineStyles[] = {Style::Line, Style::Stepped, Style::Line2, Style::Line3};
-
 const char* NameOf(Style style);
 
 /// One bar and one drawing of it; as it stands, the defaults at scale 1 about (200, 150).

@@ -339,23 +339,4 @@ TEST(ScaleBarBase, RoundsTheDivisionValueDownToOneDigit) {
     }
 }
 
-TEST(ScaleBarBase, LabelsOfAFractionHaveItsDecimals) {
-    BarRow row;
-    row.paperToData = 0.037;
-    row.paperToScreen = 100.0;  // a step of 81.08, so 81
-    row.subCount = -1;
-    const char* const labels[] = {"0.00", "0.03", "0.06", "0.09", "0.12", "0.15"};
-    for (const Style style : kLineStyles) {
-        row.style = style;
-        const std::vector<std::string> drawing = DrawingOf(row);
-        ASSERT_EQ(drawing.size(), 14u);  // six ticks with labels, line and unit name
-        for (std::size_t i = 0; i < 6; ++i) {
-            const int x = 89 + 81 * static_cast<int>(i);
-            EXPECT_EQ(drawing[2 * i], DrawLine(BlackPen(), x, 156, x, 170));
-            EXPECT_EQ(drawing[2 * i + 1],
-                      BlackLabel(labels[i], static_cast<float>(x - 5), 130));
-        }
-    }
-}
-
 }  // namespace

@@ -2,7 +2,6 @@
 
 #include <limits>
 
-#include "map_surround/frame.h"
 #include "map_surround/picture.h"
 #include "map_surround/title.h"
 #include "recording/expect.h"
@@ -16,111 +15,6 @@ constexpr int kLowest = std::numeric_limits<int>::min();
 constexpr int kHighest = std::numeric_limits<int>::max();
 constexpr float kInfinity = std::numeric_limits<float>::infinity();
 constexpr float kNaN = std::numeric_limits<float>::quiet_NaN();
-
-constexpr int kInts[] = {kLowest, -1, 0, 1, kHighest};
-constexpr float kFloats[] = {kNaN, -kInfinity, -1e30f, -1.0f, -0.0f,
-                             0.0f, 1e-40f,     0.5f,   1e30f, kInfinity};
-constexpr double kDoubles[] = {kNaN,   -kInfinity, -1e300, -1.0,  0.0,
-                               1e-300, 1.0 / 3.0,  1e9,    1e300, kInfinity};
-
-/// The same number for each side and both corners.
-Gdiplus::Rect Square(int number) { return {number, number, number, number}; }
-
-// Under the sanitizers this shows that no property, scale or centre overflows.
-TEST(Limits, ATitleIsDrawnWhateverItHolds) {
-    Surface surface;
-    Recording recording(Mode::Silent);
-    for (const int side : kInts) {
-        recording.ScriptBounds({Square(side)});
-        for (const double fontSize : kDoubles) {
-            for (const float angle : kFloats) {
-                CMapTitle title;
-                title.SetFontValue(L"Olinda");
-                title.SetFontStyle(L"Arial");
-                title.SetFontProcess(static_cast<FontProcess>(side));
-                title.SetFontSize(fontSize);
-                title.SetAngle(angle);
-                recording.Clear();
-                title.ResetAspectRatio();
-                const bool made = static_cast<float>(fontSize) > 0.0f;
-                EXPECT_EQ(recording.Count(), made ? 23 : 22);
-                EXPECT_EQ(title.GetSize(), side);
-                for (const double scale : kDoubles) {
-                    for (const int centre : kInts) {
-                        recording.Clear();
-                        title.Draw(surface.Graphics(), CPoint(centre, centre), scale);
-                        EXPECT_EQ(recording.Count(), 11);
-                    }
-                }
-            }
-        }
-    }
-}
-
-TEST(Limits, APictureIsDrawnWhateverItHolds) {
-    Surface surface;
-    Recording recording(Mode::Silent);
-    for (const unsigned int side : {0u, 1u, 4294967295u}) {
-        for (const int size : kInts) {
-            for (const float value : kFloats) {
-                recording.ScriptImageSize(side, 1u);
-                recording.ScriptBounds({Square(size)});
-                CDrawPicture picture;
-                EXPECT_TRUE(picture.Open(L"a"));
-                picture.SetSize(size);
-                picture.SetAngle(value);
-                recording.Clear();
-                picture.ResetAspectRatio();
-                EXPECT_EQ(recording.Count(), 10);
-                EXPECT_EQ(picture.GetNewHeight(), size);
-                for (const double scale : kDoubles) {
-                    for (const int centre : kInts) {
-                        picture.SetAspectRatio(value);
-                        recording.Clear();
-                        picture.Draw(surface.Graphics(), CPoint(centre, centre), scale);
-                        EXPECT_EQ(recording.Count(), 5);
-                    }
-                }
-            }
-        }
-    }
-}
-
-TEST(Limits, AFrameIsDrawnAndAskedWhateverItHolds) {
-    Surface surface;
-    Recording recording(Mode::Silent);
-    for (const int gap : kInts) {
-        for (const float ratio : kFloats) {
-            for (const float width : kFloats) {
-                for (const int from : kInts) {
-                    for (const int to : kInts) {
-                        CFrameBase frame;
-                        frame.DrawBorder = frame.DrawFill = frame.DrawShadow = true;
-                        frame.BorderGapX = frame.BorderGapY = gap;
-                        frame.FillGapX = frame.FillGapY = gap;
-                        frame.ShadowRatioX = frame.ShadowRatioY = ratio;
-                        frame.BorderWidth = width;
-                        recording.Clear();
-                        frame.DrawFrame(surface.Graphics(), CRect(from, from, to, to));
-                        EXPECT_EQ(recording.Count(), width == 0.0f ? 11 : 10);
-                    }
-                }
-            }
-        }
-    }
-    for (const double from : kDoubles) {
-        for (const double to : kDoubles) {
-            for (const double at : kDoubles) {
-                CFrameBase frame;
-                frame.SetExtent(CBoundingBox(from, from, to, to));
-                frame.SetOffset(at, -at);
-                const SpatialTopoRelation relation =
-                    frame.HitTest(CPoint2D(at, to), at, false);
-                EXPECT_EQ(frame.HitHandle >= 0, relation == TopoOnHandle);
-            }
-        }
-    }
-}
 
 TEST(Limits, AnAngleThatIsNotFiniteTurnsNothingAndSpoilsNoSurface) {
     for (const float angle : {kNaN, kInfinity, -kInfinity}) {

@@ -1,0 +1,235 @@
+// Numbers that no host should give. Every element is drawn with the calls of a tame one;
+// under the sanitizers this shows that nothing overflows.
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <functional>
+#include <limits>
+
+#include "legend/fake_sources.h"
+#include "page/catalogue.h"
+#include "recording/expect.h"
+#include "recording/lines.h"
+
+namespace {
+
+using namespace recording;
+
+constexpr int kLowest = std::numeric_limits<int>::min();
+constexpr int kHighest = std::numeric_limits<int>::max();
+constexpr float kInfinity = std::numeric_limits<float>::infinity();
+constexpr float kNan = std::numeric_limits<float>::quiet_NaN();
+
+constexpr int kInts[] = {kLowest, -40, -1, 0, 1, kHighest};
+constexpr float kFloats[] = {kNan, -kInfinity, -1e30f, -1.0f, -0.0f,
+                             0.0f, 1e-40f,     0.5f,   1e38f, kInfinity};
+constexpr double kDoubles[] = {kNan,
+                               -kInfinity,
+                               -std::numeric_limits<double>::max(),
+                               -1e300,
+                               -1.0,
+                               0.0,
+                               1e-300,
+                               1.0 / 3.0,
+                               1e9,
+                               std::numeric_limits<double>::max(),
+                               kInfinity};
+
+/// Numbers for the properties that only a class has.
+struct Own {
+    int whole;
+    float real;
+    double fine;
+};
+
+void SetOwn(CMapTitle& title, const Own& own) {
+    title.SetFontProcess(static_cast<FontProcess>(own.whole));
+    title.SetFontSize(own.fine);
+}
+
+void SetOwn(CDrawPicture&, const Own&) {}
+
+void SetOwn(CMapLegend& legend, const Own& own) {
+    legend.SetTitleSize(own.real);
+    legend.SetFileNameSize(own.real);
+    legend.SetSizeAspect(own.real);
+}
+
+void SetOwn(CNorthArrowBase& arrow, const Own& own) {
+    arrow.SetNorthArrowType(static_cast<NorthArrowType>(own.whole));
+}
+
+// A division value that is no number draws nothing, and a count of thousands of millions
+// draws for hours.
+void SetOwn(CScaleBarBase& bar, const Own& own) {
+    const bool divides = own.fine >= 1e-8 && std::isfinite(own.fine);
+    bar.SetPaper2DataScale(divides ? own.fine : 0.037);
+    bar.SetPaper2ScreenScale(own.fine);
+    bar.SetScreen2PaperByOneScale(own.fine);
+    bar.SetUnitPos(static_cast<ScaleBarPostion>(own.whole));
+    bar.SetScaleBarType(static_cast<ScaleBarType>(own.whole));
+}
+
+/// An element that can be given its own numbers, with something to draw.
+struct Hosted {
+    std::unique_ptr<CMapSurround> element;
+    std::function<void(const Own&)> setOwn;
+    fakes::Raster rgb{L"\xD800 lone.tif", DisplayRGB};
+    fakes::Raster gray{L"elevation.tif", DisplayGray};
+    fakes::Raster classes{L"", DisplayClassified};
+
+    template <typename Entry>
+    explicit Hosted(const Entry& entry) : element(entry.make()) {
+        auto& own = static_cast<typename Entry::Class&>(*element);
+        setOwn = [&own](const Own& numbers) { SetOwn(own, numbers); };
+        Fill(own);
+    }
+
+    void Fill(CMapTitle& title) {
+        title.SetFontValue(L"Olinda");
+        title.SetFontStyle(L"Arial");
+    }
+    void Fill(CDrawPicture& picture) { picture.Open(L"a"); }
+    void Fill(CMapLegend& legend) {
+        classes.table.items = {{L"\xD800 lone", 1, 2, 3}, {L"", 4, 5, 6}};
+        legend.SetTitleValue(L"Legend");
+        legend.SetDataSouce({&rgb, nullptr, &gray, &classes});
+    }
+    void Fill(CMapSurround& plain) { plain.SetSize(40); }
+};
+
+/// Calls with every element of the catalogue, in turn.
+template <typename Visit>
+void ForEachElement(Visit visit) {
+    std::apply(
+        [&](const auto&... entries) {
+            (
+                [&](const auto& entry) {
+                    SCOPED_TRACE(entry.name);
+                    Hosted hosted(entry);
+                    visit(hosted);
+                }(entries),
+                ...);
+        },
+        host::kElements);
+}
+
+std::size_t Visible(CMapSurround& element, CPoint centre, double scale) {
+    Surface surface(8, 8);  // its pixels are never touched
+    Recording recording(Mode::RecordOnly);
+    element.Draw(surface.Graphics(), centre, scale);
+    return recording.Drawing().size();
+}
+
+void Measure(CMapSurround& element, int whole) {
+    Recording recording(Mode::RecordOnly);
+    recording.ScriptBounds({{whole, whole, whole, whole}});
+    element.ResetAspectRatio();
+}
+
+TEST(HostileNumbers, DrawWhatTameOnesDraw) {
+    ForEachElement([](Hosted& hosted) {
+        CMapSurround& element = *hosted.element;
+        const std::size_t visible = Visible(element, {200, 150}, 1.0);
+        for (const int whole : kInts) {
+            for (const float real : kFloats) {
+                for (const double fine : kDoubles) {
+                    hosted.setOwn({whole, real, fine});
+                    element.SetAngle(real);
+                    Measure(element, whole);
+                    EXPECT_EQ(Visible(element, {kLowest, kHighest}, 1.0), visible);
+                    element.SetSize(whole);
+                    element.SetAspectRatio(real);
+                    EXPECT_EQ(Visible(element, {0, 0}, fine), visible);
+                    EXPECT_EQ(Visible(element, {kHighest, kLowest}, fine), visible);
+                    ASSERT_FALSE(::testing::Test::HasFailure())
+                        << whole << ", " << real << ", " << fine;
+                }
+            }
+        }
+    });
+}
+
+// Counts that are not drawn, for it would take too long: only what is computed of them.
+TEST(HostileNumbers, CountDivisionsFromNone) {
+    for (const host::CatalogueEntry* const style : host::StylesOf(SurroundScaleBar)) {
+        for (const double fine : kDoubles) {
+            for (const int count : {kLowest, -1}) {
+                const auto bar = host::NewElement<CScaleBarBase>(*style);
+                bar->SetPaper2ScreenScale(fine);
+                bar->SetMainDivCount(count);
+                bar->SetSubDivCount(kHighest);
+                bar->ResetAspectRatio();
+                EXPECT_GE(Visible(*bar, {0, 0}, 1.0), 2u) << style->name;
+                bar->SetMainDivCount(3);
+                bar->SetSubDivCount(count);
+                EXPECT_GT(Visible(*bar, {0, 0}, 1.0), 5u) << style->name;
+            }
+        }
+    }
+}
+
+TEST(HostileNumbers, DrawAndAskAFrame) {
+    Surface surface;
+    Recording recording(Mode::Silent);
+    for (const int gap : kInts) {
+        for (const float real : kFloats) {
+            for (const int from : kInts) {
+                for (const int to : kInts) {
+                    CFrameBase frame;
+                    frame.DrawBorder = frame.DrawFill = frame.DrawShadow = true;
+                    frame.BorderGapX = frame.BorderGapY = gap;
+                    frame.FillGapX = frame.FillGapY = gap;
+                    frame.ShadowRatioX = frame.ShadowRatioY = real;
+                    frame.BorderWidth = real;
+                    recording.Clear();
+                    frame.DrawFrame(surface.Graphics(), CRect(from, from, to, to));
+                    EXPECT_EQ(recording.Count(), real == 0.0f ? 11 : 10);
+                }
+            }
+        }
+    }
+    for (const double from : kDoubles) {
+        for (const double to : kDoubles) {
+            for (const double at : kDoubles) {
+                CFrameBase frame;
+                frame.SetExtent(CBoundingBox(from, from, to, to));
+                frame.SetOffset(at, -at);
+                const SpatialTopoRelation relation =
+                    frame.HitTest(CPoint2D(at, to), at, false);
+                EXPECT_EQ(frame.HitHandle >= 0, relation == TopoOnHandle);
+            }
+        }
+    }
+}
+
+// GDI+ itself is given what may reach it, and draws what comes afterwards as ever.
+TEST(HostileNumbers, LeaveGdiplusAtWork) {
+    ForEachElement([&](Hosted& hosted) {
+        CMapSurround& element = *hosted.element;
+        for (const int size : {kLowest, -100, 0, 40, kHighest}) {
+            for (const float real : {kNan, -3.0f, 0.0f, 0.01f, 15.0f, 400.0f}) {
+                for (const double scale : {-1.0, 0.0, 0.01, 1.0, double{kNan}}) {
+                    Surface surface;
+                    hosted.setOwn({size, real, scale});
+                    element.SetAngle(real);
+                    element.ResetAspectRatio();
+                    element.SetSize(size);
+                    element.Draw(surface.Graphics(), CPoint(200, 150), scale);
+                    element.Draw(surface.Graphics(), CPoint(-5000, 5000), scale);
+                    EXPECT_EQ(surface.WorldTransform(),
+                              (std::vector<float>{1, 0, 0, 1, 0, 0}));
+                    const Gdiplus::SolidBrush brush(Gdiplus::Color(0xFF208040));
+                    surface.Graphics()->FillRectangle(&brush, 0, 0, 10, 10);
+                    Gdiplus::Color color;
+                    surface.Bitmap().GetPixel(5, 5, &color);
+                    ASSERT_EQ(Hex(color.GetValue()), "#FF208040")
+                        << size << ", " << real << ", " << scale;
+                }
+            }
+        }
+    });
+}
+
+}  // namespace
