@@ -232,10 +232,20 @@ class Finder:
                 if statement and self.can_go(self.span(*statement)):
                     yield self.over(*statement, ";", "statement")
             for one, other in zip(block, block[1:]):
-                if one and other and all(self.acts(self.span(*part)) for part in (one, other)):
-                    a, b = self.span(*one), self.span(*other)
+                a, b = (self.span(*part) if part else "" for part in (one, other))
+                if self.acts(a) and self.acts(b) and not self.are_apart(a, b):
                     between = self.text[self.tokens[one[1] - 1].end : self.tokens[other[0]].start]
                     yield self.over(one[0], other[1], b + between + a, "call order")
+
+    @staticmethod
+    def are_apart(one, other):
+        """Two fields of an element that are set, two variables that are counted: in
+        whatever order."""
+        sets = re.compile(r"Set\w+\([\w.]+\);$")
+        counts = re.compile(r"(?:\+\+|--)?([\w.]+)(?:;$| [-+*/]= [\w.]+;$)")
+        a, b = counts.match(one), counts.match(other)
+        return bool(sets.match(one) and sets.match(other)
+                    or a and b and a.group(1) not in other and b.group(1) not in one)
 
     @staticmethod
     def can_go(statement):

@@ -1,17 +1,24 @@
 """Reads the list of changes that no test can notice."""
+import re
 
 
-def read(path):
-    """(file, line before, line after, occurrence) of each. The list is in blocks: the file,
-    with (2) behind it for the second time that its line stands in it, the line before and
-    after the change, and indented below the reason, which may stand for several changes."""
-    found, name, before = set(), "", ""
-    for line in path.read_text().splitlines():
-        if line.startswith("- "):
-            before = line[2:]
-        elif line.startswith("+ "):
-            file, _, occurrence = name.partition(" ")
-            found.add((file, before, line[2:], int(occurrence.strip("()") or 1)))
-        elif line and not line.startswith((" ", "#")):
-            name = line
-    return found
+class Equivalents:
+    """Patterns by file: a change is explained by one that finds itself in its lines."""
+
+    def __init__(self, path):
+        self.patterns, self.used, file = [], set(), ""
+        for line in path.read_text().splitlines():
+            if line.startswith("~ "):
+                self.patterns.append((file, line[2:]))
+            elif line and not line.startswith((" ", "#")):
+                file = line
+
+    def explain(self, mutant):
+        for file, pattern in self.patterns:
+            if file == mutant.name and re.search(pattern, mutant.lines):
+                self.used.add((file, pattern))
+                return True
+        return False
+
+    def unused(self):
+        return [entry for entry in self.patterns if entry not in self.used]
