@@ -15,19 +15,19 @@
 namespace host {
 namespace {
 
-const host::Property* PropertyOf(const host::PageItem& item, const char* name) {
-    const host::ItemType* const type = host::TypeOf(item);
-    return type == nullptr ? nullptr : host::FindProperty(type->properties, name);
+const Property* PropertyOf(const PageItem& item, const char* name) {
+    const ItemType* const type = TypeOf(item);
+    return type == nullptr ? nullptr : FindProperty(type->properties, name);
 }
 
 /// What of an item is its text: a title's, or a legend's first line.
-const host::Property* TextOf(const host::PageItem& item) {
-    const host::Property* const text = PropertyOf(item, "text");
+const Property* TextOf(const PageItem& item) {
+    const Property* const text = PropertyOf(item, "text");
     return text != nullptr ? text : PropertyOf(item, "title");
 }
 
-bool IsNamed(const host::PageItem& item, const std::string& name) {
-    const host::Property* const own = PropertyOf(item, "name");
+bool IsNamed(const PageItem& item, const std::string& name) {
+    const Property* const own = PropertyOf(item, "name");
     return own != nullptr && std::get<std::string>(own->read(item)) == name;
 }
 
@@ -48,41 +48,41 @@ void FitTitle(const CSurroundFrame& frame, CMapTitle& title) {
     }
 }
 
-void WriteText(host::PageItem& item, const host::Property& property,
-               const std::string& name, const std::string& text) {
-    const std::string why = host::CheckValue(property, text);
+void WriteText(PageItem& item, const Property& property, const std::string& name,
+               const std::string& text) {
+    const std::string why = CheckValue(property, text);
     if (!why.empty()) {
-        throw host::PageError(name, why);
+        throw PageError(name, why);
     }
     property.write(item, text);
 }
 
-void SetText(host::PageItem& item, const std::string& name, const std::string& text) {
-    const host::Property* const property = TextOf(item);
+void SetText(PageItem& item, const std::string& name, const std::string& text) {
+    const Property* const property = TextOf(item);
     if (property == nullptr || !IsNamed(item, name)) {
         return;
     }
     WriteText(item, *property, name, text);
-    if (auto* const title = host::ElementOf<CMapTitle>(item)) {
+    if (auto* const title = ElementOf<CMapTitle>(item)) {
         title->ResetAspectRatio();
-        FitTitle(*host::FrameAs<CSurroundFrame>(item), *title);
+        FitTitle(*FrameAs<CSurroundFrame>(item), *title);
     }
 }
 
-void Change(host::Page& page, const PageChanges& changes) {
+void Change(Page& page, const PageChanges& changes) {
     if (!changes.rasters.empty()) {
-        host::NameRasters(page, changes.rasters);
+        NameRasters(page, changes.rasters);
     }
-    for (host::PageItem& item : page.Items()) {
-        const host::Property* const extent = PropertyOf(item, "extent");
+    for (PageItem& item : page.Items()) {
+        const Property* const extent = PropertyOf(item, "extent");
         if (extent != nullptr && changes.extent) {
             extent->write(item, changes.extent);
         }
-        const host::Property* const scale = PropertyOf(item, "scale");
+        const Property* const scale = PropertyOf(item, "scale");
         if (scale != nullptr && changes.scale) {
             scale->write(item, *changes.scale);
         }
-        if (std::holds_alternative<host::MapFrame>(item)) {
+        if (std::holds_alternative<MapFrame>(item)) {
             for (const auto& [name, text] : changes.mapTexts) {
                 WriteText(item, *PropertyOf(item, name.c_str()), name, text);
             }
@@ -96,17 +96,17 @@ void Change(host::Page& page, const PageChanges& changes) {
 /// Where a legend stands in its frame, from the frame's middle, y growing upwards.
 struct LegendPlace {
     CMapLegend* legend;
-    host::PlacedFrame* frame;
+    PlacedFrame* frame;
     double left;
     double top;
 };
 
 /// Has the legends measured anew when they are opened.
-std::vector<LegendPlace> ForgetLegendSizes(host::Page& page) {
+std::vector<LegendPlace> ForgetLegendSizes(Page& page) {
     std::vector<LegendPlace> places;
-    for (host::PageItem& item : page.Items()) {
-        auto* const frame = host::FrameAs<host::LegendFrame>(item);
-        auto* const legend = host::ElementOf<CMapLegend>(item);
+    for (PageItem& item : page.Items()) {
+        auto* const frame = FrameAs<LegendFrame>(item);
+        auto* const legend = ElementOf<CMapLegend>(item);
         if (frame != nullptr && legend != nullptr) {
             const CPoint2D offset = frame->ElementOffset();
             places.push_back({legend, frame, offset.x - WidthOf(*legend) / 2.0,
@@ -133,19 +133,19 @@ void FitLegend(const LegendPlace& place) {
 
 }  // namespace
 
-std::vector<std::string> ChangeAndOpen(host::Page& page, const PageChanges& changes,
-                                       host::RasterStore& store) {
+std::vector<std::string> ChangeAndOpen(Page& page, const PageChanges& changes,
+                                       RasterStore& store) {
     Change(page, changes);
     const std::vector<LegendPlace> legends =
         changes.rasters.empty() ? std::vector<LegendPlace>() : ForgetLegendSizes(page);
-    host::OpenRasters(page, store);
+    OpenRasters(page, store);
     std::for_each(legends.begin(), legends.end(), FitLegend);
-    return host::FitToMap(page);
+    return FitToMap(page);
 }
 
-bool HasText(const host::Page& page, const std::string& name) {
+bool HasText(const Page& page, const std::string& name) {
     return std::any_of(page.Items().begin(), page.Items().end(),
-                       [&name](const host::PageItem& item) {
+                       [&name](const PageItem& item) {
                            return TextOf(item) != nullptr && IsNamed(item, name);
                        });
 }

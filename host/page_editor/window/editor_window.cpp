@@ -13,6 +13,7 @@
 #include <stdexcept>
 #include <utility>
 
+#include "page/document/item_type.h"
 #include "page/paper.h"
 #include "page_editor/editing/new_item.h"
 #include "page_editor/editing/property_change.h"
@@ -65,12 +66,12 @@ EditorWindow::EditorWindow()
 }
 
 void EditorWindow::Insert(const QString& type, QStringList files) {
-    if (files.isEmpty() && type == "map") {
+    if (files.isEmpty() && type == host::kMapType) {
         files = QFileDialog::getOpenFileNames(this, "Choose rasters, the first on top");
     } else if (files.isEmpty() && type == "picture") {
         files.append(QFileDialog::getOpenFileName(this, "Choose an image"));
     }
-    const bool needsFiles = type == "map" || type == "picture";
+    const bool needsFiles = type == host::kMapType || type == "picture";
     if (needsFiles && (files.isEmpty() || files.front().isEmpty())) {
         return;
     }

@@ -9,6 +9,7 @@
 #include "legend/fake_sources.h"
 #include "map_surround/map_surround.h"
 #include "page/catalogue.h"
+#include "title_picture/image_file.h"
 
 namespace {
 
@@ -45,16 +46,9 @@ TEST(LibraryHost, DrawsTheTitle) {
 }
 
 TEST(LibraryHost, DrawsAPictureFromAFile) {
-    {
-        Gdiplus::Bitmap red(30, 20);
-        Gdiplus::Graphics graphics(&red);
-        graphics.Clear(Gdiplus::Color(255, 200, 0, 0));
-        const CLSID bmp = {
-            0x557CF400, 0x1A04, 0x11D3, {0x9A, 0x73, 0x00, 0x00, 0xF8, 0x1E, 0xF3, 0x2E}};
-        ASSERT_EQ(red.Save(L"shared_library_test.bmp", &bmp, nullptr), Gdiplus::Ok);
-    }
+    const ImageFolder folder;
     CDrawPicture picture;
-    ASSERT_TRUE(picture.Open(L"shared_library_test.bmp"));
+    ASSERT_TRUE(picture.Open(folder.WriteBmp("red.bmp", 30, 20, 0xC80000).c_str()));
     EXPECT_EQ(picture.GetSize(), 6);  // 20 / 3
     picture.SetSize(40);
     picture.ResetAspectRatio();

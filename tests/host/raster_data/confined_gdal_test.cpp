@@ -33,15 +33,17 @@ class ConfinedGdal : public ::testing::Test {
 protected:
     ConfinedGdal() {
         for (const char* name : {"maps", "other"}) {
-            fs::create_directory(folder / name);
+            fs::create_directory(folder.Path(name));
         }
         raster_test::Write(Maps("a.tif"), {2, {{10, 20}}});
         raster_test::Write(Other("a.tif"), {2, {{30, 40}}});
     }
 
-    std::string Maps(const std::string& name) const { return folder / ("maps/" + name); }
+    std::string Maps(const std::string& name) const {
+        return folder.Path("maps/" + name);
+    }
     std::string Other(const std::string& name) const {
-        return folder / ("other/" + name);
+        return folder.Path("other/" + name);
     }
 
     void WriteText(const std::string& path, const std::string& text) const {
@@ -79,11 +81,12 @@ protected:
                                     {"--outside", "--remote", "--all"});
     }
     std::string Outside(const std::string& path) const {
-        return path + " is outside " + fs::canonical(folder / "maps").string() +
-               "; --outside " + fs::canonical(folder / "other").string() + " allows it";
+        return path + " is outside " + fs::canonical(folder.Path("maps")).string() +
+               "; --outside " + fs::canonical(folder.Path("other")).string() +
+               " allows it";
     }
 
-    raster_test::TemporaryFolder folder;
+    ScratchFolder folder;
 };
 
 TEST_F(ConfinedGdal, ReadsPlainFilesBelowTheFolder) {
@@ -95,7 +98,7 @@ TEST_F(ConfinedGdal, ReadsPlainFilesBelowTheFolder) {
     mkfifo(Maps("pipe.tif").c_str(), 0600);
     EXPECT_EQ(Read(Maps("pipe.tif")), "is not a plain file");
     host::AllowedSources both = Allowed();
-    both.Allow(folder / "other");
+    both.Allow(folder.Path("other"));
     EXPECT_EQ(Read(Maps("link.tif"), both), "30");
 }
 
@@ -155,7 +158,7 @@ TEST_F(ConfinedGdal, FollowsNoSideFileThatIsALink) {
                     why == Outside(Other("side" + ending)))
             << why;
         host::AllowedSources both = Allowed();
-        both.Allow(folder / "other");
+        both.Allow(folder.Path("other"));
         EXPECT_EQ(Read(raster, both), "10") << ending;
         fs::remove(raster);
         fs::remove(raster + ending);
@@ -180,7 +183,7 @@ TEST_F(ConfinedGdal, FollowsNoReferenceInMetadata) {
 TEST_F(ConfinedGdal, LooksIntoArchives) {
     host::StartGdal();
     for (const char* place : {"maps", "other"}) {
-        const std::string archive = folder / (std::string(place) + "/a.zip");
+        const std::string archive = folder.Path(std::string(place) + "/a.zip");
         VSILFILE* const file = VSIFOpenL(("/vsizip/" + archive + "/b.tif").c_str(), "wb");
         const std::ifstream raster(Maps("a.tif"), std::ios::binary);
         std::ostringstream bytes;

@@ -18,7 +18,6 @@ using raster_test::Dataset;
 using raster_test::Open;
 using raster_test::Ramp;
 using raster_test::Raster;
-using raster_test::TemporaryFolder;
 using raster_test::WriteAndOpen;
 
 constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
@@ -31,17 +30,17 @@ std::string WhyNot(const std::string& path) {
     return why;
 }
 
-std::string FileWith(const TemporaryFolder& folder, const std::string& name,
+std::string FileWith(const ScratchFolder& folder, const std::string& name,
                      const std::string& content) {
-    const std::string path = folder / name;
+    const std::string path = folder.Path(name);
     std::ofstream(path, std::ios::binary) << content;
     return path;
 }
 
 TEST(GdalRasterOpen, SaysInAFewWordsWhyItCannot) {
-    const TemporaryFolder folder;
+    const ScratchFolder folder;
     testing::internal::CaptureStderr();
-    EXPECT_EQ(WhyNot(folder / "missing.tif"), "no such file");
+    EXPECT_EQ(WhyNot(folder.Path("missing.tif")), "no such file");
     EXPECT_EQ(WhyNot(""), "no such file");
     EXPECT_EQ(WhyNot(folder.Path()), "is a folder");
     EXPECT_EQ(WhyNot(FileWith(folder, "empty.tif", "")), "is empty");
@@ -52,7 +51,7 @@ TEST(GdalRasterOpen, SaysInAFewWordsWhyItCannot) {
 }
 
 TEST(GdalRasterOpen, ReasonsOfGdalHaveNoFileNameAndOneLine) {
-    const TemporaryFolder folder;
+    const ScratchFolder folder;
     // A TIFF header that points to a directory beyond the end.
     const std::string headerOnly(std::string("II*\0\xff\x00\x00\x00", 8));
     testing::internal::CaptureStderr();
@@ -65,7 +64,7 @@ TEST(GdalRasterOpen, ReasonsOfGdalHaveNoFileNameAndOneLine) {
 }
 
 TEST(GdalRasterOpen, AFileOfShapesIsNoRaster) {
-    const TemporaryFolder folder;
+    const ScratchFolder folder;
     const std::string shapes = FileWith(
         folder, "shapes.geojson",
         R"({"type":"FeatureCollection","features":[{"type":"Feature","properties":{},)"
@@ -74,31 +73,31 @@ TEST(GdalRasterOpen, AFileOfShapesIsNoRaster) {
 }
 
 TEST(GdalRasterName, IsTheFilesWithoutItsFolder) {
-    const TemporaryFolder folder;
+    const ScratchFolder folder;
     for (const auto& [name, wide] :
          {std::pair<std::string, std::wstring>{"a b.tif", L"a b.tif"},
           {"Île_影像.tif", L"Île_影像.tif"},
           {"𝄞.tif", L"𝄞.tif"}}) {
-        raster_test::Write(folder / name, {1, {{7}}});
-        const auto raster = Open(folder / name);
+        raster_test::Write(folder.Path(name), {1, {{7}}});
+        const auto raster = Open(folder.Path(name));
         ASSERT_NE(raster, nullptr);
         EXPECT_EQ(raster->GetFileName(), wide);
-        EXPECT_EQ(raster->Path(), folder / name);
+        EXPECT_EQ(raster->Path(), folder.Path(name));
         EXPECT_EQ(raster->GetDataSourceType(), DataSourceRaster);
     }
 }
 
 TEST(GdalRasterAvailable, UntilItsFileIsGone) {
-    const TemporaryFolder folder;
-    const std::string path = folder / "raster.tif";
+    const ScratchFolder folder;
+    const std::string path = folder.Path("raster.tif");
     raster_test::Write(path, {1, {{7}}});
     const auto raster = Open(path);
     EXPECT_TRUE(raster->IsAvailable());
     EXPECT_TRUE(raster->IsAvailable());
 
-    std::filesystem::rename(path, folder / "renamed.tif");
+    std::filesystem::rename(path, folder.Path("renamed.tif"));
     EXPECT_FALSE(raster->IsAvailable());
-    std::filesystem::rename(folder / "renamed.tif", path);
+    std::filesystem::rename(folder.Path("renamed.tif"), path);
     EXPECT_TRUE(raster->IsAvailable());
     std::filesystem::resize_file(path, 0);
     EXPECT_FALSE(raster->IsAvailable());
@@ -161,7 +160,7 @@ const DisplayRow kDisplays[] = {
 };
 
 TEST(GdalRasterDisplay, FollowsFromTheBands) {
-    const TemporaryFolder folder;
+    const ScratchFolder folder;
     for (const DisplayRow& row : kDisplays) {
         SCOPED_TRACE(row.name);
         Raster raster;
@@ -189,7 +188,7 @@ TEST(GdalRasterDisplay, FollowsFromTheBands) {
 }
 
 TEST(GdalRasterPlace, IsTheFilesOrNone) {
-    const TemporaryFolder folder;
+    const ScratchFolder folder;
     const auto unplaced = WriteAndOpen(folder, {3, {Ramp(1, 6)}});
     EXPECT_FALSE(unplaced->HasGeoTransform());
     EXPECT_EQ(unplaced->GeoTransform(), (std::array<double, 6>{0, 1, 0, 0, 0, 1}));
@@ -241,7 +240,7 @@ const RangeRow kRanges[] = {
 };
 
 TEST(GdalRasterRange, IsOfTheValuesWithoutNoData) {
-    const TemporaryFolder folder;
+    const ScratchFolder folder;
     for (const RangeRow& row : kRanges) {
         for (const bool approximate : {true, false}) {
             SCOPED_TRACE(row.name);
@@ -263,7 +262,7 @@ TEST(GdalRasterRange, IsOfTheValuesWithoutNoData) {
 }
 
 TEST(GdalRasterRange, IsOfEachBandByItself) {
-    const TemporaryFolder folder;
+    const ScratchFolder folder;
     const auto raster = WriteAndOpen(folder, {2, {{1, 2}, {30, 40}, {5, 6}}, GDT_Int16});
     double min = 0.0;
     double max = 0.0;
@@ -285,12 +284,12 @@ void WriteWithOverview(const std::string& path, int width, int height) {
 }
 
 TEST(GdalRasterRange, IsSampledOfALargeRasterOnly) {
-    const TemporaryFolder folder;
+    const ScratchFolder folder;
     // 16 777 216 pixels are the most of which each is read.
     for (const auto& [width, height, value] :
          {std::tuple{4096, 4096, 0.0}, {8192, 2048, 0.0}, {8192, 8192, 50.0}}) {
         SCOPED_TRACE(height);
-        const std::string path = folder / "overview.tif";
+        const std::string path = folder.Path("overview.tif");
         WriteWithOverview(path, width, height);
         const auto raster = Open(path);
         for (const bool approximate : {true, false}) {
@@ -304,8 +303,8 @@ TEST(GdalRasterRange, IsSampledOfALargeRasterOnly) {
 }
 
 TEST(GdalRasterRange, OfALargeRasterIsFoundWhereAnEstimateMeetsNoValue) {
-    const TemporaryFolder folder;
-    const std::string path = folder / "large.tif";
+    const ScratchFolder folder;
+    const std::string path = folder.Path("large.tif");
     {
         const Dataset dataset =
             raster_test::Create(path, 4200, 4200, 1, GDT_Byte, {"SPARSE_OK=TRUE"});
@@ -324,8 +323,8 @@ TEST(GdalRasterRange, OfALargeRasterIsFoundWhereAnEstimateMeetsNoValue) {
 }
 
 TEST(GdalRasterDamaged, IsReportedAndNothingIsWrittenToTheTerminal) {
-    const TemporaryFolder folder;
-    const std::string path = folder / "cut.tif";
+    const ScratchFolder folder;
+    const std::string path = folder.Path("cut.tif");
     std::vector<double> values;
     for (int i = 0; i < 300 * 300; ++i) {
         values.push_back(i % 251);
@@ -353,8 +352,8 @@ TEST(GdalRasterDamaged, IsReportedAndNothingIsWrittenToTheTerminal) {
 }
 
 TEST(GdalRasterFolder, IsLeftAsItWas) {
-    const TemporaryFolder folder;
-    const std::string path = folder / "raster.tif";
+    const ScratchFolder folder;
+    const std::string path = folder.Path("raster.tif");
     Raster placed{2, {{1, 2}, {3, 4}, {5, 6}}};
     placed.describe = [](GDALDataset& dataset) {
         std::array<double, 6> place{0, 1, 1, 0, 1, -1};
@@ -372,7 +371,7 @@ TEST(GdalRasterFolder, IsLeftAsItWas) {
         raster->Render(4, 4);
         raster->Part({0, 0, 1, 1})->NorthUp()->Render(4, 4);
     }
-    EXPECT_EQ(folder.Files(), std::vector<std::string>{"raster.tif"});
+    EXPECT_EQ(folder.Names(), std::vector<std::string>{"raster.tif"});
 }
 
 }  // namespace

@@ -3,36 +3,10 @@
 #include <cpl_string.h>
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <atomic>
-#include <filesystem>
 #include <numeric>
-#include <random>
 
 namespace raster_test {
-
-TemporaryFolder::TemporaryFolder() {
-    namespace fs = std::filesystem;
-    std::random_device random;
-    do {
-        m_path = (fs::temp_directory_path() / ("raster_data_" + std::to_string(random())))
-                     .string();
-    } while (!fs::create_directory(m_path));
-}
-
-TemporaryFolder::~TemporaryFolder() {
-    std::error_code ignored;
-    std::filesystem::remove_all(m_path, ignored);
-}
-
-std::vector<std::string> TemporaryFolder::Files() const {
-    std::vector<std::string> names;
-    for (const auto& entry : std::filesystem::directory_iterator(m_path)) {
-        names.push_back(entry.path().filename().string());
-    }
-    std::sort(names.begin(), names.end());
-    return names;
-}
 
 Dataset Create(const std::string& path, int width, int height, int bands,
                GDALDataType type, const std::vector<std::string>& options) {
@@ -79,11 +53,11 @@ std::unique_ptr<host::GdalRaster> Open(const std::string& path,
     return raster;
 }
 
-std::unique_ptr<host::GdalRaster> WriteAndOpen(const TemporaryFolder& folder,
+std::unique_ptr<host::GdalRaster> WriteAndOpen(const ScratchFolder& folder,
                                                const Raster& raster,
                                                const host::RasterStyle& style) {
     static std::atomic<int> count{0};
-    const std::string path = folder / ("raster_" + std::to_string(++count) + ".tif");
+    const std::string path = folder.Path("raster_" + std::to_string(++count) + ".tif");
     Write(path, raster);
     return Open(path, style);
 }

@@ -9,27 +9,9 @@
 #include <vector>
 
 #include "raster_data/gdal_raster.h"
+#include "scratch_folder.h"
 
 namespace raster_test {
-
-/// An empty folder of its own under the system's temporary one; gone with all that is in
-/// it at the end.
-class TemporaryFolder {
-public:
-    TemporaryFolder();
-    TemporaryFolder(const TemporaryFolder&) = delete;
-    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-    ~TemporaryFolder();
-
-    std::string operator/(const std::string& name) const { return m_path + "/" + name; }
-    const std::string& Path() const { return m_path; }
-
-    /// The names of the files in it, sorted.
-    std::vector<std::string> Files() const;
-
-private:
-    std::string m_path;
-};
 
 using Dataset = std::unique_ptr<GDALDataset, void (*)(GDALDataset*)>;
 
@@ -57,7 +39,7 @@ std::unique_ptr<host::GdalRaster> Open(const std::string& path,
                                        const host::RasterStyle& style = {});
 
 /// Writes a raster and opens it.
-std::unique_ptr<host::GdalRaster> WriteAndOpen(const TemporaryFolder& folder,
+std::unique_ptr<host::GdalRaster> WriteAndOpen(const ScratchFolder& folder,
                                                const Raster& raster,
                                                const host::RasterStyle& style = {});
 

@@ -10,7 +10,6 @@ namespace {
 
 using raster_test::Pixels;
 using raster_test::Raster;
-using raster_test::TemporaryFolder;
 using raster_test::WriteAndOpen;
 
 struct Class {
@@ -272,7 +271,7 @@ const ClassesRow kRows[] = {
 };
 
 TEST(RasterClasses, HaveNamesAndColoursAndAreThoseThatOccur) {
-    const TemporaryFolder folder;
+    const ScratchFolder folder;
     for (const ClassesRow& row : kRows) {
         SCOPED_TRACE(row.name);
         const int width = static_cast<int>(row.values.size());
@@ -289,7 +288,7 @@ TEST(RasterClasses, HaveNamesAndColoursAndAreThoseThatOccur) {
 }
 
 TEST(RasterClasses, OfATableWithoutColoursAreToldApart) {
-    const TemporaryFolder folder;
+    const ScratchFolder folder;
     Raster raster{3, {{1, 2, 3}}};
     raster.describe = [](GDALDataset& dataset) {
         SetTable(*dataset.GetRasterBand(1),
@@ -309,9 +308,9 @@ TEST(RasterClasses, OfATableWithoutColoursAreToldApart) {
 }
 
 TEST(RasterClasses, PalettesMayBeTransparent) {
-    const TemporaryFolder folder;
-    const std::string tif = folder / "palette.tif";
-    const std::string png = folder / "palette.png";
+    const ScratchFolder folder;
+    const std::string tif = folder.Path("palette.tif");
+    const std::string png = folder.Path("palette.png");
     // GeoTIFF keeps no alpha in palettes; PNG does.
     raster_test::Write(tif, {3, {{0, 1, 2}}});
     {
@@ -340,7 +339,7 @@ TEST(RasterClasses, PalettesMayBeTransparent) {
 }
 
 TEST(RasterClasses, ATableThatIsOnlyAHistogramMakesNone) {
-    const TemporaryFolder folder;
+    const ScratchFolder folder;
     Raster raster{3, {{0, 3, 10}}, GDT_Float32};
     raster.describe = [](GDALDataset& dataset) {
         SetTable(*dataset.GetRasterBand(1), {{{"Histogram", GFT_Real, GFU_PixelCount}},
@@ -354,7 +353,7 @@ TEST(RasterClasses, ATableThatIsOnlyAHistogramMakesNone) {
 }
 
 TEST(RasterClasses, AreOfTheBandThatIsShown) {
-    const TemporaryFolder folder;
+    const ScratchFolder folder;
     Raster raster{1, {{1}, {1}}};
     raster.describe = [](GDALDataset& dataset) {
         SetTable(*dataset.GetRasterBand(1),
@@ -369,7 +368,7 @@ TEST(RasterClasses, AreOfTheBandThatIsShown) {
 }
 
 TEST(RasterClasses, AreDrawnFromTheNearestPixelAndNeverMixed) {
-    const TemporaryFolder folder;
+    const ScratchFolder folder;
     // Seven columns in three: the centres lie at 1.17, 3.5 and 5.83.
     Raster raster{7, {{1, 2, 1, 3, 1, 2, 1}}};
     raster.describe = [](GDALDataset& dataset) {
@@ -380,7 +379,7 @@ TEST(RasterClasses, AreDrawnFromTheNearestPixelAndNeverMixed) {
 }
 
 TEST(RasterClasses, OfVeryManyTheLowestAreListed) {
-    const TemporaryFolder folder;
+    const ScratchFolder folder;
     std::vector<double> values(300 * 100);
     for (std::size_t i = 0; i < values.size(); ++i) {
         values[i] = 0.5 + static_cast<double>(values.size() - i);
@@ -398,8 +397,8 @@ TEST(RasterClasses, OfVeryManyTheLowestAreListed) {
 }
 
 TEST(RasterClasses, OfARasterThatCannotBeReadAreNone) {
-    const TemporaryFolder folder;
-    const std::string path = folder / "cut.tif";
+    const ScratchFolder folder;
+    const std::string path = folder.Path("cut.tif");
     Raster raster{300, {std::vector<double>(300 * 300, 1.0)}};
     raster.describe = [](GDALDataset& dataset) {
         SetPalette(*dataset.GetRasterBand(1), kFourColours);
@@ -414,8 +413,8 @@ TEST(RasterClasses, OfARasterThatCannotBeReadAreNone) {
 }
 
 TEST(RasterClasses, OfALargeRasterAreSampled) {
-    const TemporaryFolder folder;
-    const std::string path = folder / "large.tif";
+    const ScratchFolder folder;
+    const std::string path = folder.Path("large.tif");
     {
         const raster_test::Dataset dataset = raster_test::Create(
             path, 20000, 20000, 1, GDT_Byte, {"SPARSE_OK=TRUE", "TILED=YES"});

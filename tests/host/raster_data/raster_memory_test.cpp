@@ -22,9 +22,9 @@ TEST(RasterMemory, DoesNotFollowTheSizeOfTheRaster) {
 #ifdef __SANITIZE_ADDRESS__
     GTEST_SKIP() << "the sanitizer's own memory would be measured";
 #endif
-    const raster_test::TemporaryFolder folder;
+    const ScratchFolder folder;
     for (const char* form : {"TILED=NO", "TILED=YES"}) {
-        const std::string path = folder / (std::string(form) + ".tif");
+        const std::string path = folder.Path(std::string(form) + ".tif");
         // 1200 MB, as they are read.
         ASSERT_NE(raster_test::Create(path, 20000, 20000, 3, GDT_Byte,
                                       {"SPARSE_OK=TRUE", "INTERLEAVE=PIXEL", form}),

@@ -20,7 +20,6 @@ using raster_test::Pixels;
 using raster_test::Ramp;
 using raster_test::Raster;
 using raster_test::Stretched;
-using raster_test::TemporaryFolder;
 using raster_test::WriteAndOpen;
 
 using Colours = std::vector<unsigned int>;
@@ -50,7 +49,7 @@ unsigned int ShadeOf(double value, const StretchRow& row) {
 }
 
 TEST(RasterStretch, IsWhatTheLegendSaysAndOneForEveryPart) {
-    const TemporaryFolder folder;
+    const ScratchFolder folder;
     for (const GDALDataType type : {GDT_Byte, GDT_Float32, GDT_Float64}) {
         for (const StretchRow& row : kStretches) {
             SCOPED_TRACE(row.stretch);
@@ -77,7 +76,7 @@ TEST(RasterStretch, IsWhatTheLegendSaysAndOneForEveryPart) {
 }
 
 TEST(RasterStretch, OfEachBandIsTheSameForEveryPart) {
-    const TemporaryFolder folder;
+    const ScratchFolder folder;
     const auto raster = WriteAndOpen(
         folder, {101, {Ramp(0, 100), Ramp(100, 200), Ramp(50, 150)}, GDT_UInt16});
     const host::PixelImage whole = raster->Render(101, 1);
@@ -88,7 +87,7 @@ TEST(RasterStretch, OfEachBandIsTheSameForEveryPart) {
 }
 
 TEST(RasterStretch, DrawsFinishedColoursAsTheyAre) {
-    const TemporaryFolder folder;
+    const ScratchFolder folder;
     Raster raster{3, {{200, 210, 220}, {100, 101, 102}, {7, 7, 9}}};
     EXPECT_EQ(Pixels(WriteAndOpen(folder, raster)->Render(3, 1)),
               (Colours{0xffc86407, 0xffd26507, 0xffdc6609}));
@@ -105,8 +104,8 @@ TEST(RasterStretch, DrawsFinishedColoursAsTheyAre) {
 }
 
 TEST(RasterStretch, OfALargeRasterIsSampledTheSameAtEverySize) {
-    const TemporaryFolder folder;
-    const std::string path = folder / "large.tif";
+    const ScratchFolder folder;
+    const std::string path = folder.Path("large.tif");
     {
         const Dataset dataset = raster_test::Create(path, 9000, 3000, 1, GDT_UInt16);
         std::vector<std::uint16_t> line(9000);
@@ -141,7 +140,7 @@ TEST(RasterStretch, OfALargeRasterIsSampledTheSameAtEverySize) {
 }
 
 TEST(RasterStretch, ReachesEverywhereWhereSquaresLeaveTheDoubles) {
-    const TemporaryFolder folder;
+    const ScratchFolder folder;
     const auto raster = WriteAndOpen(folder, {3, {{-1.7e308, 0, 1.7e308}}, GDT_Float64},
                                      Stretched("stddev 1"));
     EXPECT_EQ(Pixels(raster->Render(3, 1)),
@@ -149,7 +148,7 @@ TEST(RasterStretch, ReachesEverywhereWhereSquaresLeaveTheDoubles) {
 }
 
 TEST(RasterBands, AreThoseChosen) {
-    const TemporaryFolder folder;
+    const ScratchFolder folder;
     const Raster raster{
         2, {{0, 9}, {10, 0}, {0, 30}, {7, 40}}, GDT_UInt16, {}, {"ALPHA=NO"}};
     RasterStyle style;
@@ -174,8 +173,8 @@ TEST(RasterBands, AreThoseChosen) {
 }
 
 TEST(RasterBands, ThatThereAreNotAreRefusedButOfOneBandNoneIsChosen) {
-    const TemporaryFolder folder;
-    const std::string path = folder / "two.tif";
+    const ScratchFolder folder;
+    const std::string path = folder.Path("two.tif");
     raster_test::Write(path, {1, {{1}, {2}}});
     RasterStyle style;
     style.bands = {1, 2, 3};
@@ -198,7 +197,7 @@ const NoDataRow kNoData[] = {
 };
 
 TEST(RasterNoData, IsTheUsersElseTheFiles) {
-    const TemporaryFolder folder;
+    const ScratchFolder folder;
     for (const NoDataRow& row : kNoData) {
         for (const GDALDataType type : {GDT_Byte, GDT_Float32}) {
             Raster raster{4, {{0, 5, 9, 38}}, type};
@@ -213,10 +212,10 @@ TEST(RasterNoData, IsTheUsersElseTheFiles) {
 }
 
 TEST(RasterNoData, IsTheUsersInOverviewsAndOfClasses) {
-    const TemporaryFolder folder;
+    const ScratchFolder folder;
     RasterStyle style;
     style.noData = 5;
-    const std::string path = folder / "overviews.tif";
+    const std::string path = folder.Path("overviews.tif");
     {
         std::vector<double> values(64 * 64, 5.0);
         values.resize(64 * 128, 7.0);
@@ -245,7 +244,7 @@ TEST(RasterNoData, IsTheUsersInOverviewsAndOfClasses) {
 }
 
 TEST(RasterNorthUp, ShowsThePixelsWhereTheyAre) {
-    const TemporaryFolder folder;
+    const ScratchFolder folder;
     // Rows run from north to south here, and columns from west to east: a quarter turn.
     Raster raster{2, {{10, 20, 30, 40, 50, 60}}};
     raster.describe = [](GDALDataset& dataset) {
@@ -262,7 +261,7 @@ TEST(RasterNorthUp, ShowsThePixelsWhereTheyAre) {
 }
 
 TEST(RasterNorthUp, IsTransparentBesideTheRasterAndKeepsItsShades) {
-    const TemporaryFolder folder;
+    const ScratchFolder folder;
     for (const auto& [type, noData] : {std::pair(GDT_Byte, std::optional<double>()),
                                        {GDT_Byte, 255.0},
                                        {GDT_UInt16, {}},

@@ -16,7 +16,6 @@ using raster_test::Pixels;
 using raster_test::Ramp;
 using raster_test::Raster;
 using raster_test::Stretched;
-using raster_test::TemporaryFolder;
 using raster_test::WriteAndOpen;
 
 using Colours = std::vector<unsigned int>;
@@ -40,7 +39,7 @@ TEST(RenderGrey, StretchesFrom2To98PercentWhateverTheType) {
     EXPECT_EQ(ShadeOfRamp(26), 64U);   // 24 / 96 of 255 is 63.75
     EXPECT_EQ(ShadeOfRamp(50), 128U);  // 127.5
     EXPECT_EQ(ShadeOfRamp(99), 255U);
-    const TemporaryFolder folder;
+    const ScratchFolder folder;
     for (const GDALDataType type :
          {GDT_Byte, GDT_UInt16, GDT_Int16, GDT_UInt32, GDT_Int32, GDT_UInt64, GDT_Int64,
           GDT_Float32, GDT_Float64, GDT_CInt16, GDT_CInt32, GDT_CFloat32, GDT_CFloat64}) {
@@ -102,7 +101,7 @@ const GreyRow kGreys[] = {
 };
 
 TEST(RenderGrey, DrawsEveryValueAndLeavesOutWhatIsNone) {
-    const TemporaryFolder folder;
+    const ScratchFolder folder;
     for (const GreyRow& row : kGreys) {
         SCOPED_TRACE(row.name);
         const int width = static_cast<int>(row.values.size());
@@ -113,7 +112,7 @@ TEST(RenderGrey, DrawsEveryValueAndLeavesOutWhatIsNone) {
 }
 
 TEST(RenderGrey, AnOutlierDoesNotDarkenTheRest) {
-    const TemporaryFolder folder;
+    const ScratchFolder folder;
     std::vector<double> values = Ramp(0, 100);
     values.back() = 60000;
     const auto raster =
@@ -122,7 +121,7 @@ TEST(RenderGrey, AnOutlierDoesNotDarkenTheRest) {
 }
 
 TEST(RenderGrey, WhereNearlyAllIsOneValueTheRestIsStillSeen) {
-    const TemporaryFolder folder;
+    const ScratchFolder folder;
     std::vector<double> values(101, 5.0);
     values[0] = 3;
     values[100] = 13;
@@ -134,13 +133,13 @@ TEST(RenderGrey, WhereNearlyAllIsOneValueTheRestIsStillSeen) {
 }
 
 TEST(RenderGrey, OfTwoBandsTheFirst) {
-    const TemporaryFolder folder;
+    const ScratchFolder folder;
     const auto raster = WriteAndOpen(folder, {3, {{100, 130, 200}, {0, 0, 9}}});
     EXPECT_EQ(Pixels(raster->Render(3, 1)), (Colours{Grey(0), Grey(77), Grey(255)}));
 }
 
 TEST(RenderAlpha, IsTheAlphaBands) {
-    const TemporaryFolder folder;
+    const ScratchFolder folder;
     Raster grey{4, {{0, 100, 130, 200}, {0, 255, 128, 1}}};
     grey.options = {"ALPHA=YES"};
     EXPECT_EQ(Pixels(WriteAndOpen(folder, grey)->Render(4, 1)),
@@ -164,7 +163,7 @@ void SetMask(GDALDataset& dataset, bool inFile, std::vector<unsigned char> mask)
 }
 
 TEST(RenderAlpha, OfAMaskIsTheMasks) {
-    const TemporaryFolder folder;
+    const ScratchFolder folder;
     Raster raster{4, {{0, 100, 130, 200}}};
     raster.describe = [](GDALDataset& dataset) {
         SetMask(dataset, true, {0, 255, 255, 255});
@@ -179,7 +178,7 @@ TEST(RenderAlpha, OfAMaskIsTheMasks) {
 }
 
 TEST(RenderAlpha, OfClassesIsTheMasksToo) {
-    const TemporaryFolder folder;
+    const ScratchFolder folder;
     Raster raster{4, {{1, 1, 1, 1}}};
     raster.describe = [](GDALDataset& dataset) {
         GDALColorTable palette;
@@ -193,7 +192,7 @@ TEST(RenderAlpha, OfClassesIsTheMasksToo) {
 }
 
 TEST(RenderColour, StretchesEachBandByItself) {
-    const TemporaryFolder folder;
+    const ScratchFolder folder;
     const auto raster = WriteAndOpen(
         folder, {3, {{0, 3, 10}, {200, 130, 100}, {50, 50, 50}}, GDT_UInt16});
     EXPECT_EQ(Pixels(raster->Render(3, 1)),
@@ -201,7 +200,7 @@ TEST(RenderColour, StretchesEachBandByItself) {
 }
 
 TEST(RenderColour, TakesTheBandsByTheirColours) {
-    const TemporaryFolder folder;
+    const ScratchFolder folder;
     Raster raster{3, {{0, 0, 9}, {0, 9, 0}, {9, 0, 0}, {1, 2, 3}}, GDT_UInt16};
     raster.options = {"PHOTOMETRIC=MINISBLACK", "ALPHA=NO"};
     raster.describe = [](GDALDataset& dataset) {
@@ -214,7 +213,7 @@ TEST(RenderColour, TakesTheBandsByTheirColours) {
 }
 
 TEST(RenderColour, IsTransparentWhereABandHasNoValue) {
-    const TemporaryFolder folder;
+    const ScratchFolder folder;
     Raster raster{4, {{7, 0, 3, 10}, {0, 0, 3, 10}, {0, 7, 3, 10}}, GDT_UInt16};
     raster.noData = 7;
     EXPECT_EQ(Pixels(WriteAndOpen(folder, raster)->Render(4, 1)),
@@ -222,7 +221,7 @@ TEST(RenderColour, IsTransparentWhereABandHasNoValue) {
 }
 
 TEST(RenderSize, SmallerIsTheMeanOfEachCell) {
-    const TemporaryFolder folder;
+    const ScratchFolder folder;
     // Two by two pixels a cell: means 0, 30 and 100, of a raster that goes up to 200.
     const std::vector<double> values = {0, 0, 10, 50, 100, 100,  //
                                         0, 0, 20, 40, 0,   200};
@@ -233,7 +232,7 @@ TEST(RenderSize, SmallerIsTheMeanOfEachCell) {
 }
 
 TEST(RenderSize, EveryPixelOfTheFileCountsInOneCell) {
-    const TemporaryFolder folder;
+    const ScratchFolder folder;
     // Ten pixels in four cells begin at 0, 2, 5, 7: means 0, 30, 50 and 100.
     const auto raster =
         WriteAndOpen(folder, {10, {{0, 0, 0, 0, 90, 40, 60, 100, 0, 200}}});
@@ -242,7 +241,7 @@ TEST(RenderSize, EveryPixelOfTheFileCountsInOneCell) {
 }
 
 TEST(RenderSize, MeansOfBytesAreRounded) {
-    const TemporaryFolder folder;
+    const ScratchFolder folder;
     // 29.5 is 30 as a byte, 76.5 + 0.5 of 255; as a float 75.225.
     const std::vector<double> values = {0, 0, 29, 30, 100, 100};
     const auto bytes = WriteAndOpen(folder, {6, {values}});
@@ -252,7 +251,7 @@ TEST(RenderSize, MeansOfBytesAreRounded) {
 }
 
 TEST(RenderSize, NoDataIsLeftOutOfTheMeanAndThinsTheCell) {
-    const TemporaryFolder folder;
+    const ScratchFolder folder;
     // Three of the second cell's four pixels have a value: their mean is 30, and 3 / 4 of
     // 255 is 191.25. Two of the third's: 100, and 127.5. White is 150.
     for (const double none : {255.0, kNan}) {
@@ -269,7 +268,7 @@ TEST(RenderSize, NoDataIsLeftOutOfTheMeanAndThinsTheCell) {
 }
 
 TEST(RenderSize, LargerRepeatsThePixels) {
-    const TemporaryFolder folder;
+    const ScratchFolder folder;
     const auto raster = WriteAndOpen(folder, {2, {{0, 3, 10, 10}}});
     const unsigned int a = Grey(0), b = Grey(77), c = Grey(255);
     // The centres of five columns over two pixels lie at 0.2, 0.6, 1.0, 1.4 and 1.8.
@@ -280,14 +279,14 @@ TEST(RenderSize, LargerRepeatsThePixels) {
 }
 
 TEST(RenderSize, MayBeLargerOneWayAndSmallerTheOther) {
-    const TemporaryFolder folder;
+    const ScratchFolder folder;
     const auto raster = WriteAndOpen(folder, {3, {{0, 3, 10, 0, 3, 10}}});
     EXPECT_EQ(Pixels(raster->Render(6, 1)),
               (Colours{Grey(0), Grey(0), Grey(77), Grey(77), Grey(255), Grey(255)}));
 }
 
 TEST(RenderSize, ThatIsNoneOrNoPictureIsRefused) {
-    const TemporaryFolder folder;
+    const ScratchFolder folder;
     const auto raster = WriteAndOpen(folder, {1, {{7}}});
     constexpr int kMost = std::numeric_limits<int>::max();
     for (const auto& [width, height] : {std::pair{0, 5},
@@ -301,8 +300,8 @@ TEST(RenderSize, ThatIsNoneOrNoPictureIsRefused) {
 }
 
 TEST(RenderOverviews, TheSmallestThatIsLargeEnoughIsRead) {
-    const TemporaryFolder folder;
-    const std::string path = folder / "overviews.tif";
+    const ScratchFolder folder;
+    const std::string path = folder.Path("overviews.tif");
     {
         const Dataset dataset = raster_test::Create(path, 64, 64, 3, GDT_Byte);
         int factors[] = {2, 4};
@@ -338,7 +337,7 @@ TEST(RenderOverviews, TheSmallestThatIsLargeEnoughIsRead) {
 }
 
 TEST(RenderProgress, GrowsToOne) {
-    const TemporaryFolder folder;
+    const ScratchFolder folder;
     std::vector<double> values(2000 * 2000);
     for (std::size_t i = 0; i < values.size(); ++i) {
         values[i] = static_cast<double>(i % 100);
@@ -356,7 +355,7 @@ TEST(RenderProgress, GrowsToOne) {
 }
 
 TEST(RenderProgress, StopsWhenToldTo) {
-    const TemporaryFolder folder;
+    const ScratchFolder folder;
     const auto raster = WriteAndOpen(folder, {3, {{0, 3, 10}}});
     try {
         raster->Render(3, 1, [](double) { return false; });

@@ -11,16 +11,15 @@
 
 namespace {
 
-using raster_test::TemporaryFolder;
-
 std::string Content(const std::string& path) {
     std::ifstream file(path, std::ios::binary);
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
 TEST(SampleRasters, AreASceneAnElevationModelAndALandCoverMapOfOneArea) {
-    const TemporaryFolder folder;
-    const host::SampleRasters samples = host::MakeSampleRasters(folder / "new/samples");
+    const ScratchFolder folder;
+    const host::SampleRasters samples =
+        host::MakeSampleRasters(folder.Path("new/samples"));
     const auto scene = raster_test::Open(samples.scene);
     const auto elevation = raster_test::Open(samples.elevation);
     const auto landCover = raster_test::Open(samples.landCover);
@@ -52,20 +51,20 @@ TEST(SampleRasters, AreASceneAnElevationModelAndALandCoverMapOfOneArea) {
 }
 
 TEST(SampleRasters, AreTheSameEachTime) {
-    const TemporaryFolder folder;
-    const host::SampleRasters first = host::MakeSampleRasters(folder / "first");
-    host::MakeSampleRasters(folder / "second");
-    const host::SampleRasters second = host::MakeSampleRasters(folder / "second");
+    const ScratchFolder folder;
+    const host::SampleRasters first = host::MakeSampleRasters(folder.Path("first"));
+    host::MakeSampleRasters(folder.Path("second"));
+    const host::SampleRasters second = host::MakeSampleRasters(folder.Path("second"));
     EXPECT_EQ(Content(first.scene), Content(second.scene));
     EXPECT_EQ(Content(first.elevation), Content(second.elevation));
     EXPECT_EQ(Content(first.landCover), Content(second.landCover));
 }
 
 TEST(SampleRasters, SayWhyTheyCannotBeWritten) {
-    const TemporaryFolder folder;
-    std::ofstream(folder / "file") << "in the way";
-    EXPECT_THROW(host::MakeSampleRasters(folder / "file"), std::runtime_error);
-    EXPECT_THROW(host::MakeSampleRasters(folder / "file/below"), std::runtime_error);
+    const ScratchFolder folder;
+    std::ofstream(folder.Path("file")) << "in the way";
+    EXPECT_THROW(host::MakeSampleRasters(folder.Path("file")), std::runtime_error);
+    EXPECT_THROW(host::MakeSampleRasters(folder.Path("file/below")), std::runtime_error);
 }
 
 TEST(SampleTerrain, HasWaterAndHillsAndAllKindsOfLand) {

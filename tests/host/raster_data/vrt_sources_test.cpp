@@ -24,19 +24,19 @@ void WriteVrt(const std::string& path, const std::string& source, int times) {
 /// A raster `0.vrt` of `a.tif`, and VRTs `1.vrt` of `0.vrt` and so on.
 class VrtSources : public ::testing::Test {
 protected:
-    VrtSources() { raster_test::Write(folder / "a.tif", {2, {{10, 20}}}); }
+    VrtSources() { raster_test::Write(folder.Path("a.tif"), {2, {{10, 20}}}); }
 
     void WriteNested(int deepest, int times) {
         for (int depth = 0; depth <= deepest; ++depth) {
-            WriteVrt(folder / (std::to_string(depth) + ".vrt"),
+            WriteVrt(folder.Path(std::to_string(depth) + ".vrt"),
                      depth == 0 ? "a.tif" : std::to_string(depth - 1) + ".vrt", times);
         }
     }
     std::string WhyNot(const std::string& name) const {
-        return host::WhyNotVrt(folder / name);
+        return host::WhyNotVrt(folder.Path(name));
     }
 
-    raster_test::TemporaryFolder folder;
+    ScratchFolder folder;
 };
 
 TEST_F(VrtSources, AreNestedAtMostThreeDeep) {
@@ -47,8 +47,8 @@ TEST_F(VrtSources, AreNestedAtMostThreeDeep) {
     EXPECT_EQ(WhyNot("3.vrt"), "has VRTs in VRTs, more than 3 deep");
     EXPECT_EQ(WhyNot("4.vrt"), "has VRTs in VRTs, more than 3 deep");
     std::string why;
-    EXPECT_NE(host::GdalRaster::Open(folder / "2.vrt", why), nullptr) << why;
-    EXPECT_EQ(host::GdalRaster::Open(folder / "3.vrt", why), nullptr);
+    EXPECT_NE(host::GdalRaster::Open(folder.Path("2.vrt"), why), nullptr) << why;
+    EXPECT_EQ(host::GdalRaster::Open(folder.Path("3.vrt"), why), nullptr);
     EXPECT_EQ(why, "has VRTs in VRTs, more than 3 deep");
 }
 
@@ -59,7 +59,7 @@ TEST_F(VrtSources, StandForAtMostTenThousandRastersTogether) {
     WriteNested(1, 100);
     EXPECT_EQ(WhyNot("1.vrt"), "");
     // As many as one likes beside each other: a mosaic.
-    WriteVrt(folder / "flat.vrt", "a.tif", 20'000);
+    WriteVrt(folder.Path("flat.vrt"), "a.tif", 20'000);
     EXPECT_EQ(WhyNot("flat.vrt"), "");
     // Ten thousand times ten thousand times ten thousand.
     WriteNested(2, 10'000);
@@ -68,7 +68,7 @@ TEST_F(VrtSources, StandForAtMostTenThousandRastersTogether) {
 }
 
 TEST_F(VrtSources, ThatGoRoundInACircleAreTold) {
-    WriteVrt(folder / "round.vrt", "round.vrt", 1);
+    WriteVrt(folder.Path("round.vrt"), "round.vrt", 1);
     EXPECT_EQ(WhyNot("round.vrt"), "has VRTs in VRTs, more than 3 deep");
 }
 
@@ -77,16 +77,16 @@ TEST_F(VrtSources, MayStandDeepInADescription) {
     for (int i = 0; i < 100'000; ++i) {
         description += "<a>";
     }
-    std::ofstream(folder / "deep.vrt") << description;
+    std::ofstream(folder.Path("deep.vrt")) << description;
     EXPECT_EQ(WhyNot("deep.vrt"), "");
-    std::ofstream(folder / "many.vrt")
+    std::ofstream(folder.Path("many.vrt"))
         << "<VRTDataset>" + std::string(3'000'000, ' ') << "</VRTDataset>";
     EXPECT_EQ(WhyNot("many.vrt"), "");
 }
 
 TEST_F(VrtSources, AreNoneOfWhatIsNoVrt) {
-    std::ofstream(folder / "broken.vrt") << "<VRTDataset><VRTRasterBand>";
-    std::ofstream(folder / "empty.vrt");
+    std::ofstream(folder.Path("broken.vrt")) << "<VRTDataset><VRTRasterBand>";
+    std::ofstream(folder.Path("empty.vrt"));
     EXPECT_EQ(WhyNot("broken.vrt"), "");
     EXPECT_EQ(WhyNot("empty.vrt"), "");
     EXPECT_EQ(WhyNot("none.vrt"), "");
