@@ -11,6 +11,7 @@
 namespace host_tests {
 namespace {
 
+using Gdiplus::Color;
 using host::LegendFrame;
 using host::MapFrame;
 using host::NorthArrowFrame;
@@ -30,11 +31,40 @@ Class& In(PageItem& item) {
     }
 }
 
+template <class Value>
+bool IsSame(const Value& one, const Value& other) {
+    if constexpr (std::is_same_v<Value, Color>) {
+        return one.GetValue() == other.GetValue();
+    } else {
+        return one == other;
+    }
+}
+
 template <class Class>
 Change On(const char* property, void (*make)(Class&), bool (*isMade)(const Class&)) {
     return {property, [make](PageItem& item) { make(In<Class>(item)); },
             [isMade](const PageItem& item) {
                 return isMade(In<Class>(const_cast<PageItem&>(item)));
+            }};
+}
+
+/// A value that stands open in its class.
+template <class Class, class Value>
+Change Open(const char* property, Value Class::*member, Value value) {
+    return {property, [=](PageItem& item) { In<Class>(item).*member = value; },
+            [=](const PageItem& item) {
+                return IsSame(In<Class>(const_cast<PageItem&>(item)).*member, value);
+            }};
+}
+
+/// One that is set by one operation and told by another.
+template <class Class, class Given, class Told, class Value>
+Change Behind(const char* property, void (Class::*set)(Given), Told (Class::*get)() const,
+              Value value) {
+    return {property, [=](PageItem& item) { (In<Class>(item).*set)(value); },
+            [=](const PageItem& item) {
+                return IsSame<std::decay_t<Told>>(
+                    (In<Class>(const_cast<PageItem&>(item)).*get)(), value);
             }};
 }
 
@@ -49,18 +79,8 @@ constexpr std::int32_t kLeast = std::numeric_limits<std::int32_t>::min();
 std::vector<Change> MapChanges() {
     using M = MapFrame;
     return {
-        On<M>(
-            "name", [](M& m) { m.name = "Karte \"ä\"\n"; },
-            [](const M& m) { return m.name == "Karte \"ä\"\n"; }),
-        On<M>(
-            "rasters",
-            [](M& m) {
-                m.rasterPaths = {"a.tif", "NETCDF:b.nc:x"};
-            },
-            [](const M& m) {
-                return m.rasterPaths ==
-                       std::vector<std::string>{"a.tif", "NETCDF:b.nc:x"};
-            }),
+        Open("name", &M::name, std::string("Karte \"ä\"\n")),
+        Open("rasters", &M::rasterPaths, {"a.tif", "NETCDF:b.nc:x"}),
         On<M>(
             "extent",
             [](M& m) {
@@ -71,9 +91,7 @@ std::vector<Change> MapChanges() {
                        m.extent->bottom == -1.0 / 3.0 && m.extent->right == 1e17 &&
                        m.extent->top == 5e-324;
             }),
-        On<M>(
-            "scale", [](M& m) { m.scale = 25000.0; },
-            [](const M& m) { return m.scale == 25000.0; }),
+        Open("scale", &M::scale, 25000.0),
         On<M>(
             "stretch",
             [](M& m) { m.style.stretch = *host::ParseStretch("percent 5 90"); },
@@ -95,9 +113,7 @@ std::vector<Change> MapChanges() {
 std::vector<Change> PlacedFrameChanges() {
     using P = PlacedFrame;
     return {
-        On<P>(
-            "name", [](P& p) { p.SetName("标题"); },
-            [](const P& p) { return p.Name() == "标题"; }),
+        Behind("name", &P::SetName, &P::Name, std::string("标题")),
         On<P>(
             "offsetX", [](P& p) { p.SetElementOffset(1.0 / 3.0, 0.0); },
             [](const P& p) {
@@ -114,43 +130,23 @@ std::vector<Change> PlacedFrameChanges() {
 std::vector<Change> ElementChanges() {
     using E = CMapSurround;
     return {
-        On<E>(
-            "size", [](E& e) { e.SetSize(77); },
-            [](const E& e) { return e.GetSize() == 77; }),
-        On<E>(
-            "aspectRatio", [](E& e) { e.SetAspectRatio(0.1f); },
-            [](const E& e) { return e.GetAspectRatio() == 0.1f; }),
-        On<E>(
-            "angle", [](E& e) { e.SetAngle(-33.3f); },
-            [](const E& e) { return e.GetAngle() == -33.3f; }),
-        On<E>(
-            "color", [](E& e) { e.SetFrontColor(Gdiplus::Color(0x80123456)); },
-            [](const E& e) { return e.GetFrontColor().GetValue() == 0x80123456; }),
-        On<E>(
-            "itemType", [](E& e) { e.SetItemType(SurroundNone); },
-            [](const E& e) { return e.GetItemType() == SurroundNone; }),
+        Behind("size", &E::SetSize, &E::GetSize, 77),
+        Behind("aspectRatio", &E::SetAspectRatio, &E::GetAspectRatio, 0.1f),
+        Behind("angle", &E::SetAngle, &E::GetAngle, -33.3f),
+        Behind("color", &E::SetFrontColor, &E::GetFrontColor, Color(0x80123456)),
+        Behind("itemType", &E::SetItemType, &E::GetItemType, SurroundNone),
     };
 }
 
 std::vector<Change> TitleChanges() {
     using T = CMapTitle;
+    constexpr int kStyle = FontProcessBoldItalic | FontProcessStrikeout;
     return {
-        On<T>(
-            "text", [](T& t) { t.SetFontValue(L"Ünïted \U0001F5FA"); },
-            [](const T& t) { return t.GetFontValue() == L"Ünïted \U0001F5FA"; }),
-        On<T>(
-            "font", [](T& t) { t.SetFontStyle(L"Times New Roman"); },
-            [](const T& t) { return t.GetFontStyle() == L"Times New Roman"; }),
-        On<T>(
-            "fontSize", [](T& t) { t.SetFontSize(20.1); },
-            [](const T& t) { return t.GetFontSize() == 20.1; }),
-        On<T>(
-            "fontStyle",
-            [](T& t) {
-                t.SetFontProcess(static_cast<FontProcess>(FontProcessBoldItalic |
-                                                          FontProcessStrikeout));
-            },
-            [](const T& t) { return t.GetFontProcess() == 11; }),
+        Behind("text", &T::SetFontValue, &T::GetFontValue, L"Ünïted \U0001F5FA"),
+        Behind("font", &T::SetFontStyle, &T::GetFontStyle, L"Times New Roman"),
+        Behind("fontSize", &T::SetFontSize, &T::GetFontSize, 20.1),
+        Behind("fontStyle", &T::SetFontProcess, &T::GetFontProcess,
+               static_cast<FontProcess>(kStyle)),
     };
 }
 
@@ -166,111 +162,58 @@ std::vector<Change> PictureChanges(const std::string& folder) {
 
 std::vector<Change> LegendChanges(const std::string& folder) {
     using L = CMapLegend;
+    using F = LegendFrame;
     const std::vector<std::string> rasters = {folder + "/scene.tif"};
     return {
-        {"rasters",
-         [rasters](PageItem& item) { In<LegendFrame>(item).SetRasterPaths(rasters); },
-         [rasters](const PageItem& item) {
-             return In<LegendFrame>(const_cast<PageItem&>(item)).RasterPaths() == rasters;
-         }},
-        On<L>(
-            "title", [](L& l) { l.SetTitleValue(L"图例"); },
-            [](const L& l) { return l.GetTitleValue() == L"图例"; }),
-        On<L>(
-            "titleFont", [](L& l) { l.SetTitle(L"Courier New"); },
-            [](const L& l) { return l.GetTitle() == L"Courier New"; }),
-        On<L>(
-            "titleSize", [](L& l) { l.SetTitleSize(33.3f); },
-            [](const L& l) { return l.GetTitleSize() == 33.3f; }),
-        On<L>(
-            "titleStyle", [](L& l) { l.SetTitleStyle(Gdiplus::FontStyleUnderline); },
-            [](const L& l) { return l.GetTitleStyle() == Gdiplus::FontStyleUnderline; }),
-        On<L>(
-            "titleColor", [](L& l) { l.SetTitleColor(Gdiplus::Color(0xFF0000FE)); },
-            [](const L& l) { return l.GetTitleColor().GetValue() == 0xFF0000FE; }),
-        On<L>(
-            "fileNameFont", [](L& l) { l.SetFileName(L"Courier New"); },
-            [](const L& l) { return l.GetFileName() == L"Courier New"; }),
-        On<L>(
-            "fileNameSize", [](L& l) { l.SetFileNameSize(7.7f); },
-            [](const L& l) { return l.GetFileNameSize() == 7.7f; }),
-        On<L>(
-            "fileNameStyle", [](L& l) { l.SetFileNameStyle(Gdiplus::FontStyleItalic); },
-            [](const L& l) { return l.GetFileNameStyle() == Gdiplus::FontStyleItalic; }),
-        On<L>(
-            "fileNameColor", [](L& l) { l.SetFileColor(Gdiplus::Color(0x01020304)); },
-            [](const L& l) { return l.GetFileColor().GetValue() == 0x01020304; }),
-        On<LegendFrame>(
-            "sizeFactor", [](LegendFrame& f) { f.SetSizeFactor(1.7f); },
-            [](const LegendFrame& f) { return f.SizeFactor() == 1.7f; }),
+        Behind("rasters", &F::SetRasterPaths, &F::RasterPaths, rasters),
+        Behind("title", &L::SetTitleValue, &L::GetTitleValue, L"图例"),
+        Behind("titleFont", &L::SetTitle, &L::GetTitle, L"Courier New"),
+        Behind("titleSize", &L::SetTitleSize, &L::GetTitleSize, 33.3f),
+        Behind("titleStyle", &L::SetTitleStyle, &L::GetTitleStyle,
+               Gdiplus::FontStyleUnderline),
+        Behind("titleColor", &L::SetTitleColor, &L::GetTitleColor, Color(0xFF0000FE)),
+        Behind("fileNameFont", &L::SetFileName, &L::GetFileName, L"Courier New"),
+        Behind("fileNameSize", &L::SetFileNameSize, &L::GetFileNameSize, 7.7f),
+        Behind("fileNameStyle", &L::SetFileNameStyle, &L::GetFileNameStyle,
+               Gdiplus::FontStyleItalic),
+        Behind("fileNameColor", &L::SetFileColor, &L::GetFileColor, Color(0x01020304)),
+        Behind("sizeFactor", &F::SetSizeFactor, &F::SizeFactor, 1.7f),
     };
 }
 
 std::vector<Change> NorthArrowChanges(NorthArrowType other) {
     using N = CNorthArrowBase;
-    return {On<NorthArrowFrame>(
-                "trueNorth", [](NorthArrowFrame& f) { f.SetTrueNorth(true); },
-                [](const NorthArrowFrame& f) { return f.TrueNorth(); }),
-            {"northArrowType",
-             [other](PageItem& item) { In<N>(item).SetNorthArrowType(other); },
-             [other](const PageItem& item) {
-                 return In<N>(const_cast<PageItem&>(item)).GetNorthArrowType() == other;
-             }}};
+    using F = NorthArrowFrame;
+    return {
+        Behind("trueNorth", &F::SetTrueNorth, &F::TrueNorth, true),
+        Behind("northArrowType", &N::SetNorthArrowType, &N::GetNorthArrowType, other)};
 }
 
 std::vector<Change> NumericScaleChanges() {
     using N = host::NumericScale;
-    return {
-        On<N>(
-            "denominator", [](N& n) { n.SetDenominator(12500.0); },
-            [](const N& n) { return n.Denominator() == 12500.0; }),
-    };
+    return {Behind("denominator", &N::SetDenominator, &N::Denominator, 12500.0)};
 }
 
 std::vector<Change> ScaleBarChanges(ScaleBarType other) {
     using B = CScaleBarBase;
     using P = host::ScaleBarFrame;
     return {
-        On<P>(
-            "unit", [](P& p) { p.SetUnit(host::DistanceUnit::NauticalMile); },
-            [](const P& p) { return p.Unit() == host::DistanceUnit::NauticalMile; }),
-        On<P>(
-            "fit", [](P& p) { p.SetFit(host::BarFit::Value); },
-            [](const P& p) { return p.Fit() == host::BarFit::Value; }),
-        On<P>(
-            "longest", [](P& p) { p.SetLongest(123.5); },
-            [](const P& p) { return p.Longest() == 123.5; }),
-        On<P>(
-            "exact", [](P& p) { p.SetExact(false); },
-            [](const P& p) { return !p.IsExact(); }),
-        On<P>(
-            "distances", [](P& p) { p.SetBarDistances(host::BarDistances::Ground); },
-            [](const P& p) { return p.GetBarDistances() == host::BarDistances::Ground; }),
-        On<P>(
-            "divisionValue", [](P& p) { p.SetDivisionValue(0.3); },
-            [](const P& p) { return p.DivisionValue() == 0.3; }),
-        On<P>(
-            "divisionLength", [](P& p) { p.SetDivisionLength(12.3456789); },
-            [](const P& p) { return p.DivisionLength() == 12.3456789; }),
-        On<B>(
-            "divisions", [](B& b) { b.SetMainDivCount(3); },
-            [](const B& b) { return b.GetMainDivCount() == 3; }),
-        On<B>(
-            "subdivisions", [](B& b) { b.SetSubDivCount(7); },
-            [](const B& b) { return b.GetSubDivCount() == 7; }),
-        On<B>(
-            "unitPosition", [](B& b) { b.SetUnitPos(UnitPosBefore); },
-            [](const B& b) { return b.GetUnitPos() == UnitPosBefore; }),
+        Behind("unit", &P::SetUnit, &P::Unit, host::DistanceUnit::NauticalMile),
+        Behind("fit", &P::SetFit, &P::Fit, host::BarFit::Value),
+        Behind("longest", &P::SetLongest, &P::Longest, 123.5),
+        Behind("exact", &P::SetExact, &P::IsExact, false),
+        Behind("distances", &P::SetBarDistances, &P::GetBarDistances,
+               host::BarDistances::Ground),
+        Behind("divisionValue", &P::SetDivisionValue, &P::DivisionValue, 0.3),
+        Behind("divisionLength", &P::SetDivisionLength, &P::DivisionLength, 12.3456789),
+        Behind("divisions", &B::SetMainDivCount, &B::GetMainDivCount, 3),
+        Behind("subdivisions", &B::SetSubDivCount, &B::GetSubDivCount, 7),
+        Behind("unitPosition", &B::SetUnitPos, &B::GetUnitPos, UnitPosBefore),
         On<B>(
             "units", [](B& b) { b.SetUnitsName(L"metre"); },
             [](const B& b) { return b.GetUnitsName() == L"米"; }),
-        On<B>(
-            "unitType", [](B& b) { b.SetDestUnitType(MeasureDegree); },
-            [](const B& b) { return b.GetDestUnitType() == MeasureDegree; }),
-        {"scaleBarType", [other](PageItem& item) { In<B>(item).SetScaleBarType(other); },
-         [other](const PageItem& item) {
-             return In<B>(const_cast<PageItem&>(item)).GetScaleBarType() == other;
-         }},
+        Behind("unitType", &B::SetDestUnitType, &B::GetDestUnitType, MeasureDegree),
+        Behind("scaleBarType", &B::SetScaleBarType, &B::GetScaleBarType, other),
     };
 }
 
@@ -280,86 +223,36 @@ std::vector<Change> FrameChanges() {
     using F = CFrameBase;
     return {
         On<F>(
-            "left",
-            [](F& f) {
-                f.SetExtent({1.0 / 7.0, 0.0, 1.0 / 7.0, 0.0});
-            },
+            "left", [](F& f) { f.SetExtent(CBoundingBox(1.0 / 7.0, 0, 1.0 / 7.0, 0)); },
             [](const F& f) { return f.GetExtent().TopLeft().x == 1.0 / 7.0; }),
         On<F>(
-            "top",
-            [](F& f) {
-                f.SetExtent({0.0, 1.0 / 7.0, 0.0, 1.0 / 7.0});
-            },
+            "top", [](F& f) { f.SetExtent(CBoundingBox(0, 1.0 / 7.0, 0, 1.0 / 7.0)); },
             [](const F& f) { return f.GetExtent().TopLeft().y == 1.0 / 7.0; }),
         On<F>(
-            "width",
-            [](F& f) {
-                f.SetExtent({0.0, 0.0, 100.1, 0.0});
-            },
+            "width", [](F& f) { f.SetExtent(CBoundingBox(0, 0, 100.1, 0)); },
             [](const F& f) { return f.GetExtent().GetWidth() == 100.1; }),
         On<F>(
-            "height",
-            [](F& f) {
-                f.SetExtent({0.0, -50.7, 0.0, 0.0});
-            },
+            "height", [](F& f) { f.SetExtent(CBoundingBox(0, -50.7, 0, 0)); },
             [](const F& f) { return f.GetExtent().GetHeight() == 50.7; }),
-        On<F>(
-            "border", [](F& f) { f.DrawBorder = true; },
-            [](const F& f) { return f.DrawBorder; }),
-        On<F>(
-            "borderWidth", [](F& f) { f.BorderWidth = 2.2f; },
-            [](const F& f) { return f.BorderWidth == 2.2f; }),
-        On<F>(
-            "borderColor", [](F& f) { f.BorderColor = Gdiplus::Color(0xFF00FF00); },
-            [](const F& f) { return f.BorderColor.GetValue() == 0xFF00FF00; }),
-        On<F>(
-            "borderDashed", [](F& f) { f.DashedBorder = true; },
-            [](const F& f) { return f.DashedBorder; }),
-        On<F>(
-            "borderGapX", [](F& f) { f.BorderGapX = -3; },
-            [](const F& f) { return f.BorderGapX == -3; }),
-        On<F>(
-            "borderGapY", [](F& f) { f.BorderGapY = 4; },
-            [](const F& f) { return f.BorderGapY == 4; }),
-        On<F>(
-            "fill", [](F& f) { f.DrawFill = true; },
-            [](const F& f) { return f.DrawFill; }),
-        On<F>(
-            "fillColor", [](F& f) { f.FillColor = Gdiplus::Color(0x7F112233); },
-            [](const F& f) { return f.FillColor.GetValue() == 0x7F112233; }),
-        On<F>(
-            "fillGapX", [](F& f) { f.FillGapX = 6; },
-            [](const F& f) { return f.FillGapX == 6; }),
-        On<F>(
-            "fillGapY", [](F& f) { f.FillGapY = -7; },
-            [](const F& f) { return f.FillGapY == -7; }),
-        On<F>(
-            "shadow", [](F& f) { f.DrawShadow = true; },
-            [](const F& f) { return f.DrawShadow; }),
-        On<F>(
-            "shadowColor", [](F& f) { f.ShadowColor = Gdiplus::Color(0); },
-            [](const F& f) { return f.ShadowColor.GetValue() == 0; }),
-        On<F>(
-            "shadowRatioX", [](F& f) { f.ShadowRatioX = 0.03f; },
-            [](const F& f) { return f.ShadowRatioX == 0.03f; }),
-        On<F>(
-            "shadowRatioY", [](F& f) { f.ShadowRatioY = 1.5e-7f; },
-            [](const F& f) { return f.ShadowRatioY == 1.5e-7f; }),
-        On<F>(
-            "reserved1", [](F& f) { f.Reserved1 = kMost; },
-            [](const F& f) { return f.Reserved1 == kMost; }),
-        On<F>(
-            "reserved2", [](F& f) { f.Reserved2 = kLeast; },
-            [](const F& f) { return f.Reserved2 == kLeast; }),
-        On<F>(
-            "reserved3", [](F& f) { f.Reserved3 = 3; },
-            [](const F& f) { return f.Reserved3 == 3; }),
-        On<F>(
-            "reserved4", [](F& f) { f.Reserved4 = -4; },
-            [](const F& f) { return f.Reserved4 == -4; }),
-        On<F>(
-            "reserved5", [](F& f) { f.Reserved5 = 0; },
-            [](const F& f) { return f.Reserved5 == 0; }),
+        Open("border", &F::DrawBorder, true),
+        Open("borderWidth", &F::BorderWidth, 2.2f),
+        Open("borderColor", &F::BorderColor, Color(0xFF00FF00)),
+        Open("borderDashed", &F::DashedBorder, true),
+        Open("borderGapX", &F::BorderGapX, -3),
+        Open("borderGapY", &F::BorderGapY, 4),
+        Open("fill", &F::DrawFill, true),
+        Open("fillColor", &F::FillColor, Color(0x7F112233)),
+        Open("fillGapX", &F::FillGapX, 6),
+        Open("fillGapY", &F::FillGapY, -7),
+        Open("shadow", &F::DrawShadow, true),
+        Open("shadowColor", &F::ShadowColor, Color(0)),
+        Open("shadowRatioX", &F::ShadowRatioX, 0.03f),
+        Open("shadowRatioY", &F::ShadowRatioY, 1.5e-7f),
+        Open("reserved1", &F::Reserved1, kMost),
+        Open("reserved2", &F::Reserved2, kLeast),
+        Open("reserved3", &F::Reserved3, 3),
+        Open("reserved4", &F::Reserved4, -4),
+        Open("reserved5", &F::Reserved5, 0),
     };
 }
 
