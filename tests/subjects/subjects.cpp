@@ -1,10 +1,8 @@
 #include "subjects/subjects.h"
 
-#include <algorithm>
+#include <type_traits>
 #include <utility>
 
-#include "legend/fake_sources.h"
-#include "map_surround/map_surround.h"
 #include "page/catalogue.h"
 #include "scale_bar/bar_row.h"
 #include "title_picture/image_file.h"
@@ -28,125 +26,66 @@ namespace {
 const CPoint kCentre(60, 40);
 constexpr double kScale = 1.25;
 
-template <typename Element>
-using Set = void (*)(Element&);
-
-/// An element by itself.
-template <typename Element>
-class Held : public Subject {
-public:
-    explicit Held(Set<Element> set) { set(m_element); }
-
-    void Measure() override { m_element.ResetAspectRatio(); }
-    void Draw(Gdiplus::Graphics* graphics) override {
-        m_element.Draw(graphics, kCentre, kScale);
-    }
-
-protected:
-    Element m_element;
-};
-
-using Path = std::wstring (*)();
-
-class HeldPicture : public Held<CDrawPicture> {
-public:
-    HeldPicture(Set<CDrawPicture> set, Path path) : Held(set), m_path(path()) {}
-
-    void Measure() override {
-        m_element.Open(m_path.c_str());
-        Held::Measure();
-    }
-
-private:
-    std::wstring m_path;
-};
-
-class HeldBar : public Subject {
-public:
-    HeldBar(const host::CatalogueEntry* style, const scale_bar_test::BarRow& row)
-        : m_bar(host::NewElement<CScaleBarBase>(*style)) {
-        SetProperties(*m_bar, row);
-        m_bar->SetUnitsName(L"nautical miles");
-    }
-
-    void Measure() override { m_bar->ResetAspectRatio(); }
-    void Draw(Gdiplus::Graphics* graphics) override {
-        m_bar->Draw(graphics, kCentre, kScale);
-    }
-
-private:
-    std::unique_ptr<CScaleBarBase> m_bar;
-};
-
-class HeldFrame : public Subject {
-public:
-    explicit HeldFrame(Set<CSurroundFrame> set) { set(m_frame); }
-
-    void Measure() override {
-        if (m_frame.GetMapSurround() != nullptr) {
-            m_frame.GetMapSurround()->ResetAspectRatio();
-        }
-    }
-    void Draw(Gdiplus::Graphics* graphics) override {
-        m_frame.DrawFrame(graphics, CRect(10, 10, 110, 70));
-        m_frame.Draw(graphics, kCentre, kScale);
-    }
-
-private:
-    CSurroundFrame m_frame;
-};
-
-struct Sources {
-    fakes::Raster bands{L"scene of the lower valley.tif", DisplayRGB};
-    fakes::Raster ramp{L"heights above the sea.tif", DisplayGray};
-    fakes::Raster classes{L"land cover.tif", DisplayClassified};
-    fakes::Raster bare{L"shaded relief.tif", static_cast<DataDisplayType>(7)};
-    fakes::Raster hidden{L"not available.tif", DisplayRGB};
-    fakes::Vector vector;
-
-    Sources() {
-        ramp.band.highest = 1234567.0;
-        ramp.band.lowest = -1234567.0;
-        classes.table.items = {
-            {L"water", 0, 0, 255}, {L"", 9, 9, 9}, {kLongText, 1, 2, 3}};
-        hidden.available = {false};
-    }
-};
-
-class HeldLegend : public Subject {
-public:
-    explicit HeldLegend(void (*set)(CMapLegend&, Sources&)) {
-        m_legend.SetTitleValue(L"Legend of the map");
-        set(m_legend, m_sources);
-    }
-
-    void Measure() override { m_legend.ResetAspectRatio(); }
-    void Draw(Gdiplus::Graphics* graphics) override {
-        m_legend.Draw(graphics, kCentre, kScale);
-    }
-
-private:
-    Sources m_sources;
-    CMapLegend m_legend;
-};
-
-template <typename Made, typename... Arguments>
-Row Make(std::string family, std::string name, bool turns, Arguments... arguments) {
-    return {std::move(family), std::move(name), turns,
-            [=] { return std::make_unique<Made>(arguments...); }};
+/// A row of an element's class, set up by a function of the element, and of its subject
+/// where that is asked for.
+template <typename Element, typename Set>
+Row Of(std::string family, std::string name, bool turns, Set set) {
+    return {std::move(family), std::move(name), turns, [set] {
+                auto subject = std::make_unique<Subject>();
+                auto element = std::make_unique<Element>();
+                if constexpr (std::is_invocable_v<Set, Element&, Subject&>) {
+                    set(*element, *subject);
+                } else {
+                    set(*element);
+                }
+                subject->element = std::move(element);
+                return subject;
+            }};
 }
 
-Row Title(std::string name, bool turns, Set<CMapTitle> set) {
-    return Make<Held<CMapTitle>>("Title", std::move(name), turns, set);
+/// A row of a style of the catalogue.
+template <typename Set>
+Row Of(const host::CatalogueEntry& style, std::string name, bool turns, Set set) {
+    return {style.className + 1,  // "ScaleLine" of CScaleLine
+            std::move(name), turns, [make = style.make, set] {
+                auto subject = std::make_unique<Subject>();
+                subject->element = make();
+                set(*subject->element);
+                return subject;
+            }};
 }
-Row Picture(std::string name, bool turns, Path path, Set<CDrawPicture> set) {
-    return Make<HeldPicture>("Picture", std::move(name), turns, set, path);
+
+template <typename Set>
+Row Title(std::string name, bool turns, Set set) {
+    return Of<CMapTitle>("Title", std::move(name), turns, set);
 }
-Row Legend(std::string name, void (*set)(CMapLegend&, Sources&)) {
-    return Make<HeldLegend>("Legend", std::move(name), false, set);
+template <typename Set>
+Row Picture(std::string name, bool turns, Set set) {
+    return Of<CDrawPicture>("Picture", std::move(name), turns, set);
 }
-Row Frame(std::string name, bool turns, Set<CSurroundFrame> set) {
-    return Make<HeldFrame>("Frame", std::move(name), turns, set);
+template <typename Set>
+Row Legend(std::string name, Set set) {
+    return Of<CMapLegend>(
+        "Legend", std::move(name), false, [set](CMapLegend& legend, Subject& subject) {
+            subject.sources = std::make_unique<Sources>();
+            Sources& sources = *subject.sources;
+            sources.ramp.band.highest = 1234567.0;
+            sources.ramp.band.lowest = -1234567.0;
+            sources.classes.table.items = {
+                {L"water", 0, 0, 255}, {L"", 9, 9, 9}, {kLongText, 1, 2, 3}};
+            sources.hidden.available = {false};
+            legend.SetTitleValue(L"Legend of the map");
+            set(legend, sources);
+        });
+}
+template <typename Set>
+Row Frame(std::string name, bool turns, Set set) {
+    return {"Frame", std::move(name), turns, [set] {
+                auto subject = std::make_unique<Subject>();
+                subject->frame = std::make_unique<CSurroundFrame>();
+                set(*subject->frame);
+                return subject;
+            }};
 }
 
 void AddTitles(std::vector<Row>& rows) {
@@ -171,15 +110,18 @@ void AddTitles(std::vector<Row>& rows) {
 }
 
 void AddPictures(std::vector<Row>& rows) {
-    const Path aFile = [] { return ImagePath(); };
-    rows.push_back(Picture("plain", true, aFile, [](CDrawPicture&) {}));
-    rows.push_back(Picture("turned", true, aFile,
-                           [](CDrawPicture& picture) { picture.SetAngle(-70.0f); }));
-    rows.push_back(Picture(
-        "of a missing file", true, [] { return ImagePath() + L"missing"; },
-        [](CDrawPicture&) {}));
-    rows.push_back(Make<Held<CDrawPicture>>("Picture", "never opened", false,
-                                            Set<CDrawPicture>([](CDrawPicture&) {})));
+    rows.push_back(Picture("plain", true, [](CDrawPicture&, Subject& subject) {
+        subject.path = ImagePath();
+    }));
+    rows.push_back(Picture("turned", true, [](CDrawPicture& picture, Subject& subject) {
+        subject.path = ImagePath();
+        picture.SetAngle(-70.0f);
+    }));
+    rows.push_back(
+        Picture("of a missing file", true, [](CDrawPicture&, Subject& subject) {
+            subject.path = ImagePath() + L"missing";
+        }));
+    rows.push_back(Picture("never opened", false, [](CDrawPicture&) {}));
 }
 
 void AddLegends(std::vector<Row>& rows) {
@@ -215,28 +157,9 @@ void AddLegends(std::vector<Row>& rows) {
     }));
 }
 
-class HeldArrow : public Subject {
-public:
-    HeldArrow(const host::CatalogueEntry* style, Set<CMapSurround> set)
-        : m_arrow(style->make()) {
-        set(*m_arrow);
-    }
-
-    void Measure() override { m_arrow->ResetAspectRatio(); }
-    void Draw(Gdiplus::Graphics* graphics) override {
-        m_arrow->Draw(graphics, kCentre, kScale);
-    }
-
-private:
-    std::unique_ptr<CMapSurround> m_arrow;
-};
-
-/// "ScaleLine" of CScaleLine.
-std::string FamilyOf(const host::CatalogueEntry& entry) { return entry.className + 1; }
-
 void AddArrows(std::vector<Row>& rows, const host::CatalogueEntry& style) {
-    const auto add = [&](const char* name, Set<CMapSurround> set) {
-        rows.push_back(Make<HeldArrow>(FamilyOf(style), name, true, &style, set));
+    const auto add = [&](const char* name, auto set) {
+        rows.push_back(Of(style, name, true, set));
     };
     add("plain", [](CMapSurround& arrow) { arrow.SetSize(50); });
     add("red and turned", [](CMapSurround& arrow) {
@@ -250,9 +173,13 @@ void AddArrows(std::vector<Row>& rows, const host::CatalogueEntry& style) {
 void AddBars(std::vector<Row>& rows, const host::CatalogueEntry& style) {
     using scale_bar_test::BarRow;
     const auto add = [&](const char* name, auto set) {
-        BarRow row;
-        set(row);
-        rows.push_back(Make<HeldBar>(FamilyOf(style), name, false, &style, row));
+        rows.push_back(Of(style, name, false, [set](CMapSurround& element) {
+            auto& bar = dynamic_cast<CScaleBarBase&>(element);
+            BarRow row;
+            set(row);
+            SetProperties(bar, row);
+            bar.SetUnitsName(L"nautical miles");
+        }));
     };
     add("plain", [](BarRow&) {});
     add("with long labels and the unit before", [](BarRow& row) {
@@ -323,6 +250,26 @@ std::vector<Row> AllRows() {
 }
 
 }  // namespace
+
+void Subject::Measure() {
+    if (!path.empty()) {
+        dynamic_cast<CDrawPicture&>(*element).Open(path.c_str());
+    }
+    CMapSurround* const measured =
+        frame == nullptr ? element.get() : frame->GetMapSurround();
+    if (measured != nullptr) {
+        measured->ResetAspectRatio();
+    }
+}
+
+void Subject::Draw(Gdiplus::Graphics* graphics) {
+    if (frame != nullptr) {
+        frame->DrawFrame(graphics, CRect(10, 10, 110, 70));
+        frame->Draw(graphics, kCentre, kScale);
+    } else {
+        element->Draw(graphics, kCentre, kScale);
+    }
+}
 
 const std::vector<Row>& Rows() {
     static const std::vector<Row> rows = AllRows();
