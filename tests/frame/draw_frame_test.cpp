@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <cstring>
 #include <limits>
 #include <string>
@@ -128,93 +129,53 @@ struct ShadowRow {
     const char* name;
     float ratioX;
     float ratioY;
-    float widthBefore;
-    float right[4];
-    float bottom[4];
-    float widthAfter;
+    float fallX;  ///< 101 times the ratio
+    float fallY;  ///< 51 times
+    float penOfRight;
+    float penOfBottom;
+    float penAfter;
 };
 
-// The rectangle is 101 wide and 51 high from (10, 20); the gaps are 3 and 4.
+// The rectangle is 101 wide and 51 high from (10, 20), with a pen of 2 and gaps of 3 and
+// 4; a strip is moved by whole pixels.
 TEST(DrawFrame, DropsTheShadowByItsRatios) {
     const float third = 1.0f / 3.0f;
     const float nan = std::numeric_limits<float>::quiet_NaN();
     const ShadowRow rows[] = {
-        {"exact",
-         0.5f,   // 50.5, of which 50 move the bottom strip
-         0.25f,  // 12.75, of which 12 move the right strip
-         2.0f,
-         {111 + 2 + 3, 20 + 12 + 2 + 4, 50.5f + 2 + 3, 51 + 2 + 4},
-         {10 + 50 + 2 + 3, 71 + 2 + 4, 101 + 2 + 3, 12.75f + 2 + 4},
-         2.0f},
-        {"thirds, in floats",
-         third,  // 33.666668
-         third,  // 17.0: the product is rounded up to a whole
-         1.5f,
-         {111 + 1.5f + 3, 20 + 17 + 1.5f + 4, 101.0f * third + 1.5f + 3, 51 + 1.5f + 4},
-         {10 + 33 + 1.5f + 3, 71 + 1.5f + 4, 101 + 1.5f + 3, 17.0f + 1.5f + 4},
-         1.5f},
-        {"up and left",
-         -0.5f,   // -50.5, toward zero
-         -0.25f,  // -12.75
-         2.0f,
-         {111 + 2 + 3, 20 - 12 + 2 + 4, -50.5f + 2 + 3, 51 + 2 + 4},
-         {10 - 50 + 2 + 3, 71 + 2 + 4, 101 + 2 + 3, -12.75f + 2 + 4},
-         2.0f},
-        {"not right: both strips without the border's width",
-         0.0f,
-         0.25f,
-         2.0f,
-         {111 + 3, 20 + 12 + 4, 0 + 3, 51 + 4},
-         {10 + 0 + 3, 71 + 4, 101 + 3, 12.75f + 4},
-         2.0f},
-        {"not down: the bottom strip without the border's width",
-         0.5f,
-         0.0f,
-         2.0f,
-         {111 + 2 + 3, 20 + 0 + 2 + 4, 50.5f + 2 + 3, 51 + 2 + 4},
-         {10 + 50 + 3, 71 + 4, 101 + 3, 0 + 4},
-         2.0f},
-        {"neither: the width stays 0",
-         0.0f,
-         0.0f,
-         2.0f,
-         {111 + 3, 20 + 4, 0 + 3, 51 + 4},
-         {10 + 3, 71 + 4, 101 + 3, 0 + 4},
-         0.0f},
-        {"minus zero is zero",
-         -0.0f,
-         -0.0f,
-         2.0f,
-         {111 + 3, 20 + 4, 0 + 3, 51 + 4},
-         {10 + 3, 71 + 4, 101 + 3, 0 + 4},
-         0.0f},
-        {"no number moves nothing",
-         nan,
-         nan,
-         2.0f,
-         {111 + 2 + 3, 20 + 0 + 2 + 4, nan, 51 + 2 + 4},
-         {10 + 0 + 2 + 3, 71 + 2 + 4, 101 + 2 + 3, nan},
-         2.0f},
+        {"exact", 0.5f, 0.25f, 50.5f, 12.75f, 2, 2, 2},
+        // 33.666668; 51 / 3 is rounded up to a whole
+        {"thirds, in floats", third, third, 101.0f * third, 17.0f, 2, 2, 2},
+        {"up and left, toward zero", -0.5f, -0.25f, -50.5f, -12.75f, 2, 2, 2},
+        {"not right: neither strip has the pen's width", 0, 0.25f, 0, 12.75f, 0, 0, 2},
+        {"not down: the bottom strip has none", 0.5f, 0, 50.5f, 0, 2, 0, 2},
+        {"neither: the width stays 0", 0, 0, 0, 0, 0, 0, 0},
+        {"minus zero is zero", -0.0f, -0.0f, 0, 0, 0, 0, 0},
+        {"no number moves nothing", nan, nan, nan, nan, 2, 2, 2},
     };
     const std::string brush = BrushLook(kShadow);
+    const auto whole = [](float fall) { return std::isnan(fall) ? 0 : std::trunc(fall); };
     for (const ShadowRow& row : rows) {
         CFrameBase frame = ColouredFrame();
         frame.DrawShadow = true;
-        frame.BorderWidth = row.widthBefore;
+        frame.BorderWidth = 2.0f;
         frame.BorderGapX = 3;
         frame.BorderGapY = 4;
         frame.ShadowRatioX = row.ratioX;
         frame.ShadowRatioY = row.ratioY;
-        const float* right = row.right;
-        const float* bottom = row.bottom;
+        const float right = row.penOfRight;
+        const float bottom = row.penOfBottom;
         EXPECT_TRUE(Equal(
             {{"brush", "GdipCreateSolidFill #80404040"},
-             {"right", FillRectangle(brush, right[0], right[1], right[2], right[3])},
-             {"bottom", FillRectangle(brush, bottom[0], bottom[1], bottom[2], bottom[3])},
+             {"right",
+              FillRectangle(brush, 111 + right + 3, 20 + whole(row.fallY) + right + 4,
+                            row.fallX + right + 3, 51 + right + 4)},
+             {"bottom",
+              FillRectangle(brush, 10 + whole(row.fallX) + bottom + 3, 71 + bottom + 4,
+                            101 + bottom + 3, row.fallY + bottom + 4)},
              {"brush", "GdipDeleteBrush " + brush}},
             FrameTrace(frame, CRect(10, 20, 111, 71))))
             << row.name;
-        EXPECT_EQ(frame.BorderWidth, row.widthAfter) << row.name;
+        EXPECT_EQ(frame.BorderWidth, row.penAfter) << row.name;
     }
 }
 

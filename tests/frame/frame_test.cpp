@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
 #include <memory>
 #include <type_traits>
 #include <utility>
@@ -185,12 +184,6 @@ TEST(SurroundFrame, DeletesItsElementOnce) {
     EXPECT_EQ(fate.deleted, 2) << "through the base";
 }
 
-TEST(SurroundFrame, DeletesNothingWithoutElement) {
-    Recording recording;
-    { const CSurroundFrame frame; }
-    EXPECT_EQ(recording.Count(), 0);
-}
-
 TEST(SurroundFrame, LeavesAReplacedElementToTheHost) {
     Fate first;
     Fate second;
@@ -273,24 +266,6 @@ TEST(SurroundFrame, DeletesItsElementForOneThatIsMovedIn) {
         EXPECT_EQ(second.deleted, 0);
     }
     EXPECT_EQ(second.deleted, 1);
-}
-
-TEST(SurroundFrame, MayBeHeldByAVector) {
-    std::array<Fate, 3> fates;
-    {
-        std::vector<CSurroundFrame> frames;
-        for (Fate& fate : fates) {
-            frames.emplace_back().SetMapSurround(new Probe(fate));
-        }
-        for (const Fate& fate : fates) {
-            EXPECT_EQ(fate.deleted, 0);
-        }
-        frames.erase(frames.begin());
-        EXPECT_EQ(fates[0].deleted, 1);
-        EXPECT_EQ(fates[1].deleted + fates[2].deleted, 0);
-    }
-    EXPECT_EQ(fates[1].deleted, 1);
-    EXPECT_EQ(fates[2].deleted, 1);
 }
 
 TEST(SurroundFrame, HandsDrawingOnAsItIs) {

