@@ -14,47 +14,14 @@
 #include "map_surround/north_arrow.h"
 #include "map_surround/scale_bar.h"
 #include "page/element_of.h"
+#include "page/layout/laid_out.h"
 #include "page/layout/layout.h"
 #include "page/placed_frame.h"
 #include "recording/expect.h"
 
 namespace {
 
-struct Furniture {
-    CBoundingBox map;
-    CSurroundFrame* scaleBar = nullptr;
-    CSurroundFrame* northArrow = nullptr;
-    CSurroundFrame* legend = nullptr;
-};
-
-Furniture Find(const host::Page& page) {
-    Furniture found;
-    for (const host::PageItem& item : page.Items()) {
-        if (const auto* map = std::get_if<host::MapFrame>(&item)) {
-            found.map = map->frame.GetExtent();
-            continue;
-        }
-        auto* frame = std::get<std::unique_ptr<CSurroundFrame>>(item).get();
-        const CMapSurround* element = frame->GetMapSurround();
-        if (element == nullptr) {
-            continue;
-        }
-        switch (element->GetItemType()) {
-            case SurroundScaleBar:
-                found.scaleBar = frame;
-                break;
-            case SurroundNorthArrow:
-                found.northArrow = frame;
-                break;
-            case SurroundLegend:
-                found.legend = frame;
-                break;
-            default:
-                break;
-        }
-    }
-    return found;
-}
+using host_tests::LaidOut;
 
 host::MapOnPage MapOf(double width, double height) {
     host::MapOnPage map;
@@ -99,9 +66,9 @@ TEST(Furniture, DivisionsAreTrueToTheMap) {
                 design.scaleBar.unit = host::DistanceUnit::Metre;
                 const host::LaidOutPage laidOut =
                     host::LayOut(design, MapOf(width, width * 0.8));
-                const Furniture found = Find(laidOut.page);
+                const LaidOut found(laidOut.page);
                 const auto* const frame =
-                    dynamic_cast<const host::ScaleBarFrame*>(found.scaleBar);
+                    dynamic_cast<const host::ScaleBarFrame*>(found.Of(SurroundScaleBar));
                 ASSERT_NE(frame, nullptr);
                 EXPECT_NEAR(frame->DivisionLength() / found.map.GetWidth() * width /
                                 frame->DivisionValue(),
@@ -109,7 +76,8 @@ TEST(Furniture, DivisionsAreTrueToTheMap) {
                     << "of a map " << width << " wide";
                 recording::Surface surface(8, 8);
                 recording::Recording recording(recording::Mode::RecordOnly);
-                found.scaleBar->Draw(surface.Graphics(), CPoint(500, 500), 3.0);
+                found.Of(SurroundScaleBar)
+                    ->Draw(surface.Graphics(), CPoint(500, 500), 3.0);
                 const std::vector<Label> labels = LabelsOf(recording.Drawing());
                 const int count =
                     host::ElementOf<CScaleBarBase>(*frame)->GetMainDivCount();
@@ -149,9 +117,9 @@ TEST(Furniture, CountsWhatItIsAskedToCount) {
         design.scaleBar.distances = host::BarDistances::Map;
         design.scaleBar.unit = row.unit;
         const host::LaidOutPage laidOut = host::LayOut(design, MapOf(12000.0, 9000.0));
-        const Furniture found = Find(laidOut.page);
+        const LaidOut found(laidOut.page);
         const auto* const frame =
-            dynamic_cast<const host::ScaleBarFrame*>(found.scaleBar);
+            dynamic_cast<const host::ScaleBarFrame*>(found.Of(SurroundScaleBar));
         ASSERT_NE(frame, nullptr);
         EXPECT_EQ(host::ElementOf<CScaleBarBase>(*frame)->GetUnitsName(), row.name);
         EXPECT_NEAR(frame->DivisionLength() / found.map.GetWidth() * 12000.0,
@@ -176,10 +144,11 @@ TEST(Furniture, StandsInsideThePageAndApart) {
         host::MapOnPage map = MapOf(1000.0, 900.0);
         map.sources = {&source, &source, &source};
         const host::LaidOutPage laidOut = host::LayOut(design, map);
-        const Furniture found = Find(laidOut.page);
+        const LaidOut found(laidOut.page);
         std::vector<CBoundingBox> boxes = {found.map};
         for (const CSurroundFrame* frame :
-             {found.legend, found.scaleBar, found.northArrow}) {
+             {found.Of(SurroundLegend), found.Of(SurroundScaleBar),
+              found.Of(SurroundNorthArrow)}) {
             ASSERT_NE(frame, nullptr) << paper;
             boxes.push_back(frame->GetExtent());
         }
@@ -210,15 +179,16 @@ const host::CatalogueEntry* StyleOf() {
 TEST(Furniture, IsLeftOutWhereTheMapHasNoCoordinates) {
     host::PageDesign design;
     ASSERT_TRUE(host::ParsePaperSize("A4", design.paper));
-    const Furniture found = Find(host::LayOut(design, {nullptr, 1.5}).page);
-    EXPECT_EQ(found.scaleBar, nullptr);
-    EXPECT_EQ(found.northArrow, nullptr);
-    EXPECT_EQ(found.legend, nullptr);
+    const host::LaidOutPage bare = host::LayOut(design, {nullptr, 1.5});
+    const LaidOut found(bare.page);
+    EXPECT_EQ(found.Of(SurroundScaleBar), nullptr);
+    EXPECT_EQ(found.Of(SurroundNorthArrow), nullptr);
+    EXPECT_EQ(found.Of(SurroundLegend), nullptr);
 
     design.northArrow.style = StyleOf<CNorthArrowTwoAngle>();
     design.northArrow.angle = 0.0;
     const host::LaidOutPage withArrow = host::LayOut(design, {nullptr, 1.5});
-    EXPECT_NE(Find(withArrow.page).northArrow, nullptr) << "as asked for";
+    EXPECT_NE(LaidOut(withArrow.page).Of(SurroundNorthArrow), nullptr) << "as asked for";
 }
 
 TEST(Furniture, TakesWhatTheDesignSays) {
@@ -237,24 +207,26 @@ TEST(Furniture, TakesWhatTheDesignSays) {
     host::MapOnPage map = MapOf(1000.0, 900.0);
     map.sources = {&source};
     const host::LaidOutPage laidOut = host::LayOut(design, map);
-    const Furniture found = Find(laidOut.page);
+    const LaidOut found(laidOut.page);
 
-    const auto* bar = dynamic_cast<CScaleLine3*>(found.scaleBar->GetMapSurround());
+    const auto* bar =
+        dynamic_cast<CScaleLine3*>(found.Of(SurroundScaleBar)->GetMapSurround());
     ASSERT_NE(bar, nullptr);
     EXPECT_EQ(bar->GetMainDivCount(), 4);
     EXPECT_EQ(bar->GetSubDivCount(), 3);
     EXPECT_EQ(bar->GetUnitPos(), UnitPosBefore);
     EXPECT_EQ(bar->GetUnitsName(), L"\u516C\u91CC");
-    const auto* arrow =
-        dynamic_cast<CNorthArrowFourAngle*>(found.northArrow->GetMapSurround());
+    const auto* arrow = dynamic_cast<CNorthArrowFourAngle*>(
+        found.Of(SurroundNorthArrow)->GetMapSurround());
     ASSERT_NE(arrow, nullptr);
     EXPECT_FLOAT_EQ(arrow->GetAngle(), 12.5f);
-    const auto* legend = dynamic_cast<CMapLegend*>(found.legend->GetMapSurround());
+    const auto* legend =
+        dynamic_cast<CMapLegend*>(found.Of(SurroundLegend)->GetMapSurround());
     ASSERT_NE(legend, nullptr);
     EXPECT_EQ(legend->GetTitleValue(), L"What it shows");
 
     design.legend.shown = false;
-    EXPECT_EQ(Find(host::LayOut(design, map).page).legend, nullptr);
+    EXPECT_EQ(LaidOut(host::LayOut(design, map).page).Of(SurroundLegend), nullptr);
 }
 
 TEST(Furniture, LeavesOutWhatItDoesNotKnowAndTells) {
@@ -263,8 +235,8 @@ TEST(Furniture, LeavesOutWhatItDoesNotKnowAndTells) {
     design.scaleBar.numeric = true;
     const host::LaidOutPage laidOut = host::LayOut(design, MapOf(10.0, 10.0));
     EXPECT_EQ(laidOut.remarks.size(), 3u) << "north, the bar and the scale";
-    EXPECT_EQ(Find(laidOut.page).scaleBar, nullptr);
-    EXPECT_EQ(Find(laidOut.page).northArrow, nullptr);
+    EXPECT_EQ(LaidOut(laidOut.page).Of(SurroundScaleBar), nullptr);
+    EXPECT_EQ(LaidOut(laidOut.page).Of(SurroundNorthArrow), nullptr);
     design.map.scale = 1000.0;
     EXPECT_THROW(host::LayOut(design, MapOf(10.0, 10.0)), std::runtime_error);
 }

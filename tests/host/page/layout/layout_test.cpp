@@ -11,35 +11,14 @@
 
 #include "map_surround/picture.h"
 #include "map_surround/title.h"
+#include "page/layout/laid_out.h"
 #include "page/units.h"
 #include "recording/expect.h"
 #include "scratch_folder.h"
 
 namespace {
 
-struct Laid {
-    CBoundingBox map;
-    CSurroundFrame* title = nullptr;
-    CSurroundFrame* picture = nullptr;
-};
-
-Laid Parts(const host::Page& page) {
-    Laid laid;
-    for (const host::PageItem& item : page.Items()) {
-        if (const auto* map = std::get_if<host::MapFrame>(&item)) {
-            laid.map = map->frame.GetExtent();
-            continue;
-        }
-        CSurroundFrame* const frame =
-            std::get<std::unique_ptr<CSurroundFrame>>(item).get();
-        const CMapSurround* element = frame->GetMapSurround();
-        if (element == nullptr) {
-            continue;
-        }
-        (element->GetItemType() == SurroundMapTitle ? laid.title : laid.picture) = frame;
-    }
-    return laid;
-}
+using host_tests::LaidOut;
 
 double Left(const CBoundingBox& box) { return box.TopLeft().x; }
 double Right(const CBoundingBox& box) { return box.TopLeft().x + box.GetWidth(); }
@@ -84,14 +63,14 @@ TEST_F(Layout, KeepsEverythingApartAndOnThePage) {
                 design.picture.path = logo;
                 const host::LaidOutPage laidOut =
                     host::LayOut(design, {nullptr, aspectRatio});
-                const Laid laid = Parts(laidOut.page);
+                const LaidOut laid(laidOut.page);
                 const std::string what = std::string(paperText) + " " +
                                          std::to_string(aspectRatio) + " " +
                                          std::to_string(points);
-                ASSERT_NE(laid.title, nullptr) << what;
-                ASSERT_NE(laid.picture, nullptr) << what;
-                const CBoundingBox title = laid.title->GetExtent();
-                const CBoundingBox picture = laid.picture->GetExtent();
+                ASSERT_NE(laid.Of(SurroundMapTitle), nullptr) << what;
+                ASSERT_NE(laid.Of(SurroundPicture), nullptr) << what;
+                const CBoundingBox title = laid.Of(SurroundMapTitle)->GetExtent();
+                const CBoundingBox picture = laid.Of(SurroundPicture)->GetExtent();
                 EXPECT_TRUE(IsOnPage(laid.map, laidOut.page)) << what;
                 EXPECT_TRUE(AreApart(laid.map, title)) << what;
                 EXPECT_TRUE(AreApart(laid.map, picture)) << what;
@@ -110,17 +89,19 @@ TEST_F(Layout, KeepsTheProportionsOfMapAndPicture) {
         design.title.text = L"Title";
         design.picture.path = logo;
         const host::LaidOutPage laidOut = host::LayOut(design, {nullptr, aspectRatio});
-        const Laid laid = Parts(laidOut.page);
+        const LaidOut laid(laidOut.page);
         EXPECT_NEAR(laid.map.GetWidth() / laid.map.GetHeight(), aspectRatio, 1.0e-9);
-        EXPECT_FLOAT_EQ(laid.picture->GetMapSurround()->GetAspectRatio(), 2.0f);
+        EXPECT_FLOAT_EQ(laid.Of(SurroundPicture)->GetMapSurround()->GetAspectRatio(),
+                        2.0f);
     }
 }
 
 TEST_F(Layout, GivesThePanelsRoomToTheMapWhenThereIsNone) {
     host::PageDesign design;
-    const double bare = Parts(host::LayOut(design, {nullptr, 1.6}).page).map.GetWidth();
+    const double bare = LaidOut(host::LayOut(design, {nullptr, 1.6}).page).map.GetWidth();
     design.picture.path = logo;
-    const double beside = Parts(host::LayOut(design, {nullptr, 1.6}).page).map.GetWidth();
+    const double beside =
+        LaidOut(host::LayOut(design, {nullptr, 1.6}).page).map.GetWidth();
     EXPECT_GT(bare, beside);
 }
 
@@ -128,14 +109,14 @@ TEST_F(Layout, PutsThePanelWhereTheMapStaysLarger) {
     host::PageDesign design;
     design.picture.path = logo;
     const host::LaidOutPage square = host::LayOut(design, {nullptr, 1.0});
-    const CBoundingBox squareMap = Parts(square.page).map;
-    const CBoundingBox beside = Parts(square.page).picture->GetExtent();
+    const CBoundingBox squareMap = LaidOut(square.page).map;
+    const CBoundingBox beside = LaidOut(square.page).Of(SurroundPicture)->GetExtent();
     EXPECT_GT(Left(beside), Right(squareMap));
     EXPECT_NEAR(Bottom(beside), Bottom(squareMap), 1.0e-9);
 
     const host::LaidOutPage wide = host::LayOut(design, {nullptr, 3.0});
-    const CBoundingBox wideMap = Parts(wide.page).map;
-    const CBoundingBox below = Parts(wide.page).picture->GetExtent();
+    const CBoundingBox wideMap = LaidOut(wide.page).map;
+    const CBoundingBox below = LaidOut(wide.page).Of(SurroundPicture)->GetExtent();
     EXPECT_LT(Top(below), Bottom(wideMap));
     EXPECT_NEAR(Right(below), Right(wideMap), 1.0e-9);
 }
@@ -144,9 +125,9 @@ TEST_F(Layout, PlacesTheTitleInTheMiddleOnTop) {
     host::PageDesign design;
     design.title.text = L"Title";
     const host::LaidOutPage laidOut = host::LayOut(design, {nullptr, 1.0});
-    const CBoundingBox title = Parts(laidOut.page).title->GetExtent();
+    const CBoundingBox title = LaidOut(laidOut.page).Of(SurroundMapTitle)->GetExtent();
     EXPECT_NEAR(Left(title) + Right(title), laidOut.page.Width(), 1.0e-6);
-    EXPECT_GT(Bottom(title), Top(Parts(laidOut.page).map));
+    EXPECT_GT(Bottom(title), Top(LaidOut(laidOut.page).map));
 }
 
 TEST_F(Layout, SetsTheTitleInItsSize) {
@@ -154,8 +135,8 @@ TEST_F(Layout, SetsTheTitleInItsSize) {
     design.title.text = L"Title";
     design.title.points = 36.0;
     const host::LaidOutPage laidOut = host::LayOut(design, {nullptr, 1.0});
-    const auto* title =
-        dynamic_cast<const CMapTitle*>(Parts(laidOut.page).title->GetMapSurround());
+    const auto* title = dynamic_cast<const CMapTitle*>(
+        LaidOut(laidOut.page).Of(SurroundMapTitle)->GetMapSurround());
     ASSERT_NE(title, nullptr);
     EXPECT_DOUBLE_EQ(title->GetFontSize(), 48.0);
     EXPECT_TRUE(laidOut.remarks.empty());
@@ -166,7 +147,7 @@ TEST_F(Layout, SetsATitleSmallerThatWouldNotFit) {
     design.title.text = L"A title that is long enough to be wider than the page it is on";
     design.title.points = 100.0;
     const host::LaidOutPage laidOut = host::LayOut(design, {nullptr, 1.0});
-    const CSurroundFrame* title = Parts(laidOut.page).title;
+    const CSurroundFrame* title = LaidOut(laidOut.page).Of(SurroundMapTitle);
     EXPECT_TRUE(IsOnPage(title->GetExtent(), laidOut.page));
     EXPECT_EQ(laidOut.remarks,
               std::vector<std::string>{"the title is set smaller to fit the page"});
@@ -180,7 +161,8 @@ TEST_F(Layout, HasNoFrameForATitleWithoutInk) {
     for (const wchar_t* text : {L"", L"   "}) {
         host::PageDesign design;
         design.title.text = text;
-        EXPECT_EQ(Parts(host::LayOut(design, {nullptr, 1.0}).page).title, nullptr);
+        EXPECT_EQ(LaidOut(host::LayOut(design, {nullptr, 1.0}).page).Of(SurroundMapTitle),
+                  nullptr);
     }
 }
 
@@ -191,7 +173,7 @@ TEST_F(Layout, DecoratesFramesAsAskedFor) {
     design.frames.shadow = Gdiplus::Color(0xFF112233);
     design.frames.background = Gdiplus::Color(0x80445566);
     const host::LaidOutPage laidOut = host::LayOut(design, {nullptr, 1.0});
-    const CSurroundFrame* title = Parts(laidOut.page).title;
+    const CSurroundFrame* title = LaidOut(laidOut.page).Of(SurroundMapTitle);
     EXPECT_FALSE(title->DrawBorder);
     EXPECT_TRUE(title->DrawShadow);
     EXPECT_EQ(title->ShadowColor.GetValue(), 0xFF112233u);

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "legend/fake_sources.h"
 #include "map_surround/legend.h"
 #include "page/page.h"
 #include "recording/expect.h"
@@ -15,33 +16,12 @@ namespace {
 
 constexpr double kSide = 320.0;  // page units
 
-class Band : public CRasterBand {
-public:
-    bool ComputeMinMax(double* min, double* max, bool) override {
-        *min = -3.7;
-        *max = 255.9;
-        return true;
-    }
-};
-
-/// A raster source in memory, shown in one way.
-class Source : public CRasterSource {
-public:
-    explicit Source(DataDisplayType display) : m_display(display) {}
-    bool IsAvailable() override { return true; }
-    GISDataSourceType GetDataSourceType() override { return DataSourceRaster; }
-    std::wstring GetFileName() override { return L"elevation.tif"; }
-    DataDisplayType GetDisplayType() override { return m_display; }
-    int GetRedBandNum() override { return 3; }
-    int GetGreenBandNum() override { return 2; }
-    int GetBlueBandNum() override { return 1; }
-    CRasterBand* GetRasterBand(int) override { return &m_band; }
-    CClassifyDisplayTable* GetClassifyDisplayTable() override { return nullptr; }
-
-private:
-    DataDisplayType m_display;
-    Band m_band;
-};
+fakes::Raster Source(DataDisplayType display) {
+    fakes::Raster source(L"elevation.tif", display);
+    source.band.lowest = -3.7;
+    source.band.highest = 255.9;
+    return source;
+}
 
 /// A page with nothing but a legend of some sources.
 host::Page LegendPage(const std::vector<CGISDataSource*>& sources, int size) {
@@ -93,7 +73,7 @@ std::unique_ptr<Gdiplus::Bitmap> Draw(const host::Page& page, double dpi) {
 }
 
 TEST(LegendOnPage, RampRunsFromLightToBlack) {
-    Source source(DisplayGray);
+    fakes::Raster source = Source(DisplayGray);
     for (const double dpi : {96.0, 150.0, 300.0}) {
         const host::Page page = LegendPage({&source}, 150);
         const Gdiplus::Size size = host::PixelSize(page, dpi);
@@ -172,8 +152,8 @@ double Difference(const Greys& a, const Greys& b) {
 }
 
 TEST(LegendOnPage, IsTheSamePictureAtAnyResolution) {
-    Source rgb(DisplayRGB);
-    Source grey(DisplayGray);
+    fakes::Raster rgb = Source(DisplayRGB);
+    fakes::Raster grey = Source(DisplayGray);
     const std::vector<CGISDataSource*> sources = {&rgb, &grey};
     const Greys screen = Coarse(LegendPage(sources, 240), 96.0);
     const Greys print = Coarse(LegendPage(sources, 240), 300.0);
