@@ -106,8 +106,9 @@ interruptions: build/release/with-test
 
 strangers: build/release/with-test
 	cmake --build --preset release --target map_page_tests
-	STRANGERS=all \
-	    build/release/tests/host/map_page/map_page_tests --gtest_filter='StrangersPage.*'
+	seq 0 3 | STRANGERS=all xargs -P $(CTEST_PARALLEL_LEVEL) -I{} env GTEST_TOTAL_SHARDS=4 \
+	    GTEST_SHARD_INDEX={} GTEST_BRIEF=1 \
+	    build/release/tests/host/map_page/map_page_tests --gtest_filter='*StrangersPage*'
 
 install-tests: build/package/build.ninja
 	cmake --build --preset package
