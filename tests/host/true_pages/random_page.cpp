@@ -11,6 +11,7 @@
 #include <random>
 
 #include "page/catalogue.h"
+#include "system/number_text.h"
 #include "true_pages/earth.h"
 
 namespace true_pages {
@@ -141,6 +142,16 @@ void WriteRaster(const RandomPage& page) {
     }
 }
 
+/// A part of an extent, half of it or more, all around a place somewhere in it.
+host::Box PartOf(const host::Box& extent, Chance& chance) {
+    const double width = extent.Width() * chance.Between(0.5, 0.9);
+    const double height = extent.Height() * chance.Between(0.5, 0.9);
+    const double left = chance.Between(extent.left, extent.left + extent.Width() - width);
+    const double bottom =
+        chance.Between(extent.bottom, extent.bottom + extent.Height() - height);
+    return {left, bottom, left + width, bottom + height};
+}
+
 std::string Text(double value) {
     char buffer[32];
     std::snprintf(buffer, sizeof buffer, "%.0f", value);
@@ -193,6 +204,15 @@ RandomPage MakeRandomPage(std::uint32_t seed, const std::string& folder) {
                       "off"};
     if (chance.Happens(0.4)) {
         page.arguments.emplace_back("--portrait");
+    }
+    page.shown = page.extent;
+    if (chance.Happens(0.3)) {
+        page.shown = PartOf(page.extent, chance);
+        page.arguments.emplace_back("--extent");
+        for (const double side :
+             {page.shown.left, page.shown.bottom, page.shown.right, page.shown.top}) {
+            page.arguments.push_back(host::NumberText(side));
+        }
     }
     if (chance.Happens(0.3)) {
         // As large as the map is on about 100 mm, so that most of it is shown.

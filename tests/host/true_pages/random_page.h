@@ -13,6 +13,7 @@ struct RandomPage {
     std::string system;  ///< the map's coordinate system, as PROJ reads it
     std::string raster;  ///< its file
     host::Box extent;    ///< of the raster
+    host::Box shown;     ///< the part asked for
     bool isGrey =
         false;  ///< values from `low` to `high`, growing to the right; else classes
     double low = 0.0;

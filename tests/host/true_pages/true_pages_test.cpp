@@ -54,13 +54,13 @@ struct DrawnPage {
     /// of it. A scale is measured over a quarter of the frame.
     host::Box Shown() const {
         if (!(asked.scale > 0.0)) {
-            return asked.extent;
+            return asked.shown;
         }
         const Area frame = written.FrameOf(*written.Find("map"));
         const double width = frame.right - frame.left;
         const double metres = width / 4.0 / asked.dpi * kInch * asked.scale;
-        const double x = asked.extent.MiddleX();
-        const double y = asked.extent.MiddleY();
+        const double x = asked.shown.MiddleX();
+        const double y = asked.shown.MiddleY();
         double less = 0.0;
         double more = asked.extent.Width() * 1000.0;
         for (int i = 0; i < 100; ++i) {
@@ -296,6 +296,10 @@ void TryPage(std::uint32_t seed) {
         const ScratchFolder scratch;
         const host_tests::Result result = host_tests::RunMapPage(scratch, arguments);
         EXPECT_EQ(result.status, 0) << result.err;
+        // What is small on a small sheet is told; the layout lays nothing over another.
+        for (const char* const place : {" lies ", " leaves ", " covered "}) {
+            EXPECT_EQ(result.err.find(place), std::string::npos) << result.err;
+        }
         return result.status == 0;
     };
     if (!draw("page", {}) || !draw("upright", {"--north-angle", "0"})) {
