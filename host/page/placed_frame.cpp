@@ -8,11 +8,33 @@
 
 namespace host {
 
+CPoint PlacedFrame::ElementCentre(CPoint middle, double scale) const {
+    return {middle.x + static_cast<int>(std::lround(m_offset.x * scale)),
+            middle.y - static_cast<int>(std::lround(m_offset.y * scale))};
+}
+
 void PlacedFrame::Draw(Gdiplus::Graphics* graphics, CPoint centre, double scale) {
-    const CPoint elementCentre(
-        centre.x + static_cast<int>(std::lround(m_offset.x * scale)),
-        centre.y - static_cast<int>(std::lround(m_offset.y * scale)));
-    CSurroundFrame::Draw(graphics, elementCentre, scale);
+    CSurroundFrame::Draw(graphics, ElementCentre(centre, scale), scale);
+}
+
+void NorthArrowFrame::Draw(Gdiplus::Graphics* graphics, CPoint centre, double scale) {
+    constexpr double kPixels = 200.0;     // of which the head is a fifth
+    constexpr double kLargest = 32767.0;  // larger letters break the font for all others
+    const auto* const arrow = ElementOf<CNorthArrowOneAngle>(*this);
+    if (arrow == nullptr || !m_isExact || arrow->GetSize() <= 0 ||
+        !(arrow->GetSize() * scale <= kLargest)) {
+        PlacedFrame::Draw(graphics, centre, scale);
+        return;
+    }
+    const double drawn = kPixels / arrow->GetSize();
+    const auto larger = static_cast<float>(scale / drawn);
+    const CPoint middle = ElementCentre(centre, scale);
+    const Gdiplus::GraphicsState state = graphics->Save();
+    graphics->TranslateTransform(static_cast<float>(middle.x),
+                                 static_cast<float>(middle.y));
+    graphics->ScaleTransform(larger, larger);
+    CSurroundFrame::Draw(graphics, CPoint(0, 0), drawn);
+    graphics->Restore(state);
 }
 
 ScaleBarFrame::ScaleBarFrame(std::unique_ptr<CScaleBarBase> bar)

@@ -35,6 +35,10 @@ public:
 
     void Draw(Gdiplus::Graphics* graphics, CPoint centre, double scale) override;
 
+protected:
+    /// The device pixel of the element's centre, where the frame's middle is at another.
+    CPoint ElementCentre(CPoint middle, double scale) const;
+
 private:
     std::string m_name;
     CPoint2D m_offset;
@@ -108,8 +112,17 @@ public:
     void SetTrueNorth(bool trueNorth) { m_trueNorth = trueNorth; }
     bool TrueNorth() const { return m_trueNorth; }
 
+    /// Whether an arrow of one angle looks the same at every size and resolution. Drawn
+    /// as it is, its head grows with the square of its pixels, and fills the sheet at
+    /// last.
+    void SetExact(bool isExact) { m_isExact = isExact; }
+    bool IsExact() const { return m_isExact; }
+
+    void Draw(Gdiplus::Graphics* graphics, CPoint centre, double scale) override;
+
 private:
     bool m_trueNorth = false;
+    bool m_isExact = true;
 };
 
 /// The frame of a legend, which remembers what a legend does not give back.

@@ -15,7 +15,7 @@ namespace {
 
 using nlohmann::json;
 
-constexpr const char* kExactKey = "exact";  // of scale bars
+constexpr const char* kExactKey = "exact";  // of scale bars and north arrows
 
 /// "#AARRGGBB" as "#RRGGBBAA".
 std::string AlphaLast(const std::string& text) {

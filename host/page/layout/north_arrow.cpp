@@ -11,6 +11,8 @@
 namespace host {
 namespace {
 
+constexpr double kLargestArrow = 8.0;  // modules
+
 /// The direction of north, where there is one to be told.
 std::optional<double> AngleOf(const NorthArrowDesign& design, const ShownMap& shown,
                               std::vector<std::string>& remarks) {
@@ -58,7 +60,9 @@ std::unique_ptr<PlacedFrame> PlaceNorthArrow(const PageDesign& design,
                                              std::vector<std::string>& remarks) {
     const CatalogueEntry* const style = NorthArrowStyleOn(design, map);
     auto arrow = style == nullptr ? nullptr : NewElement<CNorthArrowBase>(*style);
-    const double side = std::min(room.Width(), room.Height());
+    // A panel beside a small map may be most of the sheet.
+    const double side =
+        std::min({room.Width(), room.Height(), kLargestArrow * measures.module});
     const double space = 0.6 * measures.module;
     if (arrow == nullptr || side <= 2.0 * space) {
         return nullptr;
@@ -77,8 +81,8 @@ std::unique_ptr<PlacedFrame> PlaceNorthArrow(const PageDesign& design,
     arrow->SetFrontColor(Gdiplus::Color(kInkColor));
     arrow->SetAngle(static_cast<float>(*angle));
     const Box extent = {room.left, room.bottom, room.left + side, room.bottom + side};
-    const InkBox ink = MeasureInk(*arrow);
     auto frame = std::make_unique<NorthArrowFrame>(std::move(arrow));
+    const InkBox ink = MeasureInk(*frame);
     Decorate(*frame, extent, design.frames, measures);
     frame->SetName("north arrow");
     frame->SetTrueNorth(!design.northArrow.angle);

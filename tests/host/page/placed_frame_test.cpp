@@ -58,4 +58,39 @@ TEST(ScaleBarFrame, AWholeBarIsTrueToAPixel) {
     }
 }
 
+// As the element draws it, 300 units at 300 dpi are a head of 900 pixels, and no shaft.
+TEST(NorthArrowFrame, LooksTheSameAtEveryResolution) {
+    struct Row {
+        int size;
+        double scale;
+    };
+    const auto inkOf = [](int size, double scale) {
+        auto arrow = std::make_unique<CNorthArrowOneAngle>();
+        arrow->SetSize(size);
+        host::NorthArrowFrame frame(std::move(arrow));
+        const int side = static_cast<int>(3 * size * scale);
+        Gdiplus::Bitmap bitmap(side, side, PixelFormat32bppRGB);
+        {
+            Gdiplus::Graphics graphics(&bitmap);
+            graphics.Clear(Gdiplus::Color(0xFFFFFFFF));
+            host::DrawElement(graphics, frame, {side / 2, side / 2}, scale);
+        }
+        double dark = 0.0;
+        for (int y = 0; y < side; ++y) {
+            for (int x = 0; x < side; ++x) {
+                Gdiplus::Color pixel;
+                bitmap.GetPixel(x, y, &pixel);
+                dark += 255 - pixel.GetGreen();
+            }
+        }
+        return dark / 255.0 / (size * scale * size * scale);
+    };
+    const double asItIs = inkOf(200, 1.0);
+    EXPECT_GT(asItIs, 0.01);
+    for (const Row& row : {Row{100, 1.0}, Row{80, 4.0}, Row{200, 3.0}, Row{300, 2.0}}) {
+        EXPECT_NEAR(inkOf(row.size, row.scale), asItIs, 0.1 * asItIs)
+            << row.size << " at " << row.scale;
+    }
+}
+
 }  // namespace

@@ -125,6 +125,9 @@ std::vector<Property> NorthArrowProperties() {
         Of<&NorthArrowFrame::TrueNorth, &NorthArrowFrame::SetTrueNorth>(
             "trueNorth", "Whether it is turned to true north in the middle of the map",
             PropertyKind::Switch),
+        Of<&NorthArrowFrame::IsExact, &NorthArrowFrame::SetExact>(
+            "exact", "Whether one of one angle looks the same at every resolution",
+            PropertyKind::Switch),
         OneOf(
             Of<&CNorthArrowBase::GetNorthArrowType, &CNorthArrowBase::SetNorthArrowType>(
                 "northArrowType", "What the arrow answers when asked for its style",

@@ -186,6 +186,7 @@ std::vector<Change> NorthArrowChanges(NorthArrowType other) {
     using F = NorthArrowFrame;
     return {
         Behind("trueNorth", &F::SetTrueNorth, &F::TrueNorth, true),
+        Behind("exact", &F::SetExact, &F::IsExact, false),
         Behind("northArrowType", &N::SetNorthArrowType, &N::GetNorthArrowType, other)};
 }
 
