@@ -280,56 +280,32 @@ void Scene::SetSources(CMapLegend& legend) {
 }
 
 void Scene::SetField(CFrameBase& frame) {
-    switch (m_input.Choice(16)) {
-        case 0:
-            frame.HitHandle = m_input.Whole();
-            break;
-        case 1:
-            frame.DrawBorder = frame.DrawFill = frame.DrawShadow = true;
-            break;
-        case 2:
-            frame.DrawBorder = m_input.Flag();
-            break;
-        case 3:
-            frame.DrawFill = m_input.Flag();
-            break;
-        case 4:
-            frame.DrawShadow = m_input.Flag();
-            break;
-        case 5:
-            SetByte(frame.DashedBorder, m_input.Choice(256));
-            break;
-        case 6:
-            frame.BorderWidth = m_input.Real<float>();
-            break;
-        case 7:
-            frame.BorderColor = Color();
-            break;
-        case 8:
-            frame.FillColor = frame.ShadowColor = Color();
-            break;
-        case 9:
-            frame.BorderGapX = m_input.Whole();
-            break;
-        case 10:
-            frame.BorderGapY = m_input.Whole();
-            break;
-        case 11:
-            frame.FillGapX = m_input.Whole();
-            break;
-        case 12:
-            frame.FillGapY = m_input.Whole();
-            break;
-        case 13:
-            frame.ShadowRatioX = m_input.Real<float>();
-            break;
-        case 14:
-            frame.ShadowRatioY = m_input.Real<float>();
-            break;
-        default:
-            frame.SetExtent(CBoundingBox(m_input.Real<double>(), m_input.Real<double>(),
-                                         m_input.Real<double>(), m_input.Real<double>()));
-            break;
+    using F = CFrameBase;
+    static constexpr bool F::*kFlags[] = {&F::DrawBorder, &F::DrawFill, &F::DrawShadow};
+    static constexpr int F::*kGaps[] = {&F::BorderGapX, &F::BorderGapY, &F::FillGapX,
+                                        &F::FillGapY};
+    const int field = m_input.Choice(16);
+    if (field == 0) {
+        frame.HitHandle = m_input.Whole();
+    } else if (field == 1) {
+        frame.DrawBorder = frame.DrawFill = frame.DrawShadow = true;
+    } else if (field <= 4) {
+        frame.*kFlags[field - 2] = m_input.Flag();
+    } else if (field == 5) {
+        SetByte(frame.DashedBorder, m_input.Choice(256));
+    } else if (field == 6) {
+        frame.BorderWidth = m_input.Real<float>();
+    } else if (field == 7) {
+        frame.BorderColor = Color();
+    } else if (field == 8) {
+        frame.FillColor = frame.ShadowColor = Color();
+    } else if (field <= 12) {
+        frame.*kGaps[field - 9] = m_input.Whole();
+    } else if (field <= 14) {
+        (field == 13 ? frame.ShadowRatioX : frame.ShadowRatioY) = m_input.Real<float>();
+    } else {
+        frame.SetExtent(CBoundingBox(m_input.Real<double>(), m_input.Real<double>(),
+                                     m_input.Real<double>(), m_input.Real<double>()));
     }
 }
 

@@ -206,52 +206,27 @@ TEST(DrawFrame, DrawsTheNextBorderTransparentAfterAShadowThatFallsNowhere) {
 struct RectRow {
     const char* name;
     CRect rect;
-    int gapX;
-    int gapY;
-    Gdiplus::Rect drawn;
+    int gapX, gapY;
+    int x, y, width, height;
 };
 
 TEST(DrawFrame, KeepsRectanglesWithin32Bits) {
+    const int low = kLowest;
+    const int top = kHighest;
+    const CRect small(0, 0, 10, 10);
+    const CRect plane(low, low, top, top);
     const RectRow rows[] = {
-        {"empty", CRect(5, 6, 5, 6), 0, 0, {5, 6, 0, 0}},
-        {"turned inside out", CRect(110, 70, 10, 20), 0, 0, {110, 70, -100, -50}},
-        {"gaps inwards", CRect(10, 20, 110, 70), -3, -4, {13, 24, 94, 42}},
-        {"gaps wider than the rectangle",
-         CRect(0, 0, 10, 10),
-         -20,
-         -30,
-         {20, 30, -30, -50}},
-        {"the whole plane",
-         CRect(kLowest, kLowest, kHighest, kHighest),
-         0,
-         0,
-         {kLowest, kLowest, kHighest, kHighest}},
-        {"the whole plane, inside out",
-         CRect(kHighest, kHighest, kLowest, kLowest),
-         0,
-         0,
-         {kHighest, kHighest, kLowest, kLowest}},
-        {"huge gaps",
-         CRect(0, 0, 10, 10),
-         kHighest,
-         kHighest,
-         {-kHighest, -kHighest, kHighest, kHighest}},
-        {"huge gaps at the corner",
-         CRect(-10, -10, 0, 0),
-         kHighest,
-         kHighest,
-         {kLowest, kLowest, kHighest, kHighest}},
-        {"huge gaps inwards",
-         CRect(0, 0, 10, 10),
-         kLowest,
-         kLowest,
-         {kHighest, kHighest, kLowest, kLowest}},
+        {"empty", CRect(5, 6, 5, 6), 0, 0, 5, 6, 0, 0},
+        {"inside out", CRect(110, 70, 10, 20), 0, 0, 110, 70, -100, -50},
+        {"gaps inwards", CRect(10, 20, 110, 70), -3, -4, 13, 24, 94, 42},
+        {"gaps wider than the rectangle", small, -20, -30, 20, 30, -30, -50},
+        {"the whole plane", plane, 0, 0, low, low, top, top},
+        {"the plane, inside out", CRect(top, top, low, low), 0, 0, top, top, low, low},
+        {"huge gaps", small, top, top, -top, -top, top, top},
+        {"huge gaps at the corner", CRect(-10, -10, 0, 0), top, top, low, low, top, top},
+        {"huge gaps inwards", small, low, low, top, top, low, low},
         // -2^31 - (2^31 - 1) is below; the width is 2 * (2^31 - 1) more than 2^32 - 1
-        {"everything at once",
-         CRect(kLowest, kLowest, kHighest, kHighest),
-         kHighest,
-         kHighest,
-         {kLowest, kLowest, kHighest, kHighest}},
+        {"everything at once", plane, top, top, low, low, top, top},
     };
     for (const RectRow& row : rows) {
         CFrameBase frame = ColouredFrame();
@@ -263,12 +238,11 @@ TEST(DrawFrame, KeepsRectanglesWithin32Bits) {
         frame.BorderGapY = frame.FillGapY = row.gapY;
         const std::vector<std::string> lines = FrameTrace(frame, row.rect);
         ASSERT_EQ(lines.size(), 10u) << row.name;
-        const Gdiplus::Rect& box = row.drawn;
         EXPECT_EQ(lines[1],
-                  DrawRectangle(PenLook(kBorder, 1), box.X, box.Y, box.Width, box.Height))
+                  DrawRectangle(PenLook(kBorder, 1), row.x, row.y, row.width, row.height))
             << row.name;
         EXPECT_EQ(lines[8],
-                  FillRectangleI(BrushLook(kFill), box.X, box.Y, box.Width, box.Height))
+                  FillRectangleI(BrushLook(kFill), row.x, row.y, row.width, row.height))
             << row.name;
     }
 }

@@ -39,39 +39,27 @@ struct PictureRow {
     float aspectRatio;
     double scale;
     int centre;
-    Gdiplus::Rect drawn;
+    int x, y, width, height;
 };
 
 // 2^30 - 1 is half of the largest height; twice that is one less than it.
 TEST(Limits, APictureIsCutToWhatGdiPlusTakes) {
     const int half = 1073741823;
+    const int low = kLowest;
+    const int top = kHighest;
+    const double on = kInfinity;
     const PictureRow rows[] = {
-        {"highest", kHighest, 1.0f, 1.0, 0, {-half - 1, -half, kHighest, 2 * half}},
-        {"highest, far out",
-         kHighest,
-         1.0f,
-         1.0,
-         kLowest,
-         {kLowest, kLowest, kHighest, 2 * half}},
-        {"lowest", kLowest, 1.0f, 1.0, 0, {half + 1, half + 1, kLowest, kLowest}},
-        {"lowest, far out",
-         kLowest,
-         1.0f,
-         1.0,
-         kHighest,
-         {kHighest, kHighest, kLowest, kLowest}},
-        {"past the highest", 1, 1.0f, 1e300, 0, {-half - 1, -half, kHighest, 2 * half}},
-        {"endless", 1, 1.0f, kInfinity, 0, {-half - 1, -half, kHighest, 2 * half}},
-        {"backwards without end",
-         1,
-         1.0f,
-         -kInfinity,
-         0,
-         {half + 1, half + 1, kLowest, kLowest}},
-        {"endlessly wide", 2, kInfinity, 1.0, 5, {5 - kHighest, 4, kHighest, 2}},
-        {"endless times nothing", 0, 1.0f, kInfinity, 5, {5, 5, 0, 0}},
-        {"no number for a scale", 40, 1.0f, kNaN, 5, {5, 5, 0, 0}},
-        {"no number for a ratio", 40, kNaN, 1.0, 5, {5, -15, 0, 40}},
+        {"highest", top, 1, 1, 0, -half - 1, -half, top, 2 * half},
+        {"highest, far out", top, 1, 1, low, low, low, top, 2 * half},
+        {"lowest", low, 1, 1, 0, half + 1, half + 1, low, low},
+        {"lowest, far out", low, 1, 1, top, top, top, low, low},
+        {"past the highest", 1, 1, 1e300, 0, -half - 1, -half, top, 2 * half},
+        {"endless", 1, 1, on, 0, -half - 1, -half, top, 2 * half},
+        {"backwards without end", 1, 1, -on, 0, half + 1, half + 1, low, low},
+        {"endlessly wide", 2, kInfinity, 1, 5, 5 - top, 4, top, 2},
+        {"endless times nothing", 0, 1, on, 5, 5, 5, 0, 0},
+        {"no number for a scale", 40, 1, kNaN, 5, 5, 5, 0, 0},
+        {"no number for a ratio", 40, kNaN, 1, 5, 5, -15, 0, 40},
     };
     for (const PictureRow& row : rows) {
         Surface surface;
@@ -82,8 +70,7 @@ TEST(Limits, APictureIsCutToWhatGdiPlusTakes) {
         picture.SetAspectRatio(row.aspectRatio);
         picture.Draw(surface.Graphics(), CPoint(row.centre, row.centre), row.scale);
         EXPECT_EQ(recording.Drawing().at(3),
-                  DrawImage("image[\"a\"]", row.drawn.X, row.drawn.Y, row.drawn.Width,
-                            row.drawn.Height))
+                  DrawImage("image[\"a\"]", row.x, row.y, row.width, row.height))
             << row.name;
     }
 }

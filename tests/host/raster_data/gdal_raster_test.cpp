@@ -115,48 +115,25 @@ struct DisplayRow {
     int red, green, blue;
 };
 
+constexpr GDALColorInterp kNone = GCI_Undefined;
+constexpr GDALColorInterp kRed = GCI_RedBand;
+constexpr GDALColorInterp kGreen = GCI_GreenBand;
+constexpr GDALColorInterp kBlue = GCI_BlueBand;
+constexpr GDALColorInterp kGrey = GCI_GrayIndex;
+constexpr GDALColorInterp kAlpha = GCI_AlphaBand;
+
 const DisplayRow kDisplays[] = {
     {"one band", 1, {}, DisplayGray, 0, 0, 0},
     {"two bands", 2, {}, DisplayGray, 0, 0, 0},
-    {"grey and alpha", 2, {GCI_GrayIndex, GCI_AlphaBand}, DisplayGray, 0, 0, 0},
+    {"grey and alpha", 2, {kGrey, kAlpha}, DisplayGray, 0, 0, 0},
     {"three bands", 3, {}, DisplayRGB, 0, 1, 2},
     {"six bands", 6, {}, DisplayRGB, 0, 1, 2},
-    {"red, green, blue",
-     3,
-     {GCI_RedBand, GCI_GreenBand, GCI_BlueBand},
-     DisplayRGB,
-     0,
-     1,
-     2},
-    {"blue, green, red",
-     3,
-     {GCI_BlueBand, GCI_GreenBand, GCI_RedBand},
-     DisplayRGB,
-     2,
-     1,
-     0},
-    {"near infrared first",
-     4,
-     {GCI_Undefined, GCI_RedBand, GCI_GreenBand, GCI_BlueBand},
-     DisplayRGB,
-     1,
-     2,
-     3},
-    {"alpha first",
-     4,
-     {GCI_AlphaBand, GCI_Undefined, GCI_Undefined, GCI_Undefined},
-     DisplayRGB,
-     1,
-     2,
-     3},
-    {"red alone is not enough", 4, {GCI_Undefined, GCI_RedBand}, DisplayRGB, 0, 1, 2},
-    {"fewer than three colours",
-     3,
-     {GCI_GrayIndex, GCI_Undefined, GCI_AlphaBand},
-     DisplayGray,
-     0,
-     0,
-     0},
+    {"red, green, blue", 3, {kRed, kGreen, kBlue}, DisplayRGB, 0, 1, 2},
+    {"blue, green, red", 3, {kBlue, kGreen, kRed}, DisplayRGB, 2, 1, 0},
+    {"near infrared first", 4, {kNone, kRed, kGreen, kBlue}, DisplayRGB, 1, 2, 3},
+    {"alpha first", 4, {kAlpha, kNone, kNone, kNone}, DisplayRGB, 1, 2, 3},
+    {"red alone is not enough", 4, {kNone, kRed}, DisplayRGB, 0, 1, 2},
+    {"fewer than three colours", 3, {kGrey, kNone, kAlpha}, DisplayGray, 0, 0, 0},
 };
 
 TEST(GdalRasterDisplay, FollowsFromTheBands) {
