@@ -71,7 +71,7 @@ void Make(Native** native) {
     *native = reinterpret_cast<Native*>(&token);
 }
 
-/// Objects are alive and of their kind, and nothing is moved or turned by no number.
+/// Objects are alive and of the right kind, and every move and turn is a finite number.
 template <bool isMove, typename Argument>
 void CheckArgument(Argument argument) {
     if constexpr (flat_calls::kKindOfArgument<Argument> != nullptr) {
@@ -83,7 +83,7 @@ void CheckArgument(Argument argument) {
     }
 }
 
-/// A flat function that looks after its arguments and does nothing else.
+/// A flat function that checks its arguments and does nothing else.
 template <auto function>
 struct Careful;
 template <typename... Arguments, GpStatus (*function)(Arguments...)>
@@ -119,7 +119,7 @@ struct Careful<function> {
     }
 };
 
-/// A text is there, ends where it says, and has its place.
+/// A text is not null, ends where its length says, and is followed by a zero.
 template <auto function>
 void CheckText() {
     Flat<function>::now = [](auto on, const FlatChar* text, INT length, auto... rest) {
@@ -128,7 +128,7 @@ void CheckText() {
     };
 }
 
-/// Answers a question once its object has been looked at.
+/// Answers a question after checking the object that it is about.
 template <auto function, typename Object, typename Value, typename Answer>
 GpStatus AnswerOf(Object* object, Value* value, Answer answer) {
     const GpStatus status = Careful<function>::Call(object, value);

@@ -76,7 +76,7 @@ public:
             text += kind < 248 ? static_cast<wchar_t>(kFirstOf[kind % 7] + kind / 7)
                                : Bits<wchar_t>();
         }
-        // Long enough to leave every buffer that holds a short one.
+        // Too long for any buffer that is meant for short texts.
         return length == 31 ? text + text + text + text + text : text;
     }
 

@@ -24,7 +24,7 @@ double Median(std::vector<double> values) {
     return *middle;
 }
 
-/// Seconds of the processor; other programs that take their turns do not count.
+/// Processor time in seconds: what other programs do does not count.
 double Time(const std::function<void()>& run, int count) {
     const std::clock_t start = std::clock();
     for (int i = 0; i < count; ++i) {
@@ -68,7 +68,7 @@ bool PrintRow(const std::string& name, const Scene& scene) {
     std::vector<double> library;
     std::vector<double> ratios;
     for (double spent = 0.0; spent < kSecondsOfRow;) {
-        // There and back again, so that neither always comes first.
+        // In turns, so that neither always comes first.
         const bool first = ratios.size() % 2 == 0;
         const double early = Time(first ? scene.run : bare, count);
         const double late = Time(first ? bare : scene.run, count);

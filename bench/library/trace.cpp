@@ -17,7 +17,7 @@ namespace {
 using flat_calls::Flat;
 using Gdiplus::GpStatus;
 
-/// The native objects of a trace while it is noted: a slot for each.
+/// The native objects of a trace while it is recorded: a slot for each.
 class Slots {
 public:
     /// An object from before the trace, and null, are found in a slot of their own.
@@ -89,7 +89,7 @@ struct Kept<Value*> {
     Answer now{};
 };
 
-/// Where a native object goes that is made.
+/// Where a call puts the native object that it makes.
 template <typename Native>
 struct Kept<Native**> : KeptInput<Native**> {
     Kept(Native**, INT, Slots& slots) : slot(slots.Next()) {}
@@ -135,7 +135,7 @@ struct Notes {
 
 Notes* g_notes = nullptr;
 
-/// How many values the array among the arguments has: the last whole number says it.
+/// The length of the array among the arguments, which is the last integer.
 template <typename... Arguments>
 INT Count(Arguments... arguments) {
     INT count = 0;

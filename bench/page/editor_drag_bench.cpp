@@ -48,7 +48,7 @@ public:
     void Release(CPoint2D at) {
         Send(QEvent::MouseButtonRelease, at, Qt::LeftButton, Qt::NoButton);
     }
-    /// Everything that waits to be painted.
+    /// Paints everything that waits for it.
     static void Paint() { QApplication::processEvents(); }
 
     bool IsDragging() { return m_window.Canvas().IsDragging(); }
@@ -70,7 +70,7 @@ private:
     page_editor::EditorWindow m_window;
 };
 
-/// Goes round in circles with what was pressed, and lets go where it was.
+/// Drags what was pressed in circles and drops it where it was.
 void Circle(benchmark::State& state, Editor& editor, CPoint2D from) {
     constexpr double kStep = 0.2;
     constexpr double kRadius = 40.0;

@@ -14,7 +14,7 @@ namespace {
 
 constexpr double kDpi = 1600.0 * 96.0 / 1123.0;
 
-/// To and fro, so that the element stays where it is.
+/// Back and forth, so that the element stays where it is.
 void Drag(const host::Page& page, std::size_t item, int move) {
     const double step = move % 2 == 0 ? 3.0 : -3.0;
     std::get<std::unique_ptr<CSurroundFrame>>(page.Items()[item])->SetOffset(step, step);

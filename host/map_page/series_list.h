@@ -33,7 +33,8 @@ struct SeriesList {
 /// control characters in a value, and a dot at its start, become underscores, so that no
 /// value leads into another folder.
 /// @param allowed what may be read of the rasters; null: all. A row with others has an
-/// error Throws Error when the file is not a list, a column has no name or another's, a
+/// error.
+/// Throws Error when the file is not a list, a column has no name or that of another, a
 /// placeholder names no column, or two rows have the same output.
 SeriesList ReadSeries(const std::string& path, const std::string& output,
                       const host::AllowedSources* allowed);

@@ -10,7 +10,7 @@ using map_surround::Length;
 using map_surround::ToDevice;
 using map_surround::Truncate;
 
-// Compilers refuse a conversion that is not defined, where a processor may do as wished.
+// A compiler refuses an undefined conversion here; a processor might do as hoped.
 static_assert(Truncate(-1e12) == std::numeric_limits<std::int32_t>::min());
 static_assert(Truncate(1e12) == std::numeric_limits<std::int32_t>::max());
 static_assert(Truncate(std::numeric_limits<double>::quiet_NaN()) == 0);

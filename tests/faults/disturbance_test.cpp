@@ -28,7 +28,7 @@ const std::string kText =
     "GdipDrawString \"a null [\" (1, 2) 0 x 0 font[\"A B\" 9 style 0 unit 2] "
     "brush[#FF000000] format null";
 
-/// A drawing by a letter a call.
+/// A drawing, one letter for each call.
 Trace Calls(const std::string& letters) {
     const std::map<char, std::string> lines = {
         {'p', kPen},

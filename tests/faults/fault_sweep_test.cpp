@@ -33,7 +33,7 @@ constexpr Step kDisturbed[] = {Make, Measure, Draw, MeasureAgain};
 constexpr const char* kStepNames[] = {"making", "measuring", "drawing", "measuring again",
                                       "drawing again"};
 
-/// A GDI+ does not see with what its calls fail; one status will do there.
+/// Calls that fail on order never reach GDI+, so that one status will do there.
 std::vector<Gdiplus::Status> StatusesFor(Mode mode) {
     if (mode == Mode::Forward) {
         return {Gdiplus::GenericError};
@@ -155,7 +155,7 @@ public:
         EXPECT_TRUE(LeavesTheTransform(m_undisturbed, Draw));
     }
 
-    /// Gives up at the first fault that does harm; more of the same would follow.
+    /// Stops at the first fault that does harm; more of the same would follow.
     /// @return how many faults there were
     int ExpectThatNoFaultHarms() {
         int count = 0;
@@ -233,7 +233,7 @@ private:
                    : faults::IsItselfAgain(undisturbed, life.traces[step]);
     }
 
-    /// What a GDI+ makes of odd proportions is its own affair.
+    /// What GDI+ makes of odd proportions is its own affair.
     AssertionResult TellsItsStatus(const Life& life, Step drawing, Step disturbed,
                                    const Fault& fault) {
         const Gdiplus::Status expected = faults::LastStatusOf(
@@ -306,8 +306,8 @@ std::string FamilyOf(const ::testing::TestParamInfo<FaultSweep::ParamType>& info
     return std::get<std::string>(info.param);
 }
 
-// With no GDI+ behind them the faults are the same on every machine; what a GDI+ does
-// with the objects that were not made is seen over the system's.
+// With no GDI+ behind them the faults are the same on every machine; what GDI+ does
+// with objects that were not made is seen with the system's.
 INSTANTIATE_TEST_SUITE_P(Recorded, FaultSweep,
                          ::testing::Combine(::testing::Values(Mode::RecordOnly),
                                             ::testing::ValuesIn(subjects::Families())),

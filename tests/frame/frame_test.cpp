@@ -140,7 +140,7 @@ TEST(Frame, CopiesEachSwitchByItself) {
     }
 }
 
-/// What became of an element, kept where it outlives it.
+/// What happened to an element, kept where it outlives the element.
 struct Fate {
     int deleted = 0;
     int drawn = 0;

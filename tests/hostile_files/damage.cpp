@@ -22,7 +22,7 @@ auto OneOf(const Choices& choices, std::mt19937& random) {
     return choices[UpTo(std::size(choices) - 1, random)];
 }
 
-/// A place in the file, in its header every other time.
+/// A position in the file, every other time in its header.
 std::size_t Place(const std::string& bytes, std::mt19937& random) {
     const std::size_t last = bytes.size() - 1;
     return UpTo(UpTo(1, random) == 0 ? std::min(last, kHeader) : last, random);

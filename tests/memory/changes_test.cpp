@@ -29,7 +29,7 @@ std::string HiddenTextOf(const CDrawPicture& picture) {
     return std::filesystem::path(picture.GetPath()).u8string();
 }
 
-/// All that can be told of an element, by what a copy of it answers and draws.
+/// Everything observable about an element: what it answers, and what a copy of it draws.
 template <typename Element>
 std::vector<std::string> PortraitOf(const Element& element) {
     recording::Surface surface(120, 80);

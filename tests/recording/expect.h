@@ -21,7 +21,7 @@ struct Named {
 ::testing::AssertionResult Equal(const std::vector<Named>& expected,
                                  const std::vector<std::string>& drawn);
 
-/// No native object of this thread is alive, but for those named as they are listed.
+/// Succeeds when no native object of this thread is alive, else lists those that are.
 ::testing::AssertionResult NothingAlive();
 
 /// A white bitmap and its surface, made and deleted outside of any trace: what GDI+ makes

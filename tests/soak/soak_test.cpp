@@ -17,7 +17,7 @@ namespace {
 
 constexpr std::size_t kTenths = 10;
 
-/// Draws in all, as many as asked.
+/// How many drawings to make in all.
 std::size_t HowMany() {
     const char* const asked = std::getenv("SOAK_DRAWS");
     return asked == nullptr ? 50 * kTenths * subjects::Rows().size()

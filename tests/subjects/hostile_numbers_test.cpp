@@ -111,7 +111,7 @@ TEST(HostileNumbers, DrawWhatTameOnesDraw) {
     });
 }
 
-// Counts that are not drawn, for it would take too long: only what is computed of them.
+// Counts too large to draw: only what is computed from them.
 TEST(HostileNumbers, CountDivisionsFromNone) {
     for (const host::CatalogueEntry* const style : host::StylesOf(SurroundScaleBar)) {
         for (const double fine : kDoubles) {
@@ -164,7 +164,7 @@ TEST(HostileNumbers, DrawAndAskAFrame) {
     }
 }
 
-// GDI+ itself is given what may reach it, and draws what comes afterwards as ever.
+// GDI+ gets whatever may reach it, and still draws what comes afterwards.
 TEST(HostileNumbers, LeaveGdiplusAtWork) {
     ForEachElement([](CMapSurround& element) {
         for (const int size : {kLowest, -100, 0, 40, kHighest}) {

@@ -13,7 +13,7 @@
 /// Every element, frame and style, for tests that put all of them to the same trial.
 namespace subjects {
 
-/// What a legend explains.
+/// The rasters that a legend explains.
 struct Sources {
     fakes::Raster bands{L"scene of the lower valley.tif", DisplayRGB};
     fakes::Raster ramp{L"heights above the sea.tif", DisplayGray};

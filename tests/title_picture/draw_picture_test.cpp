@@ -183,14 +183,14 @@ TEST(DrawPicture, DrawsNothingBeforeItIsOpened) {
     EXPECT_EQ(recording.Count(), 0);
 }
 
-/// Opens a picture of 200 x 100 pixels and turns it, so that all it holds has a value.
+/// Opens a picture of 200 x 100 pixels and turns it, so that no field has its default.
 void Turn(CDrawPicture& picture) {
     picture.Open(L"a");
     picture.SetAngle(90.0f);
     picture.ResetAspectRatio();
 }
 
-/// Whether this is that picture now, with its image.
+/// Expects the picture that Turn makes, with its image.
 void ExpectTurned(CDrawPicture& picture, Recording& recording) {
     EXPECT_EQ(picture.GetPath(), L"a");
     EXPECT_EQ(picture.GetSize(), 33);

@@ -20,8 +20,8 @@
 namespace host {
 namespace {
 
-// Proportions and lengths that differ by less count as the same: of half a percent nobody
-// sees that a map is stretched.
+// Proportions and lengths that differ by less count as the same: nobody sees that a map
+// is stretched by half a percent.
 constexpr double kNearlyTheShape = 0.005;
 constexpr double kNearlyTrue = 1.0e-9;
 

@@ -1,5 +1,5 @@
 // A frame with a title on a surface, made, asked, moved and drawn through the library
-// with this host's own types. Answers 0 when everything is where it must be.
+// with this host's own types. Exits with 0 when everything is where it must be.
 #include <cstdio>
 
 #include <host/common_functions.h>
