@@ -69,14 +69,19 @@ struct Row {
     const char* sources;
     std::map<std::string, ink::Size> ink;  ///< of what has another than usual
     int height;
-    int width;  ///< the aspect ratio is width / height
+    std::int64_t width;  ///< the aspect ratio is width / height
 };
 
 // Usually the title is 50 x 16 and the sample 40 x 13: rows of 13, swatches of 78 / 10 =
 // 7, and three samples of 40 are 120 wide.
 TEST(LegendLayout, SizesByHand) {
+    constexpr int most = 2147483647;
+    const ink::Size huge{most, most};
     const Row rows[] = {
         {"no source", "", {}, 16 + 12, 120},
+        // 24 below the title, and 12 less for there is no source: past the limit by 7.
+        {"huge title alone", "", {{"T", {10, most - 5}}}, most, 120},
+        {"huge ink", "r", {{"T", huge}, {"Band_1", huge}}, most, 3LL * most},
         {"no source, wide title", "", {{"T", {121, 16}}}, 28, 121},
         {"no source, title of three samples", "", {{"T", {120, 16}}}, 28, 120},
         {"title without ink", "", {{"T", {0, 0}}}, 12, 120},

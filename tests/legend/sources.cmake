@@ -1,5 +1,4 @@
 set(legend_test_sources
-  legend_edges_test.cpp
   legend_changing_sources_test.cpp
   legend_drawing_test.cpp
   legend_properties_test.cpp

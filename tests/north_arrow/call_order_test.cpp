@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <iterator>
+
 #include "north_arrow/arrow_models.h"
 #include "recording/lines.h"
 
@@ -94,21 +96,29 @@ TEST(TwoAngleArrow, MakesAndReleasesInOrder) {
     }));
 }
 
+Calls FillFigure(const std::vector<Gdiplus::Point>& figure) {
+    Calls calls = kMakeBrush;
+    Append(calls, Fill(figure));
+    Append(calls, kReleaseBrush);
+    return calls;
+}
+
+Calls OutlineFigure(const std::vector<Gdiplus::Point>& figure) {
+    const std::string path = LinesPath(figure);
+    return {{"path", "GdipCreatePath 0"},
+            {"lines", "GdipAddPathLine2I " + path},
+            {"pen", "GdipCreatePen1 #FFFF0000 1 unit 0"},
+            {"outline", DrawPath(PenLook(kRed, 1.0f), path)},
+            {"pen, released", "GdipDeletePen pen[#FFFF0000 width 1]"},
+            {"path, released", "GdipDeletePath " + path}};
+}
+
 TEST(FourAngleArrow, MakesAndReleasesInOrder) {
     const auto fill = [](Gdiplus::Point from, Gdiplus::Point to) {
-        Calls calls = kMakeBrush;
-        Append(calls, Fill({{0, 6}, from, to, {0, 6}}));
-        Append(calls, kReleaseBrush);
-        return calls;
+        return FillFigure({{0, 6}, from, to, {0, 6}});
     };
     const auto outline = [](Gdiplus::Point from, Gdiplus::Point to) {
-        const std::string path = LinesPath({{0, 6}, from, to, {0, 6}});
-        return Calls{{"path", "GdipCreatePath 0"},
-                     {"lines", "GdipAddPathLine2I " + path},
-                     {"pen", "GdipCreatePen1 #FFFF0000 1 unit 0"},
-                     {"outline", DrawPath(PenLook(kRed, 1.0f), path)},
-                     {"pen, released", "GdipDeletePen pen[#FFFF0000 width 1]"},
-                     {"path, released", "GdipDeletePath " + path}};
+        return OutlineFigure({{0, 6}, from, to, {0, 6}});
     };
     EXPECT_TRUE(Makes<CNorthArrowFourAngle>({
         kTurn,
@@ -124,6 +134,24 @@ TEST(FourAngleArrow, MakesAndReleasesInOrder) {
         kReset,
         ReleaseFont(17.0f),
     }));
+}
+
+// The figures of the star, used by themselves: four points, no transform, not closed.
+TEST(FourAngleArrow, FillsAndOutlinesFigures) {
+    Surface surface;
+    surface.Graphics()->TranslateTransform(7.0f, -3.0f);
+    CNorthArrowFourAngle arrow;
+    arrow.SetFrontColor(Gdiplus::Color(kRed));
+    arrow.SetAngle(45.0f);
+    Gdiplus::Point points[] = {{10, 20}, {30, 25}, {28, 60}, {-4, 55}};
+    const std::vector<Gdiplus::Point> figure(std::begin(points), std::end(points));
+    Calls expected = FillFigure(figure);
+    Append(expected, OutlineFigure(figure));
+    Recording recording;
+    arrow.FillSolidPath(surface.Graphics(), points);
+    arrow.DrawPath(surface.Graphics(), points);
+    EXPECT_TRUE(Equal(expected, recording.Lines()));
+    EXPECT_EQ(surface.WorldTransform(), (std::vector<float>{1, 0, 0, 1, 7, -3}));
 }
 
 TEST(EightAngleArrow, MakesAndReleasesInOrder) {

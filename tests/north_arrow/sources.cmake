@@ -1,5 +1,4 @@
 set(north_arrow_test_sources
   arrow_models.cpp
   call_order_test.cpp
-  four_angle_figures_test.cpp
   north_arrow_test.cpp)

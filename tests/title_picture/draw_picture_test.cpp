@@ -291,4 +291,47 @@ TEST(DrawPicture, PaintsTheImage) {
     EXPECT_EQ(surface.WorldTransform(), (std::vector<float>{1, 0, 0, 1, 0, 0}));
 }
 
+struct PictureRow {
+    const char* name;
+    int size;
+    float aspectRatio;
+    double scale;
+    int centre;
+    int x, y, width, height;
+};
+
+// 2^30 - 1 is half of the largest height; twice that is one less than it.
+TEST(DrawPicture, IsCutToWhatGdiPlusTakes) {
+    const int half = 1073741823;
+    const int low = std::numeric_limits<int>::min();
+    const int top = std::numeric_limits<int>::max();
+    const float on = std::numeric_limits<float>::infinity();
+    const float none = std::numeric_limits<float>::quiet_NaN();
+    const PictureRow rows[] = {
+        {"highest", top, 1, 1, 0, -half - 1, -half, top, 2 * half},
+        {"highest, far out", top, 1, 1, low, low, low, top, 2 * half},
+        {"lowest", low, 1, 1, 0, half + 1, half + 1, low, low},
+        {"lowest, far out", low, 1, 1, top, top, top, low, low},
+        {"past the highest", 1, 1, 1e300, 0, -half - 1, -half, top, 2 * half},
+        {"endless", 1, 1, on, 0, -half - 1, -half, top, 2 * half},
+        {"backwards without end", 1, 1, -on, 0, half + 1, half + 1, low, low},
+        {"endlessly wide", 2, on, 1, 5, 5 - top, 4, top, 2},
+        {"endless times nothing", 0, 1, on, 5, 5, 5, 0, 0},
+        {"no number for a scale", 40, 1, none, 5, 5, 5, 0, 0},
+        {"no number for a ratio", 40, none, 1, 5, 5, -15, 0, 40},
+    };
+    for (const PictureRow& row : rows) {
+        Surface surface;
+        Recording recording(Mode::RecordOnly);
+        CDrawPicture picture;
+        picture.Open(L"a");
+        picture.SetSize(row.size);
+        picture.SetAspectRatio(row.aspectRatio);
+        picture.Draw(surface.Graphics(), CPoint(row.centre, row.centre), row.scale);
+        EXPECT_EQ(recording.Drawing().at(3),
+                  DrawImage("image[\"a\"]", row.x, row.y, row.width, row.height))
+            << row.name;
+    }
+}
+
 }  // namespace

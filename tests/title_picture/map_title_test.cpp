@@ -13,6 +13,10 @@ namespace {
 
 using namespace recording;
 
+constexpr int kMost = std::numeric_limits<int>::max();
+constexpr float kInfinity = std::numeric_limits<float>::infinity();
+constexpr float kNaN = std::numeric_limits<float>::quiet_NaN();
+
 CMapTitle Title(const std::wstring& text = L"Olinda") {
     CMapTitle title;
     title.SetFontValue(text);
@@ -296,6 +300,65 @@ TEST(MapTitle, TakesTheSizeOfRealOutlines) {
             EXPECT_NEAR(title.GetSize(), outline.Width, 1);
             EXPECT_NEAR(width, outline.Height, 1.01);
         }
+    }
+}
+
+TEST(MapTitle, IsNotTurnedByAnAngleThatIsNotFinite) {
+    for (const float angle : {kNaN, kInfinity, -kInfinity}) {
+        Surface surface;
+        CMapTitle title;
+        title.SetFontValue(L"Map");
+        title.SetFontStyle(L"Arial");
+        title.ResetAspectRatio();
+        const int size = title.GetSize();
+        title.SetAngle(angle);
+        title.ResetAspectRatio();
+        EXPECT_EQ(title.GetSize(), size);
+        Recording recording;
+        title.Draw(surface.Graphics(), CPoint(30, 20), 1.0);
+        EXPECT_EQ(recording.Drawing().at(1), RotateWorld(0));
+    }
+}
+
+struct PlacedRow {
+    const char* name;
+    double fontSize;
+    double scale;
+    int centre;
+    std::string emSize;
+    std::string at;
+};
+
+// The outline is 60 x 20.
+TEST(MapTitle, IsPlacedInDoubles) {
+    const PlacedRow rows[] = {
+        {"endless", 15.0, kInfinity, 0, "inf", "(-inf, -inf)"},
+        {"no number", 15.0, kNaN, 0, "nan", "(nan, nan)"},
+        {"past a float", 15.0, 1e300, 0, "inf", "(-inf, -inf)"},
+        {"a font size past a float", 1e300, 1.0, 100, "inf", "(70, 90)"},
+        {"no font size", kNaN, 1.0, 100, "nan", "(70, 90)"},
+        {"a far centre", 15.0, 0.0, kMost, "0", "(2147483648, 2147483648)"},
+        // 2^31 - 1 - 30 * 4 is 2147483527, exact only as a double; floats are 128 apart
+        {"a far centre, back", 15.0, 4.0, kMost, "60", "(2147483520, 2147483648)"},
+    };
+    for (const PlacedRow& row : rows) {
+        Surface surface;
+        CMapTitle title;
+        title.SetFontValue(L"Map");
+        title.SetFontStyle(L"Arial");
+        Recording recording(Mode::RecordOnly);
+        recording.ScriptBounds({{1, 3, 60, 20}});
+        title.ResetAspectRatio();
+        title.SetFontSize(row.fontSize);
+        recording.Clear();
+        title.Draw(surface.Graphics(), CPoint(row.centre, row.centre), row.scale);
+        EXPECT_EQ(recording.Lines().at(1),
+                  "GdipCreateFont font[\"Arial\" " + row.emSize + " style 0 unit 2]")
+            << row.name;
+        EXPECT_EQ(recording.Drawing().at(3).rfind(
+                      "GdipDrawString \"Map\" " + row.at + " 0 x 0 ", 0),
+                  0u)
+            << row.name << ": " << recording.Drawing().at(3);
     }
 }
 
