@@ -56,49 +56,48 @@ TEST(Frame, NamesItsValuesAsTheHostKnowsThem) {
     EXPECT_EQ(TopoWithin, 3);
 }
 
+using F = CFrameBase;
+constexpr bool F::*kFlags[] = {&F::DrawBorder, &F::DrawFill, &F::DrawShadow,
+                               &F::DashedBorder};
+constexpr int F::*kInts[] = {&F::HitHandle,  &F::Reserved1,  &F::Reserved2, &F::Reserved3,
+                             &F::BorderGapX, &F::BorderGapY, &F::Reserved4, &F::Reserved5,
+                             &F::FillGapX,   &F::FillGapY};
+constexpr float F::*kFloats[] = {&F::BorderWidth, &F::ShadowRatioX, &F::ShadowRatioY};
+constexpr Gdiplus::Color F::*kColours[] = {&F::BorderColor, &F::FillColor,
+                                           &F::ShadowColor};
+
 /// A value of its own in every field.
 void FillIn(CFrameBase& frame) {
-    frame.HitHandle = 1;
-    frame.DrawBorder = frame.DrawFill = frame.DrawShadow = frame.DashedBorder = true;
-    frame.BorderWidth = 2.5f;
-    frame.BorderColor = Gdiplus::Color(0x03030303);
-    frame.FillColor = Gdiplus::Color(0x04040404);
-    frame.ShadowColor = Gdiplus::Color(0x05050505);
-    frame.Reserved1 = 6;
-    frame.Reserved2 = 7;
-    frame.Reserved3 = 8;
-    frame.BorderGapX = 9;
-    frame.BorderGapY = 10;
-    frame.Reserved4 = 11;
-    frame.Reserved5 = 12;
-    frame.FillGapX = 13;
-    frame.FillGapY = 14;
-    frame.ShadowRatioX = 15.5f;
-    frame.ShadowRatioY = 16.5f;
+    int value = 0;
+    for (bool F::*const flag : kFlags) {
+        frame.*flag = true;
+    }
+    for (int F::*const field : kInts) {
+        frame.*field = ++value;
+    }
+    for (float F::*const field : kFloats) {
+        frame.*field = static_cast<float>(++value) + 0.5f;
+    }
+    for (Gdiplus::Color F::*const field : kColours) {
+        frame.*field = Gdiplus::Color(static_cast<Gdiplus::ARGB>(++value));
+    }
     frame.SetExtent(CBoundingBox(17, 18, 117, 68));
 }
 
 void ExpectFilledIn(const CFrameBase& frame) {
-    EXPECT_EQ(frame.HitHandle, 1);
-    EXPECT_TRUE(frame.DrawBorder);
-    EXPECT_TRUE(frame.DrawFill);
-    EXPECT_TRUE(frame.DrawShadow);
-    EXPECT_TRUE(frame.DashedBorder);
-    EXPECT_EQ(frame.BorderWidth, 2.5f);
-    EXPECT_EQ(frame.BorderColor.GetValue(), 0x03030303u);
-    EXPECT_EQ(frame.FillColor.GetValue(), 0x04040404u);
-    EXPECT_EQ(frame.ShadowColor.GetValue(), 0x05050505u);
-    EXPECT_EQ(frame.Reserved1, 6);
-    EXPECT_EQ(frame.Reserved2, 7);
-    EXPECT_EQ(frame.Reserved3, 8);
-    EXPECT_EQ(frame.BorderGapX, 9);
-    EXPECT_EQ(frame.BorderGapY, 10);
-    EXPECT_EQ(frame.Reserved4, 11);
-    EXPECT_EQ(frame.Reserved5, 12);
-    EXPECT_EQ(frame.FillGapX, 13);
-    EXPECT_EQ(frame.FillGapY, 14);
-    EXPECT_EQ(frame.ShadowRatioX, 15.5f);
-    EXPECT_EQ(frame.ShadowRatioY, 16.5f);
+    int value = 0;
+    for (bool F::*const flag : kFlags) {
+        EXPECT_TRUE(frame.*flag);
+    }
+    for (int F::*const field : kInts) {
+        EXPECT_EQ(frame.*field, ++value);
+    }
+    for (float F::*const field : kFloats) {
+        EXPECT_EQ(frame.*field, static_cast<float>(++value) + 0.5f);
+    }
+    for (Gdiplus::Color F::*const field : kColours) {
+        EXPECT_EQ((frame.*field).GetValue(), static_cast<Gdiplus::ARGB>(++value));
+    }
     const CBoundingBox extent = frame.GetExtent();
     EXPECT_EQ(extent.TopLeft().x, 17.0);
     EXPECT_EQ(extent.TopLeft().y, 68.0);
@@ -127,16 +126,13 @@ TEST(Frame, CopiesEveryField) {
 }
 
 TEST(Frame, CopiesEachSwitchByItself) {
-    for (int on = 0; on < 4; ++on) {
+    for (bool F::*const on : kFlags) {
         CFrameBase frame;
-        bool* switches[] = {&frame.DrawBorder, &frame.DrawFill, &frame.DrawShadow,
-                            &frame.DashedBorder};
-        *switches[on] = true;
+        frame.*on = true;
         const CFrameBase copy(frame);
-        EXPECT_EQ(copy.DrawBorder, on == 0);
-        EXPECT_EQ(copy.DrawFill, on == 1);
-        EXPECT_EQ(copy.DrawShadow, on == 2);
-        EXPECT_EQ(copy.DashedBorder, on == 3);
+        for (bool F::*const flag : kFlags) {
+            EXPECT_EQ(copy.*flag, flag == on);
+        }
     }
 }
 

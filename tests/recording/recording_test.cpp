@@ -90,32 +90,6 @@ Gdiplus::Rect BoundsOf(const Gdiplus::GraphicsPath& path) {
     return bounds;
 }
 
-TEST(Recording, AnswersBoundsInOrderAndTheLastForEver) {
-    for (const Mode mode : {Mode::Forward, Mode::RecordOnly, Mode::Silent}) {
-        Recording recording(mode);
-        Gdiplus::GraphicsPath path;
-        path.AddRectangle(Gdiplus::Rect(1, 2, 3, 4));
-        recording.ScriptBounds({{5, 6, 7, 8}, {9, 10, 11, 12}});
-        EXPECT_TRUE(BoundsOf(path).Equals({5, 6, 7, 8}));
-        EXPECT_TRUE(BoundsOf(path).Equals({9, 10, 11, 12}));
-        EXPECT_TRUE(BoundsOf(path).Equals({9, 10, 11, 12}));
-    }
-}
-
-TEST(Recording, AnswersBoundsFromTheContent) {
-    for (const Mode mode : {Mode::Forward, Mode::RecordOnly}) {
-        Recording recording(mode);
-        recording.ScriptBounds([](const std::string& content) {
-            return Gdiplus::Rect(0, 0, static_cast<int>(content.size()), 1);
-        });
-        const Gdiplus::FontFamily family(L"Arial");
-        Gdiplus::GraphicsPath path;
-        const Gdiplus::StringFormat format(0, 0);
-        path.AddString(L"Band_1", 6, &family, 0, 15.0f, Gdiplus::RectF(), &format);
-        EXPECT_EQ(BoundsOf(path).Width, 19) << "\"Band_1\" \"Arial\" 15";
-    }
-}
-
 TEST(Recording, AnswersNoBoundsWhereTheCallFails) {
     Recording recording;
     Gdiplus::GraphicsPath path;
@@ -173,15 +147,6 @@ TEST(Recording, FailsCallsByTheirNames) {
     }
 }
 
-TEST(Recording, ListsWhatIsAlive) {
-    Recording recording(Mode::RecordOnly);
-    auto brush = std::make_unique<Gdiplus::SolidBrush>(Gdiplus::Color(0xFF123456));
-    EXPECT_EQ(LiveObjects(), std::vector<std::string>{"brush brush[#FF123456]"});
-    EXPECT_FALSE(NothingAlive());
-    brush.reset();
-    EXPECT_TRUE(NothingAlive());
-}
-
 TEST(Recording, RefusesWithoutGdiPlusWhatGdiPlusRefuses) {
     Surface surface;
     Recording recording(Mode::RecordOnly);
@@ -217,14 +182,6 @@ TEST(Recording, LetsObjectsOutliveIt) {
     }
     token.reset();
     EXPECT_TRUE(NothingAlive());
-}
-
-TEST(Recording, ScriptsTheSizeOfImages) {
-    Recording recording(Mode::RecordOnly);
-    recording.ScriptImageSize(640, 480);
-    Gdiplus::Image image(L"a.png");
-    EXPECT_EQ(image.GetWidth(), 640u);
-    EXPECT_EQ(image.GetHeight(), 480u);
 }
 
 TEST(Recording, IsOneAtATime) {

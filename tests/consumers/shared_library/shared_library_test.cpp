@@ -56,26 +56,23 @@ TEST(LibraryHost, DrawsAPictureFromAFile) {
     EXPECT_NEAR(InkOf(picture), 60 * 40, 2 * (60 + 40) + 4);
 }
 
-TEST(LibraryHost, DrawsEveryNorthArrow) {
-    for (const host::CatalogueEntry* const style : host::StylesOf(SurroundNorthArrow)) {
-        const auto arrow = host::NewElement<CNorthArrowBase>(*style);
-        EXPECT_EQ(arrow->GetItemType(), SurroundNorthArrow);
-        arrow->SetSize(150);
-        arrow->SetAngle(20.0f);
-        EXPECT_GT(InkOf(*arrow), 100) << arrow->GetNorthArrowType();
-    }
-}
-
-TEST(LibraryHost, DrawsEveryScaleBar) {
-    for (const host::CatalogueEntry* const style : host::StylesOf(SurroundScaleBar)) {
-        const auto bar = host::NewElement<CScaleBarBase>(*style);
-        bar->SetPaper2DataScale(37.0);
-        bar->SetPaper2ScreenScale(40.0);
-        bar->SetScreen2PaperByOneScale(40.0);
-        bar->SetUnitsName(L"Meter");
-        EXPECT_EQ(bar->GetUnitsName(), L"\u7C73");
-        bar->ResetAspectRatio();
-        EXPECT_GT(InkOf(*bar), 300) << bar->GetScaleBarType();
+TEST(LibraryHost, DrawsEveryStyle) {
+    for (const host::CatalogueEntry& style : host::kCatalogue) {
+        const std::unique_ptr<CMapSurround> element = style.make();
+        EXPECT_EQ(element->GetItemType(), style.family);
+        if (auto* const bar = dynamic_cast<CScaleBarBase*>(element.get())) {
+            bar->SetPaper2DataScale(37.0);
+            bar->SetPaper2ScreenScale(40.0);
+            bar->SetScreen2PaperByOneScale(40.0);
+            bar->SetUnitsName(L"Meter");
+            EXPECT_EQ(bar->GetUnitsName(), L"\u7C73");
+            bar->ResetAspectRatio();
+            EXPECT_GT(InkOf(*bar), 300) << style.name;
+        } else if (style.family == SurroundNorthArrow) {
+            element->SetSize(150);
+            element->SetAngle(20.0f);
+            EXPECT_GT(InkOf(*element), 100) << style.name;
+        }
     }
 }
 
