@@ -13,6 +13,7 @@
 #include "legend/fake_sources.h"
 #include "map_surround/map_surround.h"
 #include "memory/allocations.h"
+#include "page/catalogue.h"
 #include "recording/expect.h"
 #include "recording/lines.h"
 #include "subjects/stage.h"
@@ -113,35 +114,27 @@ std::vector<Change<Element>> operator+(std::vector<Change<Element>> some,
     return some;
 }
 
-// What differs from the defaults in all that the base of every element holds.
-void SetBase(CMapSurround& element, int variant) {
-    element.SetFrontColor(Gdiplus::Color(0xFF102030u + static_cast<unsigned>(variant)));
-    element.SetSize(50 + variant);
-    element.SetAspectRatio(2.5f + static_cast<float>(variant));
-    element.SetAngle(30.0f + static_cast<float>(variant));
-    element.SetItemType(static_cast<MapSurroundType>(10 + variant));
+/// The element of a subject, with what it explains.
+template <typename Element>
+std::unique_ptr<Element> Take(const std::string& family, const std::string& name) {
+    static std::vector<std::unique_ptr<subjects::Sources>> explained;
+    for (const subjects::Row& row : subjects::Rows()) {
+        if (row.family == family && row.name == name) {
+            const std::unique_ptr<subjects::Subject> subject = row.make();
+            explained.push_back(std::move(subject->sources));
+            return host::TakeAs<Element>(subject->element);
+        }
+    }
+    return nullptr;
 }
 
 const std::wstring kLongFamily = L"Times New Roman";
 
-std::unique_ptr<CMapTitle> NewTitle() {
-    auto title = std::make_unique<CMapTitle>();
-    SetBase(*title, 1);
-    title->SetFontValue(L"the first text of the title");
-    title->SetFontStyle(L"the first family");
-    return title;
-}
-
 TEST(Changes, OfATitleAreMadeOrNot) {
-    CMapTitle other;
-    SetBase(other, 2);
-    other.SetFontValue(kLongText);
-    other.SetFontStyle(kLongFamily);
-    other.SetFontProcess(FontProcessItalic);
-    other.SetFontSize(33.0);
+    const auto other = Take<CMapTitle>("Title", "long and turned");
     ExpectAllOrNothing<CMapTitle>(
-        NewTitle,
-        CopiesOf(other) +
+        [] { return Take<CMapTitle>("Title", "of a family with a long name"); },
+        CopiesOf(*other) +
             std::vector<Change<CMapTitle>>{
                 {"text", [](CMapTitle& title) { title.SetFontValue(kLongText); }},
                 {"family", [](CMapTitle& title) { title.SetFontStyle(kLongFamily); }},
@@ -152,38 +145,18 @@ TEST(Changes, OfATitleAreMadeOrNot) {
 }
 
 TEST(Changes, OfALegendAreMadeOrNot) {
-    fakes::Raster first(L"first.tif", DisplayRGB);
-    fakes::Raster second(L"second.tif", DisplayGray);
-    const auto newLegend = [&first] {
-        auto legend = std::make_unique<CMapLegend>();
-        SetBase(*legend, 1);
-        legend->SetTitleValue(L"the first text of the title");
-        legend->SetDataSouce({&first});
-        return legend;
-    };
-    CMapLegend other;
-    SetBase(other, 2);
-    other.SetTitleValue(kLongText);
-    other.SetTitle(kLongFamily);
-    other.SetFileName(kLongFamily);
-    other.SetTitleSize(5.0f);
-    other.SetFileNameSize(6.0f);
-    other.SetSizeAspect(1.5f);
-    other.SetTitleStyle(Gdiplus::FontStyleItalic);
-    other.SetFileNameStyle(Gdiplus::FontStyleUnderline);
-    other.SetTitleColor(Gdiplus::Color(0xFF405060));
-    other.SetFileColor(Gdiplus::Color(0xFF708090));
-    other.SetDataSouce({&second, &first});
+    fakes::Raster raster(L"raster.tif", DisplayRGB);
+    const auto other = Take<CMapLegend>("Legend", "of a crowd");
     ExpectAllOrNothing<CMapLegend>(
-        newLegend,
-        CopiesOf(other) +
+        [] { return Take<CMapLegend>("Legend", "without what it lists"); },
+        CopiesOf(*other) +
             std::vector<Change<CMapLegend>>{
-                {"text", [](CMapLegend& legend) { legend.SetTitleValue(kLongText); }},
+                {"text", [](CMapLegend& legend) { legend.SetTitleValue(kLongFamily); }},
                 {"family", [](CMapLegend& legend) { legend.SetTitle(kLongFamily); }},
                 {"names", [](CMapLegend& legend) { legend.SetFileName(kLongFamily); }},
                 {"sources",
                  [&](CMapLegend& legend) {
-                     legend.SetDataSouce({&second, &first});
+                     legend.SetDataSouce({&raster, &raster});
                  }},
                 {"asking", [](CMapLegend& legend) {
                      legend.GetTitleValue();
@@ -200,28 +173,17 @@ using Bars = ::testing::Types<CScaleLine, CSteppedScaleLine, CScaleLine2, CScale
 TYPED_TEST_SUITE(BarChanges, Bars);
 
 TYPED_TEST(BarChanges, AreMadeOrNot) {
-    const auto newBar = [] {
-        auto bar = std::make_unique<TypeParam>();
-        SetBase(*bar, 1);
-        bar->SetUnitsName(L"the first name of the unit");
-        return bar;
-    };
-    TypeParam other;
-    SetBase(other, 2);
-    other.SetUnitsName(kLongText);
-    other.SetUnitPos(UnitPosBefore);
-    other.SetPaper2DataScale(25e6);
-    other.SetPaper2ScreenScale(31.0);
-    other.SetScreen2PaperByOneScale(12.0);
-    other.SetMainDivCount(3);
-    other.SetSubDivCount(2);
+    const std::string family = host::FindEntry(TypeParam())->className + 1;
+    const auto other = Take<TypeParam>(family, "with long labels and the unit before");
+    other->SetUnitsName(kLongText);
     ExpectAllOrNothing<TypeParam>(
-        newBar, CopiesOf(other) +
-                    std::vector<Change<TypeParam>>{
-                        {"unit", [](TypeParam& bar) { bar.SetUnitsName(kLongText); }},
-                        {"unit in Chinese",
-                         [](TypeParam& bar) { bar.SetUnitsName(L"Kilometre"); }},
-                        {"asking", [](TypeParam& bar) { bar.GetUnitsName(); }}});
+        [&] { return Take<TypeParam>(family, "plain"); },
+        CopiesOf(*other) +
+            std::vector<Change<TypeParam>>{
+                {"unit", [](TypeParam& bar) { bar.SetUnitsName(kLongText); }},
+                {"unit in Chinese",
+                 [](TypeParam& bar) { bar.SetUnitsName(L"Kilometre"); }},
+                {"asking", [](TypeParam& bar) { bar.GetUnitsName(); }}});
 }
 
 const std::wstring kLongPath = L"a folder/a file name of some length.png";
@@ -239,7 +201,8 @@ std::unique_ptr<CDrawPicture> PictureWithoutImage(const std::wstring& path, int 
             continue;
         }
     }
-    SetBase(*picture, variant);
+    picture->SetSize(50 + variant);
+    picture->SetAngle(30.0f + static_cast<float>(variant));
     return picture;
 }
 
