@@ -241,6 +241,9 @@ TEST(SurroundFrame, MovesItsElement) {
         CSurroundFrame& itself = moved;
         moved = std::move(itself);
         EXPECT_EQ(moved.GetMapSurround(), element);
+        CSurroundFrame empty;
+        empty = std::move(moved);
+        EXPECT_EQ(empty.GetMapSurround(), element);
         EXPECT_EQ(fate.deleted, 0);
     }
     EXPECT_EQ(fate.deleted, 1);
