@@ -22,8 +22,8 @@ Box ExtentOf(const GdalRaster& raster);
 GdalRaster::Window WindowIn(const Box& extent, const GdalRaster& raster);
 
 /// Why a raster that is not turned cannot be laid under or over the first one; empty when
-/// it can. Their coordinate systems are the same when the raster's corners have, to half a
-/// pixel, the same coordinates in both, however they are worded; unknown is the same as
+/// it can. Their coordinate systems are the same when the raster's corners have, to half
+/// a pixel, the same coordinates in both, however they are worded; unknown is the same as
 /// unknown.
 std::string WhyNotPlaced(const GdalRaster& raster, const GdalRaster& first);
 
