@@ -80,7 +80,8 @@ void DeclareScaleBar(CLI::App& app, Options& options) {
               "Style " + UsualStyle(SurroundScaleBar))
         ->type_name("STYLE")
         ->group(kScaleBar);
-    app.add_option("--divisions", bar.divisions, "Main divisions (4)")
+    app.add_option("--divisions", bar.divisions,
+                   "Main divisions (4, or as many as there is room for)")
         ->check(CLI::Range(1, 100, "1 to 100"))
         ->type_name("COUNT")
         ->group(kScaleBar);
@@ -109,6 +110,14 @@ void DeclareScaleBar(CLI::App& app, Options& options) {
     AddChoice(app, "--distances", bar.distances, distances,
               "What is measured: the ground in the middle of the map, along the "
               "ellipsoid, or the map's coordinates (ground)")
+        ->type_name("WHAT")
+        ->group(kScaleBar);
+    const Words<host::BarFit> fits = {{"count", host::BarFit::Count},
+                                      {"width", host::BarFit::Width},
+                                      {"value", host::BarFit::Value}};
+    AddChoice(app, "--fit", bar.fit, fits,
+              "What of it stays when a page file's map is another: the count of its\n"
+              "divisions, its width, or the value of one (count)")
         ->type_name("WHAT")
         ->group(kScaleBar);
     app.add_flag("--numeric-scale", bar.numeric, "Write the scale in figures, too")

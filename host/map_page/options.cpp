@@ -12,8 +12,10 @@
 #include <vector>
 
 #include "map_page/error.h"
+#include "map_page/given.h"
 #include "map_page/map_options.h"
 #include "map_page/style_options.h"
+#include "map_page/template_options.h"
 #include "map_page/values.h"
 #include "map_surround/version.h"
 #include "page/colour_text.h"
@@ -34,19 +36,18 @@ The rasters lie on each other as in a list of layers: the first is on top and se
 coordinate system. The map spans all of them. A raster that has another coordinate system
 or no georeference is left off the map, with a warning.
 
-A single name that ends in .json is a page file: drawn as it says, and with no other
-options than --output, --strict and --dpi, --stretch, --bands and --nodata for its maps,
-and those of safety. --save writes one, of the page that would be drawn, to be changed by hand;
-docs/page_file.md tells what it says.
+A first name that ends in .json is a page file: drawn as it says, but for what options say
+otherwise, and with the rasters that follow it in place of its own. --save writes one, of
+the page that would be drawn, to be changed by hand; docs/page_file.md tells what it says.
 
 A page file may be another's. So it, and the list of a series, may have plain files read
 that lie below their folders, and nothing is written but the output; what follows from
 that, and what --allow-outside, --allow-remote and --allow-all change, is there as well.
 
 A series draws one page for each row of a list of comma-separated values. Its first row
-names the columns: rasters (files with ; between), extent (left bottom right top),
-stretch, bands, noData, and names of elements, such as title, whose text the row has. Any
-column may be part of the output's name. An empty cell leaves what the page file says.
+names the columns: rasters (files with ; between), extent (left bottom right top), names of
+options, such as scale and title-size, and names of elements, such as title, whose text the
+row has. Any column may be part of the output's name. An empty cell leaves what the page file says.
 Outputs that are there are not drawn again. docs/series.md tells the rest.
 
 A raster is stretched by all of its values, so that one value has one shade on every page
@@ -66,6 +67,7 @@ Examples:
   map_page west.tif east.tif -o page.jpg --size A3 --dpi 300 --shadow off
   map_page scene.tif --title "Olinda" --save page.json
   map_page page.json -o page.png
+  map_page page.json -o a3.pdf --size A3 --scale 1:25000 --title "Recife"
   map_page page.json --series sheets.csv -o 'sheets/{name}.png' --jobs 4)";
 
 /// With the names of colours, some to a line.
@@ -80,24 +82,6 @@ std::string Footer() {
     std::string footer = kFooter;
     return footer.replace(footer.find(kPlace), kPlace.size(), names.substr(1));
 }
-
-/// The values that are not yet what they stand for.
-struct Given {
-    std::vector<std::string> rasters;
-    GivenStyle style;
-    std::string title;
-    std::string titleFont = "Arial";
-    std::string picture;
-    std::string legendTitle = "Legend";
-    std::string legendFont = "Arial";
-    bool noLegend = false;
-    std::string size = "A4";
-    bool portrait = false;
-    std::string border = "on";
-    std::string shadow = "on";
-    std::string background = "on";
-    bool schema = false;
-};
 
 void DeclareTitle(CLI::App& app, Given& given, host::TitleDesign& title) {
     app.add_option("--title", given.title, "Title above the map")
@@ -171,9 +155,9 @@ void Declare(CLI::App& app, Given& given, Options& options) {
         "Print the JSON Schema of page files and exit");
     app.footer(Footer());
 
-    app.add_option(
-           "RASTER", given.rasters,
-           "Any raster that GDAL opens, the first on top; or one page file, .json")
+    app.add_option("RASTER", given.rasters,
+                   "Any raster that GDAL opens, the first on top; a page file, "
+                   ".json,\nmay come before them")
         ->required()
         ->type_name("");
     app.add_option("-o,--output", options.output,
@@ -183,9 +167,8 @@ void Declare(CLI::App& app, Given& given, Options& options) {
     app.add_option("--save", options.save, "Page file to write, .json; needs no --output")
         ->type_name("FILE");
 
-    app.add_flag(
-        "--strict", options.isStrict,
-        "Take every warning for a failure: write nothing, and end with status 1");
+    app.add_flag("--strict", options.isStrict,
+                 "Take every warning for a failure: write nothing, end with status 1");
 
     CLI::Option* const series =
         app.add_option("--series", options.series,
@@ -232,15 +215,7 @@ void Declare(CLI::App& app, Given& given, Options& options) {
         ->group("Frames");
 }
 
-bool IsOfPageFile(const Given& given) {
-    return given.rasters.size() == 1 && host::IsPageFile(given.rasters.front());
-}
-
-/// The options that go with a page file, which says the rest itself.
-constexpr std::string_view kWithPageFile[] = {
-    "RASTER",      "--output",       "--dpi",        "--series",        "--jobs",
-    "--stretch",   "--bands",        "--nodata",     "--allow-outside", "--allow-remote",
-    "--allow-all", "--limit-memory", "--limit-time", "--strict"};
+bool IsOfPageFile(const Given& given) { return host::IsPageFile(given.rasters.front()); }
 
 /// Those that go with nothing else.
 constexpr const char* kOnlyWithPageFile[] = {"--series", "--allow-outside",
@@ -261,14 +236,7 @@ void CheckCall(const CLI::App& app, const Given& given, const Options& options) 
         }
         return;
     }
-    for (const CLI::Option* option : app.get_options()) {
-        const std::string name = option->get_name();
-        const bool goes = std::find(std::begin(kWithPageFile), std::end(kWithPageFile),
-                                    name) != std::end(kWithPageFile);
-        if (option->count() > 0 && !goes) {
-            throw UsageError(name, "does not go with a page file, which says it itself");
-        }
-    }
+    CheckGoesWithPageFile(app, given);
 }
 
 host::OutputFormat FormatOf(const std::string& output) {
@@ -280,11 +248,12 @@ host::OutputFormat FormatOf(const std::string& output) {
 }
 
 /// Fills in what is not only a matter of the command line.
-void Complete(const Given& given, Options& options) {
+void Complete(const CLI::App& app, const Given& given, Options& options) {
+    options.rasters = given.rasters;
     if (IsOfPageFile(given)) {
         options.pageFile = given.rasters.front();
+        options.rasters.erase(options.rasters.begin());
     }
-    options.rasters = given.rasters;
     if (!options.output.empty()) {
         options.format = FormatOf(options.output);
     }
@@ -304,13 +273,15 @@ void Complete(const Given& given, Options& options) {
     design.legend.title = ReadText("--legend-title", given.legendTitle);
     design.legend.family = ReadText("--legend-font", given.legendFont);
     options.design.map.style = ReadStyle(given.style);
-    options.changes.mapTexts = MapTexts(given.style);
 
     const host::FrameStyle byDefault;
     design.frames.border = ReadColor("--border", given.border, byDefault.border);
     design.frames.shadow = ReadColor("--shadow", given.shadow, byDefault.shadow);
     design.frames.background =
         ReadColor("--background", given.background, byDefault.background);
+    if (IsOfPageFile(given)) {
+        options.changes = TemplateChanges(app, given, options);
+    }
 }
 
 }  // namespace
@@ -332,7 +303,7 @@ std::variant<Options, std::string> ReadCommandLine(int argc, const char* const* 
         throw UsageError(error.what(), kSeeHelp);
     }
     CheckCall(app, given, options);
-    Complete(given, options);
+    Complete(app, given, options);
     return options;
 }
 

@@ -14,9 +14,9 @@ namespace map_page {
 
 /// What the command line asks for, checked as far as it can be without opening a file.
 struct Options {
-    std::vector<std::string> rasters;
-    std::string pageFile;  ///< drawn instead of rasters; empty for none
-    std::string output;    ///< empty for none
+    std::vector<std::string> rasters;  ///< with a page file, in place of its own
+    std::string pageFile;              ///< drawn instead of rasters; empty for none
+    std::string output;                ///< empty for none
     std::optional<host::OutputFormat> format;  ///< of the output
     std::string save;                          ///< the page file to write; empty for none
     std::string series;         ///< the list of pages to draw; empty for one page

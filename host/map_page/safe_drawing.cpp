@@ -1,8 +1,10 @@
 #include "map_page/safe_drawing.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <iterator>
 #include <string>
+#include <system_error>
 #include <vector>
 
 #include "page/output/output_format.h"
@@ -27,6 +29,23 @@ std::vector<std::string> Readable(const Options& options,
     return places;
 }
 
+/// A raster of the caller's own, and what lies beside it under the same name: "scene.tif"
+/// with "scene.tif.ovr" and "scene.tfw".
+void AllowWithSideFiles(const std::string& raster, host::AllowedSources& allowed) {
+    namespace fs = std::filesystem;
+    allowed.Allow(raster);
+    const fs::path path(raster);
+    const std::string beginning = path.stem().string() + ".";
+    std::error_code ignored;
+    const fs::path folder = path.has_parent_path() ? path.parent_path() : ".";
+    for (const fs::directory_entry& entry : fs::directory_iterator(folder, ignored)) {
+        const std::string name = entry.path().filename().string();
+        if (name.compare(0, beginning.size(), beginning) == 0) {
+            allowed.Allow(entry.path().string());
+        }
+    }
+}
+
 }  // namespace
 
 std::optional<host::AllowedSources> AllowedBy(const Options& options) {
@@ -40,6 +59,12 @@ std::optional<host::AllowedSources> AllowedBy(const Options& options) {
     }
     for (const std::string& folder : options.allowedFolders) {
         allowed.Allow(folder);
+    }
+    if (!options.picture.empty()) {
+        allowed.Allow(options.picture);
+    }
+    for (const std::string& raster : options.rasters) {
+        AllowWithSideFiles(raster, allowed);
     }
     if (options.allowRemote) {
         allowed.AllowNetwork();

@@ -95,11 +95,7 @@ private:
     int Draw(const SeriesPage& page) const {
         Options options = m_options;
         options.output = page.output;
-        options.changes = page.changes;
-        // The row's come after the options, and so prevail.
-        options.changes.mapTexts.insert(options.changes.mapTexts.begin(),
-                                        m_options.changes.mapTexts.begin(),
-                                        m_options.changes.mapTexts.end());
+        options.changes = host::Merged(m_options.changes, page.changes);
         const std::string place = PlaceOf(page.line);
         try {
             m_draw(options, place);

@@ -9,6 +9,7 @@
 
 #include "map_page/csv.h"
 #include "map_page/error.h"
+#include "map_page/template_options.h"
 #include "page/document/file_paths.h"
 #include "system/input_file.h"
 #include "system/number_text.h"
@@ -18,6 +19,7 @@ namespace {
 
 constexpr const char* kRastersColumn = "rasters";
 constexpr const char* kExtentColumn = "extent";
+constexpr const char* kPictureColumn = "picture";
 // Properties of every map.
 constexpr std::array<std::string_view, 3> kMapColumns = {"stretch", "bands", "noData"};
 constexpr char kBetweenRasters = ';';
@@ -135,10 +137,30 @@ host::Box ExtentIn(const std::string& text) {
     return {sides[0], sides[1], sides[2], sides[3]};
 }
 
+std::string FileIn(const std::string& text, const host::FilePaths& paths) {
+    std::string file = paths.FromFile(text);
+    const std::string why = paths.WhyNot(file);
+    if (!why.empty()) {
+        throw Error(file, why);
+    }
+    return file;
+}
+
+/// Of cells that are values of options.
+host::PageChanges ChangesOfOptions(const std::vector<std::string>& options) {
+    try {
+        return options.empty() ? host::PageChanges() : ChangesOfCells(options);
+    } catch (const UsageError& error) {
+        const std::string what = error.what();
+        throw Error(what.substr(0, what.rfind(": see map_page --help")));
+    }
+}
+
 host::PageChanges ChangesIn(const std::vector<std::string>& columns,
                             const std::vector<std::string>& textColumns,
                             const CsvRecord& record, const host::FilePaths& paths) {
     host::PageChanges changes;
+    std::vector<std::string> options;
     for (std::size_t i = 0; i < columns.size(); ++i) {
         const std::string& value = record.fields[i];
         if (value.empty()) {
@@ -150,11 +172,15 @@ host::PageChanges ChangesIn(const std::vector<std::string>& columns,
             changes.extent = ExtentIn(value);
         } else if (IsMapColumn(columns[i])) {
             changes.mapTexts.emplace_back(columns[i], value);
+        } else if (IsOptionColumn(columns[i])) {
+            const bool isFile = columns[i] == kPictureColumn;
+            options.push_back("--" + columns[i] + "=" +
+                              (isFile ? FileIn(value, paths) : value));
         } else if (ColumnOf(textColumns, columns[i]) != kNoColumn) {
             changes.texts.emplace_back(columns[i], value);
         }
     }
-    return changes;
+    return host::Merged(ChangesOfOptions(options), changes);
 }
 
 /// All that are neither known by name nor only there for the outputs' names.
@@ -167,7 +193,8 @@ std::vector<std::string> TextColumnsOf(const std::vector<std::string>& columns) 
         if (std::count(columns.begin(), columns.end(), column) > 1) {
             throw Error("line 1", "names the column \"" + column + "\" twice");
         }
-        if (column != kRastersColumn && column != kExtentColumn && !IsMapColumn(column)) {
+        if (column != kRastersColumn && column != kExtentColumn && !IsMapColumn(column) &&
+            !IsOptionColumn(column)) {
             texts.push_back(column);
         }
     }

@@ -49,13 +49,14 @@ OpenedPage OpenPageFile(const std::string& path, const AllowedSources* allowed,
                         const std::function<void(const Page&)>& beforeRasters) {
     return Naming(path, [&] {
         Page page = LoadPage(path, allowed);
+        Change(page, changes);
         CheckFilesAndFonts(page);
         CheckFontsOf(page);
         if (beforeRasters) {
             beforeRasters(page);
         }
         auto rasters = std::make_unique<RasterStore>();
-        const std::vector<std::string> untrue = ChangeAndOpen(page, changes, *rasters);
+        const std::vector<std::string> untrue = OpenChanged(page, changes, *rasters);
         std::vector<std::string> remarks = AllRemarks(page, untrue);
         return OpenedPage{std::move(rasters), std::move(page), std::move(remarks)};
     });

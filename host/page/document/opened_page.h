@@ -26,7 +26,7 @@ struct OpenedPage {
     std::vector<std::string> remarks;
 };
 
-/// Opens a page file: checks its pictures and fonts, makes the changes, opens the rasters
+/// Opens a page file: makes the changes, checks its pictures and fonts, opens the rasters
 /// and fits scale bars and north arrows to the maps.
 /// @param allowed what may be read of the files that it names; null: all. What rasters
 /// lead to in turn is not looked at here: see ConfineGdal.

@@ -3,12 +3,16 @@
 #include <algorithm>
 #include <cstddef>
 #include <memory>
+#include <string_view>
+#include <utility>
 
 #include "map_surround/legend.h"
 #include "map_surround/title.h"
 #include "page/document/item_type.h"
 #include "page/document/page_error.h"
+#include "page/document/resized_page.h"
 #include "page/element_of.h"
+#include "page/ink.h"
 #include "page/layout/fit_to_map.h"
 #include "page/placed_frame.h"
 
@@ -48,48 +52,163 @@ void FitTitle(const CSurroundFrame& frame, CMapTitle& title) {
     }
 }
 
-void WriteText(PageItem& item, const Property& property, const std::string& name,
-               const std::string& text) {
-    const std::string why = CheckValue(property, text);
+/// @param place named in errors
+void WriteValue(PageItem& item, const Property& property, const std::string& place,
+                const PropertyValue& value) {
+    const std::string why = CheckValue(property, value);
     if (!why.empty()) {
-        throw PageError(name, why);
+        throw PageError(place, why);
     }
-    property.write(item, text);
+    property.write(item, value);
+}
+
+void FitChangedTitle(PageItem& item) {
+    auto* const title = ElementOf<CMapTitle>(item);
+    const auto* const frame = FrameAs<CSurroundFrame>(item);
+    if (title != nullptr && frame != nullptr) {
+        title->ResetAspectRatio();
+        FitTitle(*frame, *title);
+    }
 }
 
 void SetText(PageItem& item, const std::string& name, const std::string& text) {
     const Property* const property = TextOf(item);
-    if (property == nullptr || !IsNamed(item, name)) {
-        return;
-    }
-    WriteText(item, *property, name, text);
-    if (auto* const title = ElementOf<CMapTitle>(item)) {
-        title->ResetAspectRatio();
-        FitTitle(*FrameAs<CSurroundFrame>(item), *title);
+    if (property != nullptr && IsNamed(item, name)) {
+        WriteValue(item, *property, name, text);
+        FitChangedTitle(item);
     }
 }
 
-void Change(Page& page, const PageChanges& changes) {
-    if (!changes.rasters.empty()) {
-        NameRasters(page, changes.rasters);
-    }
+bool IsOf(const PageItem& item, MapSurroundType family) {
+    const ItemType* const type = TypeOf(item);
+    return type != nullptr && type->element != nullptr && type->element->family == family;
+}
+
+/// "scale bar", as automatic pages call theirs.
+std::string UsualName(MapSurroundType family) {
+    std::string name = FamilyName(family);
+    std::replace(name.begin(), name.end(), '-', ' ');
+    return name;
+}
+
+/// The element of a family that a change is about.
+PageItem& ElementFor(Page& page, MapSurroundType family, const std::string& asked) {
+    const std::string name = UsualName(family);
+    PageItem* found = nullptr;
+    std::size_t count = 0;
     for (PageItem& item : page.Items()) {
-        const Property* const extent = PropertyOf(item, "extent");
-        if (extent != nullptr && changes.extent) {
-            extent->write(item, changes.extent);
+        if (IsOf(item, family)) {
+            ++count;
+            found = count == 1 || IsNamed(item, name) ? &item : found;
         }
-        const Property* const scale = PropertyOf(item, "scale");
-        if (scale != nullptr && changes.scale) {
-            scale->write(item, *changes.scale);
+    }
+    if (found == nullptr) {
+        throw PageError(asked, "the page has no " + name);
+    }
+    if (count > 1 && !IsNamed(*found, name)) {
+        throw PageError(asked, "the page has " + std::to_string(count) +
+                                   " of its kind, and none is called \"" + name + "\"");
+    }
+    return *found;
+}
+
+/// An element of another style in the same frame, with all that both have.
+void Restyle(PageItem& item, const CatalogueEntry& style) {
+    const ItemType& before = *TypeOf(item);
+    const ItemType& type = *FindItemType(style.name);
+    PageItem restyled = type.make();
+    for (const Property& property : type.properties) {
+        const Property* const same = FindProperty(before.properties, property.name);
+        const std::string_view name = property.name;
+        const bool isOfStyle = name == "northArrowType" || name == "scaleBarType";
+        if (same != nullptr && !isOfStyle) {
+            property.write(restyled, same->read(item));
         }
-        if (std::holds_alternative<MapFrame>(item)) {
-            for (const auto& [name, text] : changes.mapTexts) {
-                WriteText(item, *PropertyOf(item, name.c_str()), name, text);
-            }
-        }
-        for (const auto& [name, text] : changes.texts) {
-            SetText(item, name, text);
-        }
+    }
+    for (const Property& property : FrameProperties()) {
+        property.write(restyled, property.read(item));
+    }
+    MeasureItem(restyled);
+    // Its ink stands where that of the other did.
+    const auto middleOf = [](PageItem& of) {
+        const InkBox ink = MeasureInk(*std::get<std::unique_ptr<CSurroundFrame>>(of));
+        return CPoint2D((ink.right - ink.left) / 2.0, (ink.up - ink.down) / 2.0);
+    };
+    const CPoint2D stood = middleOf(item);
+    const CPoint2D stands = middleOf(restyled);
+    auto& frame = *FrameAs<PlacedFrame>(restyled);
+    const CPoint2D offset = frame.ElementOffset();
+    frame.SetElementOffset(offset.x + stood.x - stands.x, offset.y + stood.y - stands.y);
+    item = std::move(restyled);
+}
+
+void ChangeStyle(Page& page, const StyleChange& change) {
+    if (change.style != nullptr) {
+        Restyle(ElementFor(page, change.family, change.asked), *change.style);
+        return;
+    }
+    std::vector<PageItem>& items = page.Items();
+    items.erase(std::remove_if(items.begin(), items.end(),
+                               [&change](const PageItem& item) {
+                                   return IsOf(item, change.family);
+                               }),
+                items.end());
+}
+
+/// A unit that is asked for has its own name, and a name that is asked for one unit.
+void KeepUnitAndName(PageItem& item, const std::string& changed) {
+    auto* const frame = FrameAs<ScaleBarFrame>(item);
+    auto* const bar = ElementOf<CScaleBarBase>(item);
+    if (frame != nullptr && bar != nullptr && changed == "unit") {
+        bar->SetUnitsName(FactsOf(UnitFor(frame->Unit(), 0.0)).sign);
+    } else if (frame != nullptr && bar != nullptr && changed == "units") {
+        frame->SetUnit(CountedUnit(*frame, *bar));
+    }
+}
+
+void ChangeElement(Page& page, const ElementChange& change) {
+    PageItem& item = ElementFor(page, change.family, change.asked);
+    const Property* const property = PropertyOf(item, change.property.c_str());
+    if (change.property == "units") {
+        KeepUnitAndName(item, change.property);  // while it has the name of its unit
+    }
+    WriteValue(item, *property, change.asked, change.value);
+    if (change.property == "unit") {
+        KeepUnitAndName(item, change.property);
+    }
+    if (change.property == "fontSize") {
+        MeasureItem(item);  // as large as it was asked for
+    } else {
+        FitChangedTitle(item);
+    }
+}
+
+void ChangePaper(Page& page, const PaperChange& change) {
+    PaperSize paper = change.paper.value_or(PaperSize{page.Width(), page.Height()});
+    const bool isUpright = page.Height() > page.Width();
+    if ((change.isUpright || (change.turns && isUpright)) && paper.width > paper.height) {
+        std::swap(paper.width, paper.height);
+    }
+    page = Resized(std::move(page), paper);
+}
+
+void ChangeMap(PageItem& item, const PageChanges& changes) {
+    const Property* const extent = PropertyOf(item, "extent");
+    if (extent != nullptr && changes.extent) {
+        extent->write(item, changes.extent);
+    }
+    const Property* const scale = PropertyOf(item, "scale");
+    if (scale != nullptr && changes.scale) {
+        scale->write(item, *changes.scale);
+    }
+    for (const auto& [name, text] : changes.mapTexts) {
+        WriteValue(item, *PropertyOf(item, name.c_str()), name, text);
+    }
+}
+
+void ChangeFrame(PageItem& item, const PageChanges& changes) {
+    for (const auto& [name, value] : changes.frames) {
+        FindProperty(FrameProperties(), name)->write(item, value);
     }
 }
 
@@ -117,27 +236,90 @@ std::vector<LegendPlace> ForgetLegendSizes(Page& page) {
     return places;
 }
 
-/// The legend begins where it did, and is no larger than leaves the same space around it.
+/// The legend begins where it did, and its ink is no larger than its frame has room for.
 void FitLegend(const LegendPlace& place) {
+    constexpr int kTries = 4;  // text does not shrink quite as evenly as the legend
     const CBoundingBox box = place.frame->GetExtent();
     CMapLegend& legend = *place.legend;
-    const double width = WidthOf(legend);
-    const double factor =
-        std::min({1.0, -2.0 * place.left / width, 2.0 * place.top / legend.GetSize()});
-    if (box.GetWidth() > 0.0 && factor > 0.0) {
-        legend.SetSize(std::max(1, static_cast<int>(legend.GetSize() * factor)));
+    const auto put = [&] {
+        place.frame->SetElementOffset(place.left + WidthOf(legend) / 2.0,
+                                      place.top - legend.GetSize() / 2.0);
+        return MeasureInk(*place.frame);
+    };
+    InkBox ink = put();
+    for (int i = 0; i < kTries && box.GetWidth() > 0.0; ++i) {
+        const double factor =
+            std::min((box.GetWidth() / 2.0 - place.left) / (ink.right - place.left),
+                     (box.GetHeight() / 2.0 + place.top) / (ink.down + place.top));
+        if (!(factor > 0.0 && factor < 1.0) || legend.GetSize() <= 1) {
+            return;
+        }
+        legend.SetSize(
+            std::min(legend.GetSize() - 1, static_cast<int>(legend.GetSize() * factor)));
+        ink = put();
     }
-    place.frame->SetElementOffset(place.left + WidthOf(legend) / 2.0,
-                                  place.top - legend.GetSize() / 2.0);
+}
+
+bool ChangesLegends(const PageChanges& changes) {
+    return !changes.rasters.empty() ||
+           std::any_of(changes.elements.begin(), changes.elements.end(),
+                       [](const ElementChange& change) {
+                           return change.family == SurroundLegend;
+                       });
+}
+
+template <class List>
+void Append(List& list, const List& more) {
+    list.insert(list.end(), more.begin(), more.end());
 }
 
 }  // namespace
 
-std::vector<std::string> ChangeAndOpen(Page& page, const PageChanges& changes,
-                                       RasterStore& store) {
-    Change(page, changes);
+PageChanges Merged(PageChanges first, const PageChanges& then) {
+    PageChanges both = std::move(first);
+    if (!then.rasters.empty()) {
+        both.rasters = then.rasters;
+    }
+    both.extent = then.extent ? then.extent : both.extent;
+    both.scale = then.scale ? then.scale : both.scale;
+    both.paper = then.paper ? then.paper : both.paper;
+    Append(both.styles, then.styles);
+    Append(both.elements, then.elements);
+    Append(both.frames, then.frames);
+    Append(both.mapTexts, then.mapTexts);
+    Append(both.texts, then.texts);
+    return both;
+}
+
+void Change(Page& page, const PageChanges& changes) {
+    if (changes.paper) {
+        ChangePaper(page, *changes.paper);
+    }
+    if (!changes.rasters.empty()) {
+        NameRasters(page, changes.rasters);
+    }
+    for (const StyleChange& change : changes.styles) {
+        ChangeStyle(page, change);
+    }
+    for (const ElementChange& change : changes.elements) {
+        ChangeElement(page, change);
+    }
+    for (PageItem& item : page.Items()) {
+        if (std::holds_alternative<MapFrame>(item)) {
+            ChangeMap(item, changes);
+        } else if (ElementOf<CMapSurround>(item) != nullptr) {
+            ChangeFrame(item, changes);
+        }
+        for (const auto& [name, text] : changes.texts) {
+            SetText(item, name, text);
+        }
+    }
+}
+
+std::vector<std::string> OpenChanged(Page& page, const PageChanges& changes,
+                                     RasterStore& store) {
     const std::vector<LegendPlace> legends =
-        changes.rasters.empty() ? std::vector<LegendPlace>() : ForgetLegendSizes(page);
+        ChangesLegends(changes) ? ForgetLegendSizes(page) : std::vector<LegendPlace>();
     OpenRasters(page, store);
     std::for_each(legends.begin(), legends.end(), FitLegend);
     return FitToMap(page);

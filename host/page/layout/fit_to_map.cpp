@@ -9,6 +9,7 @@
 #include "map_surround/north_arrow.h"
 #include "map_surround/scale_bar.h"
 #include "page/element_of.h"
+#include "page/ink.h"
 #include "page/layout/bar_on_map.h"
 #include "page/layout/scale_division.h"
 #include "page/map/map_geometry.h"
@@ -72,17 +73,6 @@ void FitAsInVersion1(ScaleBarFrame& frame, const CScaleBarBase& bar,
     frame.SetDivisionLength(division.length);
 }
 
-/// The unit that a bar counts in now: of a choice by length, the one that it names.
-DistanceUnit CountedUnit(const ScaleBarFrame& frame, const CScaleBarBase& bar) {
-    for (const DistanceUnitFacts& facts : DistanceUnits()) {
-        if (!IsByLength(facts.unit) && IsByLength(frame.Unit()) &&
-            bar.GetUnitsName() == facts.sign) {
-            return facts.unit;
-        }
-    }
-    return UnitFor(frame.Unit(), 0.0);
-}
-
 /// Whether the whole bar stands for what it says.
 bool IsTrue(const ScaleBarFrame& frame, const CScaleBarBase& bar, const ShownMap& map,
             const BarMeasure& measure) {
@@ -92,6 +82,44 @@ bool IsTrue(const ScaleBarFrame& frame, const CScaleBarBase& bar, const ShownMap
         measure.Length(frame.DivisionLength() * divisions * map.MapUnitsPerPageUnit());
     return length && divisions > 0 &&
            std::fabs(*length - said * divisions) <= kNearlyTrue * *length;
+}
+
+/// Whether the ink of a bar ends before its frame does, where that has a width.
+bool EndsInFrame(ScaleBarFrame& frame) {
+    constexpr double kLittle = 1.0;  // page units
+    const double width = frame.GetExtent().GetWidth();
+    return !(width > 0.0) || MeasureInk(frame).right <= width / 2.0 + kLittle;
+}
+
+/// Gives a bar divisions that are true, as long as there is room for in its frame.
+bool FitWithinFrame(ScaleBarFrame& frame, CScaleBarBase& bar, const ShownMap& map,
+                    const BarMeasure& measure) {
+    constexpr double kLess = 0.95;
+    constexpr int kTries = 40;
+    const double asItIs = frame.DivisionLength() * bar.GetMainDivCount();
+    const DistanceUnit unit =
+        frame.Fit() == BarFit::Value ? CountedUnit(frame, bar) : frame.Unit();
+    const double value = frame.DivisionValue();
+    const int count = bar.GetMainDivCount();
+    const bool ended = EndsInFrame(frame);
+    double longest = frame.Longest() > 0.0 ? frame.Longest() : asItIs;
+    std::optional<BarOnMap> first;
+    for (int i = 0; i < kTries; ++i, longest *= kLess) {
+        const auto fitted =
+            FitBar(map, measure, unit, frame.Fit(), value, count, longest);
+        if (!fitted) {
+            break;
+        }
+        first = first ? first : fitted;
+        SetDivisions(frame, bar, *fitted);
+        if (!ended || EndsInFrame(frame)) {
+            return true;
+        }
+    }
+    if (first) {
+        SetDivisions(frame, bar, *first);
+    }
+    return first.has_value();
 }
 
 void FitBarToMap(ScaleBarFrame& frame, CScaleBarBase& bar, const ShownMap& map,
@@ -109,16 +137,7 @@ void FitBarToMap(ScaleBarFrame& frame, CScaleBarBase& bar, const ShownMap& map,
     if (measure && IsTrue(frame, bar, map, *measure)) {
         return;
     }
-    const double asItIs = frame.DivisionLength() * bar.GetMainDivCount();
-    const DistanceUnit unit =
-        frame.Fit() == BarFit::Value ? CountedUnit(frame, bar) : frame.Unit();
-    const std::optional<BarOnMap> fitted =
-        measure ? FitBar(map, *measure, unit, frame.Fit(), frame.DivisionValue(),
-                         bar.GetMainDivCount(),
-                         frame.Longest() > 0.0 ? frame.Longest() : asItIs)
-                : std::nullopt;
-    if (fitted) {
-        SetDivisions(frame, bar, *fitted);
+    if (measure && FitWithinFrame(frame, bar, map, *measure)) {
         return;
     }
     remarks.push_back(frame.Name() + ": the scale bar is not true to the map: " +
@@ -174,6 +193,16 @@ void FitNumericScale(const PlacedFrame& frame, NumericScale& text, const SpokenO
 }
 
 }  // namespace
+
+DistanceUnit CountedUnit(const ScaleBarFrame& frame, const CScaleBarBase& bar) {
+    for (const DistanceUnitFacts& facts : DistanceUnits()) {
+        if (!IsByLength(facts.unit) && IsByLength(frame.Unit()) &&
+            bar.GetUnitsName() == facts.sign) {
+            return facts.unit;
+        }
+    }
+    return UnitFor(frame.Unit(), 0.0);
+}
 
 std::vector<std::string> FitToMap(Page& page) {
     std::vector<std::string> remarks;

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "page/page.h"
+#include "page/placed_frame.h"
 
 namespace host {
 
@@ -14,6 +15,9 @@ namespace host {
 /// What is true stays as it is, to the bit. A page without such a map stays as it is.
 /// @return what could not be made true, one line each
 std::vector<std::string> FitToMap(Page& page);
+
+/// The unit that a bar counts in now: of a choice by length, the one that it names.
+DistanceUnit CountedUnit(const ScaleBarFrame& frame, const CScaleBarBase& bar);
 
 /// An extent of the proportions of a frame that has this one in its middle; the same when
 /// it has them nearly.

@@ -11,6 +11,7 @@
 #include "page/catalogue.h"
 #include "page/map/shown_map.h"
 #include "page/paper.h"
+#include "page/placed_frame.h"
 #include "raster_data/raster_style.h"
 
 namespace host {
@@ -45,7 +46,8 @@ struct ScaleBarDesign {
     BarDistances distances = BarDistances::Ground;  ///< or Map
     std::optional<DistanceUnit> unit;               ///< else UsualUnit
     std::optional<std::wstring> unitName;           ///< else the unit's sign
-    bool numeric = false;  ///< the scale in figures, under the bar
+    BarFit fit = BarFit::Count;  ///< when a series gives it another map
+    bool numeric = false;        ///< the scale in figures, under the bar
 };
 
 struct NorthArrowDesign {

@@ -44,6 +44,7 @@ std::optional<Plan> PlanBar(const CatalogueEntry& style, const ScaleBarDesign& d
     Plan plan{std::make_unique<ScaleBarFrame>(std::move(bar)), nullptr, *measure};
     plan.bar = ElementOf<CScaleBarBase>(*plan.frame);
     plan.frame->SetUnit(unit);
+    plan.frame->SetFit(design.fit);
     plan.frame->SetBarDistances(IsLength(unit) ? design.distances : BarDistances::Map);
     return plan;
 }

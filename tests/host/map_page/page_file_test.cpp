@@ -130,7 +130,7 @@ TEST_F(PageFile, MayEndInAnyCase) {
     ASSERT_EQ(Run({"data/scene.tif", "--save", "page.JSON"}).status, 0);
     const Result result = Run({"page.JSON", "-o", "page.png", "--dpi", "50"});
     EXPECT_EQ(result.status, 0) << result.err;
-    EXPECT_EQ(Run({"page.JSON", "-o", "page.png", "--title", "A"}).status, 2);
+    EXPECT_EQ(Run({"page.JSON", "page.json", "-o", "page.png"}).status, 2);
 }
 
 TEST_F(PageFile, MovesWithItsRasters) {
@@ -159,6 +159,7 @@ TEST_F(PageFile, SaysWhatIsWrongInOneLineAndOverwritesNothing) {
             << "]}";
     };
     write("good.json", "");
+    write("titles.json", R"({"type": "title"}, {"type": "title"})");
     write("size.json", R"({"type": "frame"}, {"type": "title", "size": "big"})");
     write("raster.json", R"({"type": "map", "rasters": ["none.tif"]})");
     write("picture.json", R"({"type": "picture", "path": "none.png"})");
@@ -194,14 +195,27 @@ TEST_F(PageFile, SaysWhatIsWrongInOneLineAndOverwritesNothing) {
          "page.gif: ends in none of .png .jpg .jpeg .bmp .tif .tiff .pdf .ps",
          {"good.json", "-o", "page.gif"}},
         {2,
-         "--title: does not go with a page file, which says it itself",
+         "--numeric-scale: does not go with a page file, to which it adds nothing",
+         {"good.json", "-o", "page.png", "--numeric-scale"}},
+        {2,
+         "--save: does not go with --series, whose pages are many",
+         {"good.json", "--series", "a.csv", "-o", "page.png", "--save", "other.json"}},
+        {2,
+         "size.json: is a second page file",
+         {"good.json", "data/scene.tif", "size.json", "-o", "page.png"}},
+        {1,
+         "good.json: --title: the page has no title",
          {"good.json", "-o", "page.png", "--title", "A"}},
-        {2,
-         "--size: does not go with a page file, which says it itself",
-         {"good.json", "-o", "page.png", "--size", "A4"}},
-        {2,
-         "--save: does not go with a page file, which says it itself",
-         {"good.json", "--save", "other.json"}},
+        {1,
+         "good.json: --units: the page has no scale bar",
+         {"good.json", "-o", "page.png", "--units", "mi"}},
+        {1,
+         "titles.json: --title-size: the page has 2 of its kind, and none is called "
+         "\"title\"",
+         {"titles.json", "-o", "page.png", "--title-size", "12"}},
+        {1,
+         "good.json: would replace good.json, which the page is drawn from",
+         {"good.json", "--size", "A3", "--save", "good.json"}},
         {2, "--output or --save is required: see map_page --help", {"good.json"}},
         {2, "page.txt: does not end in .json", {"data/scene.tif", "--save", "page.txt"}},
         {1,
@@ -218,6 +232,107 @@ TEST_F(PageFile, SaysWhatIsWrongInOneLineAndOverwritesNothing) {
         EXPECT_EQ(result.out, "");
         EXPECT_EQ(ContentsOf(folder.Path("page.png")), before) << row.line;
         EXPECT_EQ(folder.Names(), names) << row.line;
+    }
+}
+
+struct TemplateRow {
+    Arguments options;
+    std::vector<std::string> says;  ///< what the page that is saved then says
+};
+
+TEST_F(PageFile, SaysWhatItDoesUnlessAnOptionSaysOtherwise) {
+    fs::copy(folder.Path("logo.png"), folder.Path("data/other.png"));
+    ASSERT_EQ(Run({"data/scene.tif", "--title", "A scene", "--picture", "logo.png",
+                   "--numeric-scale", "--save", "page.json"})
+                  .status,
+              0);
+    const TemplateRow rows[] = {
+        {{"--title", "Another"}, {R"("text": "Another")"}},
+        {{"--title-font", "Times New Roman", "--title-style", "italic"},
+         {R"("font": "Times New Roman")", R"("fontStyle": "italic")"}},
+        {{"--title-size", "12"}, {R"("fontSize": 16.0)"}},
+        {{"--picture", "data/other.png"}, {R"("path": "data/other.png")"}},
+        {{"--legend-title", "Key", "--legend-font", "Times New Roman"},
+         {R"("title": "Key")", R"("titleFont": "Times New Roman")",
+          R"("fileNameFont": "Times New Roman")"}},
+        {{"data/classes.tif"}, {R"("data/classes.tif")"}},
+        {{"--extent", "500000", "8999000", "500900", "8999900"},
+         {R"("right": 500900.0)"}},
+        {{"--scale", "1:5000"}, {R"("scale": 5000.0)", R"("denominator": 5000.0)"}},
+        {{"--stretch", "stddev", "2", "--bands", "3,2,1", "--nodata", "0"},
+         {R"("stretch": "stddev 2")", R"("bands": "3,2,1")", R"("noData": "0")"}},
+        {{"--scale-bar", "line2", "--divisions", "3", "--subdivisions", "5"},
+         {R"("type": "scale-bar-line2")", R"("divisions": 3)", R"("subdivisions": 5)",
+          R"("scaleBarType": "line2")"}},
+        {{"--units", "yd", "--unit-position", "before", "--fit", "width"},
+         {R"("unit": "yd")", R"("units": "yd")", R"("unitPosition": "before")",
+          R"("fit": "width")"}},
+        {{"--unit-name", "Mtr"}, {R"("unit": "m")", R"("units": "Mtr")"}},
+        {{"--distances", "map"}, {R"("distances": "map")"}},
+        {{"--north-arrow", "four", "--north-angle", "30"},
+         {R"("type": "north-arrow-four")", R"("angle": 30.0)", R"("trueNorth": false)"}},
+        {{"--size", "A3"}, {R"("width": 1587.40)", R"("height": 1122.51)"}},
+        {{"--size", "A3", "--portrait"}, {R"("width": 1122.51)", R"("height": 1587.40)"}},
+        {{"--border", "red", "--shadow", "off", "--background", "#11223344"},
+         {R"("borderColor": "#FF0000")", R"("shadow": false)",
+          R"("fillColor": "#11223344")"}},
+    };
+    for (const TemplateRow& row : rows) {
+        const std::string what = ::testing::PrintToString(row.options);
+        Arguments arguments = {"page.json"};
+        arguments.insert(arguments.end(), row.options.begin(), row.options.end());
+        arguments.insert(arguments.end(),
+                         {"--save", "new.json", "-o", "a.png", "--dpi", "60"});
+        const Result result = Run(arguments);
+        ASSERT_EQ(result.status, 0) << what << result.err;
+        const std::string before = ContentsOf(folder.Path("page.json"));
+        const std::string after = ContentsOf(folder.Path("new.json"));
+        std::size_t saidBefore = 0;
+        for (const std::string& says : row.says) {
+            saidBefore += before.find(says) == std::string::npos ? 0 : 1;
+            EXPECT_NE(after.find(says), std::string::npos) << what << says;
+        }
+        EXPECT_LT(saidBefore, row.says.size()) << what << "changes nothing";
+        ASSERT_EQ(Run({"new.json", "-o", "b.png", "--dpi", "60"}).status, 0) << what;
+        EXPECT_TRUE(ContentsOf(folder.Path("a.png")) == ContentsOf(folder.Path("b.png")))
+            << what;
+    }
+    for (const Arguments& gone :
+         {Arguments{"--scale-bar", "none"}, {"--north-arrow", "none"}, {"--no-legend"}}) {
+        Arguments arguments = {"page.json", "--save", "new.json"};
+        arguments.insert(arguments.end(), gone.begin(), gone.end());
+        const Result result = Run(arguments);
+        EXPECT_EQ(result.out.rfind("new.json: 7 elements", 0), 0u) << result.out;
+    }
+}
+
+TEST_F(PageFile, OnAnotherSheetIsTheSamePageLargerOrSmaller) {
+    ASSERT_EQ(Run({"data/scene.tif", "--title", "A scene", "--save", "page.json"}).status,
+              0);
+    // A4 at 141.4 dpi has the pixels of A3 at 100.
+    ASSERT_EQ(Run({"page.json", "-o", "a4.png", "--dpi", "141.42"}).status, 0);
+    ASSERT_EQ(Run({"page.json", "--size", "A3", "-o", "a3.png", "--dpi", "100"}).status,
+              0);
+    const auto inkOf = [this](const std::string& name) {
+        const std::string path = folder.Path(name);
+        Gdiplus::Bitmap bitmap(std::wstring(path.begin(), path.end()).c_str());
+        std::vector<double> squares;
+        for (UINT i = 0; i < 16 * 11; ++i) {
+            double dark = 0.0;
+            for (UINT pixel = 0; pixel < 10'000; pixel += 3) {
+                Gdiplus::Color colour;
+                bitmap.GetPixel(static_cast<INT>(i % 16 * 100 + pixel % 100),
+                                static_cast<INT>(i / 16 * 100 + pixel / 100), &colour);
+                dark += 255 - colour.GetGreen();
+            }
+            squares.push_back(dark / 255.0 / 3334.0);
+        }
+        return squares;
+    };
+    const std::vector<double> small = inkOf("a4.png");
+    const std::vector<double> large = inkOf("a3.png");
+    for (std::size_t i = 0; i < small.size(); ++i) {
+        EXPECT_NEAR(large[i], small[i], 0.04) << "square " << i;
     }
 }
 

@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <fstream>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "map_page/page_file_folder.h"
@@ -69,6 +70,59 @@ TEST_F(Series, DrawsAPageForEachRow) {
             fs::remove(folder.Path(std::string("out/") + other));
         }
         fs::remove(folder.Path("out/same.png"));
+    }
+}
+
+TEST_F(Series, HasColumnsForWhatOptionsSay) {
+    WriteList(
+        "name,scale,units,title-size,scale-bar,size,north-angle,picture\n"
+        "same,,,,,,,\n"
+        "scaled,1:50000,,,,,,\n"
+        "other,1:40000,mi,9,line2,A5,-30,\n"
+        "wrong,none,,,,,,\n"
+        "outside,,,,,,,/etc/passwd\n");
+    const Result result = Draw();
+    EXPECT_EQ(result.status, 1);
+    EXPECT_THAT(
+        result.err,
+        ::testing::AllOf(
+            ::testing::HasSubstr("list.csv: line 5: --scale: none is no scale such as "
+                                 "1:25000\n"),
+            ::testing::HasSubstr("list.csv: line 6: /etc/passwd: is outside "),
+            ::testing::HasSubstr("3 drawn, 0 already there, 2 failed\n")));
+    const std::vector<std::pair<std::string, Arguments>> rows = {
+        {"same", {}},
+        {"scaled", {"--scale", "1:50000"}},
+        {"other",
+         {"--scale", "1:40000", "--units", "mi", "--title-size", "9", "--scale-bar",
+          "line2", "--size", "A5", "--north-angle", "-30"}}};
+    for (const auto& [name, options] : rows) {
+        Arguments arguments = {"page.json", "-o", "one.png", "--dpi", "50"};
+        arguments.insert(arguments.end(), options.begin(), options.end());
+        ASSERT_EQ(Run(arguments).status, 0) << name;
+        EXPECT_TRUE(ContentsOf(folder.Path("one.png")) ==
+                    ContentsOf(folder.Path("out/" + name + ".png")))
+            << name;
+    }
+}
+
+TEST_F(Series, KeepsOfABarWhatItsFitSays) {
+    struct Row {
+        const char* fit;
+        const char* divisions;  ///< at both scales
+        const char* value;      ///< empty where it is another
+    };
+    for (const Row& row : {Row{"count", "\"divisions\": 4", ""},
+                           Row{"value", "", "\"divisionValue\": 100.0"}}) {
+        for (const char* scale : {"1:10000", "1:20000"}) {
+            const Result result = Run({"page.json", "--units", "m", "--scale", scale,
+                                       "--fit", row.fit, "--save", "kept.json"});
+            ASSERT_EQ(result.status, 0) << result.err;
+            const std::string page = ContentsOf(folder.Path("kept.json"));
+            EXPECT_NE(page.find(row.divisions), std::string::npos) << row.fit;
+            EXPECT_NE(page.find(row.value), std::string::npos) << row.fit;
+            fs::rename(folder.Path("kept.json"), folder.Path("page.json"));
+        }
     }
 }
 

@@ -106,7 +106,7 @@ std::optional<BarTexts> ReadBarTexts(const std::vector<std::string>& texts) {
 
 /// The pixels between the ends of a bar: of the ticks at the ends of its longest level
 /// line. Without ticks, that line reaches half a pen further at each end, and the pen is
-/// as wide as the line is thick.
+/// as wide as the line is thick, or as a page unit where all boxes are filled.
 double BarPixels(const DrawnPage& page, const nlohmann::json& bar) {
     const Area frame = page.written.FrameOf(bar);
     const true_pages::Run run = LongestRun(page.picture, frame, kInk, 90);
@@ -114,7 +114,7 @@ double BarPixels(const DrawnPage& page, const nlohmann::json& bar) {
     if (ticks > 0.0) {
         return ticks;
     }
-    int pen = frame.bottom;
+    int pen = std::max(1, static_cast<int>(std::lround(page.asked.dpi / 96.0)));
     for (int x = run.first; x < run.end; ++x) {
         int top = run.y;
         int bottom = run.y;

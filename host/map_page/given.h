@@ -1,0 +1,28 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "map_page/style_options.h"
+
+namespace map_page {
+
+/// The values that are not yet what they stand for.
+struct Given {
+    std::vector<std::string> rasters;
+    GivenStyle style;
+    std::string title;
+    std::string titleFont = "Arial";
+    std::string picture;
+    std::string legendTitle = "Legend";
+    std::string legendFont = "Arial";
+    bool noLegend = false;
+    std::string size = "A4";
+    bool portrait = false;
+    std::string border = "on";
+    std::string shadow = "on";
+    std::string background = "on";
+    bool schema = false;
+};
+
+}  // namespace map_page
