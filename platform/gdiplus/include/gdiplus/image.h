@@ -54,14 +54,17 @@ public:
     ImageType GetType() { return Query(DllExports::GdipGetImageType, native_); }
 
     /// Writes the image in the format of an encoder, whose Clsid comes from
-    /// GetImageEncoders. libgdiplus does not notice when the disk fills up.
+    /// GetImageEncoders. libgdiplus does not notice when the disk fills up. A parameter
+    /// without a value is InvalidParameter: libgdiplus would read it all the same.
     Status Save(const WCHAR* filename, const CLSID* encoder,
                 const EncoderParameters* parameters = nullptr) {
         const detail::Utf16Text text(filename);
-        return SetStatus(text.GetStatus() != Ok
-                             ? text.GetStatus()
-                             : DllExports::GdipSaveImageToFile(native_, text.Text(),
-                                                               encoder, parameters));
+        if (text.GetStatus() != Ok || !HaveValues(parameters)) {
+            return SetStatus(text.GetStatus() != Ok ? text.GetStatus()
+                                                    : InvalidParameter);
+        }
+        return SetStatus(
+            DllExports::GdipSaveImageToFile(native_, text.Text(), encoder, parameters));
     }
 
     /// The native object, for the flat functions; null if creation failed.
@@ -73,8 +76,21 @@ protected:
     /// Owned; deleted with the image.
     GpImage* native_ = nullptr;
 
+    // From the last query, or as a bitmap was made; -1 before it.
+    std::int64_t width_ = -1;
+    std::int64_t height_ = -1;
+
 private:
     friend class Graphics;
+
+    static bool HaveValues(const EncoderParameters* parameters) {
+        const UINT count = parameters == nullptr ? 0 : parameters->Count;
+        const EncoderParameter* const first =
+            parameters == nullptr ? nullptr : parameters->Parameter;
+        return std::all_of(first, first + count, [](const EncoderParameter& parameter) {
+            return parameter.Value != nullptr;
+        });
+    }
 
     /// From a TIFF file that ends within its page directory, libgdiplus makes an image
     /// without pages, and dereferences a null pointer on any query of it.
@@ -116,10 +132,6 @@ private:
                ((width_ < 0 ? GetWidth() : width_) <= longestSide &&
                 (height_ < 0 ? GetHeight() : height_) <= longestSide);
     }
-
-    // From the last query; -1 before it.
-    std::int64_t width_ = -1;
-    std::int64_t height_ = -1;
 };
 
 /// An image of pixels in memory.
@@ -139,13 +151,20 @@ public:
     /// memory. Over PixelFormat32bppARGB, libgdiplus draws on a copy, which replaces the
     /// memory's pixels when the bitmap is locked: what the host wrote there in the
     /// meantime is lost.
+    ///
+    /// One of more than 2 147 483 647 bytes (four a pixel) is
+    /// OutOfMemory: libgdiplus, which counts them in 32 bits, would end the program.
     Bitmap(INT width, INT height, INT stride, PixelFormat format, BYTE* scan0) {
-        const Status memory = CheckMemory(width, stride, format, scan0);
+        const Status memory = CheckMemory(width, height, stride, format, scan0);
         GpBitmap* bitmap = nullptr;
         SetStatus(memory != Ok ? memory
                                : DllExports::GdipCreateBitmapFromScan0(
                                      width, height, stride, format, scan0, &bitmap));
         native_ = bitmap;
+        if (bitmap != nullptr) {
+            width_ = width;
+            height_ = height;
+        }
     }
 
     /// One pixel; InvalidParameter outside the bitmap.
@@ -171,17 +190,46 @@ public:
     }
 
     /// Gives access to the pixels of an area until UnlockBits; null for the whole bitmap.
+    /// An indexed format must be the bitmap's own; more than 2 147 483 647 bytes are
+    /// OutOfMemory.
     Status LockBits(const Rect* area, UINT mode, PixelFormat format, BitmapData* data) {
-        return SetStatus(
-            DllExports::GdipBitmapLockBits(Pixels(), area, mode, format, data));
+        const Status access = CheckAccess(area, format);
+        return SetStatus(access != Ok ? access
+                                      : DllExports::GdipBitmapLockBits(
+                                            Pixels(), area, mode, format, data));
     }
     Status UnlockBits(BitmapData* data) {
         return SetStatus(DllExports::GdipBitmapUnlockBits(Pixels(), data));
     }
 
 private:
-    static Status CheckMemory(INT width, INT stride, PixelFormat format,
+    /// Whether the bytes of so many pixels, four for each whatever the format, are
+    /// counted in 32 bits. What is no size is for GDI+ to refuse.
+    static bool IsCountable(std::int64_t width, std::int64_t height) {
+        constexpr std::int64_t most = 2147483647;
+        return width <= 0 || height <= 0 || 4 * width <= most / height;
+    }
+
+    Status CheckAccess(const Rect* area, PixelFormat format) {
+        if (native_ == nullptr) {
+            return Ok;  // to be refused
+        }
+        if (IsIndexedPixelFormat(format) && format != GetPixelFormat()) {
+            return InvalidParameter;
+        }
+        constexpr INT all = 2147483647;
+        const std::int64_t width = std::min<std::int64_t>(
+            width_ < 0 ? GetWidth() : width_, area == nullptr ? all : area->Width);
+        const std::int64_t height = std::min<std::int64_t>(
+            height_ < 0 ? GetHeight() : height_, area == nullptr ? all : area->Height);
+        return IsCountable(width, height) ? Ok : OutOfMemory;
+    }
+
+    static Status CheckMemory(INT width, INT height, INT stride, PixelFormat format,
                               const BYTE* scan0) {
+        if (!IsCountable(width, height)) {
+            return OutOfMemory;
+        }
         if (scan0 == nullptr) {
             return Ok;
         }

@@ -141,6 +141,61 @@ TEST(CallersMemory, IsNotWrittenPastItsEnd) {
     }
 }
 
+struct SizeRow {
+    INT width;
+    INT height;
+    Status status;
+};
+
+// libgdiplus counts bytes in 32 bits, and ended the program over these.
+TEST(VastBitmap, IsRefusedAndItsPixelsToo) {
+    const SizeRow rows[] = {{32768, 1, Ok},
+                            {1, 65536, Ok},
+                            {536870912, 1, OutOfMemory},
+                            {INT_MAX, 1, OutOfMemory},
+                            {INT_MAX, INT_MAX, OutOfMemory},
+                            {1, INT_MIN, InvalidParameter}};
+    for (const SizeRow& row : rows) {
+        for (const PixelFormat format :
+             {PixelFormat1bppIndexed, PixelFormat8bppIndexed, PixelFormat24bppRGB,
+              PixelFormat32bppARGB, PixelFormat32bppPARGB}) {
+            SCOPED_TRACE(row.width);
+            Bitmap bitmap(row.width, row.height, format);
+            EXPECT_EQ(bitmap.GetLastStatus(), row.status);
+            bitmap.SetPixel(row.width - 1, 0, Color(0xFF010203));
+            BitmapData data = {};
+            const bool isIndexed = IsIndexedPixelFormat(format) != 0;
+            const UINT mode = isIndexed ? ImageLockModeRead : ImageLockModeWrite;
+            const Status locked = bitmap.LockBits(nullptr, mode, format, &data);
+            EXPECT_EQ(locked, row.status == Ok ? Ok : InvalidParameter);
+            if (locked == Ok) {
+                EXPECT_EQ(bitmap.UnlockBits(&data), Ok);
+            }
+            const PixelFormat other =
+                isIndexed ? PixelFormat4bppIndexed : PixelFormat8bppIndexed;
+            EXPECT_EQ(bitmap.LockBits(nullptr, ImageLockModeWrite, other, &data),
+                      InvalidParameter);
+        }
+    }
+}
+
+TEST(EncoderParameter, WithoutAValueIsRefused) {
+    Bitmap bitmap(4, 4);
+    const std::wstring name =
+        std::filesystem::path(::testing::TempDir() + "without_value").wstring();
+    for (const DWORD codec :
+         {0x557CF400u, 0x557CF401u, 0x557CF402u, 0x557CF405u, 0x557CF406u}) {
+        const CLSID encoder = {
+            codec, 0x1A04, 0x11D3, {0x9A, 0x73, 0, 0, 0xF8, 0x1E, 0xF3, 0x2E}};
+        for (const ULONG type : {1u, 3u, 4u, 6u}) {
+            const EncoderParameters parameters = {1,
+                                                  {{EncoderQuality, 1, type, nullptr}}};
+            EXPECT_EQ(bitmap.Save(name.c_str(), &encoder, &parameters), InvalidParameter);
+        }
+    }
+    EXPECT_FALSE(std::filesystem::exists(std::filesystem::path(name)));
+}
+
 struct FontRow {
     REAL size;
     Unit unit;
