@@ -62,7 +62,7 @@ struct DrawnPage {
         const double x = asked.shown.MiddleX();
         const double y = asked.shown.MiddleY();
         double less = 0.0;
-        double more = asked.extent.Width() * 1000.0;
+        double more = asked.extent.Width() * 2.0;  // farther, the way around is shorter
         for (int i = 0; i < 100; ++i) {
             const double span = (less + more) / 2.0;
             const auto length = earth.Distance({x - span / 2.0, y}, {x + span / 2.0, y});
