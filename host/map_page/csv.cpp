@@ -1,9 +1,11 @@
 #include "map_page/csv.h"
 
+#include <algorithm>
 #include <string_view>
 #include <utility>
 
 #include "map_page/error.h"
+#include "system/utf8.h"
 
 namespace map_page {
 namespace {
@@ -18,6 +20,7 @@ public:
     }
 
     std::vector<CsvRecord> Read() {
+        CheckCharacters();
         std::vector<CsvRecord> records;
         while (!m_rest.empty()) {
             if (!TakeLineEnd()) {
@@ -28,6 +31,22 @@ public:
     }
 
 private:
+    void CheckCharacters() const {
+        std::size_t line = 1;
+        for (std::size_t at = 0; at < m_rest.size(); ++line) {
+            const std::size_t end = std::min(m_rest.find('\n', at), m_rest.size());
+            const std::string text(m_rest.substr(at, end - at));
+            std::wstring wide;
+            if (text.find('\0') != std::string::npos) {
+                Fail(line, "has a zero byte");
+            }
+            if (!host::Widen(text, wide)) {
+                Fail(line, "is not valid UTF-8");
+            }
+            at = end + 1;
+        }
+    }
+
     CsvRecord ReadRecord() {
         CsvRecord record;
         record.line = m_line;

@@ -150,10 +150,21 @@ std::vector<std::string> ColumnsWithoutUse(const SeriesList& list) {
     return columns;
 }
 
+/// One folder that is missing is no row's fault.
+void CheckFolder(const std::string& output) {
+    const std::size_t slash = output.rfind('/');
+    const std::string folder =
+        slash == std::string::npos ? "." : output.substr(0, slash + 1);
+    if (folder.find('{') == std::string::npos && access(folder.c_str(), F_OK) != 0) {
+        throw Error(folder, std::generic_category().message(errno));
+    }
+}
+
 }  // namespace
 
 std::string DrawSeries(const Options& options, const CheckColumns& checkColumns,
                        const DrawOne& draw) {
+    CheckFolder(options.output);
     const std::optional<host::AllowedSources> allowed = AllowedBy(options);
     const SeriesList list =
         ReadSeries(options.series, options.output, allowed ? &*allowed : nullptr);

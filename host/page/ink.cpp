@@ -6,6 +6,7 @@
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
+#include <new>
 
 #include "page/element_drawing.h"
 #include "page/placed_frame.h"
@@ -85,7 +86,11 @@ InkBox Look(const Reach& reach, double scale, Drawing draw) {
     const int width = reach.left + reach.right;
     const int height = reach.up + reach.down;
     Gdiplus::Bitmap bitmap(width, height, kFormat);
-    if (bitmap.GetLastStatus() != Gdiplus::Ok) {
+    const Gdiplus::Status made = bitmap.GetLastStatus();
+    if (made == Gdiplus::OutOfMemory) {
+        throw std::bad_alloc();
+    }
+    if (made != Gdiplus::Ok) {
         return {};
     }
     {

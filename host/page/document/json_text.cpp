@@ -125,6 +125,11 @@ json ParseJson(const std::string& text) {
     if (text.size() > kMostJsonBytes) {
         throw PageError("", "has over 16 MB");
     }
+    // The parser would take it for the end of the text.
+    const std::size_t zero = text.find('\0');
+    if (zero != std::string::npos) {
+        throw PageError(LineAndColumn(text, zero + 1), "is a zero byte");
+    }
     Watch watch;
     try {
         return json::parse(text, [&watch](int, json::parse_event_t event, json& parsed) {

@@ -4,6 +4,7 @@
 
 #include "page/document/map_on_page.h"
 #include "page/document/page_text.h"
+#include "page/document/unused_changes.h"
 #include "page/layout/layout.h"
 #include "page/layout/page_remarks.h"
 #include "page/map/map_layers.h"
@@ -56,8 +57,10 @@ OpenedPage OpenPageFile(const std::string& path, const AllowedSources* allowed,
             beforeRasters(page);
         }
         auto rasters = std::make_unique<RasterStore>();
+        std::vector<std::string> told = RemarksOfUnused(changes, page);
         const std::vector<std::string> untrue = OpenChanged(page, changes, *rasters);
-        std::vector<std::string> remarks = AllRemarks(page, untrue);
+        told.insert(told.end(), untrue.begin(), untrue.end());
+        std::vector<std::string> remarks = AllRemarks(page, told);
         return OpenedPage{std::move(rasters), std::move(page), std::move(remarks)};
     });
 }

@@ -59,6 +59,8 @@ TEST(Csv, TellsTheLineOfWhatIsWrong) {
         {"a\n\nb\"c\"", "line 3: has text beside quotes"},
         {"\"a\"b", "line 1: has text beside quotes"},
         {"\"a\" ,b", "line 1: has text beside quotes"},
+        {"a,b\nc,\xFF\xFE\n", "line 2: is not valid UTF-8"},
+        {std::string("a\n\nb\0c\n", 7), "line 3: has a zero byte"},
     };
     for (const WrongRow& row : rows) {
         std::string error;

@@ -3,8 +3,10 @@
 
 #include <gtest/gtest.h>
 #include <sys/resource.h>
+#include <unistd.h>
 
 #include <algorithm>
+#include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <string>
@@ -105,6 +107,50 @@ TEST_F(HonestStatus, OfDescriptorsAndMemoryThatRunOut) {
         tryWith(RLIMIT_AS, megabytes << 20);
     }
 #endif
+}
+
+TEST_F(HonestStatus, OfColumnsThatThePageHasNothingFor) {
+    host_tests::WriteFile(
+        folder.Path("page.json"),
+        R"({"version": 2, "width": 300, "height": 200, "elements": []})");
+    host_tests::WriteFile(folder.Path("list.csv"),
+                          "name,rasters,extent\npage,data/scene.tif,0 0 1 1\n");
+    const Result result = Run({"page.json", "--series", "list.csv", "-o", "{name}.png"});
+    EXPECT_EQ(result.status, 0);
+    const std::string line = "map_page: warning: list.csv: line 2: the page has no map ";
+    EXPECT_EQ(result.err, line + "or legend that shows the rasters\n" + line +
+                              "whose extent, scale or colours change\n");
+}
+
+// Ghostscript would go on for as long as its drawing takes.
+TEST_F(HonestStatus, OfAProgramThatIsGoneEndsGhostscriptToo) {
+    fs::create_directory(folder.Path("bin"));
+    host_tests::WriteFile(folder.Path("bin/gs"),
+                          "#!/bin/sh\necho $$ > started.part\nmv started.part started\n"
+                          "exec sleep 1000\n");
+    fs::permissions(folder.Path("bin/gs"), fs::perms::owner_all);
+    for (const int signal : {SIGKILL, SIGTERM, SIGINT}) {
+        fs::remove(folder.Path("started"));
+        const RunningMapPage running(
+            folder, {"data/scene.tif", "-o", "page.pdf"}, [this] {
+                setenv("PATH", (folder.Path("bin:") + getenv("PATH")).c_str(), 1);
+            });
+        pid_t process = 0;
+        for (int tries = 0; process == 0 && tries < 2000; ++tries) {
+            usleep(10'000);
+            process = std::atoi(ContentsOf(folder.Path("started")).c_str());
+        }
+        ASSERT_GT(process, 0);
+        kill(running.Process(), signal);
+        EXPECT_EQ(running.Wait().status, 128 + signal);
+        bool isThere = true;
+        for (int tries = 0; isThere && tries < 500; ++tries) {
+            usleep(10'000);
+            isThere = kill(process, 0) == 0;
+        }
+        EXPECT_FALSE(isThere) << signal;
+        kill(process, isThere ? SIGKILL : 0);
+    }
 }
 
 }  // namespace

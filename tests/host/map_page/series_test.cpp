@@ -199,6 +199,8 @@ struct WrongRow {
 TEST_F(Series, TellsAListThatIsNoneBeforeDrawing) {
     const WrongRow rows[] = {
         {"", "out/{name}.png", "list.csv: has no first row with the names of columns"},
+        {"name\na\nb\n", "none/{name}.png", "none/: No such file or directory"},
+        {"name\na\n\xFF\n", "out/{name}.png", "list.csv: line 3: is not valid UTF-8"},
         {"name,\na,b\n", "out/{name}.png",
          "list.csv: line 1: has a column without a name"},
         {"name,name\na,b\n", "out/{name}.png",

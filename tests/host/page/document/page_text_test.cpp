@@ -51,6 +51,7 @@ TEST_F(PageText, WrongPagesAreToldInOneLineThatNamesThePlace) {
         {"{\n  \"version\": 1,\n  \"width\" 5\n}",
          "line 3, column 11: is not valid JSON: unexpected number literal; "
          "expected ':'"},
+        {std::string("{\"version\": 1}\n\0", 16), "line 2, column 1: is a zero byte"},
         {"{\"version\": 1} x", "line 1, column 16: is not valid JSON: invalid literal"},
         {deep,
          "[0][0][0][0][0][0][0][0][0][0][0][0][0][0][0][0]: nests more than 16 "

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "page/document/page_changes.h"
+
+namespace host {
+
+/// What of the changes a page has nothing for, one line each: rasters, where it has no
+/// map or legend.
+std::vector<std::string> RemarksOfUnused(const PageChanges& changes, const Page& page);
+
+}  // namespace host
