@@ -12,15 +12,16 @@ namespace fuzz {
 
 /// A raster that answers every question straight from the input: null where something
 /// should be, counts that have nothing to do with what there is, another answer each time
-/// it is asked. Once the input is used up it is not available.
-class Source : public CRasterSource {
+/// it is asked. Once the input is used up it is not available. It is its own band, table
+/// and class.
+class Source : public CRasterSource,
+               private CRasterBand,
+               private CClassifyDisplayTable,
+               private CClassifyDisplayItem {
 public:
     /// @param whenAsked what else happens when the legend turns to this source
     Source(Input& input, std::function<void()> whenAsked)
-        : m_input(input),
-          m_whenAsked(std::move(whenAsked)),
-          m_band(input),
-          m_table(input) {}
+        : m_input(input), m_whenAsked(std::move(whenAsked)) {}
 
     bool IsAvailable() override {
         if (m_input.Choice(8) == 1) {
@@ -40,62 +41,31 @@ public:
     int GetRedBandNum() override { return m_input.Whole(); }
     int GetGreenBandNum() override { return m_input.Whole(); }
     int GetBlueBandNum() override { return m_input.Whole(); }
-    CRasterBand* GetRasterBand(int) override {
-        return m_input.Flag() ? &m_band : nullptr;
-    }
+    CRasterBand* GetRasterBand(int) override { return m_input.Flag() ? this : nullptr; }
     CClassifyDisplayTable* GetClassifyDisplayTable() override {
-        return m_input.Choice(8) == 0 ? nullptr : &m_table;
+        return m_input.Choice(8) == 0 ? nullptr : this;
     }
 
 private:
-    class Band : public CRasterBand {
-    public:
-        explicit Band(Input& input) : m_input(input) {}
-
-        bool ComputeMinMax(double* min, double* max, bool) override {
-            if (m_input.Flag()) {
-                *min = m_input.Real<double>();
-                *max = m_input.Real<double>();
-            }
-            return m_input.Flag();
+    bool ComputeMinMax(double* min, double* max, bool) override {
+        if (m_input.Flag()) {
+            *min = m_input.Real<double>();
+            *max = m_input.Real<double>();
         }
-
-    private:
-        Input& m_input;
-    };
-
-    class Item : public CClassifyDisplayItem {
-    public:
-        explicit Item(Input& input) : m_input(input) {}
-
-        std::wstring GetLable() override { return m_input.Text(); }
-        void GetColor(unsigned char& red, unsigned char& green, unsigned char& blue,
-                      unsigned char& fourth) override {
-            red = green = blue = fourth = static_cast<unsigned char>(m_input.Choice(256));
-        }
-
-    private:
-        Input& m_input;
-    };
-
-    class Table : public CClassifyDisplayTable {
-    public:
-        explicit Table(Input& input) : m_input(input), m_item(input) {}
-
-        int GetClassesCount() override { return m_input.Whole(); }
-        CClassifyDisplayItem* GetClassifyItem(int) override {
-            return m_input.Choice(8) == 0 ? nullptr : &m_item;
-        }
-
-    private:
-        Input& m_input;
-        Item m_item;
-    };
+        return m_input.Flag();
+    }
+    int GetClassesCount() override { return m_input.Whole(); }
+    CClassifyDisplayItem* GetClassifyItem(int) override {
+        return m_input.Choice(8) == 0 ? nullptr : this;
+    }
+    std::wstring GetLable() override { return m_input.Text(); }
+    void GetColor(unsigned char& red, unsigned char& green, unsigned char& blue,
+                  unsigned char& fourth) override {
+        red = green = blue = fourth = static_cast<unsigned char>(m_input.Choice(256));
+    }
 
     Input& m_input;
     std::function<void()> m_whenAsked;
-    Band m_band;
-    Table m_table;
 };
 
 }  // namespace fuzz

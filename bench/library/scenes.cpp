@@ -4,6 +4,7 @@
 
 #include "legend/fake_sources.h"
 #include "map_surround/map_surround.h"
+#include "page/catalogue.h"
 
 namespace bench {
 namespace {
@@ -57,73 +58,59 @@ Named Legend(const char* name, std::vector<fakes::Raster> rasters) {
     return {name, std::make_shared<LegendOfRasters>(std::move(rasters))};
 }
 
-Named Title() {
-    auto title = std::make_shared<CMapTitle>();
-    title->SetFontValue(L"Land cover of Olinda");
-    title->SetFontStyle(L"Arial");
-    title->SetFontSize(40.0);
-    title->SetFrontColor(kInk);
-    title->ResetAspectRatio();
-    return {"title", title};
-}
-
-Named Picture() {
-    const std::string path = BENCH_PICTURE;
-    auto picture = std::make_shared<CDrawPicture>();
-    picture->Open(std::wstring(path.begin(), path.end()).c_str());
-    picture->SetSize(120);
-    picture->ResetAspectRatio();
-    return {"picture", picture};
-}
-
-template <typename Arrow>
-Named NorthArrow(const char* name) {
-    auto arrow = std::make_shared<Arrow>();
-    arrow->SetSize(120);
-    arrow->SetAngle(20.0f);
-    arrow->SetFrontColor(kInk);
-    return {name, arrow};
-}
-
 /// Divisions are whole pixels at the scale.
-template <typename Bar>
-Named ScaleBar(const char* name, double scale, int divisions = 4) {
+void SetUp(CScaleBarBase& bar, double scale, int divisions) {
     constexpr double kDivision = 36.0;
-    auto bar = std::make_shared<Bar>();
-    bar->SetFrontColor(kInk);
-    bar->SetUnitsName(L"Kilometre");
-    bar->SetMainDivCount(divisions);
-    bar->SetPaper2DataScale(0.5);
-    bar->SetPaper2ScreenScale(kDivision * scale);
-    bar->SetScreen2PaperByOneScale(kDivision);
-    bar->ResetAspectRatio();
-    return {name, bar};
+    bar.SetUnitsName(L"Kilometre");
+    bar.SetMainDivCount(divisions);
+    bar.SetPaper2DataScale(0.5);
+    bar.SetPaper2ScreenScale(kDivision * scale);
+    bar.SetScreen2PaperByOneScale(kDivision);
+}
+
+Named Usual(const host::CatalogueEntry& entry, double scale, int divisions = 4) {
+    const std::shared_ptr<CMapSurround> element = entry.make();
+    element->SetFrontColor(kInk);
+    if (auto* const title = dynamic_cast<CMapTitle*>(element.get())) {
+        title->SetFontValue(L"Land cover of Olinda");
+        title->SetFontStyle(L"Arial");
+        title->SetFontSize(40.0);
+    } else if (auto* const picture = dynamic_cast<CDrawPicture*>(element.get())) {
+        const std::string path = BENCH_PICTURE;
+        picture->Open(std::wstring(path.begin(), path.end()).c_str());
+        picture->SetSize(120);
+    } else if (auto* const bar = dynamic_cast<CScaleBarBase*>(element.get())) {
+        SetUp(*bar, scale, divisions);
+    } else {
+        element->SetSize(120);
+        element->SetAngle(20.0f);
+    }
+    element->ResetAspectRatio();
+    return {entry.name, element};
 }
 
 std::vector<Named> Elements(double scale) {
-    return {
-        Title(),
-        Picture(),
-        NorthArrow<CNorthArrowOneAngle>("north arrow, one angle"),
-        NorthArrow<CNorthArrowTwoAngle>("north arrow, two angles"),
-        NorthArrow<CNorthArrowFourAngle>("north arrow, four angles"),
-        NorthArrow<CNorthArrowEightAngle>("north arrow, eight angles"),
-        ScaleBar<CScaleLine>("scale bar, line", scale),
-        ScaleBar<CSteppedScaleLine>("scale bar, stepped", scale),
-        ScaleBar<CScaleLine2>("scale bar, line 2", scale),
-        ScaleBar<CScaleLine3>("scale bar, line 3", scale),
-        ScaleBar<CScaleAlternate>("scale bar, alternating", scale),
-        ScaleBar<CScaleEquAltenate>("scale bar, equal boxes", scale),
-        Legend("legend, three bands", {Rgb()}),
-        Legend("legend, grey", {Grey()}),
-        Legend("legend, 12 classes", {Classified(12)}),
-        Legend("legend, all three", {Rgb(), Grey(), Classified(12)}),
-        // What the library does itself would show here if it grew faster than its calls.
-        ScaleBar<CScaleLine>("scale bar, 1000 divisions", scale, kMany),
-        ScaleBar<CScaleAlternate>("alternating, 1000 divisions", scale, kMany),
-        Legend("legend, 1000 classes", {Classified(kMany)}),
-        Legend("legend, 1000 sources", std::vector<fakes::Raster>(kMany, Rgb())),
-    };
+    std::vector<Named> elements;
+    for (const host::CatalogueEntry& entry : host::kCatalogue) {
+        if (entry.family != SurroundLegend) {
+            elements.push_back(Usual(entry, scale));
+        }
+    }
+    elements.push_back(Legend("legend, three bands", {Rgb()}));
+    elements.push_back(Legend("legend, grey", {Grey()}));
+    elements.push_back(Legend("legend, 12 classes", {Classified(12)}));
+    elements.push_back(Legend("legend, all three", {Rgb(), Grey(), Classified(12)}));
+    // What the library does itself would show here if it grew faster than its calls.
+    for (const host::CatalogueEntry& entry : host::kCatalogue) {
+        if (entry.is(CScaleLine()) || entry.is(CScaleAlternate())) {
+            elements.push_back(Usual(entry, scale, kMany));
+            elements.back().name += ", 1000 divisions";
+        }
+    }
+    elements.push_back(Legend("legend, 1000 classes", {Classified(kMany)}));
+    elements.push_back(
+        Legend("legend, 1000 sources", std::vector<fakes::Raster>(kMany, Rgb())));
+    return elements;
 }
 
 CFrameBase DecoratedFrame() {

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cmath>
 #include <cstring>
 #include <limits>
@@ -179,19 +180,6 @@ TEST(DrawFrame, DropsTheShadowByItsRatios) {
     }
 }
 
-// 0.7 as a float is a little less; times 10 and times 50 it is rounded to 7 and 35 as a
-// float, where a double would stay below and lose a pixel.
-TEST(DrawFrame, TruncatesTheShadowsFallAsAFloat) {
-    CFrameBase frame = ColouredFrame();
-    frame.DrawShadow = true;
-    frame.BorderWidth = 1.0f;
-    frame.ShadowRatioX = frame.ShadowRatioY = 0.7f;
-    const std::string brush = BrushLook(kShadow);
-    const std::vector<std::string> lines = FrameTrace(frame, CRect(0, 0, 50, 10));
-    EXPECT_EQ(lines.at(1), FillRectangle(brush, 50 + 1, 7 + 1, 35 + 1, 10 + 1));
-    EXPECT_EQ(lines.at(2), FillRectangle(brush, 35 + 1, 10 + 1, 50 + 1, 7 + 1));
-}
-
 TEST(DrawFrame, DrawsTheNextBorderTransparentAfterAShadowThatFallsNowhere) {
     CFrameBase frame = ColouredFrame();
     frame.DrawBorder = true;
@@ -247,35 +235,49 @@ TEST(DrawFrame, KeepsRectanglesWithin32Bits) {
     }
 }
 
-TEST(DrawFrame, DropsTheShadowOfAHugeRectangleInFloats) {
+struct FallRow {
+    CRect rect;
+    float ratioX, ratioY;
+    std::array<float, 4> right, bottom;
+};
+
+TEST(DrawFrame, DropsTheShadowInFloats) {
+    const int low = kLowest;
+    const int top = kHighest;
     const float side = 4294967296.0f;  // 2^32 - 1, as a float
     const float edge = 2147483648.0f;  // 2^31 - 1, as a float
-    CFrameBase frame = ColouredFrame();
-    frame.DrawShadow = true;
-    frame.BorderWidth = 0.0f;
-    frame.ShadowRatioX = 0.25f;  // 2^30 to the right
-    frame.ShadowRatioY = 1.0f;   // 2^32 down, which moves the edge by 2^31 - 1 at most
+    const FallRow rows[] = {
+        // 0.7 as a float is a little less; times 10 and times 50 it is rounded to 7 and
+        // 35, where a double would stay below and lose a pixel.
+        {CRect(0, 0, 50, 10), 0.7f, 0.7f, {50, 7, 35, 10}, {35, 10, 50, 7}},
+        // 2^30 to the right, and 2^32 down, which moves the edge by 2^31 - 1 at most.
+        {CRect(low, low, top, top),
+         0.25f,
+         1.0f,
+         {edge, -1, side / 4, side},
+         {-edge / 2, edge, side, side}},
+        // The strips begin at 2^31 - 101 and four times 100 further: 2^31 + 299, of which
+        // a float keeps 2^31 + 256.
+        {CRect(top - 100, top - 100, top, top),
+         4.0f,
+         4.0f,
+         {edge, edge + 256, 400, 100},
+         {edge + 256, edge, 100, 400}},
+    };
     const std::string brush = BrushLook(kShadow);
-    const std::vector<std::string> lines =
-        FrameTrace(frame, CRect(kLowest, kLowest, kHighest, kHighest));
-    EXPECT_EQ(lines.at(1), FillRectangle(brush, edge, -1.0f, side / 4, side));
-    EXPECT_EQ(lines.at(2), FillRectangle(brush, -edge / 2, edge, side, side));
-}
-
-// The strips begin at 2^31 - 101 and four times 100 further: 2^31 + 299, of which a float
-// keeps 2^31 + 256.
-TEST(DrawFrame, DropsTheShadowBeyond32Bits) {
-    CFrameBase frame = ColouredFrame();
-    frame.DrawShadow = true;
-    frame.BorderWidth = 0.0f;
-    frame.ShadowRatioX = frame.ShadowRatioY = 4.0f;
-    const float begin = 2147483904.0f;
-    const float edge = 2147483648.0f;  // 2^31 - 1, as a float
-    const std::string brush = BrushLook(kShadow);
-    const std::vector<std::string> lines =
-        FrameTrace(frame, CRect(kHighest - 100, kHighest - 100, kHighest, kHighest));
-    EXPECT_EQ(lines.at(1), FillRectangle(brush, edge, begin, 400, 100));
-    EXPECT_EQ(lines.at(2), FillRectangle(brush, begin, edge, 100, 400));
+    for (const FallRow& row : rows) {
+        CFrameBase frame = ColouredFrame();
+        frame.DrawShadow = true;
+        frame.BorderWidth = 0.0f;
+        frame.ShadowRatioX = row.ratioX;
+        frame.ShadowRatioY = row.ratioY;
+        const std::vector<std::string> lines = FrameTrace(frame, row.rect);
+        const auto strip = [&brush](const std::array<float, 4>& box) {
+            return FillRectangle(brush, box[0], box[1], box[2], box[3]);
+        };
+        EXPECT_EQ(lines.at(1), strip(row.right));
+        EXPECT_EQ(lines.at(2), strip(row.bottom));
+    }
 }
 
 TEST(DrawFrame, CoversTheShadowWithTheFill) {

@@ -205,26 +205,6 @@ TEST(ScaleBarBase, ResetsTheAspectRatioToTheDivisionsAndMargins) {
     }
 }
 
-// Where the margins are added in single precision the last bit tells.
-TEST(ScaleBarBase, AddsEachMarginInSinglePrecision) {
-    for (int size = 1; size < 2000; ++size) {
-        CScaleAlternate bar;
-        bar.SetPaper2DataScale(37.0);
-        bar.SetScreen2PaperByOneScale(12.3);
-        bar.SetMainDivCount(7);
-        bar.SetSize(size);
-        bar.ResetAspectRatio();
-
-        const float S = static_cast<float>(size);
-        const float margins[] = {S / 5.0f, S / 40.0f, S * 2.0f / 3.0f, S / 40.0f};
-        double width = 7.0f * 12.3 * (30.0 / 37.0);
-        for (const float margin : margins) {
-            width = width + margin;
-        }
-        ASSERT_EQ(bar.GetAspectRatio(), static_cast<float>(width) / S) << size;
-    }
-}
-
 struct SumRow {
     const char* why;
     int size;
