@@ -36,6 +36,12 @@ function(keep_classes names)
 endfunction()
 
 file(STRINGS ${NAMES} expected)
+# With a table of functions comes what tells its class at run time.
+foreach(name IN LISTS expected)
+  if(name MATCHES "^vtable for (.*)$")
+    list(APPEND expected "typeinfo for ${CMAKE_MATCH_1}" "typeinfo name for ${CMAKE_MATCH_1}")
+  endif()
+endforeach()
 if(OBJDUMP)
   keep_classes(exported)
   keep_classes(expected)
