@@ -6,6 +6,8 @@
 #include <memory>
 #include <type_traits>
 
+#include "map_surround/legend.h"
+#include "map_surround/north_arrow.h"
 #include "map_surround/picture.h"
 #include "map_surround/title.h"
 #include "recording/expect.h"
@@ -33,7 +35,12 @@ TEST(Element, HasTheDefaultsOfItsKind) {
     const Row rows[] = {
         {"plain", std::make_unique<Plain>(), 5.8f, 0},
         {"title", std::make_unique<CMapTitle>(), 5.0f, 3},
+        {"legend", std::make_unique<CMapLegend>(), 5.8f, 4},
         {"picture", std::make_unique<CDrawPicture>(), 5.8f, 5},
+        {"one angle", std::make_unique<CNorthArrowOneAngle>(), 1.0f, 1},
+        {"two angles", std::make_unique<CNorthArrowTwoAngle>(), 1.0f, 1},
+        {"four angles", std::make_unique<CNorthArrowFourAngle>(), 0.8f, 1},
+        {"eight angles", std::make_unique<CNorthArrowEightAngle>(), 1.0f, 1},
     };
     for (const Row& row : rows) {
         EXPECT_EQ(row.element->GetFrontColor().GetValue(), 0xFF000000) << row.name;

@@ -2,6 +2,7 @@
 
 #include <iterator>
 #include <limits>
+#include <utility>
 
 #include "map_surround/frame.h"
 
@@ -113,37 +114,24 @@ TEST(HitTest, TakesTheFirstHandleOfANarrowFrame) {
 }
 
 TEST(HitTest, AnswersForStrangeExtents) {
-    struct Extent {
-        const char* name;
-        CBoundingBox box;
-        Row row;
+    const CBoundingBox point(5, 5, 5, 5);
+    const CBoundingBox noNumber(kNaN, 0, 9, 9);
+    // Each handle is at an infinity or nowhere.
+    const CBoundingBox endless(-kInfinity, -kInfinity, kInfinity, kInfinity);
+    const CBoundingBox wide(-1.7e308, 0, 1.7e308, 10);  // wider than a double
+    const std::pair<CBoundingBox, Row> rows[] = {
+        {CBoundingBox(), {"default", 0, 0, kInfinity, false, TopoDisjoint, -1}},
+        {CBoundingBox(), {"default, its edge", 1, 1, 9, true, TopoDisjoint, -1}},
+        {point, {"a point", 5, 5, 0, false, TopoOnHandle, 0}},
+        {noNumber, {"no number", 5, 5, 9, false, TopoDisjoint, -1}},
+        {endless, {"endless", 0, 0, 1e300, false, TopoWithin, -1}},
+        {endless, {"endless, inside only", 0, 0, 0, true, TopoWithin, -1}},
+        {wide, {"wide", 0, 5, 9, false, TopoWithin, -1}},
+        {CBoundingBox(9, 0, 0, 9), {"other corners", 0, 9, 1, false, TopoOnHandle, 0}},
     };
-    const Extent extents[] = {
-        {"default", CBoundingBox(), {"", 0, 0, kInfinity, false, TopoDisjoint, -1}},
-        {"default, its edge", CBoundingBox(), {"", 1, 1, 9, true, TopoDisjoint, -1}},
-        {"a point", CBoundingBox(5, 5, 5, 5), {"", 5, 5, 0, false, TopoOnHandle, 0}},
-        {"no number",
-         CBoundingBox(kNaN, 0, 9, 9),
-         {"", 5, 5, 9, false, TopoDisjoint, -1}},
-        // Each handle is at an infinity or nowhere.
-        {"endless",
-         CBoundingBox(-kInfinity, -kInfinity, kInfinity, kInfinity),
-         {"", 0, 0, 1e300, false, TopoWithin, -1}},
-        {"endless, inside only",
-         CBoundingBox(-kInfinity, -kInfinity, kInfinity, kInfinity),
-         {"", 0, 0, 0, true, TopoWithin, -1}},
-        {"wider than a double",
-         CBoundingBox(-1.7e308, 0, 1.7e308, 10),
-         {"", 0, 5, 9, false, TopoWithin, -1}},
-        {"corners in another order",
-         CBoundingBox(9, 0, 0, 9),
-         {"", 0, 9, 1, false, TopoOnHandle, 0}},
-    };
-    for (const Extent& extent : extents) {
+    for (const auto& [extent, row] : rows) {
         CFrameBase frame;
-        frame.SetExtent(extent.box);
-        Row row = extent.row;
-        row.name = extent.name;
+        frame.SetExtent(extent);
         Ask(frame, &row, 1);
     }
 }

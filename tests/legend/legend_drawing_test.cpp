@@ -320,15 +320,12 @@ TEST(LegendDrawing, TheRampAsksTheFirstBandForAnEstimate) {
 }
 
 TEST(LegendDrawing, ABandThatCannotTellItsValuesHasNought) {
+    Square nought;
+    nought.gray.band.lowest = nought.gray.band.highest = 0.0;
+    const std::vector<std::string> drawing = nought.Draw(CPoint(300, 200), 1.0);
     Square square;
     square.gray.band.computable = false;
-    const float x = 172 + 1.8f * 64;
-    std::vector<std::string> drawing = square.Draw(CPoint(300, 200), 1.0);
-    EXPECT_EQ(drawing[9],
-              DrawString(kHighCaption + "0", FontLook("Arial", 10, 4), x, 207, kBlack));
-    EXPECT_EQ(drawing[9 + 254 + 1],
-              DrawString(kLowCaption + "0", FontLook("Arial", 10, 4), x, 206,
-                         BrushLook(0xFF010101)));
+    EXPECT_EQ(square.Draw(CPoint(300, 200), 1.0), drawing);
     square.gray.hasBand = false;
     EXPECT_EQ(square.Draw(CPoint(300, 200), 1.0), drawing);
 }

@@ -79,18 +79,9 @@ TEST(NorthArrowBase, NumbersTheStyles) {
     EXPECT_EQ(NorthArrowEight, 4);
 }
 
-TEST_P(EachArrow, IsFreshWithItsDefaults) {
+TEST_P(EachArrow, HasItsTypeAndKeepsItsAspectRatio) {
     const auto arrow = GetParam().make();
-    EXPECT_EQ(arrow->GetFrontColor().GetValue(), 0xFF000000u);
-    EXPECT_EQ(arrow->GetSize(), 0);
-    EXPECT_EQ(arrow->GetAspectRatio(), GetParam().aspectRatio);
-    EXPECT_EQ(arrow->GetAngle(), 0.0f);
-    EXPECT_EQ(arrow->GetItemType(), SurroundNorthArrow);
     EXPECT_EQ(arrow->GetNorthArrowType(), GetParam().type);
-}
-
-TEST_P(EachArrow, KeepsItsAspectRatio) {
-    const auto arrow = GetParam().make();
     arrow->SetSize(50);
     arrow->ResetAspectRatio();
     EXPECT_EQ(arrow->GetAspectRatio(), GetParam().aspectRatio);

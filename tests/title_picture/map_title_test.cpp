@@ -4,6 +4,7 @@
 
 #include <cmath>
 #include <cstdlib>
+#include <iterator>
 #include <limits>
 
 #include "recording/expect.h"
@@ -101,18 +102,21 @@ TEST(MapTitle, MeasuresTheBoxAroundItsTurnedOutline) {
     }
 }
 
+struct Text {
+    std::wstring text;
+    std::string utf8;
+};
+
+const Text kTexts[] = {
+    {L"Olinda, Brasil", "Olinda, Brasil"},
+    {L"\u56FE\u4F8B", "\xE5\x9B\xBE\xE4\xBE\x8B"},
+    {L"\U0001F5FA \U00020000", "\xF0\x9F\x97\xBA \xF0\xA0\x80\x80"},
+};
+
 TEST(MapTitle, MeasuresEveryText) {
-    struct Row {
-        std::wstring text;
-        std::string utf8;
-    };
-    const Row rows[] = {
-        {L"", ""},
-        {L"Olinda, Brasil", "Olinda, Brasil"},
-        {L"\u6BD4\u4F8B\u5C3A", "\xE6\xAF\x94\xE4\xBE\x8B\xE5\xB0\xBA"},
-        {L"\U0001F5FA \U00020000", "\xF0\x9F\x97\xBA \xF0\xA0\x80\x80"},
-    };
-    for (const Row& row : rows) {
+    std::vector<Text> texts(std::begin(kTexts), std::end(kTexts));
+    texts.push_back({L"", ""});
+    for (const Text& row : texts) {
         CMapTitle title = Title(row.text);
         Recording recording(Mode::RecordOnly);
         recording.ScriptBounds({{0, 0, 8, 4}});
@@ -162,15 +166,6 @@ struct DrawnRow {
 // The outline is 60 x 20 from (1, 3), the centre (200, 150), the em size 15. Where the
 // outline starts does not matter.
 TEST(MapTitle, DrawsItsTextAboutTheCentre) {
-    struct Text {
-        std::wstring text;
-        std::string utf8;
-    };
-    const Text texts[] = {
-        {L"Olinda", "Olinda"},
-        {L"\u56FE\u4F8B", "\xE5\x9B\xBE\xE4\xBE\x8B"},
-        {L"\U0001F5FA map", "\xF0\x9F\x97\xBA map"},
-    };
     const DrawnRow rows[] = {
         {0.5, 200 - 15, 150 - 5, 7.5f},
         {1.0, 200 - 30, 150 - 10, 15.0f},
@@ -180,7 +175,7 @@ TEST(MapTitle, DrawsItsTextAboutTheCentre) {
         // 60 / 6 and 20 / 6 are subtracted as doubles
         {1.0 / 3.0, 190.0f, static_cast<float>(150 - 20 * (1.0 / 3.0) * 0.5), 5.0f},
     };
-    for (const Text& text : texts) {
+    for (const Text& text : kTexts) {
         for (const DrawnRow& row : rows) {
             for (const float angle : {0.0f, 30.0f, 90.0f, -45.0f}) {
                 CMapTitle title = Title(text.text);
