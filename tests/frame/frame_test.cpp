@@ -163,35 +163,20 @@ private:
     Fate& m_fate;
 };
 
-TEST(SurroundFrame, DeletesItsElementOnce) {
-    Fate fate;
-    {
-        CSurroundFrame frame;
-        auto* element = new Probe(fate);
-        frame.SetMapSurround(element);
-        EXPECT_EQ(frame.GetMapSurround(), element);
-        EXPECT_EQ(fate.deleted, 0);
-    }
-    EXPECT_EQ(fate.deleted, 1);
-
-    std::unique_ptr<CFrameBase> base = std::make_unique<CSurroundFrame>();
-    static_cast<CSurroundFrame&>(*base).SetMapSurround(new Probe(fate));
-    base.reset();
-    EXPECT_EQ(fate.deleted, 2) << "through the base";
-}
-
-TEST(SurroundFrame, LeavesAReplacedElementToTheHost) {
+TEST(SurroundFrame, DeletesItsElementOnceAndNoneThatWasReplaced) {
     Fate first;
     Fate second;
     const auto replaced = std::make_unique<Probe>(first);
-    {
-        CSurroundFrame frame;
-        frame.SetMapSurround(replaced.get());
-        frame.SetMapSurround(new Probe(second));
-        EXPECT_EQ(first.deleted, 0);
-    }
+    std::unique_ptr<CFrameBase> base = std::make_unique<CSurroundFrame>();
+    auto& frame = static_cast<CSurroundFrame&>(*base);
+    frame.SetMapSurround(replaced.get());
+    auto* element = new Probe(second);
+    frame.SetMapSurround(element);
+    EXPECT_EQ(frame.GetMapSurround(), element);
+    EXPECT_EQ(second.deleted, 0);
+    base.reset();
     EXPECT_EQ(first.deleted, 0);
-    EXPECT_EQ(second.deleted, 1);
+    EXPECT_EQ(second.deleted, 1) << "through the base";
 }
 
 TEST(SurroundFrame, SharesItsElementWithCopies) {

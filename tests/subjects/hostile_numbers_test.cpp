@@ -23,17 +23,9 @@ constexpr float kNan = std::numeric_limits<float>::quiet_NaN();
 constexpr int kInts[] = {kLowest, -40, -1, 0, 1, kHighest};
 constexpr float kFloats[] = {kNan, -kInfinity, -1e30f, -1.0f, -0.0f,
                              0.0f, 1e-40f,     0.5f,   1e38f, kInfinity};
-constexpr double kDoubles[] = {kNan,
-                               -kInfinity,
-                               -std::numeric_limits<double>::max(),
-                               -1e300,
-                               -1.0,
-                               0.0,
-                               1e-300,
-                               1.0 / 3.0,
-                               1e9,
-                               std::numeric_limits<double>::max(),
-                               kInfinity};
+constexpr double kMost = std::numeric_limits<double>::max();
+constexpr double kDoubles[] = {kNan,   -kInfinity, -kMost, -1e300, -1.0,     0.0,
+                               1e-300, 1.0 / 3.0,  1e9,    kMost,  kInfinity};
 
 /// Numbers for the properties that only a class has.
 struct Own {
