@@ -1,7 +1,6 @@
 // A page with a map and twelve elements at 1600 x 1131 pixels, of which one is dragged.
 
 #include <benchmark/benchmark.h>
-#include <gdiplus.h>
 
 #include <memory>
 #include <variant>
@@ -41,15 +40,6 @@ void RedrawWhatMoved(benchmark::State& state) {
     }
 }
 
-void WholePage(benchmark::State& state) {
-    const host::Page page = host_tests::TwelveElements();
-    host::PageImage image(host::PixelSize(page, kDpi));
-    Gdiplus::Graphics graphics(&image.Bitmap());
-    while (state.KeepRunning()) {
-        page.Draw(graphics, kDpi);
-    }
-}
-
 void Repeat(benchmark::internal::Benchmark* bench) {
     bench->Unit(benchmark::kMillisecond)->Repetitions(5)->ReportAggregatesOnly();
 }
@@ -59,7 +49,6 @@ void EachElement(benchmark::internal::Benchmark* bench) {
     bench->ArgName("item")->DenseRange(1, 12);
 }
 
-BENCHMARK(WholePage)->Apply(Repeat);
 BENCHMARK(RedrawAll)->Apply(Repeat)->Arg(1);
 BENCHMARK(RedrawWhatMoved)->Apply(EachElement);
 
