@@ -201,18 +201,18 @@ struct RectRow {
 TEST(DrawFrame, KeepsRectanglesWithin32Bits) {
     const int low = kLowest;
     const int top = kHighest;
-    const CRect small(0, 0, 10, 10);
+    const CRect box(0, 0, 10, 10);
     const CRect plane(low, low, top, top);
     const RectRow rows[] = {
         {"empty", CRect(5, 6, 5, 6), 0, 0, 5, 6, 0, 0},
         {"inside out", CRect(110, 70, 10, 20), 0, 0, 110, 70, -100, -50},
         {"gaps inwards", CRect(10, 20, 110, 70), -3, -4, 13, 24, 94, 42},
-        {"gaps wider than the rectangle", small, -20, -30, 20, 30, -30, -50},
+        {"gaps wider than the rectangle", box, -20, -30, 20, 30, -30, -50},
         {"the whole plane", plane, 0, 0, low, low, top, top},
         {"the plane, inside out", CRect(top, top, low, low), 0, 0, top, top, low, low},
-        {"huge gaps", small, top, top, -top, -top, top, top},
+        {"huge gaps", box, top, top, -top, -top, top, top},
         {"huge gaps at the corner", CRect(-10, -10, 0, 0), top, top, low, low, top, top},
-        {"huge gaps inwards", small, low, low, top, top, low, low},
+        {"huge gaps inwards", box, low, low, top, top, low, low},
         // -2^31 - (2^31 - 1) is below; the width is 2 * (2^31 - 1) more than 2^32 - 1
         {"everything at once", plane, top, top, low, low, top, top},
     };

@@ -76,12 +76,12 @@ struct Row {
 // 7, and three samples of 40 are 120 wide.
 TEST(LegendLayout, SizesByHand) {
     constexpr int most = 2147483647;
-    const ink::Size huge{most, most};
+    const ink::Size vast{most, most};
     const Row rows[] = {
         {"no source", "", {}, 16 + 12, 120},
         // 24 below the title, and 12 less for there is no source: past the limit by 7.
         {"huge title alone", "", {{"T", {10, most - 5}}}, most, 120},
-        {"huge ink", "r", {{"T", huge}, {"Band_1", huge}}, most, 3LL * most},
+        {"huge ink", "r", {{"T", vast}, {"Band_1", vast}}, most, 3LL * most},
         {"no source, wide title", "", {{"T", {121, 16}}}, 28, 121},
         {"no source, title of three samples", "", {{"T", {120, 16}}}, 28, 120},
         {"title without ink", "", {{"T", {0, 0}}}, 12, 120},
