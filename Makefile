@@ -180,8 +180,8 @@ docs:
 	scripts/build_docs build/docs
 
 fuzz: build/fuzz/build.ninja
-	cmake --build --preset fuzz
-	printf '%s\n' elements gdiplus | xargs -P 2 -I{} scripts/fuzz {} $(or $(FUZZ_SECONDS),30)
+	cmake --build --preset fuzz --target elements_fuzzer gdiplus_fuzzer page_fuzzer
+	printf '%s\n' elements gdiplus page | xargs -P 2 -I{} scripts/fuzz {} $(or $(FUZZ_SECONDS),30)
 
 format:
 	scripts/install_packages lint

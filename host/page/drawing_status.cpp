@@ -12,7 +12,7 @@ namespace {
 constexpr double kHighestText = 65535.0;  // pixels
 constexpr double kLowestElement = 8.0;    // pixels; of most, texts are a quarter or less
 
-std::string InWords(Gdiplus::Status status) {
+std::string WordsFor(Gdiplus::Status status) {
     switch (status) {
         case Gdiplus::InvalidParameter:
             return "invalid parameter";
@@ -49,7 +49,7 @@ void CheckDrawn(const Gdiplus::Graphics& graphics, const std::string& thing,
     const Gdiplus::Status status = graphics.GetLastStatus();
     if (status != Gdiplus::Ok) {
         throw NamedError(thing,
-                         why.empty() ? "cannot be drawn: " + InWords(status) : why);
+                         why.empty() ? "cannot be drawn: " + WordsFor(status) : why);
     }
 }
 
