@@ -66,7 +66,7 @@ bool Open(page_editor::EditorWindow& window, const Options& options) {
     }
     if (!files.isEmpty() && !window.Files().OpenFiles(files)) {
         Fail(window.LastFailure().toStdString());
-        return false;
+        return options.screenshot.empty();  // the window says it too
     }
     page_editor::Indices selection;
     for (const std::size_t item : options.select) {
@@ -105,8 +105,11 @@ int Run(int argc, char** argv) {
     if (!Open(window, *options)) {
         return kFailed;
     }
-    return options->screenshot.empty() ? QApplication::exec()
-                                       : TakeScreenshot(window, options->screenshot);
+    if (!options->screenshot.empty()) {
+        return TakeScreenshot(window, options->screenshot);
+    }
+    page_editor::OfferLostWork(window, page_editor::Recovery::Folder());
+    return QApplication::exec();
 }
 
 }  // namespace

@@ -28,14 +28,17 @@ std::shared_ptr<GdalRaster> AsShown(const std::string& path, const Page* page,
     bool isNamed = false;
     for (std::size_t i = 0; page != nullptr && i < page->Items().size(); ++i) {
         const PageItem& item = page->Items()[i];
-        const std::shared_ptr<MapLayers> map = LayersOf(item);
-        if (map == nullptr) {
+        const auto* const frame = std::get_if<MapFrame>(&item);
+        if (frame == nullptr) {
             continue;
         }
-        if (std::shared_ptr<GdalRaster> raster = OnMap(*map, path)) {
-            return raster;
+        const std::shared_ptr<MapLayers> map = LayersOf(item);
+        if (map != nullptr) {
+            if (std::shared_ptr<GdalRaster> raster = OnMap(*map, path)) {
+                return raster;
+            }
         }
-        const std::vector<std::string>& named = std::get<MapFrame>(item).rasterPaths;
+        const std::vector<std::string>& named = frame->rasterPaths;
         isNamed = isNamed || std::find(named.begin(), named.end(), path) != named.end();
     }
     return isNamed ? nullptr : store.Raster(path);

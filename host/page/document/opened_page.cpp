@@ -32,7 +32,8 @@ void ShowAsDesigned(const MapDesign& design, Page& page, RasterStore& rasters) {
     }
 }
 
-/// Of the maps, of what was done with the page, and of what can be seen on it.
+}  // namespace
+
 std::vector<std::string> AllRemarks(const Page& page,
                                     const std::vector<std::string>& ofWhatWasDone) {
     std::vector<std::string> remarks = RemarksOfMaps(page);
@@ -43,19 +44,13 @@ std::vector<std::string> AllRemarks(const Page& page,
     return remarks;
 }
 
-}  // namespace
-
 OpenedPage OpenPageFile(const std::string& path, const AllowedSources* allowed,
-                        const PageChanges& changes,
-                        const std::function<void(const Page&)>& beforeRasters) {
+                        const PageChanges& changes) {
     return Naming(path, [&] {
         Page page = LoadPage(path, allowed);
         Change(page, changes);
         CheckFilesAndFonts(page);
         CheckFontsOf(page);
-        if (beforeRasters) {
-            beforeRasters(page);
-        }
         auto rasters = std::make_unique<RasterStore>();
         std::vector<std::string> told = RemarksOfUnused(changes, page);
         const std::vector<std::string> untrue = OpenChanged(page, changes, *rasters);
@@ -85,11 +80,13 @@ std::vector<std::uint8_t> PageFileBytes(const Page& page, const std::string& pat
     });
 }
 
-void SavePageFile(const Page& page, const std::string& path) {
-    Naming(path, [&] {
+std::string SavePageFile(const Page& page, const std::string& path) {
+    return Naming(path, [&] {
         OutputFile file(path);
         file.Write(PageFileBytes(page, path));
+        std::string remark = file.Remark();
         file.Commit();
+        return remark;
     });
 }
 

@@ -4,7 +4,6 @@
 // line that begins with the file's name. GDI+ must have been started.
 
 #include <cstdint>
-#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -30,10 +29,13 @@ struct OpenedPage {
 /// and fits scale bars and north arrows to the maps.
 /// @param allowed what may be read of the files that it names; null: all. What rasters
 /// lead to in turn is not looked at here: see ConfineGdal.
-/// @param beforeRasters called with the page before its rasters are opened; may throw
 OpenedPage OpenPageFile(const std::string& path, const AllowedSources* allowed,
-                        const PageChanges& changes = {},
-                        const std::function<void(const Page&)>& beforeRasters = {});
+                        const PageChanges& changes = {});
+
+/// What is remarked of a page that was opened: of its maps, of what was done with it, and
+/// of what can be seen on it.
+std::vector<std::string> AllRemarks(const Page& page,
+                                    const std::vector<std::string>& ofWhatWasDone);
 
 /// Lays a page out by itself around at least one raster.
 OpenedPage LayOutRasters(const std::vector<std::string>& paths, const PageDesign& design);
@@ -42,7 +44,8 @@ OpenedPage LayOutRasters(const std::vector<std::string>& paths, const PageDesign
 std::vector<std::uint8_t> PageFileBytes(const Page& page, const std::string& path);
 
 /// Saves a page file; on failure an older file of that name is left alone.
-void SavePageFile(const Page& page, const std::string& path);
+/// @return what a person should know of that file (see OutputFile::Remark)
+std::string SavePageFile(const Page& page, const std::string& path);
 
 /// Whether a file's name is that of a page file and not of a raster: it ends in .json, in
 /// any case.

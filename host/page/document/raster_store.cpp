@@ -184,6 +184,10 @@ void CheckReplacesNoInput(const std::string& output, const Page& page,
              type == nullptr ? std::vector<Property>() : type->properties) {
             if (property.kind == PropertyKind::File) {
                 inputs.push_back(std::get<std::string>(property.read(item)));
+            } else if (property.kind == PropertyKind::Rasters) {  // open or not
+                const auto named =
+                    std::get<std::vector<std::string>>(property.read(item));
+                inputs.insert(inputs.end(), named.begin(), named.end());
             }
         }
     }
@@ -193,7 +197,8 @@ void CheckReplacesNoInput(const std::string& output, const Page& page,
     }
 }
 
-void CheckFilesAndFonts(const Page& page) {
+std::vector<std::string> WhyNotFilesAndFonts(const Page& page) {
+    std::vector<std::string> reasons;
     for (std::size_t i = 0; i < page.Items().size(); ++i) {
         const PageItem& item = page.Items()[i];
         const ItemType* const type = TypeOf(item);
@@ -201,9 +206,17 @@ void CheckFilesAndFonts(const Page& page) {
              type == nullptr ? std::vector<Property>() : type->properties) {
             const std::string why = WhyNot(property, item);
             if (!why.empty()) {
-                throw PageError(PlaceOf(PlaceOfElement(i), property.name), why);
+                reasons.push_back(PlaceOf(PlaceOfElement(i), property.name) + ": " + why);
             }
         }
+    }
+    return reasons;
+}
+
+void CheckFilesAndFonts(const Page& page) {
+    const std::vector<std::string> reasons = WhyNotFilesAndFonts(page);
+    if (!reasons.empty()) {
+        throw PageError("", reasons.front());
     }
 }
 

@@ -67,9 +67,11 @@ void CheckReplacesNoInput(const std::string& output, const Page& page,
                           const RasterStore& rasters,
                           const std::vector<std::string>& others = {});
 
-/// Throws PageError that names the first property whose file or font cannot be used: a
-/// picture that is missing, no image or over 32767 pixels a side, a font family that is
-/// not installed.
+/// Which properties' files and fonts cannot be used, one line each: a picture that is
+/// missing, no image or over 32767 pixels a side, a font family that is not installed.
+std::vector<std::string> WhyNotFilesAndFonts(const Page& page);
+
+/// Throws PageError with the first of them.
 void CheckFilesAndFonts(const Page& page);
 
 }  // namespace host

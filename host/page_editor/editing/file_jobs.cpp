@@ -11,6 +11,7 @@
 #include "page/map/map_layers.h"
 #include "page/output/page_output.h"
 #include "page/output/pdf_file.h"
+#include "page/texts.h"
 #include "raster_data/confined_gdal.h"
 #include "system/allowed_sources.h"
 #include "system/confinement.h"
@@ -111,6 +112,7 @@ std::string DrawPage(const std::string& input, const host::Progress& progress) {
         host::RasterStore rasters;
         host::Page page = host::ReadPage(fields.at(3), {});
         host::CheckFilesAndFonts(page);
+        host::CheckFontsOf(page);
         host::OpenRasters(page, rasters);
         double dpi = 0.0;
         host::ParseNumber(fields.at(2), dpi);

@@ -20,6 +20,8 @@ struct PageState {
     double height = 0.0;
     std::vector<ItemText> items;
     Indices selection;
+    /// What could not be made true to the map, one line each.
+    std::vector<std::string> remarks = {};
 };
 
 /// The states that a page went through, one after each command, for going back and forth
@@ -56,6 +58,7 @@ public:
     std::string RedoLabel() const;
 
     void MarkSaved() { m_saved = m_current; }
+    void MarkUnsaved() { m_saved = kForgotten; }
     bool IsSaved() const { return m_saved == m_current; }
 
 private:

@@ -60,9 +60,16 @@ public:
 
     std::unique_ptr<CSurroundFrame> NorthArrow(const host::CatalogueEntry& style) {
         m_design.northArrow.style = &style;
-        const double side = m_measures.panel;
-        return host::PlaceNorthArrow(m_design, m_map.map, Shown(), m_measures,
-                                     {0, 0, side, side}, m_remarks);
+        const host::Box room = {0.0, 0.0, m_measures.panel, m_measures.panel};
+        auto frame = host::PlaceNorthArrow(m_design, m_map.map, Shown(), m_measures, room,
+                                           m_remarks);
+        if (frame == nullptr) {  // where no map tells it, north is up
+            m_design.northArrow.angle = 0.0;
+            m_remarks.clear();
+            frame = host::PlaceNorthArrow(m_design, m_map.map, Shown(), m_measures, room,
+                                          m_remarks);
+        }
+        return frame;
     }
 
     std::unique_ptr<CSurroundFrame> Legend() {
@@ -122,6 +129,8 @@ public:
         return map;
     }
 
+    const std::vector<std::string>& Remarks() const { return m_remarks; }
+
 private:
     host::ShownMap Shown() const { return host::Shown({}, m_map.map, m_map.room); }
 
@@ -169,7 +178,7 @@ void Centre(CFrameBase& frame, const host::Page& page) {
 
 host::PageItem NewItem(const host::ItemType& type, const host::Page& page,
                        host::RasterStore& rasters, const std::vector<std::string>& files,
-                       const host::Progress& reading) {
+                       const host::Progress& reading, std::vector<std::string>* remarks) {
     Placing placing(page);
     if (type.name == std::string_view(host::kMapType) && !files.empty()) {
         return placing.Map(files, rasters, reading);
@@ -185,10 +194,14 @@ host::PageItem NewItem(const host::ItemType& type, const host::Page& page,
     }
     Frame frame =
         type.element == nullptr ? nullptr : Framed(*type.element, placing, files);
-    if (frame == nullptr) {
+    const bool isAsLaidOut = frame != nullptr;
+    if (!isAsLaidOut) {
         frame = placing.Any(type);
     }
     Centre(*frame, page);
+    if (remarks != nullptr && isAsLaidOut) {
+        *remarks = placing.Remarks();
+    }
     return frame;
 }
 

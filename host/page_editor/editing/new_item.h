@@ -14,9 +14,11 @@ namespace page_editor {
 /// host::PageError when a file cannot be used.
 /// @param files the image of a picture, the rasters of a map; not for others
 /// @param reading told that files take long; may give them up
+/// @param remarks where what could not be done as one would expect is added, if not null
 host::PageItem NewItem(const host::ItemType& type, const host::Page& page,
                        host::RasterStore& rasters,
                        const std::vector<std::string>& files = {},
-                       const host::Progress& reading = {});
+                       const host::Progress& reading = {},
+                       std::vector<std::string>* remarks = nullptr);
 
 }  // namespace page_editor

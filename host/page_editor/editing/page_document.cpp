@@ -6,9 +6,12 @@
 #include <vector>
 
 #include "page/document/legend_sources.h"
+#include "page/document/map_on_page.h"
+#include "page/document/page_error.h"
 #include "page/document/page_text.h"
 #include "page/layout/fit_to_map.h"
 #include "page/paper.h"
+#include "page_editor/editing/missing_files.h"
 #include "page_editor/editing/separate_reading.h"
 
 namespace page_editor {
@@ -80,13 +83,15 @@ CBoundingBox PageDocument::Extent(std::size_t index) const {
     return FrameOf(m_page.Items()[index]).GetExtent();
 }
 
-void PageDocument::Replace(host::Page page, std::unique_ptr<host::RasterStore> rasters) {
-    PageState state{page.Width(), page.Height(), {}, {}};
+void PageDocument::Replace(host::Page page, std::unique_ptr<host::RasterStore> rasters,
+                           std::vector<std::string> remarks) {
+    PageState state{page.Width(), page.Height(), {}, {}, std::move(remarks)};
     for (const host::PageItem& item : page.Items()) {
         state.items.push_back(TextOf(item, nullptr));
     }
     m_page = std::move(page);
     m_rasters = std::move(rasters);
+    m_missing = NotOpen(m_page.Items(), *m_rasters);
     m_history.Reset(std::move(state));
     Q_EMIT PageReplaced();
     Q_EMIT SelectionChanged();
@@ -109,7 +114,7 @@ void PageDocument::ChangeItems(const Indices& items, const std::string& label,
     try {
         for (const std::size_t index : items) {
             change(Item(index));
-            host::OpenRasters(Item(index), *m_rasters);
+            OpenOrHatch(Item(index), *m_rasters, m_missing);
         }
     } catch (...) {
         Revert(items);
@@ -123,8 +128,8 @@ void PageDocument::Commit(const std::string& label, const std::string& merge) {
     PageState after{m_page.Width(), m_page.Height(), {}, before.selection};
     Indices legends;
     try {
-        host::FitToMap(m_page);
-        legends = host::FitLegendsToMaps(m_page, *m_rasters);
+        after.remarks = host::FitToMap(m_page);
+        legends = FitLegends();
         for (std::size_t i = 0; i < Count(); ++i) {
             after.items.push_back(TextOf(Item(i), before.items[i]));
         }
@@ -147,10 +152,11 @@ void PageDocument::Revert(const Indices& items) {
     Q_EMIT ItemsChanged(items);
 }
 
-void PageDocument::Insert(host::PageItem item, const std::string& label) {
+void PageDocument::Insert(host::PageItem item, const std::string& label,
+                          const std::vector<std::string>& remarks) {
     std::vector<host::PageItem> items;
     items.push_back(std::move(item));
-    Append(items, label);
+    Append(items, label, remarks);
 }
 
 void PageDocument::RemoveSelected() {
@@ -163,6 +169,7 @@ void PageDocument::RemoveSelected() {
         state.items.erase(state.items.begin() + static_cast<std::ptrdiff_t>(*index));
     }
     state.selection.clear();
+    state.remarks.clear();  // they may be of what is gone
     Do(std::move(state), "Delete");
 }
 
@@ -237,14 +244,44 @@ void PageDocument::Redo() {
     }
 }
 
+std::vector<std::string> PageDocument::Remarks() const {
+    std::vector<std::string> remarks = RemarksOfHatched(m_page);
+    for (const std::vector<std::string>& more :
+         {host::RemarksOfMaps(m_page), m_history.Current().remarks}) {
+        for (const std::string& remark : more) {
+            if (std::find(remarks.begin(), remarks.end(), remark) == remarks.end()) {
+                remarks.push_back(remark);
+            }
+        }
+    }
+    return remarks;
+}
+
 void PageDocument::MarkSaved() {
     m_history.MarkSaved();
     Q_EMIT HistoryChanged();
 }
 
+void PageDocument::MarkUnsaved() {
+    m_history.MarkUnsaved();
+    Q_EMIT HistoryChanged();
+}
+
+/// Those of missing rasters explain nothing.
+Indices PageDocument::FitLegends() {
+    try {
+        return host::FitLegendsToMaps(m_page, *m_rasters);
+    } catch (const host::PageError&) {
+        if (m_missing.empty()) {
+            throw;
+        }
+        return {};
+    }
+}
+
 host::PageItem PageDocument::Read(const std::string& text) {
     host::PageItem item = host::ReadItem(text);
-    host::OpenRasters(item, *m_rasters);
+    OpenOrHatch(item, *m_rasters, m_missing);
     return item;
 }
 
@@ -275,7 +312,7 @@ void PageDocument::Show(const PageState& state) {
 /// Tells what is different from the state before.
 void PageDocument::Announce(const PageState& before) {
     const PageState& now = m_history.Current();
-    const Indices legends = host::FitLegendsToMaps(m_page, *m_rasters);
+    const Indices legends = FitLegends();
     if (IsSameArrangement(before, now)) {
         Q_EMIT ItemsChanged(Union(Differences(before.items, now.items), legends));
     } else {
@@ -294,11 +331,13 @@ void PageDocument::Do(PageState state, const std::string& label) {
 }
 
 void PageDocument::Append(const std::vector<host::PageItem>& items,
-                          const std::string& label) {
+                          const std::string& label,
+                          const std::vector<std::string>& remarks) {
     if (items.empty()) {
         return;
     }
     PageState state = m_history.Current();
+    state.remarks.insert(state.remarks.end(), remarks.begin(), remarks.end());
     state.selection = Range(Count(), Count() + items.size());
     for (const host::PageItem& item : items) {
         state.items.push_back(TextOf(item, nullptr));

@@ -4,8 +4,10 @@
 #include <cstddef>
 #include <functional>
 #include <memory>
+#include <set>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "page/document/raster_store.h"
 #include "page/page.h"
@@ -42,8 +44,14 @@ public:
         return [this](double part) { return !m_watch || m_watch(part); };
     }
 
-    /// Another page, whose rasters are open from the store; it counts as saved.
-    void Replace(host::Page page, std::unique_ptr<host::RasterStore> rasters);
+    /// Another page, whose rasters are open from the store, or missing (see OpenOrHatch);
+    /// it counts as saved.
+    /// @param remarks what could not be done as asked, one line each
+    void Replace(host::Page page, std::unique_ptr<host::RasterStore> rasters,
+                 std::vector<std::string> remarks = {});
+
+    /// What of the page is not as one would expect, one line each.
+    std::vector<std::string> Remarks() const;
 
     /// What is selected; the last command's items after it.
     const Indices& Selection() const { return m_history.Current().selection; }
@@ -63,7 +71,9 @@ public:
     void Revert(const Indices& items);
 
     /// Puts an item on top and selects it.
-    void Insert(host::PageItem item, const std::string& label);
+    /// @param remarks what could not be done as asked for it
+    void Insert(host::PageItem item, const std::string& label,
+                const std::vector<std::string>& remarks = {});
     /// Takes the selected items off the page.
     void RemoveSelected();
     /// Puts copies of the selected items on top, a little off, and selects those.
@@ -86,6 +96,8 @@ public:
 
     bool IsModified() const { return !m_history.IsSaved(); }
     void MarkSaved();
+    /// No state that the page went through is saved.
+    void MarkUnsaved();
 
 Q_SIGNALS:
     /// Items were changed, but for their number and order.
@@ -99,13 +111,16 @@ Q_SIGNALS:
     void HistoryChanged();
 
 private:
+    Indices FitLegends();
     host::PageItem Read(const std::string& text);
     void Show(const PageState& state);
     void Announce(const PageState& before);
     void Do(PageState state, const std::string& label);
-    void Append(const std::vector<host::PageItem>& items, const std::string& label);
+    void Append(const std::vector<host::PageItem>& items, const std::string& label,
+                const std::vector<std::string>& remarks = {});
 
     std::unique_ptr<host::RasterStore> m_rasters;
+    std::set<std::string> m_missing;  // rasters, when the page came
     host::Progress m_watch;
     host::Page m_page;
     History m_history;

@@ -14,10 +14,10 @@
 
 namespace page_editor {
 
-void ExportPage(const host::Page& page, const host::RasterStore& rasters,
-                const std::string& path, double dpi, const std::string& pageFile,
-                const host::Progress& progress) {
-    host::Naming(path, [&] {
+std::string ExportPage(const host::Page& page, const host::RasterStore& rasters,
+                       const std::string& path, double dpi, const std::string& pageFile,
+                       const host::Progress& progress) {
+    return host::Naming(path, [&] {
         const host::OutputFormat format = host::OutputFormatOf(path);
         host::CheckCanBeMade(format);
         host::CheckPageSize(page, dpi);
@@ -32,7 +32,9 @@ void ExportPage(const host::Page& page, const host::RasterStore& rasters,
             bytes = host::InHelper("making the PDF", kMakePdf, bytes, progress);
         }
         file.Write({bytes.begin(), bytes.end()});
+        std::string remark = file.Remark();
         file.Commit();
+        return remark;
     });
 }
 

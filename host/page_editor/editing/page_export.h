@@ -11,12 +11,13 @@ namespace page_editor {
 /// separate process. Throws std::runtime_error with the file's name and the reason; an
 /// older file of that name is then left alone, as is whatever the page is drawn from.
 /// @param rasters those of the page
+/// @return what a person should know of the older file (see host::OutputFile::Remark)
 /// @param dpi device pixels an inch
 /// @param pageFile the page's own file, which stays as well; empty for none
 /// @param progress called several times a second with how far the maps have been read;
 /// returning false cancels the export, which then throws
-void ExportPage(const host::Page& page, const host::RasterStore& rasters,
-                const std::string& path, double dpi, const std::string& pageFile,
-                const host::Progress& progress = {});
+std::string ExportPage(const host::Page& page, const host::RasterStore& rasters,
+                       const std::string& path, double dpi, const std::string& pageFile,
+                       const host::Progress& progress = {});
 
 }  // namespace page_editor

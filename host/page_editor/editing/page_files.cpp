@@ -1,8 +1,14 @@
 #include "page_editor/editing/page_files.h"
 
 #include <filesystem>
+#include <memory>
 #include <stdexcept>
+#include <utility>
 
+#include "page/document/page_text.h"
+#include "page/layout/fit_to_map.h"
+#include "page/texts.h"
+#include "page_editor/editing/missing_files.h"
 #include "page_editor/editing/separate_reading.h"
 #include "system/errors.h"
 #include "system/utf8.h"
@@ -16,12 +22,31 @@ std::wstring TitleFor(const std::string& path) {
     return title;
 }
 
+/// Why what the page names cannot be used, one line each.
+std::vector<std::string> WhyNotUsable(const host::Page& page) {
+    std::vector<std::string> reasons = host::WhyNotFilesAndFonts(page);
+    try {
+        host::CheckFontsOf(page);
+    } catch (const std::runtime_error& error) {
+        reasons.emplace_back(error.what());
+    }
+    return reasons;
+}
+
 host::OpenedPage Open(const std::string& path, const host::AllowedSources* allowed,
                       const host::Progress& reading) {
     host::Naming(path, [&] { TryPageFile(path, allowed != nullptr, reading); });
-    return host::OpenPageFile(path, allowed, {}, [&](const host::Page& page) {
+    return host::Naming(path, [&] {
+        host::Page page = host::LoadPage(path, allowed);
         TryRastersOf(page.Items(), host::RasterStore(), reading,
                      allowed != nullptr ? path : "");
+        auto rasters = std::make_unique<host::RasterStore>();
+        std::vector<std::string> remarks = WhyNotUsable(page);
+        OpenOrHatch(page, *rasters);
+        const std::vector<std::string> untrue = host::FitToMap(page);
+        remarks.insert(remarks.end(), untrue.begin(), untrue.end());
+        remarks = host::AllRemarks(page, remarks);
+        return host::OpenedPage{std::move(rasters), std::move(page), std::move(remarks)};
     });
 }
 

@@ -16,8 +16,9 @@ namespace page_editor {
 /// no plain raster or picture, told in one line.
 using MayRead = std::function<bool(const std::string& what)>;
 
-/// Opens a page file. It may be a stranger's: unless the answer is yes, nothing is read
-/// but what host::AllowedSources has below its folder.
+/// Opens a page file. What it names and is not there is a remark, and left to be mended:
+/// a map is hatched (see OpenOrHatch), a picture empty. It may be a stranger's: unless
+/// the answer is yes, nothing is read but what host::AllowedSources has below its folder.
 /// @param mayRead asked at most once; after a yes the page may have anything read
 /// @param reading called with the progress of reading; returning false cancels it
 host::OpenedPage OpenPageFile(const std::string& path, const MayRead& mayRead,

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -45,6 +46,16 @@ int NaturalSize(host::PageItem& item, CMapLegend& legend, host::RasterStore& ras
     return legend.GetSize();
 }
 
+/// None where its rasters are missing.
+std::optional<int> NaturalSizeIfOpen(host::PageItem& item, CMapLegend& legend,
+                                     host::RasterStore& rasters) {
+    try {
+        return NaturalSize(item, legend, rasters);
+    } catch (const host::PageError&) {
+        return std::nullopt;
+    }
+}
+
 void CheckUse(const host::Property& property, const host::PropertyValue& value,
               const host::RasterStore& rasters, const host::Progress& reading) {
     std::string why = host::CheckValue(property, value);
@@ -76,11 +87,12 @@ void SetProperty(host::PageItem& item, const host::Property& property,
         property.write(item, value);
     } else if (legend != nullptr) {
         const int size = legend->GetSize();
-        const int before = NaturalSize(item, *legend, rasters);
+        const std::optional<int> before = NaturalSizeIfOpen(item, *legend, rasters);
         property.write(item, value);
         const int after = NaturalSize(item, *legend, rasters);
-        const double part = before > 0 ? static_cast<double>(size) / before : 1.0;
-        legend->SetSize(static_cast<int>(std::lround(after * part)));
+        const double part =
+            before.value_or(0) > 0 ? static_cast<double>(size) / *before : 1.0;
+        legend->SetSize(before ? static_cast<int>(std::lround(after * part)) : size);
     } else {
         property.write(item, value);
         Measure(item);

@@ -4,8 +4,11 @@
 #include <QComboBox>
 #include <QFontDatabase>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QSpinBox>
+#include <algorithm>
 
 #include "page_editor/panel/colour_field.h"
 #include "page_editor/panel/extent_field.h"
@@ -45,6 +48,7 @@ public:
     void Show(const host::PropertyValue& value) override {
         const QSignalBlocker blocker(m_box);
         m_box->setValue(std::get<std::int32_t>(value));
+        m_box->findChild<QLineEdit*>()->setModified(false);
     }
     void FinishTyping() override { m_box->interpretText(); }
 
@@ -123,6 +127,15 @@ private:
     QComboBox* m_box;
 };
 
+/// A line would take Ctrl+E to go to its end.
+bool IsForThePage(const QKeyEvent& key, bool isBeingTyped) {
+    const bool isExport =
+        key.modifiers() == Qt::ControlModifier && key.key() == Qt::Key_E;
+    const bool isHistory =
+        key.matches(QKeySequence::Undo) || key.matches(QKeySequence::Redo);
+    return isExport || (isHistory && !isBeingTyped);
+}
+
 PropertyField* FieldFor(const host::Property& property, QWidget* parent) {
     switch (property.kind) {
         case PropertyKind::Switch:
@@ -152,6 +165,37 @@ PropertyField* FieldFor(const host::Property& property, QWidget* parent) {
 }
 
 }  // namespace
+
+bool PropertyField::IsBeingTyped() const {
+    const auto lines = findChildren<QLineEdit*>();
+    const auto texts = findChildren<QPlainTextEdit*>();
+    return std::any_of(lines.begin(), lines.end(),
+                       [](const QLineEdit* line) { return line->isModified(); }) ||
+           std::any_of(texts.begin(), texts.end(), [](const QPlainTextEdit* text) {
+               return text->document()->isModified();
+           });
+}
+
+void PropertyField::LeaveToOthers() {
+    for (QWidget* const widget : findChildren<QWidget*>()) {
+        if (widget->focusPolicy() == Qt::WheelFocus) {
+            widget->setFocusPolicy(Qt::StrongFocus);
+        }
+        widget->installEventFilter(this);
+    }
+}
+
+bool PropertyField::eventFilter(QObject* watched, QEvent* event) {
+    const bool isForOthers =
+        event->type() == QEvent::Wheel
+            ? !static_cast<QWidget*>(watched)->hasFocus()
+            : event->type() == QEvent::ShortcutOverride &&
+                  IsForThePage(*static_cast<QKeyEvent*>(event), IsBeingTyped());
+    if (isForOthers) {
+        event->ignore();
+    }
+    return isForOthers || QWidget::eventFilter(watched, event);
+}
 
 void PropertyField::Fill(QWidget* widget) {
     auto* const layout = new QHBoxLayout(this);
@@ -188,6 +232,7 @@ PropertyField* MakeField(const host::Property& property, QWidget* parent) {
     PropertyField* const field = FieldFor(property, parent);
     field->setObjectName(QString::fromUtf8(property.name));
     field->setToolTip(QString::fromUtf8(property.about));
+    field->LeaveToOthers();
     return field;
 }
 

@@ -21,11 +21,20 @@ public:
     /// Takes what was typed so far, as leaving the field does.
     virtual void FinishTyping() {}
 
+    /// Whether something was typed that is not taken yet.
+    bool IsBeingTyped() const;
+
+    /// Leaves to others what is not for this: the wheel while it has not the keyboard,
+    /// which then scrolls the panel; and the keys of undoing, redoing and exporting while
+    /// nothing is being typed, which then reach the page.
+    void LeaveToOthers();
+
     /// Called with a value of the property's kind, or with what is wrong with the entry.
     std::function<void(const host::PropertyValue&)> changed;
     std::function<void(const QString&)> refused;
 
 protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
     /// Lays one widget out as the whole of the field.
     void Fill(QWidget* widget);
     void Tell(const host::PropertyValue& value) const;

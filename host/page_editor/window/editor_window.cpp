@@ -9,7 +9,9 @@
 #include <QInputDialog>
 #include <QShortcut>
 #include <QStatusBar>
+#include <QVBoxLayout>
 #include <exception>
+#include <initializer_list>
 #include <stdexcept>
 #include <utility>
 
@@ -19,6 +21,7 @@
 #include "page_editor/editing/property_change.h"
 #include "page_editor/window/actions.h"
 #include "system/errors.h"
+#include "system/one_line.h"
 
 namespace page_editor {
 namespace {
@@ -29,12 +32,23 @@ constexpr int kReadingPatience = 2000;  // milliseconds
 
 }  // namespace
 
-EditorWindow::EditorWindow()
+EditorWindow::EditorWindow(const QString& recovery)
     : m_canvas(new PageCanvas(m_document)),
       m_panel(new PropertyPanel(m_document)),
       m_files(new FileCommands(m_document, *this)),
-      m_properties(new QDockWidget("Properties", this)) {
-    setCentralWidget(m_canvas);
+      m_autosave(new Autosave(m_document, *m_files, recovery)),
+      m_properties(new QDockWidget("Properties", this)),
+      m_failures(new MessageBar(MessageBar::Kind::Failure, this)),
+      m_remarks(new MessageBar(MessageBar::Kind::Remark, this)) {
+    auto* const middle = new QWidget(this);
+    auto* const column = new QVBoxLayout(middle);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    for (QWidget* const widget :
+         std::initializer_list<QWidget*>{m_failures, m_remarks, m_canvas}) {
+        column->addWidget(widget);
+    }
+    setCentralWidget(middle);
     m_properties->setObjectName("propertiesDock");
     m_properties->setWidget(m_panel);
     m_panel->setMinimumWidth(kPanelWidth);
@@ -55,11 +69,21 @@ EditorWindow::EditorWindow()
     });
     connect(m_canvas, &PageCanvas::Failed, this, &EditorWindow::ShowFailure);
     connect(m_panel, &PropertyPanel::Failed, this, &EditorWindow::ShowFailure);
-    connect(m_files, &FileCommands::Failed, this, &EditorWindow::ShowFailure);
+    connect(m_files, &FileCommands::Failed, this, [this](const QString& why) {
+        ShowFailure(why);
+        m_failures->Show({why});
+    });
+    m_autosave->setParent(this);
+    connect(m_autosave, &Autosave::Failed, this,
+            [this](const QString& why) { m_failures->Show({why}); });
+    connect(m_files, &FileCommands::Succeeded, this, [this] { m_failures->Show({}); });
     connect(m_files, &FileCommands::Told, this,
             [this](const QString& what) { statusBar()->showMessage(what, kTold); });
     connect(m_files, &FileCommands::PathChanged, this, &EditorWindow::ShowTitle);
-    connect(&m_document, &PageDocument::HistoryChanged, this, &EditorWindow::ShowTitle);
+    connect(&m_document, &PageDocument::HistoryChanged, this, [this] {
+        ShowTitle();
+        ShowRemarks();
+    });
     ShowTitle();
     resize(1280, 860);
     m_canvas->setFocus();
@@ -84,9 +108,10 @@ void EditorWindow::Insert(const QString& type, QStringList files) {
         if (found == nullptr) {
             throw std::invalid_argument(type.toStdString() + ": is no type of element");
         }
-        m_document.Insert(NewItem(*found, m_document.Page(), m_document.Rasters(), paths,
-                                  m_document.Reading()),
-                          std::string("Add ") + found->name);
+        std::vector<std::string> remarks;
+        host::PageItem item = NewItem(*found, m_document.Page(), m_document.Rasters(),
+                                      paths, m_document.Reading(), &remarks);
+        m_document.Insert(std::move(item), std::string("Add ") + found->name, remarks);
     });
 }
 
@@ -190,6 +215,7 @@ bool EditorWindow::SetSheet(const QString& paper) {
 void EditorWindow::closeEvent(QCloseEvent* event) {
     m_panel->FinishTyping();
     if (m_files->MayDiscard()) {
+        m_autosave->Forget();
         event->accept();
     } else {
         event->ignore();
@@ -206,6 +232,18 @@ void EditorWindow::ShowTitle() {
 void EditorWindow::ShowFailure(const QString& why) {
     m_lastFailure = why;
     statusBar()->showMessage(why);
+}
+
+/// Closed ones stay so until something else is remarked.
+void EditorWindow::ShowRemarks() {
+    QStringList remarks;
+    for (const std::string& remark : m_document.Remarks()) {
+        remarks.append(QString::fromStdString(host::OneLine(remark)));
+    }
+    if (remarks != m_shownRemarks) {
+        m_shownRemarks = remarks;
+        m_remarks->Show(remarks);
+    }
 }
 
 /// Nothing else is done until the file is read, or given up. The window may have to be

@@ -11,7 +11,9 @@
 #include "page_editor/editing/arrange.h"
 #include "page_editor/editing/page_document.h"
 #include "page_editor/panel/property_panel.h"
+#include "page_editor/window/autosave.h"
 #include "page_editor/window/file_commands.h"
+#include "page_editor/window/message_bar.h"
 #include "page_editor/window/waiting.h"
 
 namespace page_editor {
@@ -21,12 +23,14 @@ namespace page_editor {
 class EditorWindow : public QMainWindow {
     Q_OBJECT
 public:
-    EditorWindow();
+    /// @param recovery the folder where unsaved work is kept
+    explicit EditorWindow(const QString& recovery = Recovery::Folder());
 
     PageDocument& Document() { return m_document; }
     PageCanvas& Canvas() { return *m_canvas; }
     PropertyPanel& Panel() { return *m_panel; }
     FileCommands& Files() { return *m_files; }
+    Autosave& Saving() { return *m_autosave; }
 
     /// Puts a new element of a type on the page; asks for files where none are given and
     /// the type needs some.
@@ -51,6 +55,11 @@ public:
     /// @return false, and nothing is changed, when the text is no sheet
     bool SetSheet(const QString& paper);
 
+    /// What is shown of files that could not be opened, saved or exported, and of what on
+    /// the page is not as one would expect.
+    MessageBar& Failures() { return *m_failures; }
+    MessageBar& Remarks() { return *m_remarks; }
+
     /// The last error message shown.
     const QString& LastFailure() const { return m_lastFailure; }
 
@@ -60,6 +69,7 @@ protected:
 private:
     void ShowTitle();
     void ShowFailure(const QString& why);
+    void ShowRemarks();
     bool ShowReading(double part);
     void Attempt(const std::function<void()>& step);
     std::vector<host::Box> SelectedBoxes() const;
@@ -69,7 +79,11 @@ private:
     PageCanvas* m_canvas;
     PropertyPanel* m_panel;
     FileCommands* m_files;
+    Autosave* m_autosave;
     QDockWidget* m_properties;
+    MessageBar* m_failures;
+    MessageBar* m_remarks;
+    QStringList m_shownRemarks;
     std::shared_ptr<Waiting> m_waiting;
     QString m_lastFailure;
 };

@@ -1,10 +1,12 @@
 #include "page_editor/window/file_commands.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QPushButton>
 #include <exception>
 #include <memory>
 #include <string>
@@ -12,9 +14,11 @@
 #include <vector>
 
 #include "page/paper.h"
+#include "page_editor/editing/file_stamp.h"
 #include "page_editor/editing/page_export.h"
 #include "page_editor/editing/page_files.h"
 #include "page_editor/window/recent_files.h"
+#include "page_editor/window/save_dialog.h"
 #include "page_editor/window/waiting.h"
 #include "system/errors.h"
 #include "system/one_line.h"
@@ -22,12 +26,17 @@
 namespace page_editor {
 namespace {
 
-constexpr const char* kPageFilter = "Page files (*.json)";
 constexpr const char* kOpenFilter =
     "Pages and rasters (*.json *.tif *.tiff *.img *.vrt *.png *.jpg);;All files (*)";
-constexpr const char* kImageFilter =
-    "PNG (*.png);;PDF (*.pdf);;PostScript (*.ps);;JPEG (*.jpg);;TIFF (*.tif);;"
-    "BMP (*.bmp)";
+const SavedKind kPage = {"Page files (*.json)", ".json"};
+const QList<SavedKind> kImages = {
+    {"By the ending (*.png *.pdf *.ps *.jpg *.jpeg *.tif *.tiff *.bmp)", ""},
+    {"PNG (*.png)", ".png"},
+    {"PDF (*.pdf)", ".pdf"},
+    {"PostScript (*.ps)", ".ps"},
+    {"JPEG (*.jpg *.jpeg)", ".jpg"},
+    {"TIFF (*.tif *.tiff)", ".tif"},
+    {"BMP (*.bmp)", ".bmp"}};
 constexpr double kPrintDpi = 300.0;
 constexpr double kLeastDpi = 10.0;
 constexpr double kMostDpi = 2400.0;
@@ -50,8 +59,9 @@ std::vector<std::string> Standard(const QStringList& paths) {
     return standard;
 }
 
-QString WithEnding(const QString& path, const QString& ending) {
-    return QFileInfo(path).suffix().isEmpty() ? path + ending : path;
+/// Adds what a person should know to what was done.
+QString With(const QString& done, const std::string& remark) {
+    return remark.empty() ? done : done + "; " + QString::fromStdString(remark);
 }
 
 }  // namespace
@@ -74,7 +84,7 @@ void FileCommands::New() {
         const host::PaperSize paper;
         m_document.Replace(host::Page(paper.width, paper.height),
                            std::make_unique<host::RasterStore>());
-        SetPath({});
+        SetPath({}, {});
     }
 }
 
@@ -92,25 +102,43 @@ void FileCommands::Open() {
 bool FileCommands::OpenFiles(const QStringList& paths) {
     const QString first = paths.front();
     const bool isPage = host::IsPageFile(first.toStdString());
-    const bool isOpen = Attempt([&] {
-        const WaitCursor waiting;
-        host::OpenedPage opened =
-            isPage ? OpenPageFile(
-                         first.toStdString(),
-                         [this](const std::string& what) { return MayRead(what); },
-                         m_document.Reading())
-                   : LayOutRasters(Standard(paths), m_document.Reading());
-        m_document.Replace(std::move(opened.page), std::move(opened.rasters));
-        for (const std::string& remark : opened.remarks) {
-            Q_EMIT Told(QString::fromStdString(remark));
-        }
+    const std::string stamp = isPage ? StampOf(first.toStdString()) : "";
+    const bool isOpen = Show([&] {
+        return isPage ? OpenPageFile(
+                            first.toStdString(),
+                            [this](const std::string& what) { return MayRead(what); },
+                            m_document.Reading())
+                      : LayOutRasters(Standard(paths), m_document.Reading());
     });
     if (isOpen) {
-        SetPath(isPage ? first : QString());
+        SetPath(isPage ? first : QString(), stamp);
     } else if (isPage && !QFileInfo::exists(first)) {
         RemoveRecentFile(first);
     }
     return isOpen;
+}
+
+bool FileCommands::OpenLost(const Recovery& lost) {
+    const bool isOpen = Show([&] {
+        return OpenPageFile(
+            lost.PageFile().toStdString(), [](const std::string&) { return true; },
+            m_document.Reading());
+    });
+    if (isOpen) {
+        SetPath(lost.File(), lost.Stamp());
+        m_document.MarkUnsaved();
+    }
+    return isOpen;
+}
+
+/// Opens a page in place of that which is there.
+bool FileCommands::Show(const std::function<host::OpenedPage()>& open) {
+    return Attempt([&] {
+        const WaitCursor waiting;
+        host::OpenedPage opened = open();
+        m_document.Replace(std::move(opened.page), std::move(opened.rasters),
+                           std::move(opened.remarks));
+    });
 }
 
 bool FileCommands::MayRead(const std::string& what) {
@@ -125,26 +153,57 @@ bool FileCommands::MayRead(const std::string& what) {
     return box.exec() == QMessageBox::Yes;
 }
 
-bool FileCommands::Save() { return m_path.isEmpty() ? SaveAs() : SaveTo(m_path); }
+bool FileCommands::Save() {
+    if (m_path.isEmpty()) {
+        return SaveAs();
+    }
+    const std::string now = StampOf(m_path.toStdString());
+    if (now.empty() || now == m_stamp) {
+        return SaveTo(m_path);
+    }
+    QMessageBox box(QMessageBox::Warning, "Save the page",
+                    QFileInfo(m_path).fileName() +
+                        " has been changed by another program or window since it was "
+                        "opened or saved here.",
+                    QMessageBox::Cancel, &m_window);
+    box.setInformativeText("Replace what it holds now?");
+    const QAbstractButton* const replace =
+        box.addButton("&Replace", QMessageBox::DestructiveRole);
+    const QAbstractButton* const other =
+        box.addButton("Save &as…", QMessageBox::AcceptRole);
+    box.setDefaultButton(QMessageBox::Cancel);
+    box.exec();
+    return (box.clickedButton() == replace && SaveTo(m_path)) ||
+           (box.clickedButton() == other && SaveAs());
+}
 
 bool FileCommands::SaveAs() {
-    const QString path =
-        QFileDialog::getSaveFileName(&m_window, "Save the page", m_path, kPageFilter);
-    return !path.isEmpty() && SaveTo(WithEnding(path, ".json"));
+    const QString path = AskForFile(
+        m_window, "Save the page", m_path, {kPage},
+        [](const QString& typed, const QString&) { return PageFileName(typed); },
+        [this](const QString& file) { return WhyNot(file); });
+    return !path.isEmpty() && SaveTo(path);
 }
 
 bool FileCommands::SaveTo(const QString& path) {
     return Attempt([&] {
-        host::SavePageFile(m_document.Page(), path.toStdString());
+        const std::string file = path.toStdString();
+        host::Naming(file, [&] {
+            host::CheckReplacesNoInput(file, m_document.Page(), m_document.Rasters());
+        });
+        const std::string remark = host::SavePageFile(m_document.Page(), file);
         m_document.MarkSaved();
-        SetPath(path);
-        Q_EMIT Told("Saved " + path);
+        SetPath(path, StampOf(file));
+        Q_EMIT Told(With("Saved " + path, remark));
     });
 }
 
 void FileCommands::Export() {
-    const QString path =
-        QFileDialog::getSaveFileName(&m_window, "Export the page", {}, kImageFilter);
+    const QFileInfo page(m_path);
+    const QString path = AskForFile(
+        m_window, "Export the page",
+        m_path.isEmpty() ? QString() : page.path() + '/' + page.completeBaseName(),
+        kImages, ExportFileName, [this](const QString& file) { return WhyNot(file); });
     if (path.isEmpty()) {
         return;
     }
@@ -153,7 +212,7 @@ void FileCommands::Export() {
         QInputDialog::getDouble(&m_window, "Resolution", "Pixels an inch:", kPrintDpi,
                                 kLeastDpi, kMostDpi, 1, &isGiven);
     if (isGiven) {
-        ExportTo(WithEnding(path, ".png"), dpi);
+        ExportTo(path, dpi);
     }
 }
 
@@ -161,16 +220,29 @@ bool FileCommands::ExportTo(const QString& path, double dpi) {
     return Attempt([&] {
         Waiting waiting("Drawing " + QFileInfo(path).fileName(), kExportPatience,
                         m_window);
-        ExportPage(m_document.Page(), m_document.Rasters(), path.toStdString(), dpi,
-                   m_path.toStdString(),
-                   [&waiting](double part) { return waiting.Show(part); });
-        Q_EMIT Told("Exported " + path);
+        const std::string remark = ExportPage(
+            m_document.Page(), m_document.Rasters(), path.toStdString(), dpi,
+            m_path.toStdString(), [&waiting](double part) { return waiting.Show(part); });
+        Q_EMIT Told(With("Exported " + path, remark));
     });
+}
+
+/// Why a file must stay; empty when it may be replaced. The page's own may when it is
+/// saved, which is told by its ending from what it is exported to.
+QString FileCommands::WhyNot(const QString& file) {
+    try {
+        host::CheckReplacesNoInput(file.toStdString(), m_document.Page(),
+                                   m_document.Rasters());
+        return {};
+    } catch (const std::exception& error) {
+        return file + ": " + QString::fromStdString(host::LineFor(error));
+    }
 }
 
 bool FileCommands::Attempt(const std::function<void()>& step) {
     try {
         step();
+        Q_EMIT Succeeded();
         return true;
     } catch (const std::exception& error) {
         Q_EMIT Failed(QString::fromStdString(host::LineFor(error)));
@@ -178,8 +250,9 @@ bool FileCommands::Attempt(const std::function<void()>& step) {
     }
 }
 
-void FileCommands::SetPath(const QString& path) {
+void FileCommands::SetPath(const QString& path, const std::string& stamp) {
     m_path = path;
+    m_stamp = stamp;
     if (!path.isEmpty()) {
         AddRecentFile(path);
     }

@@ -3,11 +3,15 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
+#include <QFileDialog>
+#include <QLineEdit>
 #include <QMouseEvent>
+#include <QProgressDialog>
 #include <QTimer>
 #include <QtTest>
 #include <algorithm>
 #include <cstdlib>
+#include <utility>
 
 #include "page/document/item_type.h"
 #include "page/output/page_image.h"
@@ -141,6 +145,70 @@ void AnswerLater(QMessageBox::StandardButton button) {
         }
     });
     timer->start(20);
+}
+
+Answers::Answers(std::vector<Answer> answers) : m_answers(std::move(answers)) {
+    QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this] {
+        auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        if (dialog == nullptr || m_isAnswering ||
+            qobject_cast<QProgressDialog*>(dialog) != nullptr) {
+            return;
+        }
+        if (m_next == m_answers.size()) {
+            ADD_FAILURE() << "not expected: " << dialog->windowTitle().toStdString();
+            dialog->reject();
+            return;
+        }
+        m_isAnswering = true;
+        m_answers[m_next++](*dialog);
+        m_isAnswering = false;
+    });
+    m_timer.start(20);
+}
+
+Answers::~Answers() { EXPECT_EQ(m_next, m_answers.size()) << "dialogs that came"; }
+
+Answers::Answer Answers::Press(const QString& text) {
+    return [text](QDialog& dialog) {
+        for (QAbstractButton* const button : dialog.findChildren<QAbstractButton*>()) {
+            if (button->text().remove('&') == text) {
+                button->click();
+                return;
+            }
+        }
+        ADD_FAILURE() << "no button " << text.toStdString();
+        dialog.reject();
+    };
+}
+
+Answers::Answer Answers::Name(const QString& name, const QString& kind) {
+    return [name, kind](QDialog& dialog) {
+        auto* const files = qobject_cast<QFileDialog*>(&dialog);
+        ASSERT_NE(files, nullptr);
+        for (const QString& filter : files->nameFilters()) {
+            if (!kind.isEmpty() && filter.startsWith(kind)) {
+                files->selectNameFilter(filter);
+            }
+        }
+        // It shows what was proposed once it has looked at its folder.
+        QTest::qWait(200);
+        EXPECT_TRUE(QTest::qWaitFor([&] {
+            files->findChild<QLineEdit*>("fileNameEdit")->setText(name);
+            if (files->selectedFiles() != QStringList(name)) {
+                return false;
+            }
+            dialog.accept();
+            return !dialog.isVisible();
+        }));
+    };
+}
+
+Answers::Answer Answers::Accept() {
+    return [](QDialog& dialog) { dialog.accept(); };
+}
+
+Answers::Answer Answers::Cancel() {
+    return [](QDialog& dialog) { dialog.reject(); };
 }
 
 void ExpectBox(const host::Box& box, const host::Box& expected) {

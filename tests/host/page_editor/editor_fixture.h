@@ -6,7 +6,10 @@
 #include <QImage>
 #include <QMessageBox>
 #include <QPointF>
+#include <QTimer>
+#include <functional>
 #include <string>
+#include <vector>
 
 #include "page_editor/window/editor_window.h"
 #include "scratch_folder.h"
@@ -56,6 +59,31 @@ private:
 
 /// Presses a button of the next question, whenever it is asked.
 void AnswerLater(QMessageBox::StandardButton button);
+
+/// Answers the dialogs that come, one after the other; every one has to come.
+class Answers {
+public:
+    /// Deals with a dialog of its kind.
+    using Answer = std::function<void(QDialog&)>;
+
+    explicit Answers(std::vector<Answer> answers);
+    ~Answers();
+
+    /// Presses the button of a question with that text, without the underlined letter's
+    /// mark.
+    static Answer Press(const QString& text);
+    /// Types a name into a dialog for files, chooses the kind that begins so, and
+    /// accepts.
+    static Answer Name(const QString& name, const QString& kind = {});
+    static Answer Accept();
+    static Answer Cancel();
+
+private:
+    std::vector<Answer> m_answers;
+    std::size_t m_next = 0;
+    bool m_isAnswering = false;
+    QTimer m_timer;
+};
 
 void ExpectBox(const host::Box& box, const host::Box& expected);
 

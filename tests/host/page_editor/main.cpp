@@ -16,6 +16,7 @@ int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QTemporaryDir settings;  // a person's own stay as they are
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
+    qputenv("XDG_DATA_HOME", settings.path().toUtf8());
     ::testing::InitGoogleTest(&argc, argv);
     CPLSetErrorHandler(CPLQuietErrorHandler);
     host::StartGdal();

@@ -262,7 +262,8 @@ TEST_F(FileCommands, TheProgramTellsWhatItIsGiven) {
     EXPECT_THAT(help.out, HasSubstr("--screenshot"));
     const Ended wrong = RunEditor({"--wrong"});
     EXPECT_EQ(wrong.status, 2);
-    const Ended missing = RunEditor({Path("none.json")});
+    const Ended missing =
+        RunEditor({Path("none.json"), "--screenshot", Path("none.png")});
     EXPECT_EQ(missing.status, 1);
     EXPECT_THAT(missing.err, HasSubstr("page_editor: " + folder.Path("none.json") +
                                        ": No such file or directory\n"));
