@@ -33,6 +33,7 @@ void NorthArrowFrame::Draw(Gdiplus::Graphics* graphics, CPoint centre, double sc
     graphics->TranslateTransform(static_cast<float>(middle.x),
                                  static_cast<float>(middle.y));
     graphics->ScaleTransform(larger, larger);
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call): the offset is in the transform
     CSurroundFrame::Draw(graphics, CPoint(0, 0), drawn);
     graphics->Restore(state);
 }

@@ -41,12 +41,12 @@ std::optional<Plan> PlanBar(const CatalogueEntry& style, const ScaleBarDesign& d
     bar->SetSubDivCount(design.subdivisions);
     bar->SetUnitPos(design.unitPosition);
     bar->SetUnitsName(design.unitName.value_or(FactsOf(unit).sign));
-    Plan plan{std::make_unique<ScaleBarFrame>(std::move(bar)), nullptr, *measure};
-    plan.bar = ElementOf<CScaleBarBase>(*plan.frame);
-    plan.frame->SetUnit(unit);
-    plan.frame->SetFit(design.fit);
-    plan.frame->SetBarDistances(IsLength(unit) ? design.distances : BarDistances::Map);
-    return plan;
+    auto frame = std::make_unique<ScaleBarFrame>(std::move(bar));
+    frame->SetUnit(unit);
+    frame->SetFit(design.fit);
+    frame->SetBarDistances(IsLength(unit) ? design.distances : BarDistances::Map);
+    auto* const placed = ElementOf<CScaleBarBase>(*frame);
+    return Plan{std::move(frame), placed, *measure};
 }
 
 /// Gives a bar so many divisions, as long as there is room for.
