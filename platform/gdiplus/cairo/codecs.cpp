@@ -174,14 +174,22 @@ GpStatus Load(const FlatChar* name, GpImage** image) {
     return OutOfMemory;
 }
 
+bool HaveValues(const EncoderParameters* parameters) {
+    for (UINT i = 0; parameters != nullptr && i < parameters->Count; ++i) {
+        if (parameters->Parameter[i].Value == nullptr) {
+            return false;
+        }
+    }
+    return true;
+}
+
 /// The quality that the parameters ask for, or the usual one.
 int QualityOf(const EncoderParameters* parameters) {
     constexpr int usual = 75;
     for (UINT i = 0; parameters != nullptr && i < parameters->Count; ++i) {
         const EncoderParameter& parameter = parameters->Parameter[i];
         if (parameter.Guid == EncoderQuality && parameter.NumberOfValues == 1 &&
-            parameter.Type == EncoderParameterValueTypeLong &&
-            parameter.Value != nullptr) {
+            parameter.Type == EncoderParameterValueTypeLong) {
             ULONG quality = 0;
             std::memcpy(&quality, parameter.Value, sizeof quality);
             return static_cast<int>(std::min(quality, ULONG{100}));
@@ -256,7 +264,8 @@ GpStatus GdipLoadImageFromFile(const FlatChar* file, GpImage** image) {
 
 GpStatus GdipSaveImageToFile(GpImage* image, const FlatChar* file, const CLSID* encoder,
                              const EncoderParameters* parameters) {
-    if (image == nullptr || file == nullptr || encoder == nullptr) {
+    if (image == nullptr || file == nullptr || encoder == nullptr ||
+        !engine::HaveValues(parameters)) {
         return InvalidParameter;
     }
     return engine::Guarded([&] {

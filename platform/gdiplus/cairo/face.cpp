@@ -43,7 +43,7 @@ FT_Face Open(const FaceFile& file) {
     freeType.released = false;
     FT_Face face = nullptr;
     if (FT_New_Face(freeType.library, file.path.c_str(), file.index, &face) != 0) {
-        return nullptr;
+        throw std::bad_alloc();  // it was there when Fontconfig told of it
     }
     ++freeType.faces;
     return face;
@@ -59,10 +59,6 @@ void Close(void* face) {
 
 cairo_font_face_t* CairoFace(const FaceFile& file) {
     FT_FaceRec_* const face = Open(file);
-    if (face == nullptr) {
-        return cairo_toy_font_face_create("", CAIRO_FONT_SLANT_NORMAL,
-                                          CAIRO_FONT_WEIGHT_NORMAL);
-    }
     cairo_font_face_t* const made = cairo_ft_font_face_create_for_ft_face(
         face, file.hintStyle == FC_HINT_SLIGHT ? FT_LOAD_TARGET_LIGHT : FT_LOAD_DEFAULT);
     static const cairo_user_data_key_t key = {0};
@@ -89,9 +85,9 @@ void ReleaseFreeType() {
 
 Face::Face(std::shared_ptr<const FaceFile> from)
     : file(std::move(from)), glyphs(CairoFace(*file)) {
-    hb_blob_t* const blob = hb_blob_create_from_file(file->path.c_str());
+    const FontBytes blob = BytesOf(*file);
     hb_face_t* const face =
-        hb_face_create(blob, static_cast<unsigned>(file->index) & 0xFFFF);
+        hb_face_create(blob.get(), static_cast<unsigned>(file->index) & 0xFFFF);
     shapes.reset(hb_font_create(face));
     if (file->index >> 16 != 0) {
         hb_font_set_var_named_instance(shapes.get(),
@@ -99,7 +95,6 @@ Face::Face(std::shared_ptr<const FaceFile> from)
     }
     em = std::max(1U, hb_face_get_upem(face));
     hb_face_destroy(face);
-    hb_blob_destroy(blob);
 }
 
 bool Face::Has(char32_t character) const {

@@ -4,7 +4,6 @@
 
 #include <mutex>
 
-#include "cairo/owned.h"
 #include "cairo/unicode.h"
 
 namespace engine {
@@ -90,8 +89,8 @@ std::shared_ptr<const FaceFile> FileOf(const FcPattern* face) {
 }
 
 FamilyMetrics MetricsOf(const FaceFile& file) {
-    hb_blob_t* const blob = hb_blob_create_from_file(file.path.c_str());
-    hb_face_t* const face = hb_face_create(blob, static_cast<unsigned>(file.index));
+    const FontBytes blob = BytesOf(file);
+    hb_face_t* const face = hb_face_create(blob.get(), static_cast<unsigned>(file.index));
     hb_font_t* const font = hb_font_create(face);
     hb_font_extents_t extents = {};
     hb_font_get_h_extents(font, &extents);
@@ -103,7 +102,6 @@ FamilyMetrics MetricsOf(const FaceFile& file) {
         static_cast<UINT16>(extents.ascender - extents.descender + extents.line_gap);
     hb_font_destroy(font);
     hb_face_destroy(face);
-    hb_blob_destroy(blob);
     return metrics;
 }
 
@@ -112,15 +110,19 @@ Pattern Match(const Pattern& question) {
     return Pattern(FcFontMatch(nullptr, question.get(), &result));
 }
 
-}  // namespace
-
-namespace {
-
 /// Fontconfig minds its threads itself, in ways that no checker of threads can follow;
 /// little is asked of it, so one may wait for the other.
 std::mutex g_fontconfig;
 
 }  // namespace
+
+FontBytes BytesOf(const FaceFile& file) {
+    FontBytes bytes(hb_blob_create_from_file(file.path.c_str()));
+    if (hb_blob_get_length(bytes.get()) == 0) {
+        throw std::bad_alloc();
+    }
+    return bytes;
+}
 
 std::shared_ptr<const Family> FindFamily(const FlatChar* name) {
     const std::lock_guard lock(g_fontconfig);

@@ -1,12 +1,14 @@
 #pragma once
 
 #include <fontconfig/fontconfig.h>
+#include <hb.h>
 
 #include <memory>
 #include <string>
 #include <vector>
 
 #include "cairo/flat_functions.h"
+#include "cairo/owned.h"
 
 namespace engine {
 
@@ -18,6 +20,11 @@ struct FaceFile {
     bool slant = false;
     int hintStyle = FC_HINT_SLIGHT;  ///< of Fontconfig's
 };
+
+/// What is in the file of a face; throws std::bad_alloc where it cannot be read now,
+/// though Fontconfig told of it.
+using FontBytes = Owned<hb_blob_t, hb_blob_destroy>;
+FontBytes BytesOf(const FaceFile& file);
 
 /// The measures of a family, in its own units.
 struct FamilyMetrics {

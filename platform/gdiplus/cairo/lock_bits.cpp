@@ -60,7 +60,11 @@ GpStatus Lock(Bitmap& bitmap, const Rect& area, UINT mode, PixelFormat format,
         data.Scan0 = FirstPixel(pixels, area);
     } else {
         if (!given) {
-            data.Stride = static_cast<INT>(RowBytes(area.Width, format));
+            const std::int64_t stride = RowBytes(area.Width, format);
+            if (stride > kMostPixelBytes / area.Height) {
+                return OutOfMemory;
+            }
+            data.Stride = static_cast<INT>(stride);
             bitmap.lockRows.resize(static_cast<std::size_t>(data.Stride) * data.Height);
             data.Scan0 = bitmap.lockRows.data();
         }

@@ -55,6 +55,30 @@ Extents Pencil::Reach(double margin) const {
             extents_.bottom + margin};
 }
 
+void TracePath(Pencil& pencil, const Path& path, const PointF& origin, double scale) {
+    const auto at = [&](std::size_t i) {
+        return PointF(static_cast<REAL>(path.points[i].X * scale + origin.X),
+                      static_cast<REAL>(path.points[i].Y * scale + origin.Y));
+    };
+    for (std::size_t i = 0; i < path.points.size(); ++i) {
+        const PointF point = at(i);
+        switch (path.kinds[i] & Path::KindBits) {
+            case Path::Start:
+                pencil.MoveTo(point.X, point.Y);
+                break;
+            case Path::Line:
+                pencil.LineTo(point.X, point.Y);
+                break;
+            default:
+                pencil.CurveTo(point, at(i + 1), at(i + 2));
+                i += 2;
+        }
+        if ((path.kinds[i] & Path::Closes) != 0) {
+            pencil.Close();
+        }
+    }
+}
+
 void SetColor(cairo_t* cairo, ARGB color) {
     constexpr double whole = 255.0;
     cairo_set_source_rgba(cairo, (color >> 16 & 255) / whole, (color >> 8 & 255) / whole,

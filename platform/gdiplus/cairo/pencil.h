@@ -35,6 +35,10 @@ private:
     Extents extents_;
 };
 
+/// Traces a path, scaled and then moved to an origin.
+void TracePath(Pencil& pencil, const Path& path, const PointF& origin = PointF(),
+               double scale = 1.0);
+
 void SetColor(cairo_t* cairo, ARGB color);
 
 GpStatus Clear(Graphics& graphics, ARGB color);

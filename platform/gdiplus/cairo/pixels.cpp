@@ -35,9 +35,8 @@ std::vector<ARGB> GreyPalette(PixelFormat format) {
 }
 
 std::shared_ptr<Pixels> MakePixels(INT width, INT height, PixelFormat format) {
-    constexpr std::int64_t mostBytes = 0x7FFFFFFF;
     const std::int64_t stride = RowBytes(width, format);
-    if (stride > mostBytes / height) {
+    if (stride > kMostPixelBytes / height) {
         return nullptr;
     }
     auto pixels = std::make_shared<Pixels>();

@@ -30,6 +30,9 @@ struct Pixels {
 /// palette.
 bool IsKnown(PixelFormat format);
 
+/// The most memory of a bitmap's rows.
+constexpr std::int64_t kMostPixelBytes = 0x7FFFFFFF;
+
 /// The fewest bytes that a row takes, a multiple of four.
 std::int64_t RowBytes(INT width, PixelFormat format);
 

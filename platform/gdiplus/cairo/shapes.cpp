@@ -9,26 +9,6 @@
 namespace engine {
 namespace {
 
-void TracePath(Pencil& pencil, const Path& path) {
-    for (std::size_t i = 0; i < path.points.size(); ++i) {
-        const PointF& point = path.points[i];
-        switch (path.kinds[i] & Path::KindBits) {
-            case Path::Start:
-                pencil.MoveTo(point.X, point.Y);
-                break;
-            case Path::Line:
-                pencil.LineTo(point.X, point.Y);
-                break;
-            default:
-                pencil.CurveTo(point, path.points[i + 1], path.points[i + 2]);
-                i += 2;
-        }
-        if ((path.kinds[i] & Path::Closes) != 0) {
-            pencil.Close();
-        }
-    }
-}
-
 template <typename AnyPoint>
 void TracePoints(Pencil& pencil, const AnyPoint* points, INT count, bool closed) {
     for (INT i = 0; i < count; ++i) {

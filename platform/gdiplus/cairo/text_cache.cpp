@@ -142,8 +142,8 @@ TextLayout& ThreadTexts::LayoutOf(const std::shared_ptr<const Family>& family,
     const std::size_t bytes = layout->Bytes() + sizeof(Kept) + 2 * length;
     kept_.push_front(
         {hash, style, family, std::u16string(view), std::move(layout), bytes});
-    places_[hash] = kept_.begin();
     bytes_ += bytes;
+    places_[hash] = kept_.begin();
     Charge(0);
     return *kept_.front().layout;
 }

@@ -49,29 +49,18 @@ std::ptrdiff_t LengthOf(const FlatChar* text, INT length) {
     return length < -1 ? -1 : length;
 }
 
-constexpr double kLargestSize = 1e6;
+constexpr double kLargestSize = 65535.0;
+/// The largest em of which a file, whose units are points, has glyphs.
+constexpr double kLargestText = 10000.0;
 
 bool IsBox(const RectF& box) {
     return std::isfinite(box.X) && std::isfinite(box.Y) && !std::isnan(box.Width) &&
            !std::isnan(box.Height);
 }
 
-/// Glyphs too large to be kept as pixels are filled as outlines.
-void FillGlyphs(cairo_t* cairo, const SizedFace& face,
-                const std::vector<cairo_glyph_t>& glyphs) {
-    const double enlarged = face.size / kLargestGlyphs;
-    for (const cairo_glyph_t& glyph : glyphs) {
-        cairo_save(cairo);
-        cairo_translate(cairo, glyph.x, glyph.y);
-        cairo_scale(cairo, enlarged, enlarged);
-        const cairo_glyph_t alone = {glyph.index, 0.0, 0.0};
-        cairo_set_font_face(cairo, face.face->glyphs.get());
-        cairo_set_font_size(cairo, kLargestGlyphs);
-        cairo_glyph_path(cairo, &alone, 1);
-        cairo_restore(cairo);
-    }
-    cairo_set_fill_rule(cairo, CAIRO_FILL_RULE_WINDING);
-    cairo_fill(cairo);
+/// How much longer a matrix makes a length, at most.
+double Enlargement(const cairo_matrix_t& matrix) {
+    return std::max(std::hypot(matrix.xx, matrix.yx), std::hypot(matrix.xy, matrix.yy));
 }
 
 /// The glyphs of a run moved by (x, y), those left out that are nowhere near a surface.
@@ -94,10 +83,6 @@ void WriteGlyphs(Graphics& graphics, const TextLayout& layout, double x, double 
     for (const GlyphRun& run : layout.runs) {
         Move(run, x, y, moved);
         const SizedFace& face = *run.face;
-        if (face.size > kLargestGlyphs) {
-            FillGlyphs(cairo, face, moved);
-            continue;
-        }
         if (upright) {
             cairo_set_scaled_font(cairo, face.glyphs.get());
         } else {
@@ -140,24 +125,69 @@ Extents ExtentsOf(const TextLayout& layout, const cairo_matrix_t& matrix, double
     return extents;
 }
 
+/// The rectangle of a text, in what Cairo has as its coordinates, cuts it off.
+void ClipTo(cairo_t* cairo, double x, double y, double width, double height) {
+    constexpr double far = 1 << 20;
+    cairo_save(cairo);
+    cairo_rectangle(cairo, width > 0.0 ? x : -far, height > 0.0 ? y : -far,
+                    width > 0.0 ? width : 2 * far, height > 0.0 ? height : 2 * far);
+    cairo_clip(cairo);
+}
+
+/// A text too large for glyphs to be kept: FreeType would give up on its face for good.
+/// @param scale units of the layout to a world unit
+GpStatus FillLarge(Graphics& graphics, TextLayout& layout, const TextStyle& style,
+                   const RectF& box, double scale, ARGB color) {
+    const Path& outline = OutlineOf(layout);
+    cairo_t* const cairo = graphics.cairo;
+    const bool clips = layout.clips && (style.flags & StringFormatFlagsNoClip) == 0;
+    if (clips) {
+        const cairo_matrix_t device = graphics.Device();
+        cairo_set_matrix(cairo, &device);
+        cairo_new_path(cairo);
+        ClipTo(cairo, box.X, box.Y, style.width / scale, style.height / scale);
+    }
+    Pencil pencil(graphics, graphics.PixelMiddle());
+    TracePath(pencil, outline, PointF(box.X, box.Y), 1.0 / scale);
+    const Extents reach = pencil.IsEmpty() ? Extents() : pencil.Reach(1.0);
+    Drawing drawing(graphics, reach);
+    if (!pencil.IsEmpty()) {
+        cairo_set_antialias(
+            cairo, style.smooth ? CAIRO_ANTIALIAS_DEFAULT : CAIRO_ANTIALIAS_NONE);
+        cairo_set_fill_rule(cairo, CAIRO_FILL_RULE_WINDING);
+        SetColor(cairo, color);
+        cairo_fill(cairo);
+    }
+    if (clips) {
+        cairo_restore(cairo);
+    }
+    return drawing.Finish();
+}
+
 GpStatus DrawText(Graphics& graphics, const FlatChar* text, std::size_t length,
                   const Font& font, const RectF& box, const GpStringFormat* format,
                   ARGB color) {
     const cairo_matrix_t device = graphics.Device();
-    const Placing placing = PlacingOn(graphics);
-    const double size = font.size * PixelsIn(font.unit, graphics.ydpi);
     if (!IsDrawable(device) || !IsInvertible(device)) {
         return Ok;
     }
-    const double scale = placing.upright ? placing.scale : 1.0;
+    const Placing placing = PlacingOn(graphics);
+    const double size = font.size * PixelsIn(font.unit, graphics.ydpi);
+    const double enlarged = Enlargement(device);
+    if (!(size * enlarged <= kLargestSize)) {
+        return InvalidParameter;
+    }
+    const bool large =
+        size * enlarged > (graphics.ofPixels ? kLargestGlyphs : kLargestText);
+    const double scale = placing.upright || large ? enlarged : 1.0;
     TextStyle style = StyleOf(*font.family, size, font.style, box, format, scale);
     style.fit = graphics.ofPixels;
     style.smooth = graphics.state.textHint < TextRenderingHintSingleBitPerPixelGridFit ||
                    graphics.state.textHint > TextRenderingHintSingleBitPerPixel;
-    if (!(style.size <= kLargestSize)) {
-        return InvalidParameter;
+    TextLayout& layout = Texts().LayoutOf(font.family, style, text, length);
+    if (large) {
+        return FillLarge(graphics, layout, style, box, scale, color);
     }
-    const TextLayout& layout = Texts().LayoutOf(font.family, style, text, length);
     double x = box.X;
     double y = box.Y;
     cairo_matrix_t matrix = device;
@@ -173,13 +203,7 @@ GpStatus DrawText(Graphics& graphics, const FlatChar* text, std::size_t length,
     cairo_new_path(cairo);
     const bool clips = layout.clips && (style.flags & StringFormatFlagsNoClip) == 0;
     if (clips) {
-        cairo_save(cairo);
-        constexpr double far = 1 << 20;
-        cairo_rectangle(cairo, style.width > 0.0 ? x : -far,
-                        style.height > 0.0 ? y : -far,
-                        style.width > 0.0 ? style.width : 2 * far,
-                        style.height > 0.0 ? style.height : 2 * far);
-        cairo_clip(cairo);
+        ClipTo(cairo, x, y, style.width, style.height);
     }
     cairo_set_antialias(cairo,
                         style.smooth ? CAIRO_ANTIALIAS_DEFAULT : CAIRO_ANTIALIAS_NONE);

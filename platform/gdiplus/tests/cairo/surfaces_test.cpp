@@ -111,6 +111,26 @@ TEST(ThreeBytePixels, AreDrawnInPlaceAndNoFurther) {
     EXPECT_EQ(memory, expected);
 }
 
+// The binding asks first, of any flat functions; these are asked themselves.
+TEST(LockedPixels, AreNoMoreThanABitmapMayHave) {
+    using namespace DllExports;
+    GpBitmap* bitmap = nullptr;
+    ASSERT_EQ(GdipCreateBitmapFromScan0(40000, 20000, 0, PixelFormat1bppIndexed, nullptr,
+                                        &bitmap),
+              Ok);
+    BitmapData data;
+    EXPECT_EQ(GdipBitmapLockBits(bitmap, nullptr, ImageLockModeRead, PixelFormat32bppARGB,
+                                 &data),
+              OutOfMemory);
+    const Rect area(0, 0, 40000, 2);
+    EXPECT_EQ(
+        GdipBitmapLockBits(bitmap, &area, ImageLockModeRead, PixelFormat32bppARGB, &data),
+        Ok);
+    EXPECT_EQ(data.Stride, 160000);
+    EXPECT_EQ(GdipBitmapUnlockBits(bitmap, &data), Ok);
+    GdipDisposeImage(bitmap);
+}
+
 TEST(Rows, MayGoUpwards) {
     std::vector<ARGB> memory(2 * 3, 0xFFFFFFFF);
     Bitmap bitmap(2, 3, -8, PixelFormat32bppRGB,
