@@ -49,7 +49,9 @@ GpStatus DrawInto(Graphics& graphics, Bitmap& bitmap, double x, double y, double
     cairo_matrix_invert(&back);
     cairo_pattern_set_matrix(pattern.get(), &back);
     cairo_pattern_set_filter(pattern.get(), FilterOf(graphics.state.interpolation));
-    cairo_pattern_set_extend(pattern.get(), CAIRO_EXTEND_PAD);
+    // Pixels at the edge are not to fade; where there are none, there is the image alone.
+    cairo_pattern_set_extend(pattern.get(),
+                             graphics.ofPixels ? CAIRO_EXTEND_PAD : CAIRO_EXTEND_NONE);
     Drawing drawing(graphics, pencil.Reach(1.0));
     cairo_set_antialias(graphics.cairo, CAIRO_ANTIALIAS_DEFAULT);
     cairo_set_source(graphics.cairo, pattern.get());

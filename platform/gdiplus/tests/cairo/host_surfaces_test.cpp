@@ -60,6 +60,22 @@ TEST_F(HostSurfaces, OfPdfHaveTheirFont) {
     EXPECT_NE(Contents().find("LiberationSans"), std::string::npos);
 }
 
+TEST_F(HostSurfaces, OfPdfKeepImagesPixelForPixel) {
+    cairo_surface_t* const surface = cairo_pdf_surface_create(file.c_str(), 600, 400);
+    cairo_t* const cairo = cairo_create(surface);
+    cairo_scale(cairo, 72.0 / 200.0, 72.0 / 200.0);
+    {
+        CairoGraphics graphics(cairo, 200.0f);
+        Bitmap image(40, 30, PixelFormat32bppRGB);
+        EXPECT_EQ(graphics.DrawImage(&image, 101, 51, 40, 30), Ok);
+    }
+    cairo_destroy(cairo);
+    cairo_surface_destroy(surface);
+    const std::string page = Contents();
+    EXPECT_NE(page.find("/Width 40\n   /Height 30\n"), std::string::npos);
+    EXPECT_EQ(page.find("/Pattern"), std::string::npos);
+}
+
 TEST_F(HostSurfaces, OfPostScriptAreWrittenWithTheGraphics) {
     {
         PostScriptGraphics graphics(file.c_str(), 600, 400);
