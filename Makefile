@@ -212,7 +212,7 @@ purpose_of_coverage = coverage
 purpose_of_fuzz = fuzz
 purpose_of_lint = lint
 purpose_of_package = package
-purpose_of_threads = library
+purpose_of_threads = cairo
 purpose_of_windows-mingw = windows
 
 build/%/build.ninja: CMakePresets.json scripts/install_packages
