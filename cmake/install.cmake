@@ -70,7 +70,8 @@ if(NOT MAP_SURROUND_HOST_INCLUDE_DIR)
       if(kind STREQUAL "static")
         set(pc_flags " -DMAP_SURROUND_STATIC_DEFINE")
         # By its file, for beside the shared library its name means that.
-        set(pc_library "\${libdir}/$<TARGET_LINKER_FILE_NAME:map_surround_static>")
+        set(pc_library
+          "\${libdir}/$<TARGET_LINKER_FILE_NAME:map_surround_static> -L\${libdir}")
       endif()
       set(gdiplus_library gdiplus)
       if(TARGET gdiplus_cairo)
