@@ -52,7 +52,8 @@ test-cairo: build/cairo/build.ninja
 	ctest --preset cairo
 
 likeness: build/cairo/build.ninja
-	cmake --build --preset cairo --target gallery compare_pictures
+	cmake --build --preset cairo \
+	    --target gallery compare_pictures map_page make_sample_rasters
 	scripts/likeness build/cairo
 
 test-sanitized: build/sanitized/build.ninja
