@@ -145,8 +145,8 @@ editor: build/release/with-editor
 	cmake --build --preset release --target page_editor
 
 editor-test: build/release/with-test build/release/with-editor
-	cmake --build --preset release --target page_editor_tests
-	ctest --preset release -R '^page_editor_tests'
+	cmake --build --preset release --target page_editor_tests example_tests
+	ctest --preset release -R '^(page_editor_tests|examples\.OwnSurface)'
 
 bench: build/release/with-bench
 	cmake --build --preset release --target library_bench

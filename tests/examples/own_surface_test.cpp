@@ -42,4 +42,34 @@ TEST(OwnSurface, OfCairoIsDrawnOnBetweenDrawings) {
 }
 #endif
 
+#ifdef PDF_PAGE
+TEST(OwnSurface, OfAPdfHasItsFontAndItsSize) {
+    const Program program(PDF_PAGE, "");
+    const std::string page = program.Contents("page.pdf");
+    EXPECT_EQ(page.substr(0, 5), "%PDF-");
+    // 148 by 105 mm.
+    EXPECT_NE(page.find("/MediaBox [ 0 0 419.527559 297.637795 ]"), page.npos);
+    EXPECT_NE(page.find("LiberationSans"), page.npos);
+    EXPECT_EQ(page.find("/Subtype /Image"), page.npos);
+}
+#endif
+
+#ifdef QT_IMAGE
+TEST(OwnSurface, OfQtIsDrawnOnInPlace) {
+    const Session session;
+    const Program program(QT_IMAGE, "");
+    const std::unique_ptr<Gdiplus::Bitmap> image = program.Image("title.png");
+    ASSERT_EQ(image->GetWidth(), 320u);
+    EXPECT_EQ(PixelAt(*image, 0, 0), 0xFFA8CFB9);
+    int ink = 0;
+    for (int x = 0; x < 320; ++x) {
+        for (int y = 0; y < 120; ++y) {
+            ink += PixelAt(*image, x, y) == 0xFF000000 ? 1 : 0;
+        }
+    }
+    EXPECT_GT(ink, 500);  // six letters of 40 pixels
+    EXPECT_LT(ink, 3000);
+}
+#endif
+
 }  // namespace

@@ -1,0 +1,29 @@
+// A title on a QImage.
+
+#include <QImage>
+
+#include "map_surround/map_surround.h"
+
+static void DrawTitle(QImage& image) {
+    Gdiplus::Bitmap bitmap(image.width(), image.height(),
+                           static_cast<INT>(image.bytesPerLine()), PixelFormat32bppPARGB,
+                           image.bits());
+    Gdiplus::Graphics graphics(&bitmap);
+    CMapTitle title;
+    title.SetFontValue(L"Olinda");
+    title.SetFontStyle(L"Arial");
+    title.SetFontSize(40.0);
+    title.ResetAspectRatio();
+    title.Draw(&graphics, CPoint(image.width() / 2, image.height() / 2), 1.0);
+}
+
+int main() {
+    ULONG_PTR token = 0;
+    const Gdiplus::GdiplusStartupInput input;
+    Gdiplus::GdiplusStartup(&token, &input, nullptr);
+    QImage image(320, 120, QImage::Format_ARGB32_Premultiplied);
+    image.fill(0xFFA8CFB9);
+    DrawTitle(image);
+    Gdiplus::GdiplusShutdown(token);
+    return image.save("title.png") ? 0 : 1;
+}
