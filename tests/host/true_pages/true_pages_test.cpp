@@ -241,7 +241,7 @@ void CheckColours(const DrawnPage& page) {
             // From low to high, column by column: black to white.
             const double grey = 255.0 * column / (kColumns - 1.0);
             EXPECT_TRUE(drawn.red == drawn.green && drawn.green == drawn.blue);
-            EXPECT_NEAR(drawn.red, grey, 255.0 / kColumns + 2.0) << "column " << column;
+            EXPECT_NEAR(drawn.red, grey, 1.5) << "column " << column;
             continue;
         }
         const std::uint32_t colour = true_pages::kClassColours[column * 4 / kColumns];
