@@ -52,12 +52,14 @@ Area WrittenPage::FrameOf(const nlohmann::json& item) const {
 
 double WrittenPage::CentreX(const nlohmann::json& item) const {
     const Area frame = FrameOf(item);
-    return (frame.left + frame.right) / 2.0 + ToDevice(item["offsetX"]);
+    const int middle = frame.left + (frame.right - frame.left) / 2;
+    return middle + std::round(ToDevice(item["offsetX"]));
 }
 
 double WrittenPage::CentreY(const nlohmann::json& item) const {
     const Area frame = FrameOf(item);
-    return (frame.top + frame.bottom) / 2.0 - ToDevice(item["offsetY"]);
+    const int middle = frame.top + (frame.bottom - frame.top) / 2;
+    return middle - std::round(ToDevice(item["offsetY"]));
 }
 
 std::vector<std::string> WrittenPage::TextsOf(const nlohmann::json& item) const {
