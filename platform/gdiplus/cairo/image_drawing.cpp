@@ -16,7 +16,7 @@ cairo_filter_t FilterOf(InterpolationMode mode) {
         case InterpolationModeHighQualityBicubic:
             return CAIRO_FILTER_BEST;
         default:
-            return CAIRO_FILTER_GOOD;
+            return CAIRO_FILTER_BILINEAR;
     }
 }
 

@@ -159,6 +159,29 @@ struct ClipRow {
     int inside;  ///< of two squares of 4 that share a square of 2
 };
 
+TEST(Interpolation, LooksAtEveryPixelOnlyInHighQuality) {
+    Bitmap stripes(80, 8);
+    for (int i = 0; i < 80 * 8; ++i) {
+        stripes.SetPixel(i % 80, i / 80, Color(i % 10 == 0 ? 0xFF000000 : 0xFFFFFFFF));
+    }
+    struct Row {
+        InterpolationMode mode;
+        int lightest;
+        int darkest;
+    };
+    // A tenth of the pixels is black, and none of those in the middle of ten.
+    for (const Row& row : {Row{InterpolationModeBilinear, 255, 255},
+                           Row{InterpolationModeHighQualityBicubic, 250, 200}}) {
+        Bitmap page(8, 8);
+        Graphics graphics(&page);
+        graphics.SetInterpolationMode(row.mode);
+        graphics.DrawImage(&stripes, 0, 0, 8, 8);
+        const int grey = static_cast<int>(PixelAt(page, 4, 4) & 255);
+        EXPECT_LE(grey, row.lightest) << row.mode;
+        EXPECT_GE(grey, row.darkest) << row.mode;
+    }
+}
+
 TEST(Clip, CombinesByItsMode) {
     for (const ClipRow& row :
          {ClipRow{CombineModeReplace, 16}, ClipRow{CombineModeIntersect, 4},
