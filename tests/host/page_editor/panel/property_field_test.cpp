@@ -83,6 +83,8 @@ TEST_F(PropertyField, KeysReachThePageOnceNothingIsBeingTyped) {
     QTest::keyClick(&left, Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(Left(), 100.0);
     EXPECT_NE(left.text(), "77");
+    document.Redo();  // so 77 has been no command
+    EXPECT_EQ(Left(), 123.0);
 }
 
 TEST_F(PropertyField, KeysOfFilesReachThePage) {
