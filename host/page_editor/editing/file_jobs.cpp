@@ -33,7 +33,7 @@ std::vector<std::string> FieldsOf(const std::string& input) {
 }
 
 template <typename Bytes>
-std::string TextOf(const Bytes& bytes) {
+std::string StringOf(const Bytes& bytes) {
     return {bytes.begin(), bytes.end()};
 }
 
@@ -99,10 +99,11 @@ std::string RenderMap(const std::string& input, const host::Progress& progress) 
     const host::GdiplusSession session;
     const host::PageItem item = host::ReadItem(fields.at(0));
     const auto& map = std::get<host::MapFrame>(item);
-    return TextOf(host::RasterStore()
-                      .Map(map.rasterPaths, map.extent, map.style)
-                      ->Render(std::stoi(fields.at(1)), std::stoi(fields.at(2)), progress)
-                      .bgra);
+    return StringOf(
+        host::RasterStore()
+            .Map(map.rasterPaths, map.extent, map.style)
+            ->Render(std::stoi(fields.at(1)), std::stoi(fields.at(2)), progress)
+            .bgra);
 }
 
 std::string DrawPage(const std::string& input, const host::Progress& progress) {
@@ -116,14 +117,14 @@ std::string DrawPage(const std::string& input, const host::Progress& progress) {
         host::OpenRasters(page, rasters);
         double dpi = 0.0;
         host::ParseNumber(fields.at(2), dpi);
-        return TextOf(host::EncodePage(
+        return StringOf(host::EncodePage(
             page, static_cast<host::OutputFormat>(std::stoi(fields.at(1))), dpi,
             progress));
     });
 }
 
 std::string MakePdf(const std::string& input, const host::Progress&) {
-    return TextOf(host::PdfFromPostScript({input.begin(), input.end()}));
+    return StringOf(host::PdfFromPostScript({input.begin(), input.end()}));
 }
 
 }  // namespace

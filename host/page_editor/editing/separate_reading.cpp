@@ -63,7 +63,7 @@ std::string Try(const std::string& path, const std::string& job, const std::stri
 }
 
 /// What a map was made of, as an item.
-std::string TextOf(const host::MapLayers& layers) {
+std::string AsItem(const host::MapLayers& layers) {
     host::MapFrame map;
     for (const auto& raster : layers.Given()) {
         map.rasterPaths.push_back(raster->Path());
@@ -84,7 +84,7 @@ host::PixelImage RenderSeparately(host::MapPicture& picture, int width, int heig
     }
     const std::string bytes = host::InHelper(
         "reading the rasters", kRenderMap,
-        Joined({TextOf(*layers), std::to_string(width), std::to_string(height)}),
+        Joined({AsItem(*layers), std::to_string(width), std::to_string(height)}),
         std::ref(telling));
     return {width, height, {bytes.begin(), bytes.end()}};
 }
