@@ -112,7 +112,7 @@ UINT Part(UINT pixel, UINT mask) {
 }
 
 bool ReadPlain(const Numbers& numbers, const BmpHeader& header, const Pixels& pixels) {
-    const std::size_t stride = static_cast<std::size_t>(
+    const auto stride = static_cast<std::size_t>(
         (std::int64_t{header.width} * header.bits + 31) / 32 * 4);
     const auto height = static_cast<std::size_t>(header.height);
     if (header.pixels > numbers.file.size ||

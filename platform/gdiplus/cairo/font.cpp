@@ -122,7 +122,8 @@ GpStatus GdipGetFamily(GpFont* font, GpFontFamily** family) {
 GpStatus GdipGetFontHeightGivenDPI(const GpFont* font, REAL dpi, REAL* height) {
     return Tell(From(font), height, [&](const engine::Font& f) {
         const engine::FamilyMetrics& m = f.family->metrics[f.style & FontStyleBoldItalic];
-        return f.size * engine::PixelsIn(f.unit, dpi) * m.spacing / m.em;
+        return f.size * engine::PixelsIn(f.unit, dpi) * static_cast<REAL>(m.spacing) /
+               static_cast<REAL>(m.em);
     });
 }
 

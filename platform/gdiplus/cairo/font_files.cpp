@@ -2,6 +2,8 @@
 
 #include <hb-ot.h>
 
+#include <algorithm>
+#include <iterator>
 #include <mutex>
 
 #include "cairo/unicode.h"
@@ -35,12 +37,11 @@ Pattern Question(const std::string& name, INT style) {
 }
 
 bool IsGeneric(const std::string& name) {
-    for (const char* generic : {"sans", "sans-serif", "serif", "monospace", "mono"}) {
-        if (FcStrCmpIgnoreCase(Bytes(name), Bytes(generic)) == 0) {
-            return true;
-        }
-    }
-    return false;
+    const char* const generics[] = {"sans", "sans-serif", "serif", "monospace", "mono"};
+    return std::any_of(std::begin(generics), std::end(generics),
+                       [&](const char* generic) {
+                           return FcStrCmpIgnoreCase(Bytes(name), Bytes(generic)) == 0;
+                       });
 }
 
 /// Whether a face is what was meant: of a family that the question names as strongly as

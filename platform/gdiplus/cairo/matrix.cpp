@@ -1,7 +1,8 @@
 #include "cairo/matrix.h"
 
+#include <algorithm>
 #include <cmath>
-#include <initializer_list>
+#include <iterator>
 
 #include "cairo/numbers.h"
 
@@ -9,12 +10,9 @@ namespace engine {
 
 bool IsDrawable(const cairo_matrix_t& m) {
     constexpr double most = 1e7;
-    for (const double element : {m.xx, m.yx, m.xy, m.yy, m.x0, m.y0}) {
-        if (!(std::fabs(element) <= most)) {
-            return false;
-        }
-    }
-    return true;
+    const double elements[] = {m.xx, m.yx, m.xy, m.yy, m.x0, m.y0};
+    return std::all_of(std::begin(elements), std::end(elements),
+                       [](double element) { return std::fabs(element) <= most; });
 }
 
 bool IsInvertible(const cairo_matrix_t& m) {

@@ -55,7 +55,7 @@ struct TextLayout {
 struct ThreadTexts;
 
 std::unique_ptr<TextLayout> LayOut(ThreadTexts& texts, const TextStyle& style,
-                                   const FlatChar* text, std::size_t length);
+                                   const FlatChar* units, std::size_t length);
 
 /// The outlines of all glyphs and lines of a text.
 const Path& OutlineOf(TextLayout& layout);

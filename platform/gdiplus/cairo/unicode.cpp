@@ -9,7 +9,8 @@ std::u32string CodePoints(const FlatChar* units, std::size_t count) {
         const char32_t unit = units[i];
         const bool high = unit >= 0xD800 && unit <= 0xDBFF;
         if (high && i + 1 < count && units[i + 1] >= 0xDC00 && units[i + 1] <= 0xDFFF) {
-            points += 0x10000 + ((unit - 0xD800) << 10) + (units[++i] - 0xDC00U);
+            points += static_cast<char32_t>(0x10000 + ((unit - 0xD800) << 10) +
+                                            (units[++i] - 0xDC00U));
         } else {
             points += unit >= 0xD800 && unit <= 0xDFFF ? 0xFFFD : unit;
         }
@@ -44,7 +45,7 @@ std::string Utf8(const FlatChar* text) {
 
 std::u16string Utf16(const char* utf8) {
     std::u16string text;
-    for (auto at = reinterpret_cast<const unsigned char*>(utf8); *at != 0;) {
+    for (const auto* at = reinterpret_cast<const unsigned char*>(utf8); *at != 0;) {
         const unsigned char lead = *at++;
         int more = lead < 0x80 ? 0 : lead < 0xE0 ? 1 : lead < 0xF0 ? 2 : 3;
         char32_t c = more == 0 ? lead : lead & (0x3F >> more);
