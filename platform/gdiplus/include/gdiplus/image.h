@@ -76,9 +76,9 @@ protected:
     /// Owned; deleted with the image.
     GpImage* native_ = nullptr;
 
-    // From the last query, or as a bitmap was made; -1 before it.
+    /// Pixels, from the last query or as a bitmap was made; -1 before it.
     std::int64_t width_ = -1;
-    std::int64_t height_ = -1;
+    std::int64_t height_ = -1;  ///< Likewise.
 
 private:
     friend class Graphics;
