@@ -78,6 +78,7 @@ TEST_F(HonestStatus, OfFontsThatAreNotThere) {
         << boxes.err;
 }
 
+#ifndef __SANITIZE_ADDRESS__  // which takes memory and descriptors itself
 // Fonts and rasters are files, and take memory: without either, texts were once boxes.
 TEST_F(HonestStatus, OfDescriptorsAndMemoryThatRunOut) {
     // Without memory for its thread, Pango may wait for it without end.
@@ -107,12 +108,11 @@ TEST_F(HonestStatus, OfDescriptorsAndMemoryThatRunOut) {
         ASSERT_LT(most, 100u);
         isEnough = tryWith(RLIMIT_NOFILE, most);
     }
-#ifndef __SANITIZE_ADDRESS__
     for (rlim_t megabytes = 200; megabytes <= 300; megabytes += 10) {
         tryWith(RLIMIT_AS, megabytes << 20);
     }
-#endif
 }
+#endif
 
 TEST_F(HonestStatus, OfColumnsThatThePageHasNothingFor) {
     host_tests::WriteFile(
