@@ -179,6 +179,27 @@ TEST(VastBitmap, IsRefusedAndItsPixelsToo) {
     }
 }
 
+/// As one that was read from a file, whose size is not asked for yet or is whatever.
+struct BitmapFromFile : Bitmap {
+    explicit BitmapFromFile(std::int64_t side) : Bitmap(4, 4) { width_ = height_ = side; }
+};
+
+TEST(VastBitmap, OfAFileIsLockedInParts) {
+    const Rect corner(0, 0, 1, 1);
+    for (const std::int64_t side : {-1, 4, 1 << 20}) {
+        SCOPED_TRACE(side);
+        BitmapFromFile bitmap(side);
+        BitmapData data = {};
+        for (const Rect* const area : {&corner, static_cast<const Rect*>(nullptr)}) {
+            const Status expected = side > 4 && area == nullptr ? OutOfMemory : Ok;
+            ASSERT_EQ(
+                bitmap.LockBits(area, ImageLockModeRead, PixelFormat32bppARGB, &data),
+                expected);
+            EXPECT_EQ(bitmap.UnlockBits(&data) == Ok, expected == Ok);
+        }
+    }
+}
+
 TEST(EncoderParameter, WithoutAValueIsRefused) {
     Bitmap bitmap(4, 4);
     const std::wstring name =
