@@ -58,7 +58,7 @@ public:
     ///
     /// A drawing call that fails does not stop the drawing; its status stays behind as
     /// the surface's last status.
-    /// @param graphics the surface, not null; not owned
+    /// @param graphics the surface, not owned; on null nothing is drawn
     /// @param centre device pixels
     /// @param scale device pixels per page unit
     virtual void Draw(Gdiplus::Graphics* graphics, CPoint centre, double scale) = 0;

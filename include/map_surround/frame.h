@@ -69,7 +69,8 @@ public:
     /// colour is not opaque. A border of width 0 is drawn in a transparent colour, since
     /// GDI+ would draw a hairline. When the shadow is on and both its ratios are 0,
     /// BorderWidth is 0 afterwards; this is intended.
-    /// @param graphics the surface, not null; failures become its last status
+    /// @param graphics the surface; failures become its last status. On null nothing is
+    /// drawn
     /// @param rect device pixels, y growing downwards. With a gap of 3 in x and y, the
     /// rect (10, 20, 110, 70) gets its border at (7, 17), 106 wide and 56 high
     void DrawFrame(Gdiplus::Graphics* graphics, CRect rect);

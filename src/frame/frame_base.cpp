@@ -100,6 +100,9 @@ SpatialTopoRelation CFrameBase::HitTest(CPoint2D point, double tolerance,
 }
 
 void CFrameBase::DrawFrame(Gdiplus::Graphics* graphics, CRect rect) {
+    if (graphics == nullptr) {
+        return;
+    }
     if (DrawBorder) {
         Gdiplus::Pen pen(BorderColor, BorderWidth);
         if (IsOne(DashedBorder)) {

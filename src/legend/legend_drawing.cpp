@@ -126,6 +126,9 @@ void Column::DrawClasses(CClassifyDisplayTable* table) {
 }  // namespace
 
 void CMapLegend::Draw(Gdiplus::Graphics* graphics, CPoint centre, double scale) {
+    if (graphics == nullptr) {
+        return;
+    }
     const int heightInPixels = Truncate(GetSize() * scale);
     const auto height = static_cast<float>(heightInPixels);
     const float width = height * GetAspectRatio();

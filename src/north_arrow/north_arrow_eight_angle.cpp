@@ -85,6 +85,9 @@ CNorthArrowEightAngle::CNorthArrowEightAngle() {
 
 void CNorthArrowEightAngle::Draw(Gdiplus::Graphics* graphics, CPoint centre,
                                  double scale) {
+    if (graphics == nullptr) {
+        return;
+    }
     const Gdiplus::SolidBrush fill(GetFrontColor());
     const Length x = centre.x;
     const Length y = centre.y;

@@ -15,6 +15,9 @@ CNorthArrowFourAngle::CNorthArrowFourAngle() {
 
 void CNorthArrowFourAngle::Draw(Gdiplus::Graphics* graphics, CPoint centre,
                                 double scale) {
+    if (graphics == nullptr) {
+        return;
+    }
     const Length x = centre.x;
     const Length y = centre.y;
     const Length n = map_surround::PixelSize(GetSize() * scale * 0.85);

@@ -11,6 +11,9 @@ CNorthArrowTwoAngle::CNorthArrowTwoAngle() {
 }
 
 void CNorthArrowTwoAngle::Draw(Gdiplus::Graphics* graphics, CPoint centre, double scale) {
+    if (graphics == nullptr) {
+        return;
+    }
     const Length x = centre.x;
     const Length y = centre.y;
     const Length n = map_surround::PixelSize(GetSize() * scale);

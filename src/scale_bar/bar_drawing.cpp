@@ -26,7 +26,7 @@ std::optional<BarDrawing> BarDrawing::Begin(const CScaleBarBase& bar,
                                             LabelOfOne labelOfOne) {
     const std::optional<DivisionValue> value =
         DivisionValueOf(bar.m_paper2DataScale, labelOfOne);
-    if (!value) {
+    if (!value || graphics == nullptr) {
         return std::nullopt;
     }
     return BarDrawing(bar, graphics, rect, scale, *value);

@@ -30,7 +30,8 @@ struct BarPoint {
 /// what all styles draw alike. Made anew by each call of a style's DrawDivision.
 class BarDrawing {
 public:
-    /// Nothing if the bar has no division value, and so nothing to draw.
+    /// Nothing if the bar has no division value, and so nothing to draw, and without a
+    /// surface.
     static std::optional<BarDrawing> Begin(const CScaleBarBase& bar,
                                            Gdiplus::Graphics* graphics,
                                            const Gdiplus::Rect& rect, double scale,

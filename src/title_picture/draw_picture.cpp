@@ -102,7 +102,7 @@ void CDrawPicture::ResetAspectRatio() {
 }
 
 void CDrawPicture::Draw(Gdiplus::Graphics* graphics, CPoint centre, double scale) {
-    if (m_image == nullptr) {
+    if (m_image == nullptr || graphics == nullptr) {
         return;
     }
     const int height = Truncate(GetSize() * scale);

@@ -47,7 +47,7 @@ void CMapTitle::ResetAspectRatio() {
 }
 
 void CMapTitle::Draw(Gdiplus::Graphics* graphics, CPoint centre, double scale) {
-    if (m_fontValue.empty()) {
+    if (m_fontValue.empty() || graphics == nullptr) {
         return;
     }
     const double left = centre.x - m_textBounds.Width * scale * 0.5;

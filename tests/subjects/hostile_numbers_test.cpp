@@ -103,6 +103,17 @@ TEST(HostileNumbers, DrawWhatTameOnesDraw) {
     });
 }
 
+TEST(NoSurface, IsDrawnOnWithoutACall) {
+    for (const subjects::Row& row : subjects::Rows()) {
+        SCOPED_TRACE(row.family + " " + row.name);
+        const std::unique_ptr<subjects::Subject> subject = row.make();
+        subject->Measure();
+        Recording recording(Mode::RecordOnly);
+        subject->Draw(nullptr);
+        EXPECT_TRUE(recording.Calls().empty());
+    }
+}
+
 // Counts too large to draw: only what is computed from them.
 TEST(HostileNumbers, CountDivisionsFromNone) {
     for (const host::CatalogueEntry* const style : host::StylesOf(SurroundScaleBar)) {
