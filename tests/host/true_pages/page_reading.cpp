@@ -3,6 +3,7 @@
 #include <gdiplus.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <fstream>
 #include <variant>
@@ -60,6 +61,27 @@ double WrittenPage::CentreY(const nlohmann::json& item) const {
     const Area frame = FrameOf(item);
     const int middle = frame.top + (frame.bottom - frame.top) / 2;
     return middle - std::round(ToDevice(item["offsetY"]));
+}
+
+void WrittenPage::WriteArrows(const nlohmann::json& arrow,
+                              const std::string& path) const {
+    constexpr double kMargin = 10.0;
+    constexpr double kLeastSide = 76.0;  // a little over the 20 mm that a sheet has
+    const double width = arrow["frame"]["width"];
+    const double height = arrow["frame"]["height"];
+    nlohmann::json page = m_page;
+    page["width"] = std::max(kLeastSide, 2.0 * width + 3.0 * kMargin);
+    page["height"] = std::max(kLeastSide, height + 2.0 * kMargin);
+    nlohmann::json turned = arrow;
+    turned["frame"]["left"] = kMargin;
+    turned["frame"]["top"] = height + kMargin;
+    nlohmann::json upright = turned;
+    upright["frame"]["left"] = width + 2.0 * kMargin;
+    upright["name"] = "upright";
+    upright["trueNorth"] = false;
+    upright["angle"] = 0.0;
+    page["elements"] = {*Find("map"), turned, upright};
+    std::ofstream(path) << page;
 }
 
 std::vector<std::string> WrittenPage::TextsOf(const nlohmann::json& item) const {

@@ -17,8 +17,10 @@ public:
     /// Fails the test when the file cannot be read.
     WrittenPage(const std::string& path, double dpi);
 
-    /// The item whose type begins so: "scale-bar-", "map"; null where there is none.
+    /// The first item whose type begins so, "scale-bar-", "map"; null where there is
+    /// none.
     const nlohmann::json* Find(const std::string& type) const;
+    const nlohmann::json* Last() const { return &m_page["elements"].back(); }
 
     /// The device pixels of an item's frame.
     Area FrameOf(const nlohmann::json& item) const;
@@ -26,6 +28,10 @@ public:
     /// The device point of an element's centre.
     double CentreX(const nlohmann::json& item) const;
     double CentreY(const nlohmann::json& item) const;
+
+    /// Writes a page file of nothing but the arrow, the map that it follows, and the same
+    /// arrow pointing up beside it, called "upright".
+    void WriteArrows(const nlohmann::json& arrow, const std::string& path) const;
 
     /// The texts that the item writes, in their order.
     std::vector<std::string> TextsOf(const nlohmann::json& item) const;

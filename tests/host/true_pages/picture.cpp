@@ -4,47 +4,10 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cmath>
-#include <complex>
 #include <cstdlib>
 #include <memory>
 
 namespace true_pages {
-namespace {
-
-constexpr double kPi = 3.14159265358979323846;
-constexpr int kHarmonics = 9;
-
-using Harmonics = std::vector<std::complex<double>>;
-
-double Darkness(const Pixel& pixel) {
-    return (765.0 - pixel.red - pixel.green - pixel.blue) / 765.0;
-}
-
-/// The ink's content of each angular frequency, what is far out counting most.
-Harmonics HarmonicsOf(const Drawing& drawing) {
-    const auto& [picture, given, x, y] = drawing;
-    const Area area = picture.Clipped(given);
-    Harmonics sums(kHarmonics);
-    for (int row = area.top; row < area.bottom; ++row) {
-        for (int column = area.left; column < area.right; ++column) {
-            const double across = column + 0.5 - x;
-            const double down = row + 0.5 - y;
-            const double distance = std::hypot(across, down);
-            const double ink = Darkness(picture.At(column, row)) * distance;
-            const double angle = std::atan2(across, -down);  // clockwise from up
-            for (int k = 1; k < kHarmonics; ++k) {
-                sums[static_cast<std::size_t>(k)] += std::polar(ink, k * angle);
-            }
-        }
-    }
-    return sums;
-}
-
-double Degrees(double radians) { return radians * 180.0 / kPi; }
-
-}  // namespace
-
 Picture::Picture(const std::string& path) {
     GDALAllRegister();
     const std::unique_ptr<GDALDataset> file(GDALDataset::Open(
@@ -151,19 +114,6 @@ double BetweenEndTicks(const Picture& picture, const Area& area, const Run& line
         }
     }
     return 0.0;
-}
-
-Turn TurnBetween(const Drawing& unturned, const Drawing& turned) {
-    const Harmonics before = HarmonicsOf(unturned);
-    const Harmonics after = HarmonicsOf(turned);
-    std::size_t k = 1;
-    for (std::size_t i = 1; i < before.size(); ++i) {
-        if (std::abs(before[i]) > std::abs(before[k])) {
-            k = i;
-        }
-    }
-    const auto order = static_cast<double>(k);
-    return {Degrees(std::arg(after[k] * std::conj(before[k]))) / order, 360.0 / order};
 }
 
 }  // namespace true_pages

@@ -58,22 +58,4 @@ Run LongestRun(const Picture& picture, const Area& area, const Pixel& colour,
 double BetweenEndTicks(const Picture& picture, const Area& area, const Run& line,
                        const Pixel& colour, int tolerance);
 
-/// A drawing in an area that has nothing else in it.
-struct Drawing {
-    const Picture& picture;
-    Area area;
-    double x;  ///< the point that it turns about
-    double y;
-};
-
-/// A turn that is known but for whole periods, clockwise.
-struct Turn {
-    double degrees;
-    double period;
-};
-
-/// How far one drawing is turned from another: of the angular harmonics of their ink, the
-/// strongest tells it, to a fraction of a pixel.
-Turn TurnBetween(const Drawing& unturned, const Drawing& turned);
-
 }  // namespace true_pages
