@@ -213,7 +213,7 @@ void Scene::SetProperty(CNorthArrowFourAngle& arrow) {
 }
 
 void Scene::SetProperty(CScaleBarBase& bar) {
-    switch (m_input.Choice(9)) {
+    switch (m_input.Choice(10)) {
         case 0:
             return bar.SetPaper2DataScale(m_input.Real<double>());
         case 1:
@@ -230,13 +230,15 @@ void Scene::SetProperty(CScaleBarBase& bar) {
             return bar.SetScaleBarType(static_cast<ScaleBarType>(m_input.Whole()));
         case 7:
             return bar.SetDestUnitType(static_cast<CommonMeasureUnits>(m_input.Whole()));
+        case 8:
+            return bar.SetUnitsNameVerbatim(m_input.Text());
         default:
             return bar.SetUnitsName(m_input.Flag() ? L"Metre" : m_input.Text());
     }
 }
 
 void Scene::SetProperty(CMapLegend& legend) {
-    switch (m_input.Choice(12)) {
+    switch (m_input.Choice(18)) {
         case 0:
             return legend.SetTitleValue(m_input.Text());
         case 1:
@@ -259,6 +261,17 @@ void Scene::SetProperty(CMapLegend& legend) {
             return legend.SetFileColor(Color());
         case 9:
             return legend.SetSizeAspect(m_input.Real<float>());
+        case 10:
+            return legend.SetSourceCaption(m_input.Text());
+        case 11:
+            return legend.SetBandCaption(m_input.Text());
+        case 12:
+            return legend.SetHighCaption(m_input.Text());
+        case 13:
+            return legend.SetLowCaption(m_input.Text());
+        case 14:
+            return legend.SetShownSources(
+                {{m_input.Text(), m_input.Flag()}, {m_input.Text(), m_input.Flag()}});
         default:
             return SetSources(legend);
     }

@@ -13,6 +13,12 @@
 #include "map_surround/element.h"
 #include "map_surround/export.h"
 
+/// How a legend shows one of its sources.
+struct LegendSource {
+    std::wstring name = {};  ///< in place of the file name; empty: the file name
+    bool isShown = true;     ///< false leaves the source out, without asking it anything
+};
+
 /// What the colours of the map mean: a title, then for every raster source its file name
 /// and its entries, from top to bottom.
 ///
@@ -25,12 +31,12 @@
 /// - any other: none.
 ///
 /// The file name follows U+5F71 U+50CF U+540D U+FF1A ("image name:"). These captions are
-/// fixed; the labels of classes are the host's.
+/// Chinese until the host sets others; the labels of classes are the host's.
 ///
-/// Null pointers, sources that are not available and sources that are not rasters are
-/// left out. A class count below 1 or a missing classification table lists nothing; a
-/// missing class leaves its row empty; a missing band, or one without minimum and
-/// maximum, shows 0 for both.
+/// Null pointers, sources that are not available, sources that are not rasters and those
+/// that SetShownSources() hides are left out. A class count below 1 or a missing
+/// classification table lists nothing; a missing class leaves its row empty; a missing
+/// band, or one without minimum and maximum, shows 0 for both.
 ///
 /// Mind the accessors' names: the *title* is the title's font family and the *title
 /// value* its text; the *file name* is the font family of the file-name lines. The file
@@ -67,8 +73,8 @@ public:
     /// "Band_1", a swatch is 6/10 of that, every gap is 12 pixels. With a title 20 high
     /// and rows 13 high (so swatches of 7), an RGB source and a grey one make 20 + 24 +
     /// (13 + 3 * 7 + 36) + (13 + 4 * 7 + 12) + 24 - 12 = 179. The width is the widest of
-    /// the title, three samples, each bare file name, and each class label indented by
-    /// two samples.
+    /// the title, three samples, each bare file name or the name shown in its place, and
+    /// each class label indented by two samples.
     ///
     /// The captions, the band labels and the values are not part of the width, and the
     /// last label is taller than its swatch: both may reach past the measured box.
@@ -101,6 +107,34 @@ public:
     void SetDataSouce(std::vector<CGISDataSource*> sources) {
         m_dataSources = std::move(sources);
     }
+
+    /// How each source is shown, in the order of the sources: `{{L"Land cover"}, {{},
+    /// false}}` gives the first a name and leaves out the second. Sources without one, as
+    /// all are until this is called, are shown by their file names; what is past the last
+    /// source has no effect. It stays when SetDataSouce() replaces the sources.
+    std::vector<LegendSource> GetShownSources() const { return m_shownSources; }
+    void SetShownSources(std::vector<LegendSource> shown) {
+        m_shownSources = std::move(shown);
+    }
+
+    // The captions are written as they are, with nothing between them and what follows:
+    // with L"Band " the third band is "Band 3", and with an empty text "3".
+
+    /// The caption before the name of a source; L"\u5F71\u50CF\u540D\uFF1A".
+    std::wstring GetSourceCaption() const { return m_sourceCaption; }
+    void SetSourceCaption(std::wstring caption) { m_sourceCaption = std::move(caption); }
+
+    /// The caption before the number of a band; L"\u6CE2\u6BB5_".
+    std::wstring GetBandCaption() const { return m_bandCaption; }
+    void SetBandCaption(std::wstring caption) { m_bandCaption = std::move(caption); }
+
+    /// The caption before the highest value of a ramp; L"\u9AD8 : ".
+    std::wstring GetHighCaption() const { return m_highCaption; }
+    void SetHighCaption(std::wstring caption) { m_highCaption = std::move(caption); }
+
+    /// The caption before the lowest value of a ramp; L"\u4F4E : ".
+    std::wstring GetLowCaption() const { return m_lowCaption; }
+    void SetLowCaption(std::wstring caption) { m_lowCaption = std::move(caption); }
 
     /// What ResetAspectRatio() multiplies both font sizes by.
     void SetSizeAspect(float factor) { m_sizeFactor = factor; }
@@ -161,4 +195,9 @@ private:
     std::wstring m_fileNameFamily = L"Arial";
     Gdiplus::Color m_titleColor{0xFF000000};
     Gdiplus::Color m_fileColor{0xFF000000};
+    std::vector<LegendSource> m_shownSources;
+    std::wstring m_sourceCaption = L"\u5F71\u50CF\u540D\uFF1A";
+    std::wstring m_bandCaption = L"\u6CE2\u6BB5_";
+    std::wstring m_highCaption = L"\u9AD8 : ";
+    std::wstring m_lowCaption = L"\u4F4E : ";
 };

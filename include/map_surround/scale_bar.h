@@ -115,8 +115,7 @@ public:
     CommonMeasureUnits GetDestUnitType() const { return m_destUnitType; }
     void SetDestUnitType(CommonMeasureUnits unit) { m_destUnitType = unit; }
 
-    /// The unit name as drawn, after translation by SetUnitsName; the Chinese word for
-    /// "unit" (U+5355 U+4F4D) by default.
+    /// The unit name as drawn; the Chinese word for "unit" (U+5355 U+4F4D) by default.
     std::wstring GetUnitsName() const { return m_unitsName; }
 
     /// Stores the unit name. These words are translated into Chinese: degree, Degree,
@@ -124,6 +123,9 @@ public:
     /// `SetUnitsName(L"Metre")` stores L"\u7C73". Any other name, such as "km", "METER"
     /// or "kilometer", is stored as it is.
     void SetUnitsName(std::wstring name);
+
+    /// Stores the unit name as it is: `SetUnitsNameVerbatim(L"Metre")` stores L"Metre".
+    void SetUnitsNameVerbatim(std::wstring name) { m_unitsName = std::move(name); }
 
 protected:
     /// For a style that can be drawn.

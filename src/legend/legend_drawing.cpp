@@ -17,10 +17,6 @@ namespace legend = map_surround::legend;
 namespace {
 
 constexpr wchar_t kEntryFamily[] = L"Arial";
-constexpr wchar_t kFileNameCaption[] = L"影像名：";
-constexpr wchar_t kBandCaption[] = L"波段_";
-constexpr wchar_t kHighCaption[] = L"高 : ";
-constexpr wchar_t kLowCaption[] = L"低 : ";
 
 constexpr Gdiplus::ARGB kBlack = 0xFF000000;
 constexpr Gdiplus::ARGB kRed = 0xFFFF0000;
@@ -35,6 +31,9 @@ struct Column {
     Gdiplus::Graphics* graphics;
     Gdiplus::SolidBrush& brush;
     const Gdiplus::Font& entryFont;
+    const std::wstring& bandCaption;
+    const std::wstring& highCaption;
+    const std::wstring& lowCaption;
     float left;
     float y;  // top of what is drawn next
     float rowHeight;
@@ -63,7 +62,7 @@ void Column::DrawBand(Gdiplus::Color color, int index) {
     const int number = ToDevice(Length{index} + 1);
     Fill(color, y, swatchHeight);
     brush.SetColor(kBlack);
-    Label(kBandCaption + CommonFun::int2wstring(number), legend::kBandLabelAt, y);
+    Label(bandCaption + CommonFun::int2wstring(number), legend::kBandLabelAt, y);
     y += swatchHeight + gap;
 }
 
@@ -84,7 +83,7 @@ void Column::DrawRamp(CRasterSource& source) {
     if (band != nullptr) {
         band->ComputeMinMax(&lowest, &highest, true);
     }
-    Label(kHighCaption + CommonFun::int2wstring(Truncate(highest)), legend::kBandLabelAt,
+    Label(highCaption + CommonFun::int2wstring(Truncate(highest)), legend::kBandLabelAt,
           y + 0.5f * rowHeight);
 
     // The strips overlap, and the first starts one step down.
@@ -96,7 +95,7 @@ void Column::DrawRamp(CRasterSource& source) {
 
     // Just above the high value, in the colour of the last strip: both are intended.
     y += rampHeight;
-    Label(kLowCaption + CommonFun::int2wstring(Truncate(lowest)), legend::kBandLabelAt,
+    Label(lowCaption + CommonFun::int2wstring(Truncate(lowest)), legend::kBandLabelAt,
           y - 2 * rowHeight);
     y += gap;
 }
@@ -150,6 +149,9 @@ void CMapLegend::Draw(Gdiplus::Graphics* graphics, CPoint centre, double scale) 
     Column column{graphics,
                   brush,
                   entry.font,
+                  m_bandCaption,
+                  m_highCaption,
+                  m_lowCaption,
                   left,
                   top + legend::kTitleGaps * gap,
                   rowHeight,
@@ -160,15 +162,17 @@ void CMapLegend::Draw(Gdiplus::Graphics* graphics, CPoint centre, double scale) 
     column.y += static_cast<float>(ruler.Measure(m_titleText, title).Height);
 
     // By index, since a source may replace the legend's list while it is queried.
-    std::size_t next = 0;
-    while (next < m_dataSources.size()) {
-        CRasterSource* const source = map_surround::TakingPart(m_dataSources[next++]);
+    for (std::size_t i = 0; i < m_dataSources.size(); ++i) {
+        CRasterSource* const source =
+            map_surround::TakingPart(m_dataSources, m_shownSources, i);
         if (source == nullptr) {
             continue;
         }
+        const std::wstring name =
+            m_sourceCaption + map_surround::NameOf(*source, m_shownSources, i);
         brush.SetColor(m_fileColor);
-        map_surround::WriteText(graphics, kFileNameCaption + source->GetFileName(),
-                                fileName.font, Gdiplus::PointF(left, column.y), brush);
+        map_surround::WriteText(graphics, name, fileName.font,
+                                Gdiplus::PointF(left, column.y), brush);
         column.y += rowHeight + gap;
         if (source->GetDisplayType() == DisplayRGB) {
             column.DrawBands(*source);

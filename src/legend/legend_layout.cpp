@@ -105,16 +105,18 @@ void CMapLegend::ResetAspectRatio() {
 
     Length rasters = 0;
     // By index, since a source may replace the legend's list while it is queried.
-    std::size_t next = 0;
-    while (next < m_dataSources.size()) {
-        CRasterSource* const source = map_surround::TakingPart(m_dataSources[next++]);
+    for (std::size_t i = 0; i < m_dataSources.size(); ++i) {
+        CRasterSource* const source =
+            map_surround::TakingPart(m_dataSources, m_shownSources, i);
         if (source == nullptr) {
             continue;
         }
         ++rasters;
         layout.height += rowHeight;
         // The bare name, without the caption that is drawn before it.
-        layout.Widen(ruler.Measure(source->GetFileName(), fileName).Width);
+        layout.Widen(
+            ruler.Measure(map_surround::NameOf(*source, m_shownSources, i), fileName)
+                .Width);
         if (source->GetDisplayType() == DisplayRGB) {
             layout.AddBands();
         } else if (source->GetDisplayType() == DisplayGray) {

@@ -1,17 +1,34 @@
 #pragma once
 
+#include <cstddef>
+#include <string>
+#include <vector>
+
 #include "host/common_functions.h"
 #include "host/raster_data.h"
+#include "map_surround/legend.h"
 
 namespace map_surround {
 
-/// The source as a raster for the legend to explain; null if it takes no part.
-inline CRasterSource* TakingPart(CGISDataSource* source) {
-    if (source == nullptr || !source->IsAvailable() ||
+/// The source at an index as a raster for the legend to explain; null if it takes no
+/// part.
+inline CRasterSource* TakingPart(const std::vector<CGISDataSource*>& sources,
+                                 const std::vector<LegendSource>& shown,
+                                 std::size_t index) {
+    CGISDataSource* const source = sources[index];
+    const bool isHidden = index < shown.size() && !shown[index].isShown;
+    if (isHidden || source == nullptr || !source->IsAvailable() ||
         source->GetDataSourceType() != DataSourceRaster) {
         return nullptr;
     }
     return static_cast<CRasterSource*>(source);
+}
+
+/// What the legend calls the source at an index.
+inline std::wstring NameOf(CRasterSource& source, const std::vector<LegendSource>& shown,
+                           std::size_t index) {
+    return index < shown.size() && !shown[index].name.empty() ? shown[index].name
+                                                              : source.GetFileName();
 }
 
 /// How many classes the table has right now; 0 without a table.

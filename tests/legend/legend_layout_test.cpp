@@ -190,6 +190,37 @@ TEST(LegendLayout, WithoutAnyHeightNothingButTheFontSizesChanges) {
     EXPECT_EQ(legend.GetTitleSize(), 40.0f);
 }
 
+// Hidden ones add nothing, and a name is as wide as it is shown.
+TEST(LegendLayout, MeasuresTheSourcesAsTheyAreShown) {
+    const struct {
+        std::vector<LegendSource> shown;
+        int height;
+        int width;
+    } rows[] = {
+        {{}, 28 + 25 + 57 + 25 + 40, 300},
+        {{{}, {L"Relief"}}, 28 + 25 + 57 + 25 + 40, 250},
+        {{{L"", false}, {L"Relief"}}, 28 + 25 + 40, 200},
+        {{{L"Scene", false}, {L"Relief", false}}, 28, 120},
+    };
+    for (const auto& row : rows) {
+        Shelf shelf;
+        CMapLegend legend;
+        legend.SetTitleValue(L"T");
+        legend.SetDataSouce({&shelf.rgb, &shelf.gray});
+        legend.SetShownSources(row.shown);
+        Recording recording(Mode::RecordOnly);
+        ink::Script(recording, ink::Of({{"T", {50, 16}},
+                                        {"Band_1", {40, 13}},
+                                        {"rgb", {250, 13}},
+                                        {"gray", {300, 13}},
+                                        {"Relief", {200, 13}}}));
+        legend.ResetAspectRatio();
+        EXPECT_EQ(legend.GetSize(), row.height);
+        EXPECT_EQ(legend.GetAspectRatio(),
+                  static_cast<float>(row.width) / static_cast<float>(row.height));
+    }
+}
+
 TEST(LegendLayout, EveryCallInItsOrder) {
     Shelf shelf;
     CMapLegend legend;

@@ -38,6 +38,11 @@ struct Described {
         legend.SetFileName(L"Mono");
         legend.SetFileNameStyle(Gdiplus::FontStyleItalic);
         legend.SetFileColor(Gdiplus::Color(0x80654321));
+        legend.SetSourceCaption(L"Raster ");
+        legend.SetBandCaption(L"Band ");
+        legend.SetHighCaption(L"High ");
+        legend.SetLowCaption(L"Low ");
+        legend.SetShownSources({{L"Scene"}, {L"Relief", false}});
         legend.SetSizeAspect(factor);
         legend.SetDataSouce({&rgb, &gray, &classes});
         Measure(legend);
@@ -62,6 +67,16 @@ void ExpectDescribed(const CMapLegend& legend) {
     EXPECT_EQ(legend.GetFileName(), L"Mono");
     EXPECT_EQ(legend.GetFileNameStyle(), Gdiplus::FontStyleItalic);
     EXPECT_EQ(legend.GetFileColor().GetValue(), 0x80654321u);
+    EXPECT_EQ(legend.GetSourceCaption(), L"Raster ");
+    EXPECT_EQ(legend.GetBandCaption(), L"Band ");
+    EXPECT_EQ(legend.GetHighCaption(), L"High ");
+    EXPECT_EQ(legend.GetLowCaption(), L"Low ");
+    const std::vector<LegendSource> shown = legend.GetShownSources();
+    ASSERT_EQ(shown.size(), 2U);
+    EXPECT_EQ(shown[0].name, L"Scene");
+    EXPECT_TRUE(shown[0].isShown);
+    EXPECT_EQ(shown[1].name, L"Relief");
+    EXPECT_FALSE(shown[1].isShown);
 }
 
 /// What a legend draws, with the ink scripted.
@@ -84,6 +99,11 @@ TEST(LegendProperties, AFreshLegendHasItsDefaults) {
     EXPECT_EQ(legend.GetFileNameSize(), 15.0f);
     EXPECT_EQ(legend.GetFileNameStyle(), Gdiplus::FontStyleRegular);
     EXPECT_EQ(legend.GetFileColor().GetValue(), 0xFF000000u);
+    EXPECT_EQ(legend.GetSourceCaption(), L"影像名：");
+    EXPECT_EQ(legend.GetBandCaption(), L"波段_");
+    EXPECT_EQ(legend.GetHighCaption(), L"高 : ");
+    EXPECT_EQ(legend.GetLowCaption(), L"低 : ");
+    EXPECT_TRUE(legend.GetShownSources().empty());
 }
 
 TEST(LegendProperties, TheSizeFactorIsOneAtFirst) {

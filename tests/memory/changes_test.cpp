@@ -158,7 +158,13 @@ TEST(Changes, OfALegendAreMadeOrNot) {
                  [&](CMapLegend& legend) {
                      legend.SetDataSouce({&raster, &raster});
                  }},
+                {"caption", [](CMapLegend& legend) { legend.SetBandCaption(kLongText); }},
+                {"shown",
+                 [](CMapLegend& legend) {
+                     legend.SetShownSources({{kLongText}, {kLongText, false}});
+                 }},
                 {"asking", [](CMapLegend& legend) {
+                     legend.GetShownSources();
                      legend.GetTitleValue();
                      legend.GetTitle();
                      legend.GetFileName();

@@ -142,6 +142,8 @@ TEST(ScaleBarBase, TranslatesTheUnitWordsOfHostsAndNoOthers) {
     for (const UnitRow& row : rows) {
         bar.SetUnitsName(row.given);
         EXPECT_EQ(bar.GetUnitsName(), row.stored);
+        bar.SetUnitsNameVerbatim(row.given);
+        EXPECT_EQ(bar.GetUnitsName(), row.given);
     }
     EXPECT_EQ(bar.GetDestUnitType(), MeasureDegree);
 }
