@@ -14,7 +14,8 @@ struct Given {
     std::string title;
     std::string titleFont = "Arial";
     std::string picture;
-    std::string legendTitle = "Legend";
+    std::string legendTitle;
+    std::string language;
     std::string legendFont = "Arial";
     bool noLegend = false;
     std::string size = "A4";

@@ -83,6 +83,14 @@ std::string Footer() {
     return footer.replace(footer.find(kPlace), kPlace.size(), names.substr(1));
 }
 
+std::vector<std::string> LanguageCodes() {
+    std::vector<std::string> codes;
+    for (const host::Language& language : host::Languages()) {
+        codes.emplace_back(language.code);
+    }
+    return codes;
+}
+
 void DeclareTitle(CLI::App& app, Given& given, host::TitleDesign& title) {
     app.add_option("--title", given.title, "Title above the map")
         ->type_name("TEXT")
@@ -100,7 +108,8 @@ void DeclareTitle(CLI::App& app, Given& given, host::TitleDesign& title) {
 }
 
 void DeclareLegend(CLI::App& app, Given& given) {
-    app.add_option("--legend-title", given.legendTitle, "First line (Legend)")
+    app.add_option("--legend-title", given.legendTitle,
+                   "First line (the language's word for a legend)")
         ->type_name("TEXT")
         ->group("Legend");
     app.add_option("--legend-font", given.legendFont,
@@ -193,6 +202,12 @@ void Declare(CLI::App& app, Given& given, Options& options) {
     DeclareNorthArrow(app, options);
     DeclareSafety(app, options);
 
+    app.add_option("--language", given.language,
+                   "Of the words of legend and scale bar (the locale's, else en;\nof a "
+                   "page file its own)")
+        ->check(CLI::IsMember(LanguageCodes()))
+        ->type_name("CODE")
+        ->group("Page");
     app.add_option("--size", given.size,
                    "A0 to A6, B0 to B5, Letter, Legal, Tabloid, or millimetres as "
                    "WIDTHxHEIGHT (A4)")
@@ -270,7 +285,11 @@ void Complete(const CLI::App& app, const Given& given, Options& options) {
 
     options.legendFamily = given.legendFont;
     design.legend.shown = !given.noLegend;
-    design.legend.title = ReadText("--legend-title", given.legendTitle);
+    if (app.get_option("--legend-title")->count() > 0) {
+        design.legend.title = ReadText("--legend-title", given.legendTitle);
+    }
+    design.language = given.language.empty() ? &host::LanguageOfLocale()
+                                             : host::FindLanguage(given.language);
     design.legend.family = ReadText("--legend-font", given.legendFont);
     options.design.map.style = ReadStyle(given.style);
 

@@ -23,7 +23,7 @@ constexpr std::string_view kColumns[] = {
     "legend-font", "scale",       "scale-bar",   "divisions",     "subdivisions",
     "units",       "unit-name",   "fit",         "unit-position", "distances",
     "north-arrow", "north-angle", "size",        "border",        "shadow",
-    "background"};
+    "background",  "language"};
 
 /// What was given, as changes of a page.
 class Changes {
@@ -162,6 +162,7 @@ host::PageChanges TemplateChanges(const CLI::App& app, const Given& given,
     changes.changes.rasters = options.rasters;
     changes.changes.extent = design.map.extent;
     changes.changes.scale = design.map.scale;
+    changes.changes.language = changes.Has("--language") ? design.language : nullptr;
     changes.changes.mapTexts = MapTexts(given.style);
     return std::move(changes.changes);
 }

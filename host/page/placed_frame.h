@@ -10,6 +10,7 @@
 #include "map_surround/legend.h"
 #include "map_surround/north_arrow.h"
 #include "map_surround/scale_bar.h"
+#include "page/language.h"
 #include "page/map/shown_map.h"
 
 namespace host {
@@ -77,6 +78,15 @@ public:
     void SetUnit(DistanceUnit unit) { m_unit = unit; }
     DistanceUnit Unit() const { return m_unit; }
 
+    /// In which language the bar names a unit that is chosen by length; English until it
+    /// is set.
+    void SetLanguage(const Language& language) { m_language = PlaceOf(language); }
+    const Language& GetLanguage() const { return LanguageAt(m_language); }
+
+    /// The same by its place in Languages().
+    void SetLanguagePlace(std::int32_t place) { m_language = place; }
+    std::int32_t LanguagePlace() const { return m_language; }
+
     /// What FitToMap leaves as it is.
     void SetFit(BarFit fit) { m_fit = fit; }
     BarFit Fit() const { return m_fit; }
@@ -98,6 +108,7 @@ private:
     BarDistances m_distances = BarDistances::Fixed;
     bool m_isExact = true;
     DistanceUnit m_unit = DistanceUnit::Metric;
+    std::int32_t m_language = 0;
     BarFit m_fit = BarFit::Count;
     double m_longest = 0.0;
 };

@@ -21,18 +21,15 @@ constexpr const char* kArrowAndEntryFamily = "Arial";
 constexpr const char* kBarFamily = "Times New Roman";
 constexpr const wchar_t* kLetters = L"NESW";
 constexpr const wchar_t* kNumbers = L"0123456789.-";
-constexpr const wchar_t* kFileNameCaption = L"影像名：";
-constexpr const wchar_t* kBandCaption = L"波段_";
-constexpr const wchar_t* kRangeCaptions = L"高低 :";
 
 constexpr std::size_t kMostShown = 8;
 
-std::wstring EntriesOf(CRasterSource& source) {
+std::wstring EntriesOf(const CMapLegend& legend, CRasterSource& source) {
     switch (source.GetDisplayType()) {
         case DisplayRGB:
-            return std::wstring(kBandCaption) + kNumbers;
+            return legend.GetBandCaption() + kNumbers;
         case DisplayGray:
-            return std::wstring(kRangeCaptions) + kNumbers;
+            return legend.GetHighCaption() + legend.GetLowCaption() + kNumbers;
         case DisplayClassified:
             break;
     }
@@ -53,8 +50,8 @@ std::vector<WrittenText> TextsOfLegend(const CMapLegend& legend,
     for (CGISDataSource* const source : sources) {
         auto* const raster = dynamic_cast<CRasterSource*>(source);
         if (raster != nullptr && raster->IsAvailable()) {
-            names += kFileNameCaption + raster->GetFileName();
-            entries += EntriesOf(*raster);
+            names += legend.GetSourceCaption() + raster->GetFileName();
+            entries += EntriesOf(legend, *raster);
         }
     }
     return {{Narrow(legend.GetTitle()), legend.GetTitleStyle(), legend.GetTitleValue()},

@@ -10,6 +10,7 @@
 #include "map_surround/title.h"
 #include "page/document/item_type.h"
 #include "page/document/page_error.h"
+#include "page/document/page_language.h"
 #include "page/document/resized_page.h"
 #include "page/element_of.h"
 #include "page/ink.h"
@@ -160,7 +161,7 @@ void KeepUnitAndName(PageItem& item, const std::string& changed) {
     auto* const frame = FrameAs<ScaleBarFrame>(item);
     auto* const bar = ElementOf<CScaleBarBase>(item);
     if (frame != nullptr && bar != nullptr && changed == "unit") {
-        bar->SetUnitsName(FactsOf(UnitFor(frame->Unit(), 0.0)).sign);
+        bar->SetUnitsNameVerbatim(frame->GetLanguage().Unit(UnitFor(frame->Unit(), 0.0)));
     } else if (frame != nullptr && bar != nullptr && changed == "units") {
         frame->SetUnit(CountedUnit(*frame, *bar));
     }
@@ -190,6 +191,14 @@ void ChangePaper(Page& page, const PaperChange& change) {
         std::swap(paper.width, paper.height);
     }
     page = Resized(std::move(page), paper);
+}
+
+void ChangeLanguage(Page& page, const Language& language) {
+    for (PageItem& item : page.Items()) {
+        for (const auto& [property, value] : WordsIn(language, item)) {
+            property->write(item, value);
+        }
+    }
 }
 
 void ChangeMap(PageItem& item, const PageChanges& changes) {
@@ -261,7 +270,7 @@ void FitLegend(const LegendPlace& place) {
 }
 
 bool ChangesLegends(const PageChanges& changes) {
-    return !changes.rasters.empty() ||
+    return !changes.rasters.empty() || changes.language != nullptr ||
            std::any_of(changes.elements.begin(), changes.elements.end(),
                        [](const ElementChange& change) {
                            return change.family == SurroundLegend;
@@ -281,6 +290,7 @@ PageChanges Merged(PageChanges first, const PageChanges& then) {
         both.rasters = then.rasters;
     }
     both.extent = then.extent ? then.extent : both.extent;
+    both.language = then.language != nullptr ? then.language : both.language;
     both.scale = then.scale ? then.scale : both.scale;
     both.paper = then.paper ? then.paper : both.paper;
     Append(both.styles, then.styles);
@@ -297,6 +307,9 @@ void Change(Page& page, const PageChanges& changes) {
     }
     if (!changes.rasters.empty()) {
         NameRasters(page, changes.rasters);
+    }
+    if (changes.language != nullptr) {
+        ChangeLanguage(page, *changes.language);
     }
     for (const StyleChange& change : changes.styles) {
         ChangeStyle(page, change);

@@ -9,6 +9,7 @@
 #include "page/catalogue.h"
 #include "page/document/property.h"
 #include "page/document/raster_store.h"
+#include "page/language.h"
 #include "page/page.h"
 #include "page/paper.h"
 
@@ -39,10 +40,11 @@ struct PaperChange {
 
 /// What a page has otherwise than its page file, as the pages of a series have.
 struct PageChanges {
-    std::vector<std::string> rasters;  ///< none: as in the page file
-    std::optional<Box> extent;         ///< likewise
-    std::optional<double> scale;       ///< likewise
-    std::optional<PaperChange> paper;  ///< likewise
+    std::vector<std::string> rasters;    ///< none: as in the page file
+    std::optional<Box> extent;           ///< likewise
+    std::optional<double> scale;         ///< likewise
+    const Language* language = nullptr;  ///< of legends and scale bars; null: as they are
+    std::optional<PaperChange> paper;    ///< likewise
     std::vector<StyleChange> styles;
     std::vector<ElementChange> elements;
     /// Names of properties of every frame with an element, and their values.

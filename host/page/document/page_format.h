@@ -10,7 +10,7 @@
 
 namespace host {
 
-constexpr int kPageVersion = 2;
+constexpr int kPageVersion = 3;
 
 constexpr const char* kVersionKey = "version";
 constexpr const char* kWidthKey = "width";

@@ -10,7 +10,7 @@
 #include "page/document/json_text.h"
 #include "page/document/page_error.h"
 #include "page/document/page_format.h"
-#include "page/document/page_version1.h"
+#include "page/document/page_upgrade.h"
 #include "page/document/value_json.h"
 #include "system/input_file.h"
 
@@ -138,13 +138,11 @@ double SideOf(const json& page, const char* key) {
 /// The page as the newest version has it.
 json Upgraded(json page) {
     const json& version = MemberOf(page, kVersionKey, "");
-    const bool isFirst = version.is_number_integer() && version == 1;
-    const bool isNewest = version.is_number_integer() && version == kPageVersion;
-    if (!isFirst && !isNewest) {
-        throw PageError(kVersionKey, "must be 1 or " + std::to_string(kPageVersion));
+    if (!version.is_number_integer() || version < 1 || version > kPageVersion) {
+        throw PageError(kVersionKey, "must be from 1 to " + std::to_string(kPageVersion));
     }
-    if (isFirst) {
-        UpgradeFromVersion1(page);
+    if (version < kPageVersion) {
+        UpgradeFromVersion(version.get<int>(), page);
     }
     return page;
 }

@@ -124,7 +124,7 @@ std::string PageSchema() {
     ordered_json schema = {{"$schema", "http://json-schema.org/draft-07/schema#"},
                            {"title", "A page of map_page"}};
     schema.update(Object(
-        {{kVersionKey, {{"enum", {1, kPageVersion}}}},
+        {{kVersionKey, {{"enum", {1, 2, kPageVersion}}}},
          {kWidthKey, side},
          {kHeightKey, side},
          {kElementsKey, {{"type", "array"}, {"items", {{"oneOf", std::move(types)}}}}}},

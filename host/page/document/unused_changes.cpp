@@ -26,6 +26,10 @@ std::vector<std::string> RemarksOfUnused(const PageChanges& changes, const Page&
         !HasAny(page, "extent")) {
         remarks.emplace_back("the page has no map whose extent, scale or colours change");
     }
+    if (changes.language != nullptr && !HasAny(page, "language") &&
+        !HasAny(page, "bandCaption")) {
+        remarks.emplace_back("the page has no legend or scale bar to be in a language");
+    }
     return remarks;
 }
 

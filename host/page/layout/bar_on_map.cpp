@@ -68,7 +68,7 @@ void SetDivisions(ScaleBarFrame& frame, CScaleBarBase& bar, const BarOnMap& divi
     bar.SetMainDivCount(divisions.divisions);
     bar.SetDestUnitType(unit.type);
     if (IsByLength(frame.Unit())) {
-        bar.SetUnitsName(unit.sign);
+        bar.SetUnitsNameVerbatim(frame.GetLanguage().Unit(unit.unit));
     }
     frame.SetDivisionValue(divisions.value);
     frame.SetDivisionLength(divisions.length);

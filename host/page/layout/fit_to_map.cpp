@@ -195,13 +195,10 @@ void FitNumericScale(const PlacedFrame& frame, NumericScale& text, const SpokenO
 }  // namespace
 
 DistanceUnit CountedUnit(const ScaleBarFrame& frame, const CScaleBarBase& bar) {
-    for (const DistanceUnitFacts& facts : DistanceUnits()) {
-        if (!IsByLength(facts.unit) && IsByLength(frame.Unit()) &&
-            bar.GetUnitsName() == facts.sign) {
-            return facts.unit;
-        }
-    }
-    return UnitFor(frame.Unit(), 0.0);
+    const std::optional<DistanceUnit> called =
+        IsByLength(frame.Unit()) ? frame.GetLanguage().UnitCalled(bar.GetUnitsName())
+                                 : std::nullopt;
+    return called && IsLength(*called) ? *called : UnitFor(frame.Unit(), 0.0);
 }
 
 std::vector<std::string> FitToMap(Page& page) {

@@ -8,11 +8,13 @@
 namespace host {
 namespace {
 
-std::unique_ptr<CMapLegend> MakeLegend(const LegendDesign& design, const MapOnPage& map,
+std::unique_ptr<CMapLegend> MakeLegend(const LegendDesign& design,
+                                       const Language& language, const MapOnPage& map,
                                        const Measures& measures) {
     auto legend = std::make_unique<CMapLegend>();
     legend->SetDataSouce(map.sources);
-    legend->SetTitleValue(design.title);
+    SetCaptions(*legend, language);
+    legend->SetTitleValue(design.title.value_or(language.legend));
     legend->SetTitle(design.family);
     legend->SetFileName(design.family);
     // It is drawn in the height of the ink of these, three quarters of them or more.
@@ -44,7 +46,7 @@ std::unique_ptr<LegendFrame> PlaceLegend(const PageDesign& design, const MapOnPa
     if (!design.legend.shown || map.sources.empty()) {
         return nullptr;
     }
-    auto legend = MakeLegend(design.legend, map, measures);
+    auto legend = MakeLegend(design.legend, *design.language, map, measures);
     const double space = 1.2 * measures.module;
     if (room.Width() <= space || room.Height() <= space) {
         return nullptr;

@@ -9,6 +9,7 @@
 #include "map_surround/title.h"
 #include "page/box.h"
 #include "page/catalogue.h"
+#include "page/language.h"
 #include "page/map/shown_map.h"
 #include "page/paper.h"
 #include "page/placed_frame.h"
@@ -45,7 +46,7 @@ struct ScaleBarDesign {
     ScaleBarPostion unitPosition = UnitPosAfter;
     BarDistances distances = BarDistances::Ground;  ///< or Map
     std::optional<DistanceUnit> unit;               ///< else UsualUnit
-    std::optional<std::wstring> unitName;           ///< else the unit's sign
+    std::optional<std::wstring> unitName;           ///< else that of its language
     BarFit fit = BarFit::Count;  ///< when a series gives it another map
     bool numeric = false;        ///< the scale in figures, under the bar
 };
@@ -63,13 +64,14 @@ struct MapDesign {
 
 struct LegendDesign {
     bool shown = true;
-    std::wstring title = L"Legend";
+    std::optional<std::wstring> title;  ///< else that of the language
     std::wstring family = L"Arial";
 };
 
 /// What an automatic page is to show.
 struct PageDesign {
     PaperSize paper;
+    const Language* language = &English();  ///< of the words that are not given
     FrameStyle frames;
     TitleDesign title;
     PictureDesign picture;

@@ -24,7 +24,8 @@ struct Plan {
 };
 
 std::optional<Plan> PlanBar(const CatalogueEntry& style, const ScaleBarDesign& design,
-                            const ShownMap& map, std::vector<std::string>& remarks) {
+                            const Language& language, const ShownMap& map,
+                            std::vector<std::string>& remarks) {
     const DistanceUnit unit =
         design.unit.value_or(UsualUnit(map.projection, design.distances));
     std::string why;
@@ -40,9 +41,10 @@ std::optional<Plan> PlanBar(const CatalogueEntry& style, const ScaleBarDesign& d
     bar->SetMainDivCount(design.divisions.value_or(kUsualDivisions));
     bar->SetSubDivCount(design.subdivisions);
     bar->SetUnitPos(design.unitPosition);
-    bar->SetUnitsName(design.unitName.value_or(FactsOf(unit).sign));
+    bar->SetUnitsNameVerbatim(design.unitName.value_or(language.Unit(unit)));
     auto frame = std::make_unique<ScaleBarFrame>(std::move(bar));
     frame->SetUnit(unit);
+    frame->SetLanguage(language);
     frame->SetFit(design.fit);
     frame->SetBarDistances(IsLength(unit) ? design.distances : BarDistances::Map);
     auto* const placed = ElementOf<CScaleBarBase>(*frame);
@@ -71,7 +73,7 @@ InkBox Fit(Plan& plan, const ScaleBarDesign& design, const ShownMap& map, int co
         if (ink.Width() <= most) {
             if (design.unitName && IsByLength(plan.frame->Unit())) {
                 plan.frame->SetUnit(divisions->unit);  // a name goes with one unit only
-                plan.bar->SetUnitsName(*design.unitName);
+                plan.bar->SetUnitsNameVerbatim(*design.unitName);
             }
             plan.frame->SetLongest(longest);
             return ink;
@@ -128,7 +130,8 @@ std::unique_ptr<PlacedFrame> PlaceScaleBar(const PageDesign& design, const MapOn
     if (style == nullptr || most <= 0.0) {
         return nullptr;
     }
-    std::optional<Plan> plan = PlanBar(*style, design.scaleBar, shown, remarks);
+    std::optional<Plan> plan =
+        PlanBar(*style, design.scaleBar, *design.language, shown, remarks);
     if (!plan) {
         return nullptr;
     }

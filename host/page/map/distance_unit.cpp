@@ -28,23 +28,22 @@ constexpr double kNearly = 1.0 - 1.0e-12;
 
 const std::vector<DistanceUnitFacts>& DistanceUnits() {
     static const std::vector<DistanceUnitFacts> units = {
-        {DistanceUnit::Metric, "metric", "metres or kilometres, by length", L"m", 1.0,
+        {DistanceUnit::Metric, "metric", "metres or kilometres, by length", 1.0,
          MeasureMeter},
-        {DistanceUnit::Imperial, "imperial", "feet or miles, by length", L"ft", kFoot,
+        {DistanceUnit::Imperial, "imperial", "feet or miles, by length", kFoot,
          MeasureUnknown},
-        {DistanceUnit::Metre, "m", "metres", L"m", 1.0, MeasureMeter},
-        {DistanceUnit::Kilometre, "km", "kilometres", L"km", 1000.0, MeasureKilometer},
-        {DistanceUnit::Foot, "ft", "feet", L"ft", kFoot, MeasureUnknown},
-        {DistanceUnit::UsSurveyFoot, "us-ft", "US survey feet", L"US ft", 1200.0 / 3937.0,
+        {DistanceUnit::Metre, "m", "metres", 1.0, MeasureMeter},
+        {DistanceUnit::Kilometre, "km", "kilometres", 1000.0, MeasureKilometer},
+        {DistanceUnit::Foot, "ft", "feet", kFoot, MeasureUnknown},
+        {DistanceUnit::UsSurveyFoot, "us-ft", "US survey feet", 1200.0 / 3937.0,
          MeasureUnknown},
-        {DistanceUnit::Yard, "yd", "yards", L"yd", 3.0 * kFoot, MeasureUnknown},
-        {DistanceUnit::Mile, "mi", "miles", L"mi", kMile, MeasureUnknown},
-        {DistanceUnit::NauticalMile, "nmi", "nautical miles", L"nmi", 1852.0,
-         MeasureUnknown},
+        {DistanceUnit::Yard, "yd", "yards", 3.0 * kFoot, MeasureUnknown},
+        {DistanceUnit::Mile, "mi", "miles", kMile, MeasureUnknown},
+        {DistanceUnit::NauticalMile, "nmi", "nautical miles", 1852.0, MeasureUnknown},
         {DistanceUnit::Degree, "deg", "degrees, where the map's coordinates are degrees",
-         L"\u00B0", 1.0, MeasureDegree},
+         1.0, MeasureDegree},
         {DistanceUnit::Coordinate, "map-units",
-         "the map's coordinates, whatever they count", L"map units", 1.0, MeasureUnknown},
+         "the map's coordinates, whatever they count", 1.0, MeasureUnknown},
     };
     return units;
 }

@@ -26,9 +26,8 @@ enum class DistanceUnit : std::int32_t {
 /// What is known of a unit.
 struct DistanceUnitFacts {
     DistanceUnit unit;
-    const char* word;     ///< on the command line and in page files: "us-ft"
-    const char* about;    ///< for people: "US survey feet"
-    const wchar_t* sign;  ///< as it is written beside a bar: L"ft"
+    const char* word;   ///< on the command line and in page files: "us-ft"
+    const char* about;  ///< for people: "US survey feet"
     /// Metres, of a degree degrees; of a choice by length, those of the smaller unit.
     double size;
     CommonMeasureUnits type;  ///< what a bar answers when asked for its unit

@@ -50,6 +50,7 @@ public:
           m_room{page.Width() / 3.0, page.Height() / 3.0, page.Width() * 2.0 / 3.0,
                  page.Height() * 2.0 / 3.0} {
         m_design.paper = {page.Width(), page.Height()};
+        m_design.language = &host::LanguageOfLocale();
     }
 
     std::unique_ptr<CSurroundFrame> ScaleBar(const host::CatalogueEntry& style) {
@@ -105,6 +106,9 @@ public:
             Name(*legend);
         }
         if (auto* const bar = host::FrameAs<host::ScaleBarFrame>(item)) {
+            bar->SetLanguage(*m_design.language);
+            host::ElementOf<CScaleBarBase>(frame)->SetUnitsNameVerbatim(
+                m_design.language->mapUnit);  // whatever its numbers count
             bar->SetDivisionLength(m_room.Width() / 5.0);
         }
         element->ResetAspectRatio();
@@ -136,7 +140,8 @@ private:
 
     /// A legend of nothing shows its title, so that one sees it.
     void Name(CMapLegend& legend) const {
-        legend.SetTitleValue(m_design.legend.title);
+        host::SetCaptions(legend, *m_design.language);
+        legend.SetTitleValue(m_design.language->legend);
         legend.SetTitle(m_design.legend.family);
         legend.SetFileName(m_design.legend.family);
     }

@@ -72,6 +72,7 @@ host::OpenedPage LayOutRasters(const std::vector<std::string>& paths,
     TryRasters(paths, host::RasterStore(), reading);
     host::PageDesign design;
     design.title.text = TitleFor(paths.front());
+    design.language = &host::LanguageOfLocale();
     return host::LayOutRasters(paths, design);
 }
 

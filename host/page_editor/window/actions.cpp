@@ -9,6 +9,7 @@
 #include <initializer_list>
 
 #include "page/document/item_type.h"
+#include "page/language.h"
 #include "page_editor/window/editor_window.h"
 #include "page_editor/window/recent_files.h"
 
@@ -100,8 +101,20 @@ void AddFileMenu(EditorWindow& window) {
     AddRecentMenu(window, menu, menu.actions().at(2));
 }
 
+void AddLanguageMenu(EditorWindow& window, QMenu& edit) {
+    auto* const menu = new QMenu("&Language of the page", &window);
+    edit.addMenu(menu);
+    for (const host::Language& language : host::Languages()) {
+        const std::string name = std::string("language-") + language.code;
+        AddAction(window, *menu,
+                  {name.c_str(), language.name, {}, [&language](EditorWindow& w) {
+                       w.SetLanguage(language);
+                   }});
+    }
+}
+
 void AddEditMenu(EditorWindow& window) {
-    AddMenu(
+    QMenu& menu = AddMenu(
         window, "&Edit",
         {
             {"undo", "&Undo", QKeySequence("Ctrl+Z"), [](EditorWindow& w) { w.Undo(); }},
@@ -121,6 +134,7 @@ void AddEditMenu(EditorWindow& window) {
             {"properties", "P&roperties", QKeySequence("F2"),
              [](EditorWindow& w) { w.EditProperties(); }},
         });
+    AddLanguageMenu(window, menu);
 }
 
 void AddInsertMenu(EditorWindow& window) {

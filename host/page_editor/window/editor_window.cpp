@@ -12,10 +12,12 @@
 #include <QVBoxLayout>
 #include <exception>
 #include <initializer_list>
+#include <numeric>
 #include <stdexcept>
 #include <utility>
 
 #include "page/document/item_type.h"
+#include "page/document/page_language.h"
 #include "page/paper.h"
 #include "page_editor/editing/new_item.h"
 #include "page_editor/editing/property_change.h"
@@ -29,6 +31,12 @@ namespace {
 constexpr int kPanelWidth = 300;
 constexpr int kTold = 8000;             // milliseconds
 constexpr int kReadingPatience = 2000;  // milliseconds
+
+Indices Everything(const PageDocument& document) {
+    Indices all(document.Count());
+    std::iota(all.begin(), all.end(), 0);
+    return all;
+}
 
 }  // namespace
 
@@ -176,13 +184,18 @@ void EditorWindow::TurnSelected() {
     });
 }
 
-void EditorWindow::SelectAll() {
-    Indices all;
-    for (std::size_t i = 0; i < m_document.Count(); ++i) {
-        all.push_back(i);
-    }
-    m_document.Select(std::move(all));
+void EditorWindow::SetLanguage(const host::Language& language) {
+    Attempt([this, &language] {
+        m_document.ChangeItems(
+            Everything(m_document), "Language", [this, &language](host::PageItem& item) {
+                for (const auto& [property, value] : host::WordsIn(language, item)) {
+                    SetProperty(item, *property, value, m_document.Rasters());
+                }
+            });
+    });
 }
+
+void EditorWindow::SelectAll() { m_document.Select(Everything(m_document)); }
 
 void EditorWindow::EditProperties() {
     m_properties->show();

@@ -47,6 +47,8 @@ public:
     void Distribute(Direction direction);
     void Reorder(Order order);
     void TurnSelected();
+    /// Has the legends and scale bars speak it, but for what somebody wrote.
+    void SetLanguage(const host::Language& language);
     void SelectAll();
     /// Puts the keyboard into the properties; Escape brings it back to the page.
     void EditProperties();

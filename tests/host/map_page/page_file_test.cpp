@@ -89,6 +89,37 @@ TEST_F(PageFile, EveryStyleOfTheCatalogueIsAWordASavedTypeAndADrawing) {
     }
 }
 
+TEST_F(PageFile, KeepsTheWordsOfTheLanguageInWhichItWasMade) {
+    const auto saved = [this](const char* locale, const Arguments& arguments) {
+        const auto speak = [locale] { setenv("LC_ALL", locale, 1); };
+        Arguments all = arguments;
+        all.insert(all.end(), {"--save", "saved.json"});
+        EXPECT_EQ(host_tests::RunningMapPage(folder, all, speak).Wait().status, 0);
+        return ContentsOf(folder.Path("saved.json"));
+    };
+    const struct {
+        const char* locale;
+        const char* option;
+        const char* band;
+    } rows[] = {{"C", "", "\"Band \""},
+                {"de_AT.UTF-8", "", "\"Kanal \""},
+                {"de_AT.UTF-8", "--language=fr", "\"Bande \""},
+                {"C", "--language=zh", "\"\u6CE2\u6BB5_\""}};
+    for (const auto& row : rows) {
+        Arguments arguments = {"data/scene.tif"};
+        arguments.insert(arguments.end(), *row.option == '\0' ? 0 : 1, row.option);
+        const std::string page = saved(row.locale, arguments);
+        EXPECT_NE(page.find(std::string("\"bandCaption\": ") + row.band),
+                  std::string::npos)
+            << page;
+        host_tests::WriteFile(folder.Path("page.json"), page);
+        EXPECT_EQ(saved("ja_JP", {"page.json"}), page);
+        EXPECT_NE(saved("C", {"page.json", "--language", "ru"})
+                      .find("\"title\": \"Условные обозначения\""),
+                  std::string::npos);
+    }
+}
+
 TEST_F(PageFile, IsSavedWithoutDrawingAndSaysWhereItIs) {
     const Result result = Run({"data/scene.tif", "--save", "page.json"});
     EXPECT_EQ(result.status, 0) << result.err;
@@ -114,7 +145,7 @@ TEST_F(PageFile, OfVersion1DrawsTheSamePixels) {
     ASSERT_EQ(Run({"second.json", "-o", "second.png"}).status, 0);
     text = std::regex_replace(text, std::regex(" *\"exact\": false,\n"), "");
     for (const auto& [second, first] :
-         {std::pair("\"version\": 2", "\"version\": 1"),
+         {std::pair("\"version\": 3", "\"version\": 1"),
           std::pair("#11223344", "#44112233"), std::pair("#FFEEDD80", "#80FFEEDD")}) {
         EXPECT_NE(text.find(second), std::string::npos) << second;
         text = std::regex_replace(text, std::regex(second), first);

@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include <cstdio>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -40,6 +41,7 @@ RunningMapPage::RunningMapPage(const ScratchFolder& folder, const Arguments& arg
     if (chdir(folder.Path().c_str()) == 0 &&
         std::freopen(m_out.c_str(), "w", stdout) != nullptr &&
         std::freopen(m_err.c_str(), "w", stderr) != nullptr) {
+        setenv("LC_ALL", "C", 1);  // whatever language the machine speaks
         if (prepare) {
             prepare();
         }

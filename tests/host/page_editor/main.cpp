@@ -14,6 +14,7 @@
 
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("LC_ALL", "C");        // new elements speak English
     const QTemporaryDir settings;  // a person's own stay as they are
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
     qputenv("XDG_DATA_HOME", settings.path().toUtf8());

@@ -10,6 +10,14 @@ std::vector<Property> LegendProperties() {
             "rasters", "Files that it explains, in order", PropertyKind::Rasters),
         Of<&CMapLegend::GetTitleValue, &CMapLegend::SetTitleValue>("title", "First line",
                                                                    PropertyKind::Text),
+        Of<&CMapLegend::GetSourceCaption, &CMapLegend::SetSourceCaption>(
+            "sourceCaption", "Caption before the name of a raster", PropertyKind::Text),
+        Of<&CMapLegend::GetBandCaption, &CMapLegend::SetBandCaption>(
+            "bandCaption", "Caption before the number of a band", PropertyKind::Text),
+        Of<&CMapLegend::GetHighCaption, &CMapLegend::SetHighCaption>(
+            "highCaption", "Caption before the highest value", PropertyKind::Text),
+        Of<&CMapLegend::GetLowCaption, &CMapLegend::SetLowCaption>(
+            "lowCaption", "Caption before the lowest value", PropertyKind::Text),
         Of<&CMapLegend::GetTitle, &CMapLegend::SetTitle>(
             "titleFont", "Font family of the first line", PropertyKind::Font),
         Within(Of<&CMapLegend::GetTitleSize, &CMapLegend::SetTitleSize>(

@@ -30,6 +30,17 @@ Choices DistanceUnitChoices() {
     return {choices.data(), choices.size()};
 }
 
+Choices LanguageChoices() {
+    static const std::vector<Choice> choices = [] {
+        std::vector<Choice> made;
+        for (const Language& language : Languages()) {
+            made.push_back({language.code, PlaceOf(language)});
+        }
+        return made;
+    }();
+    return {choices.data(), choices.size()};
+}
+
 constexpr Choice kUnits[] = {
     {"unknown", MeasureUnknown},
     {"meter", MeasureMeter},
@@ -86,9 +97,12 @@ std::vector<Property> ScaleBarProperties() {
                   "unitPosition", "Where the name of the unit stands",
                   PropertyKind::Choice),
               kUnitPositions),
-        Of<&CScaleBarBase::GetUnitsName, &CScaleBarBase::SetUnitsName>(
+        Of<&CScaleBarBase::GetUnitsName, &CScaleBarBase::SetUnitsNameVerbatim>(
             "units", "Name of the unit; one that is chosen by length names itself",
             PropertyKind::Text),
+        OneOf(Of<&ScaleBarFrame::LanguagePlace, &ScaleBarFrame::SetLanguagePlace>(
+                  "language", "In which it does that", PropertyKind::Choice),
+              LanguageChoices()),
         OneOf(Of<&CScaleBarBase::GetDestUnitType, &CScaleBarBase::SetDestUnitType>(
                   "unitType",
                   "What it counts on the ground; names and converts nothing else",

@@ -167,6 +167,10 @@ std::vector<Change> LegendChanges(const std::string& folder) {
     return {
         Behind("rasters", &F::SetRasterPaths, &F::RasterPaths, rasters),
         Behind("title", &L::SetTitleValue, &L::GetTitleValue, L"图例"),
+        Behind("sourceCaption", &L::SetSourceCaption, &L::GetSourceCaption, L"Layer "),
+        Behind("bandCaption", &L::SetBandCaption, &L::GetBandCaption, L""),
+        Behind("highCaption", &L::SetHighCaption, &L::GetHighCaption, L"\u0645 "),
+        Behind("lowCaption", &L::SetLowCaption, &L::GetLowCaption, L"Low: "),
         Behind("titleFont", &L::SetTitle, &L::GetTitle, L"Courier New"),
         Behind("titleSize", &L::SetTitleSize, &L::GetTitleSize, 33.3f),
         Behind("titleStyle", &L::SetTitleStyle, &L::GetTitleStyle,
@@ -211,8 +215,9 @@ std::vector<Change> ScaleBarChanges(ScaleBarType other) {
         Behind("subdivisions", &B::SetSubDivCount, &B::GetSubDivCount, 7),
         Behind("unitPosition", &B::SetUnitPos, &B::GetUnitPos, UnitPosBefore),
         On<B>(
-            "units", [](B& b) { b.SetUnitsName(L"metre"); },
-            [](const B& b) { return b.GetUnitsName() == L"米"; }),
+            "units", [](B& b) { b.SetUnitsNameVerbatim(L"metre"); },
+            [](const B& b) { return b.GetUnitsName() == L"metre"; }),
+        Behind("language", &P::SetLanguagePlace, &P::LanguagePlace, 2),
         Behind("unitType", &B::SetDestUnitType, &B::GetDestUnitType, MeasureDegree),
         Behind("scaleBarType", &B::SetScaleBarType, &B::GetScaleBarType, other),
     };

@@ -1,6 +1,7 @@
 // Texts of pages: what is read, and what is told of those that cannot be.
 
 #include "page/document/page_text.h"
+#include "map_surround/scale_bar.h"
 
 #include <gmock/gmock.h>
 
@@ -23,7 +24,7 @@ using host::ReadPage;
 using PageText = host_tests::DocumentTest;
 
 std::string PageWith(const std::string& elements) {
-    return R"({"version": 2, "width": 400, "height": 300, "elements": [)" + elements +
+    return R"({"version": 3, "width": 400, "height": 300, "elements": [)" + elements +
            "]}";
 }
 
@@ -70,9 +71,9 @@ TEST_F(PageText, WrongPagesAreToldInOneLineThatNamesThePlace) {
         {"[]", "must be an object"},
         {"5", "must be an object"},
         {"{}", "version: is missing"},
-        {R"({"version": 3})", "version: must be 1 or 2"},
-        {R"({"version": 1.0})", "version: must be 1 or 2"},
-        {R"({"version": "1"})", "version: must be 1 or 2"},
+        {R"({"version": 4})", "version: must be from 1 to 3"},
+        {R"({"version": 1.0})", "version: must be from 1 to 3"},
+        {R"({"version": "1"})", "version: must be from 1 to 3"},
         {R"({"version": 1, "colour": 1})", "colour: is not known"},
         {R"({"version": 1, "a)" + std::string(100, 'b') + R"(": 1})",
          "a" + std::string(35, 'b') + "..." + std::string(21, 'b') + ": is not known"},
@@ -213,17 +214,18 @@ std::string PageOfColour(int version, const std::string& colour) {
                            "\"exact\": false");  // as version 1 has every bar
     const std::string text =
         std::regex_replace(inexact, std::regex("\"#[0-9A-F]+\""), "\"" + colour + "\"");
-    return std::regex_replace(text, std::regex("\"version\": 2"),
+    return std::regex_replace(text, std::regex("\"version\": 3"),
                               "\"version\": " + std::to_string(version));
 }
 
-TEST_F(PageText, HasTheAlphaFirstInVersion1AndLastInVersion2) {
+TEST_F(PageText, HasTheAlphaFirstInVersion1AndLastSince) {
     const ColourRow rows[] = {
         {"#112233", "#112233"}, {"#44112233", "#11223344"}, {"#00ffaa00", "#FFAA0000"}};
     for (const ColourRow& row : rows) {
-        const std::string second = PageOfColour(2, row.second);
-        EXPECT_EQ(WritePage(ReadPage(second, {}), {}), second);
-        EXPECT_EQ(WritePage(ReadPage(PageOfColour(1, row.first), {}), {}), second);
+        const std::string newest = PageOfColour(3, row.second);
+        EXPECT_EQ(WritePage(ReadPage(newest, {}), {}), newest);
+        EXPECT_EQ(WritePage(ReadPage(PageOfColour(2, row.second), {}), {}), newest);
+        EXPECT_EQ(WritePage(ReadPage(PageOfColour(1, row.first), {}), {}), newest);
     }
     for (const char* none : {"#12345", "x11223344", "112233445", "#1122334G"}) {
         EXPECT_EQ(ErrorOf(PageOfColour(1, none)),
@@ -236,19 +238,45 @@ TEST_F(PageText, HasTheAlphaFirstInVersion1AndLastInVersion2) {
     }
 }
 
-TEST_F(PageText, OfVersion1IsOtherwiseAsWrongAsVersion2) {
+TEST_F(PageText, OfVersion1IsOtherwiseAsWrongAsLaterOnes) {
     for (const char* elements : {"5", "{}", R"({"type": "logo", "color": "#12"})",
                                  R"({"type": "title", "color": 5})",
                                  R"({"type": 5, "frame": {"borderColor": "#FF000000"}})",
                                  R"({"type": "frame", "frame": 5})"}) {
         const std::string second = PageWith(elements);
         const std::string first =
-            std::regex_replace(second, std::regex("\"version\": 2"), "\"version\": 1");
+            std::regex_replace(second, std::regex("\"version\": 3"), "\"version\": 1");
         EXPECT_EQ(ErrorOf(first), ErrorOf(second)) << elements;
         EXPECT_NE(ErrorOf(first), "no error") << elements;
     }
     EXPECT_EQ(ErrorOf(R"({"version": 1, "width": 400, "height": 300, "elements": 5})"),
               "elements: must be a list");
+}
+
+// As the bars of their time did, which translated some words.
+TEST_F(PageText, UpToVersion2HasTheUnitsThatItsBarsWrote) {
+    const auto unitOf = [](int version, const std::string& rest) {
+        const host::Page page = ReadPage(
+            R"({"version": )" + std::to_string(version) +
+                R"(, "width": 400, "height": 300, "elements": [{"type": "scale-bar-line")" +
+                rest + "}]}",
+            {});
+        return host::ElementOf<CScaleBarBase>(page.Items().front())->GetUnitsName();
+    };
+    for (const int version : {1, 2, 3}) {
+        const bool isOld = version < 3;
+        EXPECT_EQ(unitOf(version, R"(, "units": "metre")"), isOld ? L"米" : L"metre");
+        EXPECT_EQ(unitOf(version, R"(, "units": "km")"), L"km");
+        EXPECT_EQ(unitOf(version, ""), L"单位");
+    }
+    EXPECT_EQ(
+        ErrorOf(std::regex_replace(PageWith(R"({"type": "scale-bar-line", "units": 5})"),
+                                   std::regex("\"version\": 3"), "\"version\": 2")),
+        "elements[0].units: must be a text");
+    EXPECT_NE(ErrorOf(std::regex_replace(
+                  PageWith("{\"type\": \"scale-bar-line\", \"units\": \"a\\u0000\"}"),
+                  std::regex("\"version\": 3"), "\"version\": 2")),
+              "no error");
 }
 
 struct PathRow {

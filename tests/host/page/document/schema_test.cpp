@@ -149,7 +149,7 @@ TEST_F(PageSchema, RefusesWhatIsNoPage) {
         EXPECT_FALSE(IsValid(changed)) << key;
     }
     EXPECT_FALSE(IsValid(json::array()));
-    for (const int version : {0, 1, 2, 3}) {
+    for (const int version : {0, 1, 2, 3, 4}) {
         json changed = page;
         changed["version"] = version;
         EXPECT_EQ(IsValid(changed), IsRead(changed)) << version;

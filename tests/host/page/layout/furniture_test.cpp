@@ -215,7 +215,7 @@ TEST(Furniture, TakesWhatTheDesignSays) {
     EXPECT_EQ(bar->GetMainDivCount(), 4);
     EXPECT_EQ(bar->GetSubDivCount(), 3);
     EXPECT_EQ(bar->GetUnitPos(), UnitPosBefore);
-    EXPECT_EQ(bar->GetUnitsName(), L"\u516C\u91CC");
+    EXPECT_EQ(bar->GetUnitsName(), L"Kilometre");
     const auto* arrow = dynamic_cast<CNorthArrowFourAngle*>(
         found.Of(SurroundNorthArrow)->GetMapSurround());
     ASSERT_NE(arrow, nullptr);

@@ -127,6 +127,24 @@ TEST_F(Insert, LegendsExplainTheMap) {
     EXPECT_GT(std::get<std::int32_t>(Value(1, "size")), 10);
 }
 
+TEST_F(Insert, SpeaksTheLanguageThatIsChosen) {
+    window.Insert("map", {Scene()});
+    window.Insert("legend");
+    window.Insert("scale-bar-line");
+    const auto words = [this] {
+        return std::vector<std::string>{std::get<std::string>(Value(1, "title")),
+                                        std::get<std::string>(Value(1, "bandCaption")),
+                                        std::get<std::string>(Value(2, "units"))};
+    };
+    EXPECT_THAT(words(), ElementsAre("Legend", "Band ", "m"));
+    window.findChild<QAction*>("language-ru")->trigger();
+    EXPECT_EQ(window.LastFailure(), "");
+    EXPECT_THAT(words(), ElementsAre("Условные обозначения", "Канал ", "м"));
+    ExpectImageIsThePage();
+    document.Undo();
+    EXPECT_THAT(words(), ElementsAre("Legend", "Band ", "m"));
+}
+
 TEST_F(Insert, TellsWhichFileCannotBeUsed) {
     window.Insert("map", {"missing.tif"});
     EXPECT_THAT(window.LastFailure().toStdString(), HasSubstr("missing.tif"));

@@ -1,14 +1,16 @@
-#include "page/document/page_version1.h"
+#include "page/document/page_upgrade.h"
 
 #include <cstddef>
 #include <string>
 #include <vector>
 
+#include "map_surround/scale_bar.h"
 #include "page/colour_text.h"
 #include "page/document/item_type.h"
 #include "page/document/json_text.h"
 #include "page/document/page_error.h"
 #include "page/document/page_format.h"
+#include "system/utf8.h"
 
 namespace host {
 namespace {
@@ -16,6 +18,7 @@ namespace {
 using nlohmann::json;
 
 constexpr const char* kExactKey = "exact";  // of scale bars and north arrows
+constexpr const char* kUnitsKey = "units";  // of scale bars
 
 /// "#AARRGGBB" as "#RRGGBBAA".
 std::string AlphaLast(const std::string& text) {
@@ -42,14 +45,16 @@ void UpgradeColours(json& object, const std::vector<Property>& properties,
     }
 }
 
-void UpgradeElement(json& element, const std::string& place) {
-    if (!element.is_object()) {
-        return;
-    }
+/// The type of an element; null where there is none that is known.
+const ItemType* TypeIn(const json& element) {
     const auto type = element.find(kTypeKey);
-    const ItemType* const known = type != element.end() && type->is_string()
-                                      ? FindItemType(type->get<std::string>())
-                                      : nullptr;
+    return type != element.end() && type->is_string()
+               ? FindItemType(type->get<std::string>())
+               : nullptr;
+}
+
+void UpgradeFrom1(json& element, const std::string& place) {
+    const ItemType* const known = TypeIn(element);
     if (known != nullptr) {
         UpgradeColours(element, known->properties, place);
         if (FindProperty(known->properties, kExactKey) != nullptr) {
@@ -62,15 +67,35 @@ void UpgradeElement(json& element, const std::string& place) {
     }
 }
 
+/// The bar itself knows which names it translated.
+void UpgradeFrom2(json& element) {
+    const ItemType* const known = TypeIn(element);
+    const auto units = element.find(kUnitsKey);
+    std::wstring name;
+    if (known != nullptr && FindProperty(known->properties, kUnitsKey) != nullptr &&
+        units != element.end() && units->is_string() &&
+        Widen(units->get<std::string>(), name)) {
+        CScaleLine bar;
+        bar.SetUnitsName(name);
+        *units = Narrow(bar.GetUnitsName());
+    }
+}
+
 }  // namespace
 
-void UpgradeFromVersion1(json& page) {
+void UpgradeFromVersion(int version, json& page) {
     const auto elements = page.find(kElementsKey);
     if (elements == page.end() || !elements->is_array()) {
         return;
     }
     for (std::size_t i = 0; i < elements->size(); ++i) {
-        UpgradeElement((*elements)[i], PlaceOfElement(i));
+        json& element = (*elements)[i];
+        if (element.is_object() && version == 1) {
+            UpgradeFrom1(element, PlaceOfElement(i));
+        }
+        if (element.is_object()) {
+            UpgradeFrom2(element);
+        }
     }
 }
 

@@ -1,0 +1,177 @@
+#include "page/language.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <set>
+#include <string>
+
+#include "host/page/layout/laid_out.h"
+#include "legend/fake_sources.h"
+#include "page/document/item_type.h"
+#include "page/document/page_changes.h"
+#include "page/document/page_text.h"
+#include "page/document/unused_changes.h"
+#include "page/element_of.h"
+#include "page/layout/layout.h"
+#include "page/texts.h"
+#include "system/fonts.h"
+
+namespace {
+
+using host::DistanceUnit;
+using host::Language;
+
+class InLanguage : public ::testing::TestWithParam<std::size_t> {
+protected:
+    const Language& language = host::Languages()[GetParam()];
+};
+
+INSTANTIATE_TEST_SUITE_P(Every, InLanguage,
+                         ::testing::Range<std::size_t>(0, host::Languages().size()),
+                         [](const ::testing::TestParamInfo<std::size_t>& parameter) {
+                             return host::Languages()[parameter.param].code;
+                         });
+
+TEST_P(InLanguage, NoTwoUnitsAreCalledAlike) {
+    EXPECT_EQ(host::FindLanguage(language.code), &language);
+    EXPECT_EQ(&host::LanguageAt(host::PlaceOf(language)), &language);
+    for (const host::DistanceUnitFacts& facts : host::DistanceUnits()) {
+        EXPECT_STRNE(language.Unit(facts.unit), L"");
+        if (!host::IsByLength(facts.unit)) {
+            EXPECT_EQ(language.UnitCalled(language.Unit(facts.unit)), facts.unit);
+        }
+    }
+    EXPECT_EQ(language.UnitCalled(L"parsecs"), std::nullopt);
+}
+
+/// A page in a language, 12 km wide, so that a division of its bar is less than a
+/// kilometre.
+host::LaidOutPage PageIn(const Language& language, fakes::Raster& bands,
+                         fakes::Raster& ramp) {
+    host::PageDesign design;
+    host::ParsePaperSize("A4", design.paper);
+    design.language = &language;
+    design.scaleBar.distances = host::BarDistances::Map;
+    host::MapOnPage map{nullptr, 4.0 / 3.0, host::Box{0.0, 0.0, 12000.0, 9000.0}};
+    map.projection = R"(LOCAL_CS["site",UNIT["metre",1]])";
+    map.sources = {&bands, &ramp};
+    return host::LayOut(design, map);
+}
+
+std::vector<std::wstring> TextsOf(const host::Page& page) {
+    std::vector<std::wstring> texts;
+    for (const host::PageItem& item : page.Items()) {
+        for (const host::WrittenText& text : host::TextsOf(item)) {
+            texts.push_back(text.characters);
+        }
+    }
+    return texts;
+}
+
+TEST_P(InLanguage, APageHasItsWordsAndItsFileKeepsThem) {
+    using ::testing::Contains;
+    using ::testing::HasSubstr;
+    fakes::Raster bands(L"scene", DisplayRGB);
+    fakes::Raster ramp(L"relief", DisplayGray);
+    const host::LaidOutPage laidOut = PageIn(language, bands, ramp);
+    const std::vector<std::wstring> texts = TextsOf(laidOut.page);
+    EXPECT_THAT(texts, Contains(std::wstring(language.legend)));
+    EXPECT_THAT(texts, Contains(language.source + std::wstring(L"scene") +
+                                language.source + L"relief"));
+    for (const wchar_t* const word :
+         {language.band, language.high, language.low, language.metre}) {
+        EXPECT_THAT(texts, Contains(HasSubstr(word)));
+    }
+    const auto* const frame = dynamic_cast<host::ScaleBarFrame*>(
+        host_tests::LaidOut(laidOut.page).Of(SurroundScaleBar));
+    ASSERT_NE(frame, nullptr);
+    EXPECT_EQ(host::ElementOf<CScaleBarBase>(*frame)->GetUnitsName(), language.metre);
+    EXPECT_THAT(host::RemarksOfTexts(laidOut.page), ::testing::IsEmpty())
+        << "every word has its letters";
+
+    const std::string file = host::WritePage(laidOut.page, {});
+    const host::Page read = host::ReadPage(file, {});
+    EXPECT_EQ(host::WritePage(read, {}), file);
+    const host_tests::LaidOut found(read);
+    const auto* const bar =
+        dynamic_cast<host::ScaleBarFrame*>(found.Of(SurroundScaleBar));
+    EXPECT_EQ(&bar->GetLanguage(), &language);
+    const auto& legend =
+        dynamic_cast<CMapLegend&>(*found.Of(SurroundLegend)->GetMapSurround());
+    EXPECT_EQ(legend.GetBandCaption(), language.band);
+    EXPECT_EQ(legend.GetLowCaption(), language.low);
+}
+
+TEST_P(InLanguage, APageOfAnotherIsChangedButForWhatSomebodyWrote) {
+    fakes::Raster bands(L"scene", DisplayRGB);
+    fakes::Raster ramp(L"relief", DisplayGray);
+    const Language& another = *host::FindLanguage("zh");
+    host::LaidOutPage changed = PageIn(another, bands, ramp);
+    host::PageChanges changes;
+    changes.language = &language;
+    host::Change(changed.page, host::Merged({}, changes));
+    EXPECT_THAT(host::RemarksOfUnused(changes, changed.page), ::testing::IsEmpty());
+    EXPECT_EQ(TextsOf(changed.page), TextsOf(PageIn(language, bands, ramp).page));
+
+    host::LaidOutPage own = PageIn(another, bands, ramp);
+    const host_tests::LaidOut found(own.page);
+    auto& legend = dynamic_cast<CMapLegend&>(*found.Of(SurroundLegend)->GetMapSurround());
+    auto& bar =
+        dynamic_cast<CScaleBarBase&>(*found.Of(SurroundScaleBar)->GetMapSurround());
+    legend.SetTitleValue(L"What it shows");
+    legend.SetHighCaption(L"Peak ");
+    bar.SetUnitsNameVerbatim(L"paces");
+    host::Change(own.page, changes);
+    EXPECT_EQ(legend.GetTitleValue(), L"What it shows");
+    EXPECT_EQ(legend.GetHighCaption(), L"Peak ");
+    EXPECT_EQ(legend.GetLowCaption(), language.low);
+    EXPECT_EQ(bar.GetUnitsName(), L"paces");
+}
+
+TEST(Languages, AreKnownByTheirLocales) {
+    EXPECT_EQ(host::FindLanguage("tlh"), nullptr);
+    EXPECT_EQ(&host::LanguageAt(-1), &host::English());
+    const struct {
+        const char* all;
+        const char* messages;
+        const char* lang;
+        const char* code;
+    } rows[] = {
+        {nullptr, nullptr, nullptr, "en"}, {nullptr, nullptr, "de_AT.UTF-8", "de"},
+        {nullptr, "fr", "de_DE", "fr"},    {"ar_EG@calendar", "fr_FR", "de_DE", "ar"},
+        {"", "", "zh-TW", "zh"},           {"C.UTF-8", "fr_FR", "de_DE", "en"},
+        {"POSIX", nullptr, nullptr, "en"}, {nullptr, nullptr, "tlh_AQ", "en"},
+        {nullptr, nullptr, "d", "en"}};
+    constexpr const char* kNames[] = {"LC_ALL", "LC_MESSAGES", "LANG"};
+    std::vector<std::string> before;
+    for (const char* const name : kNames) {
+        const char* const value = getenv(name);
+        before.emplace_back(value == nullptr ? "" : value);
+    }
+    for (const auto& row : rows) {
+        const char* const values[] = {row.all, row.messages, row.lang};
+        for (int i = 0; i < 3; ++i) {
+            values[i] == nullptr ? unsetenv(kNames[i]) : setenv(kNames[i], values[i], 1);
+        }
+        EXPECT_STREQ(host::LanguageOfLocale().code, row.code);
+    }
+    for (int i = 0; i < 3; ++i) {
+        setenv(kNames[i], before[static_cast<std::size_t>(i)].c_str(), 1);
+    }
+}
+
+TEST(Languages, OfAPageWithoutWordsAreTold) {
+    host::PageChanges changes;
+    changes.language = &host::English();
+    host::Page page(400.0, 300.0);
+    page.Items().push_back(host::FindItemType("title")->make());
+    EXPECT_THAT(host::RemarksOfUnused(changes, page),
+                ::testing::ElementsAre(
+                    "the page has no legend or scale bar to be in a language"));
+    page.Items().push_back(host::FindItemType("scale-bar-line")->make());
+    EXPECT_THAT(host::RemarksOfUnused(changes, page), ::testing::IsEmpty());
+}
+
+}  // namespace
