@@ -1,6 +1,7 @@
 #include "page/drawing_status.h"
 
 #include <cmath>
+#include <optional>
 
 #include "map_surround/title.h"
 #include "page/element_of.h"
@@ -25,16 +26,20 @@ std::string WordsFor(Gdiplus::Status status) {
     }
 }
 
-}  // namespace
-
-std::string WhyNotWritten(const PageItem& item, double scale) {
+/// In pixels; none for items without an element.
+std::optional<double> HeightOf(const PageItem& item, double scale) {
     const auto* const title = ElementOf<CMapTitle>(item);
     const auto* const element = ElementOf<CMapSurround>(item);
     if (element == nullptr) {
-        return {};
+        return std::nullopt;
     }
-    const double pixels =
-        scale * (title != nullptr ? title->GetFontSize() : element->GetSize());
+    return scale * (title != nullptr ? title->GetFontSize() : element->GetSize());
+}
+
+}  // namespace
+
+std::string WhyNotWritten(const PageItem& item, double scale) {
+    const double pixels = HeightOf(item, scale).value_or(kLowestElement);
     const std::string isHigh = "is " + std::to_string(std::llround(pixels)) +
                                (std::llround(pixels) == 1 ? " pixel" : " pixels") +
                                " high";
@@ -42,6 +47,10 @@ std::string WhyNotWritten(const PageItem& item, double scale) {
         return isHigh + ", and texts of at most 65535 are drawn";
     }
     return pixels < kLowestElement ? isHigh + ", too little for its text" : "";
+}
+
+bool IsTooSmallToWrite(const PageItem& item, double scale) {
+    return HeightOf(item, scale).value_or(kLowestElement) < kLowestElement;
 }
 
 void CheckDrawn(const Gdiplus::Graphics& graphics, const std::string& thing,

@@ -42,6 +42,16 @@ LivePage::LivePage(const Page& page, double dpi, RenderMap render)
     DrawAll();
 }
 
+std::vector<std::string> LivePage::Failures() const {
+    std::vector<std::string> failures;
+    for (const Shown& shown : m_shown) {
+        if (!shown.failure.empty()) {
+            failures.push_back(shown.failure);
+        }
+    }
+    return failures;
+}
+
 void LivePage::DrawAll() {
     m_shown.clear();
     for (const PageItem& item : m_page.Items()) {
@@ -93,7 +103,11 @@ void LivePage::DrawArea(const Gdiplus::Rect& area) {
     }
     Gdiplus::Graphics graphics(&m_image.Bitmap());
     graphics.SetClip(area);
-    m_page.DrawItems(graphics, m_dpi, items, m_maps);
+    const std::vector<std::string> failures =
+        m_page.DrawItems(graphics, m_dpi, items, m_maps);
+    for (std::size_t i = 0; i < items.size(); ++i) {
+        m_shown[items[i]].failure = failures[i];
+    }
 }
 
 }  // namespace host

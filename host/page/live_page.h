@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <string>
 #include <vector>
 
 #include "page/ink.h"
@@ -23,6 +24,9 @@ public:
     /// The image; it is drawn on only by the operations below.
     PageImage& Image() { return m_image; }
 
+    /// Why items are not drawn whole, one line each; see Page::DrawItems.
+    std::vector<std::string> Failures() const;
+
     /// Draws everything, after items were added, removed or put in another order.
     void DrawAll();
 
@@ -38,6 +42,7 @@ private:
     struct Shown {
         InkBox ink;
         Gdiplus::Rect area;
+        std::string failure = {};
     };
 
     Gdiplus::Rect AreaOf(std::size_t item) const;

@@ -10,6 +10,7 @@
 #include "page/element_drawing.h"
 #include "page/element_of.h"
 #include "page/placed_frame.h"
+#include "system/errors.h"
 
 namespace host {
 namespace {
@@ -143,13 +144,26 @@ void Page::Draw(Gdiplus::Graphics& graphics, double dpi, const Progress& progres
     }
 }
 
-void Page::DrawItems(Gdiplus::Graphics& graphics, double dpi,
-                     const std::vector<std::size_t>& items, RenderedMaps& maps) const {
+std::vector<std::string> Page::DrawItems(Gdiplus::Graphics& graphics, double dpi,
+                                         const std::vector<std::size_t>& items,
+                                         RenderedMaps& maps) const {
     const DeviceView view(m_height, dpi);
     PaintPaper(graphics);
-    for (const std::size_t item : items) {
-        std::visit(ItemDrawing{graphics, view, maps, {}}, m_items.at(item));
+    CheckDrawn(graphics, "page", "");
+    std::vector<std::string> failures;
+    for (const std::size_t index : items) {
+        const PageItem& item = m_items.at(index);
+        std::visit(ItemDrawing{graphics, view, maps, {}}, item);
+        failures.emplace_back();
+        try {
+            CheckDrawn(graphics, NameOf(item), WhyNotWritten(item, view.Scale()));
+        } catch (const NamedError& error) {
+            if (!IsTooSmallToWrite(item, view.Scale())) {
+                failures.back() = error.what();
+            }
+        }
     }
+    return failures;
 }
 
 Gdiplus::Size PixelSize(const Page& page, double dpi) {

@@ -75,8 +75,12 @@ public:
 
     /// As Draw, but draws only these items, in the order given, on blank paper, and takes
     /// their maps from those rendered before. Where the surface has a clip, only in it.
-    void DrawItems(Gdiplus::Graphics& graphics, double dpi,
-                   const std::vector<std::size_t>& items, RenderedMaps& maps) const;
+    /// Goes on after an item of which GDI+ did not draw all.
+    /// @return why, for each of the items ("title: is 83333 pixels high, and …"); empty
+    /// for those that were drawn, or are only too small for texts at the resolution
+    std::vector<std::string> DrawItems(Gdiplus::Graphics& graphics, double dpi,
+                                       const std::vector<std::size_t>& items,
+                                       RenderedMaps& maps) const;
 
 private:
     double m_width;

@@ -12,6 +12,7 @@
 #include "page/units.h"
 #include "page_editor/canvas/overlay.h"
 #include "system/errors.h"
+#include "system/one_line.h"
 
 namespace page_editor {
 namespace {
@@ -124,6 +125,11 @@ void PageCanvas::ShowPixels() {
     if (!failure.empty()) {
         Q_EMIT Failed(QString::fromStdString(failure));
     }
+    QStringList lines;
+    for (const std::string& why : m_surface.Undrawn()) {
+        lines.append(QString::fromStdString(host::OneLine(why)));
+    }
+    Q_EMIT Undrawn(lines);
     viewport()->update();
 }
 

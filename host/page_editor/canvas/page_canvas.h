@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractScrollArea>
+#include <QStringList>
 #include <QTimer>
 #include <functional>
 #include <memory>
@@ -50,6 +51,8 @@ Q_SIGNALS:
     void ZoomChanged(double zoom);
     /// Something could not be done; one line says what and why.
     void Failed(const QString& why);
+    /// Why elements are not shown whole, one line each; none when all are.
+    void Undrawn(const QStringList& why);
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -6,6 +6,7 @@
 #include <memory>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "page/live_page.h"
 
@@ -47,6 +48,10 @@ public:
     }
     /// Why it cannot; else empty.
     const std::string& Failure() const { return m_failure; }
+    /// Why elements are not drawn whole, one line each.
+    std::vector<std::string> Undrawn() const {
+        return m_live == nullptr ? std::vector<std::string>() : m_live->Failures();
+    }
     /// Why a map was hatched since this was asked last; else empty.
     std::string TakeMapFailure() { return std::exchange(m_mapFailure, {}); }
 

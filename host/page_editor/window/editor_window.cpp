@@ -47,13 +47,14 @@ EditorWindow::EditorWindow(const QString& recovery)
       m_autosave(new Autosave(m_document, *m_files, recovery)),
       m_properties(new QDockWidget("Properties", this)),
       m_failures(new MessageBar(MessageBar::Kind::Failure, this)),
+      m_undrawn(new MessageBar(MessageBar::Kind::Failure, this)),
       m_remarks(new MessageBar(MessageBar::Kind::Remark, this)) {
     auto* const middle = new QWidget(this);
     auto* const column = new QVBoxLayout(middle);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
     for (QWidget* const widget :
-         std::initializer_list<QWidget*>{m_failures, m_remarks, m_canvas}) {
+         std::initializer_list<QWidget*>{m_failures, m_undrawn, m_remarks, m_canvas}) {
         column->addWidget(widget);
     }
     setCentralWidget(middle);
@@ -76,6 +77,7 @@ EditorWindow::EditorWindow(const QString& recovery)
         zoom->setText(QString("%1 %").arg(value * 100.0, 0, 'f', 0));
     });
     connect(m_canvas, &PageCanvas::Failed, this, &EditorWindow::ShowFailure);
+    connect(m_canvas, &PageCanvas::Undrawn, m_undrawn, &MessageBar::Follow);
     connect(m_panel, &PropertyPanel::Failed, this, &EditorWindow::ShowFailure);
     connect(m_files, &FileCommands::Failed, this, [this](const QString& why) {
         ShowFailure(why);
@@ -247,16 +249,12 @@ void EditorWindow::ShowFailure(const QString& why) {
     statusBar()->showMessage(why);
 }
 
-/// Closed ones stay so until something else is remarked.
 void EditorWindow::ShowRemarks() {
     QStringList remarks;
     for (const std::string& remark : m_document.Remarks()) {
         remarks.append(QString::fromStdString(host::OneLine(remark)));
     }
-    if (remarks != m_shownRemarks) {
-        m_shownRemarks = remarks;
-        m_remarks->Show(remarks);
-    }
+    m_remarks->Follow(remarks);
 }
 
 /// Nothing else is done until the file is read, or given up. The window may have to be

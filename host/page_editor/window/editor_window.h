@@ -57,9 +57,10 @@ public:
     /// @return false, and nothing is changed, when the text is no sheet
     bool SetSheet(const QString& paper);
 
-    /// What is shown of files that could not be opened, saved or exported, and of what on
-    /// the page is not as one would expect.
+    /// What is shown of files that could not be opened, saved or exported, of elements
+    /// that are not drawn whole, and of what on the page is not as one would expect.
     MessageBar& Failures() { return *m_failures; }
+    MessageBar& Undrawn() { return *m_undrawn; }
     MessageBar& Remarks() { return *m_remarks; }
 
     /// The last error message shown.
@@ -84,8 +85,8 @@ private:
     Autosave* m_autosave;
     QDockWidget* m_properties;
     MessageBar* m_failures;
+    MessageBar* m_undrawn;
     MessageBar* m_remarks;
-    QStringList m_shownRemarks;
     std::shared_ptr<Waiting> m_waiting;
     QString m_lastFailure;
 };

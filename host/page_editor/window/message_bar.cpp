@@ -51,4 +51,11 @@ void MessageBar::Show(const QStringList& lines) {
     setVisible(!lines.isEmpty());
 }
 
+void MessageBar::Follow(const QStringList& lines) {
+    if (lines != m_followed) {
+        m_followed = lines;
+        Show(lines);
+    }
+}
+
 }  // namespace page_editor

@@ -16,11 +16,15 @@ public:
 
     /// @param lines plain text; none hides the bar
     void Show(const QStringList& lines);
+    /// The same, but nothing when the lines are those of the last time: a bar that was
+    /// closed stays so.
+    void Follow(const QStringList& lines);
 
     QString Text() const { return m_text->text(); }
 
 private:
     QLabel* m_text;
+    QStringList m_followed;
 };
 
 }  // namespace page_editor

@@ -5,6 +5,8 @@
 #include <QApplication>
 #include <QWheelEvent>
 
+#include "map_surround/title.h"
+#include "page/element_of.h"
 #include "page_editor/editor_fixture.h"
 
 namespace {
@@ -68,6 +70,36 @@ TEST_F(PageCanvas, ShowsWhatThePointerWouldDo) {
     // Handles are caught from a little outside, too.
     EXPECT_EQ(cursorAt(CPoint2D(203.0, 97.0)), Qt::SizeFDiagCursor);
     EXPECT_EQ(cursorAt(CPoint2D(210.0, 97.0)), Qt::ArrowCursor);
+}
+
+TEST_F(PageCanvas, TellsOfWhatIsNotDrawnWholeAsLongAsItIsNot) {
+    window.SetSheet("200x150");
+    const std::size_t title = Add("title", {100.0, 400.0, 400.0, 440.0});
+    const auto setSize = [&](double size) {
+        document.ChangeItems({title}, "Size", [size](host::PageItem& item) {
+            host::ElementOf<CMapTitle>(item)->SetFontSize(size);
+        });
+    };
+    const auto told = [this] {
+        return window.Undrawn().isVisible() ? window.Undrawn().Text().toStdString() : "";
+    };
+    canvas.SetZoom(4.0);
+    setSize(20000.0);
+    const std::string line =
+        "title: is 80000 pixels high, and texts of at most 65535 are drawn";
+    EXPECT_EQ(told(), line);
+    document.Select({0});
+    Key(Qt::Key_Left);  // draws the surroundings of another
+    EXPECT_EQ(told(), line);
+    setSize(20.0);
+    EXPECT_EQ(told(), "");
+    Command("undo");
+    EXPECT_EQ(told(), line);
+    canvas.SetZoom(1.0);
+    EXPECT_EQ(told(), "");
+    Add("scale-bar-alternating", {100.0, 20.0, 400.0, 60.0});
+    canvas.SetZoom(0.05);  // too small for its text, but no failure of the page
+    EXPECT_EQ(told(), "");
 }
 
 TEST_F(PageCanvas, DrawsThePageAtEveryZoom) {
