@@ -138,6 +138,15 @@ TEST_F(RemarksBar, OfWhatCannotBeTrueAreShownAsLongAsTheyHold) {
             host::FindProperty(host::TypeOf(item)->properties, "distances");
         property->write(item, std::int32_t{1});
     });
+    const std::size_t two = Add("map", {500.0, 100.0, 700.0, 300.0}, {Path("scene.tif")});
+    document.Select({two});
+    MadeRaster plain;
+    WriteRaster(folder.Path("plain.tif"), plain);
+    panel.Field("rasters")->changed(
+        std::vector<std::string>{folder.Path("scene.tif"), folder.Path("plain.tif")});
+    EXPECT_THAT(Told(), HasSubstr("plain.tif: left off the map: it has no georeference"));
+    Command("delete");
+    EXPECT_FALSE(window.Remarks().isVisible()) << Told();
     const std::size_t far = Add("map", {100.0, 100.0, 400.0, 300.0}, {Path("far.tif")});
     EXPECT_TRUE(window.Remarks().isVisible());
     EXPECT_THAT(Told(), HasSubstr("scale bar"));

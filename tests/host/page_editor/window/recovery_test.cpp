@@ -97,7 +97,7 @@ TEST_F(LostWork, IsOfferedAgain) {
     EXPECT_TRUE(window->isWindowModified());
     EXPECT_EQ(Pages(), 1);                // until it is saved
     EXPECT_TRUE(window->Files().Save());  // and nobody asks
-    EXPECT_EQ(Pages(), 0);
+    ASSERT_EQ(Pages(), 0);                // or it would be offered once more
     EXPECT_EQ(host::WritePage(host::LoadPage(Path("page.json").toStdString()), {}),
               host::WritePage(work, {}));
     page_editor::OfferLostWork(*window, Kept());
@@ -118,7 +118,7 @@ TEST_F(LostWork, CanBeDiscarded) {
     const auto window = Window();
     Answers answers({Answers::Press("Discard")});
     page_editor::OfferLostWork(*window, Kept());
-    EXPECT_THAT(QDir(Kept()).entryList(QDir::Files), IsEmpty());
+    ASSERT_THAT(QDir(Kept()).entryList(QDir::Files), IsEmpty());
     page_editor::OfferLostWork(*window, Kept());
 }
 
