@@ -3,6 +3,7 @@
 #include <fcntl.h>
 #include <linux/landlock.h>
 #include <seccomp.h>
+#include <sys/ioctl.h>
 #include <sys/prctl.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
@@ -11,6 +12,7 @@
 #include <cerrno>
 #include <cstdint>
 #include <cstdio>
+#include <limits>
 #include <memory>
 
 namespace host {
@@ -29,17 +31,28 @@ constexpr std::uint64_t kWriting =
     LANDLOCK_ACCESS_FS_MAKE_SOCK | LANDLOCK_ACCESS_FS_MAKE_FIFO |
     LANDLOCK_ACCESS_FS_MAKE_BLOCK | LANDLOCK_ACCESS_FS_MAKE_SYM;
 
+// Younger than Debian 12's headers, and numbered alike on all machines.
+constexpr int kFchmodat2 = 452;
+constexpr int kSetxattrat = 463;
+constexpr int kRemovexattrat = 466;
+constexpr int kFileSetattr = 469;
+
 // Reading and drawing make none of these calls; a decoder that was taken over would.
 constexpr int kRefused[] = {
     SCMP_SYS(execve), SCMP_SYS(execveat), SCMP_SYS(ptrace), SCMP_SYS(process_vm_readv),
     SCMP_SYS(process_vm_writev), SCMP_SYS(pidfd_getfd), SCMP_SYS(kill),
-    SCMP_SYS(rt_sigqueueinfo), SCMP_SYS(pidfd_send_signal),
+    SCMP_SYS(rt_sigqueueinfo), SCMP_SYS(pidfd_send_signal), SCMP_SYS(tkill),
+    SCMP_SYS(rt_tgsigqueueinfo),
+    // Memory and queues that others may share.
+    SCMP_SYS(shmget), SCMP_SYS(shmat), SCMP_SYS(msgget), SCMP_SYS(semget),
+    SCMP_SYS(mq_open),
     // What Landlock leaves of files.
     SCMP_SYS(truncate), SCMP_SYS(chmod), SCMP_SYS(fchmod), SCMP_SYS(fchmodat),
     SCMP_SYS(chown), SCMP_SYS(fchown), SCMP_SYS(lchown), SCMP_SYS(fchownat),
     SCMP_SYS(utime), SCMP_SYS(utimes), SCMP_SYS(futimesat), SCMP_SYS(utimensat),
     SCMP_SYS(setxattr), SCMP_SYS(lsetxattr), SCMP_SYS(fsetxattr), SCMP_SYS(removexattr),
-    SCMP_SYS(lremovexattr), SCMP_SYS(fremovexattr),
+    SCMP_SYS(lremovexattr), SCMP_SYS(fremovexattr), kFchmodat2, kSetxattrat,
+    kRemovexattrat, kFileSetattr,
     // And what it has of them, for kernels without it.
     SCMP_SYS(creat), SCMP_SYS(mkdir), SCMP_SYS(mkdirat), SCMP_SYS(mknod),
     SCMP_SYS(mknodat), SCMP_SYS(unlink), SCMP_SYS(unlinkat), SCMP_SYS(rmdir),
@@ -145,12 +158,19 @@ bool ConfineCalls(const Kept& kept) {
     const std::unique_ptr<void, decltype(&seccomp_release)> filter(
         seccomp_init(SCMP_ACT_ALLOW), &seccomp_release);
     bool held = filter != nullptr;
-    const auto refuse = [&](int call) {
-        held =
-            held && seccomp_rule_add(filter.get(), SCMP_ACT_ERRNO(EPERM), call, 0) == 0;
+    const auto refuse = [&](int call, auto... argument) {
+        held = held && seccomp_rule_add(filter.get(), SCMP_ACT_ERRNO(EPERM), call,
+                                        sizeof...(argument), argument...) == 0;
     };
     for (const int call : kRefused) {
         refuse(call);
+    }
+    // Left for this process alone.
+    refuse(SCMP_SYS(tgkill), SCMP_A0(SCMP_CMP_NE, static_cast<scmp_datum_t>(getpid())));
+    refuse(SCMP_SYS(prlimit64), SCMP_A0(SCMP_CMP_NE, 0));
+    for (const scmp_datum_t typing : {TIOCSTI, TIOCLINUX}) {  // as if a person did
+        refuse(SCMP_SYS(ioctl),
+               SCMP_A1(SCMP_CMP_MASKED_EQ, std::numeric_limits<unsigned>::max(), typing));
     }
     if (!kept.network) {
         for (const int call : kRefusedNetwork) {

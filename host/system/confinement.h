@@ -19,7 +19,8 @@ struct Kept {
 
 /// Takes from this process and its children, for good, what reading and drawing do not
 /// need: making, writing, renaming and removing files by name, changing their owner or
-/// mode, starting programs, sockets, signals to others, looking into other processes.
+/// mode, starting programs, sockets, signals to others, looking into other processes,
+/// typing at the terminal.
 /// What is open stays open, and so do files that live in memory and /dev/null.
 ///
 /// Each part is taken where the kernel can: files by Landlock (Linux 5.13), the rest by

@@ -2,9 +2,13 @@
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/ioctl.h>
 #include <sys/mman.h>
+#include <sys/resource.h>
+#include <sys/shm.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -59,6 +63,11 @@ bool Opens(const std::string& path, int flags) {
     return descriptor >= 0;
 }
 
+/// Whether a command for a terminal is told that there is none.
+bool ReachesTheKernel(unsigned long command) {
+    return syscall(SYS_ioctl, -1, command, "x") < 0 && errno == EBADF;
+}
+
 /// Whether it succeeds in a process that was confined first, or was not.
 bool Succeeds(const Attempt& attempt, const std::function<void()>& prepare) {
     return host::InSeparateProcess("trying", [&](const host::Progress&) -> std::string {
@@ -96,11 +105,34 @@ TEST_F(Confinement, LeavesWhatReadingAndDrawingNeed) {
         {"rename", [&] { return std::rename(in.c_str(), In("c").c_str()) == 0; }, false},
         {"link", [&] { return symlink("a", In("link").c_str()) == 0; }, false},
         {"change the mode", [&] { return chmod(in.c_str(), 04777) == 0; }, false},
+        {"change the mode by the younger call",
+         [&] {
+             constexpr long kFchmodat2 = 452;
+             const long changed = syscall(kFchmodat2, AT_FDCWD, in.c_str(), 04777, 0);
+             return changed == 0 || errno == ENOSYS;
+         },
+         false},
         {"remove", [&] { return unlink(in.c_str()) == 0; }, false},
         {"a socket", [] { return socket(AF_INET, SOCK_STREAM, 0) >= 0; }, false},
         {"a local socket", [] { return socket(AF_UNIX, SOCK_STREAM, 0) >= 0; }, false},
         {"another program", [] { return std::system("exit 0") == 0; }, false},
         {"signal another", [] { return kill(getppid(), 0) == 0; }, false},
+        {"signal another's thread",
+         [] { return syscall(SYS_tgkill, getppid(), getppid(), 0) == 0; }, false},
+        {"another's limits",
+         [] { return prlimit(getppid(), RLIMIT_CPU, nullptr, nullptr) == 0; }, false},
+        {"its own limits", [] { return prlimit(0, RLIMIT_CPU, nullptr, nullptr) == 0; },
+         true},
+        {"share memory",
+         [] {
+             const int memory = shmget(IPC_PRIVATE, 1, 0600);
+             return memory >= 0 && shmctl(memory, IPC_RMID, nullptr) == 0;
+         },
+         false},
+        {"type at the terminal", [] { return ReachesTheKernel(TIOCSTI); }, false},
+        {"type with more bits", [] { return ReachesTheKernel(TIOCSTI | 1UL << 32U); },
+         false},
+        {"ask the terminal", [] { return ReachesTheKernel(TCGETS); }, true},
     };
     for (const Attempt& attempt : attempts) {
         EXPECT_EQ(Succeeds(attempt, [] { EXPECT_TRUE(host::Confine({})); }),
