@@ -71,10 +71,11 @@ TEST_F(HonestStatus, OfFontsThatAreNotThere) {
     ASSERT_EQ(Run({"data/scene.tif", "--save", "page.json"}).status, 0);
     ExpectRefused(RunWithFonts(sans, {"page.json", "-o", "page.png"}),
                   "page.json: " + why);
-    const Result boxes =
-        RunWithFonts(sans, {"data/scene.tif", "-o", "page.png", "--scale-bar", "none"});
+    const Result boxes = RunWithFonts(sans, {"data/scene.tif", "-o", "page.png",
+                                             "--scale-bar", "none", "--language", "zh"});
     EXPECT_EQ(boxes.status, 0);
-    EXPECT_EQ(boxes.err.rfind("map_page: warning: legend: no font has \"影像名：", 0), 0u)
+    EXPECT_EQ(boxes.err.rfind("map_page: warning: legend: no font has \"图例影像名：", 0),
+              0u)
         << boxes.err;
 }
 
