@@ -133,10 +133,6 @@ void ChangePaper(const Given& given, const host::PageDesign& design, Changes& ch
 }  // namespace
 
 void CheckGoesWithPageFile(const CLI::App& app, const Given& given) {
-    if (app.get_option("--numeric-scale")->count() > 0) {
-        throw UsageError("--numeric-scale",
-                         "does not go with a page file, to which it adds nothing");
-    }
     if (app.get_option("--save")->count() > 0 &&
         app.get_option("--series")->count() > 0) {
         throw UsageError("--save", "does not go with --series, whose pages are many");
@@ -159,6 +155,7 @@ host::PageChanges TemplateChanges(const CLI::App& app, const Given& given,
     changes.Frames("--border", "border", "borderColor", design.frames.border);
     changes.Frames("--shadow", "shadow", "shadowColor", design.frames.shadow);
     changes.Frames("--background", "fill", "fillColor", design.frames.background);
+    changes.changes.numericScale = design.scaleBar.numeric;
     changes.changes.rasters = options.rasters;
     changes.changes.extent = design.map.extent;
     changes.changes.scale = design.map.scale;

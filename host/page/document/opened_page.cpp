@@ -48,13 +48,14 @@ OpenedPage OpenPageFile(const std::string& path, const AllowedSources* allowed,
                         const PageChanges& changes) {
     return Naming(path, [&] {
         Page page = LoadPage(path, allowed);
-        Change(page, changes);
+        std::vector<std::string> told = Change(page, changes);
         CheckFilesAndFonts(page);
         CheckFontsOf(page);
         auto rasters = std::make_unique<RasterStore>();
-        std::vector<std::string> told = RemarksOfUnused(changes, page);
-        const std::vector<std::string> untrue = OpenChanged(page, changes, *rasters);
-        told.insert(told.end(), untrue.begin(), untrue.end());
+        for (const std::vector<std::string>& more :
+             {RemarksOfUnused(changes, page), OpenChanged(page, changes, *rasters)}) {
+            told.insert(told.end(), more.begin(), more.end());
+        }
         std::vector<std::string> remarks = AllRemarks(page, told);
         return OpenedPage{std::move(rasters), std::move(page), std::move(remarks)};
     });

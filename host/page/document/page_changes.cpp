@@ -8,12 +8,14 @@
 
 #include "map_surround/legend.h"
 #include "map_surround/title.h"
+#include "page/document/fitted_texts.h"
 #include "page/document/item_type.h"
 #include "page/document/page_error.h"
 #include "page/document/page_language.h"
 #include "page/document/resized_page.h"
 #include "page/element_of.h"
 #include "page/ink.h"
+#include "page/layout/added_scale.h"
 #include "page/layout/fit_to_map.h"
 #include "page/placed_frame.h"
 
@@ -36,23 +38,6 @@ bool IsNamed(const PageItem& item, const std::string& name) {
     return own != nullptr && std::get<std::string>(own->read(item)) == name;
 }
 
-double WidthOf(const CMapSurround& element) {
-    return element.GetSize() * double{element.GetAspectRatio()};
-}
-
-/// A title that is too large for its frame is set smaller, with half an em to each side
-/// and a tenth above and below.
-void FitTitle(const CSurroundFrame& frame, CMapTitle& title) {
-    const CBoundingBox room = frame.GetExtent();
-    const double em = title.GetFontSize();
-    const double fits = std::min(room.GetWidth() / (WidthOf(title) + em),
-                                 room.GetHeight() / (title.GetSize() + 0.2 * em));
-    if (fits > 0.0 && fits < 1.0) {
-        title.SetFontSize(em * fits);
-        title.ResetAspectRatio();
-    }
-}
-
 /// @param place named in errors
 void WriteValue(PageItem& item, const Property& property, const std::string& place,
                 const PropertyValue& value) {
@@ -63,20 +48,12 @@ void WriteValue(PageItem& item, const Property& property, const std::string& pla
     property.write(item, value);
 }
 
-void FitChangedTitle(PageItem& item) {
-    auto* const title = ElementOf<CMapTitle>(item);
-    const auto* const frame = FrameAs<CSurroundFrame>(item);
-    if (title != nullptr && frame != nullptr) {
-        title->ResetAspectRatio();
-        FitTitle(*frame, *title);
-    }
-}
-
-void SetText(PageItem& item, const std::string& name, const std::string& text) {
+void SetText(PageItem& item, const std::string& name, const std::string& text,
+             FittedTitles& titles) {
     const Property* const property = TextOf(item);
     if (property != nullptr && IsNamed(item, name)) {
         WriteValue(item, *property, name, text);
-        FitChangedTitle(item);
+        titles.Fit(item);
     }
 }
 
@@ -167,7 +144,7 @@ void KeepUnitAndName(PageItem& item, const std::string& changed) {
     }
 }
 
-void ChangeElement(Page& page, const ElementChange& change) {
+void ChangeElement(Page& page, const ElementChange& change, FittedTitles& titles) {
     PageItem& item = ElementFor(page, change.family, change.asked);
     const Property* const property = PropertyOf(item, change.property.c_str());
     if (change.property == "units") {
@@ -179,8 +156,9 @@ void ChangeElement(Page& page, const ElementChange& change) {
     }
     if (change.property == "fontSize") {
         MeasureItem(item);  // as large as it was asked for
+        titles.Forget(item);
     } else {
-        FitChangedTitle(item);
+        titles.Fit(item);
     }
 }
 
@@ -221,54 +199,6 @@ void ChangeFrame(PageItem& item, const PageChanges& changes) {
     }
 }
 
-/// Where a legend stands in its frame, from the frame's middle, y growing upwards.
-struct LegendPlace {
-    CMapLegend* legend;
-    PlacedFrame* frame;
-    double left;
-    double top;
-};
-
-/// Has the legends measured anew when they are opened.
-std::vector<LegendPlace> ForgetLegendSizes(Page& page) {
-    std::vector<LegendPlace> places;
-    for (PageItem& item : page.Items()) {
-        auto* const frame = FrameAs<LegendFrame>(item);
-        auto* const legend = ElementOf<CMapLegend>(item);
-        if (frame != nullptr && legend != nullptr) {
-            const CPoint2D offset = frame->ElementOffset();
-            places.push_back({legend, frame, offset.x - WidthOf(*legend) / 2.0,
-                              offset.y + legend->GetSize() / 2.0});
-            legend->SetSize(0);
-        }
-    }
-    return places;
-}
-
-/// The legend begins where it did, and its ink is no larger than its frame has room for.
-void FitLegend(const LegendPlace& place) {
-    constexpr int kTries = 4;  // text does not shrink quite as evenly as the legend
-    const CBoundingBox box = place.frame->GetExtent();
-    CMapLegend& legend = *place.legend;
-    const auto put = [&] {
-        place.frame->SetElementOffset(place.left + WidthOf(legend) / 2.0,
-                                      place.top - legend.GetSize() / 2.0);
-        return MeasureInk(*place.frame);
-    };
-    InkBox ink = put();
-    for (int i = 0; i < kTries && box.GetWidth() > 0.0; ++i) {
-        const double factor =
-            std::min((box.GetWidth() / 2.0 - place.left) / (ink.right - place.left),
-                     (box.GetHeight() / 2.0 + place.top) / (ink.down + place.top));
-        if (!(factor > 0.0 && factor < 1.0) || legend.GetSize() <= 1) {
-            return;
-        }
-        legend.SetSize(
-            std::min(legend.GetSize() - 1, static_cast<int>(legend.GetSize() * factor)));
-        ink = put();
-    }
-}
-
 bool ChangesLegends(const PageChanges& changes) {
     return !changes.rasters.empty() || changes.language != nullptr ||
            std::any_of(changes.elements.begin(), changes.elements.end(),
@@ -293,6 +223,7 @@ PageChanges Merged(PageChanges first, const PageChanges& then) {
     both.language = then.language != nullptr ? then.language : both.language;
     both.scale = then.scale ? then.scale : both.scale;
     both.paper = then.paper ? then.paper : both.paper;
+    both.numericScale = both.numericScale || then.numericScale;
     Append(both.styles, then.styles);
     Append(both.elements, then.elements);
     Append(both.frames, then.frames);
@@ -301,7 +232,8 @@ PageChanges Merged(PageChanges first, const PageChanges& then) {
     return both;
 }
 
-void Change(Page& page, const PageChanges& changes) {
+std::vector<std::string> Change(Page& page, const PageChanges& changes) {
+    FittedTitles titles(page);
     if (changes.paper) {
         ChangePaper(page, *changes.paper);
     }
@@ -315,7 +247,7 @@ void Change(Page& page, const PageChanges& changes) {
         ChangeStyle(page, change);
     }
     for (const ElementChange& change : changes.elements) {
-        ChangeElement(page, change);
+        ChangeElement(page, change, titles);
     }
     for (PageItem& item : page.Items()) {
         if (std::holds_alternative<MapFrame>(item)) {
@@ -324,9 +256,10 @@ void Change(Page& page, const PageChanges& changes) {
             ChangeFrame(item, changes);
         }
         for (const auto& [name, text] : changes.texts) {
-            SetText(item, name, text);
+            SetText(item, name, text, titles);
         }
     }
+    return titles.Remarks();
 }
 
 std::vector<std::string> OpenChanged(Page& page, const PageChanges& changes,
@@ -335,7 +268,11 @@ std::vector<std::string> OpenChanged(Page& page, const PageChanges& changes,
         ChangesLegends(changes) ? ForgetLegendSizes(page) : std::vector<LegendPlace>();
     OpenRasters(page, store);
     std::for_each(legends.begin(), legends.end(), FitLegend);
-    return FitToMap(page);
+    std::vector<std::string> remarks = FitToMap(page);
+    if (changes.numericScale) {
+        Append(remarks, AddNumericScale(page));
+    }
+    return remarks;
 }
 
 bool HasText(const Page& page, const std::string& name) {

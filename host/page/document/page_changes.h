@@ -45,6 +45,7 @@ struct PageChanges {
     std::optional<double> scale;         ///< likewise
     const Language* language = nullptr;  ///< of legends and scale bars; null: as they are
     std::optional<PaperChange> paper;    ///< likewise
+    bool numericScale = false;           ///< the scale in figures, if it has none
     std::vector<StyleChange> styles;
     std::vector<ElementChange> elements;
     /// Names of properties of every frame with an element, and their values.
@@ -60,13 +61,16 @@ PageChanges Merged(PageChanges first, const PageChanges& then);
 
 /// Changes a page whose rasters are not open yet. Every map and legend has the rasters,
 /// every map the extent and the texts, every title of a name the text, every legend of a
-/// name the first line; a title that gets larger than its frame by that is set smaller.
-/// Throws PageError for a value that is none, and where the page has no such element.
-void Change(Page& page, const PageChanges& changes);
+/// name the first line; the frame of a title that gets longer than it is widened, and
+/// what it has no room for is set smaller. Throws PageError for a value that is none, and
+/// where the page has no such element.
+/// @return which titles were set smaller, one line each
+std::vector<std::string> Change(Page& page, const PageChanges& changes);
 
 /// Opens the rasters of a page that was changed so. A legend of other rasters or with
 /// other texts is measured again, and no larger than its frame; scale bars, north arrows
-/// and numeric scales follow the map. Throws PageError for what cannot be opened.
+/// and numeric scales follow the map, and one that is wanted is added. Throws PageError
+/// for what cannot be opened.
 /// @return what could not be made true to the map, one line each
 std::vector<std::string> OpenChanged(Page& page, const PageChanges& changes,
                                      RasterStore& store);

@@ -177,22 +177,34 @@ double BarLength(const Page& page) {
 void FitNumericScale(const PlacedFrame& frame, NumericScale& text, const SpokenOf& map,
                      double barLength, std::vector<std::string>& remarks) {
     const std::optional<double> scale =
-        map.frame->scale > 0.0 ? map.frame->scale : ScaleOf(map.shown, barLength);
+        DenominatorOf(map.shown, map.frame->scale, barLength);
     if (!scale) {
         remarks.push_back(frame.Name() +
                           ": the numeric scale is not that of the map, whose coordinate "
                           "system is not known");
         return;
     }
-    const double rounded =
-        map.frame->scale > 0.0 ? *scale : NumericScale::Rounded(*scale);
-    if (rounded != text.Denominator()) {
-        text.SetDenominator(rounded);
+    if (*scale != text.Denominator()) {
+        text.SetDenominator(*scale);
         text.ResetAspectRatio();
     }
 }
 
 }  // namespace
+
+std::optional<double> DenominatorOf(const ShownMap& map, double kept, double barLength) {
+    if (kept > 0.0) {
+        return kept;
+    }
+    const std::optional<double> scale = ScaleOf(map, barLength);
+    return scale ? std::optional<double>(NumericScale::Rounded(*scale)) : std::nullopt;
+}
+
+std::optional<double> DenominatorOn(const Page& page) {
+    const std::optional<SpokenOf> map = MapOf(page);
+    return map ? DenominatorOf(map->shown, map->frame->scale, BarLength(page))
+               : std::nullopt;
+}
 
 DistanceUnit CountedUnit(const ScaleBarFrame& frame, const CScaleBarBase& bar) {
     const std::optional<DistanceUnit> called =

@@ -95,12 +95,6 @@ std::string Millimetres(double pageUnits) {
     return text;
 }
 
-std::string Points(double points) {
-    char text[32];
-    std::snprintf(text, sizeof text, "%.1f points", points);
-    return text;
-}
-
 class Remarks {
 public:
     void Add(const Seen& seen, const std::string& what) {
@@ -135,7 +129,7 @@ double BetweenTicks(const ScaleBarFrame& frame, const CScaleBarBase& bar) {
 void TellOfLegibility(const PageItem& item, const Seen& seen, Remarks& remarks) {
     const std::optional<double> points = SmallestText(item);
     if (seen.ink && points && *points < kSmallestPoints) {
-        remarks.Add(seen, "is written in " + Points(*points) + ", smaller than 5");
+        remarks.Add(seen, "is written in " + PointsText(*points) + ", smaller than 5");
     }
     const auto* const frame = FrameAs<ScaleBarFrame>(item);
     const auto* const bar = ElementOf<CScaleBarBase>(item);

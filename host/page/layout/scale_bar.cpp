@@ -6,7 +6,6 @@
 #include "page/layout/bar_on_map.h"
 #include "page/layout/steps.h"
 #include "page/layout/text_size.h"
-#include "page/numeric_scale.h"
 
 namespace host {
 namespace {
@@ -150,36 +149,6 @@ std::unique_ptr<PlacedFrame> PlaceScaleBar(const PageDesign& design, const MapOn
     FrameInk(*plan->frame, ink, room, At::Bottom, design.frames, measures);
     plan->frame->SetName("scale bar");
     return std::move(plan->frame);
-}
-
-std::unique_ptr<PlacedFrame> PlaceNumericScale(const PageDesign& design,
-                                               const ShownMap& shown, double barLength,
-                                               const Measures& measures, const Box& room,
-                                               std::vector<std::string>& remarks) {
-    if (!design.scaleBar.numeric) {
-        return nullptr;
-    }
-    const std::optional<double> scale =
-        design.map.scale ? design.map.scale : ScaleOf(shown, barLength);
-    if (!scale) {
-        remarks.emplace_back(
-            "the numeric scale is left out: the map has no coordinate system that "
-            "reaches its middle");
-        return nullptr;
-    }
-    auto text = std::make_unique<NumericScale>();
-    text->SetFontSize(0.75 * measures.module);
-    text->SetFrontColor(Gdiplus::Color(kInkColor));
-    text->SetDenominator(design.map.scale ? *scale : NumericScale::Rounded(*scale));
-    text->ResetAspectRatio();
-    auto frame = std::make_unique<PlacedFrame>(std::move(text));
-    const InkBox ink = MeasureInk(*frame);
-    if (ink.IsEmpty()) {
-        return nullptr;
-    }
-    FrameInk(*frame, ink, room, At::Bottom, design.frames, measures);
-    frame->SetName("numeric scale");
-    return frame;
 }
 
 }  // namespace host

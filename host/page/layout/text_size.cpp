@@ -1,5 +1,6 @@
 #include "page/layout/text_size.h"
 
+#include <cstdio>
 #include <string_view>
 
 #include "map_surround/map_surround.h"
@@ -65,6 +66,12 @@ double ItemEm(const PageItem& item) {
 }
 
 }  // namespace
+
+std::string PointsText(double points) {
+    char text[32];
+    std::snprintf(text, sizeof text, "%.1f points", points);
+    return text;
+}
 
 double LettersOf(const CNorthArrowBase& arrow) {
     const CatalogueEntry* const entry = FindEntry(arrow);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <string>
 
 #include "map_surround/north_arrow.h"
 #include "page/page.h"
@@ -11,6 +12,9 @@ namespace host {
 /// Type below this is not read, but guessed.
 constexpr double kSmallestPoints = 5.0;
 constexpr double kSmallestEm = UnitsFromPoints(kSmallestPoints);  ///< page units
+
+/// "12.5 points"
+std::string PointsText(double points);
 
 /// The em size of the smallest text that an item writes, in points; none where it writes
 /// nothing.

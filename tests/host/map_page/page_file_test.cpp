@@ -226,9 +226,6 @@ TEST_F(PageFile, SaysWhatIsWrongInOneLineAndOverwritesNothing) {
          "page.gif: ends in none of .png .jpg .jpeg .bmp .tif .tiff .pdf .ps",
          {"good.json", "-o", "page.gif"}},
         {2,
-         "--numeric-scale: does not go with a page file, to which it adds nothing",
-         {"good.json", "-o", "page.png", "--numeric-scale"}},
-        {2,
          "--save: does not go with --series, whose pages are many",
          {"good.json", "--series", "a.csv", "-o", "page.png", "--save", "other.json"}},
         {2,
@@ -274,7 +271,7 @@ struct TemplateRow {
 TEST_F(PageFile, SaysWhatItDoesUnlessAnOptionSaysOtherwise) {
     fs::copy(folder.Path("logo.png"), folder.Path("data/other.png"));
     ASSERT_EQ(Run({"data/scene.tif", "--title", "A scene", "--picture", "logo.png",
-                   "--numeric-scale", "--save", "page.json"})
+                   "--save", "page.json"})
                   .status,
               0);
     const TemplateRow rows[] = {
@@ -289,7 +286,10 @@ TEST_F(PageFile, SaysWhatItDoesUnlessAnOptionSaysOtherwise) {
         {{"data/classes.tif"}, {R"("data/classes.tif")"}},
         {{"--extent", "500000", "8999000", "500900", "8999900"},
          {R"("right": 500900.0)"}},
-        {{"--scale", "1:5000"}, {R"("scale": 5000.0)", R"("denominator": 5000.0)"}},
+        {{"--scale", "1:5000", "--numeric-scale"},
+         {R"("scale": 5000.0)", R"("denominator": 5000.0)"}},
+        {{"--numeric-scale", "--border", "red"}, {R"("type": "numeric-scale")"}},
+        {{"--numeric-scale", "--scale-bar", "none"}, {R"("type": "numeric-scale")"}},
         {{"--stretch", "stddev", "2", "--bands", "3,2,1", "--nodata", "0"},
          {R"("stretch": "stddev 2")", R"("bands": "3,2,1")", R"("noData": "0")"}},
         {{"--scale-bar", "line2", "--divisions", "3", "--subdivisions", "5"},
@@ -333,7 +333,7 @@ TEST_F(PageFile, SaysWhatItDoesUnlessAnOptionSaysOtherwise) {
         Arguments arguments = {"page.json", "--save", "new.json"};
         arguments.insert(arguments.end(), gone.begin(), gone.end());
         const Result result = Run(arguments);
-        EXPECT_EQ(result.out.rfind("new.json: 7 elements", 0), 0u) << result.out;
+        EXPECT_EQ(result.out.rfind("new.json: 6 elements", 0), 0u) << result.out;
     }
 }
 

@@ -146,6 +146,9 @@ TEST_F(Series, TellsAFailingRowByItsLineAndGoesOn) {
     EXPECT_THAT(
         result.err,
         ::testing::AllOf(
+            ::testing::ContainsRegex(
+                "warning: list.csv: line 2: title: is set in .* points "
+                "to fit its frame, instead of .* points\n"),
             ::testing::HasSubstr("map_page: list.csv: line 4: page.json: "
                                  "elements[1].rasters: data/none.tif: no such file\n"),
             ::testing::HasSubstr("map_page: list.csv: line 5" + notFour),
@@ -158,7 +161,7 @@ TEST_F(Series, TellsAFailingRowByItsLineAndGoesOn) {
                                  "name\n"),
             ::testing::EndsWith(
                 "map_page: list.csv: 2 drawn, 0 already there, 6 failed\n")));
-    EXPECT_EQ(std::count(result.err.begin(), result.err.end(), '\n'), 7);
+    EXPECT_EQ(std::count(result.err.begin(), result.err.end(), '\n'), 8);
     EXPECT_EQ(Outputs(), (std::vector<std::string>{"a.png", "g.png"}));
 }
 
