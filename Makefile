@@ -28,7 +28,6 @@
     soak \
     strangers \
     test \
-    test-cairo \
     test-sanitized \
     test-threads \
     test-valgrind \
@@ -47,14 +46,10 @@ test: build/release/with-test
 	cmake --build --preset release
 	ctest --preset release
 
-test-cairo: build/cairo/build.ninja
-	cmake --build --preset cairo
-	ctest --preset cairo
-
-likeness: build/cairo/build.ninja
-	cmake --build --preset cairo \
+likeness: build/release/with-likeness
+	cmake --build --preset release \
 	    --target gallery compare_pictures map_page make_sample_rasters
-	scripts/likeness build/cairo
+	scripts/likeness build/release
 
 test-sanitized: build/sanitized/build.ninja
 	cmake --build --preset sanitized
@@ -201,6 +196,7 @@ new_tree = $(shell [ -e build/release/CMakeCache.txt ] || echo -DMAP_SURROUND_TE
 part_of_demo = $(new_tree)
 part_of_test = -DMAP_SURROUND_TESTS=ON
 part_of_editor = $(new_tree) -DMAP_SURROUND_EDITOR=ON
+part_of_likeness = $(part_of_test)
 part_of_bench = $(new_tree) -DMAP_SURROUND_BENCH=ON
 
 build/release/with-%: CMakePresets.json scripts/install_packages
@@ -208,12 +204,11 @@ build/release/with-%: CMakePresets.json scripts/install_packages
 	cmake --preset release $(part_of_$*) >/dev/null
 	touch $@
 
-purpose_of_cairo = cairo
 purpose_of_coverage = coverage
 purpose_of_fuzz = fuzz
 purpose_of_lint = lint
 purpose_of_package = package
-purpose_of_threads = cairo
+purpose_of_threads = library
 purpose_of_windows-mingw = windows
 
 build/%/build.ninja: CMakePresets.json scripts/install_packages

@@ -76,7 +76,6 @@ if(NOT MAP_SURROUND_HOST_INCLUDE_DIR)
       set(gdiplus_library gdiplus)
       if(TARGET gdiplus_cairo)
         set(gdiplus_library map_surround_gdiplus)
-        string(APPEND pc_flags " -DGDIPLUS_OVER_CAIRO")
       endif()
       configure_file(${CMAKE_CURRENT_LIST_DIR}/map_surround.pc.in
         ${PROJECT_BINARY_DIR}/${pc_name}.pc.in @ONLY)

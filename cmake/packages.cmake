@@ -34,6 +34,8 @@ else()
   if(MAP_SURROUND_GDIPLUS STREQUAL "libgdiplus")
     # libgdiplus has the name that programs are linked with, too.
     string(APPEND CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS ", libgdiplus")
+  else()
+    set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SUGGESTS "libcairo2-dev")  # for <gdiplus/cairo.h>
   endif()
   set(CPACK_DEBIAN_DEVELOPMENT_DESCRIPTION "This package has the headers, the static library, the GDI+ binding, and what CMake and
 pkg-config need to find them.")

@@ -192,11 +192,25 @@ std::vector<Scene> Scenes(double scale) {
             {name, surface, [=] { kept->DrawFrame(&surface->Graphics(), rect); }});
         page.push_back(scenes.back().run);
     }
-    scenes.push_back({"all of them", surface, [page] {
-                          for (const auto& draw : page) {
-                              draw();
-                          }
-                      }});
+    const auto drawsAll = [](std::vector<std::function<void()>> parts) {
+        return [parts = std::move(parts)] {
+            for (const auto& draw : parts) {
+                draw();
+            }
+        };
+    };
+    std::vector<std::function<void()>> usual;
+    for (const char* name :
+         {"frame", "title", "frame", "legend, all three", "frame",
+          "north arrow, eight angles", "frame", "scale bar, alternating"}) {
+        for (const Scene& scene : scenes) {
+            if (scene.name == name) {
+                usual.push_back(scene.run);
+            }
+        }
+    }
+    scenes.push_back({"a page of furniture", surface, drawsAll(usual), true, true});
+    scenes.push_back({"all of them", surface, drawsAll(page)});
     return scenes;
 }
 

@@ -30,7 +30,8 @@ struct Scene {
     std::string name;
     std::shared_ptr<Surface> surface;
     std::function<void()> run;
-    bool draws = true;  ///< and does not only measure
+    bool draws = true;    ///< and does not only measure
+    bool isPage = false;  ///< of what usually stands on one
 };
 
 /// Everything that the library does through flat calls, at a scale of pixels to page

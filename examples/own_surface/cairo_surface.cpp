@@ -1,24 +1,14 @@
 // A north arrow on a Cairo image surface, between two drawings of Cairo's own.
 
-#include <cairo.h>
+#include <gdiplus/cairo.h>
 
 #include "map_surround/map_surround.h"
 
-static void DrawNorthArrow(cairo_surface_t* surface) {
-    cairo_surface_flush(surface);  // what Cairo has drawn so far is then in memory
-    const int width = cairo_image_surface_get_width(surface);
-    const int height = cairo_image_surface_get_height(surface);
-    {
-        Gdiplus::Bitmap bitmap(width, height, cairo_image_surface_get_stride(surface),
-                               PixelFormat32bppPARGB,
-                               cairo_image_surface_get_data(surface));
-        Gdiplus::Graphics graphics(&bitmap);
-        CNorthArrowFourAngle arrow;
-        arrow.SetSize(100);
-        arrow.Draw(&graphics, CPoint(width / 2, height / 2), 1.0);
-        graphics.Flush();
-    }
-    cairo_surface_mark_dirty(surface);  // so that Cairo reads it again
+static void DrawNorthArrow(cairo_t* cairo) {
+    Gdiplus::CairoGraphics graphics(cairo);
+    CNorthArrowFourAngle arrow;
+    arrow.SetSize(100);
+    arrow.Draw(&graphics, CPoint(60, 60), 1.0);
 }
 
 int main() {
@@ -31,7 +21,7 @@ int main() {
     cairo_t* const cairo = cairo_create(surface);
     cairo_set_source_rgb(cairo, 0.97, 0.95, 0.91);
     cairo_paint(cairo);
-    DrawNorthArrow(surface);
+    DrawNorthArrow(cairo);
     cairo_set_source_rgb(cairo, 0.8, 0.2, 0.1);
     cairo_rectangle(cairo, 4.0, 4.0, 112.0, 112.0);
     cairo_stroke(cairo);

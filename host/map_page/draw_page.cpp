@@ -13,8 +13,6 @@
 #include "page/document/page_text.h"
 #include "page/document/picture_file.h"
 #include "page/document/raster_store.h"
-#include "page/output/output_format.h"
-#include "page/output/page_output.h"
 #include "system/fonts.h"
 #include "system/one_line.h"
 
@@ -86,11 +84,6 @@ private:
     std::set<std::string> m_told;
 };
 
-/// Before the work, which may take minutes.
-void CheckOutput(const Options& options) {
-    host::Naming(options.output, [&] { host::CheckCanBeMade(*options.format); });
-}
-
 }  // namespace
 
 OutputFiles::OutputFiles(const Options& options) {
@@ -104,9 +97,6 @@ OutputFiles::OutputFiles(const Options& options) {
 
 std::string DrawPage(const Options& options, const OutputFiles& files,
                      const Quiet& quiet) {
-    if (files.output) {
-        CheckOutput(options);
-    }
     CheckInputsStay(options, host::Page(1.0, 1.0), host::RasterStore());
     const host::OpenedPage opened = Open(options);
     CheckInputsStay(options, opened.page, *opened.rasters);
@@ -139,8 +129,6 @@ std::string Finish(const Options& options, OutputFiles& files, const std::string
     std::string line;
     std::string summary;
     if (files.output) {
-        host::FinishOutput(*files.output, options.output, *options.format, {},
-                           options.limits);
         std::getline(lines, line);
         summary = LineOf(options.output, *files.output, line);
     }
@@ -157,7 +145,6 @@ std::string Finish(const Options& options, OutputFiles& files, const std::string
 }
 
 void CheckSeries(const Options& options, const std::vector<std::string>& columns) {
-    CheckOutput(options);
     const std::optional<host::AllowedSources> allowed = AllowedBy(options);
     const host::Page page = host::Naming(options.pageFile, [&] {
         return host::LoadPage(options.pageFile, allowed ? &*allowed : nullptr);

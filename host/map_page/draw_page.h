@@ -30,8 +30,8 @@ std::string DrawPage(const Options& options, const OutputFiles& files,
 /// @return the lines that say where they are
 std::string Finish(const Options& options, OutputFiles& files, const std::string& told);
 
-/// Throws Error for outputs that cannot be made here, and for the first of the columns
-/// that names no element with a text in the page file. GDI+ must have been started.
+/// Throws Error for the first of the columns that names no element with a text in the
+/// page file. GDI+ must have been started.
 void CheckSeries(const Options& options, const std::vector<std::string>& columns);
 
 }  // namespace map_page

@@ -4,7 +4,6 @@
 #include <unistd.h>
 
 #include <stdexcept>
-#include <system_error>
 
 #include "system/descriptor.h"
 
@@ -14,14 +13,6 @@ MemoryFile::MemoryFile() : m_descriptor(memfd_create("page", MFD_CLOEXEC)) {
     if (m_descriptor < 0) {
         throw std::runtime_error("no file in memory");
     }
-}
-
-MemoryFile::MemoryFile(const std::vector<std::uint8_t>& bytes) : MemoryFile() {
-    const int error = WriteAll(m_descriptor, bytes.data(), bytes.size());
-    if (error != 0) {
-        throw std::runtime_error(std::generic_category().message(error));
-    }
-    lseek(m_descriptor, 0, SEEK_SET);
 }
 
 MemoryFile::~MemoryFile() { close(m_descriptor); }

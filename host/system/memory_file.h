@@ -11,14 +11,9 @@ class MemoryFile {
 public:
     /// Throws std::runtime_error when the system has none to give.
     MemoryFile();
-    /// One that holds the bytes, to be read from its start. Throws likewise.
-    explicit MemoryFile(const std::vector<std::uint8_t>& bytes);
     MemoryFile(const MemoryFile&) = delete;
     MemoryFile& operator=(const MemoryFile&) = delete;
     ~MemoryFile();
-
-    /// Open for reading and writing; closed when another program takes over.
-    int Descriptor() const { return m_descriptor; }
 
     /// A name to open it by, in this process.
     std::string Name() const { return "/proc/self/fd/" + std::to_string(m_descriptor); }

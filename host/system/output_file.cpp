@@ -166,27 +166,12 @@ void OutputFile::Write(const std::vector<std::uint8_t>& bytes) const {
     }
 }
 
-std::vector<std::uint8_t> OutputFile::Bytes() const {
-    std::vector<std::uint8_t> bytes;
-    if (!ReadAll(m_descriptor, bytes)) {
-        Fail(errno);
-    }
-    return bytes;
-}
-
 std::size_t OutputFile::Size() const {
     struct stat status = {};
     if (fstat(m_descriptor, &status) != 0) {
         Fail(errno);
     }
     return static_cast<std::size_t>(status.st_size);
-}
-
-void OutputFile::Replace(const std::vector<std::uint8_t>& bytes) const {
-    if (ftruncate(m_descriptor, 0) != 0 || lseek(m_descriptor, 0, SEEK_SET) != 0) {
-        Fail(errno);
-    }
-    Write(bytes);
 }
 
 std::string OutputFile::Remark() const {

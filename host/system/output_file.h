@@ -28,14 +28,8 @@ public:
     /// Appends. Throws std::runtime_error with the reason.
     void Write(const std::vector<std::uint8_t>& bytes) const;
 
-    /// The bytes written so far. Throws likewise.
-    std::vector<std::uint8_t> Bytes() const;
-
-    /// How many they are. Throws likewise.
+    /// How many bytes were written so far. Throws likewise.
     std::size_t Size() const;
-
-    /// Writes others in their place. Throws likewise.
-    void Replace(const std::vector<std::uint8_t>& bytes) const;
 
     /// What a person should know of the file that is replaced; empty for nothing: one
     /// with other names (hard links) goes on under those as it was.

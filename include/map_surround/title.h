@@ -30,7 +30,7 @@ enum FontProcess : std::int32_t {
 ///
 /// The host sets text, family, style and size, then calls ResetAspectRatio(), and again
 /// after each change. There is no default family. A family that GDI+ does not find draws
-/// and measures nothing (libgdiplus substitutes a font for any name).
+/// and measures nothing.
 /// @see [Title](docs/elements/title.md)
 class MAP_SURROUND_API CMapTitle : public CMapSurround {
 public:

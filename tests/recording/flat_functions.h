@@ -33,6 +33,5 @@
     FUNCTION(2, GdipLoadImageFromFile) FUNCTION(4, GdipSaveImageToFile)               \
     FUNCTION(1, GdipDisposeImage) FUNCTION(2, GdipGetImagePixelFormat)                \
     FUNCTION(2, GdipGetImageWidth) FUNCTION(2, GdipGetImageHeight)                    \
-    FUNCTION(2, GdipGetImagePaletteSize) FUNCTION(3, GdipGetImagePalette)             \
-    FUNCTION(2, GdipSetImagePalette) FUNCTION(6, GdipDrawImageRectI)
+    FUNCTION(6, GdipDrawImageRectI)
 // clang-format on

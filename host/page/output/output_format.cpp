@@ -2,7 +2,6 @@
 
 #include <stdexcept>
 
-#include "page/output/pdf_file.h"
 #include "system/file_ending.h"
 
 namespace host {
@@ -35,12 +34,6 @@ OutputFormat OutputFormatOf(const std::string& path) {
 
 bool IsForPrint(OutputFormat format) {
     return format == OutputFormat::PostScript || format == OutputFormat::Pdf;
-}
-
-void CheckCanBeMade(OutputFormat format) {
-    if (format == OutputFormat::Pdf) {
-        CheckGhostscript();
-    }
 }
 
 }  // namespace host

@@ -15,8 +15,4 @@ OutputFormat OutputFormatOf(const std::string& path);
 /// Whether it is for print and not an image.
 bool IsForPrint(OutputFormat format);
 
-/// Throws std::runtime_error with the reason when this machine cannot make files of the
-/// format: PDF takes Ghostscript. Call it before drawing, which may take minutes.
-void CheckCanBeMade(OutputFormat format);
-
 }  // namespace host

@@ -7,15 +7,13 @@
 
 #include "page/output/image_file.h"
 #include "page/output/page_image.h"
-#include "page/output/pdf_file.h"
-#include "page/output/postscript_file.h"
+#include "page/output/print_file.h"
 #include "page/texts.h"
-#include "system/errors.h"
 
 namespace host {
 namespace {
 
-// libgdiplus draws on surfaces of at most 32767 pixels a side.
+// Cairo draws on surfaces of at most 32767 pixels a side.
 constexpr int kLongestImageSide = 32767;
 constexpr std::int64_t kMostImagePixels = 250'000'000;
 
@@ -36,7 +34,7 @@ std::vector<std::uint8_t> EncodePage(const Page& page, OutputFormat format, doub
                                      const Progress& progress,
                                      const std::function<void()>& encoding) {
     if (IsForPrint(format)) {
-        std::vector<std::uint8_t> file = EncodePostScript(page, dpi, progress);
+        std::vector<std::uint8_t> file = EncodeForPrint(page, format, dpi, progress);
         CheckWritten(page);
         return file;
     }
@@ -50,18 +48,6 @@ std::vector<std::uint8_t> EncodePage(const Page& page, OutputFormat format, doub
         encoding();
     }
     return Encode(image, format, dpi);
-}
-
-void FinishOutput(const OutputFile& file, const std::string& name, OutputFormat format,
-                  const Progress& progress, const WorkLimits& limits) {
-    if (format != OutputFormat::Pdf) {
-        return;
-    }
-    const auto make = [&](const Progress&) {
-        Naming(name, [&] { file.Replace(PdfFromPostScript(file.Bytes())); });
-        return std::string();
-    };
-    Naming(name, [&] { InSeparateProcess("making the PDF", make, progress, limits); });
 }
 
 }  // namespace host

@@ -7,8 +7,6 @@
 
 #include "page/output/output_format.h"
 #include "page/page.h"
-#include "system/output_file.h"
-#include "system/separate_process.h"
 
 namespace host {
 
@@ -16,17 +14,11 @@ namespace host {
 /// resolution. A0 at 400 dpi, 248 million, can be.
 void CheckPageSize(const Page& page, double dpi);
 
-/// The bytes of the file that a page is drawn into, for a PDF those of a PostScript file
-/// (see FinishOutput): no program is started. Throws what the page's drawing
+/// The bytes of the file that a page is drawn into. Throws what the page's drawing
 /// throws, and std::runtime_error with the reason when it cannot be encoded.
 /// @param encoding called between drawing an image and encoding it
 std::vector<std::uint8_t> EncodePage(const Page& page, OutputFormat format, double dpi,
                                      const Progress& progress = {},
                                      const std::function<void()>& encoding = {});
-
-/// Makes of a file that has what EncodePage gave what its format asks for: for a PDF,
-/// Ghostscript is started. Throws std::runtime_error with the name and the reason.
-void FinishOutput(const OutputFile& file, const std::string& name, OutputFormat format,
-                  const Progress& progress = {}, const WorkLimits& limits = {});
 
 }  // namespace host

@@ -10,7 +10,6 @@
 #include "page/document/raster_store.h"
 #include "page/map/map_layers.h"
 #include "page/output/page_output.h"
-#include "page/output/pdf_file.h"
 #include "page/texts.h"
 #include "raster_data/confined_gdal.h"
 #include "system/allowed_sources.h"
@@ -123,16 +122,11 @@ std::string DrawPage(const std::string& input, const host::Progress& progress) {
     });
 }
 
-std::string MakePdf(const std::string& input, const host::Progress&) {
-    return StringOf(host::PdfFromPostScript({input.begin(), input.end()}));
-}
-
 }  // namespace
 
 host::Jobs FileJobs() {
     return {{kReadRaster, ReadRaster}, {kReadImage, ReadImage}, {kReadPage, ReadPage},
-            {kReadItems, ReadItems},   {kRenderMap, RenderMap}, {kDrawPage, DrawPage},
-            {kMakePdf, MakePdf}};
+            {kReadItems, ReadItems},   {kRenderMap, RenderMap}, {kDrawPage, DrawPage}};
 }
 
 std::string Joined(const std::vector<std::string>& fields) {

@@ -25,8 +25,6 @@ constexpr const char* kReadItems = "read items";
 constexpr const char* kRenderMap = "render a map";
 /// The name of what is made; its format as a number; dpi; the page.
 constexpr const char* kDrawPage = "draw a page";
-/// A PostScript file. Returns the PDF.
-constexpr const char* kMakePdf = "make a PDF";
 
 /// For host::StartHelper, in main().
 host::Jobs FileJobs();

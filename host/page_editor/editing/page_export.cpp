@@ -19,18 +19,14 @@ std::string ExportPage(const host::Page& page, const host::RasterStore& rasters,
                        const host::Progress& progress) {
     return host::Naming(path, [&] {
         const host::OutputFormat format = host::OutputFormatOf(path);
-        host::CheckCanBeMade(format);
         host::CheckPageSize(page, dpi);
         host::CheckReplacesNoInput(path, page, rasters, {pageFile});
         host::OutputFile file(path);
-        std::string bytes =
+        const std::string bytes =
             host::InHelper("drawing", kDrawPage,
                            Joined({path, std::to_string(static_cast<int>(format)),
                                    host::NumberText(dpi), host::WritePage(page, {})}),
                            progress);
-        if (format == host::OutputFormat::Pdf) {
-            bytes = host::InHelper("making the PDF", kMakePdf, bytes, progress);
-        }
         file.Write({bytes.begin(), bytes.end()});
         std::string remark = file.Remark();
         file.Commit();

@@ -130,20 +130,6 @@ GpStatus GdipGetImageType(GpImage* image, ImageType* type) {
     return Tell(image, type, [](auto&) { return ImageTypeBitmap; });
 }
 
-GpStatus GdipImageGetFrameDimensionsList(GpImage* image, GUID* dimensions, UINT count) {
-    if (image == nullptr || dimensions == nullptr || count != 1) {
-        return InvalidParameter;
-    }
-    // That of pages.
-    *dimensions = {
-        0x7462DC86, 0x6180, 0x4C7E, {0x8E, 0x3F, 0xEE, 0x73, 0x33, 0xA7, 0xA4, 0x83}};
-    return Ok;
-}
-
-GpStatus GdipImageGetFrameCount(GpImage* image, const GUID*, UINT* count) {
-    return Tell(image, count, [](auto&) { return 1U; });
-}
-
 GpStatus GdipGetImagePaletteSize(GpImage* image, INT* bytes) {
     return Tell(From(image), bytes, [](auto& b) {
         return static_cast<INT>(8 + 4 * b.pixels->palette.size());

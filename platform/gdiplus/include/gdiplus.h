@@ -1,8 +1,8 @@
 #pragma once
 
 /// @file
-/// GDI+ as C++ classes over libgdiplus, under the names that the Windows SDK's
-/// <gdiplus.h> gives them, so that one source compiles against both.
+/// GDI+ as C++ classes under the names that the Windows SDK's <gdiplus.h> gives them, so
+/// that one source compiles against both.
 ///
 /// The conventions are the SDK's:
 /// - each operation of a class is one call of the flat function of that purpose;

@@ -27,7 +27,8 @@ public:
     ULONG_PTR Reserved = 0;
 
 private:
-    /// libgdiplus stores some 60 bytes more here than the SDK's class has.
+    /// libgdiplus, with which drawings are compared, stores some 60 bytes more here than
+    /// the SDK's class has.
     [[maybe_unused]] ULONG_PTR notes_[12] = {};
 };
 
@@ -76,9 +77,6 @@ GpStatus GdipGetPixelOffsetMode(GpGraphics* graphics, PixelOffsetMode* mode);
 GpStatus GdipGetDpiX(GpGraphics* graphics, REAL* dpi);
 GpStatus GdipGetDpiY(GpGraphics* graphics, REAL* dpi);
 GpStatus GdipSetPageUnit(GpGraphics* graphics, Unit unit);
-GpStatus GdipGetPostScriptGraphicsContext(const char* file, int width, int height,
-                                          double dpiX, double dpiY,
-                                          GpGraphics** graphics);
 GpStatus GdipFlush(GpGraphics* graphics, FlushIntention intention);
 GpStatus GdipSaveGraphics(GpGraphics* graphics, GraphicsState* state);
 GpStatus GdipRestoreGraphics(GpGraphics* graphics, GraphicsState state);
@@ -249,8 +247,6 @@ GpStatus GdipGetImageHorizontalResolution(GpImage* image, REAL* dpi);
 GpStatus GdipGetImageVerticalResolution(GpImage* image, REAL* dpi);
 GpStatus GdipGetImagePixelFormat(GpImage* image, PixelFormat* format);
 GpStatus GdipGetImageType(GpImage* image, ImageType* type);
-GpStatus GdipImageGetFrameDimensionsList(GpImage* image, GUID* dimensions, UINT count);
-GpStatus GdipImageGetFrameCount(GpImage* image, const GUID* dimension, UINT* count);
 GpStatus GdipGetImagePaletteSize(GpImage* image, INT* bytes);
 GpStatus GdipGetImagePalette(GpImage* image, FlatPalette* palette, INT bytes);
 GpStatus GdipSetImagePalette(GpImage* image, const FlatPalette* palette);

@@ -5,38 +5,13 @@
 
 namespace Gdiplus {
 
-namespace detail {
-
-/// Whether libgdiplus can draw text of an em size in pixels, which FreeType holds in 16
-/// bits. A larger one, or NaN, must not get through: FreeType then refuses the font for
-/// the rest of the process, Pango warns on standard error, and some sizes leave the
-/// surface unable to draw at all.
-inline bool CanCarry(REAL emSize) { return emSize >= -65535.0f && emSize <= 65535.0f; }
-
-inline REAL PixelsPer(Unit unit) {
-    switch (unit) {
-        case UnitPoint:
-            return 96.0f / 72.0f;
-        case UnitInch:
-            return 96.0f;
-        case UnitDocument:
-            return 96.0f / 300.0f;
-        case UnitMillimeter:
-            return 96.0f / 25.4f;
-        default:
-            return 1.0f;
-    }
-}
-
-}  // namespace detail
-
 /// A set of font families. It cannot be constructed here: null means the system's fonts.
 class FontCollection {
     FontCollection() = default;
 };
 
-/// A font family, by name. libgdiplus substitutes a font for an unknown name, where the
-/// SDK's GDI+ fails with FontFamilyNotFound.
+/// A font family, by name. A family that is not there is FontFamilyNotFound; one that
+/// Fontconfig has a substitute of the same measures for, such as Arial, is.
 class FontFamily : public detail::StatusKeeper {
 public:
     FontFamily() = default;
@@ -107,14 +82,12 @@ class Font : public detail::StatusKeeper {
 public:
     /// A font of a family, or of the family of a name. The em size must be positive.
     Font(const FontFamily* family, REAL emSize, INT style = FontStyleRegular,
-         Unit unit = UnitPoint)
-        : drawable_(detail::CanCarry(emSize * detail::PixelsPer(unit))) {
+         Unit unit = UnitPoint) {
         SetStatus(DllExports::GdipCreateFont(detail::Native(family), emSize, style, unit,
                                              &native_));
     }
     Font(const WCHAR* familyName, REAL emSize, INT style = FontStyleRegular,
-         Unit unit = UnitPoint, const FontCollection* collection = nullptr)
-        : drawable_(detail::CanCarry(emSize * detail::PixelsPer(unit))) {
+         Unit unit = UnitPoint, const FontCollection* collection = nullptr) {
         const FontFamily family(familyName, collection);
         SetStatus(family.GetLastStatus());
         SetStatus(DllExports::GdipCreateFont(family.NativeObject(), emSize, style, unit,
@@ -153,10 +126,7 @@ public:
     GpFont* NativeObject() const { return native_; }
 
 private:
-    friend class Graphics;
-
     GpFont* native_ = nullptr;
-    bool drawable_;
 };
 
 }  // namespace Gdiplus

@@ -196,15 +196,12 @@ public:
                       const RectF& layout, const StringFormat* format,
                       const Brush* brush) {
         const detail::Utf16Text text(string, length);
-        if (text.GetStatus() != Ok || string == nullptr) {
-            return SetStatus(InvalidUnless(text));
-        }
-        // Without a brush libgdiplus would draw in black; without a surface it rightly
-        // draws nothing and returns InvalidParameter.
-        GpBrush* const native = detail::Native(brush);
-        return SetStatus(DllExports::GdipDrawString(
-            native == nullptr ? nullptr : SurfaceFor(font), text.Text(), text.Length(),
-            detail::Native(font), &layout, detail::Native(format), native));
+        return SetStatus(text.GetStatus() != Ok
+                             ? text.GetStatus()
+                             : DllExports::GdipDrawString(
+                                   native_, text.Text(), text.Length(),
+                                   detail::Native(font), &layout, detail::Native(format),
+                                   detail::Native(brush)));
     }
     Status DrawString(const WCHAR* string, INT length, const Font* font,
                       const PointF& origin, const StringFormat* format,
@@ -224,13 +221,15 @@ public:
                          INT* codepointsFitted = nullptr,
                          INT* linesFilled = nullptr) const {
         const detail::Utf16Text text(string, length);
-        if (text.GetStatus() != Ok || string == nullptr || bounds == nullptr) {
-            return SetStatus(InvalidUnless(text));
+        if (bounds != nullptr) {
+            *bounds = RectF();
         }
-        *bounds = RectF();
-        return SetStatus(DllExports::GdipMeasureString(
-            SurfaceFor(font), text.Text(), text.Length(), detail::Native(font), &layout,
-            detail::Native(format), bounds, codepointsFitted, linesFilled));
+        return SetStatus(text.GetStatus() != Ok
+                             ? text.GetStatus()
+                             : DllExports::GdipMeasureString(
+                                   native_, text.Text(), text.Length(),
+                                   detail::Native(font), &layout, detail::Native(format),
+                                   bounds, codepointsFitted, linesFilled));
     }
     Status MeasureString(const WCHAR* string, INT length, const Font* font,
                          const RectF& layout, RectF* bounds) const {
@@ -245,24 +244,23 @@ public:
     /// At the image's own size, by its resolution and the surface's.
     Status DrawImage(Image* image, INT x, INT y) {
         return SetStatus(
-            DllExports::GdipDrawImageI(SurfaceFor(image), detail::Native(image), x, y));
+            DllExports::GdipDrawImageI(native_, detail::Native(image), x, y));
     }
     Status DrawImage(Image* image, REAL x, REAL y) {
-        return SetStatus(
-            DllExports::GdipDrawImage(SurfaceFor(image), detail::Native(image), x, y));
+        return SetStatus(DllExports::GdipDrawImage(native_, detail::Native(image), x, y));
     }
 
     /// Stretches the image into a rectangle.
     Status DrawImage(Image* image, INT x, INT y, INT width, INT height) {
-        return SetStatus(DllExports::GdipDrawImageRectI(
-            SurfaceFor(image), detail::Native(image), x, y, width, height));
+        return SetStatus(DllExports::GdipDrawImageRectI(native_, detail::Native(image), x,
+                                                        y, width, height));
     }
     Status DrawImage(Image* image, const Rect& rect) {
         return DrawImage(image, rect.X, rect.Y, rect.Width, rect.Height);
     }
     Status DrawImage(Image* image, REAL x, REAL y, REAL width, REAL height) {
-        return SetStatus(DllExports::GdipDrawImageRect(
-            SurfaceFor(image), detail::Native(image), x, y, width, height));
+        return SetStatus(DllExports::GdipDrawImageRect(native_, detail::Native(image), x,
+                                                       y, width, height));
     }
     Status DrawImage(Image* image, const RectF& rect) {
         return DrawImage(image, rect.X, rect.Y, rect.Width, rect.Height);
@@ -277,22 +275,6 @@ protected:
 
     /// Owned; deleted with the surface.
     GpGraphics* native_ = nullptr;
-
-private:
-    /// libgdiplus would dereference a null text of unknown length, and null bounds;
-    /// neither is passed on.
-    static Status InvalidUnless(const detail::Utf16Text& text) {
-        return text.GetStatus() != Ok ? text.GetStatus() : InvalidParameter;
-    }
-
-    /// Null for a font or an image that libgdiplus cannot handle: the call then fails.
-    GpGraphics* SurfaceFor(const Font* font) const {
-        return font != nullptr && !font->drawable_ ? nullptr : native_;
-    }
-
-    GpGraphics* SurfaceFor(Image* image) const {
-        return image != nullptr && !image->IsDrawable() ? nullptr : native_;
-    }
 };
 
 }  // namespace Gdiplus

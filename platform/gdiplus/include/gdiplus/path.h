@@ -34,12 +34,12 @@ public:
     Status AddString(const WCHAR* string, INT length, const FontFamily* family, INT style,
                      REAL emSize, const RectF& layout, const StringFormat* format) {
         const detail::Utf16Text text(string, length);
-        return SetStatus(text.GetStatus() != Ok
-                             ? text.GetStatus()
-                             : DllExports::GdipAddPathString(
-                                   detail::CanCarry(emSize) ? native_ : nullptr,
-                                   text.Text(), text.Length(), detail::Native(family),
-                                   style, emSize, &layout, detail::Native(format)));
+        return SetStatus(
+            text.GetStatus() != Ok
+                ? text.GetStatus()
+                : DllExports::GdipAddPathString(native_, text.Text(), text.Length(),
+                                                detail::Native(family), style, emSize,
+                                                &layout, detail::Native(format)));
     }
     Status AddString(const WCHAR* string, INT length, const FontFamily* family, INT style,
                      REAL emSize, const PointF& origin, const StringFormat* format) {

@@ -46,16 +46,6 @@ inline Status GdiplusStartup(ULONG_PTR* token, const GdiplusStartupInput* input,
 }
 
 /// Ends a use of GDI+. Delete every GDI+ object first.
-inline VOID GdiplusShutdown(ULONG_PTR token) {
-#ifdef GDIPLUS_OVER_CAIRO
-    DllExports::GdiplusShutdown(token);
-#else
-    // libgdiplus is left running: its own shutdown closes fontconfig for the whole
-    // process, which fails an assertion while anything still holds a font, be it a
-    // toolkit, another thread, or the worker thread in which Pango is still sorting the
-    // fonts of the last text. Only fontconfig's caches remain, ready for the next start.
-    static_cast<void>(token);
-#endif
-}
+inline VOID GdiplusShutdown(ULONG_PTR token) { DllExports::GdiplusShutdown(token); }
 
 }  // namespace Gdiplus

@@ -200,36 +200,6 @@ TEST_F(Text, OfMoreThanAGigaCharacterIsNotRead) {
     EXPECT_EQ(path.GetLastStatus(), OutOfMemory);
 }
 
-TEST_F(Text, WithoutAFontOrBrushIsOneCallThatDrawsNothing) {
-    Bitmap bitmap(40, 30);
-    Graphics graphics(&bitmap);
-    const Font font(&family, 20.0f);
-    flat_spy::Clear();
-    EXPECT_EQ(graphics.DrawString(L"N", -1, &font, PointF(), nullptr), InvalidParameter);
-    EXPECT_EQ(flat_spy::Last().calls, 1);
-    EXPECT_FALSE(flat_spy::Last().surface);
-    const SolidBrush brush(Color(0xFF000000));
-    EXPECT_EQ(graphics.DrawString(L"N", -1, &font, PointF(), &brush), Ok);
-    EXPECT_TRUE(flat_spy::Last().surface);
-}
-
-TEST_F(Text, ThatLibgdiplusWouldFailOnDoesNotReachIt) {
-    Bitmap bitmap(40, 30);
-    Graphics graphics(&bitmap);
-    const Font font(&family, 20.0f);
-    const SolidBrush brush(Color(0xFF000000));
-    flat_spy::Clear();
-    EXPECT_EQ(graphics.DrawString(nullptr, -1, &font, PointF(), &brush),
-              InvalidParameter);
-    RectF bounds;
-    EXPECT_EQ(graphics.MeasureString(nullptr, -1, &font, RectF(), &bounds),
-              InvalidParameter);
-    EXPECT_EQ(graphics.MeasureString(L"N", -1, &font, RectF(), nullptr),
-              InvalidParameter);
-    EXPECT_EQ(graphics.GetLastStatus(), InvalidParameter);
-    EXPECT_EQ(flat_spy::Last().calls, 0);
-}
-
 TEST(WideText, ComesBackFromUtf16) {
     struct Row {
         std::u16string flat;

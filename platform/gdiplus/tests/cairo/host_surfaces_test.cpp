@@ -8,7 +8,6 @@
 #include <string>
 
 #include "gdiplus/cairo.h"
-#include "gdiplus/postscript.h"
 #include "portable/image_files.h"
 
 using namespace Gdiplus;
@@ -60,34 +59,6 @@ TEST_F(HostSurfaces, OfPdfHaveTheirFont) {
     EXPECT_NE(Contents().find("LiberationSans"), std::string::npos);
 }
 
-TEST_F(HostSurfaces, OfPdfKeepImagesPixelForPixel) {
-    cairo_surface_t* const surface = cairo_pdf_surface_create(file.c_str(), 600, 400);
-    cairo_t* const cairo = cairo_create(surface);
-    cairo_scale(cairo, 72.0 / 200.0, 72.0 / 200.0);
-    {
-        CairoGraphics graphics(cairo, 200.0f);
-        Bitmap image(40, 30, PixelFormat32bppRGB);
-        EXPECT_EQ(graphics.DrawImage(&image, 101, 51, 40, 30), Ok);
-    }
-    cairo_destroy(cairo);
-    cairo_surface_destroy(surface);
-    const std::string page = Contents();
-    EXPECT_NE(page.find("/Width 40\n   /Height 30\n"), std::string::npos);
-    EXPECT_EQ(page.find("/Pattern"), std::string::npos);
-}
-
-TEST_F(HostSurfaces, OfPostScriptAreWrittenWithTheGraphics) {
-    {
-        PostScriptGraphics graphics(file.c_str(), 600, 400);
-        EXPECT_EQ(graphics.GetLastStatus(), Ok);
-        Draw(graphics);
-    }
-    const std::string page = Contents();
-    EXPECT_NE(page.find("%%BoundingBox:"), std::string::npos);
-    EXPECT_NE(page.find("100 50 30 20 re f"), std::string::npos);
-    EXPECT_NE(page.find("/f-0-0"), std::string::npos) << "the font";
-}
-
 TEST_F(HostSurfaces, AreGivenBackAsTheyWere) {
     cairo_surface_t* const surface =
         cairo_image_surface_create(CAIRO_FORMAT_ARGB32, 40, 30);
@@ -127,8 +98,6 @@ TEST_F(HostSurfaces, ThatAreNoneDrawNothing) {
     CairoGraphics graphics(nullptr);
     EXPECT_EQ(graphics.GetLastStatus(), InvalidParameter);
     EXPECT_EQ(graphics.Clear(Color(0xFFFFFFFF)), InvalidParameter);
-    PostScriptGraphics page(nullptr, 600, 400);
-    EXPECT_EQ(page.GetLastStatus(), InvalidParameter);
 }
 
 }  // namespace

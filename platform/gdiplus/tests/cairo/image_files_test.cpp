@@ -75,6 +75,16 @@ TEST_F(ImageFiles, OnAFullDiskAreNotSaved) {
     EXPECT_TRUE(fs::exists("/dev/full"));
 }
 
+TEST_F(ImageFiles, AreNotSavedWithParametersThatHaveNoValue) {
+    const std::wstring file = (folder / "a.jpg").wstring();
+    Bitmap bitmap(4, 3);
+    const CLSID encoder = Encoder(L"image/jpeg");
+    EncoderParameters parameters = {
+        1, {{EncoderQuality, 1, EncoderParameterValueTypeLong, nullptr}}};
+    EXPECT_EQ(bitmap.Save(file.c_str(), &encoder, &parameters), InvalidParameter);
+    EXPECT_FALSE(fs::exists(file));
+}
+
 TEST_F(ImageFiles, ThatAreMissingAreNotFound) {
     const std::wstring file = (folder / "none.png").wstring();
     EXPECT_EQ(Image(file.c_str()).GetLastStatus(), FileNotFound);

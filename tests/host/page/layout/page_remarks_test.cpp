@@ -40,7 +40,7 @@ TEST_F(PageRemarks, TellOfEachElementWhatAReaderWouldStumbleOver) {
         Item("map", At(50, 250, 200, 200), R"("rasters": ["scene.tif"], )");
     const std::string neatLine =
         Item("frame", At(10, 290, 380, 280), R"("name": "neat line", )");
-    const std::string text = R"("text": "Olinda", "fontSize": 20, )";
+    const std::string text = R"("text": "Olinda", "font": "Arial", "fontSize": 20, )";
     const std::string title = Item("title", At(100, 280, 100, 28), text);
     const std::string logo = R"("path": "logo.png", "size": 48, )";
     const std::string opaque = R"("fill": true, "fillColor": "#FFFFFF", )";
