@@ -24,8 +24,8 @@ constexpr double kLeastGlance = 300.0;  // pixels; saving more than that saves n
 /// Lengths in whole pixels add up to something else at a small scale.
 constexpr double kGlancePixels = 4.0;
 
-/// Only the alpha is read. With any but premultiplied pixels, libgdiplus converts the
-/// whole bitmap again for every shape that is drawn.
+/// Only the alpha is read. On straight pixels every drawing would have to look at those
+/// beneath it.
 constexpr Gdiplus::PixelFormat kFormat = PixelFormat32bppPARGB;
 
 /// The part of a bitmap that is not transparent.

@@ -135,7 +135,7 @@ TEST(MapTitle, MeasuresAtScaleOneInItsOwnSize) {
               "GdipCreateFont " + FontLook("Arial", 1.0f / 3.0f, 13));
 }
 
-// libgdiplus finds a substitute for any name, GDI+ does not: each is made to fail here.
+// Whatever fonts there are: each family is made to fail here.
 TEST(MapTitle, MeasuresAndDrawsNothingWithoutAFamily) {
     for (const Mode mode : {Mode::Forward, Mode::RecordOnly}) {
         Surface surface;

@@ -137,11 +137,12 @@ std::vector<std::uint8_t> EncodeForPrint(const Page& page, OutputFormat format,
         page.Draw(graphics, dpi, progress);
     }
     cairo_surface_finish(surface.get());
-    if (cairo_surface_status(surface.get()) != CAIRO_STATUS_SUCCESS ||
-        cairo_status(cairo.get()) != CAIRO_STATUS_SUCCESS) {
-        throw std::runtime_error(
-            std::string("the page cannot be written: ") +
-            cairo_status_to_string(cairo_surface_status(surface.get())));
+    for (const cairo_status_t status :
+         {cairo_surface_status(surface.get()), cairo_status(cairo.get())}) {
+        if (status != CAIRO_STATUS_SUCCESS) {
+            throw std::runtime_error(std::string("the page cannot be written: ") +
+                                     cairo_status_to_string(status));
+        }
     }
     return format == OutputFormat::PostScript ? TellingSize(file, width, height) : file;
 }

@@ -8,7 +8,7 @@
 void* map_surround::FlatFunction(const char* name) {
     void* function = dlsym(RTLD_NEXT, name);
     if (function == nullptr) {
-        std::fprintf(stderr, "libgdiplus has no %s\n", name);
+        std::fprintf(stderr, "GDI+ has no %s\n", name);
         std::abort();
     }
     return function;

@@ -90,8 +90,7 @@ public:
             DllExports::GdipBitmapSetPixel(Pixels(), x, y, color.GetValue()));
     }
     /// Dots per inch: DrawImage draws the bitmap by them, and a Graphics on it answers
-    /// them. libgdiplus writes them into no file; the flat functions over Cairo write
-    /// them into PNG, JPEG, TIFF and BMP.
+    /// them. PNG, JPEG, TIFF and BMP files keep them.
     Status SetResolution(REAL xdpi, REAL ydpi) {
         return SetStatus(DllExports::GdipBitmapSetResolution(Pixels(), xdpi, ydpi));
     }

@@ -57,7 +57,7 @@ TEST(Startup, WantsAVersionAndATokenToTell) {
 }
 
 TEST(Shutdown, LeavesTheProgramAliveAfterChineseText) {
-    // Pango sorts the fonts in a thread of its own, which is busy at some ends only.
+    // A thread still at work would be met at some ends only.
     for (int run = 0; run < 10; ++run) {
         EXPECT_EXIT(
             {
