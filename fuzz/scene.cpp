@@ -238,7 +238,7 @@ void Scene::SetProperty(CScaleBarBase& bar) {
 }
 
 void Scene::SetProperty(CMapLegend& legend) {
-    switch (m_input.Choice(18)) {
+    switch (m_input.Choice(20)) {
         case 0:
             return legend.SetTitleValue(m_input.Text());
         case 1:
@@ -272,6 +272,12 @@ void Scene::SetProperty(CMapLegend& legend) {
         case 14:
             return legend.SetShownSources(
                 {{m_input.Text(), m_input.Flag()}, {m_input.Text(), m_input.Flag()}});
+        case 15:
+            return legend.SetGap(m_input.Real<float>());
+        case 16:
+            return legend.SetMostWidth(m_input.Real<float>());
+        case 17:
+            return legend.SetAlignedLabels(m_input.Flag());
         default:
             return SetSources(legend);
     }

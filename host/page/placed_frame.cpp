@@ -85,10 +85,12 @@ void ScaleBarFrame::Draw(Gdiplus::Graphics* graphics, CPoint centre, double scal
     graphics->Restore(state);
 }
 
-void LegendFrame::SetSources(std::vector<CGISDataSource*> sources) {
+void LegendFrame::SetSources(std::vector<CGISDataSource*> sources,
+                             std::vector<LegendSource> shown) {
     m_sources = std::move(sources);
     if (auto* const legend = ElementOf<CMapLegend>(*this)) {
         legend->SetDataSouce(m_sources);
+        legend->SetShownSources(std::move(shown));
     }
 }
 

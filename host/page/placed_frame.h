@@ -152,13 +152,20 @@ public:
     }
     const std::vector<std::string>& RasterPaths() const { return m_rasterPaths; }
 
-    /// What the legend explains; not owned.
-    void SetSources(std::vector<CGISDataSource*> sources);
+    /// What the rasters are called, a line each in the order of the paths; an empty line,
+    /// or none, leaves a raster its file's name.
+    void SetNames(std::wstring lines) { m_names = std::move(lines); }
+    std::wstring Names() const { return m_names; }
+
+    /// What the legend explains, and what it calls each; not owned.
+    void SetSources(std::vector<CGISDataSource*> sources,
+                    std::vector<LegendSource> shown = {});
     const std::vector<CGISDataSource*>& Sources() const { return m_sources; }
 
 private:
     float m_sizeFactor = 1.0f;
     std::vector<std::string> m_rasterPaths;
+    std::wstring m_names;
     std::vector<CGISDataSource*> m_sources;
 };
 

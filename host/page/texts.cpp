@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <limits>
 #include <map>
 #include <tuple>
 
@@ -21,6 +22,8 @@ constexpr const char* kArrowAndEntryFamily = "Arial";
 constexpr const char* kBarFamily = "Times New Roman";
 constexpr const wchar_t* kLetters = L"NESW";
 constexpr const wchar_t* kNumbers = L"0123456789.-";
+
+constexpr const wchar_t* kEllipsis = L"\u2026";  // of those that are cut
 
 constexpr std::size_t kMostShown = 8;
 
@@ -47,16 +50,36 @@ std::vector<WrittenText> TextsOfLegend(const CMapLegend& legend,
                                        const std::vector<CGISDataSource*>& sources) {
     std::wstring names;
     std::wstring entries;
-    for (CGISDataSource* const source : sources) {
-        auto* const raster = dynamic_cast<CRasterSource*>(source);
+    if (legend.GetMostWidth() > 0.0f) {
+        names = entries = kEllipsis;
+    }
+    const std::vector<LegendSource> shown = legend.GetShownSources();
+    for (std::size_t i = 0; i < sources.size(); ++i) {
+        auto* const raster = dynamic_cast<CRasterSource*>(sources[i]);
         if (raster != nullptr && raster->IsAvailable()) {
-            names += legend.GetSourceCaption() + raster->GetFileName();
+            const std::wstring name = i < shown.size() ? shown[i].name : L"";
+            names +=
+                legend.GetSourceCaption() + (name.empty() ? raster->GetFileName() : name);
             entries += EntriesOf(legend, *raster);
         }
     }
     return {{Narrow(legend.GetTitle()), legend.GetTitleStyle(), legend.GetTitleValue()},
             {Narrow(legend.GetFileName()), legend.GetFileNameStyle(), names},
             {kArrowAndEntryFamily, legend.GetFileNameStyle(), entries}};
+}
+
+/// Whether names or labels of a legend are cut: it is wider where they are not.
+bool CutsTexts(const CMapLegend& legend) {
+    const auto width = [&legend](float most) {
+        CMapLegend measured(legend);
+        measured.SetSizeAspect(1.0f);
+        measured.SetMostWidth(most);
+        measured.ResetAspectRatio();
+        return static_cast<float>(measured.GetSize()) * measured.GetAspectRatio();
+    };
+    constexpr float kLittle = 0.5f;  // of a pixel
+    return legend.GetMostWidth() > 0.0f && width(std::numeric_limits<float>::max()) >
+                                               width(legend.GetMostWidth()) + kLittle;
 }
 
 /// Fontconfig sorts all fonts for each of these, so the items of a page share them.
@@ -135,6 +158,11 @@ std::vector<std::string> RemarksOfTexts(const Page& page) {
         }
         if (!missing.empty()) {
             remarks.push_back(NameOf(item) + ": " + InWords(missing));
+        }
+        const auto* const legend = ElementOf<CMapLegend>(item);
+        if (legend != nullptr && CutsTexts(*legend)) {
+            remarks.push_back(NameOf(item) +
+                              ": names or labels are too wide for it, and end in \u2026");
         }
     }
     return remarks;

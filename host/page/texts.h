@@ -25,7 +25,7 @@ std::vector<WrittenText> TextsOf(const PageItem& item);
 void CheckFontsOf(const Page& page);
 
 /// The characters that no font has, in one line an item: "title: no font has \"ཀ\"
-/// (U+0F40): a box is drawn".
+/// (U+0F40): a box is drawn", and the legends whose texts are cut.
 std::vector<std::string> RemarksOfTexts(const Page& page);
 
 /// Throws NamedError that names the first item with a font that is there but cannot be

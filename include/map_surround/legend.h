@@ -70,7 +70,8 @@ public:
     /// after the second. A host that wants to scale once sets the factor back to 1.
     ///
     /// Texts are measured by the ink of their outlines. A row is as high as the sample
-    /// "Band_1", a swatch is 6/10 of that, every gap is 12 pixels. With a title 20 high
+    /// "Band_1", a swatch is 6/10 of that, every gap is 12 pixels, or
+    /// what SetGap() says. With a title 20 high
     /// and rows 13 high (so swatches of 7), an RGB source and a grey one make 20 + 24 +
     /// (13 + 3 * 7 + 36) + (13 + 4 * 7 + 12) + 24 - 12 = 179. The width is the widest of
     /// the title, three samples, each bare file name or the name shown in its place, and
@@ -116,6 +117,33 @@ public:
     void SetShownSources(std::vector<LegendSource> shown) {
         m_shownSources = std::move(shown);
     }
+
+    /// Whether labels stand where their swatches do: all of them 1.2 swatches from the
+    /// left, those of bands and classes a quarter of a row higher and so in the middle of
+    /// the swatch, and the values of a ramp at its ends, where they do not overlap: both
+    /// black, the highest a fifth of a row above its top, level with it, the lowest nine
+    /// tenths above its end, standing on it.
+    ///
+    /// The values are then rounded to three digits of what is between them, not cut:
+    /// -0.314 and 0.87 are -0.31 and 0.87, 3.75 and 255.9 are 4 and 256. Zeros that both
+    /// end in are left out. False until it is set.
+    bool GetAlignedLabels() const { return m_alignedLabels; }
+    void SetAlignedLabels(bool aligned) { m_alignedLabels = aligned; }
+
+    /// The gap between any two items, in rows, rounded to whole pixels of the
+    /// measurement: at 0.8, rows 13 high are 10 apart. 12 pixels, whatever the rows,
+    /// where it is not above 0, as it is until it is set. A gap beyond 32 bits is
+    /// clamped.
+    float GetGap() const { return m_gap; }
+    void SetGap(float rows) { m_gap = rows; }
+
+    /// How wide names and the labels of classes may be, in pixels of the measurement; one
+    /// that is wider ends in U+2026, and a row of a name is then measured with its
+    /// caption. The labels are measured where the layout has them, two samples from the
+    /// left: with samples 40 wide and a width of 200, they are cut to 120. Any width, as
+    /// until it is set, where it is not above 0.
+    float GetMostWidth() const { return m_mostWidth; }
+    void SetMostWidth(float width) { m_mostWidth = width; }
 
     // The captions are written as they are, with nothing between them and what follows:
     // with L"Band " the third band is "Band 3", and with an empty text "3".
@@ -195,6 +223,9 @@ private:
     std::wstring m_fileNameFamily = L"Arial";
     Gdiplus::Color m_titleColor{0xFF000000};
     Gdiplus::Color m_fileColor{0xFF000000};
+    bool m_alignedLabels = false;
+    float m_gap = 0.0f;
+    float m_mostWidth = 0.0f;
     std::vector<LegendSource> m_shownSources;
     std::wstring m_sourceCaption = L"\u5F71\u50CF\u540D\uFF1A";
     std::wstring m_bandCaption = L"\u6CE2\u6BB5_";

@@ -1,8 +1,10 @@
+#include <optional>
 #include <string>
 
 #include "element/numbers.h"
 #include "legend/lettering.h"
 #include "legend/proportions.h"
+#include "legend/ramp_values.h"
 #include "legend/source_queries.h"
 #include "map_surround/legend.h"
 
@@ -26,6 +28,33 @@ constexpr Gdiplus::ARGB kBlue = 0xFF0000FF;
 /// From grey 254 to 1: the ramp leaves out white and black.
 constexpr int kRampStrips = 254;
 
+/// Cuts texts as the layout did, at the size in which that measured them.
+class Cutter {
+public:
+    Cutter(float most, Ruler& ruler, const Gdiplus::FontFamily& titleFamily,
+           const std::wstring& family, float emSize, Gdiplus::FontStyle style)
+        : m_most(most),
+          m_ruler(ruler),
+          m_lettering(family, emSize, style),
+          m_sample(
+              ruler.Measure(legend::kSampleText, titleFamily, m_lettering.font).Width) {}
+
+    std::wstring Name(const std::wstring& text) {
+        return map_surround::Cut(text, m_most, m_ruler, m_lettering);
+    }
+    std::wstring Label(const std::wstring& text) {
+        const Length from = legend::kClassLabelMeasuredAt * m_sample;
+        return map_surround::Cut(text, m_most - static_cast<float>(from), m_ruler,
+                                 m_lettering);
+    }
+
+private:
+    float m_most;
+    Ruler& m_ruler;
+    Lettering m_lettering;
+    Length m_sample;
+};
+
 /// A cursor moving down the legend, in pixels.
 struct Column {
     Gdiplus::Graphics* graphics;
@@ -34,6 +63,8 @@ struct Column {
     const std::wstring& bandCaption;
     const std::wstring& highCaption;
     const std::wstring& lowCaption;
+    bool alignedLabels;
+    Cutter* cutter;  // null where nothing is cut
     float left;
     float y;  // top of what is drawn next
     float rowHeight;
@@ -52,6 +83,13 @@ struct Column {
                                 brush);
     }
 
+    float ValueLabelAt() const {
+        return alignedLabels ? legend::kClassLabelAt : legend::kBandLabelAt;
+    }
+    float SwatchLabelY() const {
+        return alignedLabels ? y - legend::kLabelAbove * rowHeight : y;
+    }
+
     void DrawBands(CRasterSource& source);
     void DrawRamp(CRasterSource& source);
     void DrawClasses(CClassifyDisplayTable* table);
@@ -62,7 +100,7 @@ void Column::DrawBand(Gdiplus::Color color, int index) {
     const int number = ToDevice(Length{index} + 1);
     Fill(color, y, swatchHeight);
     brush.SetColor(kBlack);
-    Label(bandCaption + CommonFun::int2wstring(number), legend::kBandLabelAt, y);
+    Label(bandCaption + CommonFun::int2wstring(number), ValueLabelAt(), SwatchLabelY());
     y += swatchHeight + gap;
 }
 
@@ -83,8 +121,11 @@ void Column::DrawRamp(CRasterSource& source) {
     if (band != nullptr) {
         band->ComputeMinMax(&lowest, &highest, true);
     }
-    Label(highCaption + CommonFun::int2wstring(Truncate(highest)), legend::kBandLabelAt,
-          y + 0.5f * rowHeight);
+    const map_surround::RampValues values =
+        alignedLabels ? map_surround::RoundedValues(lowest, highest)
+                      : map_surround::WholeValues(lowest, highest);
+    Label(highCaption + values.highest, ValueLabelAt(),
+          y + (alignedLabels ? -legend::kHighAbove : 0.5f) * rowHeight);
 
     // The strips overlap, and the first starts one step down.
     for (int k = 1; k <= kRampStrips; ++k) {
@@ -93,10 +134,15 @@ void Column::DrawRamp(CRasterSource& source) {
              y + rampHeight * static_cast<float>(k) / kRampStrips, stripHeight);
     }
 
-    // Just above the high value, in the colour of the last strip: both are intended.
     y += rampHeight;
-    Label(lowCaption + CommonFun::int2wstring(Truncate(lowest)), legend::kBandLabelAt,
-          y - 2 * rowHeight);
+    if (alignedLabels) {
+        brush.SetColor(kBlack);
+        Label(lowCaption + values.lowest, ValueLabelAt(),
+              y - legend::kLowAbove * rowHeight);
+    } else {
+        // Just above the high value, in the colour of the last strip: both are intended.
+        Label(lowCaption + values.lowest, ValueLabelAt(), y - 2 * rowHeight);
+    }
     y += gap;
 }
 
@@ -111,7 +157,8 @@ void Column::DrawClasses(CClassifyDisplayTable* table) {
             item->GetColor(red, green, blue, ignored);
             Fill(Gdiplus::Color(255, red, green, blue), y, swatchHeight);
             brush.SetColor(kBlack);
-            Label(item->GetLable(), legend::kClassLabelAt, y);
+            Label(cutter == nullptr ? item->GetLable() : cutter->Label(item->GetLable()),
+                  legend::kClassLabelAt, SwatchLabelY());
         }
         y += swatchHeight;
         const bool last = i + 1 == map_surround::ClassesCount(table);
@@ -146,20 +193,28 @@ void CMapLegend::Draw(Gdiplus::Graphics* graphics, CPoint centre, double scale) 
     const Lettering entry(kEntryFamily, rowHeight, m_fileNameStyle);
     const Lettering fileName(m_fileNameFamily, rowHeight, m_fileNameStyle);
     Ruler ruler;
+    // The title's ink in this font, which is smaller than the one the layout measured.
+    const int titleHeight = ruler.Measure(m_titleText, title).Height;
+    std::optional<Cutter> cutter;
+    if (m_mostWidth > 0.0f) {
+        cutter.emplace(m_mostWidth, ruler, title.family, m_fileNameFamily, m_fileNameSize,
+                       m_fileNameStyle);
+    }
     Column column{graphics,
                   brush,
                   entry.font,
                   m_bandCaption,
                   m_highCaption,
                   m_lowCaption,
+                  m_alignedLabels,
+                  cutter ? &*cutter : nullptr,
                   left,
                   top + legend::kTitleGaps * gap,
                   rowHeight,
                   height * m_swatchHeightRatio,
                   height * m_swatchWidthRatio,
                   gap};
-    // The title's ink in this font, which is smaller than the one the layout measured.
-    column.y += static_cast<float>(ruler.Measure(m_titleText, title).Height);
+    column.y += static_cast<float>(titleHeight);
 
     // By index, since a source may replace the legend's list while it is queried.
     for (std::size_t i = 0; i < m_dataSources.size(); ++i) {
@@ -168,8 +223,11 @@ void CMapLegend::Draw(Gdiplus::Graphics* graphics, CPoint centre, double scale) 
         if (source == nullptr) {
             continue;
         }
-        const std::wstring name =
+        std::wstring name =
             m_sourceCaption + map_surround::NameOf(*source, m_shownSources, i);
+        if (cutter) {
+            name = cutter->Name(name);
+        }
         brush.SetColor(m_fileColor);
         map_surround::WriteText(graphics, name, fileName.font,
                                 Gdiplus::PointF(left, column.y), brush);

@@ -12,6 +12,7 @@ using map_surround::Length;
 using map_surround::Lettering;
 using map_surround::Ruler;
 using map_surround::ToDevice;
+using map_surround::Truncate;
 
 namespace legend = map_surround::legend;
 
@@ -21,6 +22,8 @@ namespace {
 struct Layout {
     Length sampleWidth;
     Length swatchHeight;
+    Length gap;
+    float mostWidth;
     Length width;
     Length height;
 
@@ -28,7 +31,18 @@ struct Layout {
     Length SwatchesAndGaps(int swatches, int gaps) const {
         // A table may claim billions of classes: clamp here, so that no number of tables
         // overflows the sum.
-        return ToDevice(swatches * swatchHeight + Length{gaps} * legend::kGap);
+        return ToDevice(swatches * swatchHeight + gaps * gap);
+    }
+
+    /// The width of a text, cut where the legend cuts those that begin there.
+    Length WidthOf(const std::wstring& text, Length from, Ruler& ruler,
+                   const Lettering& lettering) const {
+        const float room = mostWidth - static_cast<float>(from);
+        return ruler
+            .Measure(
+                mostWidth > 0.0f ? map_surround::Cut(text, room, ruler, lettering) : text,
+                lettering)
+            .Width;
     }
 
     void AddBands() { height += SwatchesAndGaps(legend::kBandRows, legend::kBandRows); }
@@ -43,8 +57,8 @@ struct Layout {
         for (int i = 0; i < map_surround::ClassesCount(table); ++i) {
             CClassifyDisplayItem* const item = table->GetClassifyItem(i);
             if (item != nullptr) {
-                Widen(legend::kClassLabelMeasuredAt * sampleWidth +
-                      ruler.Measure(item->GetLable(), lettering).Width);
+                const Length labelAt = legend::kClassLabelMeasuredAt * sampleWidth;
+                Widen(labelAt + WidthOf(item->GetLable(), labelAt, ruler, lettering));
             }
         }
     }
@@ -99,9 +113,13 @@ void CMapLegend::ResetAspectRatio() {
     Layout layout{};
     layout.sampleWidth = sample.Width;
     layout.swatchHeight = legend::kSwatchTenths * rowHeight / 10;
+    layout.gap = m_gap > 0.0f
+                     ? Truncate(double{m_gap} * static_cast<double>(rowHeight) + 0.5)
+                     : legend::kGap;
+    layout.mostWidth = m_mostWidth;
     const Length leastWidth = legend::kLeastSwatches * layout.sampleWidth;
     layout.width = std::max<Length>(titleBox.Width, leastWidth);
-    layout.height = titleBox.Height + legend::kTitleGaps * Length{legend::kGap};
+    layout.height = titleBox.Height + legend::kTitleGaps * layout.gap;
 
     Length rasters = 0;
     // By index, since a source may replace the legend's list while it is queried.
@@ -113,10 +131,10 @@ void CMapLegend::ResetAspectRatio() {
         }
         ++rasters;
         layout.height += rowHeight;
-        // The bare name, without the caption that is drawn before it.
-        layout.Widen(
-            ruler.Measure(map_surround::NameOf(*source, m_shownSources, i), fileName)
-                .Width);
+        // The bare name, without the caption that is drawn before it, unless it is cut.
+        const std::wstring name = map_surround::NameOf(*source, m_shownSources, i);
+        layout.Widen(layout.WidthOf(m_mostWidth > 0.0f ? m_sourceCaption + name : name, 0,
+                                    ruler, fileName));
         if (source->GetDisplayType() == DisplayRGB) {
             layout.AddBands();
         } else if (source->GetDisplayType() == DisplayGray) {
@@ -130,12 +148,12 @@ void CMapLegend::ResetAspectRatio() {
     }
 
     // One gap per file name less one, which without rasters is one gap less than nothing.
-    SetSize(ToDevice(layout.height + legend::kGap * (rasters - 1)));
+    SetSize(ToDevice(layout.height + layout.gap * (rasters - 1)));
     const auto height = static_cast<float>(GetSize());
     SetAspectRatio(static_cast<float>(layout.width) / height);
     m_rowHeightRatio = static_cast<float>(rowHeight) / height;
     m_swatchHeightRatio = static_cast<float>(layout.swatchHeight) / height;
     m_swatchWidthRatio = static_cast<float>(leastWidth) / legend::kLeastSwatches / height;
     m_titleHeightRatio = static_cast<float>(titleBox.Height) / height;
-    m_gapRatio = static_cast<float>(legend::kGap) / height;
+    m_gapRatio = static_cast<float>(layout.gap) / height;
 }

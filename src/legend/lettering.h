@@ -40,4 +40,8 @@ private:
     bool m_used = false;
 };
 
+/// A text, cut so that it is no wider with the ellipsis that ends it.
+std::wstring Cut(const std::wstring& text, float width, Ruler& ruler,
+                 const Lettering& lettering);
+
 }  // namespace map_surround

@@ -1,3 +1,5 @@
 set(legend_sources
   legend_drawing.cpp
-  legend_layout.cpp)
+  legend_layout.cpp
+  ramp_values.cpp
+  text_cut.cpp)

@@ -204,6 +204,69 @@ TEST(LegendDrawing, ValuesAreTruncatedTowardZero) {
     }
 }
 
+TEST(LegendDrawing, ValuesAtTheEndsOfTheRampHaveTheDecimalsThatTheyNeed) {
+    constexpr double infinity = std::numeric_limits<double>::infinity();
+    const struct {
+        double lowest;
+        double highest;
+        const char* low;
+        const char* high;
+    } rows[] = {{-3.7, 255.9, "-4", "256"},
+                {-0.314, 0.8699, "-0.31", "0.87"},
+                {0.0, 9.5, "0.0", "9.5"},
+                {0.0, 9.0, "0", "9"},
+                {1.0, 99.96, "1", "100"},
+                {0.0, 100.4, "0", "100"},
+                {0.00012, 0.00034, "0.00012", "0.00034"},
+                {0.001, 0.002, "0.001", "0.002"},
+                {7.25, 7.25, "7.25", "7.25"},
+                {-1234.5, -1234.5, "-1234", "-1234"},
+                {0.0, 0.0, "0", "0"},
+                {0.0, 1e-300, "0", "0"},
+                {1e16, 0.0, "10000000000000000", "0"},
+                {-infinity, infinity, "-inf", "inf"},
+                {std::nan(""), std::nan(""), "nan", "nan"}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.high);
+        Square square;
+        square.legend.SetAlignedLabels(true);
+        square.gray.band.lowest = row.lowest;
+        square.gray.band.highest = row.highest;
+        const std::vector<std::string> drawing = square.Draw(CPoint(300, 200), 1.0);
+        const float x = 172 + 1.2f * 64;
+        const std::string font = FontLook("Arial", 10, 4);
+        // A fifth of a row above the ramp, which begins at 202 and is 24 high, and nine
+        // tenths above its end.
+        EXPECT_EQ(drawing[9], DrawString(kHighCaption + row.high, font, x, 200, kBlack));
+        EXPECT_EQ(drawing[264], DrawString(kLowCaption + row.low, font, x, 217, kBlack));
+    }
+}
+
+TEST(LegendDrawing, AlignedLabelsAreLevelWithTheirSwatches) {
+    Square square;
+    square.legend.SetAlignedLabels(true);
+    const std::vector<std::string> drawing = square.Draw(CPoint(300, 200), 1.0);
+    const std::vector<std::string> plain = Square().Draw(CPoint(300, 200), 1.0);
+    ASSERT_EQ(drawing.size(), plain.size());
+    const float x = 172 + 1.2f * 64;
+    const std::string font = FontLook("Arial", 10, 4);
+    // A quarter of a row above swatches at 126, 144 and 162, and at 282, 300 and 318.
+    const std::pair<std::size_t, Named> moved[] = {
+        {3, {"red", DrawString(kBandCaption + "4", font, x, 123.5f, kBlack)}},
+        {5, {"green", DrawString(kBandCaption + "3", font, x, 141.5f, kBlack)}},
+        {7, {"blue", DrawString(kBandCaption + "1", font, x, 159.5f, kBlack)}},
+        {268, {"water", DrawString("water", font, x, 279.5f, kBlack)}},
+        {270, {"", DrawString("", font, x, 297.5f, kBlack)}},
+        {272, {"forest", DrawString("forest", font, x, 315.5f, kBlack)}}};
+    std::vector<std::string> expected = plain;
+    expected[9] = drawing[9];  // the values of the ramp, as above
+    expected[264] = drawing[264];
+    for (const auto& [at, label] : moved) {
+        expected[at] = label.line;
+    }
+    EXPECT_EQ(drawing, expected);
+}
+
 TEST(LegendDrawing, BandNumbersAreShownFromOne) {
     const struct {
         int band;

@@ -43,6 +43,9 @@ struct Described {
         legend.SetHighCaption(L"High ");
         legend.SetLowCaption(L"Low ");
         legend.SetShownSources({{L"Scene"}, {L"Relief", false}});
+        legend.SetAlignedLabels(true);
+        legend.SetGap(0.5f);
+        legend.SetMostWidth(77.0f);
         legend.SetSizeAspect(factor);
         legend.SetDataSouce({&rgb, &gray, &classes});
         Measure(legend);
@@ -71,6 +74,9 @@ void ExpectDescribed(const CMapLegend& legend) {
     EXPECT_EQ(legend.GetBandCaption(), L"Band ");
     EXPECT_EQ(legend.GetHighCaption(), L"High ");
     EXPECT_EQ(legend.GetLowCaption(), L"Low ");
+    EXPECT_TRUE(legend.GetAlignedLabels());
+    EXPECT_EQ(legend.GetGap(), 0.5f);
+    EXPECT_EQ(legend.GetMostWidth(), 77.0f);
     const std::vector<LegendSource> shown = legend.GetShownSources();
     ASSERT_EQ(shown.size(), 2U);
     EXPECT_EQ(shown[0].name, L"Scene");
@@ -104,6 +110,9 @@ TEST(LegendProperties, AFreshLegendHasItsDefaults) {
     EXPECT_EQ(legend.GetHighCaption(), L"高 : ");
     EXPECT_EQ(legend.GetLowCaption(), L"低 : ");
     EXPECT_TRUE(legend.GetShownSources().empty());
+    EXPECT_FALSE(legend.GetAlignedLabels());
+    EXPECT_EQ(legend.GetGap(), 0.0f);
+    EXPECT_EQ(legend.GetMostWidth(), 0.0f);
 }
 
 TEST(LegendProperties, TheSizeFactorIsOneAtFirst) {

@@ -42,6 +42,8 @@ void SetOwn(CMapSurround& element, const Own& own) {
         legend->SetTitleSize(own.real);
         legend->SetFileNameSize(own.real);
         legend->SetSizeAspect(own.real);
+        legend->SetGap(own.real);
+        legend->SetMostWidth(own.real);
     } else if (auto* const arrow = dynamic_cast<CNorthArrowBase*>(&element)) {
         arrow->SetNorthArrowType(static_cast<NorthArrowType>(own.whole));
     } else if (auto* const bar = dynamic_cast<CScaleBarBase*>(&element)) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <sstream>
 #include <string>
 #include <utility>
 #include <vector>
@@ -44,15 +45,23 @@ std::shared_ptr<GdalRaster> AsShown(const std::string& path, const Page* page,
     return isNamed ? nullptr : store.Raster(path);
 }
 
-std::vector<CGISDataSource*> SourcesOf(const LegendFrame& frame, const Page* page,
-                                       RasterStore& store) {
+struct Sources {
     std::vector<CGISDataSource*> sources;
+    std::vector<LegendSource> shown;
+};
+
+Sources SourcesOf(const LegendFrame& frame, const Page* page, RasterStore& store) {
+    Sources found;
+    std::wistringstream names(frame.Names());
     for (const std::string& path : frame.RasterPaths()) {
+        std::wstring name;
+        std::getline(names, name);
         if (const std::shared_ptr<GdalRaster> raster = AsShown(path, page, store)) {
-            sources.push_back(raster.get());
+            found.sources.push_back(raster.get());
+            found.shown.push_back({name});
         }
     }
-    return sources;
+    return found;
 }
 
 /// A legend multiplies its font sizes whenever it is measured. Those of a page have been
@@ -75,7 +84,8 @@ void OpenLegend(PageItem& item, const Page* page, RasterStore& store) {
     auto* const frame = FrameAs<LegendFrame>(item);
     auto* const legend = ElementOf<CMapLegend>(item);
     if (frame != nullptr && legend != nullptr) {
-        frame->SetSources(SourcesOf(*frame, page, store));
+        Sources found = SourcesOf(*frame, page, store);
+        frame->SetSources(std::move(found.sources), std::move(found.shown));
         Measure(*legend, frame->SizeFactor());
     }
 }
@@ -85,7 +95,8 @@ std::vector<std::size_t> FitLegendsToMaps(Page& page, RasterStore& store) {
     for (std::size_t i = 0; i < page.Items().size(); ++i) {
         PageItem& item = page.Items()[i];
         const auto* const frame = FrameAs<LegendFrame>(std::as_const(item));
-        if (frame != nullptr && frame->Sources() != SourcesOf(*frame, &page, store)) {
+        if (frame != nullptr &&
+            frame->Sources() != SourcesOf(*frame, &page, store).sources) {
             OpenLegend(item, &page, store);
             changed.push_back(i);
         }

@@ -8,20 +8,19 @@
 namespace host {
 namespace {
 
-std::unique_ptr<CMapLegend> MakeLegend(const LegendDesign& design,
-                                       const Language& language, const MapOnPage& map,
-                                       const Measures& measures) {
+/// @param width that it has, page units
+std::unique_ptr<CMapLegend> MakeLegend(const PageDesign& design, const MapOnPage& map,
+                                       const Measures& measures, double width) {
     auto legend = std::make_unique<CMapLegend>();
+    DressLegend(*legend, design);
     legend->SetDataSouce(map.sources);
-    SetCaptions(*legend, language);
-    legend->SetTitleValue(design.title.value_or(language.legend));
-    legend->SetTitle(design.family);
-    legend->SetFileName(design.family);
     // It is drawn in the height of the ink of these, three quarters of them or more.
     constexpr double kSmallest = kSmallestEm / 0.75;
+    const double size = std::max(kSmallest, 0.7 * measures.module);
     legend->SetTitleSize(static_cast<float>(std::max(kSmallest, 0.95 * measures.module)));
-    legend->SetFileNameSize(
-        static_cast<float>(std::max(kSmallest, 0.7 * measures.module)));
+    legend->SetFileNameSize(static_cast<float>(size));
+    // Type shrinks by a fifth before names are cut.
+    legend->SetMostWidth(static_cast<float>(width / std::max(0.8, kSmallest / size)));
     legend->ResetAspectRatio();
     return legend;
 }
@@ -41,16 +40,26 @@ InkBox Fit(CMapLegend& legend, double width, double height) {
 
 }  // namespace
 
+void DressLegend(CMapLegend& legend, const PageDesign& design) {
+    constexpr float kGap = 0.8f;  // rows
+    SetCaptions(legend, *design.language);
+    legend.SetTitleValue(design.legend.title.value_or(design.language->legend));
+    legend.SetTitle(design.legend.family);
+    legend.SetFileName(design.legend.family);
+    legend.SetAlignedLabels(true);
+    legend.SetGap(kGap);
+}
+
 std::unique_ptr<LegendFrame> PlaceLegend(const PageDesign& design, const MapOnPage& map,
                                          const Measures& measures, const Box& room) {
     if (!design.legend.shown || map.sources.empty()) {
         return nullptr;
     }
-    auto legend = MakeLegend(design.legend, *design.language, map, measures);
     const double space = 1.2 * measures.module;
     if (room.Width() <= space || room.Height() <= space) {
         return nullptr;
     }
+    auto legend = MakeLegend(design, map, measures, room.Width() - space);
     const InkBox ink = Fit(*legend, room.Width() - space, room.Height() - space);
     if (ink.IsEmpty()) {
         return nullptr;

@@ -75,6 +75,9 @@ enum class At { Top, Bottom };
 void FrameInk(PlacedFrame& frame, const InkBox& ink, const Box& room, At at,
               const FrameStyle& style, const Measures& measures);
 
+/// Gives a legend the words and the looks of a design; its type sizes stay.
+void DressLegend(CMapLegend& legend, const PageDesign& design);
+
 /// A legend of all sources, made smaller where it would leave the room. Null when none is
 /// wanted or there is nothing to explain.
 std::unique_ptr<LegendFrame> PlaceLegend(const PageDesign& design, const MapOnPage& map,

@@ -103,7 +103,7 @@ public:
             return std::get<Frame>(std::move(item));
         }
         if (auto* const legend = host::ElementOf<CMapLegend>(frame)) {
-            Name(*legend);
+            host::DressLegend(*legend, m_design);  // so that one sees its title
         }
         if (auto* const bar = host::FrameAs<host::ScaleBarFrame>(item)) {
             bar->SetLanguage(*m_design.language);
@@ -137,14 +137,6 @@ public:
 
 private:
     host::ShownMap Shown() const { return host::Shown({}, m_map.map, m_map.room); }
-
-    /// A legend of nothing shows its title, so that one sees it.
-    void Name(CMapLegend& legend) const {
-        host::SetCaptions(legend, *m_design.language);
-        legend.SetTitleValue(m_design.language->legend);
-        legend.SetTitle(m_design.legend.family);
-        legend.SetFileName(m_design.legend.family);
-    }
 
     PlacedMap m_map;
     host::PageDesign m_design;

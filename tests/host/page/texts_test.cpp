@@ -44,7 +44,6 @@ protected:
         return page;
     }
 
-private:
     host::RasterStore m_rasters;
 };
 
@@ -108,6 +107,31 @@ TEST_F(TextsOfAPage, NameTheCharactersThatNoFontHas) {
     ASSERT_EQ(remarks.size(), 1u);
     EXPECT_EQ(remarks[0].find("scale-bar: no font has \""), 0u);
     EXPECT_NE(remarks[0].find(" U+0F49 and 2 more): boxes"), std::string::npos);
+}
+
+TEST_F(TextsOfAPage, OfALegendHaveItsNamesAndAreToldWhereTheyAreCut) {
+    const struct {
+        const wchar_t* names;
+        float width;
+        const wchar_t* written;
+        std::vector<std::string> remarks;
+    } rows[] = {{L"", 0.0f, L"scene.tif", {}},
+                {L"Relief\nOf another", 0.0f, L"Relief", {}},
+                {L"\nOf another", 1000.0f, L"\u2026影像名：scene.tif", {}},
+                {L"A name that is too long",
+                 80.0f,
+                 L"\u2026影像名：A name that is too long",
+                 {"legend: names or labels are too wide for it, and end in \u2026"}}};
+    for (const auto& row : rows) {
+        PageItem item = Item("legend");
+        host::FrameAs<host::LegendFrame>(item)->SetName("legend");
+        host::FrameAs<host::LegendFrame>(item)->SetNames(row.names);
+        host::ElementOf<CMapLegend>(item)->SetMostWidth(row.width);
+        host::OpenRasters(item, m_rasters);
+        EXPECT_NE(host::TextsOf(item)[1].characters.find(row.written),
+                  std::wstring::npos);
+        EXPECT_EQ(host::RemarksOfTexts(PageOf(std::move(item))), row.remarks);
+    }
 }
 
 TEST_F(TextsOfAPage, AreInFontsThatAreInstalled) {

@@ -8,6 +8,10 @@ std::vector<Property> LegendProperties() {
     return {
         Of<&LegendFrame::RasterPaths, &LegendFrame::SetRasterPaths>(
             "rasters", "Files that it explains, in order", PropertyKind::Rasters),
+        Of<&LegendFrame::Names, &LegendFrame::SetNames>(
+            "names",
+            "What they are called, a line each; an empty one is by its file's name",
+            PropertyKind::Text),
         Of<&CMapLegend::GetTitleValue, &CMapLegend::SetTitleValue>("title", "First line",
                                                                    PropertyKind::Text),
         Of<&CMapLegend::GetSourceCaption, &CMapLegend::SetSourceCaption>(
@@ -42,6 +46,21 @@ std::vector<Property> LegendProperties() {
               kFontStyles),
         Of<&CMapLegend::GetFileColor, &CMapLegend::SetFileColor>(
             "fileNameColor", "Colour of the file names", PropertyKind::Colour),
+        Of<&CMapLegend::GetAlignedLabels, &CMapLegend::SetAlignedLabels>(
+            "alignedLabels",
+            "Whether labels are level with their swatches, and the values of a ramp with "
+            "its ends, with the decimals they need",
+            PropertyKind::Switch),
+        Within(Of<&CMapLegend::GetGap, &CMapLegend::SetGap>(
+                   "gap", "Between its rows, in heights of one; 0: 12 page units",
+                   PropertyKind::Number),
+               {0.0, 100.0}),
+        Within(Of<&CMapLegend::GetMostWidth, &CMapLegend::SetMostWidth>(
+                   "mostWidth",
+                   "How wide names and labels may be when they are measured; what is "
+                   "wider ends in an ellipsis; 0: any",
+                   PropertyKind::Number),
+               kLengths),
         Within(
             Of<&LegendFrame::SizeFactor, &LegendFrame::SetSizeFactor>(
                 "sizeFactor", "What both em sizes are multiplied by when it is measured",

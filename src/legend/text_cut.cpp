@@ -1,0 +1,35 @@
+#include <cstddef>
+
+#include "legend/lettering.h"
+
+namespace map_surround {
+
+std::wstring Cut(const std::wstring& text, float width, Ruler& ruler,
+                 const Lettering& lettering) {
+    const auto fits = [&](const std::wstring& cut) {
+        return static_cast<float>(ruler.Measure(cut, lettering).Width) <= width;
+    };
+    const auto ended = [&text](std::size_t length) {
+        constexpr wchar_t kEllipsis = L'\u2026';
+        constexpr unsigned kFirstOfTwo = 0xD800;  // half a character is none
+        const bool isHalf = length > 0 && (static_cast<unsigned>(text[length - 1]) &
+                                           ~0x3FFU) == kFirstOfTwo;
+        return text.substr(0, isHalf ? length - 1 : length) + kEllipsis;
+    };
+    if (fits(text)) {
+        return text;
+    }
+    std::size_t shortest = 0;
+    std::size_t longest = text.size();
+    while (shortest < longest) {
+        const std::size_t middle = longest - (longest - shortest) / 2;
+        if (fits(ended(middle))) {
+            shortest = middle;
+        } else {
+            longest = middle - 1;
+        }
+    }
+    return ended(shortest);
+}
+
+}  // namespace map_surround
