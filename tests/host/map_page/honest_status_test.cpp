@@ -77,7 +77,9 @@ TEST_F(HonestStatus, OfFontsThatAreNotThere) {
         << boxes.err;
 }
 
-#ifndef __SANITIZE_ADDRESS__  // which takes memory and descriptors itself
+#ifndef __SANITIZE_ADDRESS__      // which takes memory and descriptors itself
+constexpr int kNotStarted = 127;  // for want of a library
+
 // Fonts and rasters are files, and take memory: without either, texts were once boxes.
 TEST_F(HonestStatus, OfDescriptorsAndMemoryThatRunOut) {
     const Arguments draw = {"data/scene.tif", "-o", "page.png", "--dpi", "60"};
@@ -87,27 +89,30 @@ TEST_F(HonestStatus, OfDescriptorsAndMemoryThatRunOut) {
         fs::remove(folder.Path("page.png"));
         const RunningMapPage running(folder, draw, [resource, most] {
             const rlimit limit = {most, most};
+            alarm(60);  // seconds; a page takes a fraction of one
             setrlimit(static_cast<__rlimit_resource>(resource), &limit);
         });
         const Result result = running.Wait();
         const bool drawn = result.status == 0;
+        EXPECT_TRUE(drawn || result.status == 1 || result.status == kNotStarted)
+            << most << " ends with " << result.status;
         EXPECT_EQ(fs::exists(folder.Path("page.png")), drawn) << most;
-        // What is measured while memory is short may be laid out in another size.
-        EXPECT_TRUE(!drawn || resource == RLIMIT_AS ||
-                    ContentsOf(folder.Path("page.png")) == whole)
-            << most;
+        EXPECT_TRUE(!drawn || ContentsOf(folder.Path("page.png")) == whole) << most;
         EXPECT_EQ(std::count(result.err.begin(), result.err.end(), '\n'), drawn ? 0 : 1)
             << most << result.err;
         return drawn;
     };
     bool isEnough = false;
-    for (rlim_t most = 4; !isEnough; ++most) {
+    for (rlim_t most = 3; !isEnough; ++most) {
         ASSERT_LT(most, 100u);
         isEnough = tryWith(RLIMIT_NOFILE, most);
     }
-    for (rlim_t megabytes = 200; megabytes <= 300; megabytes += 10) {
-        tryWith(RLIMIT_AS, megabytes << 20);
+    std::size_t pages = 0;
+    for (rlim_t megabytes = 100; megabytes <= 600;
+         megabytes += megabytes < 250 ? 10 : 50) {
+        pages += tryWith(RLIMIT_AS, megabytes << 20) ? 1 : 0;
     }
+    EXPECT_GT(pages, 0u);
 }
 #endif
 
