@@ -2,7 +2,7 @@
 
 #include <benchmark/benchmark.h>
 
-#include "system/gdiplus_session.h"
+#include "map_surround/kit/gdiplus_session.h"
 
 namespace bench {
 
@@ -13,7 +13,7 @@ inline int RunBenchmarks(int argc, char** argv) {
     if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
         return 2;
     }
-    const host::GdiplusSession session;
+    const map_surround::kit::GdiplusSession session;
     benchmark::RunSpecifiedBenchmarks();
     return 0;
 }

@@ -7,9 +7,14 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "map_surround/kit/gdiplus_session.h"
+#include "map_surround/kit/handles.h"
+#include "map_surround/kit/image_file.h"
 #include "map_surround/map_surround.h"
 
 namespace {
+
+namespace kit = map_surround::kit;
 
 // The page unit is a tenth of a millimetre, the sheet A6 landscape.
 constexpr double kPageHeight = 1050.0;
@@ -17,14 +22,6 @@ constexpr double kScale = 0.4;  // pixels per page unit
 constexpr double kMargin = 70.0;
 constexpr double kTolerance = 4.0 / kScale;  // four pixels around a handle
 constexpr int kHandleSide = 7;               // pixels
-
-/// Which way a handle pulls, in the order of HitHandle; y upwards.
-struct Direction {
-    int x;
-    int y;
-};
-constexpr Direction kHandles[] = {{-1, 1}, {0, 1},  {1, 1},   {1, 0},
-                                  {1, -1}, {0, -1}, {-1, -1}, {-1, 0}};
 
 int Pixel(double length) { return static_cast<int>(std::lround(length * kScale)); }
 
@@ -66,7 +63,7 @@ void Enlarge(Placed& placed, double factor) {
 }
 
 /// Sizes the frame to its element. The point of the frame opposite to a direction stays.
-void Fit(Placed& placed, Direction pulled, CPoint2D anchor) {
+void Fit(Placed& placed, kit::Pull pulled, CPoint2D anchor) {
     const double width = placed.Width() + kMargin;
     const double height = placed.Height() + kMargin;
     const double left = anchor.x - (1 - pulled.x) * width / 2.0;
@@ -74,7 +71,7 @@ void Fit(Placed& placed, Direction pulled, CPoint2D anchor) {
     placed.frame.SetExtent(CBoundingBox(left, bottom, left + width, bottom + height));
 }
 
-void Resize(Placed& placed, Direction pulled, CPoint2D to) {
+void Resize(Placed& placed, kit::Pull pulled, CPoint2D to) {
     const CBoundingBox extent = placed.frame.GetExtent();
     const CPoint2D anchor(extent.TopLeft().x + extent.GetWidth() * (1 - pulled.x) / 2.0,
                           extent.TopLeft().y - extent.GetHeight() * (1 + pulled.y) / 2.0);
@@ -96,23 +93,13 @@ void Drag(Placed (&page)[3], CPoint2D from, CPoint2D to) {
     for (Placed& placed : page) {
         const SpatialTopoRelation hit = placed.frame.HitTest(from, kTolerance, false);
         if (hit == TopoOnHandle) {
-            Resize(placed, kHandles[placed.frame.HitHandle], to);
+            Resize(placed, kit::PullOf(placed.frame.HitHandle), to);
             return;
         }
         if (hit == TopoWithin) {
             placed.frame.SetOffset(to.x - from.x, to.y - from.y);
             return;
         }
-    }
-}
-
-void DrawHandles(Gdiplus::Graphics& graphics, const CRect& rect) {
-    const Gdiplus::SolidBrush brush(Gdiplus::Color(0xFF2A6FDB));
-    for (const Direction& handle : kHandles) {
-        const int x = rect.left + (rect.right - rect.left) * (1 + handle.x) / 2;
-        const int y = rect.top + (rect.bottom - rect.top) * (1 - handle.y) / 2;
-        graphics.FillRectangle(&brush, x - kHandleSide / 2, y - kHandleSide / 2,
-                               kHandleSide, kHandleSide);
     }
 }
 
@@ -125,7 +112,7 @@ void Draw(Gdiplus::Graphics& graphics, Placed& placed) {
     placed.frame.DrawFrame(&graphics, rect);
     placed.frame.Draw(
         &graphics, {(rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2}, kScale);
-    DrawHandles(graphics, rect);
+    kit::DrawHandles(graphics, rect, kHandleSide, Gdiplus::Color(0xFF2A6FDB));
     std::printf("%.0f %.0f %.0f %.0f\n", extent.TopLeft().x,
                 extent.TopLeft().y - extent.GetHeight(),
                 extent.TopLeft().x + extent.GetWidth(), extent.TopLeft().y);
@@ -165,27 +152,18 @@ bool DrawPage(Placed (&page)[3], const wchar_t* file) {
             Draw(graphics, placed);
         }
     }
-    const CLSID png = {
-        0x557CF406, 0x1A04, 0x11D3, {0x9A, 0x73, 0x00, 0x00, 0xF8, 0x1E, 0xF3, 0x2E}};
-    return bitmap.Save(file, &png, nullptr) == Gdiplus::Ok;
+    return kit::SaveImage(bitmap, file, kScale * 254.0) == Gdiplus::Ok;
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-    ULONG_PTR token = 0;
-    const Gdiplus::GdiplusStartupInput input;
-    Gdiplus::GdiplusStartup(&token, &input, nullptr);
-    bool drawn = false;
-    {
-        Placed page[3];
-        Lay(page);
-        for (int i = 1; i + 3 < argc; i += 4) {
-            Drag(page, {std::atof(argv[i]), std::atof(argv[i + 1])},
-                 {std::atof(argv[i + 2]), std::atof(argv[i + 3])});
-        }
-        drawn = DrawPage(page, L"edited_page.png");
+    const kit::GdiplusSession session;
+    Placed page[3];
+    Lay(page);
+    for (int i = 1; i + 3 < argc; i += 4) {
+        Drag(page, {std::atof(argv[i]), std::atof(argv[i + 1])},
+             {std::atof(argv[i + 2]), std::atof(argv[i + 3])});
     }
-    Gdiplus::GdiplusShutdown(token);
-    return drawn ? 0 : 1;
+    return DrawPage(page, L"edited_page.png") ? 0 : 1;
 }

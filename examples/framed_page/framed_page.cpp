@@ -4,6 +4,9 @@
 
 #include <cstdlib>
 
+#include "map_surround/kit/division.h"
+#include "map_surround/kit/gdiplus_session.h"
+#include "map_surround/kit/image_file.h"
 #include "map_surround/map_surround.h"
 
 namespace {
@@ -67,14 +70,14 @@ CNorthArrowFourAngle* NewNorthArrow() {
 }
 
 CScaleAlternate* NewScaleBar() {
-    constexpr double kDivision = 500.0;  // metres
+    constexpr double kLongest = 700.0;
     auto* bar = new CScaleAlternate;
     bar->SetSize(80);
     bar->SetUnitsName(L"m");
     bar->SetMainDivCount(3);
-    bar->SetPaper2DataScale(kDivision);
-    bar->SetScreen2PaperByOneScale(kDivision / kMetresPerUnit);
-    bar->SetPaper2ScreenScale(kDivision / kMetresPerUnit);
+    // 500 m each, for three of 1000 m would be longer.
+    map_surround::kit::SetDivision(
+        *bar, map_surround::kit::LargestDivision(kMetresPerUnit, 3, kLongest).value());
     bar->ResetAspectRatio();
     return bar;
 }
@@ -83,7 +86,6 @@ bool DrawPage(const wchar_t* file, double dpi) {
     const double pixelsPerUnit = dpi / kUnitsPerInch;
     Gdiplus::Bitmap page(static_cast<int>(kPageWidth * pixelsPerUnit),
                          static_cast<int>(kPageHeight * pixelsPerUnit));
-    page.SetResolution(static_cast<float>(dpi), static_cast<float>(dpi));
     Gdiplus::Graphics graphics(&page);
     graphics.Clear(Gdiplus::Color(0xFFFFFFFF));
     graphics.SetSmoothingMode(Gdiplus::SmoothingModeAntiAlias);
@@ -97,19 +99,13 @@ bool DrawPage(const wchar_t* file, double dpi) {
     DrawFramed(&graphics, NewNorthArrow(), 1220.0, 560.0);
     DrawFramed(&graphics, NewScaleBar(), 740.0, 170.0);
 
-    const CLSID png = {
-        0x557CF406, 0x1A04, 0x11D3, {0x9A, 0x73, 0x00, 0x00, 0xF8, 0x1E, 0xF3, 0x2E}};
-    return page.Save(file, &png, nullptr) == Gdiplus::Ok;
+    return map_surround::kit::SaveImage(page, file, dpi) == Gdiplus::Ok;
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
     const double dpi = argc > 1 ? std::atof(argv[1]) : 100.0;
-    ULONG_PTR token = 0;
-    const Gdiplus::GdiplusStartupInput input;
-    Gdiplus::GdiplusStartup(&token, &input, nullptr);
-    const bool drawn = DrawPage(L"page.png", dpi);
-    Gdiplus::GdiplusShutdown(token);
-    return drawn ? 0 : 1;
+    const map_surround::kit::GdiplusSession session;
+    return DrawPage(L"page.png", dpi) ? 0 : 1;
 }

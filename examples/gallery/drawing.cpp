@@ -3,10 +3,9 @@
 #include <algorithm>
 #include <cstdio>
 
-namespace gallery {
+#include "map_surround/kit/image_file.h"
 
-constexpr CLSID kPngEncoder = {
-    0x557CF406, 0x1A04, 0x11D3, {0x9A, 0x73, 0x00, 0x00, 0xF8, 0x1E, 0xF3, 0x2E}};
+namespace gallery {
 
 void Write(Gdiplus::Graphics* graphics, const std::wstring& text, float size, int style,
            Gdiplus::Color color, int left, int top) {
@@ -50,7 +49,7 @@ std::wstring Spoken(std::string_view word) {
 }
 
 bool SavePng(Gdiplus::Bitmap& bitmap, const std::wstring& file) {
-    if (bitmap.Save(file.c_str(), &kPngEncoder, nullptr) != Gdiplus::Ok) {
+    if (map_surround::kit::SaveImage(bitmap, file, 96.0) != Gdiplus::Ok) {
         std::fprintf(stderr, "gallery: %ls: cannot be written\n", file.c_str());
         return false;
     }

@@ -9,6 +9,7 @@
 #include "annotated/annotated.h"
 #include "drawing.h"
 #include "gallery.h"
+#include "map_surround/kit/gdiplus_session.h"
 
 namespace {
 
@@ -89,14 +90,8 @@ int main(int argc, char** argv) {
     std::error_code failed;
     std::filesystem::create_directories(folder, failed);
 
-    const Gdiplus::GdiplusStartupInput input;
-    ULONG_PTR token = 0;
-    if (Gdiplus::GdiplusStartup(&token, &input, nullptr) != Gdiplus::Ok) {
-        std::fputs("gallery: GDI+ does not start\n", stderr);
-        return 1;
-    }
+    const map_surround::kit::GdiplusSession session;
     const bool all = draw(std::filesystem::path(folder).wstring() + L"/");
-    Gdiplus::GdiplusShutdown(token);
     std::printf("drawn into %s\n", folder.c_str());
     return all ? 0 : 1;
 }

@@ -2,6 +2,7 @@
 
 #include <gdiplus/cairo.h>
 
+#include "map_surround/kit/gdiplus_session.h"
 #include "map_surround/map_surround.h"
 
 static void DrawNorthArrow(cairo_t* cairo) {
@@ -12,9 +13,7 @@ static void DrawNorthArrow(cairo_t* cairo) {
 }
 
 int main() {
-    ULONG_PTR token = 0;
-    const Gdiplus::GdiplusStartupInput input;
-    Gdiplus::GdiplusStartup(&token, &input, nullptr);
+    const map_surround::kit::GdiplusSession session;
 
     cairo_surface_t* const surface =
         cairo_image_surface_create(CAIRO_FORMAT_ARGB32, 120, 120);
@@ -29,6 +28,5 @@ int main() {
     cairo_destroy(cairo);
     cairo_surface_destroy(surface);
 
-    Gdiplus::GdiplusShutdown(token);
     return status == CAIRO_STATUS_SUCCESS ? 0 : 1;
 }

@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <vector>
 
+#include "map_surround/kit/gdiplus_session.h"
 #include "map_surround/map_surround.h"
 
 static void DrawTitle(std::vector<std::uint32_t>& pixels, int width, int height) {
@@ -26,11 +27,8 @@ int main() {
     constexpr int kHeight = 120;
     std::vector<std::uint32_t> pixels(std::size_t{kWidth} * kHeight, 0xFFB9CFA8);
 
-    ULONG_PTR token = 0;
-    const Gdiplus::GdiplusStartupInput input;
-    Gdiplus::GdiplusStartup(&token, &input, nullptr);
+    const map_surround::kit::GdiplusSession session;
     DrawTitle(pixels, kWidth, kHeight);
-    Gdiplus::GdiplusShutdown(token);
 
     std::FILE* const file = std::fopen("title.ppm", "wb");
     if (file == nullptr) {

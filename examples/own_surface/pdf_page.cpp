@@ -3,6 +3,7 @@
 #include <cairo-pdf.h>
 #include <gdiplus/cairo.h>
 
+#include "map_surround/kit/gdiplus_session.h"
 #include "map_surround/map_surround.h"
 
 static void DrawPage(cairo_t* cairo) {
@@ -25,9 +26,7 @@ static void DrawPage(cairo_t* cairo) {
 }
 
 int main() {
-    ULONG_PTR token = 0;
-    const Gdiplus::GdiplusStartupInput input;
-    Gdiplus::GdiplusStartup(&token, &input, nullptr);
+    const map_surround::kit::GdiplusSession session;
 
     // 148 by 105 millimetres, in points.
     cairo_surface_t* const surface =
@@ -39,6 +38,5 @@ int main() {
     const cairo_status_t status = cairo_surface_status(surface);
     cairo_surface_destroy(surface);
 
-    Gdiplus::GdiplusShutdown(token);
     return status == CAIRO_STATUS_SUCCESS ? 0 : 1;
 }

@@ -2,6 +2,7 @@
 
 #include <QImage>
 
+#include "map_surround/kit/gdiplus_session.h"
 #include "map_surround/map_surround.h"
 
 static void DrawTitle(QImage& image) {
@@ -18,12 +19,9 @@ static void DrawTitle(QImage& image) {
 }
 
 int main() {
-    ULONG_PTR token = 0;
-    const Gdiplus::GdiplusStartupInput input;
-    Gdiplus::GdiplusStartup(&token, &input, nullptr);
+    const map_surround::kit::GdiplusSession session;
     QImage image(320, 120, QImage::Format_ARGB32_Premultiplied);
     image.fill(0xFFA8CFB9);
     DrawTitle(image);
-    Gdiplus::GdiplusShutdown(token);
     return image.save("title.png") ? 0 : 1;
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "map_surround/kit/division.h"
 #include "page/catalogue.h"
 #include "page/element_of.h"
 
@@ -59,30 +60,17 @@ void ScaleBarFrame::SetDivisionValue(double value) {
 }
 
 void ScaleBarFrame::Draw(Gdiplus::Graphics* graphics, CPoint centre, double scale) {
-    constexpr double kNobodySees = 0.15;  // pixels
-    constexpr double kAboveWhole = 1e-3;  // pixels, for what the bar cuts off is rounded
     auto* const bar = ElementOf<CScaleBarBase>(*this);
-    const double length = m_divisionLength * scale;
-    if (bar == nullptr || !m_isExact || !(length > 0.0)) {
-        if (bar != nullptr) {
-            bar->SetPaper2ScreenScale(length);
-        }
-        PlacedFrame::Draw(graphics, centre, scale);
+    if (bar != nullptr && m_isExact) {
+        map_surround::kit::WithTrueDivisions(
+            *graphics, *bar, m_divisionLength, centre.x, scale,
+            [&] { PlacedFrame::Draw(graphics, centre, scale); });
         return;
     }
-    const double whole = std::max(1.0, std::round(length));
-    bar->SetPaper2ScreenScale(whole + kAboveWhole);
-    if (std::fabs(length - whole) * bar->GetMainDivCount() <= kNobodySees) {
-        PlacedFrame::Draw(graphics, centre, scale);
-        return;
+    if (bar != nullptr) {
+        bar->SetPaper2ScreenScale(m_divisionLength * scale);
     }
-    const Gdiplus::GraphicsState state = graphics->Save();
-    const auto middle = static_cast<float>(centre.x);
-    graphics->TranslateTransform(middle, 0.0f);
-    graphics->ScaleTransform(static_cast<float>(length / whole), 1.0f);
-    graphics->TranslateTransform(-middle, 0.0f);
     PlacedFrame::Draw(graphics, centre, scale);
-    graphics->Restore(state);
 }
 
 void LegendFrame::SetSources(std::vector<CGISDataSource*> sources,

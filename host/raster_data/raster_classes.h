@@ -6,11 +6,14 @@
 #include <string>
 #include <vector>
 
-#include "raster_data/classification_table.h"
+#include "map_surround/kit/classification_table.h"
 
 class GDALRasterBand;
 
 namespace host {
+
+using map_surround::kit::ClassColour;
+using map_surround::kit::ClassificationTable;
 
 /// The classes that a band's attribute table, palette and category names define: which
 /// class a value belongs to, its name and its colour. What none of them knows is a class

@@ -11,20 +11,11 @@
 #include <memory>
 #include <string>
 
+#include "map_surround/kit/gdiplus_session.h"
+
 namespace examples {
 
-/// GDI+ for as long as a test runs.
-class Session {
-public:
-    Session() { Gdiplus::GdiplusStartup(&m_token, &m_input, nullptr); }
-    ~Session() { Gdiplus::GdiplusShutdown(m_token); }
-    Session(const Session&) = delete;
-    Session& operator=(const Session&) = delete;
-
-private:
-    const Gdiplus::GdiplusStartupInput m_input;
-    ULONG_PTR m_token = 0;
-};
+using Session = map_surround::kit::GdiplusSession;
 
 /// An example run in an empty folder, which is removed with this.
 class Program {

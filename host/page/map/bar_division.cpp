@@ -3,6 +3,8 @@
 #include <cmath>
 #include <utility>
 
+#include "map_surround/kit/division.h"
+
 namespace host {
 
 BarMeasure BarMeasure::OfGround(MapGround ground) {
@@ -41,7 +43,7 @@ std::optional<BarDivision> LargestDivision(const BarMeasure& measure, DistanceUn
         return std::nullopt;
     }
     const DistanceUnit counted = UnitFor(unit, part);
-    const double value = RoundDivision(part / FactsOf(counted).size);
+    const double value = map_surround::kit::RoundDivision(part / FactsOf(counted).size);
     return DivisionOfValue(measure, counted, value, divisions, most);
 }
 

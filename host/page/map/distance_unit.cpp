@@ -67,20 +67,4 @@ DistanceUnit UnitFor(DistanceUnit unit, double size) {
     return unit;
 }
 
-double RoundDivision(double value) {
-    constexpr double kDigits[] = {10.0, 5.0, 2.0};
-    const double power = std::pow(10.0, std::floor(std::log10(value)));
-    // Multiplying a power of ten below 1 would miss the double that its text stands for.
-    const double inverse = std::round(1.0 / power);
-    const auto times = [&](double digit) {
-        return power >= 1.0 ? digit * power : digit / inverse;
-    };
-    for (const double digit : kDigits) {
-        if (times(digit) * kNearly <= value) {
-            return times(digit);
-        }
-    }
-    return times(1.0);
-}
-
 }  // namespace host

@@ -54,9 +54,4 @@ constexpr bool IsByLength(DistanceUnit unit) {
 /// @param size metres; degrees for an angle
 DistanceUnit UnitFor(DistanceUnit unit, double size);
 
-/// The largest of 1, 2 and 5 times a power of ten that is not above a value: 37 gives 20,
-/// 0.5 stays 0.5. A scale bar, which rounds down to one digit by itself, leaves it alone.
-/// @param value above 0 and finite
-double RoundDivision(double value);
-
 }  // namespace host

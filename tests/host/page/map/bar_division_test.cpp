@@ -32,43 +32,6 @@ TEST(DistanceUnits, ChooseTheLargerAsSoonAsADivisionIsOneOfIt) {
     EXPECT_EQ(host::UnitFor(DistanceUnit::Metre, 1.0e6), DistanceUnit::Metre);
 }
 
-TEST(RoundDivision, TakesTheLargestOfOneTwoAndFive) {
-    struct Row {
-        double value;
-        double rounded;
-    };
-    const Row rows[] = {
-        {1.0, 1.0},     {1.9, 1.0},        {2.0, 2.0},       {4.99, 2.0},  {5.0, 5.0},
-        {9.99, 5.0},    {10.0, 10.0},      {37.0, 20.0},     {0.3, 0.2},   {0.1, 0.1},
-        {0.007, 0.005}, {999.0, 500.0},    {1000.0, 1000.0}, {0.05, 0.05}, {1e-5, 1e-5},
-        {3e7, 2e7},     {0.0999999, 0.05},
-    };
-    for (const Row& row : rows) {
-        EXPECT_EQ(host::RoundDivision(row.value), row.rounded) << row.value;
-    }
-}
-
-// A bar's aspect ratio follows from its division after rounding: what it leaves alone is
-// as long as it was told.
-TEST(RoundDivision, GivesWhatScaleBarsLeaveAlone) {
-    for (int power = -6; power <= 9; ++power) {
-        for (const double digit : {1.0, 2.0, 5.0}) {
-            const double value =
-                host::RoundDivision(digit * std::pow(10.0, power) * 1.01);
-            CScaleLine bar;
-            bar.SetSize(40);
-            bar.SetMainDivCount(1);
-            bar.SetScreen2PaperByOneScale(1000.0);
-            bar.SetPaper2DataScale(1.0);
-            bar.ResetAspectRatio();
-            const float expected = bar.GetAspectRatio();
-            bar.SetPaper2DataScale(value);
-            bar.ResetAspectRatio();
-            EXPECT_NEAR(bar.GetAspectRatio(), expected, 1e-3) << value;
-        }
-    }
-}
-
 TEST(BarDivision, CountsCoordinatesInTheUnitThatIsAskedFor) {
     // A bar of at most 10 000 map units, which are metres.
     const BarMeasure metres = BarMeasure::OfCoordinates(1.0);

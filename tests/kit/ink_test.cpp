@@ -1,4 +1,4 @@
-#include "page/ink.h"
+#include "map_surround/kit/ink.h"
 
 #include <gdiplus.h>
 #include <gtest/gtest.h>
@@ -7,6 +7,9 @@
 #include <vector>
 
 namespace {
+
+using map_surround::kit::InkBox;
+using map_surround::kit::MeasureInk;
 
 /// Fills boxes that are told from the centre, x to the right and y downwards, at scale 1.
 class Boxes : public CMapSurround {
@@ -33,7 +36,7 @@ private:
     std::vector<Gdiplus::RectF> m_boxes;
 };
 
-void ExpectInk(const host::InkBox& ink, const host::InkBox& expected, double tolerance) {
+void ExpectInk(const InkBox& ink, const InkBox& expected, double tolerance) {
     EXPECT_NEAR(ink.left, expected.left, tolerance);
     EXPECT_NEAR(ink.right, expected.right, tolerance);
     EXPECT_NEAR(ink.up, expected.up, tolerance);
@@ -43,33 +46,33 @@ void ExpectInk(const host::InkBox& ink, const host::InkBox& expected, double tol
 TEST(Ink, IsNothingWhereNothingIsDrawn) {
     for (const int size : {0, 20, 900}) {
         Boxes none(size, 2.0f, {});
-        EXPECT_TRUE(host::MeasureInk(none).IsEmpty());
+        EXPECT_TRUE(MeasureInk(none).IsEmpty());
     }
 }
 
 TEST(Ink, ReachesAsFarAsTheDrawing) {
     Boxes small(20, 5.0f, {{-50.0f, -10.0f, 130.0f, 15.0f}});
-    ExpectInk(host::MeasureInk(small), {50.0, 80.0, 10.0, 5.0}, 0.0);
+    ExpectInk(MeasureInk(small), {50.0, 80.0, 10.0, 5.0}, 0.0);
     Boxes large(600, 2.0f, {{-700.0f, -20.0f, 1600.0f, 50.0f}});
-    ExpectInk(host::MeasureInk(large), {700.0, 900.0, 20.0, 30.0}, 0.0);
+    ExpectInk(MeasureInk(large), {700.0, 900.0, 20.0, 30.0}, 0.0);
 }
 
 TEST(Ink, OfWhatIsLargerThanTheLargestBitmapIsExactToAPixelOfThat) {
     Boxes huge(3000, 2.0f, {{-4000.0f, -2000.0f, 7000.0f, 3000.0f}});
     // 12 400 units are looked at in 3 000 pixels: one is 4.1333 units.
-    ExpectInk(host::MeasureInk(huge), {4000.0, 3000.0, 2000.0, 1000.0}, 4.14);
+    ExpectInk(MeasureInk(huge), {4000.0, 3000.0, 2000.0, 1000.0}, 4.14);
 }
 
 TEST(Ink, MayLieToOneSide) {
     Boxes aside(600, 2.0f, {{300.0f, 200.0f, 40.0f, 30.0f}});
-    ExpectInk(host::MeasureInk(aside), {-300.0, 340.0, -200.0, 230.0}, 0.0);
+    ExpectInk(MeasureInk(aside), {-300.0, 340.0, -200.0, 230.0}, 0.0);
 }
 
 TEST(Ink, OfTwoPartsIsAroundBoth) {
     for (const float gap : {1.0f, 10.0f, 20.0f, 40.0f, 100.0f, 400.0f}) {
         Boxes parts(600, 2.0f,
                     {{-50.0f, -10.0f, 100.0f, 20.0f}, {50.0f + gap, -2.0f, 5.0f, 5.0f}});
-        ExpectInk(host::MeasureInk(parts), {50.0, 55.0 + gap, 10.0, 10.0}, 0.0);
+        ExpectInk(MeasureInk(parts), {50.0, 55.0 + gap, 10.0, 10.0}, 0.0);
     }
 }
 
@@ -90,7 +93,7 @@ public:
 TEST(Ink, IsThatOfTheLargeScaleWhereASmallOneDrawsLess) {
     // At a quarter of the scale, ten units are two whole pixels and not 2.5.
     Steps steps;
-    ExpectInk(host::MeasureInk(steps), {0.0, 900.0, 0.0, 5.0}, 0.0);
+    ExpectInk(MeasureInk(steps), {0.0, 900.0, 0.0, 5.0}, 0.0);
 }
 
 }  // namespace

@@ -1,18 +1,23 @@
-#include "raster_data/classification_table.h"
-
 #include <gtest/gtest.h>
+
+#include <stdexcept>
+
+#include "map_surround/kit/classification_table.h"
+#include "map_surround/kit/gdiplus_session.h"
 
 namespace {
 
+using map_surround::kit::ClassificationTable;
+
 TEST(ClassificationTable, IsEmptyAtFirst) {
-    host::ClassificationTable table;
+    ClassificationTable table;
     EXPECT_EQ(table.GetClassesCount(), 0);
     EXPECT_EQ(table.GetClassifyItem(0), nullptr);
     EXPECT_EQ(table.GetClassifyItem(-1), nullptr);
 }
 
 TEST(ClassificationTable, KeepsLabelsAndColoursInOrder) {
-    host::ClassificationTable table;
+    ClassificationTable table;
     table.Add(L"Water", {1, 2, 3, 4});
     CClassifyDisplayItem* const first = table.GetClassifyItem(0);
     for (int i = 1; i < 1000; ++i) {
@@ -35,6 +40,16 @@ TEST(ClassificationTable, KeepsLabelsAndColoursInOrder) {
     EXPECT_EQ(green, 251);
     EXPECT_EQ(blue, 252);
     EXPECT_EQ(fourth, 255);  // opaque unless told otherwise
+}
+
+TEST(GdiplusSession, LetsElementsBeDrawnAsLongAsItLives) {
+    const map_surround::kit::GdiplusSession second;  // beside the tests' own
+    Gdiplus::Bitmap bitmap(4, 4);
+    EXPECT_EQ(bitmap.GetLastStatus(), Gdiplus::Ok);
+
+    Gdiplus::GdiplusStartupInput input;
+    input.GdiplusVersion = 77;
+    EXPECT_THROW(map_surround::kit::GdiplusSession{input}, std::runtime_error);
 }
 
 }  // namespace

@@ -1,0 +1,81 @@
+#pragma once
+
+/// @file
+/// Pictures of pages as files.
+
+#include <gdiplus.h>
+
+#include <cwctype>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace map_surround::kit {
+
+/// The encoder of a kind of file, by its MIME type, such as L"image/png"; none where GDI+
+/// has no such encoder.
+inline std::optional<CLSID> EncoderOf(std::wstring_view mimeType) {
+    UINT count = 0;
+    UINT bytes = 0;
+    Gdiplus::GetImageEncodersSize(&count, &bytes);
+    // In whole records, for their texts follow them.
+    std::vector<Gdiplus::ImageCodecInfo> encoders(
+        bytes / sizeof(Gdiplus::ImageCodecInfo) + 1);
+    Gdiplus::GetImageEncoders(count, bytes, encoders.data());
+    for (UINT i = 0; i < count; ++i) {
+        if (encoders[i].MimeType != nullptr && encoders[i].MimeType == mimeType) {
+            return encoders[i].Clsid;
+        }
+    }
+    return std::nullopt;
+}
+
+/// The MIME type that goes with the ending of a file's name, in letters of either case:
+/// "plan.JPG" gives image/jpeg. Empty for any but .png, .jpg, .jpeg, .tif, .tiff, .bmp
+/// and .gif.
+inline std::wstring_view MimeTypeOf(std::wstring_view file) {
+    struct Kind {
+        std::wstring_view ending;
+        std::wstring_view mimeType;
+    };
+    constexpr Kind kKinds[] = {
+        {L"png", L"image/png"},  {L"jpg", L"image/jpeg"},  {L"jpeg", L"image/jpeg"},
+        {L"tif", L"image/tiff"}, {L"tiff", L"image/tiff"}, {L"bmp", L"image/bmp"},
+        {L"gif", L"image/gif"},
+    };
+    const std::size_t dot = file.rfind(L'.');
+    if (dot == std::wstring_view::npos) {
+        return {};
+    }
+    std::wstring ending;
+    for (const wchar_t letter : file.substr(dot + 1)) {
+        ending += static_cast<wchar_t>(std::towlower(static_cast<std::wint_t>(letter)));
+    }
+    for (const Kind& kind : kKinds) {
+        if (kind.ending == ending) {
+            return kind.mimeType;
+        }
+    }
+    return {};
+}
+
+/// Saves a picture in the format that its file's ending asks for, with its resolution,
+/// which decides how large it prints: 1748 pixels at 300 dots an inch are 148 mm.
+///
+/// A file of that name is replaced.
+/// @param dpi dots an inch, above 0
+/// @return InvalidParameter for a resolution that is none, UnknownImageFormat for an
+/// ending that has no encoder, else what GDI+ answers
+inline Gdiplus::Status SaveImage(Gdiplus::Bitmap& image, const std::wstring& file,
+                                 double dpi) {
+    const std::optional<CLSID> encoder = EncoderOf(MimeTypeOf(file));
+    if (!encoder) {
+        return Gdiplus::UnknownImageFormat;
+    }
+    const auto resolution = static_cast<Gdiplus::REAL>(dpi);
+    const Gdiplus::Status kept = image.SetResolution(resolution, resolution);
+    return kept == Gdiplus::Ok ? image.Save(file.c_str(), &*encoder, nullptr) : kept;
+}
+
+}  // namespace map_surround::kit
