@@ -139,8 +139,9 @@ images: gallery
 editor: build/release/with-editor
 	cmake --build --preset release --target page_editor
 
-editor-test: build/release/with-test build/release/with-editor
-	cmake --build --preset release --target page_editor_tests example_tests
+editor-test: build/release/with-test build/release/with-editor build/release/with-surfaces
+	cmake --build --preset release \
+	    --target page_editor_tests example_tests qt_image sdl_surface
 	ctest --preset release -R '^(page_editor_tests|examples\.OwnSurface)'
 
 bench: build/release/with-bench
@@ -197,6 +198,7 @@ part_of_demo = $(new_tree)
 part_of_test = -DMAP_SURROUND_TESTS=ON
 part_of_editor = $(new_tree) -DMAP_SURROUND_EDITOR=ON
 part_of_likeness = $(part_of_test)
+part_of_surfaces = $(part_of_editor)
 part_of_bench = $(new_tree) -DMAP_SURROUND_BENCH=ON
 
 build/release/with-%: CMakePresets.json scripts/install_packages

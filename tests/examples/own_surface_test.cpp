@@ -6,6 +6,19 @@ namespace {
 
 using namespace examples;
 
+/// Whether so many of 320 by 120 pixels are black as six letters of 40 pixels have.
+template <typename IsBlack>
+void ExpectLetters(IsBlack isBlack) {
+    int ink = 0;
+    for (int x = 0; x < 320; ++x) {
+        for (int y = 0; y < 120; ++y) {
+            ink += isBlack(x, y) ? 1 : 0;
+        }
+    }
+    EXPECT_GT(ink, 500);
+    EXPECT_LT(ink, 3000);
+}
+
 TEST(OwnSurface, OfAnArrayIsDrawnOnInPlace) {
     const Program program(OWN_ARRAY, "");
     const std::string image = program.Contents("title.ppm");
@@ -19,14 +32,7 @@ TEST(OwnSurface, OfAnArrayIsDrawnOnInPlace) {
     const std::string paper = "\xB9\xCF\xA8";
     EXPECT_EQ(pixel(0, 0), paper);
     EXPECT_EQ(pixel(319, 119), paper);
-    int ink = 0;
-    for (int x = 0; x < 320; ++x) {
-        for (int y = 0; y < 120; ++y) {
-            ink += pixel(x, y) == std::string(3, '\0') ? 1 : 0;
-        }
-    }
-    EXPECT_GT(ink, 500);  // six letters of 40 pixels
-    EXPECT_LT(ink, 3000);
+    ExpectLetters([&](int x, int y) { return pixel(x, y) == std::string(3, '\0'); });
 }
 
 #ifdef CAIRO_SURFACE
@@ -61,14 +67,20 @@ TEST(OwnSurface, OfQtIsDrawnOnInPlace) {
     const std::unique_ptr<Gdiplus::Bitmap> image = program.Image("title.png");
     ASSERT_EQ(image->GetWidth(), 320u);
     EXPECT_EQ(PixelAt(*image, 0, 0), 0xFFA8CFB9);
-    int ink = 0;
-    for (int x = 0; x < 320; ++x) {
-        for (int y = 0; y < 120; ++y) {
-            ink += PixelAt(*image, x, y) == 0xFF000000 ? 1 : 0;
-        }
-    }
-    EXPECT_GT(ink, 500);  // six letters of 40 pixels
-    EXPECT_LT(ink, 3000);
+    ExpectLetters([&](int x, int y) { return PixelAt(*image, x, y) == 0xFF000000; });
+}
+#endif
+
+#ifdef SDL_SURFACE
+// SDL's paper is below the letters, its line above everything.
+TEST(OwnSurface, OfSdlIsDrawnOnBetweenDrawings) {
+    const Session session;
+    const Program program(SDL_SURFACE, "");
+    const std::unique_ptr<Gdiplus::Bitmap> image = program.Image("title.bmp");
+    ASSERT_EQ(image->GetWidth(), 320u);
+    EXPECT_EQ(PixelAt(*image, 0, 0), 0xFFA8CFB9);
+    EXPECT_EQ(PixelAt(*image, 160, 111), 0xFFCC331A);
+    ExpectLetters([&](int x, int y) { return PixelAt(*image, x, y) == 0xFF000000; });
 }
 #endif
 
