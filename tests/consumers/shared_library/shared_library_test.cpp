@@ -5,8 +5,10 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "legend/fake_sources.h"
+#include "map_surround/kit/gdiplus_session.h"
 #include "map_surround/map_surround.h"
 #include "page/catalogue.h"
 #include "title_picture/image_file.h"
@@ -76,6 +78,40 @@ TEST(LibraryHost, DrawsEveryStyle) {
     }
 }
 
+/// Bars and arrows of all styles, as a host may make, measure and draw them before it has
+/// started GDI+.
+std::vector<std::unique_ptr<CMapSurround>> MakeTooEarly() {
+    Gdiplus::Bitmap picture(kWidth, kHeight);
+    Gdiplus::Graphics graphics(&picture);
+    std::vector<std::unique_ptr<CMapSurround>> elements;
+    for (const host::CatalogueEntry& style : host::kCatalogue) {
+        if (style.family == SurroundScaleBar || style.family == SurroundNorthArrow) {
+            elements.push_back(style.make());
+            elements.back()->SetSize(100);
+            elements.back()->ResetAspectRatio();
+            elements.back()->Draw(&graphics, CPoint(kWidth / 2, kHeight / 2), 1.0);
+        }
+    }
+    return elements;
+}
+
+std::vector<std::unique_ptr<CMapSurround>> madeTooEarly;
+
+#ifndef _WIN32  // Wine's GDI+ does not mind
+// A bar has its font family from the start, and none if that was too early.
+TEST(LibraryHost, HearsOfBarsThatItMadeBeforeItStartedGdiplus) {
+    EXPECT_GE(madeTooEarly.size(), 10u);
+    for (const std::unique_ptr<CMapSurround>& element : madeTooEarly) {
+        Gdiplus::Bitmap picture(kWidth, kHeight);
+        Gdiplus::Graphics graphics(&picture);
+        element->Draw(&graphics, CPoint(kWidth / 2, kHeight / 2), 1.0);
+        const bool isBar = element->GetItemType() == SurroundScaleBar;
+        EXPECT_EQ(graphics.GetLastStatus(),
+                  isBar ? Gdiplus::InvalidParameter : Gdiplus::Ok);
+    }
+}
+#endif
+
 TEST(LibraryHost, DrawsTheLegend) {
     fakes::Raster source(L"scene.tif", DisplayRGB);
     CMapLegend legend;
@@ -113,12 +149,7 @@ TEST(LibraryHost, FramesAndDeletesAnElement) {
 
 int main(int argc, char** argv) {
     ::testing::InitGoogleTest(&argc, argv);
-    const Gdiplus::GdiplusStartupInput input;
-    ULONG_PTR token = 0;
-    if (Gdiplus::GdiplusStartup(&token, &input, nullptr) != Gdiplus::Ok) {
-        return 1;
-    }
-    const int result = RUN_ALL_TESTS();
-    Gdiplus::GdiplusShutdown(token);
-    return result;
+    madeTooEarly = MakeTooEarly();
+    const map_surround::kit::GdiplusSession session;
+    return RUN_ALL_TESTS();
 }
