@@ -87,4 +87,6 @@ if(NOT MAP_SURROUND_HOST_INCLUDE_DIR)
   endforeach()
 endif()
 
-include(packages)
+if(PROJECT_IS_TOP_LEVEL)
+  include(packages)
+endif()
