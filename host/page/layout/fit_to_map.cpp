@@ -1,5 +1,6 @@
 #include "page/layout/fit_to_map.h"
 
+#include <algorithm>
 #include <cmath>
 #include <memory>
 #include <optional>
@@ -190,6 +191,33 @@ void FitNumericScale(const PlacedFrame& frame, NumericScale& text, const SpokenO
     }
 }
 
+/// What a page says of a map that has nothing to say it of.
+std::vector<std::string> RemarksOfNoCoordinates(const Page& page) {
+    const std::vector<PageItem>& items = page.Items();
+    std::vector<std::string> remarks;
+    if (std::none_of(items.begin(), items.end(), [](const PageItem& item) {
+            const auto* const map = std::get_if<MapFrame>(&item);
+            return map != nullptr && map->picture != nullptr;
+        })) {
+        return remarks;
+    }
+    const auto tell = [&remarks](const PageItem& item, const char* what) {
+        remarks.push_back(NameOf(item) + ": " + what + ", which has no georeference");
+    };
+    for (const PageItem& item : items) {
+        const auto* const bar = FrameAs<ScaleBarFrame>(item);
+        const auto* const arrow = FrameAs<NorthArrowFrame>(item);
+        if (bar != nullptr && bar->GetBarDistances() != BarDistances::Fixed) {
+            tell(item, "the scale bar is not true to the map");
+        } else if (arrow != nullptr && arrow->TrueNorth()) {
+            tell(item, "the north arrow does not follow the map");
+        } else if (ElementOf<NumericScale>(item) != nullptr) {
+            tell(item, "the numeric scale is not that of the map");
+        }
+    }
+    return remarks;
+}
+
 }  // namespace
 
 std::optional<double> DenominatorOf(const ShownMap& map, double kept, double barLength) {
@@ -217,7 +245,7 @@ std::vector<std::string> FitToMap(Page& page) {
     std::vector<std::string> remarks;
     const std::optional<SpokenOf> map = MapOf(page);
     if (!map) {
-        return remarks;
+        return RemarksOfNoCoordinates(page);
     }
     for (PageItem& item : page.Items()) {
         auto* const barFrame = FrameAs<ScaleBarFrame>(item);

@@ -87,6 +87,20 @@ void TellWhatIsCutOff(const MapDesign& design, const MapOnPage& map,
     }
 }
 
+/// Furniture that is usual, and means nothing without coordinates.
+void TellWhatHasNoCoordinates(const PageDesign& design, const MapOnPage& map,
+                              std::vector<std::string>& remarks) {
+    if (map.extent) {
+        return;
+    }
+    if (design.scaleBar.style.value_or(UsualStyle(SurroundScaleBar)) != nullptr) {
+        remarks.emplace_back("the scale bar is left out: the map has no georeference");
+    }
+    if (!design.northArrow.style) {
+        remarks.emplace_back("the north arrow is left out: the map has no georeference");
+    }
+}
+
 }  // namespace
 
 LaidOutPage LayOut(const PageDesign& design, const MapOnPage& map) {
@@ -103,6 +117,7 @@ LaidOutPage LayOut(const PageDesign& design, const MapOnPage& map) {
     result.page.Add(PlaceMap(body.map, map.picture, measures));
     AddUnlessEmpty(result.page, std::move(title));
     const ShownMap shown = Shown(design.map, map, body.map);
+    TellWhatHasNoCoordinates(design, map, result.remarks);
     TellWhatIsCutOff(design.map, map, shown, result.remarks);
     FillPanel(result.page, design, map, shown, measures, body.panel, result.remarks);
     return result;

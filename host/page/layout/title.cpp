@@ -2,6 +2,7 @@
 #include <cmath>
 
 #include "page/layout/steps.h"
+#include "page/layout/text_size.h"
 
 namespace host {
 namespace {
@@ -39,7 +40,8 @@ std::unique_ptr<CSurroundFrame> PlaceTitle(const PageDesign& design,
     title->SetFontStyle(design.title.family);
     title->SetFontProcess(design.title.style);
 
-    double em = EmOf(design.title, measures);
+    const double wanted = EmOf(design.title, measures);
+    double em = wanted;
     Ink ink = Measure(*title, em);
     if (!(ink.width > 0.0) || !(ink.height > 0.0)) {
         return nullptr;
@@ -52,8 +54,11 @@ std::unique_ptr<CSurroundFrame> PlaceTitle(const PageDesign& design,
         em =
             std::max(std::floor(most * 4.0) / 4.0, UnitsFromPoints(kSmallestTitlePoints));
         ink = Measure(*title, em);
-        if (design.title.points) {
-            remarks.emplace_back("the title is set smaller to fit the page");
+        // What suits the sheet is as large as it fits, down to half of that.
+        if (design.title.points || em < wanted / 2.0) {
+            remarks.push_back("the title is set in " + PointsText(PointsFromUnits(em)) +
+                              " to fit the page, instead of " +
+                              PointsText(PointsFromUnits(wanted)));
         }
     }
 

@@ -108,6 +108,11 @@ MapLayers::MapLayers(std::vector<std::shared_ptr<GdalRaster>> rasters,
 
 std::vector<std::string> MapLayers::Remarks() const {
     std::vector<std::string> remarks = m_remarks;
+    if (m_asked && !m_isPlaced) {
+        remarks.push_back(m_onMap.front()->Path() +
+                          ": the map's extent is of no use without a georeference, and "
+                          "all of it is shown");
+    }
     if (m_layers.empty()) {
         remarks.push_back(m_onMap.front()->Path() + ": the map's extent lies beside " +
                           (m_onMap.size() == 1 ? "it" : "it and the other rasters") +
@@ -161,9 +166,11 @@ bool MapLayers::Fills(const Box& extent) const {
 
 PixelImage MapLayers::Render(int width, int height, const Progress& progress) {
     PixelImage map = RenderLayers(width, height, progress);
-    m_isBlank = IsBlank(map);
+    Note(map);
     return map;
 }
+
+void MapLayers::Note(const PixelImage& rendered) { m_isBlank = IsBlank(rendered); }
 
 PixelImage MapLayers::RenderLayers(int width, int height,
                                    const Progress& progress) const {

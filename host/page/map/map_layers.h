@@ -44,6 +44,9 @@ public:
     /// Whether the extent is in map coordinates.
     bool IsPlaced() const { return m_isPlaced; }
 
+    /// Remembers of a picture of the map that was rendered elsewhere whether it is blank.
+    void Note(const PixelImage& rendered);
+
     /// Width divided by height.
     double AspectRatio() const { return m_extent.Width() / m_extent.Height(); }
 

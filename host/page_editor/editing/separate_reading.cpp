@@ -78,7 +78,7 @@ std::string AsItem(const host::MapLayers& layers) {
 host::PixelImage RenderSeparately(host::MapPicture& picture, int width, int height,
                                   const host::Progress& progress) {
     Telling telling(progress);
-    const auto* const layers = dynamic_cast<const host::MapLayers*>(&picture);
+    auto* const layers = dynamic_cast<host::MapLayers*>(&picture);
     if (layers == nullptr) {
         return picture.Render(width, height, std::ref(telling));
     }
@@ -86,7 +86,9 @@ host::PixelImage RenderSeparately(host::MapPicture& picture, int width, int heig
         "reading the rasters", kRenderMap,
         Joined({AsItem(*layers), std::to_string(width), std::to_string(height)}),
         std::ref(telling));
-    return {width, height, {bytes.begin(), bytes.end()}};
+    host::PixelImage image = {width, height, {bytes.begin(), bytes.end()}};
+    layers->Note(image);
+    return image;
 }
 
 void TryRasters(const std::vector<std::string>& paths, const host::RasterStore& rasters,

@@ -78,6 +78,8 @@ EditorWindow::EditorWindow(const QString& recovery)
     });
     connect(m_canvas, &PageCanvas::Failed, this, &EditorWindow::ShowFailure);
     connect(m_canvas, &PageCanvas::Undrawn, m_undrawn, &MessageBar::Follow);
+    // A map without data is known when it has been drawn.
+    connect(m_canvas, &PageCanvas::Undrawn, this, &EditorWindow::ShowRemarks);
     connect(m_panel, &PropertyPanel::Failed, this, &EditorWindow::ShowFailure);
     connect(m_files, &FileCommands::Failed, this, [this](const QString& why) {
         ShowFailure(why);

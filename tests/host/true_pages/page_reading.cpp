@@ -51,6 +51,10 @@ Area WrittenPage::FrameOf(const nlohmann::json& item) const {
             edge(top + frame["height"].get<double>())};
 }
 
+double WrittenPage::WidthOf(const nlohmann::json& item) const {
+    return ToDevice(item["frame"]["width"]);
+}
+
 double WrittenPage::CentreX(const nlohmann::json& item) const {
     const Area frame = FrameOf(item);
     const int middle = frame.left + (frame.right - frame.left) / 2;

@@ -25,6 +25,9 @@ public:
     /// The device pixels of an item's frame.
     Area FrameOf(const nlohmann::json& item) const;
 
+    /// The width of an item's frame on paper, in pixels and parts of them.
+    double WidthOf(const nlohmann::json& item) const;
+
     /// The device point of an element's centre.
     double CentreX(const nlohmann::json& item) const;
     double CentreY(const nlohmann::json& item) const;

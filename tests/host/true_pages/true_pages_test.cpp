@@ -74,10 +74,12 @@ struct DrawnPage {
         return {x - half, y - halfHeight, x + half, y + halfHeight};
     }
 
-    /// The metres under so many pixels in the middle of the map.
+    /// The metres under so many pixels in the middle of the map as it is on paper: its
+    /// frame ends with a pixel.
     std::optional<double> Metres(double pixels) const {
         const host::Box shown = Shown();
-        const double half = pixels * MapUnitsPerPixel() / 2.0;
+        const double width = written.WidthOf(*written.Find("map"));
+        const double half = pixels * shown.Width() / width / 2.0;
         return earth.Distance({shown.MiddleX() - half, shown.MiddleY()},
                               {shown.MiddleX() + half, shown.MiddleY()});
     }

@@ -48,11 +48,12 @@ TEST(WidenedExtent, HasTheProportionsOfTheFrame) {
 /// scene.tif has 40 x 30 pixels of 30 m: 1200 m on 400 page units are 3 m a unit.
 class FitToMap : public host_tests::DocumentTest {
 protected:
-    host::PageItem& Fit(const std::string& element, const std::string& extent) {
+    host::PageItem& Fit(const std::string& element, const std::string& extent,
+                        const std::string& raster = "scene.tif") {
         page = host::ReadPage(
             R"({"version": 2, "width": 500, "height": 400, "elements": [
-                {"type": "map", "rasters": ["scene.tif"], "extent": )" +
-                extent +
+                {"type": "map", "rasters": [")" +
+                raster + R"("], "extent": )" + extent +
                 R"(, "frame": {"left": 50, "top": 350, "width": 400, "height": 300}}, )" +
                 element + "]}",
             host::FilePaths(folder.Path("page.json")));
@@ -184,6 +185,23 @@ TEST_F(FitToMap, TellsWhatItCannotMakeTrue) {
             "divisionValue": 50})",
         "null");
     EXPECT_EQ(remarks.size(), 1u) << "50 km do not fit";
+
+    for (const auto& [element, what] :
+         {std::pair(R"("scale-bar-line", "distances": "ground")",
+                    "it: the scale bar is not true to the map"),
+          {R"("north-arrow-one", "trueNorth": true)",
+           "it: the north arrow does not follow the map"},
+          {R"("numeric-scale")", "it: the numeric scale is not that of the map"}}) {
+        Fit(std::string(R"({"name": "it", "type": )") + element + "}", "null",
+            "logo.png");
+        EXPECT_EQ(remarks, std::vector<std::string>{std::string(what) +
+                                                    ", which has no georeference"});
+    }
+    for (const char* const stays :
+         {R"("scale-bar-line", "distances": "fixed")", R"("north-arrow-one")"}) {
+        Fit(std::string(R"({"type": )") + stays + "}", "null", "logo.png");
+        EXPECT_TRUE(remarks.empty());
+    }
 }
 
 TEST_F(FitToMap, ArrowsThatFollowTrueNorthTurn) {

@@ -1,6 +1,7 @@
 #include "page/layout/layout.h"
 #include "png_encoder.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -130,6 +131,10 @@ TEST_F(Layout, PlacesTheTitleInTheMiddleOnTop) {
     EXPECT_GT(Bottom(title), Top(LaidOut(laidOut.page).map));
 }
 
+const std::vector<std::string> kOfNoGeoreference = {
+    "the scale bar is left out: the map has no georeference",
+    "the north arrow is left out: the map has no georeference"};
+
 TEST_F(Layout, SetsTheTitleInItsSize) {
     host::PageDesign design;
     design.title.text = L"Title";
@@ -139,22 +144,34 @@ TEST_F(Layout, SetsTheTitleInItsSize) {
         LaidOut(laidOut.page).Of(SurroundMapTitle)->GetMapSurround());
     ASSERT_NE(title, nullptr);
     EXPECT_DOUBLE_EQ(title->GetFontSize(), 48.0);
-    EXPECT_TRUE(laidOut.remarks.empty());
+    EXPECT_EQ(laidOut.remarks, kOfNoGeoreference);
 }
 
 TEST_F(Layout, SetsATitleSmallerThatWouldNotFit) {
     host::PageDesign design;
     design.title.text = L"A title that is long enough to be wider than the page it is on";
     design.title.points = 100.0;
+    design.scaleBar.style = nullptr;
+    design.northArrow.style = nullptr;
     const host::LaidOutPage laidOut = host::LayOut(design, {nullptr, 1.0});
     const CSurroundFrame* title = LaidOut(laidOut.page).Of(SurroundMapTitle);
     EXPECT_TRUE(IsOnPage(title->GetExtent(), laidOut.page));
-    EXPECT_EQ(laidOut.remarks,
-              std::vector<std::string>{"the title is set smaller to fit the page"});
+    const auto isToldOf = [](const host::LaidOutPage& page, const std::string& points) {
+        ASSERT_EQ(page.remarks.size(), 1u);
+        EXPECT_THAT(
+            page.remarks.front(),
+            ::testing::MatchesRegex("the title is set in .* points to fit the page, "
+                                    "instead of " +
+                                    points + " points"));
+    };
+    isToldOf(laidOut, "100.0");
 
+    // What suits the page is as large as it fits, but not half as large in silence.
     design.title.points.reset();
     design.title.text.append(design.title.text);
     EXPECT_TRUE(host::LayOut(design, {nullptr, 1.0}).remarks.empty());
+    design.title.text.append(design.title.text);
+    isToldOf(host::LayOut(design, {nullptr, 1.0}), "22.3");
 }
 
 TEST_F(Layout, HasNoFrameForATitleWithoutInk) {

@@ -333,6 +333,11 @@ TEST_F(MapLayers, TellWhenATurnedRasterCannotBeTurnedBack) {
                   0),
               0U)
         << map.Remarks().front();
+    count = 0;
+    EXPECT_EQ(Layers({raster}, host::Box{1.0, 1.0, 2.0, 2.0}).Remarks().back(),
+              folder.Path("raster0.tif") +
+                  ": the map's extent is of no use without a georeference, and all of it "
+                  "is shown");
 }
 
 TEST_F(MapLayers, TellOfABlankMap) {

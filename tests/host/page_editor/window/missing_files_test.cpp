@@ -157,4 +157,20 @@ TEST_F(RemarksBar, OfWhatCannotBeTrueAreShownAsLongAsTheyHold) {
     EXPECT_TRUE(window.Remarks().isVisible());
 }
 
+TEST_F(RemarksBar, TellsOfAMapWithoutDataOnceItIsDrawn) {
+    MadeRaster nothing;
+    nothing.width = 1;
+    nothing.height = 1;
+    nothing.transform = {500000.0, 30.0, 0.0, 9000000.0, 0.0, -30.0};
+    nothing.projection = "EPSG:32725";
+    nothing.hole = true;
+    WriteRaster(folder.Path("nothing.tif"), nothing);
+    const std::size_t blank =
+        Add("map", {100.0, 100.0, 400.0, 300.0}, {Path("nothing.tif")});
+    EXPECT_THAT(Told(), HasSubstr("nothing.tif: it has no data in the map's extent"));
+    document.Select({blank});
+    Command("delete");
+    EXPECT_FALSE(window.Remarks().isVisible()) << Told();
+}
+
 }  // namespace
