@@ -10,6 +10,7 @@ namespace {
 // its outline 5,000.
 constexpr std::size_t kMostBytes = 4 << 20;
 constexpr std::size_t kMostFamilies = 256;
+constexpr std::size_t kMostFaces = 64;
 constexpr std::size_t kMostSizes = 128;
 
 struct Held {
@@ -74,6 +75,18 @@ std::shared_ptr<const Family> ThreadTexts::FamilyOf(const FlatChar* name) {
     return families_.emplace(name, FindFamily(name)).first->second;
 }
 
+std::shared_ptr<Face> ThreadTexts::FaceOf(const std::shared_ptr<const FaceFile>& file) {
+    const FaceName name = {file->path, file->index, file->embolden, file->slant};
+    const auto found = faces_.find(name);
+    if (found != faces_.end()) {
+        return found->second;
+    }
+    if (faces_.size() >= kMostFaces) {
+        faces_.clear();
+    }
+    return faces_.emplace(name, std::make_shared<Face>(file)).first->second;
+}
+
 std::shared_ptr<SizedFace> ThreadTexts::Sized(const std::shared_ptr<const FaceFile>& file,
                                               const TextStyle& style) {
     const SizedKey key = {file, style.size, style.fit, style.smooth};
@@ -84,14 +97,9 @@ std::shared_ptr<SizedFace> ThreadTexts::Sized(const std::shared_ptr<const FaceFi
     // Texts that are kept hold on to those of theirs.
     if (sized_.size() >= kMostSizes) {
         sized_.clear();
-        faces_.clear();
     }
-    std::shared_ptr<Face>& face =
-        faces_[{file->path, file->index, file->embolden, file->slant}];
-    if (face == nullptr) {
-        face = std::make_shared<Face>(file);
-    }
-    auto sized = std::make_shared<SizedFace>(face, style.size, style.fit, style.smooth);
+    auto sized =
+        std::make_shared<SizedFace>(FaceOf(file), style.size, style.fit, style.smooth);
     sized_.emplace(key, sized);
     return sized;
 }

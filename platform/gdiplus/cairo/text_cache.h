@@ -50,6 +50,7 @@ private:
         bool operator<(const SizedKey& other) const;
     };
 
+    std::shared_ptr<Face> FaceOf(const std::shared_ptr<const FaceFile>& file);
     void DropOldest();
 
     std::map<std::u16string, std::shared_ptr<const Family>, std::less<>> families_;
