@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 #include <limits>
 
 namespace engine {
@@ -91,11 +92,26 @@ namespace {
 void Flood(const Pixels& pixels, const cairo_rectangle_int_t& part, ARGB color) {
     const int left = std::max(part.x, 0);
     const int right = std::min(part.x + part.width, pixels.width);
+    const int top = std::max(part.y, 0);
     const int bottom = std::min(part.y + part.height, pixels.height);
-    const std::vector<ARGB> colors(static_cast<std::size_t>(std::max(0, right - left)),
-                                   color);
-    for (int y = std::max(part.y, 0); y < bottom && left < right; ++y) {
-        WriteColors(pixels.format, pixels.Row(y), left, right - left, colors.data());
+    if (left >= right || top >= bottom) {
+        return;
+    }
+    const std::vector<ARGB> colors(static_cast<std::size_t>(right - left), color);
+    WriteColors(pixels.format, pixels.Row(top), left, right - left, colors.data());
+    // What is one byte throughout, as white is, can be written without being read first.
+    const int bytes = static_cast<int>(GetPixelFormatSize(pixels.format) / 8);
+    const BYTE* const pixel = pixels.Row(top) + std::ptrdiff_t{left} * bytes;
+    const bool plain =
+        std::all_of(pixel, pixel + bytes, [pixel](BYTE byte) { return byte == *pixel; });
+    for (int y = top + 1; y < bottom; ++y) {
+        if (plain) {
+            std::memset(
+                pixels.Row(y) + std::ptrdiff_t{left} * bytes, *pixel,
+                static_cast<std::size_t>(right - left) * static_cast<std::size_t>(bytes));
+        } else {
+            WriteColors(pixels.format, pixels.Row(y), left, right - left, colors.data());
+        }
     }
 }
 

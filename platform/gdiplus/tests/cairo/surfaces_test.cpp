@@ -88,6 +88,25 @@ TEST(StraightPixels, ThatWereOpaqueMayBecomeClearAgain) {
     EXPECT_EQ(PixelAt(bitmap, 1, 0), 0x80FF8000);
 }
 
+TEST(Clear, WritesTheClipAndNoMore) {
+    constexpr ARGB around = 0xFF445566;
+    for (const PixelFormat format : {PixelFormat24bppRGB, PixelFormat32bppRGB,
+                                     PixelFormat32bppARGB, PixelFormat32bppPARGB}) {
+        for (const ARGB color : {0xFFFFFFFF, 0xFF112233, 0xFF000000}) {
+            Bitmap bitmap(6, 5, format);
+            Graphics graphics(&bitmap);
+            graphics.Clear(Color(around));
+            EXPECT_EQ(PixelsOtherThan(bitmap, around), 0);
+            graphics.SetClip(Rect(2, 1, 3, 3));
+            graphics.Clear(Color(color));
+            EXPECT_EQ(PixelsOtherThan(bitmap, around), 9) << std::hex << color;
+            EXPECT_EQ(PixelsOtherThan(bitmap, color), 21) << std::hex << color;
+            EXPECT_EQ(PixelAt(bitmap, 4, 3), color);
+            EXPECT_EQ(PixelAt(bitmap, 5, 3), around);
+        }
+    }
+}
+
 TEST(ThreeBytePixels, AreDrawnInPlaceAndNoFurther) {
     constexpr int stride = 16;  // five pixels and a byte over
     std::vector<BYTE> memory(3 * stride, 0xEE);
