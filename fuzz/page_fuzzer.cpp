@@ -1,5 +1,5 @@
 // Page files, lists and options as anybody may write them. Nothing is read but what is
-// below a folder that is empty; pages are drawn by the system's GDI+, very small.
+// below a folder that is empty; pages are drawn very small.
 
 #include <gdiplus.h>
 #include <unistd.h>
@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
+#include <fstream>
 #include <memory>
 #include <optional>
 #include <stdexcept>
@@ -95,7 +96,8 @@ void PlayPage(const std::string& text) {
 }
 
 void PlayList(const std::string& text) {
-    const host::MemoryFile file({text.begin(), text.end()});
+    const host::MemoryFile file;
+    std::ofstream(file.Name(), std::ios::binary) << text;
     const map_page::SeriesList list =
         map_page::ReadSeries(file.Name(), "{name}.png", Folder().Allowed());
     for (const map_page::SeriesPage& page : list.pages) {
