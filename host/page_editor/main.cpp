@@ -64,9 +64,10 @@ bool Open(page_editor::EditorWindow& window, const Options& options) {
     for (const std::string& file : options.files) {
         files.append(QString::fromStdString(file));
     }
-    if (!files.isEmpty() && !window.Files().OpenFiles(files)) {
+    const bool isForAPerson = options.screenshot.empty();
+    if (!files.isEmpty() && !window.Files().OpenFiles(files, isForAPerson)) {
         Fail(window.LastFailure().toStdString());
-        return options.screenshot.empty();  // the window says it too
+        return isForAPerson;  // the window says it too
     }
     page_editor::Indices selection;
     for (const std::size_t item : options.select) {

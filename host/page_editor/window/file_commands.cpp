@@ -99,16 +99,17 @@ void FileCommands::Open() {
     }
 }
 
-bool FileCommands::OpenFiles(const QStringList& paths) {
+bool FileCommands::OpenFiles(const QStringList& paths, bool mayAsk) {
     const QString first = paths.front();
     const bool isPage = host::IsPageFile(first.toStdString());
     const std::string stamp = isPage ? StampOf(first.toStdString()) : "";
     const bool isOpen = Show([&] {
-        return isPage ? OpenPageFile(
-                            first.toStdString(),
-                            [this](const std::string& what) { return MayRead(what); },
-                            m_document.Reading())
-                      : LayOutRasters(Standard(paths), m_document.Reading());
+        return isPage
+                   ? OpenPageFile(
+                         first.toStdString(),
+                         [&](const std::string& what) { return mayAsk && MayRead(what); },
+                         m_document.Reading())
+                   : LayOutRasters(Standard(paths), m_document.Reading());
     });
     if (isOpen) {
         SetPath(isPage ? first : QString(), stamp);

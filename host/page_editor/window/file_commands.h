@@ -33,7 +33,8 @@ public:
     void New();
     void Open();
     /// @param paths a page file, or rasters to lay a page out around
-    bool OpenFiles(const QStringList& paths);
+    /// @param mayAsk whether somebody is there to allow a page file more than is safe
+    bool OpenFiles(const QStringList& paths, bool mayAsk = true);
     /// Opens work that was lost, in place of the page: unsaved work on its file.
     bool OpenLost(const Recovery& lost);
 

@@ -267,6 +267,14 @@ TEST_F(FileCommands, TheProgramTellsWhatItIsGiven) {
     EXPECT_EQ(missing.status, 1);
     EXPECT_THAT(missing.err, HasSubstr("page_editor: " + folder.Path("none.json") +
                                        ": No such file or directory\n"));
+    std::ofstream(folder.Path("strange.json"))
+        << R"({"version": 2, "width": 200, "height": 150, "elements": [)"
+        << R"({"type": "picture", "path": "/etc/hostname"}]})";
+    const Ended strange =  // and nobody is asked
+        RunEditor({Path("strange.json"), "--screenshot", Path("none.png")});
+    EXPECT_EQ(strange.status, 1);
+    EXPECT_THAT(strange.err, HasSubstr("/etc/hostname is outside "));
+    EXPECT_FALSE(QFile::exists(Path("none.png")));
 }
 
 TEST_F(FileCommands, TheProgramDrawsItsWindow) {
