@@ -6,6 +6,7 @@
 #include "map_surround/kit/division.h"
 #include "page/catalogue.h"
 #include "page/element_of.h"
+#include "page/tiles.h"
 
 namespace host {
 
@@ -76,6 +77,10 @@ void ScaleBarFrame::Draw(Gdiplus::Graphics* graphics, CPoint centre, double scal
 void LegendFrame::SetSources(std::vector<CGISDataSource*> sources,
                              std::vector<LegendSource> shown) {
     m_sources = std::move(sources);
+    if (m_joinsTiles) {
+        shown.resize(m_sources.size());
+        JoinTiles(m_sources, shown);
+    }
     if (auto* const legend = ElementOf<CMapLegend>(*this)) {
         legend->SetDataSouce(m_sources);
         legend->SetShownSources(std::move(shown));

@@ -157,6 +157,10 @@ public:
     void SetNames(std::wstring lines) { m_names = std::move(lines); }
     std::wstring Names() const { return m_names; }
 
+    /// Whether tiles of one mosaic are one entry (see JoinTiles) when sources are set.
+    void SetJoinsTiles(bool joins) { m_joinsTiles = joins; }
+    bool JoinsTiles() const { return m_joinsTiles; }
+
     /// What the legend explains, and what it calls each; not owned.
     void SetSources(std::vector<CGISDataSource*> sources,
                     std::vector<LegendSource> shown = {});
@@ -166,6 +170,7 @@ private:
     float m_sizeFactor = 1.0f;
     std::vector<std::string> m_rasterPaths;
     std::wstring m_names;
+    bool m_joinsTiles = false;
     std::vector<CGISDataSource*> m_sources;
 };
 

@@ -56,7 +56,8 @@ std::vector<WrittenText> TextsOfLegend(const CMapLegend& legend,
     const std::vector<LegendSource> shown = legend.GetShownSources();
     for (std::size_t i = 0; i < sources.size(); ++i) {
         auto* const raster = dynamic_cast<CRasterSource*>(sources[i]);
-        if (raster != nullptr && raster->IsAvailable()) {
+        const bool isHidden = i < shown.size() && !shown[i].isShown;
+        if (!isHidden && raster != nullptr && raster->IsAvailable()) {
             const std::wstring name = i < shown.size() ? shown[i].name : L"";
             names +=
                 legend.GetSourceCaption() + (name.empty() ? raster->GetFileName() : name);

@@ -2,6 +2,7 @@
 #include <cmath>
 
 #include "map_surround/legend.h"
+#include "page/element_of.h"
 #include "page/layout/steps.h"
 #include "page/layout/text_size.h"
 
@@ -9,11 +10,13 @@ namespace host {
 namespace {
 
 /// @param width that it has, page units
-std::unique_ptr<CMapLegend> MakeLegend(const PageDesign& design, const MapOnPage& map,
-                                       const Measures& measures, double width) {
-    auto legend = std::make_unique<CMapLegend>();
+std::unique_ptr<LegendFrame> MakeLegend(const PageDesign& design, const MapOnPage& map,
+                                        const Measures& measures, double width) {
+    auto frame = std::make_unique<LegendFrame>(std::make_unique<CMapLegend>());
+    frame->SetJoinsTiles(true);
+    frame->SetSources(map.sources);
+    auto* const legend = ElementOf<CMapLegend>(*frame);
     DressLegend(*legend, design);
-    legend->SetDataSouce(map.sources);
     // It is drawn in the height of the ink of these, three quarters of them or more.
     constexpr double kSmallest = kSmallestEm / 0.75;
     const double size = std::max(kSmallest, 0.7 * measures.module);
@@ -22,7 +25,7 @@ std::unique_ptr<CMapLegend> MakeLegend(const PageDesign& design, const MapOnPage
     // Type shrinks by a fifth before names are cut.
     legend->SetMostWidth(static_cast<float>(width / std::max(0.8, kSmallest / size)));
     legend->ResetAspectRatio();
-    return legend;
+    return frame;
 }
 
 /// Makes the legend as small as it must be for its ink, and space around it, to fit.
@@ -59,13 +62,12 @@ std::unique_ptr<LegendFrame> PlaceLegend(const PageDesign& design, const MapOnPa
     if (room.Width() <= space || room.Height() <= space) {
         return nullptr;
     }
-    auto legend = MakeLegend(design, map, measures, room.Width() - space);
-    const InkBox ink = Fit(*legend, room.Width() - space, room.Height() - space);
+    auto frame = MakeLegend(design, map, measures, room.Width() - space);
+    const InkBox ink =
+        Fit(*ElementOf<CMapLegend>(*frame), room.Width() - space, room.Height() - space);
     if (ink.IsEmpty()) {
         return nullptr;
     }
-    auto frame = std::make_unique<LegendFrame>(std::move(legend));
-    frame->SetSources(map.sources);
     FrameInk(*frame, ink, room, At::Top, design.frames, measures);
     frame->SetName("legend");
     return frame;

@@ -12,6 +12,11 @@ std::vector<Property> LegendProperties() {
             "names",
             "What they are called, a line each; an empty one is by its file's name",
             PropertyKind::Text),
+        Of<&LegendFrame::JoinsTiles, &LegendFrame::SetJoinsTiles>(
+            "joinTiles",
+            "Whether rasters called alike but for their digits, and shown alike, are one "
+            "entry",
+            PropertyKind::Switch),
         Of<&CMapLegend::GetTitleValue, &CMapLegend::SetTitleValue>("title", "First line",
                                                                    PropertyKind::Text),
         Of<&CMapLegend::GetSourceCaption, &CMapLegend::SetSourceCaption>(
