@@ -36,14 +36,14 @@ protected:
             .populateSchema(NlohmannJsonAdapter(m_json), m_schema);
     }
 
-    bool IsValid(const json& page) const {
-        valijson::Validator validator;
-        return validator.validate(m_schema, NlohmannJsonAdapter(page), nullptr);
+    bool IsValid(const json& page) {
+        return m_validator.validate(m_schema, NlohmannJsonAdapter(page), nullptr);
     }
 
 private:
     json m_json;
     valijson::Schema m_schema;
+    valijson::Validator m_validator;  // keeps the regular expressions that it has read
 };
 
 json PageWith(const json& element) {
