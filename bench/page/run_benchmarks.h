@@ -1,8 +1,7 @@
 #pragma once
 
 #include <benchmark/benchmark.h>
-
-#include "map_surround/kit/gdiplus_session.h"
+#include "system/gdiplus_session.h"
 
 namespace bench {
 
@@ -13,7 +12,7 @@ inline int RunBenchmarks(int argc, char** argv) {
     if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
         return 2;
     }
-    const map_surround::kit::GdiplusSession session;
+    const host::GdiplusSession session;
     benchmark::RunSpecifiedBenchmarks();
     return 0;
 }

@@ -76,8 +76,9 @@ CScaleAlternate* NewScaleBar() {
     bar->SetUnitsName(L"m");
     bar->SetMainDivCount(3);
     // 500 m each, for three of 1000 m would be longer.
-    map_surround::kit::SetDivision(
-        *bar, map_surround::kit::LargestDivision(kMetresPerUnit, 3, kLongest).value());
+    const auto division = map_surround::kit::LargestDivision(kMetresPerUnit, 3, kLongest);
+    map_surround::kit::SetDivision(*bar,
+                                   division.value_or(map_surround::kit::Division{}));
     bar->ResetAspectRatio();
     return bar;
 }

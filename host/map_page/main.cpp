@@ -15,8 +15,8 @@
 #include "map_page/quiet.h"
 #include "map_page/safe_drawing.h"
 #include "map_page/series.h"
-#include "map_surround/kit/gdiplus_session.h"
 #include "system/errors.h"
+#include "system/gdiplus_session.h"
 #include "system/output_file.h"
 #include "system/separate_process.h"
 #include "system/standard_streams.h"
@@ -40,7 +40,7 @@ std::string DrawSeparately(const map_page::Options& options, const std::string& 
     const auto draw = [&](const host::Progress&) {
         const map_page::Quiet quiet(place);
         CPLSetErrorHandler(CPLQuietErrorHandler);
-        const map_surround::kit::GdiplusSession session;
+        const host::GdiplusSession session;
         map_page::Confine(options);
         return map_page::DrawPage(options, files, quiet);
     };
@@ -58,7 +58,7 @@ void CheckColumns(const map_page::Options& options,
                   const std::vector<std::string>& columns) {
     const auto check = [&](const host::Progress&) {
         const map_page::Quiet quiet;
-        const map_surround::kit::GdiplusSession session;
+        const host::GdiplusSession session;
         map_page::Confine(options);
         map_page::CheckSeries(options, columns);
         return std::string();

@@ -12,12 +12,12 @@
 #include <string>
 #include <vector>
 
-#include "map_surround/kit/gdiplus_session.h"
 #include "map_surround/version.h"
 #include "page_editor/editing/file_jobs.h"
 #include "page_editor/window/editor_window.h"
 #include "raster_data/gdal_session.h"
 #include "system/errors.h"
+#include "system/gdiplus_session.h"
 #include "system/helper_process.h"
 #include "system/output_file.h"
 #include "system/standard_streams.h"
@@ -100,7 +100,7 @@ int Run(int argc, char** argv) {
     host::StartHelper(page_editor::FileJobs());
     const QApplication application(argc, argv);
     host::RemoveUnfinishedOutputOnSignals();
-    const map_surround::kit::GdiplusSession session;
+    const host::GdiplusSession session;
     page_editor::EditorWindow window;
     window.show();
     if (!Open(window, *options)) {

@@ -17,8 +17,8 @@ constexpr int kRampSwatches = 4;   ///< the height of a grey ramp, in swatches
 constexpr int kLeastSwatches = 3;  ///< the width that leaves room for any band label
 
 /// Where labels are aligned, in rows: above the top of a swatch, above the top of a ramp
-/// and above its end. The capitals of Arial begin a fifth of an em below the top of a line, and its
-/// base line is nine tenths below.
+/// and above its end. The capitals of Arial begin a fifth of an em below the top of a
+/// line, and its base line is nine tenths below.
 constexpr float kLabelAbove = 0.25f;
 constexpr float kHighAbove = 0.2f;
 constexpr float kLowAbove = 0.9f;

@@ -4,7 +4,6 @@
 #include <filesystem>
 #include <system_error>
 
-#include "map_surround/kit/gdiplus_session.h"
 #include "page/document/page_error.h"
 #include "page/document/page_text.h"
 #include "page/document/picture_file.h"
@@ -16,6 +15,7 @@
 #include "system/allowed_sources.h"
 #include "system/confinement.h"
 #include "system/errors.h"
+#include "system/gdiplus_session.h"
 #include "system/number_text.h"
 
 namespace page_editor {
@@ -71,13 +71,13 @@ std::string ReadRaster(const std::string& input, const host::Progress&) {
 }
 
 std::string ReadImage(const std::string& input, const host::Progress&) {
-    const map_surround::kit::GdiplusSession session;
+    const host::GdiplusSession session;
     return host::CheckImageFile(FieldsOf(input).at(0));
 }
 
 std::string ReadPage(const std::string& input, const host::Progress&) {
     const std::vector<std::string> fields = FieldsOf(input);
-    const map_surround::kit::GdiplusSession session;
+    const host::GdiplusSession session;
     const host::AllowedSources allowed(fields.at(0));
     const bool isHeld = !fields.at(1).empty();
     if (isHeld) {
@@ -88,14 +88,14 @@ std::string ReadPage(const std::string& input, const host::Progress&) {
 }
 
 std::string ReadItems(const std::string& input, const host::Progress&) {
-    const map_surround::kit::GdiplusSession session;
+    const host::GdiplusSession session;
     host::ReadItems(FieldsOf(input).at(0));
     return {};
 }
 
 std::string RenderMap(const std::string& input, const host::Progress& progress) {
     const std::vector<std::string> fields = FieldsOf(input);
-    const map_surround::kit::GdiplusSession session;
+    const host::GdiplusSession session;
     const host::PageItem item = host::ReadItem(fields.at(0));
     const auto& map = std::get<host::MapFrame>(item);
     return StringOf(
@@ -108,7 +108,7 @@ std::string RenderMap(const std::string& input, const host::Progress& progress) 
 std::string DrawPage(const std::string& input, const host::Progress& progress) {
     const std::vector<std::string> fields = FieldsOf(input);
     return host::Naming(fields.at(0), [&] {
-        const map_surround::kit::GdiplusSession session;
+        const host::GdiplusSession session;
         host::RasterStore rasters;
         host::Page page = host::ReadPage(fields.at(3), {});
         host::CheckFilesAndFonts(page);

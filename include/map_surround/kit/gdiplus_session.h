@@ -5,8 +5,6 @@
 
 #include <gdiplus.h>
 
-#include <stdexcept>
-
 /// What most hosts need around the library, in headers alone: use it, or your own.
 namespace map_surround::kit {
 
@@ -14,18 +12,24 @@ namespace map_surround::kit {
 /// the last element, bitmap and surface.
 class GdiplusSession {
 public:
-    /// Throws std::runtime_error when GDI+ cannot be started, as in a version it has not.
-    explicit GdiplusSession(const Gdiplus::GdiplusStartupInput& input = {}) {
-        if (Gdiplus::GdiplusStartup(&m_token, &input, nullptr) != Gdiplus::Ok) {
-            throw std::runtime_error("GDI+: cannot be started");
-        }
-    }
+    /// Starts GDI+. Where it cannot be started, as in a version that it has not, all that
+    /// is drawn fails with a status of its own.
+    explicit GdiplusSession(const Gdiplus::GdiplusStartupInput& input = {})
+        : m_status(Gdiplus::GdiplusStartup(&m_token, &input, nullptr)) {}
     GdiplusSession(const GdiplusSession&) = delete;
     GdiplusSession& operator=(const GdiplusSession&) = delete;
-    ~GdiplusSession() { Gdiplus::GdiplusShutdown(m_token); }
+    ~GdiplusSession() {
+        if (m_status == Gdiplus::Ok) {
+            Gdiplus::GdiplusShutdown(m_token);
+        }
+    }
+
+    /// Ok while GDI+ runs, else why it does not.
+    Gdiplus::Status GetStatus() const { return m_status; }
 
 private:
     ULONG_PTR m_token = 0;
+    Gdiplus::Status m_status;
 };
 
 }  // namespace map_surround::kit
