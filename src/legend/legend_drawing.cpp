@@ -157,8 +157,11 @@ void Column::DrawClasses(CClassifyDisplayTable* table) {
             item->GetColor(red, green, blue, ignored);
             Fill(Gdiplus::Color(255, red, green, blue), y, swatchHeight);
             brush.SetColor(kBlack);
-            Label(cutter == nullptr ? item->GetLable() : cutter->Label(item->GetLable()),
-                  legend::kClassLabelAt, SwatchLabelY());
+            std::wstring label = item->GetLable();
+            if (cutter != nullptr) {
+                label = cutter->Label(label);
+            }
+            Label(label, legend::kClassLabelAt, SwatchLabelY());
         }
         y += swatchHeight;
         const bool last = i + 1 == map_surround::ClassesCount(table);
