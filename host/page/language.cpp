@@ -15,7 +15,7 @@ const std::vector<Language>& Languages() {
          L"Legend", L"", L"Band ", L"High: ", L"Low: ",
          L"m", L"km", L"ft", L"US ft", L"yd", L"mi", L"nmi", L"°", L"map units"},
         {"ar", "العربية",
-         L"مفتاح الخريطة", L"", L"النطاق ", L"الأعلى: ", L"الأدنى: ",
+         L"مفتاح الخريطة", L"", L"النطاق ", L"\u202Bالأعلى: \u200E", L"\u202Bالأدنى: \u200E",
          L"م", L"كم", L"قدم", L"قدم أمريكية", L"ياردة", L"ميل", L"ميل بحري", L"°", L"وحدات الخريطة"},
         {"de", "Deutsch",
          L"Legende", L"", L"Kanal ", L"Höchstwert: ", L"Tiefstwert: ",

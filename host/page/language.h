@@ -19,7 +19,9 @@ struct Language {
 
     const wchar_t* legend;  ///< a legend's first line
 
-    // A legend's captions, with the space that follows them.
+    // A legend's captions, with the space that follows them. Where people write from
+    // right to left, U+202B before a caption and U+200E after it keep the value to the
+    // left of it, and the value's sign to the left of its digits.
     const wchar_t* source;  ///< before a raster's name
     const wchar_t* band;    ///< before a band's number
     const wchar_t* high;    ///< before the highest value

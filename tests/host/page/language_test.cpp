@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <set>
 #include <string>
@@ -102,6 +103,16 @@ TEST_P(InLanguage, APageHasItsWordsAndItsFileKeepsThem) {
         dynamic_cast<CMapLegend&>(*found.Of(SurroundLegend)->GetMapSurround());
     EXPECT_EQ(legend.GetBandCaption(), language.band);
     EXPECT_EQ(legend.GetLowCaption(), language.low);
+}
+
+TEST_P(InLanguage, TheSignOfAValueStandsBeforeItsDigits) {
+    for (const std::wstring caption : {language.high, language.low}) {
+        const bool isFromTheRight = std::any_of(
+            caption.begin(), caption.end(),
+            [](wchar_t letter) { return letter >= L'\u0590' && letter < L'\u0900'; });
+        EXPECT_EQ(caption.front() == L'\u202B', isFromTheRight);
+        EXPECT_EQ(caption.back() == L'\u200E', isFromTheRight);
+    }
 }
 
 TEST_P(InLanguage, APageOfAnotherIsChangedButForWhatSomebodyWrote) {
