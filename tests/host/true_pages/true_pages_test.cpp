@@ -261,15 +261,18 @@ double PartOfRaster(const DrawnPage& page, int pixel) {
     return (x - page.asked.extent.left) / page.asked.extent.Width();
 }
 
-/// The ramp of a legend's greys: its pixels from the top, each with its grey.
+/// The ramp of a legend's greys: its pixels from the top, each with its grey. The stem of
+/// a letter goes from white to black, too, but in steps that no ramp of four rows has.
 std::vector<int> RampIn(const Picture& picture, const Area& legend) {
+    constexpr int kLargestStep = 100;
     std::vector<int> longest;
     for (int x = legend.left; x < legend.right; ++x) {
         std::vector<int> ramp;
         for (int y = legend.top; y < legend.bottom; ++y) {
             const Pixel pixel = picture.At(x, y);
             const bool isGrey = pixel.red == pixel.green && pixel.green == pixel.blue;
-            if (!isGrey || (!ramp.empty() && pixel.red > ramp.back())) {
+            const int step = ramp.empty() ? 0 : ramp.back() - pixel.red;
+            if (!isGrey || step < 0 || step > kLargestStep) {
                 ramp.clear();
             }
             if (isGrey) {
