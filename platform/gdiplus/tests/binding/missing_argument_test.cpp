@@ -55,6 +55,7 @@ TEST(MissingArgument, DrawsNothingAndIsInvalid) {
         graphics.DrawString(L"Nord", -1, &font, origin, noBrush),
         graphics.DrawString(nullptr, -1, &font, origin, &brush),
         graphics.DrawString(nullptr, 4, &font, box, nullptr, &brush),
+        graphics.MeasureString(L"Nord", -1, &font, box, static_cast<RectF*>(nullptr)),
         graphics.DrawImage(static_cast<Image*>(nullptr), 0, 0, 10, 10),
         graphics.SetTransform(nullptr),
         graphics.GetTransform(nullptr),
