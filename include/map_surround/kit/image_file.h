@@ -69,11 +69,14 @@ inline std::wstring_view MimeTypeOf(std::wstring_view file) {
 /// ending that has no encoder, else what GDI+ answers
 inline Gdiplus::Status SaveImage(Gdiplus::Bitmap& image, const std::wstring& file,
                                  double dpi) {
+    const auto resolution = static_cast<Gdiplus::REAL>(dpi);
+    if (!(resolution > 0.0f)) {
+        return Gdiplus::InvalidParameter;
+    }
     const std::optional<CLSID> encoder = EncoderOf(MimeTypeOf(file));
     if (!encoder) {
         return Gdiplus::UnknownImageFormat;
     }
-    const auto resolution = static_cast<Gdiplus::REAL>(dpi);
     const Gdiplus::Status kept = image.SetResolution(resolution, resolution);
     return kept == Gdiplus::Ok ? image.Save(file.c_str(), &*encoder, nullptr) : kept;
 }
