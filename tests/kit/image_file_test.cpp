@@ -5,6 +5,8 @@
 #include <filesystem>
 #include <limits>
 
+#include "title_picture/image_file.h"
+
 namespace {
 
 using namespace map_surround::kit;
@@ -38,36 +40,33 @@ TEST(Encoder, IsThatOfTheMimeType) {
 }
 
 TEST(SavedImage, HasItsResolution) {
-    const std::filesystem::path folder(::testing::TempDir());
-    for (const char* name : {"kit.png", "kit.jpg", "kit.tif", "kit.bmp"}) {
+    const ImageFolder folder;
+    for (const char* name : {"page.png", "page.jpg", "page.tif", "page.bmp"}) {
         SCOPED_TRACE(name);
-        const std::wstring file = (folder / name).wstring();
+        const std::wstring file = folder.PathOf(name);
         {
             Gdiplus::Bitmap bitmap(12, 8, PixelFormat32bppARGB);
             ASSERT_EQ(SaveImage(bitmap, file, 300.0), Gdiplus::Ok);
         }
-        {
-            Gdiplus::Bitmap saved(file.c_str());
-            EXPECT_EQ(saved.GetWidth(), 12u);
-            EXPECT_NEAR(saved.GetHorizontalResolution(), 300.0, 0.05);
-            EXPECT_NEAR(saved.GetVerticalResolution(), 300.0, 0.05);
-        }
-        std::filesystem::remove(folder / name);
+        Gdiplus::Bitmap saved(file.c_str());
+        EXPECT_EQ(saved.GetWidth(), 12u);
+        EXPECT_NEAR(saved.GetHorizontalResolution(), 300.0, 0.05);
+        EXPECT_NEAR(saved.GetVerticalResolution(), 300.0, 0.05);
     }
 }
 
 TEST(SavedImage, TellsWhyItIsNot) {
-    const std::filesystem::path folder(::testing::TempDir());
+    const ImageFolder folder;
+    const std::wstring file = folder.PathOf("page.png");
     Gdiplus::Bitmap bitmap(12, 8);
-    EXPECT_EQ(SaveImage(bitmap, (folder / "kit.pdf").wstring(), 300.0),
+    EXPECT_EQ(SaveImage(bitmap, folder.PathOf("page.pdf"), 300.0),
               Gdiplus::UnknownImageFormat);
-    EXPECT_FALSE(std::filesystem::exists(folder / "kit.pdf"));
-    EXPECT_NE(SaveImage(bitmap, (folder / "no folder" / "kit.png").wstring(), 300.0),
-              Gdiplus::Ok);
+    EXPECT_NE(SaveImage(bitmap, folder.PathOf("no folder/page.png"), 300.0), Gdiplus::Ok);
     for (const double dpi : {0.0, -1.0, std::numeric_limits<double>::quiet_NaN()}) {
-        EXPECT_EQ(SaveImage(bitmap, (folder / "kit.png").wstring(), dpi),
-                  Gdiplus::InvalidParameter);
-        EXPECT_FALSE(std::filesystem::exists(folder / "kit.png"));
+        EXPECT_EQ(SaveImage(bitmap, file, dpi), Gdiplus::InvalidParameter);
+    }
+    for (const std::wstring& unwanted : {file, folder.PathOf("page.pdf")}) {
+        EXPECT_FALSE(std::filesystem::exists(unwanted));
     }
 }
 
