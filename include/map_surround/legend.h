@@ -70,12 +70,11 @@ public:
     /// after the second. A host that wants to scale once sets the factor back to 1.
     ///
     /// Texts are measured by the ink of their outlines. A row is as high as the sample
-    /// "Band_1", a swatch is 6/10 of that, every gap is 12 pixels, or
-    /// what SetGap() says. With a title 20 high
-    /// and rows 13 high (so swatches of 7), an RGB source and a grey one make 20 + 24 +
-    /// (13 + 3 * 7 + 36) + (13 + 4 * 7 + 12) + 24 - 12 = 179. The width is the widest of
-    /// the title, three samples, each bare file name or the name shown in its place, and
-    /// each class label indented by two samples.
+    /// "Band_1", a swatch is 6/10 of that, every gap is 12 pixels, or what SetGap() says.
+    /// With a title 20 high and rows 13 high (so swatches of 7), an RGB source and a grey
+    /// one make 20 + 24 + (13 + 3 * 7 + 36) + (13 + 4 * 7 + 12) + 24 - 12 = 179. The
+    /// width is the widest of the title, three samples, each bare file name or the name
+    /// shown in its place, and each class label indented by two samples.
     ///
     /// The captions, the band labels and the values are not part of the width, and the
     /// last label is taller than its swatch: both may reach past the measured box.

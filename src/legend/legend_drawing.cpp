@@ -226,12 +226,12 @@ void CMapLegend::Draw(Gdiplus::Graphics* graphics, CPoint centre, double scale) 
         if (source == nullptr) {
             continue;
         }
+        brush.SetColor(m_fileColor);
         std::wstring name =
             m_sourceCaption + map_surround::NameOf(*source, m_shownSources, i);
         if (cutter) {
             name = cutter->Name(name);
         }
-        brush.SetColor(m_fileColor);
         map_surround::WriteText(graphics, name, fileName.font,
                                 Gdiplus::PointF(left, column.y), brush);
         column.y += rowHeight + gap;
