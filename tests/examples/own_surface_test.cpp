@@ -60,14 +60,20 @@ TEST(OwnSurface, OfAPdfHasItsFontAndItsSize) {
 }
 #endif
 
+/// The paper and the letters that an example left in a file.
+[[maybe_unused]] std::unique_ptr<Gdiplus::Bitmap> ImageWithLetters(const Program& program,
+                                                                   const char* file) {
+    std::unique_ptr<Gdiplus::Bitmap> image = program.Image(file);
+    EXPECT_EQ(image->GetWidth(), 320u);
+    EXPECT_EQ(PixelAt(*image, 0, 0), 0xFFA8CFB9);
+    ExpectLetters([&](int x, int y) { return PixelAt(*image, x, y) == 0xFF000000; });
+    return image;
+}
+
 #ifdef QT_IMAGE
 TEST(OwnSurface, OfQtIsDrawnOnInPlace) {
     const Session session;
-    const Program program(QT_IMAGE, "");
-    const std::unique_ptr<Gdiplus::Bitmap> image = program.Image("title.png");
-    ASSERT_EQ(image->GetWidth(), 320u);
-    EXPECT_EQ(PixelAt(*image, 0, 0), 0xFFA8CFB9);
-    ExpectLetters([&](int x, int y) { return PixelAt(*image, x, y) == 0xFF000000; });
+    ImageWithLetters(Program(QT_IMAGE, ""), "title.png");
 }
 #endif
 
@@ -75,12 +81,8 @@ TEST(OwnSurface, OfQtIsDrawnOnInPlace) {
 // SDL's paper is below the letters, its line above everything.
 TEST(OwnSurface, OfSdlIsDrawnOnBetweenDrawings) {
     const Session session;
-    const Program program(SDL_SURFACE, "");
-    const std::unique_ptr<Gdiplus::Bitmap> image = program.Image("title.bmp");
-    ASSERT_EQ(image->GetWidth(), 320u);
-    EXPECT_EQ(PixelAt(*image, 0, 0), 0xFFA8CFB9);
+    const auto image = ImageWithLetters(Program(SDL_SURFACE, ""), "title.bmp");
     EXPECT_EQ(PixelAt(*image, 160, 111), 0xFFCC331A);
-    ExpectLetters([&](int x, int y) { return PixelAt(*image, x, y) == 0xFF000000; });
 }
 #endif
 
