@@ -2,19 +2,16 @@
 
 #include <gtest/gtest.h>
 
+#include "kit/pulls.h"
 #include "map_surround/frame.h"
 
 namespace {
 
 using namespace map_surround::kit;
 
-const CBoundingBox kExtent(300.0, 300.0, 420.0, 360.0);  // 120 by 60
+const CBoundingBox kExtent(300.0, 300.0, 420.0, 360.0);
 
-struct Box {
-    double left, bottom, right, top;
-};
-
-void ExpectExtent(const CBoundingBox& extent, const Box& expected) {
+void ExpectExtent(const CBoundingBox& extent, const kit_tests::Edges& expected) {
     const CPoint2D corner = extent.TopLeft();
     EXPECT_DOUBLE_EQ(corner.x, expected.left);
     EXPECT_DOUBLE_EQ(corner.y, expected.top);
@@ -32,34 +29,19 @@ TEST(Handles, StandWhereFramesFindThem) {
     }
 }
 
-struct PullRow {
-    int handle;
-    Box free;          // pulled by 30 to the right and 20 upwards
-    Box proportioned;  // the same where proportions are kept
-};
-
-// Free: the edges that the handle has follow. Kept: the larger of the two pulls, as a
-// factor, and the opposite corner, or middle of an edge, stays.
-const PullRow kRows[] = {
-    {0, {330, 300, 420, 380}, {260, 300, 420, 380}},  // 80 / 60 high
-    {1, {300, 300, 420, 380}, {280, 300, 440, 380}},
-    {2, {300, 300, 450, 380}, {300, 300, 460, 380}},
-    {3, {300, 300, 450, 360}, {300, 292.5, 450, 367.5}},  // 150 / 120 wide
-    {4, {300, 320, 450, 360}, {300, 285, 450, 360}},
-    {5, {300, 320, 420, 360}, {320, 320, 400, 360}},  // 40 / 60 high
-    {6, {330, 320, 420, 360}, {330, 315, 420, 360}},  // 90 / 120 wide
-    {7, {330, 300, 420, 360}, {330, 307.5, 420, 352.5}},
-    {8, {300, 300, 420, 360}, {300, 300, 420, 360}},  // no handle
-    {-1, {300, 300, 420, 360}, {300, 300, 420, 360}},
-};
-
 TEST(Handles, PullTheirEdges) {
-    for (const PullRow& row : kRows) {
+    for (const kit_tests::PullRow& row : kit_tests::kPulls) {
         SCOPED_TRACE(row.handle);
         const CPoint2D from = HandleAt(kExtent, row.handle);
         const CPoint2D to(from.x + 30.0, from.y + 20.0);
         ExpectExtent(Pulled(kExtent, row.handle, to, false), row.free);
         ExpectExtent(Pulled(kExtent, row.handle, to, true), row.proportioned);
+    }
+}
+
+TEST(Handles, ThatAreNonePullNothing) {
+    for (const int handle : {-1, kHandles}) {
+        ExpectExtent(Pulled(kExtent, handle, {500.0, 500.0}, true), {300, 300, 420, 360});
     }
 }
 

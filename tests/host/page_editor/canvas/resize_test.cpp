@@ -1,5 +1,6 @@
 #include "page_editor/editing/resize.h"
 
+#include "kit/pulls.h"
 #include "page/made_raster.h"
 #include "page_editor/editor_fixture.h"
 
@@ -21,31 +22,16 @@ protected:
     }
 };
 
-struct PullRow {
-    int handle;
-    host::Box free;          // pulled by 30 to the right and 20 upwards
-    host::Box proportioned;  // the same where proportions are kept
-};
-
-// Free: the edges that the handle has follow. Kept: the larger of the two pulls, as a
-// factor, and the opposite corner, or middle of an edge, stays.
-const PullRow kPulls[] = {
-    {0, {330, 300, 420, 380}, {260, 300, 420, 380}},  // 80 / 60 high
-    {1, {300, 300, 420, 380}, {280, 300, 440, 380}},
-    {2, {300, 300, 450, 380}, {300, 300, 460, 380}},
-    {3, {300, 300, 450, 360}, {300, 292.5, 450, 367.5}},  // 150 / 120 wide
-    {4, {300, 320, 450, 360}, {300, 285, 450, 360}},
-    {5, {300, 320, 420, 360}, {320, 320, 400, 360}},  // 40 / 60 high
-    {6, {330, 320, 420, 360}, {330, 315, 420, 360}},  // 90 / 120 wide
-    {7, {330, 300, 420, 360}, {330, 307.5, 420, 352.5}},
-};
+Box BoxOfEdges(const kit_tests::Edges& edges) {
+    return {edges.left, edges.bottom, edges.right, edges.top};
+}
 
 TEST_F(Resizing, PullsEachHandleOfAFreeFrame) {
     const std::size_t arrow = Add("north-arrow-four", kBox);
-    for (const PullRow& row : kPulls) {
+    for (const kit_tests::PullRow& row : kit_tests::kPulls) {
         SCOPED_TRACE(row.handle);
         Pull(arrow, row.handle, 30.0, 20.0);
-        ExpectBox(BoxOf(arrow), row.free);
+        ExpectBox(BoxOf(arrow), BoxOfEdges(row.free));
         EXPECT_EQ(document.UndoLabel(), "Resize");
         ExpectImageIsThePage();
         Command("undo");
@@ -57,10 +43,10 @@ TEST_F(Resizing, PullsEachHandleOfAFreeFrame) {
 TEST_F(Resizing, KeepsTheProportionsOfWhatHasThem) {
     for (const char* type : {"title", "scale-bar-line", "legend"}) {
         const std::size_t item = Add(type, kBox);
-        for (const PullRow& row : kPulls) {
+        for (const kit_tests::PullRow& row : kit_tests::kPulls) {
             SCOPED_TRACE(type + std::to_string(row.handle));
             Pull(item, row.handle, 30.0, 20.0);
-            ExpectBox(BoxOf(item), row.proportioned);
+            ExpectBox(BoxOf(item), BoxOfEdges(row.proportioned));
             ExpectImageIsThePage();
             Command("undo");
             ExpectBox(BoxOf(item), kBox);
@@ -73,10 +59,10 @@ TEST_F(Resizing, KeepsTheProportionsOfWhatHasThem) {
 TEST_F(Resizing, ShiftTurnsTheProportionsRound) {
     const std::size_t arrow = Add("north-arrow-four", kBox);
     Pull(arrow, 2, 30.0, 20.0, Qt::AltModifier | Qt::ShiftModifier);
-    ExpectBox(BoxOf(arrow), kPulls[2].proportioned);
+    ExpectBox(BoxOf(arrow), BoxOfEdges(kit_tests::kPulls[2].proportioned));
     const std::size_t title = Add("title", kBox);
     Pull(title, 2, 30.0, 20.0, Qt::AltModifier | Qt::ShiftModifier);
-    ExpectBox(BoxOf(title), kPulls[2].free);
+    ExpectBox(BoxOf(title), BoxOfEdges(kit_tests::kPulls[2].free));
 }
 
 TEST_F(Resizing, LetsTheElementGrow) {
