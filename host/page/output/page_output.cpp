@@ -7,7 +7,8 @@
 
 #include "page/output/image_file.h"
 #include "page/output/page_image.h"
-#include "page/output/print_file.h"
+#include "page/output/pdf_file.h"
+#include "page/output/postscript_file.h"
 #include "page/texts.h"
 
 namespace host {
@@ -34,7 +35,9 @@ std::vector<std::uint8_t> EncodePage(const Page& page, OutputFormat format, doub
                                      const Progress& progress,
                                      const std::function<void()>& encoding) {
     if (IsForPrint(format)) {
-        std::vector<std::uint8_t> file = EncodeForPrint(page, format, dpi, progress);
+        std::vector<std::uint8_t> file = format == OutputFormat::Pdf
+                                             ? EncodePdf(page, dpi, progress)
+                                             : EncodePostScript(page, dpi, progress);
         CheckWritten(page);
         return file;
     }

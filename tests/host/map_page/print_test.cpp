@@ -180,6 +180,28 @@ TEST_F(Print, GivesTheSamePostScriptEachTime) {
                       "0 -0.724409 translate\n"));
 }
 
+TEST_F(Print, GivesTheSamePdfEachTimeAndDatesItByTheEnvironment) {
+    ASSERT_EQ(Draw("page.pdf").status, 0);
+    ASSERT_EQ(Draw("again.PDF").status, 0);
+    EXPECT_EQ(ContentsOf(folder.Path("page.pdf")), ContentsOf(folder.Path("again.PDF")));
+    std::string info = Said("pdfinfo " + folder.Path("page.pdf"));
+    EXPECT_EQ(After("\n" + info, "Title:"), "Harbour 影像");
+    EXPECT_FALSE(Holds(info, "CreationDate")) << info;
+    const auto drawnAt = [&](const char* epoch) {
+        return host_tests::RunningMapPage(
+                   folder, {"scene.tif", "-o", "dated.pdf"},
+                   [epoch] { setenv("SOURCE_DATE_EPOCH", epoch, 1); })
+            .Wait();
+    };
+    ASSERT_EQ(drawnAt("86400").status, 0);  // a day after the epoch
+    info = Said("pdfinfo -isodates " + folder.Path("dated.pdf"));
+    EXPECT_EQ(After(info, "CreationDate:"), "1970-01-02T00:00:00Z");
+    EXPECT_TRUE(Holds(Said("pdfinfo -meta " + folder.Path("dated.pdf")),
+                      "<xmp:CreateDate>1970-01-02T00:00:00Z</xmp:CreateDate>"));
+    EXPECT_EQ(drawnAt("yesterday").err,
+              "map_page: dated.pdf: SOURCE_DATE_EPOCH is no number of seconds\n");
+}
+
 TEST_F(Print, NeedsNoOtherProgram) {
     const host_tests::RunningMapPage running(folder, {"scene.tif", "-o", "page.pdf"},
                                              [] { setenv("PATH", "/nowhere", 1); });

@@ -1,17 +1,14 @@
-#include "page/output/print_file.h"
+#include "page/output/postscript_file.h"
 
-#include <cairo-pdf.h>
 #include <cairo-ps.h>
-#include <gdiplus/cairo.h>
 
 #include <cmath>
 #include <cstdio>
-#include <memory>
-#include <new>
 #include <stdexcept>
 #include <string>
 #include <string_view>
 
+#include "page/output/cairo_page.h"
 #include "page/units.h"
 
 namespace host {
@@ -20,27 +17,6 @@ namespace {
 using Bytes = std::vector<std::uint8_t>;
 
 constexpr const char* kTitle = "map page";
-
-cairo_status_t Append(void* bytes, const unsigned char* data, unsigned int length) {
-    try {
-        static_cast<Bytes*>(bytes)->insert(static_cast<Bytes*>(bytes)->end(), data,
-                                           data + length);
-    } catch (const std::bad_alloc&) {
-        return CAIRO_STATUS_WRITE_ERROR;
-    }
-    return CAIRO_STATUS_SUCCESS;
-}
-
-cairo_surface_t* SurfaceOf(OutputFormat format, double width, double height,
-                           Bytes& file) {
-    if (format == OutputFormat::PostScript) {
-        return cairo_ps_surface_create_for_stream(Append, &file, width, height);
-    }
-    cairo_surface_t* const surface =
-        cairo_pdf_surface_create_for_stream(Append, &file, width, height);
-    cairo_pdf_surface_set_metadata(surface, CAIRO_PDF_METADATA_TITLE, kTitle);
-    return surface;
-}
 
 std::string Number(double number) {
     char text[32];
@@ -121,30 +97,16 @@ Bytes TellingSize(const Bytes& file, double width, double height) {
 
 }  // namespace
 
-std::vector<std::uint8_t> EncodeForPrint(const Page& page, OutputFormat format,
-                                         double dpi, const Progress& progress) {
+std::vector<std::uint8_t> EncodePostScript(const Page& page, double dpi,
+                                           const Progress& progress) {
     const double width = PointsFromUnits(page.Width());
     const double height = PointsFromUnits(page.Height());
     Bytes file;
-    const std::unique_ptr<cairo_surface_t, void (*)(cairo_surface_t*)> surface(
-        SurfaceOf(format, width, height, file), cairo_surface_destroy);
-    const std::unique_ptr<cairo_t, void (*)(cairo_t*)> cairo(cairo_create(surface.get()),
-                                                             cairo_destroy);
-    const double pixel = 72.0 / dpi;
-    cairo_scale(cairo.get(), pixel, pixel);
-    {
-        Gdiplus::CairoGraphics graphics(cairo.get(), static_cast<float>(dpi));
-        page.Draw(graphics, dpi, progress);
-    }
-    cairo_surface_finish(surface.get());
-    for (const cairo_status_t status :
-         {cairo_surface_status(surface.get()), cairo_status(cairo.get())}) {
-        if (status != CAIRO_STATUS_SUCCESS) {
-            throw std::runtime_error(std::string("the page cannot be written: ") +
-                                     cairo_status_to_string(status));
-        }
-    }
-    return format == OutputFormat::PostScript ? TellingSize(file, width, height) : file;
+    const CairoSurface surface =
+        Owned(cairo_ps_surface_create_for_stream(AppendToBytes, &file, width, height));
+    DrawOnCairo(surface.get(), page, dpi, progress);
+    FinishSurface(surface.get());
+    return TellingSize(file, width, height);
 }
 
 }  // namespace host

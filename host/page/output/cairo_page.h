@@ -1,0 +1,32 @@
+#pragma once
+
+#include <cairo.h>
+
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+#include "page/page.h"
+
+namespace host {
+
+using CairoSurface = std::unique_ptr<cairo_surface_t, void (*)(cairo_surface_t*)>;
+
+/// A surface that is destroyed with what holds it.
+inline CairoSurface Owned(cairo_surface_t* surface) {
+    return {surface, cairo_surface_destroy};
+}
+
+/// Writes what Cairo gives at the end of a std::vector<std::uint8_t>.
+cairo_status_t AppendToBytes(void* bytes, const unsigned char* data, unsigned int length);
+
+/// Draws a page on a surface whose unit is a point, 1/72 inch, and ends the surface's
+/// page. Positions are those of the picture at the resolution, in whole pixels. Throws
+/// what the page's drawing throws, and std::runtime_error when Cairo cannot draw it.
+void DrawOnCairo(cairo_surface_t* surface, const Page& page, double dpi,
+                 const Progress& progress);
+
+/// Writes what is left. Throws std::runtime_error when anything could not be written.
+void FinishSurface(cairo_surface_t* surface);
+
+}  // namespace host

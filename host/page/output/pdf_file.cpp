@@ -1,0 +1,23 @@
+#include "page/output/pdf_file.h"
+
+#include <cairo-pdf.h>
+
+#include "page/output/cairo_page.h"
+#include "page/output/page_words.h"
+#include "page/output/pdf_finish.h"
+#include "page/units.h"
+
+namespace host {
+
+std::vector<std::uint8_t> EncodePdf(const Page& page, double dpi,
+                                    const Progress& progress) {
+    std::vector<std::uint8_t> draft;
+    const CairoSurface surface = Owned(cairo_pdf_surface_create_for_stream(
+        AppendToBytes, &draft, PointsFromUnits(page.Width()),
+        PointsFromUnits(page.Height())));
+    DrawOnCairo(surface.get(), page, dpi, progress);
+    FinishSurface(surface.get());
+    return FinishPdf(draft, WordsOf(page));
+}
+
+}  // namespace host

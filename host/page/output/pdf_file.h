@@ -1,0 +1,17 @@
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "page/page.h"
+
+namespace host {
+
+/// The bytes of a PDF file with the page in its true size: shapes stay shapes and texts
+/// texts, in fonts that the file brings along; maps are images without loss. The same
+/// page gives the same bytes. Throws as DrawOnCairo does.
+/// @param dpi the resolution of maps: an A4 page is 842 x 595 points at any
+std::vector<std::uint8_t> EncodePdf(const Page& page, double dpi,
+                                    const Progress& progress = {});
+
+}  // namespace host

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "page/output/page_words.h"
+
+namespace host {
+
+/// A PDF file of Cairo's with what Cairo does not write: its words, as metadata that
+/// viewers and catalogues read, and its language.
+///
+/// It is dated by SOURCE_DATE_EPOCH, or not at all, and its identifier follows from what
+/// it holds, so that the same page gives the same bytes. Throws std::runtime_error when
+/// it cannot be written.
+std::vector<std::uint8_t> FinishPdf(const std::vector<std::uint8_t>& draft,
+                                    const PageWords& words);
+
+}  // namespace host

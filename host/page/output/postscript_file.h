@@ -1,0 +1,17 @@
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "page/page.h"
+
+namespace host {
+
+/// The bytes of a PostScript file with the page in its true size: shapes stay shapes and
+/// texts texts; maps are images without loss. The same page gives the same bytes. Throws
+/// as DrawOnCairo does.
+/// @param dpi the resolution of maps: an A4 page is 842 x 595 points at any
+std::vector<std::uint8_t> EncodePostScript(const Page& page, double dpi,
+                                           const Progress& progress = {});
+
+}  // namespace host

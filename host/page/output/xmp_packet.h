@@ -1,0 +1,19 @@
+#pragma once
+
+#include <string>
+
+#include "page/output/page_words.h"
+
+namespace host {
+
+/// What a file says of itself besides its words.
+struct FileFacts {
+    std::string producer;  ///< the library that wrote it
+    std::string creator;   ///< the program that had it written
+    std::string date;      ///< "2026-11-22T18:00:00Z"; empty for none
+};
+
+/// The words of a page and the facts of its file as an XMP packet.
+std::string XmpPacket(const PageWords& words, const FileFacts& facts);
+
+}  // namespace host
