@@ -1,5 +1,8 @@
 #include "map_page/draw_page.h"
 
+#include <unistd.h>
+
+#include <iterator>
 #include <optional>
 #include <set>
 #include <sstream>
@@ -13,6 +16,7 @@
 #include "page/document/page_text.h"
 #include "page/document/picture_file.h"
 #include "page/document/raster_store.h"
+#include "page/output/world_file.h"
 #include "system/fonts.h"
 #include "system/one_line.h"
 
@@ -52,6 +56,11 @@ std::string LineOf(const std::string& name, const host::OutputFile& file,
            " bytes";
 }
 
+/// Their names, empty where none are asked for.
+host::WorldFiles BesideOutput(const Options& options) {
+    return options.hasWorldFile ? host::WorldFilesOf(options.output) : host::WorldFiles();
+}
+
 /// No output may be one of the inputs.
 void CheckInputsStay(const Options& options, const host::Page& page,
                      const host::RasterStore& rasters) {
@@ -59,10 +68,41 @@ void CheckInputsStay(const Options& options, const host::Page& page,
     named.insert(named.end(), options.changes.rasters.begin(),
                  options.changes.rasters.end());
     named.insert(named.end(), {options.pageFile, options.picture, options.series});
-    for (const std::string& output : {options.output, options.save}) {
+    const host::WorldFiles beside = BesideOutput(options);
+    for (const std::string& output :
+         {options.output, options.save, beside.world, beside.system}) {
         host::Naming(output,
                      [&] { host::CheckReplacesNoInput(output, page, rasters, named); });
     }
+}
+
+/// Throws where the page's pixels have no coordinates.
+std::string WriteWorldFiles(const Options& options, const host::Page& page,
+                            const OutputFiles& files) {
+    std::string why;
+    const std::optional<host::Georeference> georeference =
+        host::GeoreferenceOf(page, options.dpi, why);
+    if (!georeference) {
+        throw Error("--world-file", why);
+    }
+    const auto write = [](const host::OutputFile& file, const std::string& text) {
+        file.Write({text.begin(), text.end()});
+    };
+    write(*files.world, host::WorldText(*georeference));
+    write(*files.system, host::SystemText(*georeference));
+    return "world file\ncoordinate system\n";
+}
+
+/// Readers take whatever world file lies beside a picture.
+std::vector<std::string> RemarksOfWorldFile(const Options& options) {
+    if (options.hasWorldFile || !options.format) {
+        return {};
+    }
+    const std::string world = host::WorldFilesOf(options.output).world;
+    return !world.empty() && access(world.c_str(), F_OK) == 0
+               ? std::vector<std::string>{world +
+                                          " is not of this page; --world-file renews it"}
+               : std::vector<std::string>();
 }
 
 /// Warns of each thing once.
@@ -93,6 +133,11 @@ OutputFiles::OutputFiles(const Options& options) {
     if (!options.save.empty()) {
         host::Naming(options.save, [&] { saved.emplace(options.save); });
     }
+    if (options.hasWorldFile) {
+        const host::WorldFiles beside = BesideOutput(options);
+        host::Naming(beside.world, [&] { world.emplace(beside.world); });
+        host::Naming(beside.system, [&] { system.emplace(beside.system); });
+    }
 }
 
 std::string DrawPage(const Options& options, const OutputFiles& files,
@@ -102,7 +147,10 @@ std::string DrawPage(const Options& options, const OutputFiles& files,
     CheckInputsStay(options, opened.page, *opened.rasters);
     ToldRemarks remarks(quiet);
     remarks.Tell(opened.remarks);
+    remarks.Tell(RemarksOfWorldFile(options));
     std::string told;
+    const std::string ofWorld =
+        files.world ? WriteWorldFiles(options, opened.page, files) : "";
     if (files.output) {
         told = WriteInto(options, opened.page, *files.output, quiet) + "\n";
         // A map without data is known when it has been drawn.
@@ -112,7 +160,9 @@ std::string DrawPage(const Options& options, const OutputFiles& files,
         files.saved->Write(host::PageFileBytes(opened.page, options.save));
         told += std::to_string(opened.page.Items().size()) + " elements\n";
     }
-    for (const auto* const file : {&files.output, &files.saved}) {
+    told += ofWorld;
+    for (const auto* const file :
+         {&files.output, &files.saved, &files.world, &files.system}) {
         if (*file && !(*file)->Remark().empty()) {
             remarks.Tell({(*file)->Remark()});
         }
@@ -125,21 +175,28 @@ std::string DrawPage(const Options& options, const OutputFiles& files,
 }
 
 std::string Finish(const Options& options, OutputFiles& files, const std::string& told) {
+    const host::WorldFiles beside = BesideOutput(options);
+    struct Named {
+        const std::string& name;
+        std::optional<host::OutputFile>& file;
+    };
+    const Named all[] = {{options.output, files.output},
+                         {options.save, files.saved},
+                         {beside.world, files.world},
+                         {beside.system, files.system}};
     std::istringstream lines(told);
-    std::string line;
     std::string summary;
-    if (files.output) {
-        std::getline(lines, line);
-        summary = LineOf(options.output, *files.output, line);
+    for (const Named& one : all) {
+        std::string line;
+        if (one.file && std::getline(lines, line)) {
+            summary += (summary.empty() ? "" : "\n") + LineOf(one.name, *one.file, line);
+        }
     }
-    if (files.saved) {
-        std::getline(lines, line);
-        summary +=
-            (summary.empty() ? "" : "\n") + LineOf(options.save, *files.saved, line);
-        host::Naming(options.save, [&] { files.saved->Commit(); });
-    }
-    if (files.output) {
-        host::Naming(options.output, [&] { files.output->Commit(); });
+    // The output last: where it is there, all that belongs to it is.
+    for (auto one = std::rbegin(all); one != std::rend(all); ++one) {
+        if (one->file) {
+            host::Naming(one->name, [&] { one->file->Commit(); });
+        }
     }
     return summary;
 }

@@ -16,6 +16,8 @@ struct OutputFiles {
 
     std::optional<host::OutputFile> output;
     std::optional<host::OutputFile> saved;
+    std::optional<host::OutputFile> world;   // beside the output
+    std::optional<host::OutputFile> system;  // likewise
 };
 
 /// Draws the page that the options ask for into the one file and saves it in the other,

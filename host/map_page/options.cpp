@@ -21,6 +21,7 @@
 #include "page/colour_text.h"
 #include "page/document/opened_page.h"
 #include "page/document/schema.h"
+#include "page/output/world_file.h"
 #include "system/confinement.h"
 
 namespace map_page {
@@ -176,6 +177,10 @@ void Declare(CLI::App& app, Given& given, Options& options) {
     app.add_option("--save", options.save, "Page file to write, .json; needs no --output")
         ->type_name("FILE");
 
+    app.add_flag("--world-file", options.hasWorldFile,
+                 "Also write where the picture's pixels lie on the map: page.pgw of\n"
+                 "page.png, .jgw of .jpg, and the coordinate system, page.png.aux.xml");
+
     app.add_flag("--strict", options.isStrict,
                  "Take every warning for a failure: write nothing, end with status 1");
 
@@ -262,6 +267,12 @@ host::OutputFormat FormatOf(const std::string& output) {
     }
 }
 
+void CheckWorldFile(const std::string& output) {
+    if (output.empty() || host::WorldFilesOf(output).world.empty()) {
+        throw UsageError("--world-file", "goes with an output in .png or .jpg");
+    }
+}
+
 /// Fills in what is not only a matter of the command line.
 void Complete(const CLI::App& app, const Given& given, Options& options) {
     options.rasters = given.rasters;
@@ -271,6 +282,9 @@ void Complete(const CLI::App& app, const Given& given, Options& options) {
     }
     if (!options.output.empty()) {
         options.format = FormatOf(options.output);
+    }
+    if (options.hasWorldFile) {
+        CheckWorldFile(options.output);
     }
 
     host::PageDesign& design = options.design;

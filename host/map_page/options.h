@@ -18,6 +18,7 @@ struct Options {
     std::string pageFile;              ///< drawn instead of rasters; empty for none
     std::string output;                ///< empty for none
     std::optional<host::OutputFormat> format;  ///< of the output
+    bool hasWorldFile = false;                 ///< beside the output
     std::string save;                          ///< the page file to write; empty for none
     std::string series;         ///< the list of pages to draw; empty for one page
     int jobs = 1;               ///< pages of the series drawn at a time

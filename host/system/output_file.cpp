@@ -4,12 +4,14 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <climits>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <iterator>
 #include <memory>
 #include <stdexcept>
 #include <system_error>
@@ -23,7 +25,7 @@ constexpr int kEndingSignals[] = {SIGINT, SIGTERM, SIGHUP};
 
 // The names of temporary files, empty where there is none: where a signal handler can
 // read them.
-char g_unfinished[2][PATH_MAX];
+char g_unfinished[4][PATH_MAX];
 
 void RemoveAndEnd(int signal) {
     for (const auto& name : g_unfinished) {
@@ -53,6 +55,11 @@ public:
 private:
     sigset_t m_before{};
 };
+
+char* FreeName() {
+    return *std::find_if(std::begin(g_unfinished), std::prev(std::end(g_unfinished)),
+                         [](const auto& name) { return name[0] == '\0'; });
+}
 
 [[noreturn]] void Fail(int error) {
     throw std::runtime_error(std::generic_category().message(error));
@@ -132,8 +139,7 @@ void SyncFolder(const std::string& folder) {
 }  // namespace
 
 OutputFile::OutputFile(const std::string& path)
-    : m_path(Resolved(path)),
-      m_unfinished(g_unfinished[g_unfinished[0][0] == '\0' ? 0 : 1]) {
+    : m_path(Resolved(path)), m_unfinished(FreeName()) {
     CheckMayBeReplaced(m_path);
     std::string name = FolderOf(m_path);
     name += name.back() == '/' ? ".page-XXXXXX" : "/.page-XXXXXX";

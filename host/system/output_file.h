@@ -13,7 +13,7 @@ namespace host {
 /// does, and on the signals that end a program (see RemoveUnfinishedOutputOnSignals).
 /// What stood under the name before stays until Commit, and stays for good when anything
 /// fails. Its owner and its permissions become those of the new file, as far as this user
-/// may give them. A forked process may do the writing. At most two at a time.
+/// may give them. A forked process may do the writing. At most four at a time.
 class OutputFile {
 public:
     /// Begins the temporary file. Throws std::runtime_error with the reason, so that a

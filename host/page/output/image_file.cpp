@@ -37,14 +37,15 @@ CLSID EncoderOf(OutputFormat format) {
 
 }  // namespace
 
-std::vector<std::uint8_t> Encode(PageImage& image, OutputFormat format, double dpi) {
+std::vector<std::uint8_t> Encode(PageImage& image, OutputFormat format, double dpi,
+                                 const std::optional<Georeference>& georeference) {
     // GDI+ writes PNG files too, but takes three times as long; and TIFF files, without a
     // resolution, unpacked, and with an alpha.
     if (format == OutputFormat::Png) {
         return EncodePng(image.Rows(), dpi);
     }
     if (format == OutputFormat::Tiff) {
-        return EncodeTiff(image.Rows(), dpi);
+        return EncodeTiff(image.Rows(), dpi, georeference);
     }
     const MemoryFile file;
     const CLSID encoder = EncoderOf(format);

@@ -3,16 +3,18 @@
 #include <cstdint>
 #include <vector>
 
+#include "page/output/georeference.h"
 #include "page/output/output_format.h"
 #include "page/output/page_image.h"
 
 namespace host {
 
 /// The bytes of an image file of a format that is not for print. All record the
-/// resolution, JPEG in whole dots an inch.
+/// resolution, JPEG in whole dots an inch; TIFF files their coordinates.
 ///
 /// Encoded in memory, because GDI+ reports Ok for some formats when the disk is full.
 /// Throws std::runtime_error with the reason when it cannot be encoded.
-std::vector<std::uint8_t> Encode(PageImage& image, OutputFormat format, double dpi);
+std::vector<std::uint8_t> Encode(PageImage& image, OutputFormat format, double dpi,
+                                 const std::optional<Georeference>& georeference = {});
 
 }  // namespace host

@@ -50,7 +50,10 @@ std::vector<std::uint8_t> EncodePage(const Page& page, OutputFormat format, doub
     if (encoding) {
         encoding();
     }
-    return Encode(image, format, dpi);
+    std::string why;  // without coordinates it is a picture alone
+    return Encode(
+        image, format, dpi,
+        format == OutputFormat::Tiff ? GeoreferenceOf(page, dpi, why) : std::nullopt);
 }
 
 }  // namespace host

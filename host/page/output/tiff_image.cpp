@@ -20,7 +20,10 @@ public:
     GdalFile() = default;
     GdalFile(const GdalFile&) = delete;
     GdalFile& operator=(const GdalFile&) = delete;
-    ~GdalFile() { VSIUnlink(Name().c_str()); }
+    ~GdalFile() {
+        VSIUnlink(Name().c_str());
+        VSIUnlink((Name() + ".aux.xml").c_str());
+    }
 
     std::string Name() const {
         return "/vsimem/map_surround/" +
@@ -40,7 +43,15 @@ constexpr const char* kPacked[] = {
     "COMPRESS=DEFLATE", "PREDICTOR=2",     "ZLEVEL=1", "BLOCKYSIZE=64",
     "INTERLEAVE=PIXEL", "PHOTOMETRIC=RGB", nullptr};
 
-void Write(const PixelRows& pixels, double dpi, GDALDriver& driver,
+void Place(GDALDataset& file, Georeference georeference) {
+    file.SetGeoTransform(georeference.transform.data());
+    if (!georeference.projection.empty()) {
+        file.SetProjection(georeference.projection.c_str());
+    }
+}
+
+void Write(const PixelRows& pixels, double dpi,
+           const std::optional<Georeference>& georeference, GDALDriver& driver,
            const std::string& name) {
     constexpr int kBands = 3;
     const std::unique_ptr<GDALDataset> file(driver.Create(name.c_str(), pixels.width,
@@ -53,6 +64,9 @@ void Write(const PixelRows& pixels, double dpi, GDALDriver& driver,
     file->SetMetadataItem("TIFFTAG_XRESOLUTION", density.c_str());
     file->SetMetadataItem("TIFFTAG_YRESOLUTION", density.c_str());
     file->SetMetadataItem("TIFFTAG_RESOLUTIONUNIT", "2");  // an inch
+    if (georeference) {
+        Place(*file, *georeference);
+    }
     // Blue, green, red, unused: red is the third, and each band a byte before the last.
     auto* const red = const_cast<std::uint8_t*>(pixels.first) + 2;
     if (file->RasterIO(GF_Write, 0, 0, pixels.width, pixels.height, red, pixels.width,
@@ -64,7 +78,8 @@ void Write(const PixelRows& pixels, double dpi, GDALDriver& driver,
 
 }  // namespace
 
-std::vector<std::uint8_t> EncodeTiff(const PixelRows& pixels, double dpi) {
+std::vector<std::uint8_t> EncodeTiff(const PixelRows& pixels, double dpi,
+                                     const std::optional<Georeference>& georeference) {
     StartGdal();
     const QuietGdal messages;
     GDALDriver* const driver = GetGDALDriverManager()->GetDriverByName("GTiff");
@@ -72,7 +87,7 @@ std::vector<std::uint8_t> EncodeTiff(const PixelRows& pixels, double dpi) {
         throw std::runtime_error("GDAL writes no TIFF files here");
     }
     const GdalFile file;
-    Write(pixels, dpi, *driver, file.Name());
+    Write(pixels, dpi, georeference, *driver, file.Name());
     const std::string why = messages.Reason(file.Name());
     std::vector<std::uint8_t> bytes = file.Bytes();
     if (!why.empty() || bytes.empty()) {

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <string>
+
+#include "page/output/georeference.h"
+
+namespace host {
+
+/// The files that tell a picture's coordinates where the picture itself cannot.
+struct WorldFiles {
+    std::string world;   ///< "page.pgw"
+    std::string system;  ///< "page.png.aux.xml"
+};
+
+/// Their names for a picture; empty where its format has none.
+WorldFiles WorldFilesOf(const std::string& picture);
+
+/// The world file: the size of a pixel, and the middle of the first.
+std::string WorldText(const Georeference& georeference);
+
+/// The coordinate system, as GDAL keeps it beside a picture; none where it is unknown.
+std::string SystemText(const Georeference& georeference);
+
+}  // namespace host

@@ -1,0 +1,195 @@
+// Where the pixels of a page lie: what GDAL says of the file, beside what the page shows.
+
+#include <gdal_priv.h>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <ogr_spatialref.h>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstdint>
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "map_page/page_file_folder.h"
+#include "page/output/world_file.h"
+
+namespace {
+
+using host_tests::Arguments;
+using host_tests::ContentsOf;
+using host_tests::Result;
+using ::testing::HasSubstr;
+
+using Opened = std::unique_ptr<GDALDataset>;
+
+Opened Open(const std::string& path) {
+    GDALAllRegister();
+    return Opened(GDALDataset::Open(path.c_str(), GDAL_OF_RASTER));
+}
+
+/// Columns and rows, the last after the last pixel.
+struct Pixels {
+    int left = 1 << 30;
+    int top = 1 << 30;
+    int right = 0;
+    int bottom = 0;
+};
+
+/// Around the pixels that are blue.
+Pixels BluePart(GDALDataset& page) {
+    const int width = page.GetRasterXSize();
+    const int height = page.GetRasterYSize();
+    const std::size_t count =
+        static_cast<std::size_t>(width) * static_cast<std::size_t>(height);
+    std::vector<std::uint8_t> rgb(3 * count);
+    EXPECT_EQ(page.RasterIO(GF_Read, 0, 0, width, height, rgb.data(), width, height,
+                            GDT_Byte, 3, nullptr, 0, 0, 0),
+              CE_None);
+    Pixels part;
+    for (std::size_t i = 0; i < count; ++i) {
+        if (rgb[i + 2 * count] > rgb[i] + 60) {
+            const int x = static_cast<int>(i) % width;
+            const int y = static_cast<int>(i) / width;
+            part = {std::min(part.left, x), std::min(part.top, y),
+                    std::max(part.right, x + 1), std::max(part.bottom, y + 1)};
+        }
+    }
+    return part;
+}
+
+class Georeference : public host_tests::PageFileTest {
+protected:
+    /// A raster of which the first pixel alone is blue.
+    void WriteMap(const std::string& name, double x, double y, double across, double down,
+                  const std::string& projection) const {
+        MadeRaster map;
+        map.width = 12;
+        map.transform = {x, across, 0.0, y, 0.0, down};
+        map.projection = projection;
+        WriteRaster(folder.Path(name), map);
+    }
+
+    /// A page of two maps.
+    void WriteTwoMaps(const std::string& name) const {
+        ASSERT_EQ(Run({"map.tif", "--no-legend", "--save", "one.json"}).status, 0);
+        std::string page = ContentsOf(folder.Path("one.json"));
+        const std::size_t map = page.rfind('{', page.find("\"map\""));
+        int depth = 0;
+        std::size_t end = map;
+        do {
+            depth += page[end] == '{' ? 1 : page[end] == '}' ? -1 : 0;
+            ++end;
+        } while (depth > 0);
+        page.insert(end, "," + page.substr(map, end - map));
+        host_tests::WriteFile(folder.Path(name), page);
+    }
+};
+
+struct Row {
+    const char* output;
+    Arguments options;
+    std::array<double, 4> map;  ///< of its first pixel: x, y, across, down
+    const char* projection;
+};
+
+TEST_F(Georeference, IsThatOfWhatThePageShows) {
+    const std::array<double, 4> metres = {500000.0, 9000000.0, 450.0, -450.0};
+    const std::array<double, 4> degrees = {10.25, 48.5, 0.002, -0.002};
+    const Arguments world = {"--world-file", "--dpi", "96"};
+    const Row rows[] = {
+        {"page.tif", {"--dpi", "96"}, metres, "EPSG:32725"},
+        {"page.tif",
+         {"--portrait", "--size", "A5", "--dpi", "100"},
+         degrees,
+         "EPSG:4326"},
+        {"page.tif", {"--dpi", "96"}, {-500.0, -800.0, 2.0, 3.0}, "EPSG:2193"},
+        {"page.tif", {"--dpi", "96"}, metres, ""},
+        {"page.png", world, metres, "EPSG:32725"},
+        {"page.png", world, degrees, "EPSG:4326"},
+        {"page.jpeg", world, {1500000.0, 5400000.0, 10.0, -10.0}, "EPSG:2193"},
+        {"page.png", world, metres, ""},
+    };
+    for (const Row& row : rows) {
+        const auto& [x, y, across, down] = row.map;
+        WriteMap("map.tif", x, y, across, down, row.projection);
+        Arguments arguments = {"map.tif", "--no-legend", "-o", row.output};
+        arguments.insert(arguments.end(), row.options.begin(), row.options.end());
+        const Result result = Run(arguments);
+        ASSERT_EQ(result.status, 0) << result.err;
+        const Opened page = Open(folder.Path(row.output));
+        ASSERT_NE(page, nullptr);
+        std::array<double, 6> transform{};
+        ASSERT_EQ(page->GetGeoTransform(transform.data()), CE_None) << row.output;
+        const Pixels blue = BluePart(*page);
+        ASSERT_GT(blue.right, blue.left) << row.output;
+        // One that is stored from the south begins below.
+        const double top = std::max(y, y + down);
+        const double pixel = transform[1];
+        // The border covers where it begins; colours run over by a pixel in a JPEG.
+        const double begins =
+            pixel * (row.output == std::string("page.jpeg") ? 2.01 : 1.01);
+        const double ends = begins - pixel / 2.0;
+        EXPECT_NEAR(transform[0] + blue.left * pixel, x, begins);
+        EXPECT_NEAR(transform[3] + blue.top * transform[5], top, begins);
+        EXPECT_NEAR(transform[0] + blue.right * pixel, x + across, ends);
+        EXPECT_NEAR(transform[3] + blue.bottom * transform[5], top - std::abs(down),
+                    ends);
+        const OGRSpatialReference* const system = page->GetSpatialRef();
+        ASSERT_EQ(system != nullptr, row.projection[0] != '\0') << row.projection;
+        if (system != nullptr) {
+            OGRSpatialReference expected;
+            expected.SetFromUserInput(row.projection);
+            expected.SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
+            EXPECT_TRUE(system->IsSame(&expected)) << row.output << row.projection;
+        }
+    }
+}
+
+TEST(WorldFile, BeginsInTheMiddleOfTheFirstPixel) {
+    EXPECT_EQ(host::WorldText({{497000.0, 30.0, 0.0, 9001500.0, 0.0, -30.0}, {}}),
+              "30\n0\n0\n-30\n497015\n9001485\n");
+    EXPECT_EQ(host::WorldText({{0.25, 0.5, 2.0, 8.0, 4.0, -1.0}, {}}),
+              "0.5\n4\n2\n-1\n1.5\n9.5\n");
+}
+
+TEST_F(Georeference, IsLeftOutWhereThePageHasNoMapOrSeveral) {
+    WriteMap("map.tif", 500000.0, 9000000.0, 450.0, -450.0, "EPSG:32725");
+    WriteRaster(folder.Path("plain.tif"), {});
+    WriteTwoMaps("two.json");
+    for (const char* input : {"plain.tif", "two.json"}) {
+        ASSERT_EQ(Run({input, "-o", "page.tif"}).status, 0) << input;
+        std::array<double, 6> transform{};
+        EXPECT_EQ(Open(folder.Path("page.tif"))->GetGeoTransform(transform.data()),
+                  CE_Failure)
+            << input;
+    }
+    const struct {
+        const char* input;
+        const char* output;
+        int status;
+        const char* why;
+    } rows[] = {
+        {"plain.tif", "a.png", 1, "--world-file: the page's map has no coordinates"},
+        {"two.json", "a.png", 1, "--world-file: the page has 2 maps"},
+        {"map.tif", "a.tif", 2, "--world-file: goes with an output in .png or .jpg"},
+        {"map.tif", "a.pdf", 2, "--world-file: goes with an output in .png or .jpg"},
+        {"own.jpg", "own.jpeg", 1, "own.jgw: would replace "},
+    };
+    ASSERT_EQ(Run({"map.tif", "-o", "own.jpg", "--world-file"}).status, 0);
+    EXPECT_THAT(Run({"map.tif", "-o", "own.jpg"}).err,
+                HasSubstr("own.jgw is not of this page; --world-file renews it"));
+    for (const auto& row : rows) {
+        const Result result = Run({row.input, "-o", row.output, "--world-file"});
+        EXPECT_EQ(result.status, row.status) << row.input;
+        EXPECT_THAT(result.err, HasSubstr(row.why));
+        EXPECT_FALSE(std::filesystem::exists(folder.Path(row.output)));
+        EXPECT_FALSE(std::filesystem::exists(folder.Path("a.pgw")));
+    }
+}
+
+}  // namespace
