@@ -238,7 +238,7 @@ void Scene::SetProperty(CScaleBarBase& bar) {
 }
 
 void Scene::SetProperty(CMapLegend& legend) {
-    switch (m_input.Choice(20)) {
+    switch (m_input.Choice(24)) {
         case 0:
             return legend.SetTitleValue(m_input.Text());
         case 1:
@@ -278,6 +278,8 @@ void Scene::SetProperty(CMapLegend& legend) {
             return legend.SetMostWidth(m_input.Real<float>());
         case 17:
             return legend.SetAlignedLabels(m_input.Flag());
+        case 18:
+            return legend.SetColumns(m_input.Whole());
         default:
             return SetSources(legend);
     }

@@ -5,6 +5,7 @@
 
 #include <gdiplus.h>
 
+#include <cstddef>
 #include <string>
 #include <utility>
 #include <vector>
@@ -144,6 +145,28 @@ public:
     float GetMostWidth() const { return m_mostWidth; }
     void SetMostWidth(float width) { m_mostWidth = width; }
 
+    /// In how many columns the entries stand, below a title that stands over all of them;
+    /// 1 until it is set. Below 1 counts as 1 and above 64 as 64, and no column stays
+    /// empty: there are no more than there are rows to begin them.
+    ///
+    /// The entries flow from the top of a column to its foot and on at the top of the
+    /// next one. The highest column is as low as can be, and the columns are as equal as
+    /// can be: ten classes stand in four columns as 3, 3, 2 and 2. A name stays with its
+    /// first entry, three bands stay together, and so does a ramp; classes go on in the
+    /// next column without their source's name, for a name again would look like another
+    /// source.
+    ///
+    /// All columns are as wide as the widest, and half a swatch apart. In more than one,
+    /// everything that is written is measured as it is drawn: names with their captions,
+    /// bands, values, and all entries in "Arial"; ResetAspectRatio() then asks for bands
+    /// and values, too. With samples 40 wide and columns of 150, two columns are
+    /// 150 + 20 + 150 = 320 wide. The height is that of the title, its gaps and the
+    /// highest column.
+    ///
+    /// Draw begins a column at the row that ResetAspectRatio() found for it.
+    int GetColumns() const { return m_columns; }
+    void SetColumns(int columns) { m_columns = columns; }
+
     // The captions are written as they are, with nothing between them and what follows:
     // with L"Band " the third band is "Band 3", and with an empty text "3".
 
@@ -210,6 +233,7 @@ private:
     float m_swatchHeightRatio = 0.0f;
     float m_swatchWidthRatio = 0.0f;
     float m_gapRatio = 0.0f;
+    float m_columnStepRatio = 0.0f;
 
     std::vector<CGISDataSource*> m_dataSources;  // not owned
     float m_sizeFactor = 1.0f;
@@ -225,6 +249,8 @@ private:
     bool m_alignedLabels = false;
     float m_gap = 0.0f;
     float m_mostWidth = 0.0f;
+    int m_columns = 1;
+    std::vector<std::size_t> m_columnStarts;  // the rows that begin all but the first
     std::vector<LegendSource> m_shownSources;
     std::wstring m_sourceCaption = L"\u5F71\u50CF\u540D\uFF1A";
     std::wstring m_bandCaption = L"\u6CE2\u6BB5_";

@@ -18,8 +18,6 @@ namespace legend = map_surround::legend;
 
 namespace {
 
-constexpr wchar_t kEntryFamily[] = L"Arial";
-
 constexpr Gdiplus::ARGB kBlack = 0xFF000000;
 constexpr Gdiplus::ARGB kRed = 0xFFFF0000;
 constexpr Gdiplus::ARGB kGreen = 0xFF008000;
@@ -32,10 +30,12 @@ constexpr int kRampStrips = 254;
 class Cutter {
 public:
     Cutter(float most, Ruler& ruler, const Gdiplus::FontFamily& titleFamily,
-           const std::wstring& family, float emSize, Gdiplus::FontStyle style)
+           const std::wstring& family, const std::wstring& entryFamily, float emSize,
+           Gdiplus::FontStyle style)
         : m_most(most),
           m_ruler(ruler),
           m_lettering(family, emSize, style),
+          m_entry(entryFamily, emSize, style),
           m_sample(
               ruler.Measure(legend::kSampleText, titleFamily, m_lettering.font).Width) {}
 
@@ -45,18 +45,19 @@ public:
     std::wstring Label(const std::wstring& text) {
         const Length from = legend::kClassLabelMeasuredAt * m_sample;
         return map_surround::Cut(text, m_most - static_cast<float>(from), m_ruler,
-                                 m_lettering);
+                                 m_entry);
     }
 
 private:
     float m_most;
     Ruler& m_ruler;
     Lettering m_lettering;
+    Lettering m_entry;
     Length m_sample;
 };
 
-/// A cursor moving down the legend, in pixels.
-struct Column {
+/// A cursor moving down the legend, column by column, in pixels.
+struct Cursor {
     Gdiplus::Graphics* graphics;
     Gdiplus::SolidBrush& brush;
     const Gdiplus::Font& entryFont;
@@ -71,7 +72,21 @@ struct Column {
     float swatchHeight;
     float swatchWidth;
     float gap;
+    const std::vector<std::size_t>& columnStarts;
+    float columnStep;
+    float columnTop = y;
+    std::size_t row = 0;
+    std::size_t column = 0;
 
+    /// Goes on in the next column if the next row begins it.
+    void BeginRow() {
+        if (column < columnStarts.size() && row == columnStarts[column]) {
+            ++column;
+            left += columnStep;
+            y = columnTop;
+        }
+        ++row;
+    }
     void Fill(Gdiplus::Color color, float top, float height) {
         brush.SetColor(color);
         graphics->FillRectangle(&brush, left, top, swatchWidth, height);
@@ -96,34 +111,27 @@ struct Column {
     void DrawBand(Gdiplus::Color color, int index);
 };
 
-void Column::DrawBand(Gdiplus::Color color, int index) {
-    const int number = ToDevice(Length{index} + 1);
+void Cursor::DrawBand(Gdiplus::Color color, int index) {
     Fill(color, y, swatchHeight);
     brush.SetColor(kBlack);
-    Label(bandCaption + CommonFun::int2wstring(number), ValueLabelAt(), SwatchLabelY());
+    Label(bandCaption + map_surround::BandNumber(index), ValueLabelAt(), SwatchLabelY());
     y += swatchHeight + gap;
 }
 
-void Column::DrawBands(CRasterSource& source) {
+void Cursor::DrawBands(CRasterSource& source) {
+    BeginRow();
     DrawBand(kRed, source.GetRedBandNum());
     DrawBand(kGreen, source.GetGreenBandNum());
     DrawBand(kBlue, source.GetBlueBandNum());
 }
 
-void Column::DrawRamp(CRasterSource& source) {
+void Cursor::DrawRamp(CRasterSource& source) {
+    BeginRow();
     const float rampHeight = legend::kRampSwatches * swatchHeight;
     const float stripHeight = (3 * swatchHeight + 2 * rowHeight) / kRampStrips;
 
     brush.SetColor(kBlack);
-    double lowest = 0.0;
-    double highest = 0.0;
-    CRasterBand* const band = source.GetRasterBand(0);
-    if (band != nullptr) {
-        band->ComputeMinMax(&lowest, &highest, true);
-    }
-    const map_surround::RampValues values =
-        alignedLabels ? map_surround::RoundedValues(lowest, highest)
-                      : map_surround::WholeValues(lowest, highest);
+    const map_surround::RampValues values = map_surround::ValuesOf(source, alignedLabels);
     Label(highCaption + values.highest, ValueLabelAt(),
           y + (alignedLabels ? -legend::kHighAbove : 0.5f) * rowHeight);
 
@@ -146,8 +154,9 @@ void Column::DrawRamp(CRasterSource& source) {
     y += gap;
 }
 
-void Column::DrawClasses(CClassifyDisplayTable* table) {
+void Cursor::DrawClasses(CClassifyDisplayTable* table) {
     for (int i = 0; i < map_surround::ClassesCount(table); ++i) {
+        BeginRow();
         CClassifyDisplayItem* const item = table->GetClassifyItem(i);
         if (item != nullptr) {
             unsigned char red = 0;
@@ -193,17 +202,18 @@ void CMapLegend::Draw(Gdiplus::Graphics* graphics, CPoint centre, double scale) 
     map_surround::WriteText(graphics, m_titleText, title.font, Gdiplus::PointF(left, top),
                             brush);
 
-    const Lettering entry(kEntryFamily, rowHeight, m_fileNameStyle);
+    const Lettering entry(legend::kEntryFamily, rowHeight, m_fileNameStyle);
     const Lettering fileName(m_fileNameFamily, rowHeight, m_fileNameStyle);
     Ruler ruler;
     // The title's ink in this font, which is smaller than the one the layout measured.
     const int titleHeight = ruler.Measure(m_titleText, title).Height;
     std::optional<Cutter> cutter;
     if (m_mostWidth > 0.0f) {
-        cutter.emplace(m_mostWidth, ruler, title.family, m_fileNameFamily, m_fileNameSize,
-                       m_fileNameStyle);
+        cutter.emplace(m_mostWidth, ruler, title.family, m_fileNameFamily,
+                       m_columns > 1 ? legend::kEntryFamily : m_fileNameFamily,
+                       m_fileNameSize, m_fileNameStyle);
     }
-    Column column{graphics,
+    Cursor cursor{graphics,
                   brush,
                   entry.font,
                   m_bandCaption,
@@ -212,12 +222,13 @@ void CMapLegend::Draw(Gdiplus::Graphics* graphics, CPoint centre, double scale) 
                   m_alignedLabels,
                   cutter ? &*cutter : nullptr,
                   left,
-                  top + legend::kTitleGaps * gap,
+                  top + legend::kTitleGaps * gap + static_cast<float>(titleHeight),
                   rowHeight,
                   height * m_swatchHeightRatio,
                   height * m_swatchWidthRatio,
-                  gap};
-    column.y += static_cast<float>(titleHeight);
+                  gap,
+                  m_columnStarts,
+                  height * m_columnStepRatio};
 
     // By index, since a source may replace the legend's list while it is queried.
     for (std::size_t i = 0; i < m_dataSources.size(); ++i) {
@@ -232,15 +243,16 @@ void CMapLegend::Draw(Gdiplus::Graphics* graphics, CPoint centre, double scale) 
         if (cutter) {
             name = cutter->Name(name);
         }
+        cursor.BeginRow();
         map_surround::WriteText(graphics, name, fileName.font,
-                                Gdiplus::PointF(left, column.y), brush);
-        column.y += rowHeight + gap;
+                                Gdiplus::PointF(cursor.left, cursor.y), brush);
+        cursor.y += rowHeight + gap;
         if (source->GetDisplayType() == DisplayRGB) {
-            column.DrawBands(*source);
+            cursor.DrawBands(*source);
         } else if (source->GetDisplayType() == DisplayGray) {
-            column.DrawRamp(*source);
+            cursor.DrawRamp(*source);
         } else if (source->GetDisplayType() == DisplayClassified) {
-            column.DrawClasses(source->GetClassifyDisplayTable());
+            cursor.DrawClasses(source->GetClassifyDisplayTable());
         }
     }
 }

@@ -1,15 +1,20 @@
 #include <algorithm>
 #include <exception>
+#include <optional>
 #include <utility>
 
 #include "element/numbers.h"
+#include "legend/columns.h"
 #include "legend/lettering.h"
 #include "legend/proportions.h"
+#include "legend/ramp_values.h"
 #include "legend/source_queries.h"
 #include "map_surround/legend.h"
 
+using map_surround::Columns;
 using map_surround::Length;
 using map_surround::Lettering;
+using map_surround::RowsTogether;
 using map_surround::Ruler;
 using map_surround::ToDevice;
 using map_surround::Truncate;
@@ -20,12 +25,19 @@ namespace {
 
 /// The legend measured so far, in pixels.
 struct Layout {
+    Ruler& ruler;
+    const Lettering& fileName;
+    const Lettering& entry;
     Length sampleWidth;
+    Length rowHeight;
     Length swatchHeight;
     Length gap;
     float mostWidth;
+    bool isInColumns;
     Length width;
     Length height;
+    std::vector<RowsTogether> pieces = {};  // none unless in columns
+    bool isAfterName = false;
 
     void Widen(Length least) { width = std::max(width, least); }
     Length SwatchesAndGaps(int swatches, int gaps) const {
@@ -35,7 +47,7 @@ struct Layout {
     }
 
     /// The width of a text, cut where the legend cuts those that begin there.
-    Length WidthOf(const std::wstring& text, Length from, Ruler& ruler,
+    Length WidthOf(const std::wstring& text, Length from,
                    const Lettering& lettering) const {
         const float room = mostWidth - static_cast<float>(from);
         return ruler
@@ -44,25 +56,74 @@ struct Layout {
                 lettering)
             .Width;
     }
+    Length LabelAt() const { return legend::kClassLabelMeasuredAt * sampleWidth; }
 
-    void AddBands() { height += SwatchesAndGaps(legend::kBandRows, legend::kBandRows); }
-    void AddRamp() { height += SwatchesAndGaps(legend::kRampSwatches, 1); }
-    void AddClasses(CClassifyDisplayTable* table, Ruler& ruler,
-                    const Lettering& lettering) {
-        const int count = map_surround::ClassesCount(table);
-        if (count < 1) {
-            return;
+    /// In columns, bands and values are not to reach into the next one.
+    void WidenForEntry(const std::wstring& text) {
+        Widen(LabelAt() + ruler.Measure(text, entry).Width);
+    }
+    void AddPiece(Length pieceHeight) {
+        if (isAfterName) {
+            pieces.back().height += gap + pieceHeight;
+            ++pieces.back().rows;
+        } else {
+            pieces.push_back({pieceHeight, 1});
         }
-        height += SwatchesAndGaps(count, count);
-        for (int i = 0; i < map_surround::ClassesCount(table); ++i) {
-            CClassifyDisplayItem* const item = table->GetClassifyItem(i);
-            if (item != nullptr) {
-                const Length labelAt = legend::kClassLabelMeasuredAt * sampleWidth;
-                Widen(labelAt + WidthOf(item->GetLable(), labelAt, ruler, lettering));
-            }
+        isAfterName = false;
+    }
+
+    void AddName(const std::wstring& name) {
+        height += rowHeight;
+        Widen(WidthOf(name, 0, fileName));
+        if (isInColumns) {
+            isAfterName = false;
+            AddPiece(rowHeight);
+            isAfterName = true;
         }
     }
+    void AddBands(CRasterSource& source, const CMapLegend& legend);
+    void AddRamp(CRasterSource& source, const CMapLegend& legend);
+    void AddClasses(CClassifyDisplayTable* table);
 };
+
+void Layout::AddBands(CRasterSource& source, const CMapLegend& legend) {
+    height += SwatchesAndGaps(legend::kBandRows, legend::kBandRows);
+    if (isInColumns) {
+        AddPiece(SwatchesAndGaps(legend::kBandRows, legend::kBandRows - 1));
+        for (const int band : {source.GetRedBandNum(), source.GetGreenBandNum(),
+                               source.GetBlueBandNum()}) {
+            WidenForEntry(legend.GetBandCaption() + map_surround::BandNumber(band));
+        }
+    }
+}
+
+void Layout::AddRamp(CRasterSource& source, const CMapLegend& legend) {
+    height += SwatchesAndGaps(legend::kRampSwatches, 1);
+    if (isInColumns) {
+        AddPiece(SwatchesAndGaps(legend::kRampSwatches, 0));
+        const map_surround::RampValues values =
+            map_surround::ValuesOf(source, legend.GetAlignedLabels());
+        WidenForEntry(legend.GetHighCaption() + values.highest);
+        WidenForEntry(legend.GetLowCaption() + values.lowest);
+    }
+}
+
+void Layout::AddClasses(CClassifyDisplayTable* table) {
+    const int count = map_surround::ClassesCount(table);
+    if (count < 1) {
+        return;
+    }
+    height += SwatchesAndGaps(count, count);
+    for (int i = 0; i < map_surround::ClassesCount(table); ++i) {
+        CClassifyDisplayItem* const item = table->GetClassifyItem(i);
+        if (item != nullptr) {
+            Widen(LabelAt() + WidthOf(item->GetLable(), LabelAt(), entry));
+        }
+        if (isInColumns) {
+            AddPiece(swatchHeight);
+        }
+    }
+}
 
 /// Multiplies a font size, and restores it if an exception ends the measurement, be it
 /// std::bad_alloc or a source's own: a retry must not multiply twice.
@@ -110,16 +171,26 @@ void CMapLegend::ResetAspectRatio() {
         ruler.Measure(legend::kSampleText, title.family, fileName.font);
     const Length rowHeight = sample.Height;
 
-    Layout layout{};
-    layout.sampleWidth = sample.Width;
-    layout.swatchHeight = legend::kSwatchTenths * rowHeight / 10;
-    layout.gap = m_gap > 0.0f
-                     ? Truncate(double{m_gap} * static_cast<double>(rowHeight) + 0.5)
-                     : legend::kGap;
-    layout.mostWidth = m_mostWidth;
-    const Length leastWidth = legend::kLeastSwatches * layout.sampleWidth;
-    layout.width = std::max<Length>(titleBox.Width, leastWidth);
-    layout.height = titleBox.Height + legend::kTitleGaps * layout.gap;
+    const Length leastWidth = Length{legend::kLeastSwatches} * sample.Width;
+    const bool isInColumns = m_columns > 1;
+    std::optional<Lettering> entry;
+    if (isInColumns) {
+        entry.emplace(legend::kEntryFamily, m_fileNameSize, m_fileNameStyle);
+    }
+    Layout layout{ruler,
+                  fileName,
+                  entry ? *entry : fileName,
+                  sample.Width,
+                  rowHeight,
+                  legend::kSwatchTenths * rowHeight / 10,
+                  m_gap > 0.0f
+                      ? Truncate(double{m_gap} * static_cast<double>(rowHeight) + 0.5)
+                      : legend::kGap,
+                  m_mostWidth,
+                  isInColumns,
+                  leastWidth,
+                  titleBox.Height};
+    layout.height += legend::kTitleGaps * layout.gap;
 
     Length rasters = 0;
     // By index, since a source may replace the legend's list while it is queried.
@@ -130,17 +201,16 @@ void CMapLegend::ResetAspectRatio() {
             continue;
         }
         ++rasters;
-        layout.height += rowHeight;
-        // The bare name, without the caption that is drawn before it, unless it is cut.
+        // The bare name, without the caption that is drawn before it, unless it is cut or
+        // another column begins beside it.
         const std::wstring name = map_surround::NameOf(*source, m_shownSources, i);
-        layout.Widen(layout.WidthOf(m_mostWidth > 0.0f ? m_sourceCaption + name : name, 0,
-                                    ruler, fileName));
+        layout.AddName(m_mostWidth > 0.0f || isInColumns ? m_sourceCaption + name : name);
         if (source->GetDisplayType() == DisplayRGB) {
-            layout.AddBands();
+            layout.AddBands(*source, *this);
         } else if (source->GetDisplayType() == DisplayGray) {
-            layout.AddRamp();
+            layout.AddRamp(*source, *this);
         } else if (source->GetDisplayType() == DisplayClassified) {
-            layout.AddClasses(source->GetClassifyDisplayTable(), ruler, fileName);
+            layout.AddClasses(source->GetClassifyDisplayTable());
         }
     }
     if (layout.height == 0) {
@@ -148,12 +218,26 @@ void CMapLegend::ResetAspectRatio() {
     }
 
     // One gap per file name less one, which without rasters is one gap less than nothing.
-    SetSize(ToDevice(layout.height + layout.gap * (rasters - 1)));
+    Length total = layout.height + layout.gap * (rasters - 1);
+    Columns columns;
+    if (isInColumns) {
+        columns = map_surround::SetInColumns(layout.pieces, layout.gap, m_columns);
+        total = titleBox.Height + legend::kTitleGaps * layout.gap + columns.height;
+    }
+    const Length columnGap = sample.Width / legend::kColumnGapShare;
+    const Length columnStep = layout.width + columnGap;
+    const Length columnsWidth =
+        static_cast<Length>(columns.starts.size()) * columnStep + layout.width;
+
+    SetSize(ToDevice(total));
     const auto height = static_cast<float>(GetSize());
-    SetAspectRatio(static_cast<float>(layout.width) / height);
+    SetAspectRatio(static_cast<float>(std::max<Length>(titleBox.Width, columnsWidth)) /
+                   height);
     m_rowHeightRatio = static_cast<float>(rowHeight) / height;
     m_swatchHeightRatio = static_cast<float>(layout.swatchHeight) / height;
     m_swatchWidthRatio = static_cast<float>(leastWidth) / legend::kLeastSwatches / height;
     m_titleHeightRatio = static_cast<float>(titleBox.Height) / height;
     m_gapRatio = static_cast<float>(layout.gap) / height;
+    m_columnStepRatio = static_cast<float>(columnStep) / height;
+    m_columnStarts = std::move(columns.starts);
 }

@@ -7,14 +7,16 @@
 namespace map_surround::legend {
 
 constexpr wchar_t kSampleText[] = L"Band_1";
+constexpr wchar_t kEntryFamily[] = L"Arial";
 
 constexpr int kGap = 12;       ///< between any two items, in pixels of the measurement
 constexpr int kTitleGaps = 2;  ///< below the title
 
-constexpr int kSwatchTenths = 6;   ///< the height of a swatch, in tenths of a row
-constexpr int kBandRows = 3;       ///< of an RGB source: red, green, blue
-constexpr int kRampSwatches = 4;   ///< the height of a grey ramp, in swatches
-constexpr int kLeastSwatches = 3;  ///< the width that leaves room for any band label
+constexpr int kSwatchTenths = 6;    ///< the height of a swatch, in tenths of a row
+constexpr int kBandRows = 3;        ///< of an RGB source: red, green, blue
+constexpr int kRampSwatches = 4;    ///< the height of a grey ramp, in swatches
+constexpr int kLeastSwatches = 3;   ///< the width that leaves room for any band label
+constexpr int kColumnGapShare = 2;  ///< of a swatch's width: half of it between columns
 
 /// Where labels are aligned, in rows: above the top of a swatch, above the top of a ramp
 /// and above its end. The capitals of Arial begin a fifth of an em below the top of a

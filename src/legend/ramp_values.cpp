@@ -27,8 +27,6 @@ RampValues WithDecimals(double lowest, double highest, int decimals) {
             CommonFun::double2wstring(highest, decimals)};
 }
 
-}  // namespace
-
 RampValues WholeValues(double lowest, double highest) {
     return {CommonFun::int2wstring(Truncate(lowest)),
             CommonFun::int2wstring(Truncate(highest))};
@@ -42,6 +40,18 @@ RampValues RoundedValues(double lowest, double highest) {
         values = WithDecimals(lowest, highest, --decimals);
     }
     return values;
+}
+
+}  // namespace
+
+RampValues ValuesOf(CRasterSource& source, bool rounded) {
+    double lowest = 0.0;
+    double highest = 0.0;
+    CRasterBand* const band = source.GetRasterBand(0);
+    if (band != nullptr) {
+        band->ComputeMinMax(&lowest, &highest, true);
+    }
+    return rounded ? RoundedValues(lowest, highest) : WholeValues(lowest, highest);
 }
 
 }  // namespace map_surround

@@ -2,6 +2,8 @@
 
 #include <string>
 
+#include "host/raster_data.h"
+
 namespace map_surround {
 
 /// The values at the ends of a ramp as text.
@@ -10,11 +12,10 @@ struct RampValues {
     std::wstring highest;
 };
 
-/// Cut to whole numbers.
-RampValues WholeValues(double lowest, double highest);
-
-/// Rounded to three digits of what is between them, without zeros that both end in: 0 and
-/// 9.5 are "0.0" and "9.5". Of two that are the same, to three digits of their own.
-RampValues RoundedValues(double lowest, double highest);
+/// Those of a source's first band; nought where it has none.
+/// @param rounded to three digits of what is between them, without zeros that both end
+/// in: 0 and 9.5 are "0.0" and "9.5"; two that are the same to three digits of their own.
+/// Otherwise cut to whole numbers.
+RampValues ValuesOf(CRasterSource& source, bool rounded);
 
 }  // namespace map_surround

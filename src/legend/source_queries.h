@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "element/numbers.h"
 #include "host/common_functions.h"
 #include "host/raster_data.h"
 #include "map_surround/legend.h"
@@ -29,6 +30,11 @@ inline std::wstring NameOf(CRasterSource& source, const std::vector<LegendSource
                            std::size_t index) {
     return index < shown.size() && !shown[index].name.empty() ? shown[index].name
                                                               : source.GetFileName();
+}
+
+/// The number of a band as people count.
+inline std::wstring BandNumber(int index) {
+    return CommonFun::int2wstring(ToDevice(Length{index} + 1));
 }
 
 /// How many classes the table has right now; 0 without a table.

@@ -1,4 +1,5 @@
 set(legend_sources
+  columns.cpp
   legend_drawing.cpp
   legend_layout.cpp
   ramp_values.cpp

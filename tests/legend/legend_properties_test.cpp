@@ -46,6 +46,7 @@ struct Described {
         legend.SetAlignedLabels(true);
         legend.SetGap(0.5f);
         legend.SetMostWidth(77.0f);
+        legend.SetColumns(2);
         legend.SetSizeAspect(factor);
         legend.SetDataSouce({&rgb, &gray, &classes});
         Measure(legend);
@@ -77,6 +78,7 @@ void ExpectDescribed(const CMapLegend& legend) {
     EXPECT_TRUE(legend.GetAlignedLabels());
     EXPECT_EQ(legend.GetGap(), 0.5f);
     EXPECT_EQ(legend.GetMostWidth(), 77.0f);
+    EXPECT_EQ(legend.GetColumns(), 2);
     const std::vector<LegendSource> shown = legend.GetShownSources();
     ASSERT_EQ(shown.size(), 2U);
     EXPECT_EQ(shown[0].name, L"Scene");
@@ -113,6 +115,7 @@ TEST(LegendProperties, AFreshLegendHasItsDefaults) {
     EXPECT_FALSE(legend.GetAlignedLabels());
     EXPECT_EQ(legend.GetGap(), 0.0f);
     EXPECT_EQ(legend.GetMostWidth(), 0.0f);
+    EXPECT_EQ(legend.GetColumns(), 1);
 }
 
 TEST(LegendProperties, TheSizeFactorIsOneAtFirst) {

@@ -1,4 +1,5 @@
 set(legend_test_sources
+  legend_columns_test.cpp
   legend_changing_sources_test.cpp
   legend_drawing_test.cpp
   legend_properties_test.cpp

@@ -147,6 +147,10 @@ void AddLegends(std::vector<Row>& rows) {
             legend.SetFileName(L"");
             legend.SetDataSouce({&sources.ramp, &sources.classes});
         }));
+    rows.push_back(Legend("in columns", [](CMapLegend& legend, Sources& sources) {
+        legend.SetColumns(2);
+        legend.SetDataSouce({&sources.classes, &sources.ramp, &sources.bands});
+    }));
     rows.push_back(Legend("of a crowd", [](CMapLegend& legend, Sources& sources) {
         legend.SetFileName(L"Times New Roman");
         legend.SetTitleStyle(Gdiplus::FontStyleItalic);

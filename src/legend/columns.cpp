@@ -1,0 +1,154 @@
+#include "legend/columns.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace map_surround {
+namespace {
+
+constexpr std::size_t kMostColumns = 64;
+
+/// The rows of a legend one below another, to be told by how many pieces stand above.
+class Roll {
+public:
+    Roll(const std::vector<RowsTogether>& pieces, Length gap) : m_gap(gap) {
+        m_tops.reserve(pieces.size() + 1);
+        m_tops.push_back(0);
+        for (const RowsTogether& piece : pieces) {
+            const Length height = std::max<Length>(0, piece.height);
+            m_tops.push_back(m_tops.back() + height + gap);
+            m_highest = std::max(m_highest, height);
+        }
+    }
+
+    std::size_t Count() const { return m_tops.size() - 1; }
+    Length Height(std::size_t from, std::size_t end) const {
+        return m_tops[end] - m_tops[from] - m_gap;
+    }
+    /// Where a column that begins there ends at the latest.
+    std::size_t LastEnd(std::size_t from, Length limit) const {
+        const auto past =
+            std::upper_bound(m_tops.begin(), m_tops.end(), m_tops[from] + m_gap + limit);
+        return static_cast<std::size_t>(past - m_tops.begin()) - 1;
+    }
+    /// Where a column that ends there begins at the earliest.
+    std::size_t FirstStart(std::size_t end, Length limit) const {
+        const auto first =
+            std::lower_bound(m_tops.begin(), m_tops.end(), m_tops[end] - m_gap - limit);
+        return static_cast<std::size_t>(first - m_tops.begin());
+    }
+    /// The height of the lowest columns that all of it fits into.
+    Length LowestLimit(std::size_t columns) const {
+        Length least = m_highest;
+        Length most = std::max(m_highest, Height(0, Count()));
+        while (least < most) {
+            const Length middle = least + (most - least) / 2;
+            std::size_t end = 0;
+            for (std::size_t column = 0; column < columns; ++column) {
+                end = LastEnd(end, middle);
+            }
+            if (end == Count()) {
+                most = middle;
+            } else {
+                least = middle + 1;
+            }
+        }
+        return least;
+    }
+
+private:
+    Length m_gap;
+    Length m_highest = 0;
+    std::vector<Length> m_tops;
+};
+
+/// The best ways to set what stands above each end in so many columns: the sum of the
+/// squares of their heights is least where they are as equal as can be.
+struct Ways {
+    std::size_t firstEnd = 0;
+    std::vector<double> costs = {0.0};
+    std::vector<std::size_t> lastStarts = {0};  ///< where the last column begins
+
+    std::size_t LastEnd() const { return firstEnd + costs.size() - 1; }
+};
+
+/// The same with one column more.
+/// @param lastEnd beyond which what is left would be too little for the columns after it
+Ways WithOneMore(const Ways& before, const Roll& roll, Length limit,
+                 std::size_t lastEnd) {
+    Ways ways;
+    ways.firstEnd = before.firstEnd + 1;
+    lastEnd = std::min(lastEnd, roll.LastEnd(before.LastEnd(), limit));
+    const std::size_t count = lastEnd - before.firstEnd;
+    ways.costs.assign(count, std::numeric_limits<double>::infinity());
+    ways.lastStarts.assign(count, 0);
+    std::size_t step = 1;
+    while (step <= count) {
+        step *= 2;
+    }
+    // The later the last column ends, the later it begins: each end looks only between
+    // the starts of its neighbours, which are found before it.
+    for (; step > 0; step /= 2) {
+        for (std::size_t place = step; place <= count; place += 2 * step) {
+            const std::size_t end = before.firstEnd + place;
+            const std::size_t earliest =
+                std::max(before.firstEnd, roll.FirstStart(end, limit));
+            const std::size_t latest = std::min(before.LastEnd(), end - 1);
+            std::size_t first = earliest;
+            std::size_t last = latest;
+            if (place > step) {
+                first = std::clamp(ways.lastStarts[place - step - 1], earliest, latest);
+            }
+            if (place + step <= count) {
+                last = std::clamp(ways.lastStarts[place + step - 1], first, latest);
+            }
+            for (std::size_t start = first; start <= last; ++start) {
+                const auto height = static_cast<double>(roll.Height(start, end));
+                const double cost =
+                    before.costs[start - before.firstEnd] + height * height;
+                // Of two as good, the one whose last column is shorter.
+                if (cost <= ways.costs[place - 1]) {
+                    ways.costs[place - 1] = cost;
+                    ways.lastStarts[place - 1] = start;
+                }
+            }
+        }
+    }
+    return ways;
+}
+
+}  // namespace
+
+Columns SetInColumns(const std::vector<RowsTogether>& pieces, Length gap, int columns) {
+    if (pieces.empty()) {
+        return {{}, -gap};
+    }
+    const Roll roll(pieces, std::max<Length>(0, gap));
+    const std::size_t count = std::min(
+        {static_cast<std::size_t>(std::max(1, columns)), kMostColumns, pieces.size()});
+    const Length limit = roll.LowestLimit(count);
+    std::vector<Ways> ways(1);
+    for (std::size_t column = 1; column <= count; ++column) {
+        ways.push_back(
+            WithOneMore(ways.back(), roll, limit, pieces.size() - (count - column)));
+    }
+
+    // The starts as pieces, from the last one up, then as the rows above them.
+    std::vector<std::size_t> starts(count - 1);
+    std::size_t end = pieces.size();
+    for (std::size_t column = count; column > 1; --column) {
+        end = ways[column].lastStarts[end - ways[column].firstEnd];
+        starts[column - 2] = end;
+    }
+    std::size_t piece = 0;
+    std::size_t rows = 0;
+    for (std::size_t& start : starts) {
+        for (; piece < start; ++piece) {
+            rows += pieces[piece].rows;
+        }
+        start = rows;
+    }
+    return {starts, limit};
+}
+
+}  // namespace map_surround

@@ -1,0 +1,334 @@
+// Legends in columns: rows of 13, swatches of 7 and samples of 40, gaps of 12.
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <bitset>
+#include <cmath>
+#include <cstdlib>
+#include <deque>
+#include <limits>
+#include <utility>
+
+#include "legend/fake_sources.h"
+#include "legend/scripted_ink.h"
+#include "map_surround/legend.h"
+#include "recording/expect.h"
+#include "recording/lines.h"
+
+namespace {
+
+using fakes::Raster;
+using namespace recording;
+
+constexpr int kGap = 12;
+constexpr int kTitle = 13 + 2 * kGap;
+
+/// Every character is 10 wide, in Arial; half as wide in any other family.
+ink::Size Ink(const std::string& text, const std::string& family, float) {
+    const auto characters = static_cast<int>(std::count_if(
+        text.begin(), text.end(), [](char c) { return (c & 0xC0) != 0x80; }));
+    return text == "Band_1" ? ink::Size{40, 13}
+                            : ink::Size{(family == "Arial" ? 10 : 5) * characters, 13};
+}
+
+/// Sources by letters: a name and bands (r), a ramp (g), nothing (u), so many classes.
+class Sources {
+public:
+    explicit Sources(const std::string& letters) {
+        for (const char letter : letters) {
+            m_rasters.emplace_back(L"name", letter == 'r'   ? DisplayRGB
+                                            : letter == 'g' ? DisplayGray
+                                            : letter == 'u'
+                                                ? static_cast<DataDisplayType>(7)
+                                                : DisplayClassified);
+            const int classes = letter >= '0' && letter <= '9' ? letter - '0' : 0;
+            m_rasters.back().table.items.assign(static_cast<std::size_t>(classes),
+                                                {L"class", 1, 2, 3});
+        }
+    }
+    std::vector<CGISDataSource*> All() {
+        std::vector<CGISDataSource*> all;
+        for (Raster& raster : m_rasters) {
+            all.push_back(&raster);
+        }
+        return all;
+    }
+    Raster& operator[](std::size_t i) { return m_rasters[i]; }
+
+private:
+    std::deque<Raster> m_rasters;
+};
+
+void Measure(CMapLegend& legend) {
+    Recording recording(Mode::RecordOnly);
+    ink::Script(recording, Ink);
+    legend.ResetAspectRatio();
+}
+
+int WidthOf(const CMapLegend& legend) {
+    return static_cast<int>(
+        std::lround(static_cast<float>(legend.GetSize()) * legend.GetAspectRatio()));
+}
+
+struct Text {
+    std::string text;
+    int x, y;  ///< from the legend's top left corner
+};
+
+/// What is written below the title.
+std::vector<Text> TextsOf(CMapLegend& legend) {
+    Surface surface;
+    Recording recording(Mode::RecordOnly);
+    ink::Script(recording, Ink);
+    const CPoint middle((WidthOf(legend) + 1) / 2, (legend.GetSize() + 1) / 2);
+    legend.Draw(surface.Graphics(), middle, 1.0);
+    std::vector<Text> texts;
+    for (const std::string& line : recording.Drawing()) {
+        const std::size_t quote = line.find('"');
+        const std::size_t at = line.find("\" (");
+        if (line.rfind("GdipDrawString", 0) == 0) {
+            char* end = nullptr;
+            const float x = std::strtof(line.c_str() + at + 3, &end);
+            const float y = std::strtof(end + 1, nullptr);
+            texts.push_back({line.substr(quote + 1, at - quote - 1),
+                             static_cast<int>(std::lround(x)),
+                             static_cast<int>(std::lround(y))});
+        }
+    }
+    texts.erase(texts.begin());
+    return texts;
+}
+
+/// The rows of each column, by their texts' first letters: names, bands, highs and lows,
+/// classes.
+std::string RowsOf(CMapLegend& legend) {
+    std::string rows;
+    int y = 0;
+    for (const Text& text : TextsOf(legend)) {
+        if (text.text[0] != 'l' && text.y <= y) {
+            rows += '|';
+            EXPECT_NEAR(text.y, kTitle, 1) << rows;
+        }
+        y = text.y;
+        rows += text.text[0];
+    }
+    return rows;
+}
+
+struct Legend : CMapLegend {
+    Legend() {
+        SetTitleValue(L"T");
+        SetTitle(L"Arial");
+        SetSourceCaption(L"");
+        SetBandCaption(L"b");
+        SetHighCaption(L"h");
+        SetLowCaption(L"l");
+    }
+};
+
+TEST(LegendColumns, AreAsLowAndAsEqualAsTheyCanBe) {
+    const struct {
+        const char* sources;
+        int columns;
+        const char* rows;
+        int height;  ///< of the highest column
+    } rows[] = {
+        // A name and its first class are 13 + 12 + 7 high, each other 12 + 7 more.
+        {"9", 1, "nccccccccc", 32 + 8 * 19},
+        {"9", 2, "ncccc|ccccc", 32 + 3 * 19},
+        {"9", 3, "ncc|cccc|ccc", 7 + 3 * 19},
+        {"9", 0, "nccccccccc", 32 + 8 * 19},
+        {"9", -5, "nccccccccc", 32 + 8 * 19},
+        {"9", 9, "nc|c|c|c|c|c|c|c|c", 32},
+        {"9", 2147483647, "nc|c|c|c|c|c|c|c|c", 32},
+        // Names alone: 13, and 25 more each.
+        {"uuuuuuuuuu", 4, "nnn|nnn|nn|nn", 63},
+        {"uuuuuuuuuuu", 4, "nnn|nnn|nnn|nn", 63},
+        {"uuu", 3, "n|n|n", 13},
+        {"0u", 2, "n|n", 13},
+        // Bands and ramps stay together, with their names.
+        {"r", 3, "nbbb", 13 + 12 + 45},
+        {"g", 2, "nhl", 13 + 12 + 28},
+        {"rg", 2, "nbbb|nhl", 13 + 12 + 45},
+        {"grg", 2, "nhlnbbb|nhl", 53 + 12 + 70},
+        // The ramp sets the height, and the names share the rest.
+        {"uuuuuug", 3, "nnn|nnn|nhl", 63},
+        {"uuuug", 3, "nn|nn|nhl", 53},
+        {"", 2, "", -12},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(std::string(row.sources) + " in " + std::to_string(row.columns));
+        Sources sources(row.sources);
+        Legend legend;
+        legend.SetDataSouce(sources.All());
+        legend.SetColumns(row.columns);
+        EXPECT_EQ(legend.GetColumns(), row.columns);
+        Measure(legend);
+        EXPECT_EQ(legend.GetSize(), kTitle + row.height);
+        EXPECT_EQ(RowsOf(legend), row.rows);
+    }
+}
+
+/// Whether columns of pieces are lower, or else more equal, than others.
+using Worth = std::pair<int, double>;
+
+Worth WorthOf(const std::vector<int>& heights, unsigned starts) {
+    Worth worth{0, 0.0};
+    int height = -kGap;
+    for (std::size_t i = 0; i <= heights.size(); ++i) {
+        if (i == heights.size() || (i > 0 && (starts >> i & 1U) != 0)) {
+            worth.first = std::max(worth.first, height);
+            worth.second += static_cast<double>(height) * height;
+            height = -kGap;
+        }
+        height += kGap + (i < heights.size() ? heights[i] : 0);
+    }
+    return worth;
+}
+
+// Against all ways to set up to nine pieces.
+TEST(LegendColumns, NoOtherWayIsLowerOrMoreEqual) {
+    unsigned state = 1;
+    const auto random = [&state](unsigned below) {
+        state = state * 1664525U + 1013904223U;
+        return (state >> 16) % below;
+    };
+    for (int trial = 0; trial < 150; ++trial) {
+        std::string letters;
+        std::vector<int> heights;
+        while (heights.size() < 6 && letters.size() < 6) {
+            const char letter = "rgu14"[random(5)];
+            letters += letter;
+            heights.push_back(letter == 'r'   ? 70
+                              : letter == 'g' ? 53
+                              : letter == 'u' ? 13
+                                              : 32);
+            heights.insert(heights.end(), letter == '4' ? 3 : 0, 7);
+        }
+        const int columns = 2 + static_cast<int>(random(4));
+        SCOPED_TRACE(letters + " in " + std::to_string(columns));
+        const auto count = std::min(static_cast<std::size_t>(columns), heights.size());
+        Worth best{std::numeric_limits<int>::max(), 0.0};
+        for (unsigned starts = 0; starts < 1U << heights.size(); starts += 2) {
+            if (std::bitset<32>(starts).count() == count - 1) {
+                best = std::min(best, WorthOf(heights, starts));
+            }
+        }
+
+        Sources sources(letters);
+        Legend legend;
+        legend.SetDataSouce(sources.All());
+        legend.SetColumns(columns);
+        Measure(legend);
+        unsigned starts = 0;
+        int piece = -1;
+        char before = '|';
+        for (const char row : RowsOf(legend)) {
+            const bool begins = row == 'n' || (before == 'c' && row == 'c') ||
+                                (before == '|' && row != '|');
+            piece += begins ? 1 : 0;
+            if (before == '|' && begins && piece > 0) {
+                starts |= 1U << static_cast<unsigned>(piece);
+            }
+            before = before == 'n' && row == 'c' ? 'c' : row;
+        }
+        EXPECT_EQ(legend.GetSize(), kTitle + best.first);
+        EXPECT_EQ(WorthOf(heights, starts), best);
+    }
+}
+
+TEST(LegendColumns, AreAsWideAsTheWidest) {
+    // Names are 5 a character, all else 10; labels are 2 samples of 40 from the left.
+    const struct {
+        const char* what;
+        const char* sources;
+        int columns;
+        void (*change)(Legend& legend, Sources& sources);
+        int width;
+    } rows[] = {
+        {"samples", "uu", 2, [](Legend&, Sources&) {}, 120 + 20 + 120},
+        {"one column", "uu", 1, [](Legend&, Sources&) {}, 120},
+        {"a name with its caption", "uu", 2,
+         [](Legend& legend, Sources&) {
+             legend.SetSourceCaption(std::wstring(22, L'x'));
+         },
+         130 + 20 + 130},
+        {"the caption does not count in one", "uu", 1,
+         [](Legend& legend, Sources&) {
+             legend.SetSourceCaption(std::wstring(22, L'x'));
+         },
+         120},
+        {"a class", "1u", 2, [](Legend&, Sources&) {}, 130 + 20 + 130},
+        {"a class in the names' font in one", "1u", 1, [](Legend&, Sources&) {}, 120},
+        {"a cut class", "1u", 2,
+         [](Legend& legend, Sources&) { legend.SetMostWidth(120); }, 120 + 20 + 120},
+        {"the third band", "ru", 2,
+         [](Legend&, Sources& sources) { sources[0].blue = 12344; }, 140 + 20 + 140},
+        {"the second", "ru", 2,
+         [](Legend&, Sources& sources) { sources[0].green = 12344; }, 140 + 20 + 140},
+        {"the first, and no band is cut", "ru", 2,
+         [](Legend& legend, Sources& sources) {
+             sources[0].red = 12344;
+             legend.SetMostWidth(100);
+         },
+         140 + 20 + 140},
+        {"the highest", "gu", 2,
+         [](Legend&, Sources& sources) { sources[0].band.highest = 123456.5; },
+         150 + 20 + 150},
+        {"the lowest", "gu", 2,
+         [](Legend&, Sources& sources) { sources[0].band.lowest = -12345.5; },
+         150 + 20 + 150},
+        {"the lowest, with the decimals it has", "gu", 2,
+         [](Legend& legend, Sources& sources) {
+             sources[0].band.lowest = -0.125;
+             legend.SetAlignedLabels(true);
+         },
+         150 + 20 + 150},
+        {"the title", "uu", 2,
+         [](Legend& legend, Sources&) { legend.SetTitleValue(std::wstring(31, L'T')); },
+         310},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.what);
+        Sources sources(row.sources);
+        Legend legend;
+        legend.SetFileName(L"Mono");
+        legend.SetDataSouce(sources.All());
+        legend.SetColumns(row.columns);
+        row.change(legend, sources);
+        Measure(legend);
+        EXPECT_EQ(WidthOf(legend), row.width);
+        // The second column begins as far right as it is wide and half a swatch.
+        const std::vector<Text> texts = TextsOf(legend);
+        EXPECT_NEAR(texts.back().x,
+                    row.columns == 1   ? 0
+                    : row.width == 310 ? 140
+                                       : (row.width - 20) / 2 + 20,
+                    1);
+        EXPECT_EQ(texts.front().x, 0);
+    }
+}
+
+// What is drawn later than it was measured begins its columns at the same rows.
+TEST(LegendColumns, SourcesThatChangeAreDrawnInTheColumnsMeasured) {
+    Sources sources("4");
+    Legend legend;
+    legend.SetDataSouce(sources.All());
+    legend.SetColumns(2);
+    Measure(legend);
+    EXPECT_EQ(RowsOf(legend), "nc|ccc");
+    sources[0].table.items.resize(7, {L"class", 1, 2, 3});
+    EXPECT_EQ(RowsOf(legend), "nc|cccccc");
+    sources[0].table.missing = 2;
+    EXPECT_EQ(RowsOf(legend), "nc|ccccc") << "an empty row is one";
+    sources[0].table.missing = -1;
+    sources[0].table.items.resize(1, {L"class", 1, 2, 3});
+    EXPECT_EQ(RowsOf(legend), "nc");
+    legend.SetColumns(1);
+    Measure(legend);
+    sources[0].table.items.resize(4, {L"class", 1, 2, 3});
+    EXPECT_EQ(RowsOf(legend), "ncccc");
+}
+
+}  // namespace
