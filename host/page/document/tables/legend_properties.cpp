@@ -66,6 +66,10 @@ std::vector<Property> LegendProperties() {
                    "wider ends in an ellipsis; 0: any",
                    PropertyKind::Number),
                kLengths),
+        Within(Of<&CMapLegend::GetColumns, &CMapLegend::SetColumns>(
+                   "columns", "How many columns its entries stand in",
+                   PropertyKind::Integer),
+               {1.0, 64.0}),
         Within(
             Of<&LegendFrame::SizeFactor, &LegendFrame::SetSizeFactor>(
                 "sizeFactor", "What both em sizes are multiplied by when it is measured",
