@@ -16,7 +16,8 @@ std::vector<GeoreferencedMap> GeoreferencedMaps(const Page& page, double dpi) {
         const CRect pixels = view.ToDevice(FrameOf(item).GetExtent());
         if (layers != nullptr && layers->IsPlaced() && pixels.right > pixels.left &&
             pixels.bottom > pixels.top) {
-            maps.push_back({pixels, layers->Extent(), layers->Projection()});
+            maps.push_back(
+                {NameOf(item), pixels, layers->Extent(), layers->Projection()});
         }
     }
     return maps;

@@ -13,6 +13,7 @@ namespace host {
 
 /// A map as it lies on a page, in its own coordinates.
 struct GeoreferencedMap {
+    std::string name;             ///< what people call it; UTF-8
     CRect pixels;                 ///< of the page, that its frame takes up
     Box extent;                   ///< what it shows, in map units
     std::string projection = {};  ///< as WKT; empty when unknown

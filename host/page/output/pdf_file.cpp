@@ -17,7 +17,7 @@ std::vector<std::uint8_t> EncodePdf(const Page& page, double dpi,
         PointsFromUnits(page.Height())));
     DrawOnCairo(surface.get(), page, dpi, progress);
     FinishSurface(surface.get());
-    return FinishPdf(draft, WordsOf(page));
+    return FinishPdf(draft, WordsOf(page), GeoreferencedMaps(page, dpi), dpi);
 }
 
 }  // namespace host

@@ -12,6 +12,7 @@
 #include <string>
 
 #include "map_surround/version.h"
+#include "page/output/pdf_viewports.h"
 #include "page/output/xmp_packet.h"
 #include "system/number_text.h"
 
@@ -92,12 +93,15 @@ std::vector<std::uint8_t> BytesOf(QPDF& pdf) {
 }  // namespace
 
 std::vector<std::uint8_t> FinishPdf(const std::vector<std::uint8_t>& draft,
-                                    const PageWords& words) {
+                                    const PageWords& words,
+                                    const std::vector<GeoreferencedMap>& maps,
+                                    double dpi) {
     QPDF pdf;
     pdf.setSuppressWarnings(true);
     pdf.processMemoryFile("page", reinterpret_cast<const char*>(draft.data()),
                           draft.size());
     Describe(pdf, words);
+    AddViewports(pdf, pdf.getAllPages().front(), maps, dpi);
     return BytesOf(pdf);
 }
 

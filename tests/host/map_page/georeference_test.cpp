@@ -13,6 +13,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "map_page/page_file_folder.h"
@@ -113,6 +114,9 @@ TEST_F(Georeference, IsThatOfWhatThePageShows) {
         {"page.png", world, degrees, "EPSG:4326"},
         {"page.jpeg", world, {1500000.0, 5400000.0, 10.0, -10.0}, "EPSG:2193"},
         {"page.png", world, metres, ""},
+        {"page.pdf", {}, metres, "EPSG:32725"},
+        {"page.pdf", {"--portrait"}, degrees, "EPSG:4326"},
+        {"page.pdf", {"--size", "A5"}, {600000.0, 2200000.0, 9.0, -9.0}, "EPSG:27572"},
     };
     for (const Row& row : rows) {
         const auto& [x, y, across, down] = row.map;
@@ -130,9 +134,11 @@ TEST_F(Georeference, IsThatOfWhatThePageShows) {
         // One that is stored from the south begins below.
         const double top = std::max(y, y + down);
         const double pixel = transform[1];
-        // The border covers where it begins; colours run over by a pixel in a JPEG.
-        const double begins =
-            pixel * (row.output == std::string("page.jpeg") ? 2.01 : 1.01);
+        // The border covers where it begins. Colours run over by a pixel in a JPEG, and
+        // what renders a PDF makes whole pixels of its page's height.
+        const std::string output = row.output;
+        const bool isExact = output == "page.tif" || output == "page.png";
+        const double begins = pixel * (isExact ? 1.01 : 2.01);
         const double ends = begins - pixel / 2.0;
         EXPECT_NEAR(transform[0] + blue.left * pixel, x, begins);
         EXPECT_NEAR(transform[3] + blue.top * transform[5], top, begins);
@@ -155,6 +161,22 @@ TEST(WorldFile, BeginsInTheMiddleOfTheFirstPixel) {
               "30\n0\n0\n-30\n497015\n9001485\n");
     EXPECT_EQ(host::WorldText({{0.25, 0.5, 2.0, 8.0, 4.0, -1.0}, {}}),
               "0.5\n4\n2\n-1\n1.5\n9.5\n");
+}
+
+TEST_F(Georeference, OfAPdfIsThatOfEveryMap) {
+    WriteMap("map.tif", 500000.0, 9000000.0, 450.0, -450.0, "EPSG:32725");
+    WriteMap("nowhere.tif", 500000.0, 9000000.0, 450.0, -450.0, "");
+    WriteTwoMaps("two.json");
+    const std::pair<const char*, int> rows[] = {
+        {"map.tif", 1}, {"two.json", 2}, {"nowhere.tif", 0}};
+    for (const auto& [input, count] : rows) {
+        ASSERT_EQ(Run({input, "-o", "page.pdf"}).status, 0);
+        EXPECT_EQ(host_tests::Said("qpdf --qdf --object-streams=disable " +
+                                   folder.Path("page.pdf") +
+                                   " - | grep -ac '/Type /Viewport' || true"),
+                  std::to_string(count) + "\n")
+            << input;
+    }
 }
 
 TEST_F(Georeference, IsLeftOutWhereThePageHasNoMapOrSeveral) {

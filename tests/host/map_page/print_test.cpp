@@ -3,7 +3,6 @@
 
 #include <array>
 #include <cmath>
-#include <cstdio>
 #include <cstdlib>
 #include <string>
 #include <vector>
@@ -18,18 +17,7 @@ using host_tests::Arguments;
 using host_tests::ContentsOf;
 using host_tests::Result;
 using host_tests::RunMapPage;
-
-/// What a command prints.
-std::string Said(const std::string& command) {
-    std::string text;
-    FILE* const pipe = popen(command.c_str(), "r");
-    std::array<char, 4096> part{};
-    while (std::size_t count = std::fread(part.data(), 1, part.size(), pipe)) {
-        text.append(part.data(), count);
-    }
-    EXPECT_EQ(pclose(pipe), 0) << command;
-    return text;
-}
+using host_tests::Said;
 
 bool Holds(const std::string& text, const std::string& part) {
     return text.find(part) != std::string::npos;

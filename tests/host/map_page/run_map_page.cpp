@@ -76,4 +76,15 @@ Result RunningMapPage::Wait() const {
     return result;
 }
 
+std::string Said(const std::string& command) {
+    std::string text;
+    FILE* const pipe = popen(command.c_str(), "r");
+    std::array<char, 4096> part{};
+    while (std::size_t count = std::fread(part.data(), 1, part.size(), pipe)) {
+        text.append(part.data(), count);
+    }
+    EXPECT_EQ(pclose(pipe), 0) << command;
+    return text;
+}
+
 }  // namespace host_tests

@@ -44,6 +44,9 @@ private:
     pid_t m_process;
 };
 
+/// What a command of the shell prints; it has to succeed.
+std::string Said(const std::string& command);
+
 inline Result RunMapPage(const ScratchFolder& folder, const Arguments& arguments) {
     return RunningMapPage(folder, arguments).Wait();
 }
