@@ -12,6 +12,38 @@
 
 namespace host {
 
+/// What is read aloud of a page to those who do not see it, in one language. Numbers in
+/// braces stand for what is filled in.
+struct SpokenWords {
+    const wchar_t* separator;  ///< between the parts of a sentence: ", "
+    const wchar_t* map;
+    const wchar_t* picture;
+    const wchar_t* fromTo;  ///< the places at two corners of a map: "from {0} to {1}"
+    const wchar_t* north;   ///< degrees of a place: "{0}° N"
+    const wchar_t* south;
+    const wchar_t* east;
+    const wchar_t* west;
+    const wchar_t* bar;         ///< a length and its unit: "Scale bar: {0} {1}"
+    const wchar_t* dividedBar;  ///< in two or more: "Scale bar: {0} {1} in {2} divisions"
+    const wchar_t* northIsUp;
+    const wchar_t* northIsLeft;  ///< of up, by degrees
+    const wchar_t* northIsRight;
+    const wchar_t* dark;   ///< a colour: "dark {0}"
+    const wchar_t* light;  ///< likewise
+    const wchar_t* black;
+    const wchar_t* grey;
+    const wchar_t* white;
+    const wchar_t* red;
+    const wchar_t* orange;
+    const wchar_t* yellow;
+    const wchar_t* green;
+    const wchar_t* turquoise;
+    const wchar_t* blue;
+    const wchar_t* purple;
+    const wchar_t* pink;
+    const wchar_t* brown;
+};
+
 /// The words that a page has by itself, in one language.
 struct Language {
     const char* code;  ///< as in locales, on the command line and in page files: "de"
@@ -37,6 +69,8 @@ struct Language {
     const wchar_t* nauticalMile;
     const wchar_t* degree;
     const wchar_t* mapUnit;
+
+    SpokenWords spoken;
 
     /// What a unit is called; of a choice by length, the smaller one.
     const wchar_t* Unit(DistanceUnit unit) const;

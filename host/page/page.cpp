@@ -80,6 +80,9 @@ struct ItemDrawing {
     const DeviceView& view;
     RenderedMaps& maps;
     const Progress& progress;
+    std::function<void(const std::function<void()>&)> content = [](const auto& draw) {
+        draw();
+    };
 
     void operator()(const MapFrame& map) const {
         const CRect rect = view.ToDevice(map.frame.GetExtent());
@@ -87,7 +90,7 @@ struct ItemDrawing {
         PrepareDecoration(graphics);
         decoration.behind.DrawFrame(&graphics, rect);
         if (map.picture != nullptr) {
-            DrawPicture(graphics, *map.picture, rect, maps, progress);
+            content([&] { DrawPicture(graphics, *map.picture, rect, maps, progress); });
         }
         decoration.around.DrawFrame(&graphics, rect);
     }
@@ -98,7 +101,7 @@ struct ItemDrawing {
         PrepareDecoration(graphics);
         decoration.behind.DrawFrame(&graphics, rect);
         decoration.around.DrawFrame(&graphics, rect);
-        DrawElement(graphics, *frame, Centre(rect), view.Scale());
+        content([&] { DrawElement(graphics, *frame, Centre(rect), view.Scale()); });
     }
 };
 
@@ -133,13 +136,19 @@ std::string NameOf(const PageItem& item) {
     return element == nullptr ? "frame" : FamilyName(element->GetItemType());
 }
 
-void Page::Draw(Gdiplus::Graphics& graphics, double dpi, const Progress& progress) const {
+void Page::Draw(Gdiplus::Graphics& graphics, double dpi, const Progress& progress,
+                const MarkContent& mark) const {
     const DeviceView view(m_height, dpi);
     PaintPaper(graphics);
     CheckDrawn(graphics, "page", "");
     for (const PageItem& item : m_items) {
         RenderedMaps forThisItem;  // one large image at a time
-        std::visit(ItemDrawing{graphics, view, forThisItem, progress}, item);
+        ItemDrawing drawing{graphics, view, forThisItem, progress};
+        if (mark) {
+            const auto index = static_cast<std::size_t>(&item - m_items.data());
+            drawing.content = [&mark, index](const auto& draw) { mark(index, draw); };
+        }
+        std::visit(drawing, item);
         CheckDrawn(graphics, NameOf(item), WhyNotWritten(item, view.Scale()));
     }
 }

@@ -3,6 +3,7 @@
 #include <gdiplus.h>
 
 #include <cstddef>
+#include <functional>
 #include <limits>
 #include <memory>
 #include <optional>
@@ -28,7 +29,8 @@ struct MapFrame {
     /// The denominator of the scale that the frame keeps whatever its size, around the
     /// middle of the extent; NaN for none.
     double scale = std::numeric_limits<double>::quiet_NaN();
-    RasterStyle style = {};  ///< in which its rasters are shown
+    RasterStyle style = {};            ///< in which its rasters are shown
+    std::string alternativeText = {};  ///< see PlacedFrame::AlternativeText
 };
 
 /// What stands on a page: a map, or a frame with one element in it.
@@ -40,6 +42,20 @@ const CFrameBase& FrameOf(const PageItem& item);
 
 /// What people call an item: its name, or else what it is ("map", "title").
 std::string NameOf(const PageItem& item);
+
+/// What a page says of itself where files have room for it, and is drawn nowhere. UTF-8;
+/// what is empty follows from what stands on the page, or is left out.
+struct PageAbout {
+    std::string title = {};
+    std::string author = {};
+    std::string subject = {};
+    std::string keywords = {};
+    std::string language = {};  ///< the code of a language: "de"
+};
+
+/// Draws what an item shows, and may tell a file that it does.
+using MarkContent =
+    std::function<void(std::size_t item, const std::function<void()>& draw)>;
 
 /// A sheet with maps and framed elements, drawn at any resolution.
 ///
@@ -61,6 +77,9 @@ public:
         m_items.emplace_back(std::move(frame));
     }
 
+    const PageAbout& About() const { return m_about; }
+    PageAbout& About() { return m_about; }
+
     /// In drawing order.
     const std::vector<PageItem>& Items() const { return m_items; }
     std::vector<PageItem>& Items() { return m_items; }
@@ -70,8 +89,10 @@ public:
     /// the name of the first item of which GDI+ did not draw all.
     /// @param dpi device pixels an inch: an A4 page is 1754 x 1240 pixels at 150 dpi
     /// @param progress told how far the maps have been read
-    void Draw(Gdiplus::Graphics& graphics, double dpi,
-              const Progress& progress = {}) const;
+    /// @param mark has maps and elements drawn, by their place in Items(); frames are
+    /// drawn without it
+    void Draw(Gdiplus::Graphics& graphics, double dpi, const Progress& progress = {},
+              const MarkContent& mark = {}) const;
 
     /// As Draw, but draws only these items, in the order given, on blank paper, and takes
     /// their maps from those rendered before. Where the surface has a clip, only in it.
@@ -85,6 +106,7 @@ public:
 private:
     double m_width;
     double m_height;
+    PageAbout m_about;
     std::vector<PageItem> m_items;
 };
 

@@ -29,6 +29,11 @@ public:
     const std::string& Name() const { return m_name; }
     void SetName(std::string name) { m_name = std::move(name); }
 
+    /// What is read aloud in place of the element, where the page's own words do not say
+    /// it well. UTF-8; empty for the page's own.
+    const std::string& AlternativeText() const { return m_alternativeText; }
+    void SetAlternativeText(std::string text) { m_alternativeText = std::move(text); }
+
     /// Where the element's centre stands from the middle of the frame: page units, y
     /// growing upwards.
     void SetElementOffset(double dx, double dy) { m_offset = {dx, dy}; }
@@ -42,6 +47,7 @@ protected:
 
 private:
     std::string m_name;
+    std::string m_alternativeText;
     CPoint2D m_offset;
 };
 

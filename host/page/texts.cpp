@@ -10,6 +10,7 @@
 #include "page/document/page_error.h"
 #include "page/element_of.h"
 #include "page/placed_frame.h"
+#include "page/words/legend_words.h"
 #include "system/errors.h"
 #include "system/fonts.h"
 #include "system/utf8.h"
@@ -53,16 +54,9 @@ std::vector<WrittenText> TextsOfLegend(const CMapLegend& legend,
     if (legend.GetMostWidth() > 0.0f) {
         names = entries = kEllipsis;
     }
-    const std::vector<LegendSource> shown = legend.GetShownSources();
-    for (std::size_t i = 0; i < sources.size(); ++i) {
-        auto* const raster = dynamic_cast<CRasterSource*>(sources[i]);
-        const bool isHidden = i < shown.size() && !shown[i].isShown;
-        if (!isHidden && raster != nullptr && raster->IsAvailable()) {
-            const std::wstring name = i < shown.size() ? shown[i].name : L"";
-            names +=
-                legend.GetSourceCaption() + (name.empty() ? raster->GetFileName() : name);
-            entries += EntriesOf(legend, *raster);
-        }
+    for (const auto& [raster, name] : ExplainedBy(legend, sources)) {
+        names += legend.GetSourceCaption() + name;
+        entries += EntriesOf(legend, *raster);
     }
     return {{Narrow(legend.GetTitle()), legend.GetTitleStyle(), legend.GetTitleValue()},
             {Narrow(legend.GetFileName()), legend.GetFileNameStyle(), names},

@@ -67,6 +67,7 @@ OpenedPage LayOutRasters(const std::vector<std::string>& paths,
     const std::shared_ptr<MapLayers> map =
         rasters->Map(paths, design.map.extent, design.map.style);
     LaidOutPage laidOut = LayOut(design, DescribeMap(map));
+    laidOut.page.About().language = design.language->code;
     CheckFontsOf(laidOut.page);
     NameRasters(laidOut.page, paths);
     ShowAsDesigned(design.map, laidOut.page, *rasters);

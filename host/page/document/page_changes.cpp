@@ -172,6 +172,7 @@ void ChangePaper(Page& page, const PaperChange& change) {
 }
 
 void ChangeLanguage(Page& page, const Language& language) {
+    page.About().language = language.code;
     for (PageItem& item : page.Items()) {
         for (const auto& [property, value] : WordsIn(language, item)) {
             property->write(item, value);

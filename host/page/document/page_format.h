@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <string>
 
+#include "page/page.h"
 #include "page/paper.h"
 #include "page/units.h"
 
@@ -15,6 +16,23 @@ constexpr int kPageVersion = 3;
 constexpr const char* kVersionKey = "version";
 constexpr const char* kWidthKey = "width";
 constexpr const char* kHeightKey = "height";
+/// What a page says of itself, all of it optional.
+struct AboutKey {
+    const char* name;
+    const char* about;
+    std::string PageAbout::*text;
+};
+
+constexpr AboutKey kAboutKeys[] = {
+    {"title", "In the properties of files; empty for the largest line of text",
+     &PageAbout::title},
+    {"author", "Who made the page, in the properties of files", &PageAbout::author},
+    {"subject", "What it is about, in the properties of files", &PageAbout::subject},
+    {"keywords", "To find it by, in the properties of files", &PageAbout::keywords},
+    {"language", "Of what is read aloud, by its code; else that of the scale bar",
+     &PageAbout::language},
+};
+
 constexpr const char* kElementsKey = "elements";
 constexpr const char* kTypeKey = "type";
 constexpr const char* kFrameKey = "frame";

@@ -127,6 +127,25 @@ PageItem ItemFromJson(const json& value, const FilePaths& paths,
     return item;
 }
 
+PageAbout AboutIn(const json& page) {
+    PageAbout about;
+    for (const AboutKey& key : kAboutKeys) {
+        const auto found = page.find(key.name);
+        if (found != page.end()) {
+            const auto* const text = found->get_ptr<const std::string*>();
+            const std::string why = text == nullptr ? "must be a text" : CheckText(*text);
+            if (!why.empty()) {
+                throw PageError(key.name, why);
+            }
+            about.*key.text = *text;
+        }
+    }
+    if (!about.language.empty() && FindLanguage(about.language) == nullptr) {
+        throw PageError("language", "must be the code of a language that pages have");
+    }
+    return about;
+}
+
 double SideOf(const json& page, const char* key) {
     const double side = NumberFromJson(MemberOf(page, key, ""), key);
     if (!(side >= kSmallestSide && side <= kLargestSide)) {
@@ -169,6 +188,11 @@ std::string WritePage(const Page& page, const FilePaths& paths) {
     object[kVersionKey] = kPageVersion;
     object[kWidthKey] = page.Width();
     object[kHeightKey] = page.Height();
+    for (const AboutKey& key : kAboutKeys) {
+        if (!(page.About().*key.text).empty()) {
+            object[key.name] = page.About().*key.text;
+        }
+    }
     ordered_json& elements = object[kElementsKey] = ordered_json::array();
     for (const PageItem& item : page.Items()) {
         elements.push_back(ItemToJson(item, paths, PlaceOfElement(elements.size())));
@@ -180,10 +204,15 @@ Page ReadPage(const std::string& text, const FilePaths& paths) {
     json parsed = ParseJson(text);
     ObjectAt(parsed, "");
     const json object = Upgraded(std::move(parsed));
-    CheckKeys(object, {}, {kVersionKey, kWidthKey, kHeightKey, kElementsKey}, "");
+    std::vector<std::string> keys = {kVersionKey, kWidthKey, kHeightKey, kElementsKey};
+    for (const AboutKey& key : kAboutKeys) {
+        keys.emplace_back(key.name);
+    }
+    CheckKeys(object, {}, keys, "");
     const double width = SideOf(object, kWidthKey);
     const double height = SideOf(object, kHeightKey);
     Page page(width, height);
+    page.About() = AboutIn(object);
     const json& elements = MemberOf(object, kElementsKey, "");
     if (!elements.is_array()) {
         throw PageError(kElementsKey, "must be a list");

@@ -52,6 +52,7 @@ Page Resized(Page page, const PaperSize& paper) {
     const double right = (paper.width - page.Width() * factor) / 2.0;
     const double up = (paper.height - page.Height() * factor) / 2.0;
     Page resized(paper.width, paper.height);
+    resized.About() = page.About();
     for (PageItem& item : page.Items()) {
         Resize(FrameOf(item), factor, right, up);
         if (!std::holds_alternative<MapFrame>(item)) {

@@ -1,6 +1,7 @@
 #include "page/document/schema.h"
 
 #include <nlohmann/json.hpp>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -51,6 +52,14 @@ ordered_json OneOf(const Choices& choices) {
         names.push_back(choice.name);
     }
     return {{"enum", std::move(names)}};
+}
+
+ordered_json LanguageCodes() {
+    ordered_json codes = {""};
+    for (const Language& language : Languages()) {
+        codes.push_back(language.code);
+    }
+    return {{"enum", std::move(codes)}};
 }
 
 ordered_json ValueSchema(const Property& property) {
@@ -121,14 +130,19 @@ std::string PageSchema() {
             {{"$ref", "#/definitions/" + std::string(type.name) + "-element"}});
     }
     const ordered_json side = Number({kSmallestSide, kLargestSide});
+    ordered_json properties = {
+        {kVersionKey, {{"enum", {1, 2, kPageVersion}}}},
+        {kWidthKey, side},
+        {kHeightKey, side},
+        {kElementsKey, {{"type", "array"}, {"items", {{"oneOf", std::move(types)}}}}}};
+    for (const AboutKey& key : kAboutKeys) {
+        ordered_json& text = properties[key.name] = {{"description", key.about}};
+        text.update(std::string_view(key.name) == "language" ? LanguageCodes() : Text(0));
+    }
     ordered_json schema = {{"$schema", "http://json-schema.org/draft-07/schema#"},
                            {"title", "A page of map_page"}};
-    schema.update(Object(
-        {{kVersionKey, {{"enum", {1, 2, kPageVersion}}}},
-         {kWidthKey, side},
-         {kHeightKey, side},
-         {kElementsKey, {{"type", "array"}, {"items", {{"oneOf", std::move(types)}}}}}},
-        {kVersionKey, kWidthKey, kHeightKey, kElementsKey}));
+    schema.update(Object(std::move(properties),
+                         {kVersionKey, kWidthKey, kHeightKey, kElementsKey}));
     schema["definitions"] = std::move(definitions);
     return schema.dump(2) + "\n";
 }

@@ -13,11 +13,7 @@ namespace {
 
 constexpr double kDegrees = 180.0 / 3.14159265358979323846;
 
-/// A place on the ellipsoid, in degrees.
-struct Place {
-    double longitude;
-    double latitude;
-};
+using Place = MapPlace;
 
 struct MapPoint {
     double x;
@@ -135,6 +131,23 @@ std::optional<MapGround> MapGround::Of(const std::string& projection, const Box&
     }
     const double step = std::min(extent.Width(), extent.Height()) / 1000.0;
     return MapGround(std::move(ellipsoid), middle.x, middle.y, step);
+}
+
+std::optional<MapPlace> MapGround::PlaceAt(const std::string& projection, double x,
+                                           double y) {
+    const std::shared_ptr<const Ellipsoid> ellipsoid = Ellipsoid::Of(projection);
+    std::optional<MapPlace> place =
+        ellipsoid == nullptr ? std::nullopt : ellipsoid->PlaceOf({x, y});
+    constexpr double kBeyondEarth = 1.0e-9;  // degrees
+    if (!place || std::fabs(place->latitude) > 90.0 + kBeyondEarth ||
+        std::fabs(place->longitude) > 720.0) {
+        return std::nullopt;
+    }
+    // 180 degrees west is 180 degrees west, and not east.
+    if (std::fabs(place->longitude) > 180.0 + kBeyondEarth) {
+        place->longitude = std::remainder(place->longitude, 360.0);
+    }
+    return place;
 }
 
 std::optional<double> MapGround::TrueNorth() const {

@@ -29,6 +29,12 @@ struct CoordinateUnit {
 /// @param projection as WKT
 CoordinateUnit UnitOf(const std::string& projection);
 
+/// A place on the ellipsoid, in degrees, east and north positive.
+struct MapPlace {
+    double longitude;
+    double latitude;
+};
+
 /// The Earth under the middle of a map: whatever a page says of a map's scale, in figures
 /// or as a bar, and of its north comes from here.
 ///
@@ -40,6 +46,12 @@ public:
     /// Nothing where the coordinate system is unknown, or does not reach the middle.
     /// @param projection as WKT
     static std::optional<MapGround> Of(const std::string& projection, const Box& extent);
+
+    /// The place under a point of a map, on the map's own ellipsoid; nothing where the
+    /// coordinate system is unknown or does not reach. East of 180 degrees it goes on
+    /// from 180 degrees west.
+    static std::optional<MapPlace> PlaceAt(const std::string& projection, double x,
+                                           double y);
 
     /// The direction of true north: degrees clockwise from straight up, between -180 and
     /// 180. East of a UTM zone's central meridian, on the northern half, it is negative:

@@ -16,6 +16,22 @@ void CheckCairo(cairo_status_t status) {
     }
 }
 
+/// Begins a tag, and ends it however drawing goes: a surface with one that is open is
+/// lost.
+class Tag {
+public:
+    explicit Tag(cairo_t* cairo) : m_cairo(cairo) {
+        cairo_tag_begin(m_cairo, kFigure, nullptr);
+    }
+    Tag(const Tag&) = delete;
+    Tag& operator=(const Tag&) = delete;
+    ~Tag() { cairo_tag_end(m_cairo, kFigure); }
+
+private:
+    static constexpr const char* kFigure = "Figure";
+    cairo_t* m_cairo;
+};
+
 }  // namespace
 
 cairo_status_t AppendToBytes(void* bytes, const unsigned char* data,
@@ -29,18 +45,30 @@ cairo_status_t AppendToBytes(void* bytes, const unsigned char* data,
     return CAIRO_STATUS_SUCCESS;
 }
 
-void DrawOnCairo(cairo_surface_t* surface, const Page& page, double dpi,
-                 const Progress& progress) {
+std::vector<std::size_t> DrawOnCairo(cairo_surface_t* surface, const Page& page,
+                                     double dpi, const Progress& progress,
+                                     const std::set<std::size_t>& tagged) {
+    std::vector<std::size_t> tags;
     const std::unique_ptr<cairo_t, void (*)(cairo_t*)> cairo(cairo_create(surface),
                                                              cairo_destroy);
     const double pixel = 72.0 / dpi;
     cairo_scale(cairo.get(), pixel, pixel);
     {
         Gdiplus::CairoGraphics graphics(cairo.get(), static_cast<float>(dpi));
-        page.Draw(graphics, dpi, progress);
+        page.Draw(graphics, dpi, progress,
+                  [&](std::size_t item, const std::function<void()>& draw) {
+                      if (tagged.count(item) == 0) {
+                          draw();
+                          return;
+                      }
+                      const Tag tag(cairo.get());
+                      tags.push_back(item);
+                      draw();
+                  });
     }
     cairo_show_page(cairo.get());
     CheckCairo(cairo_status(cairo.get()));
+    return tags;
 }
 
 void FinishSurface(cairo_surface_t* surface) {

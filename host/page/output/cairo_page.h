@@ -2,8 +2,10 @@
 
 #include <cairo.h>
 
+#include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <set>
 #include <vector>
 
 #include "page/page.h"
@@ -23,8 +25,11 @@ cairo_status_t AppendToBytes(void* bytes, const unsigned char* data, unsigned in
 /// Draws a page on a surface whose unit is a point, 1/72 inch, and ends the surface's
 /// page. Positions are those of the picture at the resolution, in whole pixels. Throws
 /// what the page's drawing throws, and std::runtime_error when Cairo cannot draw it.
-void DrawOnCairo(cairo_surface_t* surface, const Page& page, double dpi,
-                 const Progress& progress);
+/// @param tagged items whose content is tagged on the surface as one figure each
+/// @return those that are, in the order of their tags
+std::vector<std::size_t> DrawOnCairo(cairo_surface_t* surface, const Page& page,
+                                     double dpi, const Progress& progress,
+                                     const std::set<std::size_t>& tagged = {});
 
 /// Writes what is left. Throws std::runtime_error when anything could not be written.
 void FinishSurface(cairo_surface_t* surface);

@@ -2,8 +2,9 @@
 
 #include <cairo-pdf.h>
 
+#include <set>
+
 #include "page/output/cairo_page.h"
-#include "page/output/page_words.h"
 #include "page/output/pdf_finish.h"
 #include "page/units.h"
 
@@ -15,9 +16,14 @@ std::vector<std::uint8_t> EncodePdf(const Page& page, double dpi,
     const CairoSurface surface = Owned(cairo_pdf_surface_create_for_stream(
         AppendToBytes, &draft, PointsFromUnits(page.Width()),
         PointsFromUnits(page.Height())));
-    DrawOnCairo(surface.get(), page, dpi, progress);
+    PdfPage described = PdfPageOf(page, dpi);
+    std::set<std::size_t> tagged;
+    for (const PdfPage::Tagged& item : described.items) {
+        tagged.insert(item.spoken.item);
+    }
+    described.tags = DrawOnCairo(surface.get(), page, dpi, progress, tagged);
     FinishSurface(surface.get());
-    return FinishPdf(draft, WordsOf(page), GeoreferencedMaps(page, dpi), dpi);
+    return FinishPdf(draft, {described});
 }
 
 }  // namespace host

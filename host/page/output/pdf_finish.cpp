@@ -12,6 +12,7 @@
 #include <string>
 
 #include "map_surround/version.h"
+#include "page/output/pdf_structure.h"
 #include "page/output/pdf_viewports.h"
 #include "page/output/xmp_packet.h"
 #include "system/number_text.h"
@@ -48,7 +49,7 @@ std::string Written(const std::optional<std::tm>& moment, const char* format) {
 }
 
 /// Says what the file is in both of the ways in which programs look for it.
-void Describe(QPDF& pdf, const PageWords& words) {
+void Describe(QPDF& pdf, const PageAbout& about) {
     const std::optional<std::tm> moment = Moment();
     Handle draft = pdf.getTrailer().getKey("/Info").getKey("/Producer");
     const FileFacts facts = {draft.isString() ? draft.getUTF8Value() : "",
@@ -60,22 +61,22 @@ void Describe(QPDF& pdf, const PageWords& words) {
             info.replaceKey(key, Handle::newUnicodeString(text));
         }
     };
-    set("/Title", words.title);
-    set("/Author", words.author);
-    set("/Subject", words.subject);
-    set("/Keywords", words.keywords);
+    set("/Title", about.title);
+    set("/Author", about.author);
+    set("/Subject", about.subject);
+    set("/Keywords", about.keywords);
     set("/Producer", facts.producer);
     set("/Creator", facts.creator);
     set("/CreationDate", Written(moment, "D:%Y%m%d%H%M%SZ"));
     set("/ModDate", Written(moment, "D:%Y%m%d%H%M%SZ"));
     pdf.getTrailer().replaceKey("/Info", pdf.makeIndirectObject(info));
 
-    Handle packet = Handle::newStream(&pdf, XmpPacket(words, facts));
+    Handle packet = Handle::newStream(&pdf, XmpPacket(about, facts));
     packet.getDict().replaceKey("/Type", Handle::newName("/Metadata"));
     packet.getDict().replaceKey("/Subtype", Handle::newName("/XML"));
     Handle root = pdf.getRoot();
     root.replaceKey("/Metadata", packet);
-    root.replaceKey("/Lang", Handle::newUnicodeString(words.language));
+    root.replaceKey("/Lang", Handle::newUnicodeString(about.language));
     root.replaceKey("/ViewerPreferences", Handle::parse("<< /DisplayDocTitle true >>"));
 }
 
@@ -93,15 +94,17 @@ std::vector<std::uint8_t> BytesOf(QPDF& pdf) {
 }  // namespace
 
 std::vector<std::uint8_t> FinishPdf(const std::vector<std::uint8_t>& draft,
-                                    const PageWords& words,
-                                    const std::vector<GeoreferencedMap>& maps,
-                                    double dpi) {
+                                    const std::vector<PdfPage>& pages) {
     QPDF pdf;
     pdf.setSuppressWarnings(true);
     pdf.processMemoryFile("page", reinterpret_cast<const char*>(draft.data()),
                           draft.size());
-    Describe(pdf, words);
-    AddViewports(pdf, pdf.getAllPages().front(), maps, dpi);
+    Describe(pdf, pages.front().about);
+    WriteStructure(pdf, pages);
+    std::vector<QPDFObjectHandle> drawn = pdf.getAllPages();
+    for (std::size_t i = 0; i < pages.size(); ++i) {
+        AddViewports(pdf, drawn[i], pages[i].maps, pages[i].dpi);
+    }
     return BytesOf(pdf);
 }
 

@@ -3,21 +3,18 @@
 #include <cstdint>
 #include <vector>
 
-#include "page/output/georeference.h"
-#include "page/output/page_words.h"
+#include "page/output/pdf_page.h"
 
 namespace host {
 
 /// A PDF file of Cairo's with what Cairo does not write: its words, as metadata that
-/// viewers and catalogues read, its language, and where its maps lie on Earth.
+/// viewers and catalogues read, its language, the structure in which it is read aloud, as
+/// PDF/UA-1 asks for, and where its maps lie on Earth.
 ///
 /// It is dated by SOURCE_DATE_EPOCH, or not at all, and its identifier follows from what
 /// it holds, so that the same page gives the same bytes. Throws std::runtime_error when
 /// it cannot be written.
-/// @param dpi pixels an inch of the maps' places
 std::vector<std::uint8_t> FinishPdf(const std::vector<std::uint8_t>& draft,
-                                    const PageWords& words,
-                                    const std::vector<GeoreferencedMap>& maps,
-                                    double dpi);
+                                    const std::vector<PdfPage>& pages);
 
 }  // namespace host

@@ -44,20 +44,22 @@ std::string Listed(const std::string& name, const std::string& list,
 
 }  // namespace
 
-std::string XmpPacket(const PageWords& words, const FileFacts& facts) {
+std::string XmpPacket(const PageAbout& about, const FileFacts& facts) {
     return "<?xpacket begin=\"\xEF\xBB\xBF\" id=\"W5M0MpCehiHzreSzNTczkc9d\"?>\n"
            "<x:xmpmeta xmlns:x=\"adobe:ns:meta/\">\n"
            "<rdf:RDF xmlns:rdf=\"http://www.w3.org/1999/02/22-rdf-syntax-ns#\">\n"
            "<rdf:Description rdf:about=\"\""
            " xmlns:dc=\"http://purl.org/dc/elements/1.1/\""
            " xmlns:pdf=\"http://ns.adobe.com/pdf/1.3/\""
-           " xmlns:xmp=\"http://ns.adobe.com/xap/1.0/\">\n"
+           " xmlns:xmp=\"http://ns.adobe.com/xap/1.0/\""
+           " xmlns:pdfuaid=\"http://www.aiim.org/pdfua/ns/id/\">\n"
+           "<pdfuaid:part>1</pdfuaid:part>\n"
            "<dc:format>application/pdf</dc:format>\n" +
-           InLanguages("dc:title", words.title) +
-           Listed("dc:creator", "Seq", words.author) +
-           InLanguages("dc:description", words.subject) +
-           Listed("dc:language", "Bag", words.language) +
-           Simple("pdf:Keywords", words.keywords) +
+           InLanguages("dc:title", about.title) +
+           Listed("dc:creator", "Seq", about.author) +
+           InLanguages("dc:description", about.subject) +
+           Listed("dc:language", "Bag", about.language) +
+           Simple("pdf:Keywords", about.keywords) +
            Simple("pdf:Producer", facts.producer) +
            Simple("xmp:CreatorTool", facts.creator) +
            Simple("xmp:CreateDate", facts.date) + Simple("xmp:ModifyDate", facts.date) +

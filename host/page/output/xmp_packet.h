@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "page/output/page_words.h"
+#include "page/page.h"
 
 namespace host {
 
@@ -14,6 +14,6 @@ struct FileFacts {
 };
 
 /// The words of a page and the facts of its file as an XMP packet.
-std::string XmpPacket(const PageWords& words, const FileFacts& facts);
+std::string XmpPacket(const PageAbout& about, const FileFacts& facts);
 
 }  // namespace host

@@ -305,6 +305,7 @@ void PageDocument::Show(const PageState& state) {
         }
     }
     host::Page page(state.width, state.height);
+    page.About() = m_page.About();
     page.Items() = std::move(items);
     m_page = std::move(page);
 }

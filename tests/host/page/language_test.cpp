@@ -47,6 +47,33 @@ TEST_P(InLanguage, NoTwoUnitsAreCalledAlike) {
     EXPECT_EQ(language.UnitCalled(L"parsecs"), std::nullopt);
 }
 
+TEST_P(InLanguage, WhatIsSpokenHasRoomForItsValues) {
+    const host::SpokenWords& words = language.spoken;
+    const struct {
+        const wchar_t* phrase;
+        std::size_t values;
+    } rows[] = {{words.map, 0},       {words.picture, 0},     {words.fromTo, 2},
+                {words.north, 1},     {words.south, 1},       {words.east, 1},
+                {words.west, 1},      {words.bar, 2},         {words.dividedBar, 3},
+                {words.northIsUp, 0}, {words.northIsLeft, 1}, {words.northIsRight, 1},
+                {words.dark, 1},      {words.light, 1},       {words.separator, 0}};
+    std::set<std::wstring> phrases;
+    for (const auto& row : rows) {
+        const std::wstring phrase = row.phrase;
+        EXPECT_TRUE(phrases.insert(phrase).second) << host::PlaceOf(language);
+        for (std::size_t value = 0; value < 3; ++value) {
+            const std::wstring place = L"{" + std::to_wstring(value) + L"}";
+            EXPECT_EQ(phrase.find(place) != std::wstring::npos, value < row.values);
+        }
+    }
+    for (const wchar_t* colour :
+         {words.black, words.grey, words.white, words.red, words.orange, words.yellow,
+          words.green, words.turquoise, words.blue, words.purple, words.pink,
+          words.brown}) {
+        EXPECT_TRUE(phrases.insert(colour).second);
+    }
+}
+
 /// A page in a language, 12 km wide, so that a division of its bar is less than a
 /// kilometre.
 host::LaidOutPage PageIn(const Language& language, fakes::Raster& bands,

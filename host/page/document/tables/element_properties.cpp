@@ -63,6 +63,8 @@ std::vector<Property> PlacedFrameProperties() {
     return {
         Of<&PlacedFrame::Name, &PlacedFrame::SetName>(
             "name", "What people call it; drawn nowhere", PropertyKind::Text),
+        Of<&PlacedFrame::AlternativeText, &PlacedFrame::SetAlternativeText>(
+            "alternativeText", kAlternativeText, PropertyKind::Text),
         OfOffset<&CPoint2D::x>("offsetX",
                                "How far right of the frame's middle the element stands, "
                                "page units"),

@@ -33,6 +33,8 @@ std::vector<Property> MapProperties() {
     return {
         OfField<&MapFrame::name>("name", "What people call it; drawn nowhere",
                                  PropertyKind::Text),
+        OfField<&MapFrame::alternativeText>("alternativeText", kAlternativeText,
+                                            PropertyKind::Text),
         OfField<&MapFrame::rasterPaths>("rasters", "Files on the map, the first on top",
                                         PropertyKind::Rasters),
         OfField<&MapFrame::extent>("extent",

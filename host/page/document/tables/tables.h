@@ -20,6 +20,9 @@ constexpr NumberRange kRatios = {0.0, 1'000'000.0};
 constexpr NumberRange kCounts = {0.0, 100.0};
 constexpr NumberRange kDistances = {0.0, 1.7e308};
 
+constexpr const char* kAlternativeText =
+    "What is read aloud in its place; empty for what the page says by itself";
+
 /// FontStyle and FontProcess, whose flags combine.
 constexpr Choice kFontStyles[] = {
     {"regular", 0},

@@ -80,6 +80,7 @@ std::vector<Change> MapChanges() {
     using M = MapFrame;
     return {
         Open("name", &M::name, std::string("Karte \"ä\"\n")),
+        Open("alternativeText", &M::alternativeText, std::string("Der Hafen")),
         Open("rasters", &M::rasterPaths, {"a.tif", "NETCDF:b.nc:x"}),
         On<M>(
             "extent",
@@ -114,6 +115,8 @@ std::vector<Change> PlacedFrameChanges() {
     using P = PlacedFrame;
     return {
         Behind("name", &P::SetName, &P::Name, std::string("标题")),
+        Behind("alternativeText", &P::SetAlternativeText, &P::AlternativeText,
+               std::string("北在上方")),
         On<P>(
             "offsetX", [](P& p) { p.SetElementOffset(1.0 / 3.0, 0.0); },
             [](const P& p) {

@@ -1,0 +1,103 @@
+#include "page/output/pdf_content.h"
+
+#include <algorithm>
+#include <iterator>
+#include <memory>
+#include <qpdf/Buffer.hh>
+#include <qpdf/Pl_Buffer.hh>
+#include <qpdf/Pl_Flate.hh>
+#include <stdexcept>
+
+namespace host {
+namespace {
+
+using Handle = QPDFObjectHandle;
+
+constexpr const char* kPainting[] = {"f", "F",  "f*", "B",  "B*", "b", "b*", "S",
+                                     "s", "Do", "sh", "Tj", "TJ", "'", "\"", "EI"};
+
+/// Walks through a content stream and copies it, tag by tag.
+class Retagging : public Handle::ParserCallbacks {
+public:
+    Retagging(const std::string& content, const std::vector<std::string>& tags)
+        : m_content(content), m_tags(tags) {}
+
+    void handleObject(Handle object, std::size_t offset, std::size_t length) override {
+        if (!object.isOperator()) {
+            m_operands = std::min(m_operands, offset);
+            return;
+        }
+        const std::string name = object.getOperatorValue();
+        if (name == "BDC") {
+            Copy(std::min(m_operands, offset), true);
+            m_text += TagAt(m_count) + " <</MCID " + std::to_string(m_count) + ">> BDC\n";
+            ++m_count;
+            m_copied = offset + length;
+        } else if (name == "EMC") {
+            Copy(offset + length, false);
+            m_text += '\n';
+        } else {
+            m_paints = m_paints || std::find(std::begin(kPainting), std::end(kPainting),
+                                             name) != std::end(kPainting);
+        }
+        m_operands = std::string::npos;
+    }
+
+    void handleEOF() override { Copy(m_content.size(), true); }
+
+    const std::string& Text() const {
+        if (m_count != m_tags.size()) {
+            throw std::runtime_error("the PDF file cannot be tagged");
+        }
+        return m_text;
+    }
+
+private:
+    std::string TagAt(std::size_t index) const {
+        return index < m_tags.size() ? m_tags[index] : "/Span";
+    }
+
+    /// Copies up to an offset, as decoration if anything is painted there.
+    void Copy(std::size_t end, bool isDecoration) {
+        const bool marks = isDecoration && m_paints;
+        m_text += (marks ? "/Artifact BMC\n" : "") +
+                  m_content.substr(m_copied, end - m_copied) + (marks ? "\nEMC\n" : "");
+        m_copied = end;
+        m_paints = false;
+    }
+
+    const std::string& m_content;
+    const std::vector<std::string>& m_tags;
+    std::string m_text;
+    std::size_t m_copied = 0;                    // of the content
+    std::size_t m_operands = std::string::npos;  // where those of an operator begin
+    std::size_t m_count = 0;                     // tags so far
+    bool m_paints = false;                       // since the last one
+};
+
+/// Packed at once: a file of many pages holds one of each until it is written.
+std::string Packed(const std::string& text) {
+    Pl_Buffer packed("packed");
+    Pl_Flate flate("flate", &packed, Pl_Flate::a_deflate);
+    flate.writeString(text);
+    flate.finish();
+    const std::shared_ptr<Buffer> buffer = packed.getBufferSharedPointer();
+    return {reinterpret_cast<const char*>(buffer->getBuffer()), buffer->getSize()};
+}
+
+}  // namespace
+
+void TagContent(QPDF& pdf, Handle page, const std::vector<std::string>& tags) {
+    Handle drawn = page.getKey("/Contents");
+    const std::shared_ptr<Buffer> buffer = drawn.getStreamData(qpdf_dl_generalized);
+    const std::string content(reinterpret_cast<const char*>(buffer->getBuffer()),
+                              buffer->getSize());
+    Retagging retagging(content, tags);
+    Handle::parseContentStream(drawn, &retagging);
+    Handle written = Handle::newStream(&pdf);
+    written.replaceStreamData(Packed(retagging.Text()), Handle::newName("/FlateDecode"),
+                              Handle::newNull());
+    page.replaceKey("/Contents", written);
+}
+
+}  // namespace host

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "host/raster_data.h"
+#include "map_surround/legend.h"
+#include "page/language.h"
+#include "page/placed_frame.h"
+
+namespace host {
+
+/// A raster that a legend explains, and what it calls it.
+struct ExplainedRaster {
+    CRasterSource* raster;
+    std::wstring name;
+};
+
+/// Those that a legend explains, in order, without those that it leaves out.
+std::vector<ExplainedRaster> ExplainedBy(const CMapLegend& legend,
+                                         const std::vector<CGISDataSource*>& sources);
+
+/// A legend in words, the colours of its swatches by their names: "Legend: land: water,
+/// blue; forest, dark green".
+std::wstring LegendWords(const LegendFrame& frame, const CMapLegend& legend,
+                         const SpokenWords& words);
+
+}  // namespace host
