@@ -280,6 +280,8 @@ void Scene::SetProperty(CMapLegend& legend) {
             return legend.SetAlignedLabels(m_input.Flag());
         case 18:
             return legend.SetColumns(m_input.Whole());
+        case 19:
+            return legend.SetMostLines(m_input.Whole());
         default:
             return SetSources(legend);
     }

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <limits>
 #include <map>
 #include <tuple>
 
@@ -63,18 +62,12 @@ std::vector<WrittenText> TextsOfLegend(const CMapLegend& legend,
             {kArrowAndEntryFamily, legend.GetFileNameStyle(), entries}};
 }
 
-/// Whether names or labels of a legend are cut: it is wider where they are not.
+/// Whether names or labels of a legend as it is now are cut.
 bool CutsTexts(const CMapLegend& legend) {
-    const auto width = [&legend](float most) {
-        CMapLegend measured(legend);
-        measured.SetSizeAspect(1.0f);
-        measured.SetMostWidth(most);
-        measured.ResetAspectRatio();
-        return static_cast<float>(measured.GetSize()) * measured.GetAspectRatio();
-    };
-    constexpr float kLittle = 0.5f;  // of a pixel
-    return legend.GetMostWidth() > 0.0f && width(std::numeric_limits<float>::max()) >
-                                               width(legend.GetMostWidth()) + kLittle;
+    CMapLegend measured(legend);
+    measured.SetSizeAspect(1.0f);
+    measured.ResetAspectRatio();
+    return measured.HasCutTexts();
 }
 
 /// Fontconfig sorts all fonts for each of these, so the items of a page share them.

@@ -145,6 +145,22 @@ public:
     float GetMostWidth() const { return m_mostWidth; }
     void SetMostWidth(float width) { m_mostWidth = width; }
 
+    /// In how many lines a name or label may stand that is wider than SetMostWidth() lets
+    /// it be; 1 until it is set, and where it is below. Lines end after spaces, '_', '/',
+    /// '-' and '.' but for those of numbers, and between East Asian characters. A word
+    /// that is wider than a line ends in U+2026, and so does the last line where it
+    /// cannot hold what is left: "Broad-leaved forest" may be "Broad-leaved" above
+    /// "forest", or "Broad-" above "leaved fo…" in two.
+    ///
+    /// Each further line makes the name's row, or the label's, 1.2 rows higher; a swatch
+    /// is level with the first of them. Above 1 and with a width set, everything that is
+    /// written is measured as in several columns.
+    int GetMostLines() const { return m_mostLines; }
+    void SetMostLines(int lines) { m_mostLines = lines; }
+
+    /// Whether ResetAspectRatio() found a name or label that ends in U+2026.
+    bool HasCutTexts() const { return m_hasCutTexts; }
+
     /// In how many columns the entries stand, below a title that stands over all of them;
     /// 1 until it is set. Below 1 counts as 1 and above 64 as 64, and no column stays
     /// empty: there are no more than there are rows to begin them.
@@ -158,10 +174,10 @@ public:
     ///
     /// All columns are as wide as the widest, and half a swatch apart. In more than one,
     /// everything that is written is measured as it is drawn: names with their captions,
-    /// bands, values, and all entries in "Arial"; ResetAspectRatio() then asks for bands
-    /// and values, too. With samples 40 wide and columns of 150, two columns are
-    /// 150 + 20 + 150 = 320 wide. The height is that of the title, its gaps and the
-    /// highest column.
+    /// bands, values, all entries in "Arial" and where they are drawn, not two samples
+    /// from the left; ResetAspectRatio() then asks for bands and values, too. With
+    /// samples 40 wide and columns of 150, two columns are 150 + 20 + 150 = 320 wide. The
+    /// height is that of the title, its gaps and the highest column.
     ///
     /// Draw begins a column at the row that ResetAspectRatio() found for it.
     int GetColumns() const { return m_columns; }
@@ -226,6 +242,10 @@ public:
     void SetFileColor(Gdiplus::Color color) { m_fileColor = color; }
 
 private:
+    bool IsMeasuredAsDrawn() const {
+        return m_columns > 1 || (m_mostLines > 1 && m_mostWidth > 0.0f);
+    }
+
     std::wstring m_titleText;
 
     // Fractions of the natural height.
@@ -249,6 +269,8 @@ private:
     bool m_alignedLabels = false;
     float m_gap = 0.0f;
     float m_mostWidth = 0.0f;
+    int m_mostLines = 1;
+    bool m_hasCutTexts = false;
     int m_columns = 1;
     std::vector<std::size_t> m_columnStarts;  // the rows that begin all but the first
     std::vector<LegendSource> m_shownSources;

@@ -6,11 +6,13 @@
 #include "legend/proportions.h"
 #include "legend/ramp_values.h"
 #include "legend/source_queries.h"
+#include "legend/text_room.h"
 #include "map_surround/legend.h"
 
 using map_surround::Length;
 using map_surround::Lettering;
 using map_surround::Ruler;
+using map_surround::TextRoom;
 using map_surround::ToDevice;
 using map_surround::Truncate;
 
@@ -26,36 +28,6 @@ constexpr Gdiplus::ARGB kBlue = 0xFF0000FF;
 /// From grey 254 to 1: the ramp leaves out white and black.
 constexpr int kRampStrips = 254;
 
-/// Cuts texts as the layout did, at the size in which that measured them.
-class Cutter {
-public:
-    Cutter(float most, Ruler& ruler, const Gdiplus::FontFamily& titleFamily,
-           const std::wstring& family, const std::wstring& entryFamily, float emSize,
-           Gdiplus::FontStyle style)
-        : m_most(most),
-          m_ruler(ruler),
-          m_lettering(family, emSize, style),
-          m_entry(entryFamily, emSize, style),
-          m_sample(
-              ruler.Measure(legend::kSampleText, titleFamily, m_lettering.font).Width) {}
-
-    std::wstring Name(const std::wstring& text) {
-        return map_surround::Cut(text, m_most, m_ruler, m_lettering);
-    }
-    std::wstring Label(const std::wstring& text) {
-        const Length from = legend::kClassLabelMeasuredAt * m_sample;
-        return map_surround::Cut(text, m_most - static_cast<float>(from), m_ruler,
-                                 m_entry);
-    }
-
-private:
-    float m_most;
-    Ruler& m_ruler;
-    Lettering m_lettering;
-    Lettering m_entry;
-    Length m_sample;
-};
-
 /// A cursor moving down the legend, column by column, in pixels.
 struct Cursor {
     Gdiplus::Graphics* graphics;
@@ -65,7 +37,7 @@ struct Cursor {
     const std::wstring& highCaption;
     const std::wstring& lowCaption;
     bool alignedLabels;
-    Cutter* cutter;  // null where nothing is cut
+    TextRoom* room;  // null where texts have any
     float left;
     float y;  // top of what is drawn next
     float rowHeight;
@@ -91,18 +63,29 @@ struct Cursor {
         brush.SetColor(color);
         graphics->FillRectangle(&brush, left, top, swatchWidth, height);
     }
-    /// In the brush's current colour.
+    /// In the brush's current colour, as what follows is.
+    void Write(const std::wstring& text, const Gdiplus::Font& font, float x,
+               float top) const {
+        map_surround::WriteText(graphics, text, font, Gdiplus::PointF(x, top), brush);
+    }
     void Label(const std::wstring& text, float atSwatches, float top) {
-        map_surround::WriteText(graphics, text, entryFont,
-                                Gdiplus::PointF(left + atSwatches * swatchWidth, top),
-                                brush);
+        Write(text, entryFont, left + atSwatches * swatchWidth, top);
+    }
+    /// From y down, but for the last line.
+    void WriteLines(const std::vector<std::wstring>& lines, const Gdiplus::Font& font,
+                    float x, float above) {
+        const float step = legend::kLineTenths * rowHeight / 10;
+        for (std::size_t i = 0; i < lines.size(); ++i) {
+            y += i == 0 ? 0.0f : step;
+            Write(lines[i], font, x, y - above);
+        }
     }
 
     float ValueLabelAt() const {
-        return alignedLabels ? legend::kClassLabelAt : legend::kBandLabelAt;
+        return static_cast<float>(legend::ValueLabelTenths(alignedLabels)) / 10;
     }
-    float SwatchLabelY() const {
-        return alignedLabels ? y - legend::kLabelAbove * rowHeight : y;
+    float SwatchLabelAbove() const {
+        return alignedLabels ? legend::kLabelAbove * rowHeight : 0.0f;
     }
 
     void DrawBands(CRasterSource& source);
@@ -114,7 +97,8 @@ struct Cursor {
 void Cursor::DrawBand(Gdiplus::Color color, int index) {
     Fill(color, y, swatchHeight);
     brush.SetColor(kBlack);
-    Label(bandCaption + map_surround::BandNumber(index), ValueLabelAt(), SwatchLabelY());
+    Label(bandCaption + map_surround::BandNumber(index), ValueLabelAt(),
+          y - SwatchLabelAbove());
     y += swatchHeight + gap;
 }
 
@@ -166,11 +150,13 @@ void Cursor::DrawClasses(CClassifyDisplayTable* table) {
             item->GetColor(red, green, blue, ignored);
             Fill(Gdiplus::Color(255, red, green, blue), y, swatchHeight);
             brush.SetColor(kBlack);
-            std::wstring label = item->GetLable();
-            if (cutter != nullptr) {
-                label = cutter->Label(label);
-            }
-            Label(label, legend::kClassLabelAt, SwatchLabelY());
+            const std::wstring label = item->GetLable();
+            WriteLines(
+                room == nullptr ? std::vector<std::wstring>{label}
+                                : room->LinesOfLabel(label),
+                entryFont,
+                left + static_cast<float>(legend::kClassLabelTenths) / 10 * swatchWidth,
+                SwatchLabelAbove());
         }
         y += swatchHeight;
         const bool last = i + 1 == map_surround::ClassesCount(table);
@@ -207,11 +193,16 @@ void CMapLegend::Draw(Gdiplus::Graphics* graphics, CPoint centre, double scale) 
     Ruler ruler;
     // The title's ink in this font, which is smaller than the one the layout measured.
     const int titleHeight = ruler.Measure(m_titleText, title).Height;
-    std::optional<Cutter> cutter;
+    std::optional<Lettering> measured;
+    std::optional<TextRoom> room;
     if (m_mostWidth > 0.0f) {
-        cutter.emplace(m_mostWidth, ruler, title.family, m_fileNameFamily,
-                       m_columns > 1 ? legend::kEntryFamily : m_fileNameFamily,
-                       m_fileNameSize, m_fileNameStyle);
+        measured.emplace(m_fileNameFamily, m_fileNameSize, m_fileNameStyle);
+        room.emplace(m_mostWidth, m_mostLines, ruler, *measured);
+        room->SetSample(
+            ruler.Measure(legend::kSampleText, title.family, measured->font).Width);
+        if (IsMeasuredAsDrawn()) {
+            room->MeasureAsDrawn(m_fileNameSize, m_fileNameStyle);
+        }
     }
     Cursor cursor{graphics,
                   brush,
@@ -220,7 +211,7 @@ void CMapLegend::Draw(Gdiplus::Graphics* graphics, CPoint centre, double scale) 
                   m_highCaption,
                   m_lowCaption,
                   m_alignedLabels,
-                  cutter ? &*cutter : nullptr,
+                  room ? &*room : nullptr,
                   left,
                   top + legend::kTitleGaps * gap + static_cast<float>(titleHeight),
                   rowHeight,
@@ -238,14 +229,12 @@ void CMapLegend::Draw(Gdiplus::Graphics* graphics, CPoint centre, double scale) 
             continue;
         }
         brush.SetColor(m_fileColor);
-        std::wstring name =
+        const std::wstring name =
             m_sourceCaption + map_surround::NameOf(*source, m_shownSources, i);
-        if (cutter) {
-            name = cutter->Name(name);
-        }
         cursor.BeginRow();
-        map_surround::WriteText(graphics, name, fileName.font,
-                                Gdiplus::PointF(cursor.left, cursor.y), brush);
+        cursor.WriteLines(
+            room ? room->LinesOfName(name) : std::vector<std::wstring>{name},
+            fileName.font, cursor.left, 0.0f);
         cursor.y += rowHeight + gap;
         if (source->GetDisplayType() == DisplayRGB) {
             cursor.DrawBands(*source);

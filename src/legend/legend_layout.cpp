@@ -1,6 +1,5 @@
 #include <algorithm>
 #include <exception>
-#include <optional>
 #include <utility>
 
 #include "element/numbers.h"
@@ -9,6 +8,7 @@
 #include "legend/proportions.h"
 #include "legend/ramp_values.h"
 #include "legend/source_queries.h"
+#include "legend/text_room.h"
 #include "map_surround/legend.h"
 
 using map_surround::Columns;
@@ -16,6 +16,7 @@ using map_surround::Length;
 using map_surround::Lettering;
 using map_surround::RowsTogether;
 using map_surround::Ruler;
+using map_surround::TextRoom;
 using map_surround::ToDevice;
 using map_surround::Truncate;
 
@@ -26,17 +27,13 @@ namespace {
 /// The legend measured so far, in pixels.
 struct Layout {
     Ruler& ruler;
-    const Lettering& fileName;
-    const Lettering& entry;
-    Length sampleWidth;
+    TextRoom& room;
     Length rowHeight;
     Length swatchHeight;
     Length gap;
-    float mostWidth;
-    bool isInColumns;
     Length width;
     Length height;
-    std::vector<RowsTogether> pieces = {};  // none unless in columns
+    std::vector<RowsTogether> pieces = {};  // none unless measured as drawn
     bool isAfterName = false;
 
     void Widen(Length least) { width = std::max(width, least); }
@@ -46,21 +43,16 @@ struct Layout {
         return ToDevice(swatches * swatchHeight + gaps * gap);
     }
 
-    /// The width of a text, cut where the legend cuts those that begin there.
-    Length WidthOf(const std::wstring& text, Length from,
-                   const Lettering& lettering) const {
-        const float room = mostWidth - static_cast<float>(from);
-        return ruler
-            .Measure(
-                mostWidth > 0.0f ? map_surround::Cut(text, room, ruler, lettering) : text,
-                lettering)
-            .Width;
+    void WidenForLines(const std::vector<std::wstring>& lines, Length from,
+                       const Lettering& lettering) {
+        for (const std::wstring& line : lines) {
+            Widen(from + ruler.Measure(line, lettering).Width);
+        }
     }
-    Length LabelAt() const { return legend::kClassLabelMeasuredAt * sampleWidth; }
-
-    /// In columns, bands and values are not to reach into the next one.
-    void WidenForEntry(const std::wstring& text) {
-        Widen(LabelAt() + ruler.Measure(text, entry).Width);
+    /// How much higher so many lines are than one, rounded up.
+    Length FurtherLines(std::size_t lines) const {
+        return ToDevice(static_cast<Length>(lines - 1) *
+                        ((legend::kLineTenths * rowHeight + 9) / 10));
     }
     void AddPiece(Length pieceHeight) {
         if (isAfterName) {
@@ -74,10 +66,11 @@ struct Layout {
 
     void AddName(const std::wstring& name) {
         height += rowHeight;
-        Widen(WidthOf(name, 0, fileName));
-        if (isInColumns) {
+        const std::vector<std::wstring> lines = room.LinesOfName(name);
+        WidenForLines(lines, 0, room.Name());
+        if (room.IsMeasuredAsDrawn()) {
             isAfterName = false;
-            AddPiece(rowHeight);
+            AddPiece(rowHeight + FurtherLines(lines.size()));
             isAfterName = true;
         }
     }
@@ -88,23 +81,25 @@ struct Layout {
 
 void Layout::AddBands(CRasterSource& source, const CMapLegend& legend) {
     height += SwatchesAndGaps(legend::kBandRows, legend::kBandRows);
-    if (isInColumns) {
+    if (room.IsMeasuredAsDrawn()) {
         AddPiece(SwatchesAndGaps(legend::kBandRows, legend::kBandRows - 1));
         for (const int band : {source.GetRedBandNum(), source.GetGreenBandNum(),
                                source.GetBlueBandNum()}) {
-            WidenForEntry(legend.GetBandCaption() + map_surround::BandNumber(band));
+            WidenForLines({legend.GetBandCaption() + map_surround::BandNumber(band)},
+                          room.ValueLabelAt(legend.GetAlignedLabels()), room.Entry());
         }
     }
 }
 
 void Layout::AddRamp(CRasterSource& source, const CMapLegend& legend) {
     height += SwatchesAndGaps(legend::kRampSwatches, 1);
-    if (isInColumns) {
+    if (room.IsMeasuredAsDrawn()) {
         AddPiece(SwatchesAndGaps(legend::kRampSwatches, 0));
         const map_surround::RampValues values =
             map_surround::ValuesOf(source, legend.GetAlignedLabels());
-        WidenForEntry(legend.GetHighCaption() + values.highest);
-        WidenForEntry(legend.GetLowCaption() + values.lowest);
+        WidenForLines({legend.GetHighCaption() + values.highest,
+                       legend.GetLowCaption() + values.lowest},
+                      room.ValueLabelAt(legend.GetAlignedLabels()), room.Entry());
     }
 }
 
@@ -116,11 +111,14 @@ void Layout::AddClasses(CClassifyDisplayTable* table) {
     height += SwatchesAndGaps(count, count);
     for (int i = 0; i < map_surround::ClassesCount(table); ++i) {
         CClassifyDisplayItem* const item = table->GetClassifyItem(i);
+        Length pieceHeight = swatchHeight;
         if (item != nullptr) {
-            Widen(LabelAt() + WidthOf(item->GetLable(), LabelAt(), entry));
+            const std::vector<std::wstring> lines = room.LinesOfLabel(item->GetLable());
+            WidenForLines(lines, room.LabelAt(), room.Entry());
+            pieceHeight += FurtherLines(lines.size());
         }
-        if (isInColumns) {
-            AddPiece(swatchHeight);
+        if (room.IsMeasuredAsDrawn()) {
+            AddPiece(pieceHeight);
         }
     }
 }
@@ -172,22 +170,18 @@ void CMapLegend::ResetAspectRatio() {
     const Length rowHeight = sample.Height;
 
     const Length leastWidth = Length{legend::kLeastSwatches} * sample.Width;
-    const bool isInColumns = m_columns > 1;
-    std::optional<Lettering> entry;
-    if (isInColumns) {
-        entry.emplace(legend::kEntryFamily, m_fileNameSize, m_fileNameStyle);
+    TextRoom room(m_mostWidth, m_mostLines, ruler, fileName);
+    room.SetSample(sample.Width);
+    if (IsMeasuredAsDrawn()) {
+        room.MeasureAsDrawn(m_fileNameSize, m_fileNameStyle);
     }
     Layout layout{ruler,
-                  fileName,
-                  entry ? *entry : fileName,
-                  sample.Width,
+                  room,
                   rowHeight,
                   legend::kSwatchTenths * rowHeight / 10,
                   m_gap > 0.0f
                       ? Truncate(double{m_gap} * static_cast<double>(rowHeight) + 0.5)
                       : legend::kGap,
-                  m_mostWidth,
-                  isInColumns,
                   leastWidth,
                   titleBox.Height};
     layout.height += legend::kTitleGaps * layout.gap;
@@ -202,9 +196,11 @@ void CMapLegend::ResetAspectRatio() {
         }
         ++rasters;
         // The bare name, without the caption that is drawn before it, unless it is cut or
-        // another column begins beside it.
+        // measured as drawn.
         const std::wstring name = map_surround::NameOf(*source, m_shownSources, i);
-        layout.AddName(m_mostWidth > 0.0f || isInColumns ? m_sourceCaption + name : name);
+        layout.AddName(m_mostWidth > 0.0f || room.IsMeasuredAsDrawn()
+                           ? m_sourceCaption + name
+                           : name);
         if (source->GetDisplayType() == DisplayRGB) {
             layout.AddBands(*source, *this);
         } else if (source->GetDisplayType() == DisplayGray) {
@@ -220,7 +216,7 @@ void CMapLegend::ResetAspectRatio() {
     // One gap per file name less one, which without rasters is one gap less than nothing.
     Length total = layout.height + layout.gap * (rasters - 1);
     Columns columns;
-    if (isInColumns) {
+    if (room.IsMeasuredAsDrawn()) {
         columns = map_surround::SetInColumns(layout.pieces, layout.gap, m_columns);
         total = titleBox.Height + legend::kTitleGaps * layout.gap + columns.height;
     }
@@ -240,4 +236,5 @@ void CMapLegend::ResetAspectRatio() {
     m_gapRatio = static_cast<float>(layout.gap) / height;
     m_columnStepRatio = static_cast<float>(columnStep) / height;
     m_columnStarts = std::move(columns.starts);
+    m_hasCutTexts = room.HasCut();
 }

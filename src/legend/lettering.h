@@ -3,6 +3,7 @@
 #include <gdiplus.h>
 
 #include <string>
+#include <vector>
 
 #include "element/text_outline.h"
 
@@ -43,5 +44,18 @@ private:
 /// A text, cut so that it is no wider with the ellipsis that ends it.
 std::wstring Cut(const std::wstring& text, float width, Ruler& ruler,
                  const Lettering& lettering);
+
+/// A text in lines, and whether any of them ends in an ellipsis.
+struct BrokenText {
+    std::vector<std::wstring> lines;
+    bool isCut = false;
+};
+
+/// A text in lines no wider than that. They end after spaces, hyphens, underscores,
+/// slashes and full stops, and between East Asian characters; a word that fits no line is
+/// cut, and so is what is left for the last of them.
+/// @param most of the lines
+BrokenText BreakLines(const std::wstring& text, float width, int most, Ruler& ruler,
+                      const Lettering& lettering);
 
 }  // namespace map_surround

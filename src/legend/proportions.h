@@ -16,6 +16,7 @@ constexpr int kSwatchTenths = 6;    ///< the height of a swatch, in tenths of a 
 constexpr int kBandRows = 3;        ///< of an RGB source: red, green, blue
 constexpr int kRampSwatches = 4;    ///< the height of a grey ramp, in swatches
 constexpr int kLeastSwatches = 3;   ///< the width that leaves room for any band label
+constexpr int kLineTenths = 12;     ///< from a line to the next, in tenths of a row
 constexpr int kColumnGapShare = 2;  ///< of a swatch's width: half of it between columns
 
 /// Where labels are aligned, in rows: above the top of a swatch, above the top of a ramp
@@ -25,10 +26,15 @@ constexpr float kLabelAbove = 0.25f;
 constexpr float kHighAbove = 0.2f;
 constexpr float kLowAbove = 0.9f;
 
-/// Where the labels start, in swatch widths from the left edge. Class labels are measured
-/// further right than they are drawn, which leaves a margin.
-constexpr float kBandLabelAt = 1.8f;
-constexpr float kClassLabelAt = 1.2f;
-constexpr int kClassLabelMeasuredAt = 2;
+/// Where the labels start, in tenths of a swatch's width from the left edge. Class labels
+/// are measured further right than they are drawn, which leaves a margin, unless all is
+/// measured as it is drawn.
+constexpr int kBandLabelTenths = 18;
+constexpr int kClassLabelTenths = 12;
+constexpr int kClassLabelMeasuredAt = 2;  ///< swatches
+
+constexpr int ValueLabelTenths(bool areAligned) {
+    return areAligned ? kClassLabelTenths : kBandLabelTenths;
+}
 
 }  // namespace map_surround::legend

@@ -259,32 +259,50 @@ TEST(LegendColumns, AreAsWideAsTheWidest) {
              legend.SetSourceCaption(std::wstring(22, L'x'));
          },
          120},
-        {"a class", "1u", 2, [](Legend&, Sources&) {}, 130 + 20 + 130},
-        {"a class in the names' font in one", "1u", 1, [](Legend&, Sources&) {}, 120},
+        {"a class", "1u", 2,
+         [](Legend&, Sources& sources) {
+             sources[0].table.items[0].label = L"123456789";
+         },
+         138 + 20 + 138},
+        {"a class two samples from the left, in the names' font, in one", "1u", 1,
+         [](Legend&, Sources& sources) {
+             sources[0].table.items[0].label = L"123456789";
+         },
+         125},
         {"a cut class", "1u", 2,
-         [](Legend& legend, Sources&) { legend.SetMostWidth(120); }, 120 + 20 + 120},
+         [](Legend& legend, Sources& sources) {
+             sources[0].table.items[0].label = L"123456789";
+             legend.SetMostWidth(130);
+         },
+         128 + 20 + 128},
         {"the third band", "ru", 2,
-         [](Legend&, Sources& sources) { sources[0].blue = 12344; }, 140 + 20 + 140},
+         [](Legend&, Sources& sources) { sources[0].blue = 12344; }, 132 + 20 + 132},
         {"the second", "ru", 2,
-         [](Legend&, Sources& sources) { sources[0].green = 12344; }, 140 + 20 + 140},
+         [](Legend&, Sources& sources) { sources[0].green = 12344; }, 132 + 20 + 132},
         {"the first, and no band is cut", "ru", 2,
          [](Legend& legend, Sources& sources) {
              sources[0].red = 12344;
              legend.SetMostWidth(100);
          },
-         140 + 20 + 140},
+         132 + 20 + 132},
         {"the highest", "gu", 2,
          [](Legend&, Sources& sources) { sources[0].band.highest = 123456.5; },
-         150 + 20 + 150},
+         142 + 20 + 142},
         {"the lowest", "gu", 2,
          [](Legend&, Sources& sources) { sources[0].band.lowest = -12345.5; },
-         150 + 20 + 150},
+         142 + 20 + 142},
         {"the lowest, with the decimals it has", "gu", 2,
          [](Legend& legend, Sources& sources) {
-             sources[0].band.lowest = -0.125;
+             sources[0].band.lowest = -0.00125;
              legend.SetAlignedLabels(true);
          },
-         150 + 20 + 150},
+         138 + 20 + 138},
+        {"an aligned band", "ru", 2,
+         [](Legend& legend, Sources& sources) {
+             sources[0].blue = 12345678;
+             legend.SetAlignedLabels(true);
+         },
+         138 + 20 + 138},
         {"the title", "uu", 2,
          [](Legend& legend, Sources&) { legend.SetTitleValue(std::wstring(31, L'T')); },
          310},

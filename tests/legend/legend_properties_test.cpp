@@ -47,6 +47,7 @@ struct Described {
         legend.SetGap(0.5f);
         legend.SetMostWidth(77.0f);
         legend.SetColumns(2);
+        legend.SetMostLines(3);
         legend.SetSizeAspect(factor);
         legend.SetDataSouce({&rgb, &gray, &classes});
         Measure(legend);
@@ -79,6 +80,8 @@ void ExpectDescribed(const CMapLegend& legend) {
     EXPECT_EQ(legend.GetGap(), 0.5f);
     EXPECT_EQ(legend.GetMostWidth(), 77.0f);
     EXPECT_EQ(legend.GetColumns(), 2);
+    EXPECT_EQ(legend.GetMostLines(), 3);
+    EXPECT_TRUE(legend.HasCutTexts());
     const std::vector<LegendSource> shown = legend.GetShownSources();
     ASSERT_EQ(shown.size(), 2U);
     EXPECT_EQ(shown[0].name, L"Scene");
@@ -116,6 +119,8 @@ TEST(LegendProperties, AFreshLegendHasItsDefaults) {
     EXPECT_EQ(legend.GetGap(), 0.0f);
     EXPECT_EQ(legend.GetMostWidth(), 0.0f);
     EXPECT_EQ(legend.GetColumns(), 1);
+    EXPECT_EQ(legend.GetMostLines(), 1);
+    EXPECT_FALSE(legend.HasCutTexts());
 }
 
 TEST(LegendProperties, TheSizeFactorIsOneAtFirst) {

@@ -150,4 +150,110 @@ TEST(LegendRoom, NoCharacterIsCutInHalf) {
     }
 }
 
+TEST(LegendRoom, TextsAreBrokenWhereTheyMayBe) {
+    const struct {
+        std::wstring name;
+        int characters;  ///< that a line has room for
+        int lines;
+        std::vector<std::string> broken;
+        bool isCut;
+    } rows[] = {
+        {L"land cover of 2020", 10, 2, {"land cover", "of 2020"}, false},
+        {L"land cover of 2020", 17, 2, {"land cover of", "2020"}, false},
+        {L"land cover of 2020", 18, 2, {"land cover of 2020"}, false},
+        {L"land cover of 2020", 10, 1, {"land cove…"}, true},
+        {L"land cover of 2020", 10, 0, {"land cove…"}, true},
+        {L"land cover of 2020", 7, 2, {"land", "cover …"}, true},
+        {L"a b c d e f g h i j",
+         3,
+         2147483647,
+         {"a b", "c d", "e f", "g h", "i j"},
+         false},
+        {L"a b c d e f g h i j", 13, 4, {"a b c d e f g", "h i j"}, false},
+        {L"one   two", 3, 2, {"one", "two"}, false},
+        {L"  ", 3, 2, {""}, false},
+        {L"", 3, 2, {""}, false},
+        {L"land_cover.2020.tif", 6, 9, {"land_", "cover.", "2020.", "tif"}, false},
+        {L"1.25-3.75/x", 5, 9, {"1.25-", "3.75/", "x"}, false},
+        {L"a1.b2", 3, 9, {"a1.", "b2"}, false},
+        {L"a -3 - 4", 4, 9, {"a -3", "- 4"}, false},
+        {L"-3", 1, 9, {"…"}, true},
+        {L"a--b", 3, 9, {"a--", "b"}, false},
+        {L"a__b", 3, 9, {"a__", "b"}, false},
+        {L"a...b", 4, 9, {"a...", "b"}, false},
+        {L"a\u00A0b c", 3, 9, {"a\u00A0b", "c"}, false},
+        // A word that fits no line is cut, and what follows goes on below.
+        {L"unbreakable name", 5, 9, {"unbr…", "name"}, true},
+        {L"unbreakable name", 5, 2, {"unbr…", "name"}, true},
+        {L"a unbreakable name", 5, 2, {"a", "unbr…"}, true},
+        {L"a b", 0, 9, {"…", "…"}, true},
+        // East Asian: anywhere but before closing marks and after opening ones.
+        {L"土地利用2020年", 4, 9, {"土地利用", "2020", "年"}, false},
+        {L"土地利用、水域", 4, 9, {"土地利", "用、水域"}, false},
+        {L"土地（利用）", 3, 9, {"土地", "（利", "用）"}, false},
+        {L"ショッピング", 4, 9, {"ショッピ", "ング"}, false},
+        {L"ショッピング", 3, 9, {"ショッ", "ピング"}, false},
+        {L"토지 이용", 3, 9, {"토지", "이용"}, false},
+        {L"\U00020000\U00020001", 1, 9, {"\U00020000", "\U00020001"}, false},
+        {L"土\u3099地", 2, 9, {"土\u3099", "地"}, false},
+        {L"葛\U000E0100飾", 2, 9, {"葛\U000E0100", "飾"}, false},
+        {L"نهر النيل الأزرق", 9, 9, {"نهر النيل", "الأزرق"}, false},
+    };
+    for (const auto& row : rows) {
+        Raster raster(row.name, static_cast<DataDisplayType>(7));
+        CMapLegend legend;
+        legend.SetSourceCaption(L"");
+        legend.SetDataSouce({&raster});
+        legend.SetMostWidth(10.0f * static_cast<float>(row.characters) + 0.5f);
+        legend.SetMostLines(row.lines);
+        Measure(legend);
+        std::vector<std::string> expected = row.broken;
+        expected.insert(expected.begin(), "");  // the title
+        EXPECT_EQ(TextsOf(legend, 1.0), expected);
+        EXPECT_EQ(legend.HasCutTexts(), row.isCut) << expected[1];
+        // The title and two gaps; further lines are 15.6 rounded up.
+        EXPECT_EQ(legend.GetSize(),
+                  13 + 24 + 13 + 16 * static_cast<int>(row.broken.size() - 1))
+            << expected[1];
+    }
+}
+
+// Rows of 13, swatches of 7; the lines of a label are 15.6 apart.
+TEST(LegendRoom, ASwatchIsLevelWithTheFirstLineOfItsLabel) {
+    Raster classes(L"abc", DisplayClassified);
+    classes.table.items = {{L"ab ab", 1, 2, 3, 0}, {L"a", 1, 2, 3, 0}};
+    CMapLegend legend;
+    legend.SetTitleValue(L"T");
+    legend.SetSourceCaption(L"");
+    legend.SetDataSouce({&classes});
+    legend.SetMostLines(2);
+    // Without a width there is nothing to break, and all is as it was.
+    Measure(legend);
+    EXPECT_EQ(legend.GetSize(), 13 + 24 + 13 + 2 * 19);
+    EXPECT_FALSE(legend.HasCutTexts());
+    legend.SetMostWidth(90.0f);
+    for (const bool aligned : {false, true}) {
+        legend.SetAlignedLabels(aligned);
+        Measure(legend);
+        ASSERT_EQ(legend.GetSize(), 13 + 24 + 13 + 12 + 7 + 16 + 12 + 7);
+        ASSERT_EQ(legend.GetAspectRatio(), 120.0f / 104.0f);
+        Surface surface;
+        Recording recording(Mode::RecordOnly);
+        ink::Script(recording, Ink);
+        legend.Draw(surface.Graphics(), CPoint(60, 52), 1.0);
+        const auto placed = [](const std::string& line) {
+            const std::size_t at = line.rfind('(', line.find(')'));
+            return std::lround(
+                std::strtof(line.c_str() + line.find(", ", at) + 2, nullptr));
+        };
+        std::vector<long> tops;
+        for (const std::string& line : recording.Drawing()) {
+            tops.push_back(placed(line));
+        }
+        // The label 62, the next swatch 15.6 + 7 + 12 below; aligned ones 3.25 above.
+        EXPECT_EQ(tops, aligned ? (std::vector<long>{0, 37, 62, 59, 74, 97, 93})
+                                : (std::vector<long>{0, 37, 62, 62, 78, 97, 97}));
+    }
+}
+
 }  // namespace

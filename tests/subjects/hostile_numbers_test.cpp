@@ -45,6 +45,7 @@ void SetOwn(CMapSurround& element, const Own& own) {
         legend->SetGap(own.real);
         legend->SetMostWidth(own.real);
         legend->SetColumns(own.whole);
+        legend->SetMostLines(own.whole);
     } else if (auto* const arrow = dynamic_cast<CNorthArrowBase*>(&element)) {
         arrow->SetNorthArrowType(static_cast<NorthArrowType>(own.whole));
     } else if (auto* const bar = dynamic_cast<CScaleBarBase*>(&element)) {

@@ -66,6 +66,11 @@ std::vector<Property> LegendProperties() {
                    "wider ends in an ellipsis; 0: any",
                    PropertyKind::Number),
                kLengths),
+        Within(Of<&CMapLegend::GetMostLines, &CMapLegend::SetMostLines>(
+                   "mostLines",
+                   "In how many lines a name or label may stand that is wider than that",
+                   PropertyKind::Integer),
+               {1.0, 100.0}),
         Within(Of<&CMapLegend::GetColumns, &CMapLegend::SetColumns>(
                    "columns", "How many columns its entries stand in",
                    PropertyKind::Integer),

@@ -179,6 +179,7 @@ std::vector<Change> LegendChanges(const std::string& folder) {
         Behind("alignedLabels", &L::SetAlignedLabels, &L::GetAlignedLabels, true),
         Behind("gap", &L::SetGap, &L::GetGap, 0.7f),
         Behind("mostWidth", &L::SetMostWidth, &L::GetMostWidth, 123.4f),
+        Behind("mostLines", &L::SetMostLines, &L::GetMostLines, 2),
         Behind("columns", &L::SetColumns, &L::GetColumns, 3),
         Behind("titleFont", &L::SetTitle, &L::GetTitle, L"Courier New"),
         Behind("titleSize", &L::SetTitleSize, &L::GetTitleSize, 33.3f),

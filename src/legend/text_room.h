@@ -1,0 +1,72 @@
+#pragma once
+
+#include <gdiplus.h>
+
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "legend/lettering.h"
+#include "legend/proportions.h"
+
+namespace map_surround {
+
+/// How much room the names and labels of a legend have, at the size in which it is
+/// measured: the layout and the drawing cut and break them alike.
+class TextRoom {
+public:
+    /// @param mostWidth any where it is not above 0
+    /// @param name of the names, and of the labels unless they are measured as drawn
+    TextRoom(float mostWidth, int mostLines, Ruler& ruler, const Lettering& name)
+        : m_mostWidth(mostWidth), m_mostLines(mostLines), m_ruler(ruler), m_name(name) {}
+
+    /// Has labels measured in the font that they are drawn in.
+    void MeasureAsDrawn(float emSize, Gdiplus::FontStyle style) {
+        m_entry.emplace(legend::kEntryFamily, emSize, style);
+    }
+    void SetSample(Length width) { m_sample = width; }
+
+    /// Where the layout has the labels of classes, and of bands and values.
+    Length LabelAt() const {
+        return IsMeasuredAsDrawn() ? Samples(legend::kClassLabelTenths)
+                                   : legend::kClassLabelMeasuredAt * m_sample;
+    }
+    Length ValueLabelAt(bool areAligned) const {
+        return Samples(legend::ValueLabelTenths(areAligned));
+    }
+    bool IsMeasuredAsDrawn() const { return m_entry.has_value(); }
+    const Lettering& Name() const { return m_name; }
+    const Lettering& Entry() const { return m_entry ? *m_entry : m_name; }
+
+    std::vector<std::wstring> LinesOfName(const std::wstring& text) {
+        return Fit(text, m_mostWidth, Name());
+    }
+    std::vector<std::wstring> LinesOfLabel(const std::wstring& text) {
+        return Fit(text, m_mostWidth - static_cast<float>(LabelAt()), Entry());
+    }
+    /// Whether any of these has been cut.
+    bool HasCut() const { return m_hasCut; }
+
+private:
+    Length Samples(int tenths) const { return (tenths * m_sample + 9) / 10; }
+    std::vector<std::wstring> Fit(const std::wstring& text, float width,
+                                  const Lettering& lettering) {
+        if (!(m_mostWidth > 0.0f)) {
+            return {text};
+        }
+        BrokenText broken = BreakLines(text, width, m_mostLines, m_ruler, lettering);
+        m_hasCut = m_hasCut || broken.isCut;
+        return std::move(broken.lines);
+    }
+
+    float m_mostWidth;
+    int m_mostLines;
+    Ruler& m_ruler;
+    const Lettering& m_name;
+    std::optional<Lettering> m_entry;
+    Length m_sample = 0;
+    bool m_hasCut = false;
+};
+
+}  // namespace map_surround
