@@ -171,8 +171,8 @@ void Declare(CLI::App& app, Given& given, Options& options) {
         ->required()
         ->type_name("");
     app.add_option("-o,--output", options.output,
-                   "File to write: .png .jpg .bmp .tif, or\n.pdf or .ps, whose texts and "
-                   "shapes are no pixels")
+                   "File to write: .png .jpg .bmp .tif, or\n.pdf, .svg or .ps, whose "
+                   "texts and shapes are no pixels")
         ->type_name("FILE");
     app.add_option("--save", options.save, "Page file to write, .json; needs no --output")
         ->type_name("FILE");

@@ -1,7 +1,5 @@
 #include "page/output/cairo_page.h"
 
-#include <gdiplus/cairo.h>
-
 #include <new>
 #include <stdexcept>
 #include <string>
@@ -47,7 +45,7 @@ cairo_status_t AppendToBytes(void* bytes, const unsigned char* data,
 
 std::vector<std::size_t> DrawOnCairo(cairo_surface_t* surface, const Page& page,
                                      double dpi, const Progress& progress,
-                                     const std::set<std::size_t>& tagged) {
+                                     const CairoDrawing& how) {
     std::vector<std::size_t> tags;
     const std::unique_ptr<cairo_t, void (*)(cairo_t*)> cairo(cairo_create(surface),
                                                              cairo_destroy);
@@ -55,9 +53,12 @@ std::vector<std::size_t> DrawOnCairo(cairo_surface_t* surface, const Page& page,
     cairo_scale(cairo.get(), pixel, pixel);
     {
         Gdiplus::CairoGraphics graphics(cairo.get(), static_cast<float>(dpi));
+        if (how.prepare) {
+            how.prepare(graphics);
+        }
         page.Draw(graphics, dpi, progress,
                   [&](std::size_t item, const std::function<void()>& draw) {
-                      if (tagged.count(item) == 0) {
+                      if (how.tagged.count(item) == 0) {
                           draw();
                           return;
                       }

@@ -1,9 +1,12 @@
 #pragma once
 
 #include <cairo.h>
+#include <gdiplus.h>
+#include <gdiplus/cairo.h>
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <set>
 #include <vector>
@@ -22,14 +25,21 @@ inline CairoSurface Owned(cairo_surface_t* surface) {
 /// Writes what Cairo gives at the end of a std::vector<std::uint8_t>.
 cairo_status_t AppendToBytes(void* bytes, const unsigned char* data, unsigned int length);
 
+/// What a page's drawing on a surface of Cairo's does beside.
+struct CairoDrawing {
+    /// The items whose content is tagged on the surface, as one figure each.
+    std::set<std::size_t> tagged = {};
+    /// Called with what draws, before it does.
+    std::function<void(Gdiplus::CairoGraphics&)> prepare = {};
+};
+
 /// Draws a page on a surface whose unit is a point, 1/72 inch, and ends the surface's
 /// page. Positions are those of the picture at the resolution, in whole pixels. Throws
 /// what the page's drawing throws, and std::runtime_error when Cairo cannot draw it.
-/// @param tagged items whose content is tagged on the surface as one figure each
-/// @return those that are, in the order of their tags
+/// @return the items that were tagged, in the order of their tags
 std::vector<std::size_t> DrawOnCairo(cairo_surface_t* surface, const Page& page,
                                      double dpi, const Progress& progress,
-                                     const std::set<std::size_t>& tagged = {});
+                                     const CairoDrawing& how = {});
 
 /// Writes what is left. Throws std::runtime_error when anything could not be written.
 void FinishSurface(cairo_surface_t* surface);

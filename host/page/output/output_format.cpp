@@ -13,10 +13,11 @@ struct Ending {
 };
 
 constexpr Ending kEndings[] = {
-    {".png", OutputFormat::Png},   {".jpg", OutputFormat::Jpeg},
-    {".jpeg", OutputFormat::Jpeg}, {".bmp", OutputFormat::Bmp},
-    {".tif", OutputFormat::Tiff},  {".tiff", OutputFormat::Tiff},
-    {".pdf", OutputFormat::Pdf},   {".ps", OutputFormat::PostScript},
+    {".png", OutputFormat::Png},       {".jpg", OutputFormat::Jpeg},
+    {".jpeg", OutputFormat::Jpeg},     {".bmp", OutputFormat::Bmp},
+    {".tif", OutputFormat::Tiff},      {".tiff", OutputFormat::Tiff},
+    {".pdf", OutputFormat::Pdf},       {".svg", OutputFormat::Svg},
+    {".ps", OutputFormat::PostScript},
 };
 
 }  // namespace
@@ -33,7 +34,8 @@ OutputFormat OutputFormatOf(const std::string& path) {
 }
 
 bool IsForPrint(OutputFormat format) {
-    return format == OutputFormat::PostScript || format == OutputFormat::Pdf;
+    return format == OutputFormat::PostScript || format == OutputFormat::Pdf ||
+           format == OutputFormat::Svg;
 }
 
 }  // namespace host

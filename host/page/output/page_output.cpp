@@ -9,6 +9,7 @@
 #include "page/output/page_image.h"
 #include "page/output/pdf_file.h"
 #include "page/output/postscript_file.h"
+#include "page/output/svg_file.h"
 #include "page/texts.h"
 
 namespace host {
@@ -17,6 +18,18 @@ namespace {
 // Cairo draws on surfaces of at most 32767 pixels a side.
 constexpr int kLongestImageSide = 32767;
 constexpr std::int64_t kMostImagePixels = 250'000'000;
+
+std::vector<std::uint8_t> EncodeForPrint(const Page& page, OutputFormat format,
+                                         double dpi, const Progress& progress) {
+    switch (format) {
+        case OutputFormat::Pdf:
+            return EncodePdf(page, dpi, progress);
+        case OutputFormat::Svg:
+            return EncodeSvg(page, dpi, progress);
+        default:
+            return EncodePostScript(page, dpi, progress);
+    }
+}
 
 }  // namespace
 
@@ -35,9 +48,7 @@ std::vector<std::uint8_t> EncodePage(const Page& page, OutputFormat format, doub
                                      const Progress& progress,
                                      const std::function<void()>& encoding) {
     if (IsForPrint(format)) {
-        std::vector<std::uint8_t> file = format == OutputFormat::Pdf
-                                             ? EncodePdf(page, dpi, progress)
-                                             : EncodePostScript(page, dpi, progress);
+        std::vector<std::uint8_t> file = EncodeForPrint(page, format, dpi, progress);
         CheckWritten(page);
         return file;
     }

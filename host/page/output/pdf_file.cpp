@@ -2,8 +2,6 @@
 
 #include <cairo-pdf.h>
 
-#include <set>
-
 #include "page/output/cairo_page.h"
 #include "page/output/pdf_finish.h"
 #include "page/units.h"
@@ -17,11 +15,11 @@ std::vector<std::uint8_t> EncodePdf(const Page& page, double dpi,
         AppendToBytes, &draft, PointsFromUnits(page.Width()),
         PointsFromUnits(page.Height())));
     PdfPage described = PdfPageOf(page, dpi);
-    std::set<std::size_t> tagged;
+    CairoDrawing how;
     for (const PdfPage::Tagged& item : described.items) {
-        tagged.insert(item.spoken.item);
+        how.tagged.insert(item.spoken.item);
     }
-    described.tags = DrawOnCairo(surface.get(), page, dpi, progress, tagged);
+    described.tags = DrawOnCairo(surface.get(), page, dpi, progress, how);
     FinishSurface(surface.get());
     return FinishPdf(draft, {described});
 }

@@ -30,9 +30,10 @@ constexpr const char* kOpenFilter =
     "Pages and rasters (*.json *.tif *.tiff *.img *.vrt *.png *.jpg);;All files (*)";
 const SavedKind kPage = {"Page files (*.json)", ".json"};
 const QList<SavedKind> kImages = {
-    {"By the ending (*.png *.pdf *.ps *.jpg *.jpeg *.tif *.tiff *.bmp)", ""},
+    {"By the ending (*.png *.pdf *.svg *.ps *.jpg *.jpeg *.tif *.tiff *.bmp)", ""},
     {"PNG (*.png)", ".png"},
     {"PDF (*.pdf)", ".pdf"},
+    {"SVG (*.svg)", ".svg"},
     {"PostScript (*.ps)", ".ps"},
     {"JPEG (*.jpg *.jpeg)", ".jpg"},
     {"TIFF (*.tif *.tiff)", ".tif"},

@@ -5,6 +5,10 @@
 #include <memory>
 #include <vector>
 
+#pragma GCC visibility push(default)
+#include "gdiplus/flat_cairo.h"
+#pragma GCC visibility pop
+
 #include "cairo/flat_functions.h"
 #include "cairo/matrix.h"
 #include "cairo/path.h"
@@ -46,6 +50,8 @@ struct Graphics : GpGraphics {
     double clipCells = 1.0;           ///< a unit of Cairo's
     REAL xdpi = 96.0f;
     REAL ydpi = 96.0f;
+    CairoLineDrawn tellLine = nullptr;
+    void* lineContext = nullptr;
 
     State state;
     struct Saved {

@@ -1,9 +1,5 @@
 #include "cairo/graphics.h"
 
-#pragma GCC visibility push(default)
-#include "gdiplus/flat_cairo.h"
-#pragma GCC visibility pop
-
 namespace engine {
 namespace {
 
@@ -42,6 +38,15 @@ GpStatus GdipGetCairoGraphicsContext(cairo_t* cairo, REAL xdpi, REAL ydpi,
         return InvalidParameter;
     }
     return engine::Guarded([&] { return engine::MakeOn(cairo, xdpi, ydpi, graphics); });
+}
+
+GpStatus GdipTellCairoLines(GpGraphics* graphics, CairoLineDrawn told, void* context) {
+    if (graphics == nullptr) {
+        return InvalidParameter;
+    }
+    engine::From(graphics)->tellLine = told;
+    engine::From(graphics)->lineContext = context;
+    return Ok;
 }
 
 }  // extern "C"

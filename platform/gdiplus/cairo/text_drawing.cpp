@@ -5,6 +5,7 @@
 #include "cairo/graphics.h"
 #include "cairo/pencil.h"
 #include "cairo/text_cache.h"
+#include "cairo/unicode.h"
 
 namespace engine {
 namespace {
@@ -164,6 +165,19 @@ GpStatus FillLarge(Graphics& graphics, TextLayout& layout, const TextStyle& styl
     return drawing.Finish();
 }
 
+/// @param scale units of the layout to a world unit
+void TellLines(const Graphics& graphics, const TextLayout& layout, const TextStyle& style,
+               const FlatChar* text, std::size_t length, const RectF& box, double scale) {
+    const std::u32string points = CodePoints(text, length);
+    for (const LaidLine& line : layout.laid) {
+        const std::string words = Utf8(points.substr(line.start, line.end - line.start));
+        const CairoLine told = {words.c_str(),          style.size / scale,
+                                box.X + line.x / scale, box.Y + line.baseline / scale,
+                                line.width / scale,     graphics.Device()};
+        graphics.tellLine(graphics.lineContext, &told);
+    }
+}
+
 GpStatus DrawText(Graphics& graphics, const FlatChar* text, std::size_t length,
                   const Font& font, const RectF& box, const GpStringFormat* format,
                   ARGB color) {
@@ -185,6 +199,9 @@ GpStatus DrawText(Graphics& graphics, const FlatChar* text, std::size_t length,
     style.smooth = graphics.state.textHint < TextRenderingHintSingleBitPerPixelGridFit ||
                    graphics.state.textHint > TextRenderingHintSingleBitPerPixel;
     TextLayout& layout = Texts().LayoutOf(font.family, style, text, length);
+    if (graphics.tellLine != nullptr) {
+        TellLines(graphics, layout, style, text, length, box, scale);
+    }
     if (large) {
         return FillLarge(graphics, layout, style, box, scale, color);
     }

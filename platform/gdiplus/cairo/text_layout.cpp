@@ -18,7 +18,8 @@ bool operator==(const TextStyle& a, const TextStyle& b) {
 }
 
 std::size_t TextLayout::Bytes() const {
-    std::size_t bytes = sizeof *this + strokes.size() * sizeof strokes[0];
+    std::size_t bytes =
+        sizeof *this + strokes.size() * sizeof strokes[0] + laid.size() * sizeof laid[0];
     for (const GlyphRun& run : runs) {
         bytes += sizeof run + run.glyphs.capacity() * sizeof(cairo_glyph_t);
     }
@@ -124,12 +125,16 @@ INT Units(const std::u32string& text, std::size_t end) {
 }
 
 void AddStrokes(TextLayout& layout, const TextStyle& style, const SizedFace& face,
-                double x, double baseline, double width) {
+                const LaidLine& line) {
+    const auto add = [&](double below) {
+        layout.strokes.push_back(
+            {line.x, line.baseline + below, line.width, face.thickness});
+    };
     if ((style.style & FontStyleUnderline) != 0) {
-        layout.strokes.push_back({x, baseline + face.underline, width, face.thickness});
+        add(face.underline);
     }
     if ((style.style & FontStyleStrikeout) != 0) {
-        layout.strokes.push_back({x, baseline + face.strikeout, width, face.thickness});
+        add(face.strikeout);
     }
 }
 
@@ -144,7 +149,6 @@ std::unique_ptr<TextLayout> LayOut(ThreadTexts& texts, const TextStyle& style,
         return style.fit ? std::floor(value) : value;
     };
     std::vector<ShapedLine> lines;
-    std::vector<double> widths;  // without the spaces at the end, unless they count
     const bool trailing = (style.flags & StringFormatFlagsMeasureTrailingSpaces) != 0;
     for (const Span& span : LinesOf(shaper, text, style)) {
         std::size_t end = span.end;
@@ -164,7 +168,7 @@ std::unique_ptr<TextLayout> LayOut(ThreadTexts& texts, const TextStyle& style,
         layout->height += height;
         layout->width = std::max(layout->width, line.width);
         layout->characters = Units(text, span.next);
-        widths.push_back(line.width);
+        layout->laid.push_back({span.start, end, 0.0, 0.0, line.width});
         lines.push_back(std::move(line));
     }
     layout->lines = static_cast<INT>(lines.size());
@@ -175,16 +179,16 @@ std::unique_ptr<TextLayout> LayOut(ThreadTexts& texts, const TextStyle& style,
                     (style.height > 0.0 && layout->height > style.height);
     double y = layout->top;
     for (std::size_t i = 0; i < lines.size(); ++i) {
-        const double x = fitted((style.width - widths[i]) * along);
-        const double baseline = y + lines[i].ascent;
+        LaidLine& laid = layout->laid[i];
+        laid.x = fitted((style.width - laid.width) * along);
+        laid.baseline = y + lines[i].ascent;
         if (!lines[i].runs.empty()) {
-            AddStrokes(*layout, style, *lines[i].runs.front().face, x, baseline,
-                       widths[i]);
+            AddStrokes(*layout, style, *lines[i].runs.front().face, laid);
         }
         for (GlyphRun& run : lines[i].runs) {
             for (cairo_glyph_t& glyph : run.glyphs) {
-                glyph.x += x;
-                glyph.y += baseline;
+                glyph.x += laid.x;
+                glyph.y += laid.baseline;
             }
             if (!run.glyphs.empty()) {
                 layout->runs.push_back(std::move(run));

@@ -33,10 +33,20 @@ struct GlyphRun {
     std::vector<cairo_glyph_t> glyphs;
 };
 
+/// A line of a text, its code points and where it stands.
+struct LaidLine {
+    std::size_t start;
+    std::size_t end;
+    double x;
+    double baseline;
+    double width;
+};
+
 /// A text laid out, from the corner of its box.
 struct TextLayout {
     std::vector<GlyphRun> runs;
     std::vector<cairo_rectangle_t> strokes;  ///< under and through the text
+    std::vector<LaidLine> laid;
     // What the lines take up, with all their advances.
     double left = 0.0;
     double top = 0.0;

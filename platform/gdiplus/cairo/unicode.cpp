@@ -18,9 +18,9 @@ std::u32string CodePoints(const FlatChar* units, std::size_t count) {
     return points;
 }
 
-std::string Utf8(const FlatChar* text) {
+std::string Utf8(const std::u32string& text) {
     std::string utf8;
-    for (const char32_t c : CodePoints(text, std::char_traits<FlatChar>::length(text))) {
+    for (const char32_t c : text) {
         const auto tail = [&](int shift) {
             utf8 += static_cast<char>(0x80 | (c >> shift & 0x3F));
         };
@@ -41,6 +41,10 @@ std::string Utf8(const FlatChar* text) {
         }
     }
     return utf8;
+}
+
+std::string Utf8(const FlatChar* text) {
+    return Utf8(CodePoints(text, std::char_traits<FlatChar>::length(text)));
 }
 
 std::u16string Utf16(const char* utf8) {

@@ -76,6 +76,11 @@ protected:
 
     /// The page as pixels at 100 dpi, 1169 x 827.
     std::string Rendered(const std::string& file) {
+        if (file == "page.svg") {
+            Said("rsvg-convert -d 100 -p 100 -o " + folder.Path("rendered.png") + " " +
+                 folder.Path(file));
+            return folder.Path("rendered.png");
+        }
         Said(
             "gs -q -dBATCH -dNOPAUSE -sDEVICE=png16m -r100 -dTextAlphaBits=4 "
             "-dGraphicsAlphaBits=4 -sOutputFile=" +
@@ -142,7 +147,7 @@ TEST_F(Print, HasTheMapAsOneImageOfTheResolution) {
 TEST_F(Print, LooksLikeThePicture) {
     ASSERT_EQ(Draw("page.png", {"--dpi", "100"}).status, 0);
     const std::vector<double> picture = Squares(folder.Path("page.png"));
-    for (const char* file : {"page.pdf", "page.ps"}) {
+    for (const char* file : {"page.pdf", "page.ps", "page.svg"}) {
         ASSERT_EQ(Draw(file, {"--dpi", "100"}).status, 0);
         const std::vector<double> print = Squares(Rendered(file));
         ASSERT_EQ(print.size(), picture.size()) << file;

@@ -20,6 +20,12 @@ public:
     CairoGraphics(cairo_t* cairo, REAL dpi = 96.0f) {
         SetStatus(DllExports::GdipGetCairoGraphicsContext(cairo, dpi, dpi, &native_));
     }
+
+    /// Has each line of text told that is drawn from now on: where it stands, and its
+    /// words, which Cairo keeps in PDF files only. Null for no more.
+    Status TellLines(CairoLineDrawn told, void* context) {
+        return SetStatus(DllExports::GdipTellCairoLines(native_, told, context));
+    }
 };
 
 }  // namespace Gdiplus

@@ -6,6 +6,7 @@
 #include <fstream>
 #include <iterator>
 #include <string>
+#include <vector>
 
 #include "gdiplus/cairo.h"
 #include "portable/image_files.h"
@@ -45,6 +46,39 @@ TEST_F(HostSurfaces, OfSvgKeepShapesAndTexts) {
     EXPECT_NE(page.find("M 100 50 L 130 50 L 130 70 L 100 70 Z"), std::string::npos);
     EXPECT_NE(page.find("rgb(100%,0%,0%)"), std::string::npos);
     EXPECT_NE(page.find("<use xlink:href=\"#glyph0-"), std::string::npos);
+}
+
+TEST_F(HostSurfaces, AreToldTheLinesOfTexts) {
+    cairo_surface_t* const surface = cairo_svg_surface_create(file.c_str(), 600, 400);
+    cairo_t* const cairo = cairo_create(surface);
+    std::vector<std::string> told;
+    const auto tell = [](void* context, const CairoLine* line) {
+        double x = line->x + line->width;
+        double y = line->baseline;
+        cairo_matrix_transform_point(&line->matrix, &x, &y);
+        // Arial's ascent is 0.905 of an em; other faces of a line may have more.
+        EXPECT_NEAR(y, 2.0 * (300.0 + 24.0 * 0.905), 3.0) << line->text;
+        EXPECT_GT(x, 2.0 * (200.0 + 20.0));
+        EXPECT_NEAR(line->size, 24.0, 1e-6);
+        static_cast<std::vector<std::string>*>(context)->emplace_back(line->text);
+    };
+    cairo_scale(cairo, 2.0, 2.0);
+    {
+        CairoGraphics graphics(cairo, 72.0f);
+        EXPECT_EQ(graphics.TellLines(tell, &told), Ok);
+        Draw(graphics);
+        const Font font(L"Arial", 24.0f, FontStyleRegular, UnitPixel);
+        const SolidBrush red(Color(0xFFFF0000));
+        graphics.DrawString(L"\x5F71\x50CF \xD83D\xDDFA", -1, &font, PointF(200, 300),
+                            &red);
+        EXPECT_EQ(graphics.TellLines(nullptr, nullptr), Ok);
+        Draw(graphics);
+    }
+    EXPECT_EQ(told, (std::vector<std::string>{"North", "影像 🗺"}));
+    CairoGraphics none(nullptr);
+    EXPECT_EQ(none.TellLines(tell, &told), InvalidParameter);
+    cairo_destroy(cairo);
+    cairo_surface_destroy(surface);
 }
 
 TEST_F(HostSurfaces, OfPdfHaveTheirFont) {

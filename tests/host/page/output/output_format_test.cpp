@@ -26,6 +26,7 @@ TEST(OutputFormat, IsTheOneOfTheEnding) {
         {"page.TIFF", OutputFormat::Tiff, false},
         {"page.ps", OutputFormat::PostScript, true},
         {"page.pdf", OutputFormat::Pdf, true},
+        {"a/page.SVG", OutputFormat::Svg, true},
     };
     for (const Row& row : rows) {
         EXPECT_EQ(host::OutputFormatOf(row.path), row.format) << row.path;
@@ -35,13 +36,13 @@ TEST(OutputFormat, IsTheOneOfTheEnding) {
 
 TEST(OutputFormat, IsNoneForOtherEndings) {
     for (const char* path : {"", "page", "png", ".png", "page.gif", "page.png ",
-                             "page.png/", "page.svg", "page.pngx"}) {
+                             "page.png/", "page.svgz", "page.pngx"}) {
         try {
             host::OutputFormatOf(path);
             ADD_FAILURE() << path;
         } catch (const std::runtime_error& error) {
             EXPECT_STREQ(error.what(),
-                         "ends in none of .png .jpg .jpeg .bmp .tif .tiff .pdf .ps");
+                         "ends in none of .png .jpg .jpeg .bmp .tif .tiff .pdf .svg .ps");
         }
     }
 }

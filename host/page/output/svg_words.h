@@ -1,0 +1,28 @@
+#pragma once
+
+#include <gdiplus/cairo.h>
+
+#include <string>
+
+namespace host {
+
+/// The lines of text of a page, in the order in which they are drawn, for its SVG file.
+class SvgWords {
+public:
+    /// Takes note of what is drawn on a surface from now on, as long as both live.
+    void ListenTo(Gdiplus::CairoGraphics& graphics);
+
+    /// The lines as SVG texts that are not seen: each where it was drawn, and stretched
+    /// to its width in whatever font the viewer has.
+    const std::string& Texts() const { return m_texts; }
+
+private:
+    void Add(const Gdiplus::CairoLine& line);
+
+    std::string m_texts;
+};
+
+/// A text as XML has it.
+std::string EscapedXml(const std::string& text);
+
+}  // namespace host
