@@ -43,7 +43,7 @@ constexpr const char* kPacked[] = {
     "COMPRESS=DEFLATE", "PREDICTOR=2",     "ZLEVEL=1", "BLOCKYSIZE=64",
     "INTERLEAVE=PIXEL", "PHOTOMETRIC=RGB", nullptr};
 
-void Place(GDALDataset& file, Georeference georeference) {
+void TellPlace(GDALDataset& file, Georeference georeference) {
     file.SetGeoTransform(georeference.transform.data());
     if (!georeference.projection.empty()) {
         file.SetProjection(georeference.projection.c_str());
@@ -65,7 +65,7 @@ void Write(const PixelRows& pixels, double dpi,
     file->SetMetadataItem("TIFFTAG_YRESOLUTION", density.c_str());
     file->SetMetadataItem("TIFFTAG_RESOLUTIONUNIT", "2");  // an inch
     if (georeference) {
-        Place(*file, *georeference);
+        TellPlace(*file, *georeference);
     }
     // Blue, green, red, unused: red is the third, and each band a byte before the last.
     auto* const red = const_cast<std::uint8_t*>(pixels.first) + 2;
