@@ -18,6 +18,12 @@
 struct LegendSource {
     std::wstring name = {};  ///< in place of the file name; empty: the file name
     bool isShown = true;     ///< false leaves the source out, without asking it anything
+
+    /// The colours of a ramp from the highest value of the source's first band to the
+    /// lowest, which is then its only entry, whatever its display type. Each has as much
+    /// of the ramp as the others, opaque and unmixed: of two, the upper half is in the
+    /// first. Without any, the source has the entries of its display type.
+    std::vector<Gdiplus::Color> ramp = {};
 };
 
 /// What the colours of the map mean: a title, then for every raster source its file name

@@ -28,6 +28,17 @@ constexpr Gdiplus::ARGB kBlue = 0xFF0000FF;
 /// From grey 254 to 1: the ramp leaves out white and black.
 constexpr int kRampStrips = 254;
 
+/// Of the strip at a place from 1, grey where there are no colours.
+Gdiplus::Color StripColour(int k, const std::vector<Gdiplus::Color>& colours) {
+    const auto grey = static_cast<unsigned char>(255 - k);
+    if (colours.empty()) {
+        return {255, grey, grey, grey};
+    }
+    const Gdiplus::Color& colour =
+        colours[static_cast<std::size_t>(k - 1) * colours.size() / kRampStrips];
+    return {255, colour.GetRed(), colour.GetGreen(), colour.GetBlue()};
+}
+
 /// A cursor moving down the legend, column by column, in pixels.
 struct Cursor {
     Gdiplus::Graphics* graphics;
@@ -89,7 +100,7 @@ struct Cursor {
     }
 
     void DrawBands(CRasterSource& source);
-    void DrawRamp(CRasterSource& source);
+    void DrawRamp(CRasterSource& source, const std::vector<Gdiplus::Color>& colours);
     void DrawClasses(CClassifyDisplayTable* table);
     void DrawBand(Gdiplus::Color color, int index);
 };
@@ -109,7 +120,7 @@ void Cursor::DrawBands(CRasterSource& source) {
     DrawBand(kBlue, source.GetBlueBandNum());
 }
 
-void Cursor::DrawRamp(CRasterSource& source) {
+void Cursor::DrawRamp(CRasterSource& source, const std::vector<Gdiplus::Color>& colours) {
     BeginRow();
     const float rampHeight = legend::kRampSwatches * swatchHeight;
     const float stripHeight = (3 * swatchHeight + 2 * rowHeight) / kRampStrips;
@@ -121,8 +132,7 @@ void Cursor::DrawRamp(CRasterSource& source) {
 
     // The strips overlap, and the first starts one step down.
     for (int k = 1; k <= kRampStrips; ++k) {
-        const auto grey = static_cast<unsigned char>(255 - k);
-        Fill(Gdiplus::Color(255, grey, grey, grey),
+        Fill(StripColour(k, colours),
              y + rampHeight * static_cast<float>(k) / kRampStrips, stripHeight);
     }
 
@@ -236,10 +246,13 @@ void CMapLegend::Draw(Gdiplus::Graphics* graphics, CPoint centre, double scale) 
             room ? room->LinesOfName(name) : std::vector<std::wstring>{name},
             fileName.font, cursor.left, 0.0f);
         cursor.y += rowHeight + gap;
-        if (source->GetDisplayType() == DisplayRGB) {
+        const std::vector<Gdiplus::Color> ramp = map_surround::RampOf(m_shownSources, i);
+        if (!ramp.empty()) {
+            cursor.DrawRamp(*source, ramp);
+        } else if (source->GetDisplayType() == DisplayRGB) {
             cursor.DrawBands(*source);
         } else if (source->GetDisplayType() == DisplayGray) {
-            cursor.DrawRamp(*source);
+            cursor.DrawRamp(*source, {});
         } else if (source->GetDisplayType() == DisplayClassified) {
             cursor.DrawClasses(source->GetClassifyDisplayTable());
         }

@@ -201,7 +201,9 @@ void CMapLegend::ResetAspectRatio() {
         layout.AddName(m_mostWidth > 0.0f || room.IsMeasuredAsDrawn()
                            ? m_sourceCaption + name
                            : name);
-        if (source->GetDisplayType() == DisplayRGB) {
+        if (!map_surround::RampOf(m_shownSources, i).empty()) {
+            layout.AddRamp(*source, *this);
+        } else if (source->GetDisplayType() == DisplayRGB) {
             layout.AddBands(*source, *this);
         } else if (source->GetDisplayType() == DisplayGray) {
             layout.AddRamp(*source, *this);

@@ -32,6 +32,13 @@ inline std::wstring NameOf(CRasterSource& source, const std::vector<LegendSource
                                                               : source.GetFileName();
 }
 
+/// The colours of a ramp that explains the source at an index; a copy, since the source
+/// may have others set when it is asked for its values.
+inline std::vector<Gdiplus::Color> RampOf(const std::vector<LegendSource>& shown,
+                                          std::size_t index) {
+    return index < shown.size() ? shown[index].ramp : std::vector<Gdiplus::Color>();
+}
+
 /// The number of a band as people count.
 inline std::wstring BandNumber(int index) {
     return CommonFun::int2wstring(ToDevice(Length{index} + 1));

@@ -49,6 +49,54 @@ TEST(LegendDrawing, WritesTheWordsThatAreSet) {
     EXPECT_TRUE(Equal(SquareDrawing(place, words), square.Draw(place.centre, 1.0)));
 }
 
+// In strips as always: of 254, five colours have 51 each, but the last, which has 50.
+TEST(LegendDrawing, ARampIsInTheColoursThatAreGiven) {
+    const std::vector<Gdiplus::ARGB> given[] = {{0xFF112233},
+                                                {0xFF112233, 0x00445566},
+                                                {1, 2, 3, 4, 5},
+                                                std::vector<Gdiplus::ARGB>(1000, 7)};
+    for (const std::vector<Gdiplus::ARGB>& colours : given) {
+        SCOPED_TRACE(colours.size());
+        Square square;
+        LegendSource shown;
+        shown.ramp.assign(colours.begin(), colours.end());
+        square.legend.SetShownSources({{}, shown});
+        const std::vector<std::string> drawing = square.Draw(CPoint(300, 200), 1.0);
+        std::vector<Named> expected =
+            SquareDrawing({1.0, 1.0f, CPoint(300, 200), 172, 72});
+        const std::string last = BrushLook(0xFF010101);
+        for (std::size_t k = 0; k < 254; ++k) {
+            const Gdiplus::ARGB opaque = colours[k * colours.size() / 254] | 0xFF000000;
+            expected[10 + k].line.replace(expected[10 + k].line.find("brush"),
+                                          last.size(), BrushLook(opaque));
+            if (k == 253) {
+                expected[264].line.replace(expected[264].line.find(last), last.size(),
+                                           BrushLook(opaque));
+            }
+        }
+        EXPECT_TRUE(Equal(expected, drawing));
+    }
+}
+
+// Whatever its display type says, which is not asked for.
+TEST(LegendDrawing, ASourceWithColoursOfARampIsExplainedByIt) {
+    Raster classes(L"classes", DisplayClassified);
+    classes.table.items = {{L"one", 1, 2, 3}, {L"two", 1, 2, 3}};
+    classes.band.highest = 9.0;
+    CMapLegend legend;
+    legend.SetDataSouce({&classes});
+    legend.SetShownSources({{L"", true, {Gdiplus::Color(0xFF112233)}}});
+    Surface surface;
+    Recording recording(Mode::RecordOnly);
+    ink::Script(recording, Square::Ink);
+    legend.ResetAspectRatio();
+    EXPECT_EQ(legend.GetSize(), 24 + 10 + 12 + 4 * 6);
+    recording.Clear();
+    legend.Draw(surface.Graphics(), CPoint(0, 35), 1.0);
+    EXPECT_EQ(recording.Drawing().size(), 1U + 1U + 1U + 254U + 1U);
+    EXPECT_EQ(classes.displayType.Asked(), 0U);
+}
+
 TEST(LegendDrawing, LeavesOutTheSourcesThatAreHidden) {
     Square square;
     square.legend.SetShownSources({{L"", false}, {L"", false}, {L"", false}});

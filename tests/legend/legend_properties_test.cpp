@@ -42,7 +42,8 @@ struct Described {
         legend.SetBandCaption(L"Band ");
         legend.SetHighCaption(L"High ");
         legend.SetLowCaption(L"Low ");
-        legend.SetShownSources({{L"Scene"}, {L"Relief", false}});
+        legend.SetShownSources(
+            {{L"Scene", true, {Gdiplus::Color(0xFF010203)}}, {L"Relief", false}});
         legend.SetAlignedLabels(true);
         legend.SetGap(0.5f);
         legend.SetMostWidth(77.0f);
@@ -85,6 +86,8 @@ void ExpectDescribed(const CMapLegend& legend) {
     const std::vector<LegendSource> shown = legend.GetShownSources();
     ASSERT_EQ(shown.size(), 2U);
     EXPECT_EQ(shown[0].name, L"Scene");
+    ASSERT_EQ(shown[0].ramp.size(), 1U);
+    EXPECT_EQ(shown[0].ramp[0].GetValue(), 0xFF010203u);
     EXPECT_TRUE(shown[0].isShown);
     EXPECT_EQ(shown[1].name, L"Relief");
     EXPECT_FALSE(shown[1].isShown);
