@@ -2,13 +2,34 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
+#include <iterator>
 
 #include "map_surround/kit/division.h"
 #include "page/catalogue.h"
 #include "page/element_of.h"
 #include "page/tiles.h"
+#include "raster_data/gdal_raster.h"
 
 namespace host {
+namespace {
+
+void AddRamps(const std::vector<CGISDataSource*>& sources,
+              std::vector<LegendSource>& shown) {
+    for (std::size_t i = 0; i < sources.size(); ++i) {
+        auto* const raster = dynamic_cast<GdalRaster*>(sources[i]);
+        if (raster != nullptr && shown[i].isShown) {
+            const std::vector<ClassColour> colours = raster->RampColours();
+            std::transform(
+                colours.rbegin(), colours.rend(), std::back_inserter(shown[i].ramp),
+                [](const ClassColour& colour) {
+                    return Gdiplus::Color(colour.red, colour.green, colour.blue);
+                });
+        }
+    }
+}
+
+}  // namespace
 
 CPoint PlacedFrame::ElementCentre(CPoint middle, double scale) const {
     return {middle.x + static_cast<int>(std::lround(m_offset.x * scale)),
@@ -80,6 +101,10 @@ void LegendFrame::SetSources(std::vector<CGISDataSource*> sources,
     if (m_joinsTiles) {
         shown.resize(m_sources.size());
         JoinTiles(m_sources, shown);
+    }
+    if (m_explainsRamps) {
+        shown.resize(m_sources.size());
+        AddRamps(m_sources, shown);
     }
     if (auto* const legend = ElementOf<CMapLegend>(*this)) {
         legend->SetDataSouce(m_sources);

@@ -167,6 +167,11 @@ public:
     void SetJoinsTiles(bool joins) { m_joinsTiles = joins; }
     bool JoinsTiles() const { return m_joinsTiles; }
 
+    /// Whether a raster with a palette that is a ramp is explained by it when sources are
+    /// set, not by a class for each of its values.
+    void SetExplainsRamps(bool explains) { m_explainsRamps = explains; }
+    bool ExplainsRamps() const { return m_explainsRamps; }
+
     /// What the legend explains, and what it calls each; not owned.
     void SetSources(std::vector<CGISDataSource*> sources,
                     std::vector<LegendSource> shown = {});
@@ -177,6 +182,7 @@ private:
     std::vector<std::string> m_rasterPaths;
     std::wstring m_names;
     bool m_joinsTiles = false;
+    bool m_explainsRamps = false;
     std::vector<CGISDataSource*> m_sources;
 };
 

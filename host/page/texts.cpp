@@ -27,8 +27,8 @@ constexpr const wchar_t* kEllipsis = L"\u2026";  // of those that are cut
 
 constexpr std::size_t kMostShown = 8;
 
-std::wstring EntriesOf(const CMapLegend& legend, CRasterSource& source) {
-    switch (source.GetDisplayType()) {
+std::wstring EntriesOf(const CMapLegend& legend, CRasterSource& source, bool isRamp) {
+    switch (isRamp ? DisplayGray : source.GetDisplayType()) {
         case DisplayRGB:
             return legend.GetBandCaption() + kNumbers;
         case DisplayGray:
@@ -53,9 +53,9 @@ std::vector<WrittenText> TextsOfLegend(const CMapLegend& legend,
     if (legend.GetMostWidth() > 0.0f) {
         names = entries = kEllipsis;
     }
-    for (const auto& [raster, name] : ExplainedBy(legend, sources)) {
-        names += legend.GetSourceCaption() + name;
-        entries += EntriesOf(legend, *raster);
+    for (const ExplainedRaster& explained : ExplainedBy(legend, sources)) {
+        names += legend.GetSourceCaption() + explained.name;
+        entries += EntriesOf(legend, *explained.raster, !explained.ramp.empty());
     }
     return {{Narrow(legend.GetTitle()), legend.GetTitleStyle(), legend.GetTitleValue()},
             {Narrow(legend.GetFileName()), legend.GetFileNameStyle(), names},

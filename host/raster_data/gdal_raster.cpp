@@ -212,6 +212,10 @@ CClassifyDisplayTable* GdalRaster::GetClassifyDisplayTable() {
     return &m_state->shading->Classes();
 }
 
+std::vector<ClassColour> GdalRaster::RampColours() {
+    return m_state->shading->RampColours();
+}
+
 const std::string& GdalRaster::Path() const { return m_state->path; }
 const std::vector<std::string>& GdalRaster::Files() const { return m_state->files; }
 const RasterStyle& GdalRaster::Style() const { return m_state->shading->Style(); }

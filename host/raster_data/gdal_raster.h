@@ -9,12 +9,15 @@
 
 #include "host/common_functions.h"
 #include "host/raster_data.h"
+#include "map_surround/kit/classification_table.h"
 #include "raster_data/raster_style.h"
 #include "system/progress.h"
 
 class GDALDataset;
 
 namespace host {
+
+using map_surround::kit::ClassColour;
 
 /// Pixels of a drawn raster: 4 bytes each (blue, green, red, alpha, as GDI+ keeps
 /// PixelFormat32bppARGB in memory), rows from the top, no padding.
@@ -54,6 +57,11 @@ public:
     int GetBlueBandNum() override;
     CRasterBand* GetRasterBand(int index) override;
     CClassifyDisplayTable* GetClassifyDisplayTable() override;
+
+    /// The colours that the map has for the values of a band with a palette, from the
+    /// lowest to the highest, where they are a ramp and no classes: 32 or more without
+    /// names, none far from the one before it. Reads the raster the first time.
+    std::vector<ClassColour> RampColours();
 
     const std::string& Path() const;
     const RasterStyle& Style() const;  ///< as it was opened with

@@ -239,6 +239,29 @@ void RasterClasses::ReadAttributeTable(GDALRasterBand& band) {
 
 bool RasterClasses::Any() const { return !m_rows.empty() || !m_palette.empty(); }
 
+std::vector<ClassColour> RasterClasses::Ramp(double first, double last) const {
+    constexpr double kFewest = 32;
+    constexpr int kLargestStep = 48;
+    const bool isNamed =
+        !m_rows.empty() || std::any_of(m_names.begin(), m_names.end(),
+                                       [](const auto& name) { return !name.empty(); });
+    if (isNamed || !(last - first >= kFewest - 1) || At(m_palette, first) == nullptr ||
+        At(m_palette, last) == nullptr) {
+        return {};
+    }
+    const std::vector<ClassColour> ramp(At(m_palette, first), At(m_palette, last) + 1);
+    const auto areFar = [](const ClassColour& a, const ClassColour& b) {
+        return std::abs(a.red - b.red) > kLargestStep ||
+               std::abs(a.green - b.green) > kLargestStep ||
+               std::abs(a.blue - b.blue) > kLargestStep;
+    };
+    const bool isRamp =
+        std::adjacent_find(ramp.begin(), ramp.end(), areFar) == ramp.end() &&
+        std::all_of(ramp.begin(), ramp.end(),
+                    [](const ClassColour& colour) { return colour.alpha == 255; });
+    return isRamp ? ramp : std::vector<ClassColour>();
+}
+
 const RasterClasses::Row* RasterClasses::Find(double value) const {
     auto row = std::upper_bound(m_rows.begin(), m_rows.end(), value,
                                 [](double v, const Row& r) { return v < r.low; });

@@ -28,6 +28,10 @@ public:
     /// Whether the band has a palette, or a table that says more than a histogram does.
     bool Any() const;
 
+    /// The colours of a palette from one value to another, where they are a ramp: 32 or
+    /// more, opaque, none far from the one before it, and none with a name. Else none.
+    std::vector<ClassColour> Ramp(double first, double last) const;
+
     /// The value that stands for a value's class: the low end of its range in the table,
     /// else itself. Classes are in the order of these.
     double ClassOf(double value) const;

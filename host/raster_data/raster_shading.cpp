@@ -135,7 +135,9 @@ std::vector<GDALRasterBand*> RasterShading::ShownOf(GDALDataset& dataset) const 
 
 Stretch RasterShading::StretchOf(const std::vector<GDALRasterBand*>& bands) const {
     Stretch stretch = m_style.stretch;
-    if (stretch.kind == Stretch::Kind::Automatic) {
+    if (m_classes) {
+        stretch.kind = Stretch::Kind::MinMax;  // their colours are not stretched
+    } else if (stretch.kind == Stretch::Kind::Automatic) {
         stretch.kind = AreFinished(bands)  ? Stretch::Kind::None
                        : bands.size() == 1 ? Stretch::Kind::MinMax
                                            : Stretch::Kind::Percent;
@@ -174,6 +176,13 @@ ClassificationTable& RasterShading::Classes() {
         }
     }
     return *m_listed;
+}
+
+std::vector<ClassColour> RasterShading::RampColours() {
+    double lowest = 0.0;
+    double highest = 0.0;
+    const bool isKnown = m_classes && Band(0)->ComputeMinMax(&lowest, &highest, true);
+    return isKnown ? m_classes->Ramp(lowest, highest) : std::vector<ClassColour>();
 }
 
 PixelImage RasterShading::Draw(GDALDataset& dataset, int width, int height,

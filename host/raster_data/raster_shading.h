@@ -41,6 +41,11 @@ public:
     /// Those that occur; none of a raster that is not classified, or cannot be read.
     ClassificationTable& Classes();
 
+    /// The colours of the values in the range of a classified raster's band, from the
+    /// lowest to the highest, where they are a ramp rather than classes; none of any
+    /// other, or of one that cannot be read. See RasterClasses::Ramp.
+    std::vector<ClassColour> RampColours();
+
     /// A dataset with the raster's bands, all of it or a part, as a picture. Throws as
     /// ReadRows does.
     PixelImage Draw(GDALDataset& dataset, int width, int height,

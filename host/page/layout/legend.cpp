@@ -14,6 +14,7 @@ std::unique_ptr<LegendFrame> MakeLegend(const PageDesign& design, const MapOnPag
                                         const Measures& measures, double width) {
     auto frame = std::make_unique<LegendFrame>(std::make_unique<CMapLegend>());
     frame->SetJoinsTiles(true);
+    frame->SetExplainsRamps(true);
     frame->SetSources(map.sources);
     auto* const legend = ElementOf<CMapLegend>(*frame);
     DressLegend(*legend, design);

@@ -37,14 +37,17 @@ void AddBands(const CMapLegend& legend, CRasterSource& raster, Rows& rows) {
     }
 }
 
-void AddRamp(const CMapLegend& legend, CRasterSource& raster, Rows& rows) {
+void AddRamp(const CMapLegend& legend, const ExplainedRaster& explained, Rows& rows) {
+    const std::vector<Gdiplus::Color>& ramp = explained.ramp;
     constexpr int kDigits = 6;
-    CRasterBand* const band = raster.GetRasterBand(0);
+    CRasterBand* const band = explained.raster->GetRasterBand(0);
     double lowest = 0.0;
     double highest = 0.0;
     if (band != nullptr && band->ComputeMinMax(&lowest, &highest, true)) {
-        rows.Add(legend.GetHighCaption() + DigitsText(highest, kDigits), 0xFFFFFFFF);
-        rows.Add(legend.GetLowCaption() + DigitsText(lowest, kDigits), 0xFF000000);
+        rows.Add(legend.GetHighCaption() + DigitsText(highest, kDigits),
+                 ramp.empty() ? 0xFFFFFFFF : ramp.front().GetValue());
+        rows.Add(legend.GetLowCaption() + DigitsText(lowest, kDigits),
+                 ramp.empty() ? 0xFF000000 : ramp.back().GetValue());
     }
 }
 
@@ -63,15 +66,16 @@ void AddClasses(CRasterSource& raster, Rows& rows) {
     }
 }
 
-std::wstring RowsOf(const CMapLegend& legend, CRasterSource& raster,
+std::wstring RowsOf(const CMapLegend& legend, const ExplainedRaster& explained,
                     const SpokenWords& words) {
+    CRasterSource& raster = *explained.raster;
     Rows rows(words);
-    switch (raster.GetDisplayType()) {
+    switch (explained.ramp.empty() ? raster.GetDisplayType() : DisplayGray) {
         case DisplayRGB:
             AddBands(legend, raster, rows);
             break;
         case DisplayGray:
-            AddRamp(legend, raster, rows);
+            AddRamp(legend, explained, rows);
             break;
         case DisplayClassified:
             AddClasses(raster, rows);
@@ -90,8 +94,10 @@ std::vector<ExplainedRaster> ExplainedBy(const CMapLegend& legend,
         auto* const raster = dynamic_cast<CRasterSource*>(sources[i]);
         const bool isHidden = i < shown.size() && !shown[i].isShown;
         if (!isHidden && raster != nullptr && raster->IsAvailable()) {
-            const std::wstring name = i < shown.size() ? shown[i].name : L"";
-            explained.push_back({raster, name.empty() ? raster->GetFileName() : name});
+            const LegendSource source = i < shown.size() ? shown[i] : LegendSource();
+            explained.push_back(
+                {raster, source.name.empty() ? raster->GetFileName() : source.name,
+                 source.ramp});
         }
     }
     return explained;
@@ -101,9 +107,10 @@ std::wstring LegendWords(const LegendFrame& frame, const CMapLegend& legend,
                          const SpokenWords& words) {
     constexpr const wchar_t* kTold = L": ";
     std::wstring told;
-    for (const auto& [raster, name] : ExplainedBy(legend, frame.Sources())) {
-        const std::wstring rows = RowsOf(legend, *raster, words);
-        told.append(told.empty() ? L"" : L". ").append(legend.GetSourceCaption() + name);
+    for (const ExplainedRaster& explained : ExplainedBy(legend, frame.Sources())) {
+        const std::wstring rows = RowsOf(legend, explained, words);
+        told.append(told.empty() ? L"" : L". ")
+            .append(legend.GetSourceCaption() + explained.name);
         told.append(rows.empty() ? L"" : kTold).append(rows);
     }
     const std::wstring title = legend.GetTitleValue();

@@ -14,6 +14,7 @@ namespace host {
 struct ExplainedRaster {
     CRasterSource* raster;
     std::wstring name;
+    std::vector<Gdiplus::Color> ramp;  ///< see LegendSource
 };
 
 /// Those that a legend explains, in order, without those that it leaves out.

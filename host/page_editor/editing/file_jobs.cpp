@@ -44,6 +44,7 @@ std::string ReadWhole(const std::string& path) {
         return why;
     }
     raster->GetClassifyDisplayTable();
+    raster->RampColours();
     if (raster->GetDisplayType() == DisplayGray) {
         double low = 0.0;
         double high = 0.0;

@@ -103,7 +103,9 @@ public:
             return std::get<Frame>(std::move(item));
         }
         if (auto* const legend = host::ElementOf<CMapLegend>(frame)) {
-            host::FrameAs<host::LegendFrame>(item)->SetJoinsTiles(true);
+            auto& legendFrame = *host::FrameAs<host::LegendFrame>(item);
+            legendFrame.SetJoinsTiles(true);
+            legendFrame.SetExplainsRamps(true);
             host::DressLegend(*legend, m_design);  // so that one sees its title
         }
         if (auto* const bar = host::FrameAs<host::ScaleBarFrame>(item)) {

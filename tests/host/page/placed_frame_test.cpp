@@ -9,6 +9,7 @@
 #include "page/catalogue.h"
 #include "page/element_drawing.h"
 #include "page/element_of.h"
+#include "raster_data/make_raster.h"
 
 namespace {
 
@@ -91,6 +92,33 @@ TEST(NorthArrowFrame, LooksTheSameAtEveryResolution) {
         EXPECT_NEAR(inkOf(row.size, row.scale), asItIs, 0.1 * asItIs)
             << row.size << " at " << row.scale;
     }
+}
+
+TEST(LegendFrame, ExplainsAPaletteThatIsARampByIt) {
+    const ScratchFolder folder;
+    raster_test::Raster values{100, {raster_test::Ramp(0, 99)}};
+    values.describe = [](GDALDataset& dataset) {
+        GDALColorTable palette;
+        for (short value = 0; value < 100; ++value) {
+            const GDALColorEntry entry{value, 1, 2, 255};
+            palette.SetColorEntry(value, &entry);
+        }
+        dataset.GetRasterBand(1)->SetColorTable(&palette);
+    };
+    const auto raster = raster_test::WriteAndOpen(folder, values);
+    const auto rampOf = [&](bool explains, bool isShown) {
+        host::LegendFrame frame(std::make_unique<CMapLegend>());
+        frame.SetExplainsRamps(explains);
+        frame.SetSources({raster.get(), nullptr}, {{L"", isShown}});
+        const auto shown = host::ElementOf<CMapLegend>(frame)->GetShownSources();
+        return shown.at(0).ramp;
+    };
+    EXPECT_TRUE(rampOf(false, true).empty());
+    EXPECT_TRUE(rampOf(true, false).empty());
+    const std::vector<Gdiplus::Color> ramp = rampOf(true, true);
+    ASSERT_EQ(ramp.size(), 100U);
+    EXPECT_EQ(ramp.front().GetValue(), 0xFF630102U) << "the highest value";
+    EXPECT_EQ(ramp.back().GetValue(), 0xFF000102U);
 }
 
 }  // namespace

@@ -17,6 +17,11 @@ std::vector<Property> LegendProperties() {
             "Whether rasters called alike but for their digits, and shown alike, are one "
             "entry",
             PropertyKind::Switch),
+        Of<&LegendFrame::ExplainsRamps, &LegendFrame::SetExplainsRamps>(
+            "paletteRamps",
+            "Whether a raster whose palette is a ramp is explained by it, not by a class "
+            "for each value",
+            PropertyKind::Switch),
         Of<&CMapLegend::GetTitleValue, &CMapLegend::SetTitleValue>("title", "First line",
                                                                    PropertyKind::Text),
         Of<&CMapLegend::GetSourceCaption, &CMapLegend::SetSourceCaption>(

@@ -176,6 +176,7 @@ std::vector<Change> LegendChanges(const std::string& folder) {
         Behind("lowCaption", &L::SetLowCaption, &L::GetLowCaption, L"Low: "),
         Behind("names", &F::SetNames, &F::Names, L"Land cover\n\nRelief"),
         Behind("joinTiles", &F::SetJoinsTiles, &F::JoinsTiles, true),
+        Behind("paletteRamps", &F::SetExplainsRamps, &F::ExplainsRamps, true),
         Behind("alignedLabels", &L::SetAlignedLabels, &L::GetAlignedLabels, true),
         Behind("gap", &L::SetGap, &L::GetGap, 0.7f),
         Behind("mostWidth", &L::SetMostWidth, &L::GetMostWidth, 123.4f),

@@ -119,6 +119,7 @@ TEST(PageWords, NameTheColoursOfALegend) {
     fakes::Raster ramp(L"relief", DisplayGray);
     ramp.band.lowest = -1.25;
     ramp.band.highest = 88.0;
+    classes.band.highest = 3.0;
     fakes::Raster away(L"away", DisplayRGB);
     away.available = false;
     const auto set = [&](host::PageItem& item) {
@@ -126,12 +127,18 @@ TEST(PageWords, NameTheColoursOfALegend) {
         host::SetCaptions(legend, host::English());
         legend.SetTitleValue(L"Key");
         host::FrameAs<host::LegendFrame>(item)->SetSources(
-            {&bands, &away, &classes, &ramp}, {{}, {}, {L"Land"}, {}});
+            {&bands, &away, &classes, &ramp, &classes},
+            {{},
+             {},
+             {L"Land"},
+             {},
+             {L"Heat", true, {Gdiplus::Color(255, 0, 0), Gdiplus::Color(0, 0, 255)}}});
     };
     EXPECT_EQ(ReadOf("legend", "en", set),
               "Figure: Key: scene: Band 1, red; Band 2, green; Band 3, blue. "
               "Land: Water, blue; dark green; Sand, light yellow. "
-              "relief: High: 88, white; Low: -1.25, black");
+              "relief: High: 88, white; Low: -1.25, black. "
+              "Heat: High: 3, red; Low: 0, blue");
 }
 
 TEST(PageWords, CallColoursAsPeopleDo) {
