@@ -247,12 +247,10 @@ void CMapLegend::Draw(Gdiplus::Graphics* graphics, CPoint centre, double scale) 
             fileName.font, cursor.left, 0.0f);
         cursor.y += rowHeight + gap;
         const std::vector<Gdiplus::Color> ramp = map_surround::RampOf(m_shownSources, i);
-        if (!ramp.empty()) {
-            cursor.DrawRamp(*source, ramp);
-        } else if (source->GetDisplayType() == DisplayRGB) {
+        if (ramp.empty() && source->GetDisplayType() == DisplayRGB) {
             cursor.DrawBands(*source);
-        } else if (source->GetDisplayType() == DisplayGray) {
-            cursor.DrawRamp(*source, {});
+        } else if (!ramp.empty() || source->GetDisplayType() == DisplayGray) {
+            cursor.DrawRamp(*source, ramp);
         } else if (source->GetDisplayType() == DisplayClassified) {
             cursor.DrawClasses(source->GetClassifyDisplayTable());
         }

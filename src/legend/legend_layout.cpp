@@ -201,11 +201,10 @@ void CMapLegend::ResetAspectRatio() {
         layout.AddName(m_mostWidth > 0.0f || room.IsMeasuredAsDrawn()
                            ? m_sourceCaption + name
                            : name);
-        if (!map_surround::RampOf(m_shownSources, i).empty()) {
-            layout.AddRamp(*source, *this);
-        } else if (source->GetDisplayType() == DisplayRGB) {
+        const bool isRamp = !map_surround::RampOf(m_shownSources, i).empty();
+        if (!isRamp && source->GetDisplayType() == DisplayRGB) {
             layout.AddBands(*source, *this);
-        } else if (source->GetDisplayType() == DisplayGray) {
+        } else if (isRamp || source->GetDisplayType() == DisplayGray) {
             layout.AddRamp(*source, *this);
         } else if (source->GetDisplayType() == DisplayClassified) {
             layout.AddClasses(source->GetClassifyDisplayTable());
