@@ -177,6 +177,11 @@ void Declare(CLI::App& app, Given& given, Options& options) {
     app.add_option("--save", options.save, "Page file to write, .json; needs no --output")
         ->type_name("FILE");
 
+    AddChoice(app, "--map-images", options.mapImages,
+              Words<host::MapImages>{{"lossless", host::MapImages::Lossless},
+                                     {"jpeg", host::MapImages::Jpeg}},
+              "How maps are kept in .pdf, .svg and .ps (lossless)")
+        ->type_name("KIND");
     app.add_flag("--world-file", options.hasWorldFile,
                  "Also write where the picture's pixels lie on the map: page.pgw of\n"
                  "page.png, .jgw of .jpg, and the coordinate system, page.png.aux.xml");
@@ -282,6 +287,10 @@ void Complete(const CLI::App& app, const Given& given, Options& options) {
     }
     if (!options.output.empty()) {
         options.format = FormatOf(options.output);
+    }
+    if (options.mapImages == host::MapImages::Jpeg &&
+        !(options.format && host::IsForPrint(*options.format))) {
+        throw UsageError("--map-images", "goes with an output in .pdf, .svg or .ps");
     }
     if (options.hasWorldFile) {
         CheckWorldFile(options.output);

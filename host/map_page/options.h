@@ -7,6 +7,7 @@
 
 #include "page/document/page_changes.h"
 #include "page/layout/page_design.h"
+#include "page/output/map_images.h"
 #include "page/output/output_format.h"
 #include "system/separate_process.h"
 
@@ -24,6 +25,7 @@ struct Options {
     int jobs = 1;               ///< pages of the series drawn at a time
     host::PageChanges changes;  ///< of the page file's page
     double dpi = 150.0;
+    host::MapImages mapImages = host::MapImages::Lossless;
     bool isStrict = false;  ///< a warning is a failure
     host::PageDesign design;
     std::vector<std::string> allowedFolders;  ///< files may be read there, too

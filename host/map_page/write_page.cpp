@@ -41,9 +41,9 @@ std::string WriteInto(const Options& options, const host::Page& page,
             line.Show(part);
             return true;
         };
-        const std::vector<std::uint8_t> bytes =
-            host::EncodePage(page, *options.format, options.dpi, show,
-                             [&line] { line.Begin("encoding the image"); });
+        const std::vector<std::uint8_t> bytes = host::EncodePage(
+            page, *options.format, options.dpi, show,
+            [&line] { line.Begin("encoding the image"); }, options.mapImages);
         line.Begin("writing the file");
         output.Write(bytes);
     });

@@ -3,16 +3,13 @@
 #include <new>
 #include <stdexcept>
 #include <string>
+#include <variant>
+
+#include "page/device_view.h"
+#include "page/output/cairo_map.h"
 
 namespace host {
 namespace {
-
-void CheckCairo(cairo_status_t status) {
-    if (status != CAIRO_STATUS_SUCCESS) {
-        throw std::runtime_error(std::string("the page cannot be written: ") +
-                                 cairo_status_to_string(status));
-    }
-}
 
 /// Begins a tag, and ends it however drawing goes: a surface with one that is open is
 /// lost.
@@ -31,6 +28,13 @@ private:
 };
 
 }  // namespace
+
+void CheckCairo(cairo_status_t status) {
+    if (status != CAIRO_STATUS_SUCCESS) {
+        throw std::runtime_error(std::string("the page cannot be written: ") +
+                                 cairo_status_to_string(status));
+    }
+}
 
 cairo_status_t AppendToBytes(void* bytes, const unsigned char* data,
                              unsigned int length) {
@@ -51,6 +55,7 @@ std::vector<std::size_t> DrawOnCairo(cairo_surface_t* surface, const Page& page,
                                                              cairo_destroy);
     const double pixel = 72.0 / dpi;
     cairo_scale(cairo.get(), pixel, pixel);
+    const DeviceView view(page.Height(), dpi);
     {
         Gdiplus::CairoGraphics graphics(cairo.get(), static_cast<float>(dpi));
         if (how.prepare) {
@@ -58,13 +63,23 @@ std::vector<std::size_t> DrawOnCairo(cairo_surface_t* surface, const Page& page,
         }
         page.Draw(graphics, dpi, progress,
                   [&](std::size_t item, const std::function<void()>& draw) {
+                      const auto* const map = std::get_if<MapFrame>(&page.Items()[item]);
+                      const auto drawItem = [&] {
+                          if (map == nullptr) {
+                              draw();
+                              return;
+                          }
+                          DrawMapImage(surface, *map,
+                                       view.ToDevice(map->frame.GetExtent()), dpi,
+                                       how.mapImages, progress);
+                      };
                       if (how.tagged.count(item) == 0) {
-                          draw();
+                          drawItem();
                           return;
                       }
                       const Tag tag(cairo.get());
                       tags.push_back(item);
-                      draw();
+                      drawItem();
                   });
     }
     cairo_show_page(cairo.get());

@@ -11,6 +11,7 @@
 #include <set>
 #include <vector>
 
+#include "page/output/map_images.h"
 #include "page/page.h"
 
 namespace host {
@@ -25,10 +26,14 @@ inline CairoSurface Owned(cairo_surface_t* surface) {
 /// Writes what Cairo gives at the end of a std::vector<std::uint8_t>.
 cairo_status_t AppendToBytes(void* bytes, const unsigned char* data, unsigned int length);
 
+/// Throws std::runtime_error where Cairo failed.
+void CheckCairo(cairo_status_t status);
+
 /// What a page's drawing on a surface of Cairo's does beside.
 struct CairoDrawing {
     /// The items whose content is tagged on the surface, as one figure each.
     std::set<std::size_t> tagged = {};
+    MapImages mapImages = MapImages::Lossless;
     /// Called with what draws, before it does.
     std::function<void(Gdiplus::CairoGraphics&)> prepare = {};
 };

@@ -35,6 +35,20 @@ CLSID EncoderOf(OutputFormat format) {
     throw std::runtime_error("GDI+ has no encoder for this kind of file");
 }
 
+std::vector<std::uint8_t> Saved(Gdiplus::Bitmap& image, OutputFormat format,
+                                const Gdiplus::EncoderParameters* parameters) {
+    const MemoryFile file;
+    const CLSID encoder = EncoderOf(format);
+    const std::string name = file.Name();
+    const std::wstring wide(name.begin(), name.end());
+    const Gdiplus::Status status = image.Save(wide.c_str(), &encoder, parameters);
+    std::vector<std::uint8_t> bytes = file.Bytes();
+    if (status != Gdiplus::Ok || bytes.empty()) {
+        throw std::runtime_error("the image cannot be encoded");
+    }
+    return bytes;
+}
+
 }  // namespace
 
 std::vector<std::uint8_t> Encode(PageImage& image, OutputFormat format, double dpi,
@@ -47,17 +61,20 @@ std::vector<std::uint8_t> Encode(PageImage& image, OutputFormat format, double d
     if (format == OutputFormat::Tiff) {
         return EncodeTiff(image.Rows(), dpi, georeference);
     }
-    const MemoryFile file;
-    const CLSID encoder = EncoderOf(format);
-    const std::string name = file.Name();
-    const std::wstring wide(name.begin(), name.end());
-    const Gdiplus::Status status = image.Bitmap().Save(wide.c_str(), &encoder);
-    std::vector<std::uint8_t> bytes = file.Bytes();
-    if (status != Gdiplus::Ok || bytes.empty()) {
-        throw std::runtime_error("the image cannot be encoded");
-    }
+    std::vector<std::uint8_t> bytes = Saved(image.Bitmap(), format, nullptr);
     RecordResolution(bytes, format, dpi);
     return bytes;
+}
+
+std::vector<std::uint8_t> EncodeJpeg(const PixelRows& pixels, int quality) {
+    Gdiplus::Bitmap image(pixels.width, pixels.height, static_cast<INT>(pixels.stride),
+                          PixelFormat32bppRGB, const_cast<BYTE*>(pixels.first));
+    auto value = static_cast<ULONG>(quality);
+    Gdiplus::EncoderParameters parameters = {};
+    parameters.Count = 1;
+    parameters.Parameter[0] = {Gdiplus::EncoderQuality, 1,
+                               Gdiplus::EncoderParameterValueTypeLong, &value};
+    return Saved(image, OutputFormat::Jpeg, &parameters);
 }
 
 }  // namespace host

@@ -17,4 +17,8 @@ namespace host {
 std::vector<std::uint8_t> Encode(PageImage& image, OutputFormat format, double dpi,
                                  const std::optional<Georeference>& georeference = {});
 
+/// The bytes of a JPEG file of opaque colours. Throws likewise.
+/// @param quality 0 to 100
+std::vector<std::uint8_t> EncodeJpeg(const PixelRows& pixels, int quality);
+
 }  // namespace host

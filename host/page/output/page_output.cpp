@@ -20,14 +20,15 @@ constexpr int kLongestImageSide = 32767;
 constexpr std::int64_t kMostImagePixels = 250'000'000;
 
 std::vector<std::uint8_t> EncodeForPrint(const Page& page, OutputFormat format,
-                                         double dpi, const Progress& progress) {
+                                         double dpi, const Progress& progress,
+                                         MapImages mapImages) {
     switch (format) {
         case OutputFormat::Pdf:
-            return EncodePdf(page, dpi, progress);
+            return EncodePdf(page, dpi, progress, mapImages);
         case OutputFormat::Svg:
-            return EncodeSvg(page, dpi, progress);
+            return EncodeSvg(page, dpi, progress, mapImages);
         default:
-            return EncodePostScript(page, dpi, progress);
+            return EncodePostScript(page, dpi, progress, mapImages);
     }
 }
 
@@ -46,9 +47,11 @@ void CheckPageSize(const Page& page, double dpi) {
 
 std::vector<std::uint8_t> EncodePage(const Page& page, OutputFormat format, double dpi,
                                      const Progress& progress,
-                                     const std::function<void()>& encoding) {
+                                     const std::function<void()>& encoding,
+                                     MapImages mapImages) {
     if (IsForPrint(format)) {
-        std::vector<std::uint8_t> file = EncodeForPrint(page, format, dpi, progress);
+        std::vector<std::uint8_t> file =
+            EncodeForPrint(page, format, dpi, progress, mapImages);
         CheckWritten(page);
         return file;
     }

@@ -9,13 +9,14 @@
 namespace host {
 
 std::vector<std::uint8_t> EncodePdf(const Page& page, double dpi,
-                                    const Progress& progress) {
+                                    const Progress& progress, MapImages mapImages) {
     std::vector<std::uint8_t> draft;
     const CairoSurface surface = Owned(cairo_pdf_surface_create_for_stream(
         AppendToBytes, &draft, PointsFromUnits(page.Width()),
         PointsFromUnits(page.Height())));
     PdfPage described = PdfPageOf(page, dpi);
     CairoDrawing how;
+    how.mapImages = mapImages;
     for (const PdfPage::Tagged& item : described.items) {
         how.tagged.insert(item.spoken.item);
     }

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <vector>
 
+#include "page/output/map_images.h"
 #include "page/page.h"
 
 namespace host {
@@ -12,6 +13,7 @@ namespace host {
 /// page gives the same bytes. Throws as DrawOnCairo does.
 /// @param dpi the resolution of maps: an A4 page is 842 x 595 points at any
 std::vector<std::uint8_t> EncodePdf(const Page& page, double dpi,
-                                    const Progress& progress = {});
+                                    const Progress& progress = {},
+                                    MapImages mapImages = MapImages::Lossless);
 
 }  // namespace host

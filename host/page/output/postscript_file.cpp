@@ -98,13 +98,16 @@ Bytes TellingSize(const Bytes& file, double width, double height) {
 }  // namespace
 
 std::vector<std::uint8_t> EncodePostScript(const Page& page, double dpi,
-                                           const Progress& progress) {
+                                           const Progress& progress,
+                                           MapImages mapImages) {
     const double width = PointsFromUnits(page.Width());
     const double height = PointsFromUnits(page.Height());
     Bytes file;
     const CairoSurface surface =
         Owned(cairo_ps_surface_create_for_stream(AppendToBytes, &file, width, height));
-    DrawOnCairo(surface.get(), page, dpi, progress);
+    CairoDrawing how;
+    how.mapImages = mapImages;
+    DrawOnCairo(surface.get(), page, dpi, progress, how);
     FinishSurface(surface.get());
     return TellingSize(file, width, height);
 }

@@ -89,13 +89,14 @@ std::vector<std::uint8_t> WithWords(const std::vector<std::uint8_t>& draft,
 }  // namespace
 
 std::vector<std::uint8_t> EncodeSvg(const Page& page, double dpi,
-                                    const Progress& progress) {
+                                    const Progress& progress, MapImages mapImages) {
     std::vector<std::uint8_t> draft;
     const CairoSurface surface = Owned(cairo_svg_surface_create_for_stream(
         AppendToBytes, &draft, PointsFromUnits(page.Width()),
         PointsFromUnits(page.Height())));
     SvgWords words;
     CairoDrawing how;
+    how.mapImages = mapImages;
     how.prepare = [&words](Gdiplus::CairoGraphics& graphics) {
         words.ListenTo(graphics);
     };

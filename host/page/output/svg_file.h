@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <vector>
 
+#include "page/output/map_images.h"
 #include "page/page.h"
 
 namespace host {
@@ -14,6 +15,7 @@ namespace host {
 /// does.
 /// @param dpi the resolution of maps
 std::vector<std::uint8_t> EncodeSvg(const Page& page, double dpi,
-                                    const Progress& progress = {});
+                                    const Progress& progress = {},
+                                    MapImages mapImages = MapImages::Lossless);
 
 }  // namespace host

@@ -223,7 +223,7 @@ TEST_F(PageFile, SaysWhatIsWrongInOneLineAndOverwritesNothing) {
         {1, "none.json: No such file or directory", {"none.json", "-o", "page.png"}},
         {1, "folder.json: is not a file", {"folder.json", "-o", "page.png"}},
         {2,
-         "page.gif: ends in none of .png .jpg .jpeg .bmp .tif .tiff .pdf .ps",
+         "page.gif: ends in none of .png .jpg .jpeg .bmp .tif .tiff .pdf .svg .ps",
          {"good.json", "-o", "page.gif"}},
         {2,
          "--save: does not go with --series, whose pages are many",

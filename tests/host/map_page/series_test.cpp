@@ -234,7 +234,7 @@ TEST_F(Series, TellsAListThatIsNoneBeforeDrawing) {
     EXPECT_EQ(gif.status, 2);
     EXPECT_EQ(gif.err,
               "map_page: out/{name}.gif: ends in none of .png .jpg .jpeg .bmp .tif .tiff "
-              ".pdf .ps\n");
+              ".pdf .svg .ps\n");
     fs::remove(folder.Path("list.csv"));
     EXPECT_EQ(Draw().err, "map_page: list.csv: No such file or directory\n");
     EXPECT_EQ(Run({"data/scene.tif", "--series", "list.csv", "-o", "a.png"}).err,

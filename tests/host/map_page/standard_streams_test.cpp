@@ -87,7 +87,7 @@ TEST_F(StandardStreams, ShowNamesOnOneLine) {
               "map_page: " + shown + ".tif: no such file\n");
     EXPECT_EQ(Run({"data/scene.tif", "-o", name}).err,
               "map_page: " + shown +
-                  ": ends in none of .png .jpg .jpeg .bmp .tif .tiff .pdf .ps\n");
+                  ": ends in none of .png .jpg .jpeg .bmp .tif .tiff .pdf .svg .ps\n");
     EXPECT_EQ(Run({"data/scene.tif", "-o", "page.png", "--border", name}).err,
               "map_page: --border: \"" + shown +
                   "\" is neither on, off, #RRGGBB, #RRGGBBAA nor the name of a colour\n");

@@ -56,6 +56,8 @@ TEST_F(WrongCall, IsToldInOneLine) {
         " is neither a paper size (A4, Letter, ...) nor WIDTHxHEIGHT with sides from 20 "
         "to 5000 mm";
     const ErrorRow rows[] = {
+        {2, "--map-images: goes with an output in .pdf, .svg or .ps",
+         with({"--map-images", "jpeg"})},
         {1, "missing.tif: *", {"missing.tif", "-o", "page.png"}},
         {1, "text.tif: *", {"text.tif", "-o", "page.png"}},
         {1, "folder: *", {"folder", "-o", "page.png"}},
@@ -80,10 +82,10 @@ TEST_F(WrongCall, IsToldInOneLine) {
         {1, "folder.png: Is a directory", {"scene.tif", "-o", "folder.png"}},
         {1, "/proc/page.png: *", {"scene.tif", "-o", "/proc/page.png"}},
         {2,
-         "page.gif: ends in none of .png .jpg .jpeg .bmp .tif .tiff .pdf .ps",
+         "page.gif: ends in none of .png .jpg .jpeg .bmp .tif .tiff .pdf .svg .ps",
          {"scene.tif", "-o", "page.gif"}},
         {2,
-         "page: ends in none of .png .jpg .jpeg .bmp .tif .tiff .pdf .ps",
+         "page: ends in none of .png .jpg .jpeg .bmp .tif .tiff .pdf .svg .ps",
          {"scene.tif", "-o", "page"}},
         {2, "--dpi: \"abc\" is no number from 10 to 2400" + seeHelp,
          with({"--dpi", "abc"})},

@@ -1,0 +1,11 @@
+#pragma once
+
+namespace host {
+
+/// How the maps of a file for print are kept.
+enum class MapImages {
+    Lossless,
+    Jpeg,  ///< of quality 90; a satellite image then takes a tenth or less
+};
+
+}  // namespace host
