@@ -4,12 +4,12 @@
 
 #include <iterator>
 #include <optional>
-#include <set>
 #include <sstream>
 #include <vector>
 
 #include "map_page/error.h"
 #include "map_page/safe_drawing.h"
+#include "map_page/told_remarks.h"
 #include "map_page/write_page.h"
 #include "page/document/map_on_page.h"
 #include "page/document/opened_page.h"
@@ -105,25 +105,6 @@ std::vector<std::string> RemarksOfWorldFile(const Options& options) {
                : std::vector<std::string>();
 }
 
-/// Warns of each thing once.
-class ToldRemarks {
-public:
-    explicit ToldRemarks(const Quiet& quiet) : m_quiet(quiet) {}
-
-    void Tell(const std::vector<std::string>& remarks) {
-        for (const std::string& remark : remarks) {
-            if (m_told.insert(remark).second) {
-                m_quiet.Warn(remark);
-            }
-        }
-    }
-    std::size_t Count() const { return m_told.size(); }
-
-private:
-    const Quiet& m_quiet;
-    std::set<std::string> m_told;
-};
-
 }  // namespace
 
 OutputFiles::OutputFiles(const Options& options) {
@@ -140,12 +121,17 @@ OutputFiles::OutputFiles(const Options& options) {
     }
 }
 
+host::OpenedPage OpenToDraw(const Options& options) {
+    CheckInputsStay(options, host::Page(1.0, 1.0), host::RasterStore());
+    host::OpenedPage opened = Open(options);
+    CheckInputsStay(options, opened.page, *opened.rasters);
+    return opened;
+}
+
 std::string DrawPage(const Options& options, const OutputFiles& files,
                      const Quiet& quiet) {
-    CheckInputsStay(options, host::Page(1.0, 1.0), host::RasterStore());
-    const host::OpenedPage opened = Open(options);
-    CheckInputsStay(options, opened.page, *opened.rasters);
-    ToldRemarks remarks(quiet);
+    const host::OpenedPage opened = OpenToDraw(options);
+    ToldRemarks remarks(&quiet);
     remarks.Tell(opened.remarks);
     remarks.Tell(RemarksOfWorldFile(options));
     std::string told;

@@ -6,6 +6,7 @@
 
 #include "map_page/options.h"
 #include "map_page/quiet.h"
+#include "page/document/opened_page.h"
 #include "system/output_file.h"
 
 namespace map_page {
@@ -19,6 +20,10 @@ struct OutputFiles {
     std::optional<host::OutputFile> world;   // beside the output
     std::optional<host::OutputFile> system;  // likewise
 };
+
+/// Opens the page that the options ask for, and throws Error where an output would
+/// replace one of its inputs.
+host::OpenedPage OpenToDraw(const Options& options);
 
 /// Draws the page that the options ask for into the one file and saves it in the other,
 /// and returns what a person is told of each, on a line of its own: "1754 x 1240 pixels",

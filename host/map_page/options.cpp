@@ -14,6 +14,7 @@
 #include "map_page/error.h"
 #include "map_page/given.h"
 #include "map_page/map_options.h"
+#include "map_page/series_list.h"
 #include "map_page/style_options.h"
 #include "map_page/template_options.h"
 #include "map_page/values.h"
@@ -49,6 +50,7 @@ A series draws one page for each row of a list of comma-separated values. Its fi
 names the columns: rasters (files with ; between), extent (left bottom right top), names of
 options, such as scale and title-size, and names of elements, such as title, whose text the
 row has. Any column may be part of the output's name. An empty cell leaves what the page file says.
+A PDF file without a column in its name has all pages, and a bookmark each.
 Outputs that are there are not drawn again. docs/series.md tells the rest.
 
 A raster is stretched by all of its values, so that one value has one shade on every page
@@ -191,7 +193,7 @@ void Declare(CLI::App& app, Given& given, Options& options) {
 
     CLI::Option* const series =
         app.add_option("--series", options.series,
-                       "List of pages, .csv: one page a row; --output has {column}s")
+                       "List of pages, .csv: one page a row; --output has\n{column}s, or is one .pdf for all")
             ->type_name("FILE")
             ->group("Series of a page file");
     app.add_option("--jobs", options.jobs, "Pages drawn at a time (1)")
@@ -291,6 +293,9 @@ void Complete(const CLI::App& app, const Given& given, Options& options) {
     if (options.mapImages == host::MapImages::Jpeg &&
         !(options.format && host::IsForPrint(*options.format))) {
         throw UsageError("--map-images", "goes with an output in .pdf, .svg or .ps");
+    }
+    if (options.jobs > 1 && IsAtlas(options.output)) {
+        throw UsageError("--jobs", "goes with an output for each page");
     }
     if (options.hasWorldFile) {
         CheckWorldFile(options.output);

@@ -16,6 +16,7 @@
 #include <system_error>
 #include <vector>
 
+#include "map_page/atlas.h"
 #include "map_page/error.h"
 #include "map_page/progress_line.h"
 #include "map_page/safe_drawing.h"
@@ -27,28 +28,13 @@
 namespace map_page {
 namespace {
 
-/// Outputs get their names when they are complete, so one that is there is complete.
-bool IsDrawn(const std::string& output) {
-    struct stat status = {};
-    return stat(output.c_str(), &status) == 0 && S_ISREG(status.st_mode) &&
-           status.st_size > 0;
-}
-
-void Tell(const std::string& what) {
-    ProgressLine::Erase(STDERR_FILENO);
-    dprintf(STDERR_FILENO, "map_page: %s\n", host::OneLine(what).c_str());
-}
-
 /// Pages that are being drawn, each in its process, and how those ended that are not.
 class Workers {
 public:
     Workers(const Options& options, std::size_t all, const DrawOne& draw)
         : m_options(options), m_all(all), m_draw(draw) {}
 
-    std::string Sum() const {
-        return std::to_string(m_drawn) + " drawn, " + std::to_string(m_skipped) +
-               " already there, " + std::to_string(m_failed) + " failed";
-    }
+    std::string Sum() const { return SumOf(m_drawn, m_skipped, m_failed); }
     bool AnyFailed() const { return m_failed > 0; }
 
     void Take(const SeriesPage& page) {
@@ -72,13 +58,9 @@ public:
     }
 
 private:
-    std::string PlaceOf(std::size_t line) const {
-        return m_options.series + ": line " + std::to_string(line);
-    }
-
     void Fail(std::size_t line, const std::string& why) {
         ++m_failed;
-        Tell(PlaceOf(line) + ": " + why);
+        Tell(PlaceOf(m_options, line) + ": " + why);
         ShowProgress();
     }
 
@@ -96,7 +78,7 @@ private:
         Options options = m_options;
         options.output = page.output;
         options.changes = host::Merged(m_options.changes, page.changes);
-        const std::string place = PlaceOf(page.line);
+        const std::string place = PlaceOf(m_options, page.line);
         try {
             m_draw(options, place);
             return 0;
@@ -123,12 +105,7 @@ private:
         ShowProgress();
     }
 
-    void ShowProgress() const {
-        if (isatty(STDERR_FILENO) != 0) {
-            dprintf(STDERR_FILENO, "\rmap_page: %zu of %zu pages\033[K",
-                    m_drawn + m_skipped + m_failed, m_all);
-        }
-    }
+    void ShowProgress() const { ShowPages(m_drawn + m_skipped + m_failed, m_all); }
 
     const Options& m_options;
     std::size_t m_all;
@@ -162,6 +139,32 @@ void CheckFolder(const std::string& output) {
 
 }  // namespace
 
+bool IsDrawn(const std::string& output) {
+    struct stat status = {};
+    return stat(output.c_str(), &status) == 0 && S_ISREG(status.st_mode) &&
+           status.st_size > 0;
+}
+
+void Tell(const std::string& what) {
+    ProgressLine::Erase(STDERR_FILENO);
+    dprintf(STDERR_FILENO, "map_page: %s\n", host::OneLine(what).c_str());
+}
+
+void ShowPages(std::size_t done, std::size_t all) {
+    if (isatty(STDERR_FILENO) != 0) {
+        dprintf(STDERR_FILENO, "\rmap_page: %zu of %zu pages\033[K", done, all);
+    }
+}
+
+std::string PlaceOf(const Options& options, std::size_t line) {
+    return options.series + ": line " + std::to_string(line);
+}
+
+std::string SumOf(std::size_t drawn, std::size_t skipped, std::size_t failed) {
+    return std::to_string(drawn) + " drawn, " + std::to_string(skipped) +
+           " already there, " + std::to_string(failed) + " failed";
+}
+
 std::string DrawSeries(const Options& options, const CheckColumns& checkColumns,
                        const DrawOne& draw) {
     CheckFolder(options.output);
@@ -169,6 +172,9 @@ std::string DrawSeries(const Options& options, const CheckColumns& checkColumns,
     const SeriesList list =
         ReadSeries(options.series, options.output, allowed ? &*allowed : nullptr);
     checkColumns(ColumnsWithoutUse(list));
+    if (IsAtlas(options.output)) {
+        return DrawAtlas(options, list);
+    }
     Workers workers(options, list.pages.size(), draw);
     for (const SeriesPage& page : list.pages) {
         workers.Take(page);

@@ -11,6 +11,7 @@
 #include "map_page/error.h"
 #include "map_page/template_options.h"
 #include "page/document/file_paths.h"
+#include "system/file_ending.h"
 #include "system/input_file.h"
 #include "system/number_text.h"
 
@@ -19,6 +20,7 @@ namespace {
 
 constexpr const char* kRastersColumn = "rasters";
 constexpr const char* kExtentColumn = "extent";
+constexpr const char* kNameColumn = "name";
 constexpr const char* kPictureColumn = "picture";
 // Properties of every map.
 constexpr std::array<std::string_view, 3> kMapColumns = {"stretch", "bands", "noData"};
@@ -213,6 +215,13 @@ void CheckOutputsDiffer(const std::vector<SeriesPage>& pages) {
     }
 }
 
+/// The row's value of a column; empty where there is none.
+std::string ValueOf(const CsvRecord& record, const std::vector<std::string>& columns,
+                    const char* name) {
+    const std::size_t column = ColumnOf(columns, name);
+    return column < record.fields.size() ? record.fields[column] : "";
+}
+
 SeriesPage PageOf(const CsvRecord& record, const std::vector<std::string>& columns,
                   const SeriesList& list, const std::vector<NamePiece>& pieces,
                   const host::FilePaths& paths) {
@@ -225,6 +234,7 @@ SeriesPage PageOf(const CsvRecord& record, const std::vector<std::string>& colum
         }
         page.changes = ChangesIn(columns, list.textColumns, record, paths);
         page.output = NameFrom(pieces, columns, record);
+        page.name = ValueOf(record, columns, kNameColumn);
     } catch (const Error& error) {
         page.error = error.what();
         page.output = "line " + std::to_string(record.line);  // of no other row
@@ -246,7 +256,11 @@ SeriesList Read(const std::string& path, const std::string& output,
     for (std::size_t i = 1; i < records.size(); ++i) {
         list.pages.push_back(PageOf(records[i], columns, list, pieces, paths));
     }
-    CheckOutputsDiffer(list.pages);
+    if (!IsAtlas(output)) {
+        CheckOutputsDiffer(list.pages);
+    } else if (ColumnOf(columns, kNameColumn) != kNoColumn) {
+        list.nameColumns.emplace_back(kNameColumn);
+    }
     // A column in the name may be there for that alone.
     for (const NamePiece& piece : pieces) {
         if (piece.column != kNoColumn) {
@@ -257,6 +271,10 @@ SeriesList Read(const std::string& path, const std::string& output,
 }
 
 }  // namespace
+
+bool IsAtlas(const std::string& output) {
+    return host::HasEnding(output, ".pdf") && output.find('{') == std::string::npos;
+}
 
 SeriesList ReadSeries(const std::string& path, const std::string& output,
                       const host::AllowedSources* allowed) {

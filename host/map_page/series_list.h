@@ -13,6 +13,7 @@ namespace map_page {
 struct SeriesPage {
     std::size_t line = 0;  ///< of the list, counted from 1
     std::string output;
+    std::string name;  ///< what the column "name" has, for a page of an atlas
     host::PageChanges changes;
     std::string error;  ///< why it cannot be drawn; empty for none
 };
@@ -27,11 +28,16 @@ struct SeriesList {
     std::vector<SeriesPage> pages;
 };
 
+/// Whether all pages go into one file: a PDF file without a {column} in its name.
+bool IsAtlas(const std::string& output);
+
 /// Reads a list.
 /// @param path of the list; its rasters are relative to its folder
 /// @param output name of the outputs, in which {column} is the row's value. Slashes and
 /// control characters in a value, and a dot at its start, become underscores, so that no
 /// value leads into another folder.
+/// Where the output is one file for all, an atlas, the column "name" need not be part of
+/// its name.
 /// @param allowed what may be read of the rasters; null: all. A row with others has an
 /// error.
 /// Throws Error when the file is not a list, a column has no name or that of another, a

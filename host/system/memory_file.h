@@ -18,6 +18,8 @@ public:
     /// A name to open it by, in this process.
     std::string Name() const { return "/proc/self/fd/" + std::to_string(m_descriptor); }
 
+    int Descriptor() const { return m_descriptor; }
+
     /// What was written so far; none when it cannot be read.
     std::vector<std::uint8_t> Bytes() const;
 

@@ -28,6 +28,9 @@ public:
     /// Appends. Throws std::runtime_error with the reason.
     void Write(const std::vector<std::uint8_t>& bytes) const;
 
+    /// Of the temporary file, for writing and reading; closed with this object.
+    int Descriptor() const { return m_descriptor; }
+
     /// How many bytes were written so far. Throws likewise.
     std::size_t Size() const;
 

@@ -13,8 +13,6 @@ namespace {
 
 constexpr double kDegrees = 180.0 / 3.14159265358979323846;
 
-using Place = MapPlace;
-
 struct MapPoint {
     double x;
     double y;
@@ -64,22 +62,22 @@ public:
         return ellipsoid;
     }
 
-    std::optional<Place> PlaceOf(MapPoint point) const {
+    std::optional<MapPlace> PlaceOf(MapPoint point) const {
         const std::optional<MapPoint> place = Transformed(*m_toPlace, point);
         if (!place) {
             return std::nullopt;
         }
-        return Place{place->x * m_degreesPerUnit, place->y * m_degreesPerUnit};
+        return MapPlace{place->x * m_degreesPerUnit, place->y * m_degreesPerUnit};
     }
 
-    std::optional<MapPoint> PointOf(const Place& place) const {
+    std::optional<MapPoint> PointOf(const MapPlace& place) const {
         return Transformed(*m_toMap, {place.longitude / m_degreesPerUnit,
                                       place.latitude / m_degreesPerUnit});
     }
 
     /// The place that many metres due north.
-    Place NorthOf(const Place& place, double metres) const {
-        Place north = {};
+    MapPlace NorthOf(const MapPlace& place, double metres) const {
+        MapPlace north = {};
         geod_direct(&m_geodesic, place.latitude, place.longitude, 0.0, metres,
                     &north.latitude, &north.longitude, nullptr);
         return north;
@@ -87,8 +85,8 @@ public:
 
     /// The metres along the geodesic between what lies under two points.
     std::optional<double> Distance(MapPoint a, MapPoint b) const {
-        const std::optional<Place> from = PlaceOf(a);
-        const std::optional<Place> to = PlaceOf(b);
+        const std::optional<MapPlace> from = PlaceOf(a);
+        const std::optional<MapPlace> to = PlaceOf(b);
         if (!from || !to) {
             return std::nullopt;
         }
@@ -153,7 +151,7 @@ std::optional<MapPlace> MapGround::PlaceAt(const std::string& projection, double
 std::optional<double> MapGround::TrueNorth() const {
     constexpr double kStep = 10.0;  // metres, short enough for meridians to be straight
     // Both points go the same way there and back, so that what that loses cancels out.
-    const std::optional<Place> place = m_ellipsoid->PlaceOf({m_x, m_y});
+    const std::optional<MapPlace> place = m_ellipsoid->PlaceOf({m_x, m_y});
     const std::optional<MapPoint> here = m_ellipsoid->PointOf(*place);
     const std::optional<MapPoint> north =
         m_ellipsoid->PointOf(m_ellipsoid->NorthOf(*place, kStep));

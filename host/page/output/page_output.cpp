@@ -24,7 +24,7 @@ std::vector<std::uint8_t> EncodeForPrint(const Page& page, OutputFormat format,
                                          MapImages mapImages) {
     switch (format) {
         case OutputFormat::Pdf:
-            return EncodePdf(page, dpi, progress, mapImages);
+            return EncodePdf(page, {dpi, mapImages}, progress);
         case OutputFormat::Svg:
             return EncodeSvg(page, dpi, progress, mapImages);
         default:

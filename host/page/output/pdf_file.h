@@ -1,19 +1,70 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
 #include <vector>
 
 #include "page/output/map_images.h"
+#include "page/output/pdf_page.h"
 #include "page/page.h"
 
 namespace host {
 
-/// The bytes of a PDF file with the page in its true size: shapes stay shapes and texts
-/// texts, in fonts that the file brings along; maps are images without loss. The same
-/// page gives the same bytes. Throws as DrawOnCairo does.
-/// @param dpi the resolution of maps: an A4 page is 842 x 595 points at any
-std::vector<std::uint8_t> EncodePdf(const Page& page, double dpi,
-                                    const Progress& progress = {},
-                                    MapImages mapImages = MapImages::Lossless);
+/// How a PDF file is written.
+struct PdfSettings {
+    double dpi = 150.0;  ///< of maps: an A4 page is 842 x 595 points at any
+    MapImages mapImages = MapImages::Lossless;
+};
+
+/// A PDF file of pages in their true size: shapes stay shapes and texts texts, in fonts
+/// that the file brings along, one copy of each for all its pages; maps are images. It is
+/// searched, read aloud and measured as its pages are (see PdfPageOf), and the same pages
+/// give the same bytes.
+///
+/// A page is gone from memory when it has been added. Two files take part: Cairo writes a
+/// draft, of which the file is made when it is finished.
+class PdfFile {
+public:
+    /// @param draft descriptor of an empty file, open for reading and writing; not owned
+    explicit PdfFile(int draft, const PdfSettings& settings = {});
+    PdfFile(const PdfFile&) = delete;
+    PdfFile& operator=(const PdfFile&) = delete;
+    ~PdfFile();
+
+    /// Draws a page. Throws what its drawing throws, and the file is then without it; and
+    /// std::runtime_error when the draft cannot be written.
+    /// @param name of the page in the file, as label and as bookmark; empty: its number,
+    /// and its title
+    void Add(const Page& page, const Progress& progress = {},
+             const std::string& name = "");
+
+    /// Takes the last page that was added out again.
+    void DropLast() { m_pages.back().isDropped = true; }
+
+    /// Whether the draft can still be written.
+    bool IsGood() const;
+
+    /// Takes the bytes of a file, piece by piece.
+    using Write = std::function<void(const std::vector<std::uint8_t>&)>;
+
+    /// Writes the file, of at least one page. Nothing can be added after that. Throws
+    /// std::runtime_error.
+    /// @param about the file as a whole
+    void Finish(const PageAbout& about, const Write& write);
+
+private:
+    struct Draft;
+
+    PdfSettings m_settings;
+    std::unique_ptr<Draft> m_draft;
+    std::vector<PdfPage> m_pages;  // with those that were dropped
+};
+
+/// The bytes of a file of one page. Throws as PdfFile does.
+std::vector<std::uint8_t> EncodePdf(const Page& page, const PdfSettings& settings,
+                                    const Progress& progress = {});
 
 }  // namespace host

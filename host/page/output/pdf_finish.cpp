@@ -1,17 +1,20 @@
 #include "page/output/pdf_finish.h"
 
+#include <unistd.h>
+
 #include <array>
+#include <cstdio>
 #include <cstdlib>
 #include <ctime>
-#include <memory>
 #include <optional>
-#include <qpdf/Buffer.hh>
+#include <qpdf/Pipeline.hh>
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFWriter.hh>
 #include <stdexcept>
 #include <string>
 
 #include "map_surround/version.h"
+#include "page/output/pdf_bookmarks.h"
 #include "page/output/pdf_structure.h"
 #include "page/output/pdf_viewports.h"
 #include "page/output/xmp_packet.h"
@@ -80,32 +83,92 @@ void Describe(QPDF& pdf, const PageAbout& about) {
     root.replaceKey("/ViewerPreferences", Handle::parse("<< /DisplayDocTitle true >>"));
 }
 
-std::vector<std::uint8_t> BytesOf(QPDF& pdf) {
+/// Says of fonts what Cairo takes for granted: that characters are numbered as glyphs.
+void NumberGlyphs(QPDF& pdf) {
+    for (Handle font : pdf.getAllObjects()) {
+        if (font.isDictionary() &&
+            font.getKey("/Subtype").isNameAndEquals("/CIDFontType2")) {
+            font.replaceKey("/CIDToGIDMap", Handle::newName("/Identity"));
+        }
+    }
+}
+
+/// Hands pieces of a file on: libqpdf writes a few bytes at a time.
+class Pieces : public Pipeline {
+public:
+    explicit Pieces(const std::function<void(const std::vector<std::uint8_t>&)>& write)
+        : Pipeline("file", nullptr), m_write(write) {
+        m_piece.reserve(kSize);
+    }
+
+    void write(const unsigned char* data, std::size_t length) override {
+        m_piece.insert(m_piece.end(), data, data + length);
+        if (m_piece.size() >= kSize) {
+            finish();
+        }
+    }
+
+    void finish() override {
+        m_write(m_piece);
+        m_piece.clear();
+    }
+
+private:
+    static constexpr std::size_t kSize = std::size_t{1} << 18;
+    const std::function<void(const std::vector<std::uint8_t>&)>& m_write;
+    std::vector<std::uint8_t> m_piece;
+};
+
+void Write(QPDF& pdf, Pieces& pieces) {
     QPDFWriter writer(pdf);
-    writer.setOutputMemory();
+    writer.setOutputPipeline(&pieces);
     writer.setMinimumPDFVersion("1.7");
     writer.setObjectStreamMode(qpdf_o_generate);
     writer.setDeterministicID(true);
     writer.write();
-    const std::shared_ptr<Buffer> file = writer.getBufferSharedPointer();
-    return {file->getBuffer(), file->getBuffer() + file->getSize()};
+    pieces.finish();
+}
+
+/// Takes out the pages that are not to be there, and gives the others.
+std::vector<PdfPage> WithoutDropped(QPDF& pdf, const std::vector<PdfPage>& drawn) {
+    const std::vector<QPDFObjectHandle> inFile = pdf.getAllPages();
+    if (inFile.size() != drawn.size()) {
+        throw std::runtime_error("the PDF file lacks pages");
+    }
+    std::vector<PdfPage> kept;
+    for (std::size_t i = 0; i < drawn.size(); ++i) {
+        if (drawn[i].isDropped) {
+            pdf.removePage(inFile[i]);
+        } else {
+            kept.push_back(drawn[i]);
+        }
+    }
+    return kept;
 }
 
 }  // namespace
 
-std::vector<std::uint8_t> FinishPdf(const std::vector<std::uint8_t>& draft,
-                                    const std::vector<PdfPage>& pages) {
+void FinishPdf(int draft, const PageAbout& about, const std::vector<PdfPage>& drawn,
+               const std::function<void(const std::vector<std::uint8_t>&)>& write) {
+    std::FILE* const file = fdopen(dup(draft), "rb");
+    if (file == nullptr) {
+        throw std::runtime_error("the PDF file cannot be read again");
+    }
+    std::rewind(file);
     QPDF pdf;
     pdf.setSuppressWarnings(true);
-    pdf.processMemoryFile("page", reinterpret_cast<const char*>(draft.data()),
-                          draft.size());
-    Describe(pdf, pages.front().about);
+    constexpr bool kClose = true;
+    pdf.processFile("page", file, kClose);
+    const std::vector<PdfPage> pages = WithoutDropped(pdf, drawn);
+    Describe(pdf, about);
+    NumberGlyphs(pdf);
     WriteStructure(pdf, pages);
-    std::vector<QPDFObjectHandle> drawn = pdf.getAllPages();
+    AddBookmarks(pdf, pages);
     for (std::size_t i = 0; i < pages.size(); ++i) {
-        AddViewports(pdf, drawn[i], pages[i].maps, pages[i].dpi);
+        AddViewports(pdf, pdf.getAllPages()[i], pages[i].maps, pages[i].dpi);
     }
-    return BytesOf(pdf);
+    Pieces pieces(write);
+    Write(pdf, pieces);
 }
 
 }  // namespace host

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <vector>
 
 #include "page/output/pdf_page.h"
@@ -14,7 +15,11 @@ namespace host {
 /// It is dated by SOURCE_DATE_EPOCH, or not at all, and its identifier follows from what
 /// it holds, so that the same page gives the same bytes. Throws std::runtime_error when
 /// it cannot be written.
-std::vector<std::uint8_t> FinishPdf(const std::vector<std::uint8_t>& draft,
-                                    const std::vector<PdfPage>& pages);
+/// @param draft descriptor of the file; read from its beginning
+/// @param about the file as a whole
+/// @param drawn its pages, as Cairo drew them
+/// @param write takes the file, piece by piece
+void FinishPdf(int draft, const PageAbout& about, const std::vector<PdfPage>& drawn,
+               const std::function<void(const std::vector<std::uint8_t>&)>& write);
 
 }  // namespace host

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -23,7 +24,9 @@ struct PdfPage {
     std::vector<Tagged> items;      ///< in the order in which they are read
     std::vector<std::size_t> tags;  ///< items of the page, as they were tagged
     std::vector<GeoreferencedMap> maps;
-    double dpi;  ///< of the places of the maps
+    double dpi;              ///< of the places of the maps
+    std::string name = {};   ///< its label and bookmark; empty: its number and its title
+    bool isDropped = false;  ///< of a page that is not to be in the file
 };
 
 /// Describes a page before it is drawn; `tags` are known afterwards.

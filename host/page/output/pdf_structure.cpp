@@ -2,8 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
-#include <qpdf/QPDFPageDocumentHelper.hh>
-#include <stdexcept>
+#include <qpdf/QPDFObjectHandle.hh>
 #include <string>
 
 #include "page/output/pdf_content.h"
@@ -85,10 +84,7 @@ void AddPage(QPDF& pdf, const PdfPage& described, const Handle& page, Handle par
 }  // namespace
 
 void WriteStructure(QPDF& pdf, const std::vector<PdfPage>& pages) {
-    std::vector<QPDFPageObjectHelper> drawn = QPDFPageDocumentHelper(pdf).getAllPages();
-    if (drawn.size() != pages.size()) {
-        throw std::runtime_error("the PDF file cannot be tagged");
-    }
+    const std::vector<QPDFObjectHandle>& drawn = pdf.getAllPages();
     Handle root = pdf.makeIndirectObject(Handle::newDictionary());
     root.replaceKey("/Type", Handle::newName("/StructTreeRoot"));
     Handle document = Structure(pdf, "/Document", root);
@@ -96,7 +92,7 @@ void WriteStructure(QPDF& pdf, const std::vector<PdfPage>& pages) {
     Handle sections = Handle::newArray();
     Handle numbers = Handle::newArray();
     for (std::size_t i = 0; i < pages.size(); ++i) {
-        Handle page = drawn[i].getObjectHandle();
+        Handle page = drawn[i];
         const bool isOnly = pages.size() == 1;
         Handle parent = isOnly ? document : Structure(pdf, "/Sect", document);
         Handle byTag = pdf.makeIndirectObject(Handle::newArray());

@@ -1,4 +1,5 @@
 #include <gdiplus.h>
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -11,6 +12,7 @@
 
 #include "map_page/run_map_page.h"
 #include "page/made_raster.h"
+#include "pdf/pdf_check.h"
 #include "scratch_folder.h"
 
 namespace {
@@ -70,8 +72,9 @@ protected:
     }
     ~Print() override { Gdiplus::GdiplusShutdown(m_token); }
 
-    Result Draw(const std::string& output, const Arguments& more = {}) {
-        Arguments arguments = {"scene.tif", "-o", output, "--title", "Harbour 影像"};
+    Result Draw(const std::string& output, const Arguments& more = {},
+                const std::string& title = "Harbour 影像") {
+        Arguments arguments = {"scene.tif", "-o", output, "--title", title};
         arguments.insert(arguments.end(), more.begin(), more.end());
         return RunMapPage(folder, arguments);
     }
@@ -218,6 +221,39 @@ TEST_F(Print, GivesTheSamePdfEachTimeAndDatesItByTheEnvironment) {
                       "<xmp:CreateDate>1970-01-02T00:00:00Z</xmp:CreateDate>"));
     EXPECT_EQ(drawnAt("yesterday").err,
               "map_page: dated.pdf: SOURCE_DATE_EPOCH is no number of seconds\n");
+}
+
+TEST_F(Print, IsReadAloudInThePagesLanguage) {
+    const struct {
+        std::string title;
+        Arguments options;
+        std::vector<std::string> read;
+    } rows[] = {
+        {"Harbour 影像",
+         {"--numeric-scale"},
+         {"H1: Harbour 影像", "Figure: Map, 1 : ",
+          "Figure: Legend: scene.tif: Band 1, red; Band 2, green; Band 3, blue",
+          "Figure: Scale bar: 2000 m in 4 divisions", "P: 1 : ",
+          "Figure: North arrow: north is up"}},
+        {"خريطة الميناء",
+         {"--language", "zh"},
+         {"H1: خريطة الميناء", "Figure: 地图，1 : ",
+          "Figure: 图例: 影像名：scene.tif: 波段_1，红色; 波段_2，绿色; 波段_3，蓝色",
+          "Figure: 比例尺：2000 米，共4段", "Figure: 指北针：北在上方"}},
+        {"Wo? 🗺 <&>", {}, {"H1: Wo? 🗺 <&>"}},
+    };
+    for (const auto& row : rows) {
+        ASSERT_EQ(Draw("page.pdf", row.options, row.title).status, 0);
+        EXPECT_THAT(host_tests::AgainstPdfUa(folder.Path("page.pdf")),
+                    ::testing::IsEmpty());
+        const std::vector<std::string> read =
+            host_tests::ReadAloud(folder.Path("page.pdf"));
+        ASSERT_GE(read.size(), row.read.size());
+        for (std::size_t i = 0; i < row.read.size(); ++i) {
+            EXPECT_THAT(read[i], ::testing::StartsWith(row.read[i]));
+        }
+        Said("qpdf --check " + folder.Path("page.pdf"));
+    }
 }
 
 TEST_F(Print, NeedsNoOtherProgram) {

@@ -1,0 +1,149 @@
+// map_page --series with one PDF file for all pages.
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <array>
+#include <csignal>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <vector>
+
+#include "map_page/page_file_folder.h"
+#include "pdf/pdf_check.h"
+
+namespace {
+
+using host_tests::Arguments;
+using host_tests::ContentsOf;
+using host_tests::Result;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+
+class Atlas : public host_tests::PageFileTest {
+protected:
+    Atlas() {
+        EXPECT_EQ(
+            Run({"data/scene.tif", "--title", "A scene", "--save", "page.json"}).status,
+            0);
+    }
+
+    Arguments Call(const std::string& list, const Arguments& more) const {
+        std::ofstream(folder.Path("list.csv")) << list;
+        Arguments all = {"page.json", "--series", "list.csv", "-o",
+                         "atlas.pdf", "--dpi",    "50"};
+        all.insert(all.end(), more.begin(), more.end());
+        return all;
+    }
+    Result Draw(const std::string& list, const Arguments& more = {}) const {
+        return Run(Call(list, more));
+    }
+
+    std::vector<std::string> Bookmarks() const {
+        return host_tests::BookmarksOf(folder.Path("atlas.pdf"));
+    }
+    std::vector<std::string> Wrong() const {
+        return host_tests::AgainstPdfUa(folder.Path("atlas.pdf"));
+    }
+};
+
+TEST_F(Atlas, HasAllPagesInOneFile) {
+    const Result result = Draw(
+        "name,title,size,extent\n"
+        "N1,North,,500300 8998200 500900 8998800\n"
+        ",South,A3,\n"
+        "N3,,,\n");
+    EXPECT_EQ(result.status, 0) << result.err;
+    EXPECT_EQ(result.out, "list.csv: 3 drawn, 0 already there, 0 failed\n");
+    EXPECT_THAT(Wrong(), IsEmpty());
+    EXPECT_THAT(Bookmarks(), ElementsAre("1: N1", "2: South", "3: N3"));
+    const std::vector<std::string> read = host_tests::ReadAloud(folder.Path("atlas.pdf"));
+    EXPECT_THAT(read, ::testing::IsSupersetOf({"H1: North", "H1: South", "H1: A scene"}));
+    EXPECT_THAT(folder.Names(),
+                ElementsAre("atlas.pdf", "data", "list.csv", "logo.png", "page.json"));
+
+    const std::string atlas = ContentsOf(folder.Path("atlas.pdf"));
+    EXPECT_EQ(Draw("name\nanother\n").out,
+              "list.csv: 0 drawn, 1 already there, 0 failed\n");
+    EXPECT_TRUE(ContentsOf(folder.Path("atlas.pdf")) == atlas);
+}
+
+TEST_F(Atlas, GoesOnAfterPagesThatFail) {
+    const std::string scene = ContentsOf(folder.Path("data/scene.tif"));
+    host_tests::WriteFile(folder.Path("data/half.tif"),
+                          scene.substr(0, scene.size() / 2));
+    const Result result = Draw(
+        "name,rasters,scale\n"
+        "first,,\n"
+        "missing,data/none.tif,\n"
+        "half,data/half.tif,\n"
+        "wrong,,none\n"
+        "last,data/classes.tif,\n");
+    EXPECT_EQ(result.status, 1);
+    EXPECT_THAT(result.err, HasSubstr("map_page: list.csv: line 3: page.json: "));
+    EXPECT_THAT(result.err, HasSubstr("map_page: list.csv: line 4: "));
+    EXPECT_THAT(result.err, HasSubstr("map_page: list.csv: line 5: --scale: none is"));
+    EXPECT_THAT(result.err,
+                HasSubstr("map_page: list.csv: 2 drawn, 0 already there, 3 failed\n"));
+    EXPECT_THAT(Bookmarks(), ElementsAre("1: first", "2: last"));
+    EXPECT_THAT(Wrong(), IsEmpty());
+}
+
+TEST_F(Atlas, IsNotWrittenWithoutAnyPage) {
+    const Result result = Draw("rasters\ndata/none.tif\n");
+    EXPECT_EQ(result.status, 1);
+    EXPECT_THAT(result.err, HasSubstr("0 drawn, 0 already there, 1 failed\n"));
+    EXPECT_FALSE(std::filesystem::exists(folder.Path("atlas.pdf")));
+}
+
+TEST_F(Atlas, TakesAWarningForAFailureWhereThatIsAsked) {
+    const std::string longTitle(300, 'W');
+    const Result result =
+        Draw("name,title\nshort,\nlong," + longTitle + "\nend,\n", {"--strict"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_THAT(result.err, HasSubstr("list.csv: line 3: is not drawn, for --strict"));
+    EXPECT_THAT(Bookmarks(), ElementsAre("1: short", "2: end"));
+}
+
+TEST_F(Atlas, IsDrawnWithoutAPageThatEndsTheDrawing) {
+    // A raster whose input never ends, until the drawing is ended as by a decoder that
+    // crashes, or for taking too long.
+    const std::string list = "name,rasters\nendless,/vsistdin/\nother,\n";
+    const auto endless = [] {
+        setenv("ASAN_OPTIONS", "handle_segv=0", 1);
+        std::array<int, 2> ends{};
+        if (pipe(ends.data()) == 0) {
+            dup2(ends[0], STDIN_FILENO);
+        }
+    };
+    for (const bool crashes : {true, false}) {
+        const Arguments limit = {"--limit-time", "1"};
+        Arguments more = crashes ? Arguments() : limit;
+        more.emplace_back("--allow-all");
+        const host_tests::RunningMapPage running(folder, Call(list, more), endless);
+        if (crashes) {
+            // The columns are checked in a process of their own before.
+            sleep(1);
+            kill(running.DrawingProcess(), SIGSEGV);
+        }
+        const Result result = running.Wait();
+        EXPECT_EQ(result.status, 1);
+        EXPECT_THAT(result.err,
+                    HasSubstr(crashes ? "line 2: drawing failed: Segmentation fault"
+                                      : "line 2: drawing took longer than its limit"));
+        EXPECT_THAT(Bookmarks(), ElementsAre("1: other"));
+        std::filesystem::remove(folder.Path("atlas.pdf"));
+    }
+}
+
+TEST_F(Atlas, IsDrawnInOneProcess) {
+    const Result result = Draw("name\na\n", {"--jobs", "2"});
+    EXPECT_EQ(result.status, 2);
+    EXPECT_EQ(result.err, "map_page: --jobs: goes with an output for each page\n");
+}
+
+}  // namespace
