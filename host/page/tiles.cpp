@@ -2,12 +2,16 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <cstddef>
 #include <map>
 #include <string>
-#include <utility>
+#include <tuple>
+#include <vector>
 
 #include "host/common_functions.h"
+#include "page/map/raster_place.h"
+#include "raster_data/gdal_raster.h"
 #include "system/number_text.h"
 
 namespace host {
@@ -52,32 +56,77 @@ std::wstring EntriesOf(CRasterSource& source) {
     return entries;
 }
 
+/// Whether two pixels are of one length, to half of one over so many.
+bool IsOneSize(double a, double b, int count) {
+    return std::abs(a - b) * count <= std::abs(a) / 2.0;
+}
+
+/// Whether two spans have no more than an edge in common, as tiles of satellites have.
+bool IsEdge(double low, double high, double otherLow, double otherHigh) {
+    constexpr double kEdge = 0.1;
+    const double common = std::min(high, otherHigh) - std::max(low, otherLow);
+    return common <= kEdge * std::min(high - low, otherHigh - otherLow);
+}
+
+bool AreSideBySide(const GdalRaster& a, const GdalRaster& b) {
+    if (!IsGeoreferenced(a) || !IsGeoreferenced(b) || IsTurned(a) || IsTurned(b) ||
+        a.Projection() != b.Projection() ||
+        !IsOneSize(a.GeoTransform()[1], b.GeoTransform()[1], a.Width()) ||
+        !IsOneSize(a.GeoTransform()[5], b.GeoTransform()[5], a.Height())) {
+        return false;
+    }
+    const Box one = ExtentOf(a);
+    const Box other = ExtentOf(b);
+    return IsEdge(one.left, one.right, other.left, other.right) ||
+           IsEdge(one.bottom, one.top, other.bottom, other.top);
+}
+
+struct Mosaic {
+    std::size_t first;
+    std::wstring firstName;
+    bool isNamed;
+    std::vector<const GdalRaster*> tiles;
+
+    /// Whether a raster is one of its tiles, or may be.
+    bool Has(const GdalRaster& raster) const {
+        const bool isTile = std::any_of(
+            tiles.begin(), tiles.end(),
+            [&raster](const GdalRaster* tile) { return tile->Path() == raster.Path(); });
+        return isTile ||
+               std::all_of(tiles.begin(), tiles.end(), [&raster](const GdalRaster* tile) {
+                   return AreSideBySide(*tile, raster);
+               });
+    }
+};
+
 }  // namespace
 
 void JoinTiles(const std::vector<CGISDataSource*>& sources,
                std::vector<LegendSource>& shown) {
-    struct Mosaic {
-        std::size_t first;
-        std::wstring firstName;
-        bool isNamed;
-    };
-    std::map<std::pair<std::wstring, std::wstring>, Mosaic> mosaics;
+    using Likeness = std::tuple<std::wstring, std::wstring, RasterStyle>;
+    std::map<Likeness, std::vector<Mosaic>> alike;
     for (std::size_t i = 0; i < sources.size(); ++i) {
-        auto* const source = dynamic_cast<CRasterSource*>(sources[i]);
-        if (source == nullptr || !source->IsAvailable()) {
+        auto* const raster = dynamic_cast<GdalRaster*>(sources[i]);
+        if (raster == nullptr || !raster->IsAvailable()) {
             continue;
         }
-        const std::wstring name = source->GetFileName();
-        const auto [found, isFirst] =
-            mosaics.try_emplace({WithoutDigits(name), EntriesOf(*source)},
-                                Mosaic{i, name, !shown[i].name.empty()});
-        if (isFirst || !shown[i].name.empty()) {
+        const std::wstring name = raster->GetFileName();
+        std::vector<Mosaic>& mosaics =
+            alike[{WithoutDigits(name), EntriesOf(*raster), raster->Style()}];
+        const auto found =
+            std::find_if(mosaics.begin(), mosaics.end(),
+                         [raster](const Mosaic& mosaic) { return mosaic.Has(*raster); });
+        if (found == mosaics.end()) {
+            mosaics.push_back({i, name, !shown[i].name.empty(), {raster}});
             continue;
         }
-        const Mosaic& mosaic = found->second;
+        found->tiles.push_back(raster);
+        if (!shown[i].name.empty()) {
+            continue;
+        }
         shown[i].isShown = false;
-        if (!mosaic.isNamed && mosaic.firstName != name) {
-            shown[mosaic.first].name = mosaic.firstName + L" \u2013 " + name;
+        if (!found->isNamed && found->firstName != name) {
+            shown[found->first].name = found->firstName + L" \u2013 " + name;
         }
     }
 }

@@ -14,8 +14,8 @@ std::vector<Property> LegendProperties() {
             PropertyKind::Text),
         Of<&LegendFrame::JoinsTiles, &LegendFrame::SetJoinsTiles>(
             "joinTiles",
-            "Whether rasters called alike but for their digits, and shown alike, are one "
-            "entry",
+            "Whether rasters called alike but for their digits, side by side and shown "
+            "alike, are one entry",
             PropertyKind::Switch),
         Of<&LegendFrame::ExplainsRamps, &LegendFrame::SetExplainsRamps>(
             "paletteRamps",
