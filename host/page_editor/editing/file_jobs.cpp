@@ -118,8 +118,8 @@ std::string DrawPage(const std::string& input, const host::Progress& progress) {
         double dpi = 0.0;
         host::ParseNumber(fields.at(2), dpi);
         return StringOf(host::EncodePage(
-            page, static_cast<host::OutputFormat>(std::stoi(fields.at(1))), dpi,
-            progress));
+            page, static_cast<host::OutputFormat>(std::stoi(fields.at(1))), dpi, progress,
+            {}, static_cast<host::MapImages>(std::stoi(fields.at(4)))));
     });
 }
 

@@ -16,7 +16,7 @@ namespace page_editor {
 
 std::string ExportPage(const host::Page& page, const host::RasterStore& rasters,
                        const std::string& path, double dpi, const std::string& pageFile,
-                       const host::Progress& progress) {
+                       const host::Progress& progress, host::MapImages mapImages) {
     return host::Naming(path, [&] {
         const host::OutputFormat format = host::OutputFormatOf(path);
         host::CheckPageSize(page, dpi);
@@ -25,7 +25,8 @@ std::string ExportPage(const host::Page& page, const host::RasterStore& rasters,
         const std::string bytes =
             host::InHelper("drawing", kDrawPage,
                            Joined({path, std::to_string(static_cast<int>(format)),
-                                   host::NumberText(dpi), host::WritePage(page, {})}),
+                                   host::NumberText(dpi), host::WritePage(page, {}),
+                                   std::to_string(static_cast<int>(mapImages))}),
                            progress);
         file.Write({bytes.begin(), bytes.end()});
         std::string remark = file.Remark();

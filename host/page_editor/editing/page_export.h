@@ -3,6 +3,7 @@
 #include <string>
 
 #include "page/document/raster_store.h"
+#include "page/output/map_images.h"
 #include "page/page.h"
 
 namespace page_editor {
@@ -18,6 +19,7 @@ namespace page_editor {
 /// returning false cancels the export, which then throws
 std::string ExportPage(const host::Page& page, const host::RasterStore& rasters,
                        const std::string& path, double dpi, const std::string& pageFile,
-                       const host::Progress& progress = {});
+                       const host::Progress& progress = {},
+                       host::MapImages mapImages = host::MapImages::Lossless);
 
 }  // namespace page_editor

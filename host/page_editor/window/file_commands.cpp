@@ -4,11 +4,11 @@
 #include <QApplication>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QInputDialog>
 #include <QMessageBox>
 #include <QPushButton>
 #include <exception>
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -17,6 +17,7 @@
 #include "page_editor/editing/file_stamp.h"
 #include "page_editor/editing/page_export.h"
 #include "page_editor/editing/page_files.h"
+#include "page_editor/window/export_dialog.h"
 #include "page_editor/window/recent_files.h"
 #include "page_editor/window/save_dialog.h"
 #include "page_editor/window/waiting.h"
@@ -38,9 +39,6 @@ const QList<SavedKind> kImages = {
     {"JPEG (*.jpg *.jpeg)", ".jpg"},
     {"TIFF (*.tif *.tiff)", ".tif"},
     {"BMP (*.bmp)", ".bmp"}};
-constexpr double kPrintDpi = 300.0;
-constexpr double kLeastDpi = 10.0;
-constexpr double kMostDpi = 2400.0;
 constexpr int kExportPatience = 500;  // milliseconds
 
 /// While it lives the pointer says that something takes time.
@@ -209,22 +207,21 @@ void FileCommands::Export() {
     if (path.isEmpty()) {
         return;
     }
-    bool isGiven = false;
-    const double dpi =
-        QInputDialog::getDouble(&m_window, "Resolution", "Pixels an inch:", kPrintDpi,
-                                kLeastDpi, kMostDpi, 1, &isGiven);
-    if (isGiven) {
-        ExportTo(path, dpi);
+    const std::optional<ExportChoices> choices =
+        AskHowToExport(m_window, host::OutputFormatOf(path.toStdString()));
+    if (choices) {
+        ExportTo(path, choices->dpi, choices->mapImages);
     }
 }
 
-bool FileCommands::ExportTo(const QString& path, double dpi) {
+bool FileCommands::ExportTo(const QString& path, double dpi, host::MapImages mapImages) {
     return Attempt([&] {
         Waiting waiting("Drawing " + QFileInfo(path).fileName(), kExportPatience,
                         m_window);
         const std::string remark = ExportPage(
             m_document.Page(), m_document.Rasters(), path.toStdString(), dpi,
-            m_path.toStdString(), [&waiting](double part) { return waiting.Show(part); });
+            m_path.toStdString(), [&waiting](double part) { return waiting.Show(part); },
+            mapImages);
         Q_EMIT Told(With("Exported " + path, remark));
     });
 }

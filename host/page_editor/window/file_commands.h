@@ -7,6 +7,7 @@
 #include <string>
 
 #include "page/document/opened_page.h"
+#include "page/output/map_images.h"
 #include "page_editor/editing/page_document.h"
 #include "page_editor/editing/recovery.h"
 
@@ -44,7 +45,8 @@ public:
     bool SaveTo(const QString& path);
 
     void Export();
-    bool ExportTo(const QString& path, double dpi);
+    bool ExportTo(const QString& path, double dpi,
+                  host::MapImages mapImages = host::MapImages::Lossless);
 
 Q_SIGNALS:
     void PathChanged();

@@ -172,11 +172,13 @@ TEST_F(FileCommands, ExportsWhatIsDrawn) {
     const QImage read(Path("page.png"));
     EXPECT_TRUE(read.convertToFormat(QImage::Format_RGB32) ==
                 editor_tests::DrawnWhole(document.Page(), 144.0));
-    for (const char* name : {"page.jpg", "page.bmp", "page.tif", "page.ps", "page.pdf"}) {
+    for (const char* name :
+         {"page.jpg", "page.bmp", "page.tif", "page.ps", "page.pdf", "page.svg"}) {
         EXPECT_TRUE(files.ExportTo(Path(name), 50.0)) << name;
     }
-    EXPECT_THAT(folder.Names(), ElementsAre("page.bmp", "page.jpg", "page.pdf",
-                                            "page.png", "page.ps", "page.tif"));
+    EXPECT_THAT(folder.Names(),
+                ElementsAre("page.bmp", "page.jpg", "page.pdf", "page.png", "page.ps",
+                            "page.svg", "page.tif"));
 }
 
 TEST_F(FileCommands, ExportsThePageAroundRasters) {
@@ -189,6 +191,13 @@ TEST_F(FileCommands, ExportsThePageAroundRasters) {
     ASSERT_TRUE(files.ExportTo(Path("page.png"), 120.0));
     EXPECT_TRUE(QImage(Path("page.png")).convertToFormat(QImage::Format_RGB32) ==
                 editor_tests::DrawnWhole(document.Page(), 120.0));
+    for (const auto& [images, isJpeg] : {std::pair(host::MapImages::Lossless, false),
+                                         std::pair(host::MapImages::Jpeg, true)}) {
+        ASSERT_TRUE(files.ExportTo(Path("page.pdf"), 60.0, images));
+        QFile pdf(Path("page.pdf"));
+        ASSERT_TRUE(pdf.open(QIODevice::ReadOnly));
+        EXPECT_EQ(pdf.readAll().contains("/DCTDecode"), isJpeg);
+    }
 }
 
 TEST_F(FileCommands, AsksAboutUnsavedWork) {
