@@ -1,18 +1,11 @@
 #include "page_editor/panel/paths_field.h"
 
-#include <QEvent>
 #include <QFileDialog>
+#include <QLayout>
 #include <QPushButton>
 #include <QToolButton>
-#include <QVBoxLayout>
 
 namespace page_editor {
-namespace {
-
-constexpr int kLinesHeight = 64;
-
-}  // namespace
-
 PathField::PathField(QWidget* parent)
     : PropertyField(parent), m_line(new QLineEdit(this)) {
     Fill(m_line);
@@ -35,21 +28,13 @@ void PathField::Show(const host::PropertyValue& value) {
 
 void PathField::FinishTyping() { TellChanged(*m_line); }
 
-PathListField::PathListField(QWidget* parent)
-    : PropertyField(parent), m_lines(new QPlainTextEdit(this)) {
-    auto* const column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->addWidget(m_lines);
+PathListField::PathListField(QWidget* parent) : LinesField(parent) {
     auto* const add = new QPushButton("Add…", this);
-    column->addWidget(add);
-    m_lines->setFixedHeight(kLinesHeight);
-    m_lines->setLineWrapMode(QPlainTextEdit::NoWrap);
-    m_lines->setTabChangesFocus(true);
-    m_lines->installEventFilter(this);
+    layout()->addWidget(add);
     connect(add, &QPushButton::clicked, this, [this] {
         for (const QString& path :
              QFileDialog::getOpenFileNames(this, "Choose rasters")) {
-            m_lines->appendPlainText(path);
+            Append(path);
         }
         FinishTyping();
     });
@@ -60,27 +45,12 @@ void PathListField::Show(const host::PropertyValue& value) {
     for (const std::string& path : std::get<std::vector<std::string>>(value)) {
         lines.append(QString::fromStdString(path));
     }
-    if (m_lines->toPlainText() != lines.join('\n')) {
-        m_lines->setPlainText(lines.join('\n'));
-    }
-    m_lines->document()->setModified(false);
+    ShowText(lines.join('\n'));
 }
 
-/// A list is done when one leaves it.
-bool PathListField::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::FocusOut) {
-        FinishTyping();
-    }
-    return PropertyField::eventFilter(watched, event);
-}
-
-void PathListField::FinishTyping() {
-    if (!m_lines->document()->isModified()) {
-        return;
-    }
-    m_lines->document()->setModified(false);
+void PathListField::TellText(const QString& text) {
     std::vector<std::string> paths;
-    for (const QString& line : m_lines->toPlainText().split('\n', Qt::SkipEmptyParts)) {
+    for (const QString& line : text.split('\n', Qt::SkipEmptyParts)) {
         paths.push_back(line.trimmed().toStdString());
     }
     Tell(std::move(paths));

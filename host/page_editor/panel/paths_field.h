@@ -1,9 +1,8 @@
 #pragma once
 
 #include <QLineEdit>
-#include <QPlainTextEdit>
 
-#include "page_editor/panel/property_field.h"
+#include "page_editor/panel/lines_field.h"
 
 namespace page_editor {
 
@@ -20,18 +19,14 @@ private:
 };
 
 /// Paths of rasters, one a line, the first on top, with a button that adds some.
-class PathListField : public PropertyField {
+class PathListField : public LinesField {
 public:
     explicit PathListField(QWidget* parent);
 
     void Show(const host::PropertyValue& value) override;
-    void FinishTyping() override;
 
 protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
-private:
-    QPlainTextEdit* m_lines;
+    void TellText(const QString& text) override;
 };
 
 }  // namespace page_editor

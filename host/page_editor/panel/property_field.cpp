@@ -12,6 +12,7 @@
 
 #include "page_editor/panel/colour_field.h"
 #include "page_editor/panel/extent_field.h"
+#include "page_editor/panel/lines_field.h"
 #include "page_editor/panel/number_field.h"
 #include "page_editor/panel/paths_field.h"
 
@@ -149,6 +150,9 @@ PropertyField* FieldFor(const host::Property& property, QWidget* parent) {
         case PropertyKind::Colour:
             return new ColourField(parent);
         case PropertyKind::Text:
+            if (property.hasLines) {
+                return new LinesField(parent);
+            }
             return new TextField(parent);
         case PropertyKind::Font:
             return new FontField(parent);

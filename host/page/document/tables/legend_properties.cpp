@@ -7,11 +7,12 @@ namespace host::tables {
 std::vector<Property> LegendProperties() {
     return {
         Of<&LegendFrame::RasterPaths, &LegendFrame::SetRasterPaths>(
-            "rasters", "Files that it explains, in order", PropertyKind::Rasters),
-        Of<&LegendFrame::Names, &LegendFrame::SetNames>(
+            "rasters", "Files that it explains, in order; others are left out",
+            PropertyKind::Rasters),
+        WithLines(Of<&LegendFrame::Names, &LegendFrame::SetNames>(
             "names",
             "What they are called, a line each; an empty one is by its file's name",
-            PropertyKind::Text),
+            PropertyKind::Text)),
         Of<&LegendFrame::JoinsTiles, &LegendFrame::SetJoinsTiles>(
             "joinTiles",
             "Whether rasters called alike but for their digits, side by side and shown "

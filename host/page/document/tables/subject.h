@@ -141,6 +141,11 @@ inline Property Within(Property property, NumberRange range) {
     return property;
 }
 
+inline Property WithLines(Property property) {
+    property.hasLines = true;
+    return property;
+}
+
 inline Property Measured(Property property) {
     property.isMeasured = true;
     return property;

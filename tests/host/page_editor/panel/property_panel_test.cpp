@@ -17,6 +17,7 @@
 
 #include "page/document/item_type.h"
 #include "page/document/page_text.h"
+#include "page/element_of.h"
 #include "page/made_raster.h"
 #include "page_editor/editor_fixture.h"
 #include "page_editor/panel/number_field.h"
@@ -240,6 +241,44 @@ TEST_F(PropertyPanel, ChangesRasters) {
     EXPECT_THAT(LastFailure(), HasSubstr("rasters: missing.tif"));
     EXPECT_THAT(std::get<std::vector<std::string>>(Value(map, "rasters")),
                 ElementsAre(Path("b.tif")));
+}
+
+TEST_F(PropertyPanel, ChangesTheOrderTheNamesAndTheChoiceOfALegendsRasters) {
+    WriteScene(Path("a.tif"), 60, 40);
+    WriteScene(Path("b.tif"), 60, 40);
+    const std::size_t legend = Select("legend");
+    const auto write = [this](const char* property, const QStringList& lines) {
+        In<QPlainTextEdit>(property)->selectAll();
+        for (int i = 0; i < lines.size(); ++i) {
+            if (i > 0) {
+                QTest::keyClick(In<QPlainTextEdit>(property), Qt::Key_Return);
+            }
+            QTest::keyClicks(In<QPlainTextEdit>(property), lines[i]);
+        }
+        panel.FinishTyping();
+    };
+    const auto namesShown = [&] {
+        std::vector<std::wstring> names;
+        const auto& item = document.Page().Items()[legend];
+        for (const auto& source : host::ElementOf<CMapLegend>(item)->GetShownSources()) {
+            names.push_back(source.name);
+        }
+        return names;
+    };
+    const QString a = QString::fromStdString(Path("a.tif"));
+    const QString b = QString::fromStdString(Path("b.tif"));
+    write("rasters", {a, b});
+    EXPECT_THAT(namesShown(), ElementsAre(L"", L""));
+    write("names", {"", "Relief"});
+    EXPECT_THAT(namesShown(), ElementsAre(L"", L"Relief"));
+    EXPECT_EQ(In<QPlainTextEdit>("names")->toPlainText(), "\nRelief");
+    write("rasters", {b, a});
+    EXPECT_THAT(std::get<std::vector<std::string>>(Value(legend, "rasters")),
+                ElementsAre(Path("b.tif"), Path("a.tif")));
+    EXPECT_THAT(namesShown(), ElementsAre(L"", L"Relief")) << "they go by place";
+    write("rasters", {a});
+    EXPECT_THAT(namesShown(), ElementsAre(L""));
+    ExpectImageIsThePage();
 }
 
 TEST_F(PropertyPanel, ChangesTheExtentOfAMap) {
