@@ -50,6 +50,7 @@ host::PageAbout AboutOf(const Options& options) {
     const std::optional<host::AllowedSources> allowed = AllowedBy(options);
     host::Page page = host::LoadPage(options.pageFile, allowed ? &*allowed : nullptr);
     host::Change(page, options.changes);
+    SayOfPage(options, page);
     return host::WordsOf(page).about;
 }
 
@@ -81,7 +82,7 @@ std::string DrawRows(const Options& options, const SeriesList& list, const Known
     const host::GdiplusSession session;
     Confine(options);
     const host::PageAbout about = AboutOf(options);
-    host::PdfFile file(draft.Descriptor(), {options.dpi, options.mapImages});
+    host::PdfFile file(draft.Descriptor(), {options.dpi, options.print});
     std::size_t drawn = 0;
     for (std::size_t i = 0; i < list.pages.size(); ++i) {
         if (known.fatal.count(i) > 0) {

@@ -121,10 +121,20 @@ OutputFiles::OutputFiles(const Options& options) {
     }
 }
 
+void SayOfPage(const Options& options, host::Page& page) {
+    for (std::string host::PageAbout::*const text :
+         {&host::PageAbout::title, &host::PageAbout::author, &host::PageAbout::subject,
+          &host::PageAbout::keywords}) {
+        const std::string& given = options.about.*text;
+        page.About().*text = given.empty() ? page.About().*text : given;
+    }
+}
+
 host::OpenedPage OpenToDraw(const Options& options) {
     CheckInputsStay(options, host::Page(1.0, 1.0), host::RasterStore());
     host::OpenedPage opened = Open(options);
     CheckInputsStay(options, opened.page, *opened.rasters);
+    SayOfPage(options, opened.page);
     return opened;
 }
 

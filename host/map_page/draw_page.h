@@ -21,6 +21,9 @@ struct OutputFiles {
     std::optional<host::OutputFile> system;  // likewise
 };
 
+/// Has a page say of itself what the options say of it.
+void SayOfPage(const Options& options, host::Page& page);
+
 /// Opens the page that the options ask for, and throws Error where an output would
 /// replace one of its inputs.
 host::OpenedPage OpenToDraw(const Options& options);

@@ -149,6 +149,32 @@ void DeclareSafety(CLI::App& app, Options& options) {
         ->group("Safety");
 }
 
+/// What stands in the properties of a file.
+void DeclareAbout(CLI::App& app, Options& options) {
+    const struct {
+        const char* name;
+        std::string* text;
+        const char* about;
+    } rows[] = {
+        {"--document-title", &options.about.title,
+         "Title in the properties of .pdf files (the page's)"},
+        {"--author", &options.about.author, "Who made the page, likewise"},
+        {"--subject", &options.about.subject, "What it is about, likewise"},
+        {"--keywords", &options.about.keywords, "To find it by, likewise"},
+    };
+    for (const auto& row : rows) {
+        app.add_option(row.name, *row.text, row.about)
+            ->type_name("TEXT")
+            ->group("Properties");
+    }
+    AddChoice(app, "--pdf-standard", options.print.standard,
+              Words<host::PdfStandard>{{"ua-1", host::PdfStandard::Ua1},
+                                       {"a-2u", host::PdfStandard::A2u}},
+              "Whose rules a .pdf keeps: PDF/UA-1, or PDF/A-2u as\nwell (ua-1)")
+        ->type_name("NAME")
+        ->group("Properties");
+}
+
 std::string Version() {
     return "map_page " MAP_SURROUND_VERSION_STRING
            "\nThe process that draws a page file: " +
@@ -179,7 +205,7 @@ void Declare(CLI::App& app, Given& given, Options& options) {
     app.add_option("--save", options.save, "Page file to write, .json; needs no --output")
         ->type_name("FILE");
 
-    AddChoice(app, "--map-images", options.mapImages,
+    AddChoice(app, "--map-images", options.print.mapImages,
               Words<host::MapImages>{{"lossless", host::MapImages::Lossless},
                                      {"jpeg", host::MapImages::Jpeg}},
               "How maps are kept in .pdf, .svg and .ps (lossless)")
@@ -193,7 +219,8 @@ void Declare(CLI::App& app, Given& given, Options& options) {
 
     CLI::Option* const series =
         app.add_option("--series", options.series,
-                       "List of pages, .csv: one page a row; --output has\n{column}s, or is one .pdf for all")
+                       "List of pages, .csv: one page a row; --output has\n{column}s, or "
+                       "is one .pdf for all")
             ->type_name("FILE")
             ->group("Series of a page file");
     app.add_option("--jobs", options.jobs, "Pages drawn at a time (1)")
@@ -213,6 +240,7 @@ void Declare(CLI::App& app, Given& given, Options& options) {
     DeclareScaleBar(app, options);
     DeclareNorthArrow(app, options);
     DeclareSafety(app, options);
+    DeclareAbout(app, options);
 
     app.add_option("--language", given.language,
                    "Of the words of legend and scale bar (the locale's, else en;\nof a "
@@ -290,7 +318,11 @@ void Complete(const CLI::App& app, const Given& given, Options& options) {
     if (!options.output.empty()) {
         options.format = FormatOf(options.output);
     }
-    if (options.mapImages == host::MapImages::Jpeg &&
+    if (app.get_option("--pdf-standard")->count() > 0 &&
+        options.format != host::OutputFormat::Pdf) {
+        throw UsageError("--pdf-standard", "goes with an output in .pdf");
+    }
+    if (options.print.mapImages == host::MapImages::Jpeg &&
         !(options.format && host::IsForPrint(*options.format))) {
         throw UsageError("--map-images", "goes with an output in .pdf, .svg or .ps");
     }
@@ -302,6 +334,13 @@ void Complete(const CLI::App& app, const Given& given, Options& options) {
     }
 
     host::PageDesign& design = options.design;
+    for (const auto& [option, text] :
+         {std::pair("--document-title", &options.about.title),
+          std::pair("--author", &options.about.author),
+          std::pair("--subject", &options.about.subject),
+          std::pair("--keywords", &options.about.keywords)}) {
+        ReadText(option, *text);  // throws for what is no text
+    }
     design.paper = ReadPaper("--size", given.size, given.portrait);
 
     options.titleFamily = given.titleFont;

@@ -7,8 +7,8 @@
 
 #include "page/document/page_changes.h"
 #include "page/layout/page_design.h"
-#include "page/output/map_images.h"
 #include "page/output/output_format.h"
+#include "page/output/print_settings.h"
 #include "system/separate_process.h"
 
 namespace map_page {
@@ -25,7 +25,8 @@ struct Options {
     int jobs = 1;               ///< pages of the series drawn at a time
     host::PageChanges changes;  ///< of the page file's page
     double dpi = 150.0;
-    host::MapImages mapImages = host::MapImages::Lossless;
+    host::PrintSettings print;
+    host::PageAbout about;  ///< what is not empty, the page says of itself
     bool isStrict = false;  ///< a warning is a failure
     host::PageDesign design;
     std::vector<std::string> allowedFolders;  ///< files may be read there, too

@@ -105,6 +105,16 @@ std::string InWords(const std::u32string& missing) {
            "): " + (missing.size() == 1 ? "a box is drawn" : "boxes are drawn");
 }
 
+void AddMissing(const PageItem& item, Chains& chains, std::vector<std::string>& remarks) {
+    std::u32string missing;
+    for (const WrittenText& text : TextsOf(item)) {
+        missing += chains.Of(text).Missing(text.characters);
+    }
+    if (!missing.empty()) {
+        remarks.push_back(NameOf(item) + ": " + InWords(missing));
+    }
+}
+
 }  // namespace
 
 std::vector<WrittenText> TextsOf(const PageItem& item) {
@@ -140,18 +150,21 @@ std::vector<std::string> RemarksOfTexts(const Page& page) {
     std::vector<std::string> remarks;
     Chains chains;
     for (const PageItem& item : page.Items()) {
-        std::u32string missing;
-        for (const WrittenText& text : TextsOf(item)) {
-            missing += chains.Of(text).Missing(text.characters);
-        }
-        if (!missing.empty()) {
-            remarks.push_back(NameOf(item) + ": " + InWords(missing));
-        }
+        AddMissing(item, chains, remarks);
         const auto* const legend = ElementOf<CMapLegend>(item);
         if (legend != nullptr && CutsTexts(*legend)) {
             remarks.push_back(NameOf(item) +
                               ": names or labels are too wide for it, and end in \u2026");
         }
+    }
+    return remarks;
+}
+
+std::vector<std::string> RemarksOfMissing(const Page& page) {
+    std::vector<std::string> remarks;
+    Chains chains;
+    for (const PageItem& item : page.Items()) {
+        AddMissing(item, chains, remarks);
     }
     return remarks;
 }

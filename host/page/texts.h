@@ -28,6 +28,9 @@ void CheckFontsOf(const Page& page);
 /// (U+0F40): a box is drawn", and the legends whose texts are cut.
 std::vector<std::string> RemarksOfTexts(const Page& page);
 
+/// The same of the characters alone.
+std::vector<std::string> RemarksOfMissing(const Page& page);
+
 /// Throws NamedError that names the first item with a font that is there but cannot be
 /// used, for want of memory for one: its text is boxes where it was drawn just now.
 void CheckWritten(const Page& page);

@@ -21,14 +21,14 @@ constexpr std::int64_t kMostImagePixels = 250'000'000;
 
 std::vector<std::uint8_t> EncodeForPrint(const Page& page, OutputFormat format,
                                          double dpi, const Progress& progress,
-                                         MapImages mapImages) {
+                                         const PrintSettings& print) {
     switch (format) {
         case OutputFormat::Pdf:
-            return EncodePdf(page, {dpi, mapImages}, progress);
+            return EncodePdf(page, {dpi, print}, progress);
         case OutputFormat::Svg:
-            return EncodeSvg(page, dpi, progress, mapImages);
+            return EncodeSvg(page, dpi, progress, print.mapImages);
         default:
-            return EncodePostScript(page, dpi, progress, mapImages);
+            return EncodePostScript(page, dpi, progress, print.mapImages);
     }
 }
 
@@ -48,10 +48,10 @@ void CheckPageSize(const Page& page, double dpi) {
 std::vector<std::uint8_t> EncodePage(const Page& page, OutputFormat format, double dpi,
                                      const Progress& progress,
                                      const std::function<void()>& encoding,
-                                     MapImages mapImages) {
+                                     const PrintSettings& print) {
     if (IsForPrint(format)) {
         std::vector<std::uint8_t> file =
-            EncodeForPrint(page, format, dpi, progress, mapImages);
+            EncodeForPrint(page, format, dpi, progress, print);
         CheckWritten(page);
         return file;
     }

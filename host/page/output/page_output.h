@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "page/output/map_images.h"
 #include "page/output/output_format.h"
+#include "page/output/print_settings.h"
 #include "page/page.h"
 
 namespace host {
@@ -18,10 +18,10 @@ void CheckPageSize(const Page& page, double dpi);
 /// The bytes of the file that a page is drawn into. Throws what the page's drawing
 /// throws, and std::runtime_error with the reason when it cannot be encoded.
 /// @param encoding called between drawing an image and encoding it
-/// @param mapImages of formats for print
+/// @param print how formats for print are written
 std::vector<std::uint8_t> EncodePage(const Page& page, OutputFormat format, double dpi,
                                      const Progress& progress = {},
                                      const std::function<void()>& encoding = {},
-                                     MapImages mapImages = MapImages::Lossless);
+                                     const PrintSettings& print = {});
 
 }  // namespace host

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "page/output/cairo_page.h"
+#include "page/output/pdf_archive.h"
 #include "page/output/pdf_finish.h"
 #include "page/units.h"
 #include "system/descriptor.h"
@@ -36,6 +37,10 @@ bool PdfFile::IsGood() const {
 }
 
 void PdfFile::Add(const Page& page, const Progress& progress, const std::string& name) {
+    const bool isArchive = m_settings.print.standard == PdfStandard::A2u;
+    if (isArchive) {
+        CheckForArchive(page);
+    }
     const double width = PointsFromUnits(page.Width());
     const double height = PointsFromUnits(page.Height());
     CairoSurface& surface = m_draft->surface;
@@ -48,7 +53,7 @@ void PdfFile::Add(const Page& page, const Progress& progress, const std::string&
     described.name = name;
     described.isDropped = true;  // until it is drawn
     CairoDrawing how;
-    how.mapImages = m_settings.mapImages;
+    how.mapImages = m_settings.print.mapImages;
     for (const PdfPage::Tagged& item : described.items) {
         how.tagged.insert(item.spoken.item);
     }
@@ -65,7 +70,7 @@ void PdfFile::Add(const Page& page, const Progress& progress, const std::string&
 
 void PdfFile::Finish(const PageAbout& about, const Write& write) {
     FinishSurface(m_draft->surface.get());
-    FinishPdf(m_draft->descriptor, about, m_pages, write);
+    FinishPdf(m_draft->descriptor, about, m_pages, m_settings.print.standard, write);
 }
 
 std::vector<std::uint8_t> EncodePdf(const Page& page, const PdfSettings& settings,

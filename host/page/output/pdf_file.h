@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
-#include "page/output/map_images.h"
 #include "page/output/pdf_page.h"
+#include "page/output/print_settings.h"
 #include "page/page.h"
 
 namespace host {
@@ -16,7 +16,7 @@ namespace host {
 /// How a PDF file is written.
 struct PdfSettings {
     double dpi = 150.0;  ///< of maps: an A4 page is 842 x 595 points at any
-    MapImages mapImages = MapImages::Lossless;
+    PrintSettings print = {};
 };
 
 /// A PDF file of pages in their true size: shapes stay shapes and texts texts, in fonts
@@ -34,8 +34,9 @@ public:
     PdfFile& operator=(const PdfFile&) = delete;
     ~PdfFile();
 
-    /// Draws a page. Throws what its drawing throws, and the file is then without it; and
-    /// std::runtime_error when the draft cannot be written.
+    /// Draws a page. Throws what its drawing throws, and NamedError for a text of which
+    /// no font has a character where PDF/A is asked for, and the file is then without it;
+    /// and std::runtime_error when the draft cannot be written.
     /// @param name of the page in the file, as label and as bookmark; empty: its number,
     /// and its title
     void Add(const Page& page, const Progress& progress = {},

@@ -14,6 +14,7 @@
 #include <string>
 
 #include "map_surround/version.h"
+#include "page/output/pdf_archive.h"
 #include "page/output/pdf_bookmarks.h"
 #include "page/output/pdf_structure.h"
 #include "page/output/pdf_viewports.h"
@@ -52,12 +53,13 @@ std::string Written(const std::optional<std::tm>& moment, const char* format) {
 }
 
 /// Says what the file is in both of the ways in which programs look for it.
-void Describe(QPDF& pdf, const PageAbout& about) {
+void Describe(QPDF& pdf, const PageAbout& about, PdfStandard standard) {
     const std::optional<std::tm> moment = Moment();
     Handle draft = pdf.getTrailer().getKey("/Info").getKey("/Producer");
     const FileFacts facts = {draft.isString() ? draft.getUTF8Value() : "",
                              "map_surround " MAP_SURROUND_VERSION_STRING,
-                             Written(moment, "%Y-%m-%dT%H:%M:%SZ")};
+                             Written(moment, "%Y-%m-%dT%H:%M:%SZ"),
+                             standard == PdfStandard::A2u};
     Handle info = Handle::newDictionary();
     const auto set = [&info](const char* key, const std::string& text) {
         if (!text.empty()) {
@@ -149,6 +151,7 @@ std::vector<PdfPage> WithoutDropped(QPDF& pdf, const std::vector<PdfPage>& drawn
 }  // namespace
 
 void FinishPdf(int draft, const PageAbout& about, const std::vector<PdfPage>& drawn,
+               PdfStandard standard,
                const std::function<void(const std::vector<std::uint8_t>&)>& write) {
     std::FILE* const file = fdopen(dup(draft), "rb");
     if (file == nullptr) {
@@ -160,12 +163,15 @@ void FinishPdf(int draft, const PageAbout& about, const std::vector<PdfPage>& dr
     constexpr bool kClose = true;
     pdf.processFile("page", file, kClose);
     const std::vector<PdfPage> pages = WithoutDropped(pdf, drawn);
-    Describe(pdf, about);
+    Describe(pdf, about, standard);
     NumberGlyphs(pdf);
     WriteStructure(pdf, pages);
     AddBookmarks(pdf, pages);
     for (std::size_t i = 0; i < pages.size(); ++i) {
         AddViewports(pdf, pdf.getAllPages()[i], pages[i].maps, pages[i].dpi);
+    }
+    if (standard == PdfStandard::A2u) {
+        MakeArchive(pdf);
     }
     Pieces pieces(write);
     Write(pdf, pieces);

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "page/output/pdf_page.h"
+#include "page/output/print_settings.h"
 
 namespace host {
 
@@ -18,8 +19,10 @@ namespace host {
 /// @param draft descriptor of the file; read from its beginning
 /// @param about the file as a whole
 /// @param drawn its pages, as Cairo drew them
+/// @param standard whose rules it keeps
 /// @param write takes the file, piece by piece
 void FinishPdf(int draft, const PageAbout& about, const std::vector<PdfPage>& drawn,
+               PdfStandard standard,
                const std::function<void(const std::vector<std::uint8_t>&)>& write);
 
 }  // namespace host

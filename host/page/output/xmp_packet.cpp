@@ -3,6 +3,26 @@
 namespace host {
 namespace {
 
+/// What it is, and the property of PDF/UA, which PDF/A does not know by itself.
+constexpr const char* kArchive = R"(<pdfaid:part>2</pdfaid:part>
+<pdfaid:conformance>U</pdfaid:conformance>
+<pdfaExtension:schemas xmlns:pdfaExtension="http://www.aiim.org/pdfa/ns/extension/"
+ xmlns:pdfaSchema="http://www.aiim.org/pdfa/ns/schema#"
+ xmlns:pdfaProperty="http://www.aiim.org/pdfa/ns/property#">
+<rdf:Bag><rdf:li rdf:parseType="Resource">
+<pdfaSchema:schema>PDF/UA identification schema</pdfaSchema:schema>
+<pdfaSchema:namespaceURI>http://www.aiim.org/pdfua/ns/id/</pdfaSchema:namespaceURI>
+<pdfaSchema:prefix>pdfuaid</pdfaSchema:prefix>
+<pdfaSchema:property><rdf:Seq><rdf:li rdf:parseType="Resource">
+<pdfaProperty:name>part</pdfaProperty:name>
+<pdfaProperty:valueType>Integer</pdfaProperty:valueType>
+<pdfaProperty:category>internal</pdfaProperty:category>
+<pdfaProperty:description>Part of ISO 14289</pdfaProperty:description>
+</rdf:li></rdf:Seq></pdfaSchema:property>
+</rdf:li></rdf:Bag>
+</pdfaExtension:schemas>
+)";
+
 std::string Escaped(const std::string& text) {
     std::string escaped;
     for (const char c : text) {
@@ -52,8 +72,10 @@ std::string XmpPacket(const PageAbout& about, const FileFacts& facts) {
            " xmlns:dc=\"http://purl.org/dc/elements/1.1/\""
            " xmlns:pdf=\"http://ns.adobe.com/pdf/1.3/\""
            " xmlns:xmp=\"http://ns.adobe.com/xap/1.0/\""
-           " xmlns:pdfuaid=\"http://www.aiim.org/pdfua/ns/id/\">\n"
-           "<pdfuaid:part>1</pdfuaid:part>\n"
+           " xmlns:pdfuaid=\"http://www.aiim.org/pdfua/ns/id/\""
+           " xmlns:pdfaid=\"http://www.aiim.org/pdfa/ns/id/\">\n"
+           "<pdfuaid:part>1</pdfuaid:part>\n" +
+           std::string(facts.isArchive ? kArchive : "") +
            "<dc:format>application/pdf</dc:format>\n" +
            InLanguages("dc:title", about.title) +
            Listed("dc:creator", "Seq", about.author) +

@@ -11,6 +11,7 @@ struct FileFacts {
     std::string producer;  ///< the library that wrote it
     std::string creator;   ///< the program that had it written
     std::string date;      ///< "2026-11-22T18:00:00Z"; empty for none
+    bool isArchive;        ///< whether it is PDF/A-2u, and not PDF/UA-1 alone
 };
 
 /// The words of a page and the facts of its file as an XMP packet.

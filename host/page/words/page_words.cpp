@@ -14,6 +14,15 @@
 namespace host {
 namespace {
 
+/// As long as any text of a page file, at most.
+std::wstring Shortened(std::wstring text) {
+    constexpr std::size_t kMost = 10'000;
+    if (text.size() > kMost) {
+        text.replace(kMost - 1, std::wstring::npos, L"\u2026");
+    }
+    return text;
+}
+
 /// On one line, as a list of files or a window's frame shows it.
 std::string OnOneLine(std::string text) {
     for (char& c : text) {
@@ -132,8 +141,9 @@ PageWords WordsOf(const Page& page) {
         SpokenItem spoken{i, line == nullptr ? Role::Figure : Role::Text,
                           GivenText(item)};
         if (spoken.text.empty()) {
-            spoken.text = Narrow(line == nullptr ? AlternativeText(page, item, language)
-                                                 : line->GetFontValue());
+            spoken.text =
+                Narrow(line == nullptr ? Shortened(AlternativeText(page, item, language))
+                                       : line->GetFontValue());
         }
         const bool isHeading = line != nullptr && line == heading;
         spoken.role = isHeading ? Role::Heading : spoken.role;

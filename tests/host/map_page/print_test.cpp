@@ -256,6 +256,36 @@ TEST_F(Print, IsReadAloudInThePagesLanguage) {
     }
 }
 
+TEST_F(Print, KeepsTheRulesOfPdfAWhereThatIsAsked) {
+    const auto wrong = [&] { return host_tests::AgainstPdfA(folder.Path("page.pdf")); };
+    ASSERT_EQ(Draw("page.pdf").status, 0);
+    EXPECT_THAT(wrong(), ::testing::Contains("no output intent"));
+    const Arguments archive = {"--pdf-standard", "a-2u"};
+    ASSERT_EQ(Draw("page.pdf", archive).status, 0);
+    EXPECT_THAT(wrong(), ::testing::IsEmpty());
+    EXPECT_THAT(host_tests::AgainstPdfUa(folder.Path("page.pdf")), ::testing::IsEmpty());
+    const std::string first = ContentsOf(folder.Path("page.pdf"));
+    ASSERT_EQ(Draw("page.pdf", archive).status, 0);
+    EXPECT_TRUE(ContentsOf(folder.Path("page.pdf")) == first);
+    EXPECT_THAT(Draw("page.pdf", archive, "\u0F40").err,
+                ::testing::HasSubstr("a box is drawn, which PDF/A does not allow"));
+}
+
+TEST_F(Print, SaysOfItselfWhatOptionsSay) {
+    ASSERT_EQ(Draw("page.pdf", {"--author", "N. <N>", "--subject", "A & B", "--keywords",
+                                "sea, land", "--document-title", "Küste"})
+                  .status,
+              0);
+    const std::string info = "\n" + Said("pdfinfo " + folder.Path("page.pdf"));
+    EXPECT_EQ(After(info, "Title:"), "Küste");
+    EXPECT_EQ(After(info, "Author:"), "N. <N>");
+    EXPECT_EQ(After(info, "Subject:"), "A & B");
+    EXPECT_EQ(After(info, "Keywords:"), "sea, land");
+    const std::string metadata = Said("pdfinfo -meta " + folder.Path("page.pdf"));
+    EXPECT_TRUE(Holds(metadata, "<rdf:li>N. &lt;N&gt;</rdf:li>")) << metadata;
+    EXPECT_TRUE(Holds(metadata, "A &amp; B")) << metadata;
+}
+
 TEST_F(Print, NeedsNoOtherProgram) {
     const host_tests::RunningMapPage running(folder, {"scene.tif", "-o", "page.pdf"},
                                              [] { setenv("PATH", "/nowhere", 1); });

@@ -58,6 +58,9 @@ TEST_F(WrongCall, IsToldInOneLine) {
     const ErrorRow rows[] = {
         {2, "--map-images: goes with an output in .pdf, .svg or .ps",
          with({"--map-images", "jpeg"})},
+        {2, "--pdf-standard: goes with an output in .pdf",
+         with({"--pdf-standard", "a-2u"})},
+        {2, "--author: is not valid UTF-8", with({"--author", "\xFF\xFE"})},
         {1, "missing.tif: *", {"missing.tif", "-o", "page.png"}},
         {1, "text.tif: *", {"text.tif", "-o", "page.png"}},
         {1, "folder: *", {"folder", "-o", "page.png"}},

@@ -86,6 +86,12 @@ TEST_F(PageText, WrongPagesAreToldInOneLineThatNamesThePlace) {
         {R"({"version": 1, "width": 400, "height": 75})",
          "height: must be from 20 to 5000 mm in units of 1/96 inch"},
         {R"({"version": 1, "width": 400, "height": 300})", "elements: is missing"},
+        {R"({"version": 3, "width": 400, "height": 300, "author": 5})",
+         "author: must be a text"},
+        {R"({"version": 3, "width": 400, "height": 300, "title": "a\u0000"})",
+         "title: must be text without zero characters"},
+        {R"({"version": 3, "width": 400, "height": 300, "language": "tlh"})",
+         "language: must be the code of a language that pages have"},
         {R"({"version": 1, "width": 400, "height": 300, "elements": {}})",
          "elements: must be a list"},
         // No element.
@@ -189,9 +195,13 @@ TEST_F(PageText, PagesOfEveryTypeTakeTheSameBytesAgain) {
     for (const host::ItemType& type : host::ItemTypes()) {
         page.Items().push_back(type.make());
     }
+    page.About() = {"Küste", "N. N.", "A map", "sea, land", "ja"};
     const FilePaths paths(folder.Path("page.json"));
     const std::string text = WritePage(page, paths);
     const host::Page again = ReadPage(text, paths);
+    EXPECT_EQ(again.About().title + again.About().author + again.About().subject +
+                  again.About().keywords + again.About().language,
+              "KüsteN. N.A mapsea, landja");
     EXPECT_EQ(again.Width(), 793.7007874015749);
     EXPECT_EQ(again.Height(), 1122.5196850393702);
     EXPECT_EQ(again.Items().size(), host::ItemTypes().size());
