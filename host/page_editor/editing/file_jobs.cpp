@@ -119,7 +119,7 @@ std::string DrawPage(const std::string& input, const host::Progress& progress) {
         host::ParseNumber(fields.at(2), dpi);
         return StringOf(host::EncodePage(
             page, static_cast<host::OutputFormat>(std::stoi(fields.at(1))), dpi, progress,
-            {}, static_cast<host::MapImages>(std::stoi(fields.at(4)))));
+            {}, {static_cast<host::MapImages>(std::stoi(fields.at(4)))}));
     });
 }
 
