@@ -37,6 +37,24 @@ CMapLegend InColour() {
     return legend;
 }
 
+CMapLegend InColumns() {
+    CMapLegend legend = Titled(L"Legend");
+    legend.SetSourceCaption(L"");
+    legend.SetBandCaption(L"Band ");
+    legend.SetHighCaption(L"");
+    legend.SetLowCaption(L"");
+    legend.SetAlignedLabels(true);
+    legend.SetGap(0.8f);
+    legend.SetColumns(2);
+    legend.SetMostWidth(140.0f);
+    legend.SetMostLines(2);
+    legend.SetShownSources({{L"Elevation in metres",
+                             true,
+                             {Gdiplus::Color(0xFF7A3E2B), Gdiplus::Color(0xFFC9D36A),
+                              Gdiplus::Color(0xFF2E6B4F)}}});
+    return legend;
+}
+
 }  // namespace
 
 gallery::Sheet gallery::DrawLegends() {
@@ -52,7 +70,8 @@ gallery::Sheet gallery::DrawLegends() {
     Add(sheet, L"fonts and colours; entries stay in Arial", InColour(),
         Of(LandCover(L"land_cover.tif")));
     Add(sheet, L"at 1.6 times the scale", Titled(L"Legend"), Of(Scene()), 1.6);
-    Add(sheet, L"at half the scale", Titled(L"Legend"), Of(Elevation()), 0.5);
+    Add(sheet, L"in columns and lines, a ramp in colours", InColumns(),
+        Of(Elevation(), LandCover(L"cover_in_the_year_2024.tif"), Scene()));
     Add(sheet, L"without sources", Titled(L"Legend"), {});
     return sheet;
 }

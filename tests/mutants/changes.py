@@ -98,10 +98,10 @@ class Finder:
 
     def number(self, token):
         if token.text.lower().startswith("0x"):
-            value = int(token.text, 16)
-            for change in (1, 1 << 24) if len(token.text) == 10 else (1,):
-                new = f"0x{value ^ change:0{len(token.text) - 2}X}"
-                yield Change(token.start, token.end, new, "constant")
+            digits = token.text.rstrip("uUlL")
+            for change in (1, 1 << 24) if len(digits) == 10 else (1,):
+                new = f"0x{int(digits, 16) ^ change:0{len(digits) - 2}X}"
+                yield Change(token.start, token.end, new + token.text[len(digits):], "constant")
             return
         digits, suffix = re.fullmatch(r"([\d.]+(?:[eE][+-]?\d+)?)(\w*)", token.text).groups()
         if digits.isdigit():

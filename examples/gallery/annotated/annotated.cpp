@@ -102,6 +102,7 @@ const std::vector<Picture>& Pictures() {
         {L"picture", DrawPicture},
         {L"legend", DrawLegend},
         {L"legend_ramp", DrawLegendRamp},
+        {L"legend_columns", DrawLegendColumns},
         {L"frame", DrawFrame},
         {L"north_arrow_one", DrawOneAngle},
         {L"north_arrow_two", DrawTwoAngle},

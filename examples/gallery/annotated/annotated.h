@@ -53,6 +53,7 @@ Drawing DrawTitle();
 Drawing DrawPicture();
 Drawing DrawLegend();
 Drawing DrawLegendRamp();
+Drawing DrawLegendColumns();
 Drawing DrawFrame();
 Drawing DrawOneAngle();
 Drawing DrawTwoAngle();

@@ -33,9 +33,13 @@ struct Lengths {
             .Height;
 };
 
-/// Draws a legend in the middle and answers where its rectangle begins.
-CPoint Draw(Drawing& drawing, CPoint centre, Rasters rasters) {
-    CMapLegend legend;
+/// Where a drawn legend's rectangle begins, and how wide it is.
+struct Outlined : CPoint {
+    int width;
+};
+
+/// Draws a legend in the middle.
+Outlined Draw(Drawing& drawing, CPoint centre, Rasters rasters, CMapLegend legend = {}) {
     legend.SetTitleValue(kTitle);
     legend.SetTitleColor(Gdiplus::Color(0xFF9AA6B2));
     legend.SetFileColor(Gdiplus::Color(0xFF9AA6B2));
@@ -50,7 +54,7 @@ CPoint Draw(Drawing& drawing, CPoint centre, Rasters rasters) {
                      {centre.x + halfWidth, topLeft.y},
                      {centre.x + halfWidth, topLeft.y + height},
                      {topLeft.x, topLeft.y + height}});
-    return topLeft;
+    return {topLeft, 2 * halfWidth};
 }
 
 /// The lengths from the top of a legend to its first entry, which it answers.
@@ -105,6 +109,43 @@ Drawing DrawLegendRamp() {
     const int high = ramp + length.row / 2;
     drawing.Mark(at.x + length.swatchWidth * 18 / 10, low, L"low value", -76, -14);
     drawing.Mark(at.x + length.swatchWidth * 18 / 10, high, L"high value", -80, 4);
+    return drawing;
+}
+
+Drawing DrawLegendColumns() {
+    constexpr int kColumns = 2;
+    Drawing drawing(760, 440);
+    CMapLegend legend;
+    legend.SetColumns(kColumns);
+    legend.SetMostWidth(135.0f);
+    legend.SetMostLines(2);
+    legend.SetAlignedLabels(true);
+    legend.SetSourceCaption(L"");
+    legend.SetHighCaption(L"");
+    legend.SetLowCaption(L"");
+    const Gdiplus::Color low(0xFF2E6B4F);
+    const Gdiplus::Color middle(0xFFC9D36A);
+    const Gdiplus::Color high(0xFF7A3E2B);
+    legend.SetShownSources({{L"", true, {high, middle, low}}});
+    Rasters rasters = Of(
+        Elevation(), Raster::Classified(L"cover_of_2024.tif",
+                                        {{L"Water", Gdiplus::Color(0xFF4A7FB5)},
+                                         {L"Mangrove swamp", Gdiplus::Color(0xFF2E6B4F)},
+                                         {L"Sugar cane", Gdiplus::Color(0xFFC9D36A)},
+                                         {L"Built-up", Gdiplus::Color(0xFFB5574A)}}));
+    const Outlined at = Draw(drawing, CPoint(370, 190), std::move(rasters), legend);
+    const int gap = Lengths().swatchWidth / 2;
+    const int column = (at.width - (kColumns - 1) * gap) / kColumns;
+    const int below = 400;
+    for (int i = 0; i < kColumns; ++i) {
+        const int x = at.x + i * (column + gap);
+        drawing.Guide(x, at.y, x, below + 10);
+        drawing.Guide(x + column, at.y, x + column, below + 10);
+        drawing.Across(x, x + column, below, i == 0 ? L"the widest" : L"as wide");
+        if (i > 0) {
+            drawing.Across(x - gap, x, below - 26, L"½ swatch");
+        }
+    }
     return drawing;
 }
 
