@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 #include <memory>
+#include <mutex>
 #include <utility>
 
 namespace host {
@@ -37,33 +38,26 @@ std::optional<MapPoint> Transformed(OGRCoordinateTransformation& way, MapPoint p
 /// The ellipsoid under a map, and the way there and back.
 class MapGround::Ellipsoid {
 public:
+    /// The same one as long as the same is asked for, as of one page: to make one takes
+    /// milliseconds.
     static std::shared_ptr<const Ellipsoid> Of(const std::string& projection) {
-        OGRSpatialReference system;
-        if (!ReadSystem(projection, system)) {
-            return nullptr;
+        struct Last {
+            std::mutex mutex;
+            std::string projection;
+            std::shared_ptr<const Ellipsoid> ellipsoid;
+        };
+        // Never gone: at the end of a process, what it needs of PROJ may be already.
+        static Last& last = *new Last;
+        const std::lock_guard<std::mutex> lock(last.mutex);
+        if (last.ellipsoid == nullptr || last.projection != projection) {
+            last.ellipsoid = Made(projection);
+            last.projection = projection;
         }
-        const std::unique_ptr<OGRSpatialReference> geographic(system.CloneGeogCS());
-        if (geographic == nullptr) {
-            return nullptr;
-        }
-        geographic->SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
-        auto ellipsoid = std::make_shared<Ellipsoid>();
-        ellipsoid->m_toPlace.reset(
-            OGRCreateCoordinateTransformation(&system, geographic.get()));
-        ellipsoid->m_toMap.reset(
-            OGRCreateCoordinateTransformation(geographic.get(), &system));
-        if (ellipsoid->m_toPlace == nullptr || ellipsoid->m_toMap == nullptr) {
-            return nullptr;
-        }
-        ellipsoid->m_degreesPerUnit = geographic->GetAngularUnits() * kDegrees;
-        const double inverseFlattening = system.GetInvFlattening();
-        geod_init(&ellipsoid->m_geodesic, system.GetSemiMajor(),
-                  inverseFlattening == 0.0 ? 0.0 : 1.0 / inverseFlattening);
-        return ellipsoid;
+        return last.ellipsoid;
     }
 
     std::optional<MapPlace> PlaceOf(MapPoint point) const {
-        const std::optional<MapPoint> place = Transformed(*m_toPlace, point);
+        const std::optional<MapPoint> place = Way(*m_toPlace, point);
         if (!place) {
             return std::nullopt;
         }
@@ -71,8 +65,8 @@ public:
     }
 
     std::optional<MapPoint> PointOf(const MapPlace& place) const {
-        return Transformed(*m_toMap, {place.longitude / m_degreesPerUnit,
-                                      place.latitude / m_degreesPerUnit});
+        return Way(*m_toMap, {place.longitude / m_degreesPerUnit,
+                              place.latitude / m_degreesPerUnit});
     }
 
     /// The place that many metres due north.
@@ -98,6 +92,40 @@ public:
     }
 
 private:
+    static std::shared_ptr<const Ellipsoid> Made(const std::string& projection) {
+        OGRSpatialReference system;
+        if (!ReadSystem(projection, system)) {
+            return nullptr;
+        }
+        const std::unique_ptr<OGRSpatialReference> geographic(system.CloneGeogCS());
+        if (geographic == nullptr) {
+            return nullptr;
+        }
+        geographic->SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
+        auto ellipsoid = std::make_shared<Ellipsoid>();
+        ellipsoid->m_toPlace.reset(
+            OGRCreateCoordinateTransformation(&system, geographic.get()));
+        if (ellipsoid->m_toPlace == nullptr) {
+            return nullptr;
+        }
+        ellipsoid->m_toMap.reset(ellipsoid->m_toPlace->GetInverse());
+        if (ellipsoid->m_toMap == nullptr) {
+            return nullptr;
+        }
+        ellipsoid->m_degreesPerUnit = geographic->GetAngularUnits() * kDegrees;
+        const double inverseFlattening = system.GetInvFlattening();
+        geod_init(&ellipsoid->m_geodesic, system.GetSemiMajor(),
+                  inverseFlattening == 0.0 ? 0.0 : 1.0 / inverseFlattening);
+        return ellipsoid;
+    }
+
+    /// One thread at a time goes there or back.
+    std::optional<MapPoint> Way(OGRCoordinateTransformation& way, MapPoint point) const {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        return Transformed(way, point);
+    }
+
+    mutable std::mutex m_mutex;
     std::unique_ptr<OGRCoordinateTransformation> m_toPlace;
     std::unique_ptr<OGRCoordinateTransformation> m_toMap;
     double m_degreesPerUnit = 1.0;
