@@ -43,7 +43,7 @@ std::string WriteInto(const Options& options, const host::Page& page,
         };
         const std::vector<std::uint8_t> bytes = host::EncodePage(
             page, *options.format, options.dpi, show,
-            [&line] { line.Begin("encoding the image"); }, options.print);
+            [&line] { line.Begin("encoding the page"); }, options.print);
         line.Begin("writing the file");
         output.Write(bytes);
     });

@@ -71,7 +71,7 @@ std::vector<std::size_t> DrawOnCairo(cairo_surface_t* surface, const Page& page,
                           }
                           DrawMapImage(surface, *map,
                                        view.ToDevice(map->frame.GetExtent()), dpi,
-                                       how.mapImages, progress);
+                                       how.print.mapImages, progress);
                       };
                       if (how.tagged.count(item) == 0) {
                           drawItem();
@@ -81,6 +81,9 @@ std::vector<std::size_t> DrawOnCairo(cairo_surface_t* surface, const Page& page,
                       tags.push_back(item);
                       drawItem();
                   });
+    }
+    if (how.print.drawn) {
+        how.print.drawn();
     }
     cairo_show_page(cairo.get());
     CheckCairo(cairo_status(cairo.get()));

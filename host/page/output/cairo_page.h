@@ -11,7 +11,7 @@
 #include <set>
 #include <vector>
 
-#include "page/output/map_images.h"
+#include "page/output/print_settings.h"
 #include "page/page.h"
 
 namespace host {
@@ -33,7 +33,7 @@ void CheckCairo(cairo_status_t status);
 struct CairoDrawing {
     /// The items whose content is tagged on the surface, as one figure each.
     std::set<std::size_t> tagged = {};
-    MapImages mapImages = MapImages::Lossless;
+    PrintSettings print = {};
     /// Called with what draws, before it does.
     std::function<void(Gdiplus::CairoGraphics&)> prepare = {};
 };

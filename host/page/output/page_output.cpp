@@ -26,9 +26,9 @@ std::vector<std::uint8_t> EncodeForPrint(const Page& page, OutputFormat format,
         case OutputFormat::Pdf:
             return EncodePdf(page, {dpi, print}, progress);
         case OutputFormat::Svg:
-            return EncodeSvg(page, dpi, progress, print.mapImages);
+            return EncodeSvg(page, dpi, progress, print);
         default:
-            return EncodePostScript(page, dpi, progress, print.mapImages);
+            return EncodePostScript(page, dpi, progress, print);
     }
 }
 
@@ -50,8 +50,10 @@ std::vector<std::uint8_t> EncodePage(const Page& page, OutputFormat format, doub
                                      const std::function<void()>& encoding,
                                      const PrintSettings& print) {
     if (IsForPrint(format)) {
+        PrintSettings settings = print;
+        settings.drawn = encoding;
         std::vector<std::uint8_t> file =
-            EncodeForPrint(page, format, dpi, progress, print);
+            EncodeForPrint(page, format, dpi, progress, settings);
         CheckWritten(page);
         return file;
     }

@@ -17,7 +17,7 @@ void CheckPageSize(const Page& page, double dpi);
 
 /// The bytes of the file that a page is drawn into. Throws what the page's drawing
 /// throws, and std::runtime_error with the reason when it cannot be encoded.
-/// @param encoding called between drawing an image and encoding it
+/// @param encoding called between drawing the page and encoding it
 /// @param print how formats for print are written
 std::vector<std::uint8_t> EncodePage(const Page& page, OutputFormat format, double dpi,
                                      const Progress& progress = {},

@@ -53,7 +53,7 @@ void PdfFile::Add(const Page& page, const Progress& progress, const std::string&
     described.name = name;
     described.isDropped = true;  // until it is drawn
     CairoDrawing how;
-    how.mapImages = m_settings.print.mapImages;
+    how.print = m_settings.print;
     for (const PdfPage::Tagged& item : described.items) {
         how.tagged.insert(item.spoken.item);
     }

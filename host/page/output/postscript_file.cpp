@@ -99,14 +99,14 @@ Bytes TellingSize(const Bytes& file, double width, double height) {
 
 std::vector<std::uint8_t> EncodePostScript(const Page& page, double dpi,
                                            const Progress& progress,
-                                           MapImages mapImages) {
+                                           const PrintSettings& print) {
     const double width = PointsFromUnits(page.Width());
     const double height = PointsFromUnits(page.Height());
     Bytes file;
     const CairoSurface surface =
         Owned(cairo_ps_surface_create_for_stream(AppendToBytes, &file, width, height));
     CairoDrawing how;
-    how.mapImages = mapImages;
+    how.print = print;
     DrawOnCairo(surface.get(), page, dpi, progress, how);
     FinishSurface(surface.get());
     return TellingSize(file, width, height);

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "page/output/map_images.h"
+#include "page/output/print_settings.h"
 #include "page/page.h"
 
 namespace host {
@@ -14,6 +14,6 @@ namespace host {
 /// @param dpi the resolution of maps: an A4 page is 842 x 595 points at any
 std::vector<std::uint8_t> EncodePostScript(const Page& page, double dpi,
                                            const Progress& progress = {},
-                                           MapImages mapImages = MapImages::Lossless);
+                                           const PrintSettings& print = {});
 
 }  // namespace host

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "page/output/map_images.h"
 
 namespace host {
@@ -14,6 +16,8 @@ enum class PdfStandard {
 struct PrintSettings {
     MapImages mapImages = MapImages::Lossless;
     PdfStandard standard = PdfStandard::Ua1;  ///< of PDF files
+    /// Called when a page has been drawn and is written next, which packs its images.
+    std::function<void()> drawn = {};
 };
 
 }  // namespace host

@@ -89,14 +89,15 @@ std::vector<std::uint8_t> WithWords(const std::vector<std::uint8_t>& draft,
 }  // namespace
 
 std::vector<std::uint8_t> EncodeSvg(const Page& page, double dpi,
-                                    const Progress& progress, MapImages mapImages) {
+                                    const Progress& progress,
+                                    const PrintSettings& print) {
     std::vector<std::uint8_t> draft;
     const CairoSurface surface = Owned(cairo_svg_surface_create_for_stream(
         AppendToBytes, &draft, PointsFromUnits(page.Width()),
         PointsFromUnits(page.Height())));
     SvgWords words;
     CairoDrawing how;
-    how.mapImages = mapImages;
+    how.print = print;
     how.prepare = [&words](Gdiplus::CairoGraphics& graphics) {
         words.ListenTo(graphics);
     };

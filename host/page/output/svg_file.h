@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "page/output/map_images.h"
+#include "page/output/print_settings.h"
 #include "page/page.h"
 
 namespace host {
@@ -16,6 +16,6 @@ namespace host {
 /// @param dpi the resolution of maps
 std::vector<std::uint8_t> EncodeSvg(const Page& page, double dpi,
                                     const Progress& progress = {},
-                                    MapImages mapImages = MapImages::Lossless);
+                                    const PrintSettings& print = {});
 
 }  // namespace host
