@@ -25,10 +25,15 @@ public:
     void handleObject(Handle object, std::size_t offset, std::size_t length) override {
         if (!object.isOperator()) {
             m_operands = std::min(m_operands, offset);
+            m_isNumbered = object.isDictionary() && object.hasKey("/MCID");
             return;
         }
         const std::string name = object.getOperatorValue();
-        if (name == "BDC") {
+        if (name == "BDC" && !m_isNumbered) {
+            ++m_spans;  // of a text, within a tag
+        } else if (name == "EMC" && m_spans > 0) {
+            --m_spans;
+        } else if (name == "BDC") {
             Copy(std::min(m_operands, offset), true);
             m_text += TagAt(m_count) + " <</MCID " + std::to_string(m_count) + ">> BDC\n";
             ++m_count;
@@ -71,6 +76,8 @@ private:
     std::string m_text;
     std::size_t m_copied = 0;                    // of the content
     std::size_t m_operands = std::string::npos;  // where those of an operator begin
+    bool m_isNumbered = false;                   // the last operand
+    std::size_t m_spans = 0;                     // that are open
     std::size_t m_count = 0;                     // tags so far
     bool m_paints = false;                       // since the last one
 };

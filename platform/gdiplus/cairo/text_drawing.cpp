@@ -65,7 +65,8 @@ double Enlargement(const cairo_matrix_t& matrix) {
 }
 
 /// The glyphs of a run moved by (x, y), those left out that are nowhere near a surface.
-void Move(const GlyphRun& run, double x, double y, std::vector<cairo_glyph_t>& moved) {
+/// @return whether all are there
+bool Move(const GlyphRun& run, double x, double y, std::vector<cairo_glyph_t>& moved) {
     constexpr double most = 1 << 21;
     moved.clear();
     for (const cairo_glyph_t& glyph : run.glyphs) {
@@ -73,6 +74,23 @@ void Move(const GlyphRun& run, double x, double y, std::vector<cairo_glyph_t>& m
         if (std::fabs(there.x) < most && std::fabs(there.y) < most) {
             moved.push_back(there);
         }
+    }
+    return moved.size() == run.glyphs.size();
+}
+
+/// With what they stand for, where the surface keeps texts.
+void Show(cairo_t* cairo, const GlyphRun& run, const std::vector<cairo_glyph_t>& glyphs,
+          bool isWhole) {
+    const auto count = static_cast<int>(glyphs.size());
+    if (isWhole &&
+        cairo_surface_has_show_text_glyphs(cairo_get_group_target(cairo)) != 0) {
+        cairo_show_text_glyphs(
+            cairo, run.text.data(), static_cast<int>(run.text.size()), glyphs.data(),
+            count, run.clusters.data(), static_cast<int>(run.clusters.size()),
+            run.isBackward ? CAIRO_TEXT_CLUSTER_FLAG_BACKWARD
+                           : static_cast<cairo_text_cluster_flags_t>(0));
+    } else {
+        cairo_show_glyphs(cairo, glyphs.data(), count);
     }
 }
 
@@ -82,7 +100,7 @@ void WriteGlyphs(Graphics& graphics, const TextLayout& layout, double x, double 
     cairo_t* const cairo = graphics.cairo;
     thread_local std::vector<cairo_glyph_t> moved;
     for (const GlyphRun& run : layout.runs) {
-        Move(run, x, y, moved);
+        const bool isWhole = Move(run, x, y, moved);
         const SizedFace& face = *run.face;
         if (upright) {
             cairo_set_scaled_font(cairo, face.glyphs.get());
@@ -92,7 +110,7 @@ void WriteGlyphs(Graphics& graphics, const TextLayout& layout, double x, double 
             cairo_set_font_options(cairo,
                                    OptionsFor(*face.face->file, face.fit, true).get());
         }
-        cairo_show_glyphs(cairo, moved.data(), static_cast<int>(moved.size()));
+        Show(cairo, run, moved, isWhole);
     }
 }
 

@@ -21,7 +21,9 @@ std::size_t TextLayout::Bytes() const {
     std::size_t bytes =
         sizeof *this + strokes.size() * sizeof strokes[0] + laid.size() * sizeof laid[0];
     for (const GlyphRun& run : runs) {
-        bytes += sizeof run + run.glyphs.capacity() * sizeof(cairo_glyph_t);
+        bytes += sizeof run + run.glyphs.capacity() * sizeof(cairo_glyph_t) +
+                 run.text.capacity() +
+                 run.clusters.capacity() * sizeof(cairo_text_cluster_t);
     }
     return bytes;
 }

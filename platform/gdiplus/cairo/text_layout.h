@@ -31,6 +31,11 @@ bool operator==(const TextStyle& a, const TextStyle& b);
 struct GlyphRun {
     std::shared_ptr<SizedFace> face;
     std::vector<cairo_glyph_t> glyphs;
+    /// What they stand for in UTF-8, and how many of them for which of its bytes, in its
+    /// order: so a file has the text and not only its shapes.
+    std::string text = {};
+    std::vector<cairo_text_cluster_t> clusters = {};
+    bool isBackward = false;  ///< the text begins with the last glyph
 };
 
 /// A line of a text, its code points and where it stands.

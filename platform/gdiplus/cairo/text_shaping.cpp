@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "cairo/unicode.h"
+
 namespace engine {
 namespace {
 
@@ -61,6 +63,48 @@ bool IsCommon(hb_script_t script) {
 
 /// What has no shape and takes no room.
 bool IsSilent(char32_t c) { return c < 0x20 || c == 0x7F; }
+
+/// Which characters of an item are written with which glyphs: a cluster of some of the
+/// one with some of the other, as the font has them.
+class Clusters {
+public:
+    Clusters(std::size_t start, std::size_t end)
+        : start_(start), glyphs_(end - start, -1) {}
+
+    /// One begins with a character.
+    void Begin(std::size_t at) {
+        int& glyphs = glyphs_[at - start_];
+        glyphs = std::max(glyphs, 0);
+    }
+    void AddGlyph(std::size_t at) { ++glyphs_[at - start_]; }
+
+    /// Those that have glyphs.
+    void Write(const std::u32string& text, GlyphRun& run) const {
+        for (std::size_t from = 0; from < glyphs_.size();) {
+            std::size_t to = from + 1;
+            while (to < glyphs_.size() && glyphs_[to] < 0) {
+                ++to;
+            }
+            if (glyphs_[from] > 0) {
+                std::u32string part = text.substr(start_ + from, to - from);
+                std::replace_if(part.begin(), part.end(), IsNoCharacter, U'\uFFFD');
+                const std::string utf8 = Utf8(part);
+                run.text += utf8;
+                run.clusters.push_back({static_cast<int>(utf8.size()), glyphs_[from]});
+            }
+            from = to;
+        }
+    }
+
+private:
+    /// Which Cairo does not take for text.
+    static bool IsNoCharacter(char32_t c) {
+        return (c & 0xFFFE) == 0xFFFE || (c >= 0xFDD0 && c <= 0xFDEF);
+    }
+
+    std::size_t start_;
+    std::vector<int> glyphs_;  ///< by character; -1 within a cluster
+};
 
 }  // namespace
 
@@ -143,6 +187,8 @@ void Shaper::ShapeItem(const Item& item, ShapedLine& line,
         hb_buffer_get_glyph_positions(buffer.get(), nullptr);
     GlyphRun run = {item.face, {}};
     run.glyphs.reserve(count);
+    run.isBackward = item.level % 2 != 0;
+    Clusters clusters(item.start, item.end);
     const auto pixels = [&](hb_position_t position) {
         const double value = position / kUnit;
         return item.face->fit ? std::floor(value + 0.5) : value;
@@ -150,10 +196,12 @@ void Shaper::ShapeItem(const Item& item, ShapedLine& line,
     for (unsigned i = 0; i < count; ++i) {
         const char32_t c = text_[infos[i].cluster];
         double advance = 0.0;
+        clusters.Begin(infos[i].cluster);
         if (c == '\t') {
             advance = TabAdvance(line.width);
         } else if (!IsSilent(c)) {
             advance = pixels(positions[i].x_advance);
+            clusters.AddGlyph(infos[i].cluster);
             run.glyphs.push_back({infos[i].codepoint,
                                   line.width + pixels(positions[i].x_offset),
                                   -pixels(positions[i].y_offset)});
@@ -163,6 +211,7 @@ void Shaper::ShapeItem(const Item& item, ShapedLine& line,
             (*advances)[infos[i].cluster] += advance;
         }
     }
+    clusters.Write(text_, run);
     line.runs.push_back(std::move(run));
 }
 

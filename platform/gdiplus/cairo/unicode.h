@@ -11,6 +11,8 @@ std::u32string CodePoints(const FlatChar* units, std::size_t count);
 
 std::string Utf8(const std::u32string& text);
 
+std::string Utf8(const std::u32string& text);
+
 /// UTF-8 of a text that ends with a null, and back.
 std::string Utf8(const FlatChar* text);
 std::u16string Utf16(const char* utf8);

@@ -132,6 +132,13 @@ TEST_F(Print, KeepsTextsAsTextInEmbeddedFonts) {
     for (const char* part : {"Harbour 影像", "scene.tif", "Legend"}) {
         EXPECT_TRUE(Holds(text, part)) << part << " in\n" << text;
     }
+    // Letters that change their shapes are still those that were written, and so are
+    // characters that no font has.
+    for (const char* title : {"خريطة الميناء", "office ﬁ", "ཀཁ 🗺"}) {
+        ASSERT_EQ(Draw("title.pdf", {}, title).status, 0);
+        EXPECT_TRUE(Holds(Said("pdftotext " + folder.Path("title.pdf") + " -"), title))
+            << title;
+    }
     const std::string fonts = Said("pdffonts " + folder.Path("page.pdf"));
     EXPECT_TRUE(Holds(fonts, "LiberationSans")) << fonts;
     EXPECT_FALSE(Holds(fonts, " no  ")) << "not embedded:\n" << fonts;
@@ -241,6 +248,7 @@ TEST_F(Print, IsReadAloudInThePagesLanguage) {
           "Figure: 图例: 影像名：scene.tif: 波段_1，红色; 波段_2，绿色; 波段_3，蓝色",
           "Figure: 比例尺：2000 米，共4段", "Figure: 指北针：北在上方"}},
         {"Wo? 🗺 <&>", {}, {"H1: Wo? 🗺 <&>"}},
+        {"ཀཁ\tafﬁne", {}, {"H1: ཀཁ afﬁne"}},
     };
     for (const auto& row : rows) {
         ASSERT_EQ(Draw("page.pdf", row.options, row.title).status, 0);

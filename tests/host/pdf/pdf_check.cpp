@@ -39,6 +39,12 @@ public:
         if (name == "BT" || name == "ET") {
             m_textDepth = m_depth;
             m_inText = name == "BT";
+        } else if (name == "BDC" && m_operands.back().isDictionary() &&
+                   m_operands.back().hasKey("/ActualText")) {
+            Check(m_depth == 1, "a span outside of tags");
+            ++m_spans;
+        } else if (name == "EMC" && m_spans > 0) {
+            --m_spans;
         } else if (name == "BDC" || name == "BMC") {
             Open();
         } else if (name == "EMC") {
@@ -79,6 +85,7 @@ private:
     Lines& m_wrong;
     std::vector<Handle> m_operands;
     int m_depth = 0;
+    int m_spans = 0;
     int m_textDepth = 0;
     bool m_inText = false;
 };
