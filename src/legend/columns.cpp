@@ -9,38 +9,35 @@ namespace {
 constexpr std::size_t kMostColumns = 64;
 
 /// The rows of a legend one below another, to be told by how many pieces stand above.
+/// Each counts with the gap below it, that of a column's last piece included.
 class Roll {
 public:
-    Roll(const std::vector<RowsTogether>& pieces, Length gap) : m_gap(gap) {
-        m_tops.reserve(pieces.size() + 1);
-        m_tops.push_back(0);
+    Roll(const std::vector<RowsTogether>& pieces, Length gap) {
         for (const RowsTogether& piece : pieces) {
-            const Length height = std::max<Length>(0, piece.height);
-            m_tops.push_back(m_tops.back() + height + gap);
-            m_highest = std::max(m_highest, height);
+            m_tops.push_back(m_tops.back() + std::max<Length>(0, piece.height) + gap);
         }
     }
 
     std::size_t Count() const { return m_tops.size() - 1; }
     Length Height(std::size_t from, std::size_t end) const {
-        return m_tops[end] - m_tops[from] - m_gap;
+        return m_tops[end] - m_tops[from];
     }
     /// Where a column that begins there ends at the latest.
     std::size_t LastEnd(std::size_t from, Length limit) const {
         const auto past =
-            std::upper_bound(m_tops.begin(), m_tops.end(), m_tops[from] + m_gap + limit);
+            std::upper_bound(m_tops.begin(), m_tops.end(), m_tops[from] + limit);
         return static_cast<std::size_t>(past - m_tops.begin()) - 1;
     }
     /// Where a column that ends there begins at the earliest.
     std::size_t FirstStart(std::size_t end, Length limit) const {
         const auto first =
-            std::lower_bound(m_tops.begin(), m_tops.end(), m_tops[end] - m_gap - limit);
+            std::lower_bound(m_tops.begin(), m_tops.end(), m_tops[end] - limit);
         return static_cast<std::size_t>(first - m_tops.begin());
     }
     /// The height of the lowest columns that all of it fits into.
     Length LowestLimit(std::size_t columns) const {
-        Length least = m_highest;
-        Length most = std::max(m_highest, Height(0, Count()));
+        Length least = 0;
+        Length most = Height(0, Count());
         while (least < most) {
             const Length middle = least + (most - least) / 2;
             std::size_t end = 0;
@@ -57,9 +54,7 @@ public:
     }
 
 private:
-    Length m_gap;
-    Length m_highest = 0;
-    std::vector<Length> m_tops;
+    std::vector<Length> m_tops = {0};
 };
 
 /// The best ways to set what stands above each end in so many columns: the sum of the
@@ -120,10 +115,11 @@ Ways WithOneMore(const Ways& before, const Roll& roll, Length limit,
 }  // namespace
 
 Columns SetInColumns(const std::vector<RowsTogether>& pieces, Length gap, int columns) {
+    gap = std::max<Length>(0, gap);
     if (pieces.empty()) {
         return {{}, -gap};
     }
-    const Roll roll(pieces, std::max<Length>(0, gap));
+    const Roll roll(pieces, gap);
     const std::size_t count = std::min(
         {static_cast<std::size_t>(std::max(1, columns)), kMostColumns, pieces.size()});
     const Length limit = roll.LowestLimit(count);
@@ -148,7 +144,7 @@ Columns SetInColumns(const std::vector<RowsTogether>& pieces, Length gap, int co
         }
         start = rows;
     }
-    return {starts, limit};
+    return {starts, limit - gap};
 }
 
 }  // namespace map_surround

@@ -170,6 +170,31 @@ TEST(LegendColumns, AreAsLowAndAsEqualAsTheyCanBe) {
     }
 }
 
+TEST(LegendColumns, AreSixtyFourAtMost) {
+    Sources sources(std::string(70, 'u'));
+    Legend legend;
+    legend.SetDataSouce(sources.All());
+    legend.SetColumns(100);
+    Measure(legend);
+    const std::string rows = RowsOf(legend);
+    EXPECT_EQ(std::count(rows.begin(), rows.end(), '|'), 63) << rows;
+    EXPECT_EQ(legend.GetSize(), kTitle + 13 + kGap + 13);
+}
+
+// Where the font has no ink, the gaps are left.
+TEST(LegendColumns, OfRowsWithoutInkShareTheGaps) {
+    for (const int row : {0, -1000}) {
+        Sources sources("uuuu");
+        Legend legend;
+        legend.SetDataSouce(sources.All());
+        legend.SetColumns(2);
+        Recording recording(Mode::RecordOnly);
+        ink::Script(recording, ink::Of({{"Band_1", {40, row}}}));
+        legend.ResetAspectRatio();
+        EXPECT_EQ(legend.GetSize(), 2 * kGap + kGap);
+    }
+}
+
 /// Whether columns of pieces are lower, or else more equal, than others.
 using Worth = std::pair<int, double>;
 
