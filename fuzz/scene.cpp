@@ -270,9 +270,10 @@ void Scene::SetProperty(CMapLegend& legend) {
         case 13:
             return legend.SetLowCaption(m_input.Text());
         case 14:
-            return legend.SetShownSources({{m_input.Text(), m_input.Flag(),
-                                            std::vector(m_input.Choice(3), Color())},
-                                           {m_input.Text(), m_input.Flag()}});
+            return legend.SetShownSources(
+                {{m_input.Text(), m_input.Flag(),
+                  std::vector(static_cast<std::size_t>(m_input.Choice(3)), Color())},
+                 {m_input.Text(), m_input.Flag()}});
         case 15:
             return legend.SetGap(m_input.Real<float>());
         case 16:
