@@ -239,13 +239,16 @@ void RasterClasses::ReadAttributeTable(GDALRasterBand& band) {
 
 bool RasterClasses::Any() const { return !m_rows.empty() || !m_palette.empty(); }
 
+bool RasterClasses::HasNames() const {
+    return !m_rows.empty() ||
+           std::any_of(m_names.begin(), m_names.end(),
+                       [](const std::wstring& name) { return !name.empty(); });
+}
+
 std::vector<ClassColour> RasterClasses::Ramp(double first, double last) const {
     constexpr double kFewest = 32;
     constexpr int kLargestStep = 48;
-    const bool isNamed =
-        !m_rows.empty() || std::any_of(m_names.begin(), m_names.end(),
-                                       [](const auto& name) { return !name.empty(); });
-    if (isNamed || !(last - first >= kFewest - 1) || At(m_palette, first) == nullptr ||
+    if (!(last - first >= kFewest - 1) || At(m_palette, first) == nullptr ||
         At(m_palette, last) == nullptr) {
         return {};
     }

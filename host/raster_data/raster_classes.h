@@ -28,8 +28,11 @@ public:
     /// Whether the band has a palette, or a table that says more than a histogram does.
     bool Any() const;
 
+    /// Whether an attribute table or category names say what values stand for.
+    bool HasNames() const;
+
     /// The colours of a palette from one value to another, where they are a ramp: 32 or
-    /// more, opaque, none far from the one before it, and none with a name. Else none.
+    /// more, opaque, none far from the one before it. Else none.
     std::vector<ClassColour> Ramp(double first, double last) const;
 
     /// The value that stands for a value's class: the low end of its range in the table,

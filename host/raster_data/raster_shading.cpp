@@ -181,7 +181,8 @@ ClassificationTable& RasterShading::Classes() {
 std::vector<ClassColour> RasterShading::RampColours() {
     double lowest = 0.0;
     double highest = 0.0;
-    const bool isKnown = m_classes && Band(0)->ComputeMinMax(&lowest, &highest, true);
+    const bool isKnown = m_classes && !m_classes->HasNames() &&
+                         Band(0)->ComputeMinMax(&lowest, &highest, true);
     return isKnown ? m_classes->Ramp(lowest, highest) : std::vector<ClassColour>();
 }
 
