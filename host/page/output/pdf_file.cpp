@@ -26,8 +26,8 @@ struct PdfFile::Draft {
     }
 };
 
-PdfFile::PdfFile(int draft, const PdfSettings& settings)
-    : m_settings(settings), m_draft(new Draft{draft}) {}
+PdfFile::PdfFile(int draft, PdfSettings settings)
+    : m_settings(std::move(settings)), m_draft(new Draft{draft}) {}
 
 PdfFile::~PdfFile() = default;
 

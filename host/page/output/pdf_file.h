@@ -29,7 +29,7 @@ struct PdfSettings {
 class PdfFile {
 public:
     /// @param draft descriptor of an empty file, open for reading and writing; not owned
-    explicit PdfFile(int draft, const PdfSettings& settings = {});
+    explicit PdfFile(int draft, PdfSettings settings = {});
     PdfFile(const PdfFile&) = delete;
     PdfFile& operator=(const PdfFile&) = delete;
     ~PdfFile();
