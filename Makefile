@@ -89,6 +89,7 @@ hostile-rasters: build/release/with-test
 true-pages: build/release/with-test
 	cmake --build --preset release --target true_pages_tests
 	TRUE_PAGES=$(or $(COUNT),2000) TRUE_PAGES_FIRST=$(or $(FIRST),0) \
+	    TRUE_PAGES_PRINT=$(or $(PRINT),0) \
 	    build/release/tests/host/true_pages/true_pages_tests
 
 soak: build/release/with-test

@@ -28,19 +28,28 @@ double ThinnestOn(const cairo_matrix_t& device) {
     return std::max(std::fabs(back.xx + back.xy), std::fabs(back.yx + back.yy));
 }
 
+/// A page pixel in Cairo's units: on a page of shapes, whose units are points, a
+/// fraction.
+double PixelOf(const Graphics& graphics) {
+    const cairo_matrix_t& base = graphics.base;
+    const double area = std::fabs(base.xx * base.yy - base.xy * base.yx);
+    return graphics.ofPixels || !(area > 0.0) ? 1.0 : std::sqrt(area);
+}
+
 Width WidthOf(const Pen& pen, const Pencil& pencil) {
     const cairo_matrix_t& device = pencil.Device();
     constexpr double most = 1 << 21;
     const bool thin = !(pen.width > 1.0f);
+    const double pixel = PixelOf(pencil.Surface());
     if (pen.unit != UnitWorld || !IsInvertible(device)) {
         const double pixels =
             pen.unit == UnitWorld
                 ? 1.0
                 : pen.width * double(PixelsIn(pen.unit, pencil.Surface().xdpi));
-        const double width = std::clamp(pixels, 1.0, most);
+        const double width = std::clamp(pixels * pixel, pixel, most);
         return {width, width, kIdentity, thin};
     }
-    const double units = std::max(double(pen.width), ThinnestOn(device));
+    const double units = std::max(double(pen.width), ThinnestOn(device) * pixel);
     const double scale =
         std::hypot(std::hypot(device.xx, device.yx), std::hypot(device.xy, device.yy));
     if (units * scale > most) {

@@ -16,6 +16,7 @@
 #include "true_pages/earth.h"
 #include "true_pages/page_reading.h"
 #include "true_pages/picture.h"
+#include "true_pages/printed_page.h"
 #include "true_pages/random_page.h"
 #include "true_pages/turn.h"
 
@@ -350,7 +351,8 @@ std::string CommandOf(const std::vector<std::string>& arguments) {
 }
 
 /// The pages that say what is not so stay there, with their rasters, to be looked at.
-void TryPage(std::uint32_t seed) {
+/// @param isPrinted whether it is drawn as PDF, too
+void TryPage(std::uint32_t seed, bool isPrinted) {
     const std::string folder = TRUE_PAGES_FOLDER "/" + std::to_string(seed) + "/";
     std::filesystem::create_directories(folder);
     const RandomPage asked = true_pages::MakeRandomPage(seed, folder);
@@ -370,6 +372,11 @@ void TryPage(std::uint32_t seed) {
     CheckBar(page);
     CheckArrow(page, folder);
     CheckColours(page);
+    if (isPrinted) {
+        const std::string file = folder + "page.pdf";
+        ASSERT_EQ(Draw(asked.arguments, {"-o", file}).status, 0);
+        true_pages::CheckPrint(file, asked.dpi, picture);
+    }
 }
 
 /// What a variable of the environment says.
@@ -387,6 +394,7 @@ constexpr std::uint32_t kParts = 10;
 TEST_P(TruePages, SayWhatIsSo) {
     const std::uint32_t first = Given("TRUE_PAGES_FIRST", 0);
     const std::uint32_t count = Given("TRUE_PAGES", 100);
+    const bool printsAll = Given("TRUE_PAGES_PRINT", 0) != 0;  // else a tenth of them
     const auto failures = [] {
         return ::testing::UnitTest::GetInstance()
             ->current_test_info()
@@ -395,7 +403,7 @@ TEST_P(TruePages, SayWhatIsSo) {
     };
     for (std::uint32_t seed = first + GetParam(); seed < first + count; seed += kParts) {
         const int before = failures();
-        TryPage(seed);
+        TryPage(seed, GetParam() == 0 || printsAll);
         if (failures() == before) {
             std::filesystem::remove_all(TRUE_PAGES_FOLDER "/" + std::to_string(seed));
         }

@@ -48,6 +48,33 @@ TEST_F(HostSurfaces, OfSvgKeepShapesAndTexts) {
     EXPECT_NE(page.find("<use xlink:href=\"#glyph0-"), std::string::npos);
 }
 
+TEST_F(HostSurfaces, HaveLinesAsThinAsAPixelOfTheirWorld) {
+    // A pixel is a hundred units of the surface, whose extents are whole units.
+    const struct {
+        REAL width;
+        double drawn;
+    } rows[] = {{1.0f, 100.0}, {0.0f, 100.0}, {0.5f, 100.0}, {3.0f, 300.0}};
+    for (const auto& row : rows) {
+        cairo_surface_t* const surface =
+            cairo_recording_surface_create(CAIRO_CONTENT_COLOR_ALPHA, nullptr);
+        cairo_t* const cairo = cairo_create(surface);
+        cairo_scale(cairo, 100.0, 100.0);
+        {
+            CairoGraphics graphics(cairo, 96.0f);
+            const Pen pen(Color(0xFF000000), row.width);
+            EXPECT_EQ(graphics.DrawLine(&pen, 10, 10, 30, 10), Ok);
+        }
+        double x = 0.0;
+        double y = 0.0;
+        double width = 0.0;
+        double height = 0.0;
+        cairo_recording_surface_ink_extents(surface, &x, &y, &width, &height);
+        EXPECT_NEAR(height, row.drawn, 2.0) << row.width;
+        cairo_destroy(cairo);
+        cairo_surface_destroy(surface);
+    }
+}
+
 TEST_F(HostSurfaces, AreToldTheLinesOfTexts) {
     cairo_surface_t* const surface = cairo_svg_surface_create(file.c_str(), 600, 400);
     cairo_t* const cairo = cairo_create(surface);
