@@ -180,9 +180,12 @@ void Scene::SetBaseProperty(CMapSurround& element) {
 }
 
 void Scene::SetProperty(CMapTitle& title) {
-    switch (m_input.Choice(4)) {
+    switch (m_input.Choice(5)) {
         case 0:
             return title.SetFontValue(m_input.Text());
+        case 3:
+            return title.SetLineAlignment(
+                static_cast<Gdiplus::StringAlignment>(m_input.Whole()));
         case 1:
             return title.SetFontStyle(Family());
         case 2:

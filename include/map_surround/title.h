@@ -23,7 +23,9 @@ enum FontProcess : std::int32_t {
     FontProcessStrikeout = 8,
 };
 
-/// One line of text in the front colour: the title of the map.
+/// A text in the front colour: the title of the map. It is one line, but for the U+000A
+/// that the host puts into it; SetLineAlignment() says how lines of different length
+/// stand.
 ///
 /// Mind the accessors' names: the font *value* is the text, the font *style* is the name
 /// of the font family, the font *process* is the style.
@@ -73,10 +75,21 @@ public:
     double GetFontSize() const { return m_fontSize; }
     void SetFontSize(double size) { m_fontSize = size; }
 
+    /// Where lines stand: at the left edge of their box, in its middle or at its right
+    /// edge. The near edge until it is set, with the calls of a text that has no format.
+    ///
+    /// Lines in the middle are centred upon the centre itself: of "Land cover" over
+    /// "Olinda", both have their middle there, and only the ascent sets them low.
+    Gdiplus::StringAlignment GetLineAlignment() const { return m_lineAlignment; }
+    void SetLineAlignment(Gdiplus::StringAlignment alignment) {
+        m_lineAlignment = alignment;
+    }
+
 private:
     std::wstring m_fontValue;
     std::wstring m_fontStyle;
     FontProcess m_fontProcess = FontProcessRegular;
     double m_fontSize = 15.0;
+    Gdiplus::StringAlignment m_lineAlignment = Gdiplus::StringAlignmentNear;
     Gdiplus::Rect m_textBounds;  // of the unturned outline at scale 1
 };

@@ -7,6 +7,17 @@
 
 using map_surround::Length;
 
+namespace {
+
+/// How much of its width a text has to the left of the point where it is written.
+double PartLeftOf(Gdiplus::StringAlignment alignment) {
+    return alignment == Gdiplus::StringAlignmentCenter ? 0.5
+           : alignment == Gdiplus::StringAlignmentFar  ? 1.0
+                                                       : 0.0;
+}
+
+}  // namespace
+
 CMapTitle::CMapTitle() {
     SetItemType(SurroundMapTitle);
     SetAspectRatio(5.0f);
@@ -22,7 +33,7 @@ void CMapTitle::ResetAspectRatio() {
     const Gdiplus::Font font(&family, static_cast<float>(m_fontSize), m_fontProcess,
                              Gdiplus::UnitPixel);
     Gdiplus::StringFormat format(0, 0);
-    format.SetAlignment(Gdiplus::StringAlignmentNear);
+    format.SetAlignment(m_lineAlignment);
     Gdiplus::GraphicsPath outline(Gdiplus::FillModeAlternate);
     m_textBounds =
         map_surround::MeasureOutline(outline, m_fontValue, family, font, format);
@@ -61,8 +72,19 @@ void CMapTitle::Draw(Gdiplus::Graphics* graphics, CPoint centre, double scale) {
     map_surround::TurnAbout(*graphics, static_cast<float>(centre.x),
                             static_cast<float>(centre.y), GetAngle());
     const Gdiplus::SolidBrush brush(GetFrontColor());
-    map_surround::WriteText(
-        graphics, m_fontValue, font,
-        Gdiplus::PointF(static_cast<float>(left), static_cast<float>(top)), brush);
+    if (m_lineAlignment == Gdiplus::StringAlignmentNear) {
+        map_surround::WriteText(
+            graphics, m_fontValue, font,
+            Gdiplus::PointF(static_cast<float>(left), static_cast<float>(top)), brush);
+    } else {
+        Gdiplus::StringFormat format(0, 0);
+        format.SetAlignment(m_lineAlignment);
+        const double anchor =
+            left + m_textBounds.Width * scale * PartLeftOf(m_lineAlignment);
+        graphics->DrawString(
+            m_fontValue.c_str(), map_surround::TextLength(m_fontValue), &font,
+            Gdiplus::PointF(static_cast<float>(anchor), static_cast<float>(top)), &format,
+            &brush);
+    }
     graphics->ResetTransform();
 }

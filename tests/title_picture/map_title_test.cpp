@@ -211,6 +211,31 @@ TEST(MapTitle, DrawsItsTextAboutTheCentre) {
     }
 }
 
+// In the middle they stand about the centre, not about the middle of the outline, which
+// is 60 wide.
+TEST(MapTitle, SetsLinesWhereTheyAreWanted) {
+    struct Row {
+        Gdiplus::StringAlignment alignment;
+        float x;
+    };
+    for (const Row& row : {Row{Gdiplus::StringAlignmentCenter, 200.0f},
+                           Row{Gdiplus::StringAlignmentFar, 200.0f + 60.0f}}) {
+        CMapTitle title = Title(L"Land cover\nOlinda");
+        title.SetLineAlignment(row.alignment);
+        Surface surface;
+        Recording recording(Mode::RecordOnly);
+        recording.ScriptBounds({{1, 3, 60, 20}});
+        title.ResetAspectRatio();
+        EXPECT_EQ(recording.Lines().at(3),
+                  "GdipSetStringFormatAlign " + std::to_string(row.alignment));
+        recording.Clear();
+        CMapTitle(title).Draw(surface.Graphics(), CPoint(200, 150), 2.0);
+        EXPECT_EQ(recording.Drawing().at(3),
+                  DrawString("Land cover\nOlinda", FontLook("Arial", 30, 1), row.x, 130,
+                             BrushLook(0xFF000000), 0, 0, FormatLook(0, row.alignment)));
+    }
+}
+
 // The font size becomes a float before it is scaled as a double, and a float again.
 TEST(MapTitle, ScalesTheFontSizeThatItMeasuredWith) {
     struct Row {

@@ -97,7 +97,11 @@ std::vector<Property> ElementProperties() {
 
 std::vector<Property> TitleProperties() {
     return Join({{Of<&CMapTitle::GetFontValue, &CMapTitle::SetFontValue>(
-                     "text", "The text", PropertyKind::Text)},
+                      "text", "The text", PropertyKind::Text),
+                  OneOf(Of<&CMapTitle::GetLineAlignment, &CMapTitle::SetLineAlignment>(
+                            "lineAlignment", "Where lines of different length stand",
+                            PropertyKind::Choice),
+                        kLineAlignments)},
                  TypeProperties()});
 }
 

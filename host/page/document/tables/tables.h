@@ -23,6 +23,8 @@ constexpr NumberRange kDistances = {0.0, 1.7e308};
 constexpr const char* kAlternativeText =
     "What is read aloud in its place; empty for what the page says by itself";
 
+constexpr Choice kLineAlignments[] = {{"near", 0}, {"center", 1}, {"far", 2}};
+
 /// FontStyle and FontProcess, whose flags combine.
 constexpr Choice kFontStyles[] = {
     {"regular", 0},

@@ -146,6 +146,8 @@ std::vector<Change> TitleChanges() {
     constexpr int kStyle = FontProcessBoldItalic | FontProcessStrikeout;
     return {
         Behind("text", &T::SetFontValue, &T::GetFontValue, L"Ünïted \U0001F5FA"),
+        Behind("lineAlignment", &T::SetLineAlignment, &T::GetLineAlignment,
+               Gdiplus::StringAlignmentFar),
         Behind("font", &T::SetFontStyle, &T::GetFontStyle, L"Times New Roman"),
         Behind("fontSize", &T::SetFontSize, &T::GetFontSize, 20.1),
         Behind("fontStyle", &T::SetFontProcess, &T::GetFontProcess,
@@ -286,7 +288,7 @@ std::vector<Change> ChangesOf(const std::string& type, const std::string& folder
     }
     if (type == "numeric-scale") {
         std::vector<Change> changes = TitleChanges();
-        changes.erase(changes.begin());  // its text is its own
+        changes.erase(changes.begin(), changes.begin() + 2);  // its text is its own
         return all + std::move(changes) + NumericScaleChanges();
     }
     if (type == "picture") {
