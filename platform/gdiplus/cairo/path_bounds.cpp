@@ -22,6 +22,9 @@ struct Reach {
     /// A curve from a to d turns where its slope, a parabola, is zero.
     void IncludeCurve(double a, double b, double c, double d) {
         Include(d);
+        if (std::min(b, c) >= least && std::max(b, c) <= most) {
+            return;  // it stays between its points
+        }
         const double p = d - a + 3.0 * (b - c);
         const double q = 2.0 * (a - 2.0 * b + c);
         const double r = b - a;
@@ -52,10 +55,13 @@ Extents ExtentsOf(const Path& path, const cairo_matrix_t& matrix) {
     Reach y;
     double fromX = 0.0;
     double fromY = 0.0;
+    const bool isPlain = &matrix == &kIdentity;
     const auto point = [&](std::size_t i, double& toX, double& toY) {
         toX = path.points[i].X;
         toY = path.points[i].Y;
-        cairo_matrix_transform_point(&matrix, &toX, &toY);
+        if (!isPlain) {
+            cairo_matrix_transform_point(&matrix, &toX, &toY);
+        }
     };
     for (std::size_t i = 0; i < path.points.size(); ++i) {
         double toX = 0.0;
