@@ -21,6 +21,7 @@
     images \
     install-tests \
     interruptions \
+    layout-trial \
     likeness \
     lint \
     mutants \
@@ -91,6 +92,11 @@ true-pages: build/release/with-test
 	TRUE_PAGES=$(or $(COUNT),2000) TRUE_PAGES_FIRST=$(or $(FIRST),0) \
 	    TRUE_PAGES_PRINT=$(or $(PRINT),0) \
 	    build/release/tests/host/true_pages/true_pages_tests
+
+layout-trial: build/release/with-test
+	cmake --build --preset release --target page_tests
+	LAYOUT_PAGES=$(or $(COUNT),700) LAYOUT_PAGES_FIRST=$(or $(FIRST),0) \
+	    build/release/tests/host/page/page_tests --gtest_filter='*LayoutTrial*'
 
 soak: build/release/with-test
 	cmake --build --preset release --target soak

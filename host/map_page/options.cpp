@@ -254,6 +254,13 @@ void Declare(CLI::App& app, Given& given, Options& options) {
         ->type_name("SIZE")
         ->group("Page");
     app.add_flag("--portrait", given.portrait, "Stand the page upright")->group("Page");
+    AddChoice(
+        app, "--layout", options.design.layout, LayoutDesigns(),
+        "Of the automatic page. classic: title on top, the rest beside or below\nthe "
+        "map, wherever that leaves the larger map; side: all beside it; bottom:\nall "
+        "below it (classic)")
+        ->type_name("NAME")
+        ->group("Page");
     app.add_option("--dpi", options.dpi, "Resolution, in pixels an inch (150)")
         ->check(NumberIn(10.0, 2400.0))
         ->type_name("NUMBER")

@@ -137,6 +137,9 @@ void CheckGoesWithPageFile(const CLI::App& app, const Given& given) {
         app.get_option("--series")->count() > 0) {
         throw UsageError("--save", "does not go with --series, whose pages are many");
     }
+    if (app.get_option("--layout")->count() > 0) {
+        throw UsageError("--layout", "does not go with a page file, which is laid out");
+    }
     const auto second =
         std::find_if(given.rasters.begin() + 1, given.rasters.end(), host::IsPageFile);
     if (second != given.rasters.end()) {

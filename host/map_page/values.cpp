@@ -15,6 +15,12 @@ std::string Quoted(const std::string& text) { return "\"" + text + "\""; }
 
 }  // namespace
 
+Words<host::LayoutDesign> LayoutDesigns() {
+    return {{"classic", host::LayoutDesign::Classic},
+            {"side", host::LayoutDesign::Side},
+            {"bottom", host::LayoutDesign::Bottom}};
+}
+
 Words<FontProcess> FontStyles() {
     return {{"regular", FontProcessRegular},
             {"bold", FontProcessBold},

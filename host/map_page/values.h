@@ -22,6 +22,7 @@ template <typename Value>
 using Words = std::vector<std::pair<std::string, Value>>;
 
 Words<FontProcess> FontStyles();
+Words<host::LayoutDesign> LayoutDesigns();
 Words<ScaleBarPostion> UnitPositions();
 
 /// The styles of a family; "none" is null.

@@ -38,7 +38,8 @@ Gdiplus::SmoothingMode SmoothingOf(MapSurroundType kind) {
 Gdiplus::Rect OutlineOf(const CMapTitle& title, double scale) {
     const std::wstring text = title.GetFontValue();
     const Gdiplus::FontFamily family(title.GetFontStyle().c_str());
-    const Gdiplus::StringFormat format(0, 0);
+    Gdiplus::StringFormat format(0, 0);
+    format.SetAlignment(title.GetLineAlignment());
     Gdiplus::GraphicsPath outline(Gdiplus::FillModeAlternate);
     outline.AddString(text.c_str(), -1, &family, title.GetFontProcess(),
                       static_cast<float>(title.GetFontSize() * scale),
@@ -54,7 +55,11 @@ CPoint CentreForInk(const CMapTitle& title, CPoint centre, double scale) {
     constexpr double kRadians = 3.14159265358979323846 / 180.0;
     const Gdiplus::Rect measured = OutlineOf(title, 1.0);
     const Gdiplus::Rect drawn = OutlineOf(title, scale);
-    const double right = drawn.X + drawn.Width * 0.5 - measured.Width * scale * 0.5;
+    // Lines in the middle, or at the far edge, are written from a point further right.
+    constexpr double kFromMiddle[] = {-0.5, 0.0, 0.5};
+    const int alignment = std::clamp<int>(title.GetLineAlignment(), 0, 2);
+    const double right =
+        drawn.X + drawn.Width * 0.5 + measured.Width * scale * kFromMiddle[alignment];
     const double down = drawn.Y + drawn.Height * 0.5 - measured.Height * scale * 0.5;
     const double cosine = std::cos(double{title.GetAngle()} * kRadians);
     const double sine = std::sin(double{title.GetAngle()} * kRadians);

@@ -1,26 +1,44 @@
 #include <algorithm>
+#include <cmath>
 
 #include "page/layout/steps.h"
+#include "page/layout/type_scale.h"
 
 namespace host {
+namespace {
+
+// Of an A4 sheet; a sheet of twice the side has furniture 1.6 times as large, for it is
+// read from a little further away.
+constexpr double kSheet = UnitsFromMillimetres(210.0);
+constexpr double kModule = UnitsFromMillimetres(5.0);
+constexpr double kBody = 8.0;  // points
+constexpr double kTitle = 18.0;
+constexpr double kGrowth = 0.7;
+constexpr double kTitleGrowth = 0.85;  // a title is read from further away
+
+double GrowthFor(const PaperSize& paper, double growth = kGrowth) {
+    return std::pow(std::min(paper.width, paper.height) / kSheet, growth);
+}
+
+}  // namespace
 
 Measures::Measures(const PaperSize& paper)
-    : module(std::min(paper.width, paper.height) / 40.0),
+    : module(kModule * GrowthFor(paper)),
       neatLine(1.0 * module),
-      margin(2.4 * module),
-      gap(1.2 * module),
-      panel(8.0 * module),
-      textPanel(11.5 * module),
-      picture(8.0 * module),
+      margin(2.0 * module),
+      gap(1.0 * module),
+      column(5.5 * module),
+      space(0.6 * module),
       shadow(0.2 * module),
-      borderWidth(0.04 * module) {}
+      borderWidth(0.04 * module),
+      body(OnTypeScale(kBody * GrowthFor(paper))),
+      title(OnTypeScale(kTitle * GrowthFor(paper, kTitleGrowth))) {}
 
-std::unique_ptr<CSurroundFrame> PlaceNeatLine(const PaperSize& paper,
+std::unique_ptr<CSurroundFrame> PlaceNeatLine(const Box& extent,
                                               const Measures& measures) {
-    const Box sheet = {0.0, 0.0, paper.width, paper.height};
     auto frame = std::make_unique<PlacedFrame>();
     frame->SetName("neat line");
-    frame->SetExtent(BoundingBoxOf(Inset(sheet, measures.neatLine)));
+    frame->SetExtent(BoundingBoxOf(extent));
     frame->DrawBorder = true;
     frame->BorderColor = Gdiplus::Color(kLineColor);
     frame->BorderWidth = static_cast<float>(2.0 * measures.borderWidth);
@@ -42,19 +60,29 @@ void Decorate(CFrameBase& frame, const Box& extent, const FrameStyle& style,
     frame.FillColor = style.background.value_or(Gdiplus::Color(0));
 }
 
-void FrameInk(PlacedFrame& frame, const InkBox& ink, const Box& room, At at,
+void FrameInk(PlacedFrame& frame, const InkBox& ink, const Box& cell, Stands stands,
               const FrameStyle& style, const Measures& measures) {
-    // Frames of nearly the room's width take all of it, so that they line up.
-    constexpr double kNearly = 0.8;
-    const double space = 0.6 * measures.module;
-    const double inkWidth = std::min(room.Width(), ink.Width() + 2.0 * space);
-    const double width = inkWidth > kNearly * room.Width() ? room.Width() : inkWidth;
-    const double height = std::min(room.Height(), ink.Height() + 2.0 * space);
-    const double bottom = at == At::Top ? room.top - height : room.bottom;
-    const Box extent = {room.left, bottom, room.left + width, bottom + height};
-    Decorate(frame, extent, style, measures);
-    // The ink stands at the left of its frame, in the middle of its height.
-    frame.SetElementOffset(space + ink.left - width / 2.0, (ink.down - ink.up) / 2.0);
+    Decorate(frame, cell, style, measures);
+    const double x = stands == Stands::AtTopLeft
+                         ? measures.space + ink.left - cell.Width() / 2.0
+                         : (ink.left - ink.right) / 2.0;
+    const double y = stands == Stands::AtTopLeft
+                         ? cell.Height() / 2.0 - measures.space - ink.up
+                         : (ink.down - ink.up) / 2.0;
+    frame.SetElementOffset(x, y);
+}
+
+void ShrinkToInk(PlacedFrame& frame, const Measures& measures) {
+    frame.SetElementOffset(0.0, 0.0);
+    const InkBox ink = MeasureInk(frame);
+    const Box before = BoxOf(frame.GetExtent());
+    const double width = ink.Width() + 2.0 * measures.space;
+    const double height = ink.Height() + 2.0 * measures.space;
+    frame.SetExtent(
+        {before.left, before.bottom, before.left + width, before.bottom + height});
+    frame.ShadowRatioX = static_cast<float>(measures.shadow / width);
+    frame.ShadowRatioY = static_cast<float>(measures.shadow / height);
+    frame.SetElementOffset((ink.left - ink.right) / 2.0, (ink.down - ink.up) / 2.0);
 }
 
 }  // namespace host

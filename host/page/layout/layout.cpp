@@ -3,71 +3,11 @@
 #include <algorithm>
 #include <utility>
 
-#include "page/layout/steps.h"
+#include "page/element_of.h"
+#include "page/layout/arrangement.h"
 
 namespace host {
 namespace {
-
-/// The map and the panel next to it.
-struct Body {
-    Box map;
-    Box panel;
-};
-
-/// The panel to the right of the map and as high, both together in the middle.
-Body PanelBeside(const Box& room, const MapShape& shape, const Measures& measures) {
-    Box left = room;
-    left.right -= measures.gap + measures.panel;
-    Body body;
-    body.map = FitMap(left, shape);
-    body.panel = {body.map.right + measures.gap, body.map.bottom,
-                  body.map.right + measures.gap + measures.panel, body.map.top};
-    if (shape.atScale) {  // however small the map is
-        body.panel.bottom = room.bottom;
-        body.panel.top = room.top;
-    }
-    return body;
-}
-
-/// The map on top, the panel as wide below it, down to the end of the room.
-Body PanelBelow(const Box& room, const MapShape& shape, const Measures& measures) {
-    Box above = room;
-    above.bottom += measures.gap + measures.panel;
-    Body body;
-    body.map = FitMap(above, shape);
-    const double rise = room.top - body.map.top;
-    body.map.bottom += rise;
-    body.map.top += rise;
-    body.panel = {body.map.left, room.bottom, body.map.right,
-                  body.map.bottom - measures.gap};
-    if (shape.atScale) {
-        body.panel.left = room.left;
-        body.panel.right = room.right;
-    }
-    return body;
-}
-
-/// The panel goes where it leaves the larger map.
-Body Divide(const PageDesign& design, const MapOnPage& map, const Box& room,
-            const Measures& measures) {
-    const MapShape shape = ShapeOf(design.map, map);
-    if (!HasPanel(design, map)) {
-        return {FitMap(room, shape), {}};
-    }
-    const Body beside = PanelBeside(room, shape, measures);
-    const Body below = PanelBelow(room, shape, measures);
-    const auto size = [](const Box& box) { return box.Width() * box.Height(); };
-    return size(beside.map) >= size(below.map) ? beside : below;
-}
-
-/// A panel with a picture only may be narrower than one with texts.
-Measures MeasuresFor(const PageDesign& design, const MapOnPage& map) {
-    Measures measures(design.paper);
-    if (HasPanelTexts(design, map)) {
-        measures.panel = measures.textPanel;
-    }
-    return measures;
-}
 
 void AddUnlessEmpty(Page& page, std::unique_ptr<CSurroundFrame> frame) {
     if (frame != nullptr) {
@@ -101,25 +41,104 @@ void TellWhatHasNoCoordinates(const PageDesign& design, const MapOnPage& map,
     }
 }
 
+/// Around everything, as far from it as margins are from the neat line.
+Box NeatLineAround(const Cells& cells, const Measures& measures) {
+    Box all = cells.map;
+    for (const auto part : kCells) {
+        const Box& cell = cells.*part;
+        if (cell.Width() > 0.0) {
+            all = {std::min(all.left, cell.left), std::min(all.bottom, cell.bottom),
+                   std::max(all.right, cell.right), std::max(all.top, cell.top)};
+        }
+    }
+    return Inset(all, measures.neatLine - measures.margin);
+}
+
+std::unique_ptr<LegendFrame> PlaceLegend(LegendDraft& draft, const PageDesign& design,
+                                         const Measures& measures, const Cells& cells) {
+    if (!(cells.legend.Width() > 0.0)) {
+        return nullptr;
+    }
+    const InkBox ink =
+        draft.Set(cells.setting, cells.names == Names::AreWhole
+                                     ? 0.0
+                                     : cells.legend.Width() - 2.0 * measures.space);
+    if (ink.IsEmpty()) {
+        return nullptr;
+    }
+    auto frame = draft.Take();
+    FrameInk(*frame, ink, cells.legend, Stands::AtTopLeft, design.frames, measures);
+    return frame;
+}
+
+double BarLengthOf(const PlacedFrame* frame) {
+    const auto* const bar = dynamic_cast<const ScaleBarFrame*>(frame);
+    return bar == nullptr ? 0.0
+                          : bar->DivisionLength() *
+                                ElementOf<CScaleBarBase>(*bar)->GetMainDivCount();
+}
+
+/// Whether an element is to be placed: in its cell, or, where nothing is known of what it
+/// says, to tell that. Of one that has no cell for want of room, that is told already.
+bool IsToBePlaced(const Box& cell, bool isKnown) {
+    return cell.Width() > 0.0 || !isKnown;
+}
+
+/// Everything but the map and the title, in the order of reading.
+void AddFurniture(Page& page, const Sheet& sheet, const Furniture& known,
+                  const Cells& cells, const ShownMap& shown,
+                  std::vector<std::string>& remarks) {
+    const PageDesign& design = sheet.design;
+    const Measures& measures = sheet.measures;
+    AddUnlessEmpty(page, PlaceLegend(sheet.legend, design, measures, cells));
+    double barLength = 0.0;
+    if (IsToBePlaced(cells.bar, known.bar > 0.0)) {
+        auto bar = PlaceScaleBar(design, sheet.map, shown, measures, cells.bar, remarks);
+        barLength = BarLengthOf(bar.get());
+        AddUnlessEmpty(page, std::move(bar));
+    }
+    if (IsToBePlaced(cells.scale, known.scale > 0.0)) {
+        AddUnlessEmpty(page, PlaceNumericScale(design, shown, barLength, measures,
+                                               cells.scale, remarks));
+    }
+    if (IsToBePlaced(cells.arrow, known.arrow)) {
+        AddUnlessEmpty(page, PlaceNorthArrow(design, sheet.map, shown, measures,
+                                             cells.arrow, remarks));
+    }
+    if (cells.picture.Width() > 0.0) {
+        AddUnlessEmpty(page, PlacePicture(design, measures, cells.picture));
+    }
+}
+
 }  // namespace
 
 LaidOutPage LayOut(const PageDesign& design, const MapOnPage& map) {
     LaidOutPage result{Page(design.paper.width, design.paper.height), {}};
-    const Measures measures = MeasuresFor(design, map);
-    Box room =
-        Inset({0.0, 0.0, design.paper.width, design.paper.height}, measures.margin);
+    LegendDraft legend(design, map);
+    const Measures measures(design.paper);
+    const TitleLines title(design.title);
+    Sheet sheet{
+        design,
+        map,
+        measures,
+        ShapeOf(design.map, map),
+        title,
+        legend,
+        {ScaleBarHeight(design, map, measures), NumericScaleHeight(design, map, measures),
+         HasNorthArrow(design, map), HasPicture(design), legend.IsWanted()}};
+    const Furniture known = sheet.furniture;
+    const Cells cells = Arrange(sheet, result.remarks);
 
-    std::unique_ptr<CSurroundFrame> title =
-        PlaceTitle(design, measures, room, result.remarks);
-    const Body body = Divide(design, map, room, measures);
-
-    result.page.Add(PlaceNeatLine(design.paper, measures));
-    result.page.Add(PlaceMap(body.map, map.picture, measures));
-    AddUnlessEmpty(result.page, std::move(title));
-    const ShownMap shown = Shown(design.map, map, body.map);
+    result.page.Add(PlaceNeatLine(NeatLineAround(cells, measures), measures));
+    result.page.Add(PlaceMap(cells.map, map.picture, measures));
+    if (cells.words) {
+        result.page.Add(
+            PlaceTitle(design, measures, *cells.words, cells.title, result.remarks));
+    }
+    const ShownMap shown = Shown(design.map, map, cells.map);
     TellWhatHasNoCoordinates(design, map, result.remarks);
     TellWhatIsCutOff(design.map, map, shown, result.remarks);
-    FillPanel(result.page, design, map, shown, measures, body.panel, result.remarks);
+    AddFurniture(result.page, sheet, known, cells, shown, result.remarks);
     return result;
 }
 

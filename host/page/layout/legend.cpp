@@ -1,77 +1,81 @@
 #include <algorithm>
 #include <cmath>
 
-#include "map_surround/legend.h"
-#include "page/element_of.h"
+#include "page/layout/legend_draft.h"
 #include "page/layout/steps.h"
 #include "page/layout/text_size.h"
+#include "page/layout/type_scale.h"
 
 namespace host {
 namespace {
 
-/// @param width that it has, page units
-std::unique_ptr<LegendFrame> MakeLegend(const PageDesign& design, const MapOnPage& map,
-                                        const Measures& measures, double width) {
-    auto frame = std::make_unique<LegendFrame>(std::make_unique<CMapLegend>());
-    frame->SetJoinsTiles(true);
-    frame->SetExplainsRamps(true);
-    frame->SetSources(map.sources);
-    auto* const legend = ElementOf<CMapLegend>(*frame);
-    DressLegend(*legend, design);
-    // It is drawn in the height of the ink of these, three quarters of them or more.
-    constexpr double kSmallest = kSmallestEm / 0.75;
-    const double size = std::max(kSmallest, 0.7 * measures.module);
-    legend->SetTitleSize(static_cast<float>(std::max(kSmallest, 0.95 * measures.module)));
-    legend->SetFileNameSize(static_cast<float>(size));
-    // Type shrinks by a fifth before names are cut.
-    legend->SetMostWidth(static_cast<float>(width / std::max(0.8, kSmallest / size)));
-    legend->ResetAspectRatio();
-    return frame;
-}
+constexpr double kTitleOfBody = 1.25;
+constexpr int kMostLines = 4;
+constexpr double kBetweenColumns = 1.0;  // em
 
-/// Makes the legend as small as it must be for its ink, and space around it, to fit.
-InkBox Fit(CMapLegend& legend, double width, double height) {
-    InkBox ink = MeasureInk(legend);
-    // Text does not shrink quite as evenly as the layout: so look again.
-    for (int i = 0; i < 4 && (ink.Width() > width || ink.Height() > height); ++i) {
-        const double factor = std::min(width / ink.Width(), height / ink.Height());
-        const int size = std::max(1, static_cast<int>(legend.GetSize() * factor));
-        legend.SetSize(std::min(size, legend.GetSize() - 1));
-        ink = MeasureInk(legend);
-    }
-    return ink;
+/// How high the ink of a text is, in em.
+double InkOfEm(const wchar_t* text, const std::wstring& family, int style) {
+    constexpr double kEm = 1000.0;
+    const double height = InkHeight(text, family, kEm, style) / kEm;
+    return height > 0.0 ? height : 1.0;
 }
 
 }  // namespace
 
 void DressLegend(CMapLegend& legend, const PageDesign& design) {
-    constexpr float kGap = 0.8f;  // rows
     SetCaptions(legend, *design.language);
     legend.SetTitleValue(design.legend.title.value_or(design.language->legend));
     legend.SetTitle(design.legend.family);
     legend.SetFileName(design.legend.family);
     legend.SetAlignedLabels(true);
-    legend.SetGap(kGap);
+    legend.SetGap(static_cast<float>(LegendSetting().gap));
 }
 
-std::unique_ptr<LegendFrame> PlaceLegend(const PageDesign& design, const MapOnPage& map,
-                                         const Measures& measures, const Box& room) {
+LegendDraft::LegendDraft(const PageDesign& design, const MapOnPage& map) {
     if (!design.legend.shown || map.sources.empty()) {
-        return nullptr;
+        return;
     }
-    const double space = 1.2 * measures.module;
-    if (room.Width() <= space || room.Height() <= space) {
-        return nullptr;
+    m_frame = std::make_unique<LegendFrame>(std::make_unique<CMapLegend>());
+    m_frame->SetJoinsTiles(true);
+    m_frame->SetExplainsRamps(true);
+    m_frame->SetSources(map.sources);
+    m_frame->SetName("legend");
+    DressLegend(Legend(), design);
+    m_rowOfEm = InkOfEm(L"Band_1", design.legend.family, Legend().GetFileNameStyle());
+    m_titleOfEm = InkOfEm(Legend().GetTitleValue().c_str(), design.legend.family,
+                          Legend().GetTitleStyle());
+}
+
+InkBox LegendDraft::Set(const LegendSetting& setting, double width) {
+    CMapLegend& legend = Legend();
+    // A legend draws its texts in an em that is the height of their ink as measured,
+    // which is a whole number of page units.
+    const double em = UnitsFromPoints(setting.points);
+    const double titleEm = UnitsFromPoints(OnTypeScale(kTitleOfBody * setting.points));
+    const double size = em / m_rowOfEm;
+    const double row = std::max(
+        1.0, InkHeight(L"Band_1", legend.GetTitle(), size, legend.GetFileNameStyle()));
+    const double drawn = em / row;  // of what is measured
+    legend.SetColumns(setting.columns);
+    legend.SetGap(static_cast<float>(setting.gap));
+    legend.SetFileNameSize(static_cast<float>(size));
+    legend.SetTitleSize(static_cast<float>(titleEm / m_titleOfEm / drawn));
+    const double most = width / setting.columns - kBetweenColumns * em;
+    legend.SetMostWidth(width > 0.0 ? static_cast<float>(std::max(1.0, most / drawn))
+                                    : 0.0f);
+    legend.SetMostLines(width > 0.0 ? kMostLines : 1);
+    legend.ResetAspectRatio();
+    legend.SetSize(static_cast<int>(std::ceil(legend.GetSize() * drawn)));
+    return MeasureInk(legend);
+}
+
+const InkBox& LegendDraft::Natural(const LegendSetting& setting) {
+    const auto key = std::make_tuple(setting.columns, setting.points, setting.gap);
+    const auto [found, isNew] = m_natural.try_emplace(key);
+    if (isNew) {
+        found->second = Set(setting, 0.0);
     }
-    auto frame = MakeLegend(design, map, measures, room.Width() - space);
-    const InkBox ink =
-        Fit(*ElementOf<CMapLegend>(*frame), room.Width() - space, room.Height() - space);
-    if (ink.IsEmpty()) {
-        return nullptr;
-    }
-    FrameInk(*frame, ink, room, At::Top, design.frames, measures);
-    frame->SetName("legend");
-    return frame;
+    return found->second;
 }
 
 }  // namespace host

@@ -6,12 +6,16 @@
 #include "map_surround/north_arrow.h"
 #include "page/layout/steps.h"
 #include "page/layout/text_size.h"
+#include "page/layout/type_scale.h"
 #include "page/map/map_geometry.h"
 
 namespace host {
 namespace {
 
-constexpr double kLargestArrow = 8.0;  // modules
+std::optional<double> TrueNorthOf(const ShownMap& shown) {
+    const std::optional<MapGround> ground = MapGround::Of(shown.projection, shown.extent);
+    return ground ? ground->TrueNorth() : std::nullopt;
+}
 
 /// The direction of north, where there is one to be told.
 std::optional<double> AngleOf(const NorthArrowDesign& design, const ShownMap& shown,
@@ -19,8 +23,7 @@ std::optional<double> AngleOf(const NorthArrowDesign& design, const ShownMap& sh
     if (design.angle) {
         return design.angle;
     }
-    const std::optional<MapGround> ground = MapGround::Of(shown.projection, shown.extent);
-    const std::optional<double> angle = ground ? ground->TrueNorth() : std::nullopt;
+    const std::optional<double> angle = TrueNorthOf(shown);
     if (!angle) {
         remarks.emplace_back(
             shown.projection.empty()
@@ -39,7 +42,7 @@ std::unique_ptr<CNorthArrowBase> LegibleArrow(std::unique_ptr<CNorthArrowBase> u
                                               double size) {
     const std::vector<const CatalogueEntry*> styles = StylesOf(SurroundNorthArrow);
     for (auto style = styles.rbegin(); style != styles.rend(); ++style) {
-        if (LettersOf(*usual) * size >= kSmallestEm) {
+        if (LettersOf(*usual) * size >= UnitsFromPoints(kLeastSetPoints)) {
             break;
         }
         usual = NewElement<CNorthArrowBase>(**style);
@@ -54,24 +57,31 @@ const CatalogueEntry* NorthArrowStyleOn(const PageDesign& design, const MapOnPag
                                                        : nullptr);
 }
 
+bool HasNorthArrow(const PageDesign& design, const MapOnPage& map) {
+    return NorthArrowStyleOn(design, map) != nullptr &&
+           (design.northArrow.angle ||
+            TrueNorthOf({map.projection, map.extent.value_or(Box()), 1.0}));
+}
+
 std::unique_ptr<PlacedFrame> PlaceNorthArrow(const PageDesign& design,
                                              const MapOnPage& map, const ShownMap& shown,
-                                             const Measures& measures, const Box& room,
+                                             const Measures& measures, const Box& cell,
                                              std::vector<std::string>& remarks) {
     const CatalogueEntry* const style = NorthArrowStyleOn(design, map);
     auto arrow = style == nullptr ? nullptr : NewElement<CNorthArrowBase>(*style);
-    // A panel beside a small map may be most of the sheet.
-    const double side =
-        std::min({room.Width(), room.Height(), kLargestArrow * measures.module});
-    const double space = 0.6 * measures.module;
-    if (arrow == nullptr || side <= 2.0 * space) {
+    if (arrow == nullptr) {
         return nullptr;
     }
     const std::optional<double> angle = AngleOf(design.northArrow, shown, remarks);
     if (!angle) {
         return nullptr;
     }
-    const double size = side - 2.0 * space;
+    const double size =
+        std::min({cell.Width(), cell.Height(), measures.column}) - 2.0 * measures.space;
+    if (size <= 0.0) {
+        remarks.emplace_back("the north arrow is left out: there is no room for it");
+        return nullptr;
+    }
     if (!design.northArrow.style) {
         arrow = LegibleArrow(std::move(arrow), size);
     }
@@ -80,13 +90,11 @@ std::unique_ptr<PlacedFrame> PlaceNorthArrow(const PageDesign& design,
     arrow->SetSize(static_cast<int>(size));
     arrow->SetFrontColor(Gdiplus::Color(kInkColor));
     arrow->SetAngle(static_cast<float>(*angle));
-    const Box extent = {room.left, room.bottom, room.left + side, room.bottom + side};
     auto frame = std::make_unique<NorthArrowFrame>(std::move(arrow));
-    const InkBox ink = MeasureInk(*frame);
-    Decorate(*frame, extent, design.frames, measures);
+    FrameInk(*frame, MeasureInk(*frame), cell, Stands::InTheMiddle, design.frames,
+             measures);
     frame->SetName("north arrow");
     frame->SetTrueNorth(!design.northArrow.angle);
-    frame->SetElementOffset((ink.left - ink.right) / 2.0, (ink.down - ink.up) / 2.0);
     return frame;
 }
 

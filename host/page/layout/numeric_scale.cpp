@@ -19,7 +19,7 @@ constexpr const char* kLeftOut =
 /// @param denominator as it is to be written
 std::unique_ptr<PlacedFrame> FrameOfScale(double denominator, const Measures& measures) {
     auto text = std::make_unique<NumericScale>();
-    text->SetFontSize(0.75 * measures.module);
+    text->SetFontSize(UnitsFromPoints(measures.body));
     text->SetFrontColor(Gdiplus::Color(kInkColor));
     text->SetDenominator(denominator);
     text->ResetAspectRatio();
@@ -36,12 +36,23 @@ FrameStyle StyleOf(const CFrameBase& frame) {
     return style;
 }
 
+enum class At { Top, Bottom };
+
 /// A place for the scale: a room at whose top or bottom it stands.
 struct ScalePlace {
     Box room;
     At at;
     FrameStyle style;
 };
+
+/// The box for a text's frame, at the left of a room.
+Box AroundInk(const InkBox& ink, const ScalePlace& place, const Measures& measures) {
+    const Box& room = place.room;
+    const double width = std::min(room.Width(), ink.Width() + 2.0 * measures.space);
+    const double height = std::min(room.Height(), ink.Height() + 2.0 * measures.space);
+    const double bottom = place.at == At::Top ? room.top - height : room.bottom;
+    return {room.left, bottom, room.left + width, bottom + height};
+}
 
 /// Beside the scale bar, the best first, then in the corners of the map.
 std::vector<ScalePlace> ScalePlacesOn(const Page& page, const Measures& measures) {
@@ -51,7 +62,7 @@ std::vector<ScalePlace> ScalePlacesOn(const Page& page, const Measures& measures
             const Box bar = BoxOf(FrameOf(item).GetExtent());
             const FrameStyle style = StyleOf(FrameOf(item));
             const double right = std::max(
-                bar.right, std::min(bar.left + measures.textPanel, page.Width()));
+                bar.right, std::min(bar.left + 2.0 * measures.column, page.Width()));
             places.push_back({{bar.left, bar.top + measures.gap, right, page.Height()},
                               At::Bottom,
                               style});
@@ -76,7 +87,7 @@ std::vector<ScalePlace> ScalePlacesOn(const Page& page, const Measures& measures
 
 std::unique_ptr<PlacedFrame> PlaceNumericScale(const PageDesign& design,
                                                const ShownMap& shown, double barLength,
-                                               const Measures& measures, const Box& room,
+                                               const Measures& measures, const Box& cell,
                                                std::vector<std::string>& remarks) {
     if (!design.scaleBar.numeric) {
         return nullptr;
@@ -92,8 +103,20 @@ std::unique_ptr<PlacedFrame> PlaceNumericScale(const PageDesign& design,
     if (ink.IsEmpty()) {
         return nullptr;
     }
-    FrameInk(*frame, ink, room, At::Bottom, design.frames, measures);
+    FrameInk(*frame, ink, cell, Stands::InTheMiddle, design.frames, measures);
     return frame;
+}
+
+double NumericScaleHeight(const PageDesign& design, const MapOnPage& map,
+                          const Measures& measures) {
+    const bool isKnown =
+        design.scaleBar.numeric &&
+        DenominatorOf({map.projection, map.extent.value_or(Box()), measures.column},
+                      design.map.scale.value_or(0.0), 0.0);
+    constexpr double kAnyScale = 25000.0;
+    return isKnown ? MeasureInk(*FrameOfScale(kAnyScale, measures)).Height() +
+                         2.0 * measures.space
+                   : 0.0;
 }
 
 std::vector<std::string> AddNumericScale(Page& page) {
@@ -113,7 +136,8 @@ std::vector<std::string> AddNumericScale(Page& page) {
     auto& frame = *FrameAs<PlacedFrame>(items.back());
     const InkBox ink = MeasureInk(frame);
     const auto put = [&](const ScalePlace& place) {
-        FrameInk(frame, ink, place.room, place.at, place.style, measures);
+        FrameInk(frame, ink, AroundInk(ink, place, measures), Stands::InTheMiddle,
+                 place.style, measures);
         return RemarksOf(page).size();
     };
     // Where it disturbs least, the first of those.

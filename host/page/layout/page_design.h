@@ -2,6 +2,7 @@
 
 #include <gdiplus.h>
 
+#include <cstdint>
 #include <optional>
 #include <string>
 
@@ -68,9 +69,17 @@ struct LegendDesign {
     std::wstring family = L"Arial";
 };
 
+/// How an automatic page is divided.
+enum class LayoutDesign : std::int32_t {
+    Classic,  ///< the title on top, the rest beside or below the map
+    Side,     ///< the map alone at the left, everything else in a panel at the right
+    Bottom,   ///< the map on top, everything else below it
+};
+
 /// What an automatic page is to show.
 struct PageDesign {
     PaperSize paper;
+    LayoutDesign layout = LayoutDesign::Classic;
     const Language* language = &English();  ///< of the words that are not given
     FrameStyle frames;
     TitleDesign title;

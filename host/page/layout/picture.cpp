@@ -1,36 +1,42 @@
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 #include "map_surround/picture.h"
 #include "page/layout/steps.h"
 
 namespace host {
+namespace {
 
-std::unique_ptr<PlacedFrame> PlacePicture(const PageDesign& design,
-                                          const Measures& measures, const Box& panel) {
+std::unique_ptr<CDrawPicture> OpenPicture(const PageDesign& design) {
     if (design.picture.path.empty()) {
         return nullptr;
     }
     auto picture = std::make_unique<CDrawPicture>();
     picture->Open(design.picture.path.c_str());
     const double ratio = picture->GetAspectRatio();
-    if (!std::isfinite(ratio) || !(ratio > 0.0)) {
+    return std::isfinite(ratio) && ratio > 0.0 ? std::move(picture) : nullptr;
+}
+
+}  // namespace
+
+bool HasPicture(const PageDesign& design) { return OpenPicture(design) != nullptr; }
+
+std::unique_ptr<PlacedFrame> PlacePicture(const PageDesign& design,
+                                          const Measures& measures, const Box& cell) {
+    auto picture = OpenPicture(design);
+    if (picture == nullptr) {
         return nullptr;
     }
-
-    const double space = 0.6 * measures.module;
-    const double most =
-        std::min({panel.Width(), panel.Height(), measures.picture}) - 2.0 * space;
-    const double height = std::max(1.0, std::floor(std::min(most, most / ratio)));
-    picture->SetSize(static_cast<int>(height));
+    const double ratio = picture->GetAspectRatio();
+    const double space =
+        std::min(measures.space, std::min(cell.Width(), cell.Height()) / 4.0);
+    const double height =
+        std::min(cell.Height() - 2.0 * space, (cell.Width() - 2.0 * space) / ratio);
+    picture->SetSize(static_cast<int>(std::max(1.0, std::floor(height))));
     picture->ResetAspectRatio();
-
-    const double frameWidth = height * ratio + 2.0 * space;
-    const double frameHeight = height + 2.0 * space;
-    const Box extent = {panel.right - frameWidth, panel.bottom, panel.right,
-                        panel.bottom + frameHeight};
     auto frame = std::make_unique<PlacedFrame>(std::move(picture));
-    Decorate(*frame, extent, design.frames, measures);
+    Decorate(*frame, cell, design.frames, measures);
     frame->SetName("picture");
     return frame;
 }

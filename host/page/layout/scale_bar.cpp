@@ -6,11 +6,13 @@
 #include "page/layout/bar_on_map.h"
 #include "page/layout/steps.h"
 #include "page/layout/text_size.h"
+#include "page/layout/type_scale.h"
 
 namespace host {
 namespace {
 
 constexpr int kUsualDivisions = 4;
+constexpr double kLongest = 4.5;  // columns of the layout's grid
 
 // A page is not told from another by less; more is told, for maps in degrees.
 constexpr double kNearlyConformal = 0.01;
@@ -81,16 +83,17 @@ InkBox Fit(Plan& plan, const ScaleBarDesign& design, const ShownMap& map, int co
     return {};
 }
 
-/// Gives a bar as many divisions as there is room for, and no more than so many, in a
-/// size whose numbers can be read; in a smaller one that suits the sheet where there is
-/// no room for that.
+/// The size of a bar whose numbers are set so, in points.
+int BarSize(double points) {
+    return static_cast<int>(std::ceil(UnitsFromPoints(points) / kBarNumbers));
+}
+
+/// Gives a bar as many divisions as there is room for, and no more than so many, with
+/// numbers in the usual size of type, or in the smallest.
 InkBox FitLegibly(Plan& plan, const ScaleBarDesign& design, const ShownMap& map,
                   const Measures& measures, double most) {
-    const int suiting =
-        static_cast<int>(std::max(1.0, std::round(2.1 * measures.module)));
-    const int legible = static_cast<int>(std::ceil(kSmallestEm / kBarNumbers));
-    for (const int size : {std::max(suiting, legible), suiting}) {
-        plan.bar->SetSize(size);
+    for (const double points : {measures.body, kLeastSetPoints}) {
+        plan.bar->SetSize(BarSize(points));
         for (int count = design.divisions.value_or(kUsualDivisions); count > 0; --count) {
             const InkBox ink = Fit(plan, design, map, count, most);
             if (!ink.IsEmpty()) {
@@ -120,13 +123,31 @@ const CatalogueEntry* ScaleBarStyleOn(const PageDesign& design, const MapOnPage&
                       : nullptr;
 }
 
+double ScaleBarHeight(const PageDesign& design, const MapOnPage& map,
+                      const Measures& measures) {
+    const CatalogueEntry* const style = ScaleBarStyleOn(design, map);
+    std::vector<std::string> notTold;
+    std::optional<Plan> plan;
+    if (style != nullptr) {
+        plan = PlanBar(*style, design.scaleBar, *design.language,
+                       {map.projection, *map.extent, 1.0}, notTold);
+    }
+    if (!plan) {
+        return 0.0;
+    }
+    plan->bar->SetSize(BarSize(measures.body));
+    plan->bar->SetMainDivCount(1);
+    plan->frame->SetDivisionLength(measures.column);
+    plan->bar->ResetAspectRatio();
+    return MeasureInk(*plan->frame).Height() + 2.0 * measures.space;
+}
+
 std::unique_ptr<PlacedFrame> PlaceScaleBar(const PageDesign& design, const MapOnPage& map,
                                            const ShownMap& shown,
-                                           const Measures& measures, const Box& room,
+                                           const Measures& measures, const Box& cell,
                                            std::vector<std::string>& remarks) {
     const CatalogueEntry* const style = ScaleBarStyleOn(design, map);
-    const double most = room.Width() - 1.2 * measures.module;
-    if (style == nullptr || most <= 0.0) {
+    if (style == nullptr) {
         return nullptr;
     }
     std::optional<Plan> plan =
@@ -134,7 +155,9 @@ std::unique_ptr<PlacedFrame> PlaceScaleBar(const PageDesign& design, const MapOn
     if (!plan) {
         return nullptr;
     }
-    const InkBox ink = FitLegibly(*plan, design.scaleBar, shown, measures, most);
+    const InkBox ink = FitLegibly(
+        *plan, design.scaleBar, shown, measures,
+        std::min(cell.Width(), kLongest * measures.column) - 2.0 * measures.space);
     if (ink.IsEmpty()) {
         remarks.emplace_back("the scale bar is left out: there is no room for it");
         return nullptr;
@@ -146,7 +169,7 @@ std::unique_ptr<PlacedFrame> PlaceScaleBar(const PageDesign& design, const MapOn
                           ": the numbers of more would run into one another");
     }
     TellDirection(shown, remarks);
-    FrameInk(*plan->frame, ink, room, At::Bottom, design.frames, measures);
+    FrameInk(*plan->frame, ink, cell, Stands::InTheMiddle, design.frames, measures);
     plan->frame->SetName("scale bar");
     return std::move(plan->frame);
 }

@@ -9,6 +9,7 @@
 #include "page/box.h"
 #include "page/ink.h"
 #include "page/layout/layout.h"
+#include "page/layout/title_lines.h"
 #include "page/placed_frame.h"
 
 namespace host {
@@ -17,33 +18,61 @@ namespace host {
 struct Measures {
     explicit Measures(const PaperSize& paper);
 
-    double module;       ///< what all others are multiples of: 1/40 of the shorter side
+    double module;       ///< what all others are multiples of: 5 mm on A4, 8 mm on A2
     double neatLine;     ///< from the sheet's edge to the neat line around everything
     double margin;       ///< from the sheet's edge to the elements
     double gap;          ///< between neighbours
-    double panel;        ///< width or height of the panel next to the map, at least
-    double textPanel;    ///< the same where a legend or a scale bar stands in it
-    double picture;      ///< longest side of the picture's frame
+    double column;       ///< of the grid in which elements stand beside the map
+    double space;        ///< from a frame to the ink in it
     double shadow;       ///< how far shadows fall
     double borderWidth;  ///< of element frames
+    double body;         ///< the usual size of type, points
+    double title;        ///< that of a title
 };
 
 /// The colour of the lines around the map and the sheet.
 constexpr Gdiplus::ARGB kLineColor = 0xFF2D3B47;
 
+/// The colour of furniture that is drawn in one colour.
+constexpr Gdiplus::ARGB kInkColor = 0xFF1E2832;
+
 /// Puts a frame where it belongs, with border, shadow and background in the page's style.
 void Decorate(CFrameBase& frame, const Box& extent, const FrameStyle& style,
               const Measures& measures);
 
-/// Places the title in the middle on top and takes its strip off the room. Draws the
-/// title smaller when it would be wider than the room.
-/// @return the title's frame, null when there is nothing to show
+enum class Stands { AtTopLeft, InTheMiddle };
+
+/// Decorates a frame that fills a cell, with the ink of its element somewhere in it. The
+/// element keeps its size.
+void FrameInk(PlacedFrame& frame, const InkBox& ink, const Box& cell, Stands stands,
+              const FrameStyle& style, const Measures& measures);
+
+/// Makes a decorated frame as small as the ink of its element, and some space, let it be.
+void ShrinkToInk(PlacedFrame& frame, const Measures& measures);
+
+/// A title as it is set, with the size of its frame, page units.
+struct TitleBlock {
+    std::wstring text;  ///< with U+000A between lines
+    double em;
+    double width;
+    double height;
+};
+
+/// Sets a title in the size that is asked for, or else suits the sheet, in as many lines
+/// as the width asks for, and smaller where it does not fit at all. Nothing when there is
+/// nothing to show.
+/// @param lines made from the same design, once for many rooms
+/// @param width,height of the room for its frame
+std::optional<TitleBlock> SetTitle(const PageDesign& design, const Measures& measures,
+                                   const TitleLines& lines, double width, double height);
+
 std::unique_ptr<CSurroundFrame> PlaceTitle(const PageDesign& design,
-                                           const Measures& measures, Box& room,
+                                           const Measures& measures,
+                                           const TitleBlock& block, const Box& extent,
                                            std::vector<std::string>& remarks);
 
 /// The neat line around everything on the sheet.
-std::unique_ptr<CSurroundFrame> PlaceNeatLine(const PaperSize& paper,
+std::unique_ptr<CSurroundFrame> PlaceNeatLine(const Box& extent,
                                               const Measures& measures);
 
 /// How a map may lie in a room.
@@ -67,65 +96,46 @@ ShownMap Shown(const MapDesign& design, const MapOnPage& map, const Box& frame);
 MapFrame PlaceMap(const Box& extent, std::shared_ptr<MapPicture> picture,
                   const Measures& measures);
 
-enum class At { Top, Bottom };
-
-/// Decorates a frame and fits it around the ink of its element, with some space, at the
-/// left of a room; as wide as the room when it is nearly that. The element keeps its
-/// size.
-void FrameInk(PlacedFrame& frame, const InkBox& ink, const Box& room, At at,
-              const FrameStyle& style, const Measures& measures);
-
 /// Gives a legend the words and the looks of a design; its type sizes stay.
 void DressLegend(CMapLegend& legend, const PageDesign& design);
 
-/// A legend of all sources, made smaller where it would leave the room. Null when none is
-/// wanted or there is nothing to explain.
-std::unique_ptr<LegendFrame> PlaceLegend(const PageDesign& design, const MapOnPage& map,
-                                         const Measures& measures, const Box& room);
+// The elements below fill their cells. Each is null when it is not wanted, when nothing
+// is known of what it says, or when the cell has no room for it; the last two are told.
 
-/// A scale bar that is true to the map, at most as wide as the room, at its bottom left.
-/// Null when none is wanted or the map has no extent.
+/// A scale bar that is true to the map.
 std::unique_ptr<PlacedFrame> PlaceScaleBar(const PageDesign& design, const MapOnPage& map,
                                            const ShownMap& shown,
-                                           const Measures& measures, const Box& room,
+                                           const Measures& measures, const Box& cell,
                                            std::vector<std::string>& remarks);
 
-/// The map's scale in figures, at the bottom left of the room. Null when it is not
-/// wanted, or not known.
+/// The map's scale in figures.
 /// @param barLength of the scale bar, page units, 0 for none
 std::unique_ptr<PlacedFrame> PlaceNumericScale(const PageDesign& design,
                                                const ShownMap& shown, double barLength,
-                                               const Measures& measures, const Box& room,
+                                               const Measures& measures, const Box& cell,
                                                std::vector<std::string>& remarks);
 
-/// A north arrow in a square frame at the bottom left of the room, at most as large as
-/// it. Null when none is wanted, or nothing is known of where north is.
+/// A north arrow, no larger than a column of the grid.
 std::unique_ptr<PlacedFrame> PlaceNorthArrow(const PageDesign& design,
                                              const MapOnPage& map, const ShownMap& shown,
-                                             const Measures& measures, const Box& room,
+                                             const Measures& measures, const Box& cell,
                                              std::vector<std::string>& remarks);
 
-/// The colour of furniture that is drawn in one colour.
-constexpr Gdiplus::ARGB kInkColor = 0xFF1E2832;
+std::unique_ptr<PlacedFrame> PlacePicture(const PageDesign& design,
+                                          const Measures& measures, const Box& cell);
 
 /// The style of a page's scale bar, and of its north arrow; null for none.
 const CatalogueEntry* ScaleBarStyleOn(const PageDesign& design, const MapOnPage& map);
 const CatalogueEntry* NorthArrowStyleOn(const PageDesign& design, const MapOnPage& map);
 
-/// Whether a page of this design has a legend, a scale bar or a north arrow.
-bool HasPanelTexts(const PageDesign& design, const MapOnPage& map);
+/// How high their frames are, page units; 0 where they will not be there.
+double ScaleBarHeight(const PageDesign& design, const MapOnPage& map,
+                      const Measures& measures);
+double NumericScaleHeight(const PageDesign& design, const MapOnPage& map,
+                          const Measures& measures);
 
-/// Whether it has anything but a title and a map.
-bool HasPanel(const PageDesign& design, const MapOnPage& map);
-
-/// Fills the panel: a high one from the top with the legend, at its bottom scale bar,
-/// north arrow and picture; a wide one from left to right.
-void FillPanel(Page& page, const PageDesign& design, const MapOnPage& map,
-               const ShownMap& shown, const Measures& measures, const Box& panel,
-               std::vector<std::string>& remarks);
-
-/// Places the picture in the bottom right corner of a panel.
-std::unique_ptr<PlacedFrame> PlacePicture(const PageDesign& design,
-                                          const Measures& measures, const Box& panel);
+/// Whether they will be there, unless their cell is too small.
+bool HasNorthArrow(const PageDesign& design, const MapOnPage& map);
+bool HasPicture(const PageDesign& design);
 
 }  // namespace host

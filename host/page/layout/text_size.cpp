@@ -19,17 +19,6 @@ struct Letters {
 constexpr Letters kLetterSizes[] = {
     {"one", 4.0 / 15.0}, {"two", 2.0 / 15.0}, {"four", 1.0 / 5.0}, {"eight", 1.0 / 10.0}};
 
-/// The height of the ink of a text, page units.
-double InkHeight(const wchar_t* text, const std::wstring& family, double em, int style) {
-    CMapTitle line;
-    line.SetFontValue(text);
-    line.SetFontStyle(family);
-    line.SetFontSize(em);
-    line.SetFontProcess(static_cast<FontProcess>(style));
-    line.ResetAspectRatio();
-    return line.GetSize();
-}
-
 /// A legend draws its texts in an em size that is the height of their ink as it was
 /// measured, and grows with the legend.
 double LegendEm(const CMapLegend& legend, bool hasSources) {
@@ -66,6 +55,16 @@ double ItemEm(const PageItem& item) {
 }
 
 }  // namespace
+
+double InkHeight(const wchar_t* text, const std::wstring& family, double em, int style) {
+    CMapTitle line;
+    line.SetFontValue(text);
+    line.SetFontStyle(family);
+    line.SetFontSize(em);
+    line.SetFontProcess(static_cast<FontProcess>(style));
+    line.ResetAspectRatio();
+    return line.GetSize();
+}
 
 std::string PointsText(double points) {
     char text[32];

@@ -20,6 +20,10 @@ std::string PointsText(double points);
 /// nothing.
 std::optional<double> SmallestText(const PageItem& item);
 
+/// The height of the ink of a text, page units.
+/// @param em its size, page units
+double InkHeight(const wchar_t* text, const std::wstring& family, double em, int style);
+
 /// The em size of the letters of an arrow, in parts of its size: 1/10 for the rose of
 /// eight points.
 double LettersOf(const CNorthArrowBase& arrow);

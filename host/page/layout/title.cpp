@@ -3,6 +3,7 @@
 
 #include "page/layout/steps.h"
 #include "page/layout/text_size.h"
+#include "page/layout/type_scale.h"
 
 namespace host {
 namespace {
@@ -13,62 +14,113 @@ constexpr double kSmallestTitlePoints = 4.0;
 constexpr double kSpaceBeside = 0.85;
 constexpr double kSpaceAbove = 0.5;
 
-double EmOf(const TitleDesign& design, const Measures& measures) {
-    return design.points ? UnitsFromPoints(*design.points) : 1.5 * measures.module;
-}
+/// How a title may be set to fit: so many lines, down to a part of the wanted size.
+struct Way {
+    int lines;
+    double least;
+};
+constexpr Way kWays[] = {{1, 0.75}, {2, 0.6}, {3, 0.5}, {100, 0.0}};
 
-/// The title's ink at an em size, in page units: one of them is one pixel at scale 1.
-struct Ink {
+/// The room for the ink of a title.
+struct InkRoom {
     double width;
     double height;
 };
 
-Ink Measure(CMapTitle& title, double em) {
+/// Sets a title in an em size, page units, if it fits so in no more than some lines.
+std::optional<TitleBlock> SetIn(const PageDesign& design, const TitleLines& lines,
+                                double em, int most, const InkRoom& room) {
+    const std::optional<std::wstring> text =
+        lines.Within(room.width / em - 2.0 * kSpaceBeside);
+    if (!text || LinesOf(*text) > most) {
+        return std::nullopt;
+    }
+    CMapTitle title;
+    title.SetFontValue(*text);
+    title.SetFontStyle(design.title.family);
+    title.SetFontProcess(design.title.style);
     title.SetFontSize(em);
     title.ResetAspectRatio();
     const double height = title.GetSize();
-    return {height * double{title.GetAspectRatio()}, height};
+    const double width = height * double{title.GetAspectRatio()};
+    TitleBlock block{*text, em, width + 2.0 * kSpaceBeside * em,
+                     height + 2.0 * kSpaceAbove * em};
+    // The pieces of a line are measured one by one, so it may be a little wider.
+    if (!(height > 0.0) || !(width > 0.0) || block.width > room.width * 1.02 ||
+        block.height > room.height) {
+        return std::nullopt;
+    }
+    return block;
+}
+
+/// The sizes from the wanted one down to the least that a page sets, in points.
+std::vector<double> SizesFrom(double points) {
+    std::vector<double> sizes = {points};
+    const std::vector<double>& scale = TypeScale();
+    for (auto size = scale.rbegin(); size != scale.rend(); ++size) {
+        if (*size < points) {
+            sizes.push_back(*size);
+        }
+    }
+    return sizes;
+}
+
+std::optional<TitleBlock> SetToFit(const PageDesign& design, const TitleLines& lines,
+                                   double wanted, const InkRoom& room) {
+    for (const Way& way : kWays) {
+        for (const double points : SizesFrom(wanted)) {
+            const bool isAsked = design.title.points.has_value();
+            if (!isAsked && points < way.least * wanted) {
+                break;
+            }
+            const auto block = SetIn(design, lines, UnitsFromPoints(points),
+                                     isAsked ? 100 : way.lines, room);
+            if (block) {
+                return block;
+            }
+        }
+    }
+    // One word wider than the sheet, or more lines than it has room for.
+    for (double points = kLeastSetPoints - 0.5; points > kSmallestTitlePoints;
+         points -= 0.5) {
+        const auto block = SetIn(design, lines, UnitsFromPoints(points), 1000,
+                                 {room.width, room.height});
+        if (block) {
+            return block;
+        }
+    }
+    constexpr double kAny = 1e9;
+    return SetIn(design, lines, UnitsFromPoints(kSmallestTitlePoints), 1000,
+                 {kAny, kAny});
 }
 
 }  // namespace
 
+std::optional<TitleBlock> SetTitle(const PageDesign& design, const Measures& measures,
+                                   const TitleLines& lines, double width, double height) {
+    const double wanted = design.title.points.value_or(measures.title);
+    return SetToFit(design, lines, wanted, {width, height});
+}
+
 std::unique_ptr<CSurroundFrame> PlaceTitle(const PageDesign& design,
-                                           const Measures& measures, Box& room,
+                                           const Measures& measures,
+                                           const TitleBlock& block, const Box& extent,
                                            std::vector<std::string>& remarks) {
     auto title = std::make_unique<CMapTitle>();
-    title->SetFontValue(design.title.text);
+    title->SetFontValue(block.text);
     title->SetFontStyle(design.title.family);
     title->SetFontProcess(design.title.style);
-
-    const double wanted = EmOf(design.title, measures);
-    double em = wanted;
-    Ink ink = Measure(*title, em);
-    if (!(ink.width > 0.0) || !(ink.height > 0.0)) {
-        return nullptr;
-    }
-    // Ink and space grow with the em, but for the rounding of the ink to whole units.
-    const double most =
-        std::min(room.Width() / (ink.width / em + 2.0 * kSpaceBeside),
-                 room.Height() / 4.0 / (ink.height / em + 2.0 * kSpaceAbove));
-    if (em > most) {
-        em =
-            std::max(std::floor(most * 4.0) / 4.0, UnitsFromPoints(kSmallestTitlePoints));
-        ink = Measure(*title, em);
-        // What suits the sheet is as large as it fits, down to half of that.
-        if (design.title.points || em < wanted / 2.0) {
-            remarks.push_back("the title is set in " + PointsText(PointsFromUnits(em)) +
-                              " to fit the page, instead of " +
-                              PointsText(PointsFromUnits(wanted)));
-        }
-    }
-
-    const double width = ink.width + 2.0 * kSpaceBeside * em;
-    const double height = ink.height + 2.0 * kSpaceAbove * em;
-    const double centre = (room.left + room.right) / 2.0;
-    const Box extent = {centre - width / 2.0, room.top - height, centre + width / 2.0,
-                        room.top};
-    room.top = extent.bottom - measures.gap;
+    title->SetLineAlignment(Gdiplus::StringAlignmentCenter);
+    title->SetFontSize(block.em);
+    title->ResetAspectRatio();
     title->SetFrontColor(Gdiplus::Color(kInkColor));
+    const double wanted = design.title.points.value_or(measures.title);
+    const double points = PointsFromUnits(block.em);
+    // What suits the sheet is as large as it fits, down to half of that.
+    if (design.title.points ? points < wanted : points < wanted / 2.0) {
+        remarks.push_back("the title is set in " + PointsText(points) +
+                          " to fit the page, instead of " + PointsText(wanted));
+    }
     auto frame = std::make_unique<PlacedFrame>(std::move(title));
     Decorate(*frame, extent, design.frames, measures);
     frame->SetName("title");

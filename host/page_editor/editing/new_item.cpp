@@ -10,6 +10,7 @@
 #include "page/document/map_on_page.h"
 #include "page/document/picture_file.h"
 #include "page/element_of.h"
+#include "page/layout/legend_draft.h"
 #include "page/layout/steps.h"
 #include "page_editor/editing/arrange.h"
 #include "page_editor/editing/page_document.h"
@@ -55,13 +56,13 @@ public:
 
     std::unique_ptr<CSurroundFrame> ScaleBar(const host::CatalogueEntry& style) {
         m_design.scaleBar.style = &style;
-        return host::PlaceScaleBar(m_design, m_map.map, Shown(), m_measures, m_room,
-                                   m_remarks);
+        return Alone(host::PlaceScaleBar(m_design, m_map.map, Shown(), m_measures, m_room,
+                                         m_remarks));
     }
 
     std::unique_ptr<CSurroundFrame> NorthArrow(const host::CatalogueEntry& style) {
         m_design.northArrow.style = &style;
-        const host::Box room = {0.0, 0.0, m_measures.panel, m_measures.panel};
+        const host::Box room = {0.0, 0.0, m_measures.column, m_measures.column};
         auto frame = host::PlaceNorthArrow(m_design, m_map.map, Shown(), m_measures, room,
                                            m_remarks);
         if (frame == nullptr) {  // where no map tells it, north is up
@@ -74,22 +75,31 @@ public:
     }
 
     std::unique_ptr<CSurroundFrame> Legend() {
-        auto frame = host::PlaceLegend(m_design, m_map.map, m_measures, m_room);
-        if (frame != nullptr) {
-            frame->SetRasterPaths(m_map.paths);
+        host::LegendDraft draft(m_design, m_map.map);
+        if (!draft.IsWanted()) {
+            return nullptr;
         }
-        return frame;
+        draft.Set({1, m_measures.body}, m_room.Width() - 2.0 * m_measures.space);
+        auto frame = draft.Take();
+        frame->SetRasterPaths(m_map.paths);
+        frame->SetExtent(BoundingBoxOf(m_room));
+        Decorate(*frame, m_room, m_design.frames, m_measures);
+        return Alone(std::move(frame));
     }
 
     std::unique_ptr<CSurroundFrame> Title() {
         m_design.title.text = L"Title";
-        host::Box room = {0.0, 0.0, m_design.paper.width, m_design.paper.height};
-        return host::PlaceTitle(m_design, m_measures, room, m_remarks);
+        const auto words =
+            host::SetTitle(m_design, m_measures, host::TitleLines(m_design.title),
+                           m_design.paper.width, m_design.paper.height);
+        const host::Box cell = {0.0, 0.0, words->width, words->height};
+        return host::PlaceTitle(m_design, m_measures, *words, cell, m_remarks);
     }
 
     std::unique_ptr<CSurroundFrame> Picture(const std::string& path) {
         host::Widen(path, m_design.picture.path);
-        return host::PlacePicture(m_design, m_measures, m_room);
+        const host::Box room = {0.0, 0.0, m_measures.column, m_measures.column};
+        return Alone(host::PlacePicture(m_design, m_measures, room));
     }
 
     /// A frame around an element whatever it is; empty ones are as large as the room.
@@ -139,6 +149,15 @@ public:
     const std::vector<std::string>& Remarks() const { return m_remarks; }
 
 private:
+    /// A frame that stands by itself is no larger than its element asks for.
+    std::unique_ptr<host::PlacedFrame> Alone(
+        std::unique_ptr<host::PlacedFrame> frame) const {
+        if (frame != nullptr) {
+            ShrinkToInk(*frame, m_measures);
+        }
+        return frame;
+    }
+
     host::ShownMap Shown() const { return host::Shown({}, m_map.map, m_map.room); }
 
     PlacedMap m_map;

@@ -138,8 +138,8 @@ TEST_F(MapPage, ShowsMapTitleAndPicture) {
     Pixels page(folder.Path("page.png"));
     EXPECT_GT(page.Ink(0.4, 0.06, 0.6, 0.13), 0.1) << "the title";
     EXPECT_GT(page.Ink(0.25, 0.25, 0.6, 0.9), 0.99) << "the map";
-    EXPECT_GT(page.Ink(0.71, 0.73, 0.86, 0.95), 0.4) << "the picture";
-    EXPECT_LT(page.Ink(0.71, 0.3, 0.86, 0.7), 0.01) << "above the picture";
+    EXPECT_GT(page.Ink(0.77, 0.84, 0.835, 0.94), 0.4) << "the picture";
+    EXPECT_LT(page.Ink(0.77, 0.3, 0.835, 0.75), 0.01) << "above the picture";
     EXPECT_LT(page.Ink(0.03, 0.03, 0.97, 0.055), 0.01) << "above the title";
     // North-west is dark and the scene gets redder eastwards, as it was made.
     EXPECT_GT(page.At(1100, 700).GetR(), page.At(400, 700).GetR() + 50);

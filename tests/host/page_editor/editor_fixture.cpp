@@ -24,7 +24,7 @@ namespace {
 
 /// Where the edge of what is drawn anew cuts through a smoothed outline, a pixel may be
 /// covered by a hair more or less.
-constexpr int kHair = 3;
+constexpr int kHair = 6;
 
 int MostDifference(const QImage& a, const QImage& b) {
     int most = a.size() == b.size() ? 0 : 255;

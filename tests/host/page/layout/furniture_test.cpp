@@ -99,7 +99,7 @@ TEST(Furniture, CountsWhatItIsAskedToCount) {
         double metres;
     };
     using host::DistanceUnit;
-    // Less than a third of the 12 km of the map: a division is below a kilometre or a
+    // Less than a third of the 6 km of the map: a division is below a kilometre or a
     // mile.
     const Row rows[] = {
         {std::nullopt, L"m", 1.0},
@@ -116,13 +116,13 @@ TEST(Furniture, CountsWhatItIsAskedToCount) {
         ASSERT_TRUE(host::ParsePaperSize("A4", design.paper));
         design.scaleBar.distances = host::BarDistances::Map;
         design.scaleBar.unit = row.unit;
-        const host::LaidOutPage laidOut = host::LayOut(design, MapOf(12000.0, 9000.0));
+        const host::LaidOutPage laidOut = host::LayOut(design, MapOf(6000.0, 4500.0));
         const LaidOut found(laidOut.page);
         const auto* const frame =
             dynamic_cast<const host::ScaleBarFrame*>(found.Of(SurroundScaleBar));
         ASSERT_NE(frame, nullptr);
         EXPECT_EQ(host::ElementOf<CScaleBarBase>(*frame)->GetUnitsName(), row.name);
-        EXPECT_NEAR(frame->DivisionLength() / found.map.GetWidth() * 12000.0,
+        EXPECT_NEAR(frame->DivisionLength() / found.map.GetWidth() * 6000.0,
                     frame->DivisionValue() * row.metres, 1e-6);
         const double digit =
             frame->DivisionValue() /

@@ -6,6 +6,7 @@
 #include <QPlainTextEdit>
 #include <fstream>
 #include <iterator>
+#include <set>
 
 #include "page/document/page_text.h"
 #include "page/made_raster.h"
@@ -25,11 +26,19 @@ protected:
     std::string Told() { return window.Remarks().Text().toStdString(); }
     bool IsHatched(std::size_t item) {
         const host::Box box = BoxOf(item);
-        const QPoint middle(static_cast<int>(box.MiddleX()),
-                            static_cast<int>(document.Page().Height() - box.MiddleY()));
-        const QRgb one = canvas.Image().pixel(middle);
-        return one == canvas.Image().pixel(middle + QPoint(16, 0)) &&
-               one != canvas.Image().pixel(middle + QPoint(8, 0)) && qRed(one) >= 225;
+        // Where nothing lies on it.
+        const QPoint place(static_cast<int>(box.left + box.Width() / 8.0),
+                           static_cast<int>(document.Page().Height() - box.MiddleY()));
+        constexpr int kPeriod = 16;
+        std::set<QRgb> colours;
+        for (int x = 0; x < kPeriod; ++x) {
+            const QRgb one = canvas.Image().pixel(place + QPoint(x, 0));
+            if (one != canvas.Image().pixel(place + QPoint(x + kPeriod, 0))) {
+                return false;
+            }
+            colours.insert(one);
+        }
+        return colours.size() > 1;
     }
     /// A page around a raster, with a legend, whose raster and picture are then gone.
     void OpenMoved() {
