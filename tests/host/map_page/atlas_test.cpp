@@ -63,6 +63,12 @@ TEST_F(Atlas, HasAllPagesInOneFile) {
     EXPECT_THAT(Bookmarks(), ElementsAre("1: N1", "2: South", "3: N3"));
     const std::vector<std::string> read = host_tests::ReadAloud(folder.Path("atlas.pdf"));
     EXPECT_THAT(read, ::testing::IsSupersetOf({"H1: North", "H1: South", "H1: A scene"}));
+    const std::string file = folder.Path("atlas.pdf");
+    host_tests::Said("qpdf --check " + file);
+    const std::string fonts = host_tests::Said("pdffonts " + file);
+    EXPECT_EQ(fonts.find("LiberationSans-Bold"), fonts.rfind("LiberationSans-Bold"))
+        << "one copy of a font:\n"
+        << fonts;
     EXPECT_THAT(folder.Names(),
                 ElementsAre("atlas.pdf", "data", "list.csv", "logo.png", "page.json"));
 

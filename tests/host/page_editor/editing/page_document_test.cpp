@@ -136,6 +136,17 @@ TEST_F(PageDocumentTest, ChangesTheSheet) {
     EXPECT_NEAR(document.Page().Width(), 1122.52, 0.01);
 }
 
+TEST_F(PageDocumentTest, KeepsWhatThePageSaysOfItself) {
+    host::Page page(400.0, 300.0);
+    page.About().author = "N. N.";
+    document.Replace(std::move(page), std::make_unique<host::RasterStore>());
+    document.Insert(Frame("a"), "Add");
+    document.SetSheet(500.0, 300.0);
+    EXPECT_EQ(document.Page().About().author, "N. N.");
+    document.Undo();
+    EXPECT_EQ(document.Page().About().author, "N. N.");
+}
+
 TEST_F(PageDocumentTest, UndoesEverythingInTurnAndDoesItAgain) {
     Move({0}, 3.0);
     document.Select({3});
