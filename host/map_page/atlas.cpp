@@ -108,7 +108,7 @@ std::string DrawRows(const Options& options, const SeriesList& list, const Known
             return kOutOfMemory;
         } catch (const std::exception& error) {
             if (!file.IsGood()) {
-                throw;
+                throw Error(options.output, host::LineFor(error));
             }
             if (!isTold) {
                 Tell(place + ": " + host::LineFor(error));
@@ -116,8 +116,10 @@ std::string DrawRows(const Options& options, const SeriesList& list, const Known
         }
     }
     if (drawn > 0) {
-        file.Finish(about, [&output](const std::vector<std::uint8_t>& bytes) {
-            output.Write(bytes);
+        host::Naming(options.output, [&] {
+            file.Finish(about, [&output](const std::vector<std::uint8_t>& bytes) {
+                output.Write(bytes);
+            });
         });
     }
     return std::to_string(drawn);

@@ -2,6 +2,8 @@
 
 #include <cairo-pdf.h>
 
+#include <stdexcept>
+#include <system_error>
 #include <utility>
 
 #include "page/output/cairo_page.h"
@@ -16,13 +18,27 @@ namespace host {
 /// What Cairo writes.
 struct PdfFile::Draft {
     int descriptor;
+    int error = 0;  ///< why it could not be written, as errno has it
     CairoSurface surface = Owned(nullptr);
 
     static cairo_status_t Write(void* draft, const unsigned char* data,
                                 unsigned int length) {
-        return WriteAll(static_cast<Draft*>(draft)->descriptor, data, length) == 0
-                   ? CAIRO_STATUS_SUCCESS
-                   : CAIRO_STATUS_WRITE_ERROR;
+        auto& self = *static_cast<Draft*>(draft);
+        self.error = WriteAll(self.descriptor, data, length);
+        return self.error == 0 ? CAIRO_STATUS_SUCCESS : CAIRO_STATUS_WRITE_ERROR;
+    }
+
+    /// A step that writes; where that fails, throws the reason, which Cairo cannot tell.
+    template <typename Step>
+    auto Writing(Step step) const {
+        try {
+            return step();
+        } catch (const std::runtime_error&) {
+            if (error != 0) {
+                throw std::runtime_error(std::generic_category().message(error));
+            }
+            throw;
+        }
     }
 };
 
@@ -59,8 +75,9 @@ void PdfFile::Add(const Page& page, const Progress& progress, const std::string&
     }
     m_pages.push_back(std::move(described));
     try {
-        m_pages.back().tags =
-            DrawOnCairo(surface.get(), page, m_settings.dpi, progress, how);
+        m_pages.back().tags = m_draft->Writing([&] {
+            return DrawOnCairo(surface.get(), page, m_settings.dpi, progress, how);
+        });
     } catch (...) {
         cairo_surface_show_page(surface.get());  // the next is another
         throw;
@@ -69,7 +86,7 @@ void PdfFile::Add(const Page& page, const Progress& progress, const std::string&
 }
 
 void PdfFile::Finish(const PageAbout& about, const Write& write) {
-    FinishSurface(m_draft->surface.get());
+    m_draft->Writing([&] { FinishSurface(m_draft->surface.get()); });
     FinishPdf(m_draft->descriptor, about, m_pages, m_settings.print.standard, write);
 }
 

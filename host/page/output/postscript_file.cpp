@@ -16,7 +16,7 @@ namespace {
 
 using Bytes = std::vector<std::uint8_t>;
 
-constexpr const char* kTitle = "map page";
+constexpr const char* kFileTitle = "map page";
 
 std::string Number(double number) {
     char text[32];
@@ -42,7 +42,7 @@ std::string InPlaceOf(std::string_view line, double width, double height) {
     const std::string box = "0 0 " + Whole(width) + " " + Whole(height);
     if (begins("%%CreationDate:")) {
         // The same page gives the same file.
-        return std::string("%%Title: ") + kTitle;
+        return std::string("%%Title: ") + kFileTitle;
     }
     if (begins("%%DocumentMedia:")) {
         return "%%DocumentMedia: page " + size + " 0 () ()";

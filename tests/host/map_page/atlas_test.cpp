@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <unistd.h>
 
 #include <array>
@@ -144,6 +145,19 @@ TEST_F(Atlas, IsDrawnWithoutAPageThatEndsTheDrawing) {
         EXPECT_THAT(Bookmarks(), ElementsAre("1: other"));
         std::filesystem::remove(folder.Path("atlas.pdf"));
     }
+}
+
+TEST_F(Atlas, IsNotWrittenOnAFullDisk) {
+    // A file of more than 8 kB is too large here, as on a disk without room for it.
+    const host_tests::RunningMapPage running(folder, Call("name\na\nb\n", {}), [] {
+        signal(SIGXFSZ, SIG_IGN);
+        const rlimit most = {8192, 8192};
+        setrlimit(RLIMIT_FSIZE, &most);
+    });
+    const Result result = running.Wait();
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.err, "map_page: atlas.pdf: File too large\n");
+    EXPECT_THAT(folder.Names(), ElementsAre("data", "list.csv", "logo.png", "page.json"));
 }
 
 TEST_F(Atlas, IsDrawnInOneProcess) {
