@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <iterator>
 #include <string_view>
 
 #include "legend/lettering.h"
@@ -18,26 +19,37 @@ constexpr std::wstring_view kNeverFirst =
 constexpr std::wstring_view kNeverLast =
     L"([{\u2018\u201C\u3008\u300A\u300C\u300E\u3010\u3014\uFF08\uFF3B\uFF5B";
 
+struct Range {
+    std::uint32_t first;
+    std::uint32_t last;
+};
+constexpr Range kEastAsian[] = {{0x2E80, 0x9FFF},
+                                {0xAC00, 0xD7AF},
+                                {0xF900, 0xFAFF},
+                                {0xFF00, 0xFFEF},
+                                {0x20000, 0x3FFFF}};
+/// They stand on the character before them, or choose its variant.
+constexpr Range kMarks[] = {{0x0300, 0x036F},
+                            {0x200D, 0x200D},
+                            {0x3099, 0x309A},
+                            {0xFE00, 0xFE0F},
+                            {0xE0100, 0xE01EF}};
+constexpr Range kFirstHalves[] = {{0xD800, 0xDBFF}};
+constexpr Range kSecondHalves[] = {{0xDC00, 0xDFFF}};
+constexpr Range kDigits[] = {{'0', '9'}};
+
+template <std::size_t Count>
+bool IsIn(const Range (&ranges)[Count], std::uint32_t character) {
+    return std::any_of(std::begin(ranges), std::end(ranges), [&](const Range& range) {
+        return character >= range.first && character <= range.last;
+    });
+}
 bool IsOneOf(std::wstring_view characters, std::uint32_t character) {
     return std::any_of(characters.begin(), characters.end(), [character](wchar_t c) {
         return static_cast<std::uint32_t>(c) == character;
     });
 }
-bool IsWithin(std::uint32_t character, std::uint32_t first, std::uint32_t last) {
-    return character >= first && character <= last;
-}
 bool IsSpace(std::uint32_t c) { return IsOneOf(L" \t\r\n\u3000", c); }
-bool IsDigit(std::uint32_t c) { return IsWithin(c, '0', '9'); }
-bool IsEastAsian(std::uint32_t c) {
-    return IsWithin(c, 0x2E80, 0x9FFF) || IsWithin(c, 0xAC00, 0xD7AF) ||
-           IsWithin(c, 0xF900, 0xFAFF) || IsWithin(c, 0xFF00, 0xFFEF) ||
-           IsWithin(c, 0x20000, 0x3FFFF);
-}
-/// A mark that stands on the character before it, or chooses its variant.
-bool IsMark(std::uint32_t c) {
-    return IsWithin(c, 0x0300, 0x036F) || IsWithin(c, 0x3099, 0x309A) || c == 0x200D ||
-           IsWithin(c, 0xFE00, 0xFE0F) || IsWithin(c, 0xE0100, 0xE01EF);
-}
 
 /// The character at a place, of two halves where it has two; 0 at the end.
 std::uint32_t CharacterAt(const std::wstring& text, std::size_t at, std::size_t& length) {
@@ -45,16 +57,17 @@ std::uint32_t CharacterAt(const std::wstring& text, std::size_t at, std::size_t&
         return i < text.size() ? static_cast<std::uint32_t>(text[i]) : 0;
     };
     length = 1;
-    if (IsWithin(unit(at), 0xD800, 0xDBFF) && IsWithin(unit(at + 1), 0xDC00, 0xDFFF)) {
+    if (IsIn(kFirstHalves, unit(at)) && IsIn(kSecondHalves, unit(at + 1))) {
         length = 2;
         return 0x10000 + ((unit(at) - 0xD800) << 10) + (unit(at + 1) - 0xDC00);
     }
     return unit(at);
 }
 
-/// Whether a line may end after a character, with those beside it; 0 for none.
+/// Whether a line may end after a character, with those beside it; 0 where the word
+/// begins.
 bool MayEndAfter(std::uint32_t before, std::uint32_t character, std::uint32_t next) {
-    if (IsMark(next) || IsSpace(next)) {
+    if (IsIn(kMarks, next) || IsSpace(next)) {
         return false;
     }
     switch (character) {
@@ -62,14 +75,14 @@ bool MayEndAfter(std::uint32_t before, std::uint32_t character, std::uint32_t ne
         case '/':
             return next != character;
         case '-':  // of -3 it is a sign
-            return next != character && before != 0 && !IsSpace(before);
+            return next != character && before != 0;
         case '.':
-            return next != character && !(IsDigit(before) && IsDigit(next));
+            return next != character && !(IsIn(kDigits, before) && IsIn(kDigits, next));
         default:
             break;
     }
     return IsSpace(character) ||
-           ((IsEastAsian(character) || IsEastAsian(next)) &&
+           ((IsIn(kEastAsian, character) || IsIn(kEastAsian, next)) &&
             !IsOneOf(kNeverLast, character) && !IsOneOf(kNeverFirst, next));
 }
 

@@ -192,6 +192,12 @@ TEST(LegendColumns, OfRowsWithoutInkShareTheGaps) {
         ink::Script(recording, ink::Of({{"Band_1", {40, row}}}));
         legend.ResetAspectRatio();
         EXPECT_EQ(legend.GetSize(), 2 * kGap + kGap);
+
+        recording.Clear();
+        ink::Script(recording, ink::Of({{"Band_1", {40, row}}, {"T", {10, 13}}}));
+        legend.SetGap(0.0001f);
+        legend.ResetAspectRatio();
+        EXPECT_EQ(legend.GetSize(), 13) << "without gaps nothing is left";
     }
 }
 

@@ -151,6 +151,8 @@ TEST(LegendRoom, NoCharacterIsCutInHalf) {
 }
 
 TEST(LegendRoom, TextsAreBrokenWhereTheyMayBe) {
+    // Where wide characters are UTF-16, nothing has to replace a half that is given.
+    const std::string half = sizeof(wchar_t) == 2 ? "\xED\xA0\xBD" : "\uFFFD";
     const struct {
         std::wstring name;
         int characters;  ///< that a line has room for
@@ -195,6 +197,9 @@ TEST(LegendRoom, TextsAreBrokenWhereTheyMayBe) {
         {L"ショッピング", 3, 9, {"ショッ", "ピング"}, false},
         {L"토지 이용", 3, 9, {"토지", "이용"}, false},
         {L"\U00020000\U00020001", 1, 9, {"\U00020000", "\U00020001"}, false},
+        {L"\xD840\xDC00\xD840\xDC01", 1, 9, {"\U00020000", "\U00020001"}, false},
+        {L"地\xD83D地", 2, 9, {"地" + half, "地"}, false},
+        {L"a \xD83D", 1, 9, {"a", half}, false},
         {L"土\u3099地", 2, 9, {"土\u3099", "地"}, false},
         {L"葛\U000E0100飾", 2, 9, {"葛\U000E0100", "飾"}, false},
         {L"نهر النيل الأزرق", 9, 9, {"نهر النيل", "الأزرق"}, false},
