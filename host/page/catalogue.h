@@ -78,7 +78,7 @@ constexpr bool kUsual = true;
 
 /// In the order of menus, help and schema. A new style is one more line here.
 inline constexpr std::tuple kElements = {
-    EntryOf<CMapTitle>(SurroundMapTitle, "title", "CMapTitle", "A line of text"),
+    EntryOf<CMapTitle>(SurroundMapTitle, "title", "CMapTitle", "A text"),
     EntryOf<CDrawPicture>(SurroundPicture, "picture", "CDrawPicture", "An image file"),
     EntryOf<CMapLegend>(SurroundLegend, "legend", "CMapLegend",
                         "What the colours of the rasters mean"),

@@ -29,10 +29,10 @@ struct LaidOutPage {
     std::vector<std::string> remarks;
 };
 
-/// Lays a page out by itself: the map as large as can be in its own proportions, the title
-/// and a panel with the rest where the design has them, in columns of one grid, and a neat
-/// line around everything. The legend is set in the columns and the size of type that
-/// leave the largest map, names in one line where possible. Type is of a scale that
+/// Lays a page out by itself: the map as large as can be in its own proportions, the
+/// title and a panel with the rest where the design has them, in columns of one grid, and
+/// a neat line around everything. The legend is set in the columns and the size of type
+/// that leave the largest map, names in one line where possible. Type is of a scale that
 /// follows from the sheet's shorter side, and of 6 points or more; what has no room in it
 /// is left out and told, the legend first.
 LaidOutPage LayOut(const PageDesign& design, const MapOnPage& map);

@@ -16,7 +16,6 @@
 #include "page/layout/layout.h"
 #include "page/layout/page_remarks.h"
 #include "page/layout/text_size.h"
-#include "page/layout/type_scale.h"
 #include "system/utf8.h"
 
 namespace {
@@ -171,7 +170,7 @@ void Check(std::uint32_t seed) {
         }
         hasLegend = hasLegend || host::NameOf(item) == "legend";
         if (const std::optional<double> points = host::SmallestText(item)) {
-            EXPECT_GE(*points, host::kLeastSetPoints - 0.01) << host::NameOf(item);
+            EXPECT_GE(*points, 5.99) << host::NameOf(item);
         }
     }
     // Only a legend may be too long for its sheet, and that is told.
