@@ -1,4 +1,6 @@
 #include <algorithm>
+#include <cmath>
+#include <cstdlib>
 #include <string>
 
 #include "page/layout/arrangement.h"
@@ -25,17 +27,10 @@ double WorthOf(const Cells& cells, const Measures& measures) {
     constexpr double kDense = 0.97;
     constexpr double kOfNames[] = {1.0, 0.95, 0.9};
     constexpr double kColumn = 0.998;  // one more in the legend
-    double worth = AreaOf(cells.map);
-    double points = cells.setting.points;
-    for (; points < measures.body; points = StepsDown(points, -1)) {
-        worth *= kSmaller;
-    }
-    for (; points > measures.body; points = StepsDown(points, 1)) {
-        worth *= kLarger;
-    }
-    for (int i = 1; i < cells.setting.columns; ++i) {
-        worth *= kColumn;
-    }
+    const int larger = StepOf(cells.setting.points) - StepOf(measures.body);
+    double worth =
+        AreaOf(cells.map) * std::pow(larger < 0 ? kSmaller : kLarger, std::abs(larger));
+    worth *= std::pow(kColumn, cells.setting.columns - 1);
     return worth * (cells.setting.gap < LegendSetting().gap ? kDense : 1.0) *
            kOfNames[static_cast<int>(cells.names)];
 }
@@ -204,7 +199,7 @@ struct LeftOut {
 };
 
 // In this order, until the rest has room.
-constexpr LeftOut kLeftOut[] = {
+constexpr LeftOut kLeftOutFirst[] = {
     {"legend", [](Furniture& all) { all.legend = false; },
      [](const Furniture& all) { return all.legend; }},
     {"numeric scale", [](Furniture& all) { all.scale = 0.0; },
@@ -238,7 +233,7 @@ bool TakesTheMap(const Sheet& sheet, const Box& room, const Cells& cells) {
 }
 
 /// Everything into the middle of the sheet.
-void Centre(Cells& cells, const Box& room) {
+void CentreOnSheet(Cells& cells, const Box& room) {
     double bottom = cells.map.bottom;
     double top = cells.map.top;
     for (const auto cell : kCells) {
@@ -305,7 +300,7 @@ Cells Arrange(Sheet& sheet, std::vector<std::string>& remarks) {
         }
     }
     std::optional<Cells> cells = BestOf(sheet, room);
-    for (const LeftOut& part : kLeftOut) {
+    for (const LeftOut& part : kLeftOutFirst) {
         if (cells && !TakesTheMap(sheet, room, *cells)) {
             break;
         }
@@ -324,7 +319,7 @@ Cells Arrange(Sheet& sheet, std::vector<std::string>& remarks) {
         cells->title = title;
         cells->words = words;
     }
-    Centre(*cells, inner);
+    CentreOnSheet(*cells, inner);
     return *cells;
 }
 

@@ -11,8 +11,8 @@ namespace {
 // read from a little further away.
 constexpr double kSheet = UnitsFromMillimetres(210.0);
 constexpr double kModule = UnitsFromMillimetres(5.0);
-constexpr double kBody = 8.0;  // points
-constexpr double kTitle = 18.0;
+constexpr double kBodyPoints = 8.0;  // points
+constexpr double kTitlePoints = 18.0;
 constexpr double kGrowth = 0.7;
 constexpr double kTitleGrowth = 0.85;  // a title is read from further away
 
@@ -31,8 +31,8 @@ Measures::Measures(const PaperSize& paper)
       space(0.6 * module),
       shadow(0.2 * module),
       borderWidth(0.04 * module),
-      body(OnTypeScale(kBody * GrowthFor(paper))),
-      title(OnTypeScale(kTitle * GrowthFor(paper, kTitleGrowth))) {}
+      body(OnTypeScale(kBodyPoints * GrowthFor(paper))),
+      title(OnTypeScale(kTitlePoints * GrowthFor(paper, kTitleGrowth))) {}
 
 std::unique_ptr<CSurroundFrame> PlaceNeatLine(const Box& extent,
                                               const Measures& measures) {

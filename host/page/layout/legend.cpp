@@ -10,7 +10,7 @@ namespace host {
 namespace {
 
 constexpr double kTitleOfBody = 1.25;
-constexpr int kMostLines = 4;
+constexpr int kLinesOfName = 4;
 constexpr double kBetweenColumns = 1.0;  // em
 
 /// How high the ink of a text is, in em.
@@ -63,7 +63,7 @@ InkBox LegendDraft::Set(const LegendSetting& setting, double width) {
     const double most = width / setting.columns - kBetweenColumns * em;
     legend.SetMostWidth(width > 0.0 ? static_cast<float>(std::max(1.0, most / drawn))
                                     : 0.0f);
-    legend.SetMostLines(width > 0.0 ? kMostLines : 1);
+    legend.SetMostLines(width > 0.0 ? kLinesOfName : 1);
     legend.ResetAspectRatio();
     legend.SetSize(static_cast<int>(std::ceil(legend.GetSize() * drawn)));
     return MeasureInk(legend);

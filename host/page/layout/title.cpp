@@ -73,18 +73,18 @@ std::optional<TitleBlock> SetToFit(const PageDesign& design, const TitleLines& l
             if (!isAsked && points < way.least * wanted) {
                 break;
             }
-            const auto block = SetIn(design, lines, UnitsFromPoints(points),
-                                     isAsked ? 100 : way.lines, room);
+            auto block = SetIn(design, lines, UnitsFromPoints(points),
+                               isAsked ? 100 : way.lines, room);
             if (block) {
                 return block;
             }
         }
     }
     // One word wider than the sheet, or more lines than it has room for.
-    for (double points = kLeastSetPoints - 0.5; points > kSmallestTitlePoints;
-         points -= 0.5) {
-        const auto block = SetIn(design, lines, UnitsFromPoints(points), 1000,
-                                 {room.width, room.height});
+    for (int halves = 1; halves < 4; ++halves) {
+        const double points = kLeastSetPoints - halves / 2.0;
+        auto block = SetIn(design, lines, UnitsFromPoints(points), 1000,
+                           {room.width, room.height});
         if (block) {
             return block;
         }

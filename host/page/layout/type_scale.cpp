@@ -47,12 +47,17 @@ double OnTypeScale(double points) {
     });
 }
 
+int StepOf(double points) {
+    const std::vector<double>& scale = TypeScale();
+    return static_cast<int>(
+        std::lower_bound(scale.begin(), scale.end(), OnTypeScale(points)) -
+        scale.begin());
+}
+
 double StepsDown(double points, int steps) {
     const std::vector<double>& scale = TypeScale();
-    const auto at = std::lower_bound(scale.begin(), scale.end(), OnTypeScale(points));
-    const auto place = static_cast<int>(at - scale.begin()) - steps;
     const int last = static_cast<int>(scale.size()) - 1;
-    return scale[static_cast<std::size_t>(std::clamp(place, 0, last))];
+    return scale[static_cast<std::size_t>(std::clamp(StepOf(points) - steps, 0, last))];
 }
 
 }  // namespace host

@@ -14,6 +14,9 @@ const std::vector<double>& TypeScale();
 /// The size of the scale that is nearest, in points: 10 for 10.2.
 double OnTypeScale(double points);
 
+/// Which of them that is, from 0.
+int StepOf(double points);
+
 /// The size that is so many steps smaller, or with a negative number larger.
 double StepsDown(double points, int steps);
 
