@@ -23,8 +23,15 @@ std::wstring Shortened(std::wstring text) {
     return text;
 }
 
-/// On one line, as a list of files or a window's frame shows it.
+/// On one line, as a list of files or a window's frame shows it, and of characters that
+/// XML knows: U+FFFE and U+FFFF are none.
 std::string OnOneLine(std::string text) {
+    for (const char* const none : {"\xEF\xBF\xBE", "\xEF\xBF\xBF"}) {
+        for (std::size_t at = text.find(none); at != std::string::npos;
+             at = text.find(none, at)) {
+            text.replace(at, 3, "\xEF\xBF\xBD");
+        }
+    }
     for (char& c : text) {
         const auto byte = static_cast<unsigned char>(c);
         c = byte < 0x20 || byte == 0x7F ? ' ' : c;

@@ -90,8 +90,10 @@ TEST(PageWords, StandForWhatIsDrawn) {
         {"north-arrow-four", "fr", Turned(270.0f),
          "Figure: Flèche du nord : le nord est à 90° à gauche de la verticale"},
         {"title", "en",
-         [](host::PageItem& item) { In<CMapTitle>(item).SetFontValue(L"One\ntwo"); },
-         "Heading: One two"},
+         [](host::PageItem& item) {
+             In<CMapTitle>(item).SetFontValue(L"One\ntwo\xFFFF");
+         },
+         "Heading: One two\uFFFD"},
         {"frame", "en", [](host::PageItem&) {}, ""},
         {"map", "en", [](host::PageItem&) {}, ""},  // nothing is shown
         {"picture", "pt",
