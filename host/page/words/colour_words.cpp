@@ -81,7 +81,10 @@ std::wstring ColourWords(Gdiplus::ARGB colour, const SpokenWords& words) {
     const HueRange& range =
         *std::find_if(std::begin(kHues), std::end(kHues) - 1,
                       [&seen](const HueRange& one) { return seen.hue < one.end; });
-    if (range.darkWord != nullptr && seen.lightness < 0.45) {
+    // Sienna is as light as a full red, and brown all the same: an orange that is dull.
+    const bool isDull =
+        seen.chroma < 0.45 && seen.lightness < 0.6 && range.word == &SpokenWords::orange;
+    if (range.darkWord != nullptr && (seen.lightness < 0.45 || isDull)) {
         return words.*range.darkWord;
     }
     if (range.lightWord != nullptr && seen.lightness > kLight) {

@@ -153,11 +153,12 @@ TEST(PageWords, CallColoursAsPeopleDo) {
         {0xFFD3D3D3, L"light grey"},  {0xFFFF0000, L"red"},
         {0xFF800000, L"dark red"},    {0xFFFFC0CB, L"pink"},
         {0xFFFFA500, L"orange"},      {0xFF8B4513, L"brown"},
-        {0xFFFFFF00, L"yellow"},      {0xFF00FF00, L"green"},
-        {0xFF006400, L"dark green"},  {0xFF90EE90, L"light green"},
-        {0xFF00CED1, L"turquoise"},   {0xFF0000FF, L"blue"},
-        {0xFF000080, L"dark blue"},   {0x80ADD8E6, L"light blue"},
-        {0xFF800080, L"dark purple"}, {0xFFFF69B4, L"pink"},
+        {0xFFA0694F, L"brown"},       {0xFFFFFF00, L"yellow"},
+        {0xFF00FF00, L"green"},       {0xFF006400, L"dark green"},
+        {0xFF90EE90, L"light green"}, {0xFF00CED1, L"turquoise"},
+        {0xFF0000FF, L"blue"},        {0xFF000080, L"dark blue"},
+        {0x80ADD8E6, L"light blue"},  {0xFF800080, L"dark purple"},
+        {0xFFFF69B4, L"pink"},
     };
     for (const auto& row : rows) {
         EXPECT_EQ(host::ColourWords(row.colour, host::English().spoken), row.words)
