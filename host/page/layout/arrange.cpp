@@ -26,11 +26,13 @@ double WorthOf(const Cells& cells, const Measures& measures) {
     constexpr double kLarger = 1.004;
     constexpr double kDense = 0.97;
     constexpr double kOfNames[] = {1.0, 0.95, 0.9};
+    constexpr double kLeanFrames = 0.99;
     constexpr double kColumn = 0.998;  // one more in the legend
     const int larger = StepOf(cells.setting.points) - StepOf(measures.body);
     double worth =
         AreaOf(cells.map) * std::pow(larger < 0 ? kSmaller : kLarger, std::abs(larger));
-    worth *= std::pow(kColumn, cells.setting.columns - 1);
+    worth *=
+        std::pow(kColumn, cells.setting.columns - 1) * (cells.isLean ? kLeanFrames : 1.0);
     return worth * (cells.setting.gap < LegendSetting().gap ? kDense : 1.0) *
            kOfNames[static_cast<int>(cells.names)];
 }

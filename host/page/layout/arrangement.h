@@ -25,6 +25,7 @@ struct Cells {
     std::optional<TitleBlock> words;  ///< of the title
     LegendSetting setting;            ///< of the legend
     Names names = Names::AreWhole;    ///< likewise
+    bool isLean = false;              ///< arrow and picture stand in high, narrow frames
 };
 
 /// The cells one by one.

@@ -7,6 +7,7 @@ namespace host {
 namespace {
 
 constexpr double kMostOfLegend = 0.7;  // of the room, its height
+constexpr double kLean = 1.5;          // height over width
 constexpr int kLongestBar = 3;         // columns
 
 /// The columns of a room's width.
@@ -181,6 +182,8 @@ std::optional<Cells> Below(const Sheet& sheet, const Box& room, bool isStacked,
     }
     const double top = cells.map.bottom - gap - titleHeight;
     Fill(cells, sheet, grid, shares, top - height, top);
+    cells.isLean =
+        !isStacked && shares.arrow + shares.picture > 0 && height > kLean * grid.width;
     return cells;
 }
 

@@ -98,7 +98,7 @@ double LeastShare(const Case& page) {
         double largeSheet;  // A4 and above
         double smallSheet;
     };
-    constexpr Row kClassic[] = {{8, 0.55, 0.40}, {60, 0.45, 0.14}, {256, 0.18, 0.14}};
+    constexpr Row kClassic[] = {{8, 0.50, 0.40}, {60, 0.45, 0.11}, {256, 0.18, 0.11}};
     // A design that is asked for may not suit the shape of the map.
     constexpr Row kAskedFor[] = {{8, 0.33, 0.25}, {60, 0.28, 0.11}, {256, 0.15, 0.10}};
     const bool isSmall = page.sheet == "A5" || page.sheet == "A6";
