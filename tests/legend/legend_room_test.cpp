@@ -199,6 +199,10 @@ TEST(LegendRoom, TextsAreBrokenWhereTheyMayBe) {
         {L"\U00020000\U00020001", 1, 9, {"\U00020000", "\U00020001"}, false},
         {L"\xD840\xDC00\xD840\xDC01", 1, 9, {"\U00020000", "\U00020001"}, false},
         {L"地\xD83D地", 2, 9, {"地" + half, "地"}, false},
+        {L"土\xDB40\xDD00", 1, 9, {"…"}, true},
+        {L"地x", 1, 9, {"地", "x"}, false},
+        {L"1.地", 2, 9, {"1.", "地"}, false},
+        {L"1.25", 3, 9, {"1.…"}, true},
         {L"a \xD83D", 1, 9, {"a", half}, false},
         {L"土\u3099地", 2, 9, {"土\u3099", "地"}, false},
         {L"葛\U000E0100飾", 2, 9, {"葛\U000E0100", "飾"}, false},
@@ -209,7 +213,7 @@ TEST(LegendRoom, TextsAreBrokenWhereTheyMayBe) {
         CMapLegend legend;
         legend.SetSourceCaption(L"");
         legend.SetDataSouce({&raster});
-        legend.SetMostWidth(10.0f * static_cast<float>(row.characters) + 0.5f);
+        legend.SetMostWidth(std::max(0.5f, 10.0f * static_cast<float>(row.characters)));
         legend.SetMostLines(row.lines);
         Measure(legend);
         std::vector<std::string> expected = row.broken;
@@ -220,6 +224,44 @@ TEST(LegendRoom, TextsAreBrokenWhereTheyMayBe) {
         EXPECT_EQ(legend.GetSize(),
                   13 + 24 + 13 + 16 * static_cast<int>(row.broken.size() - 1))
             << expected[1];
+    }
+}
+
+TEST(LegendRoom, LinesEndBesideTheFirstAndTheLastOfEachRange) {
+    const auto breaks = [](char32_t first, char32_t second) {
+        std::wstring name;
+        for (const char32_t character : {first, second}) {
+            if (sizeof(wchar_t) == 2 && character > 0xFFFF) {
+                name += static_cast<wchar_t>(0xD800 + ((character - 0x10000) >> 10));
+                name += static_cast<wchar_t>(0xDC00 + (character & 0x3FF));
+            } else {
+                name += static_cast<wchar_t>(character);
+            }
+        }
+        Raster raster(name, static_cast<DataDisplayType>(7));
+        CMapLegend legend;
+        legend.SetSourceCaption(L"");
+        legend.SetDataSouce({&raster});
+        legend.SetMostWidth(10.0f);
+        legend.SetMostLines(2);
+        Measure(legend);
+        return !legend.HasCutTexts();
+    };
+    for (const auto& [first, last] : {std::pair(U'\u2E80', U'\u9FFF'),
+                                      {U'\uAC00', U'\uD7AF'},
+                                      {U'\uF900', U'\uFAFF'},
+                                      {U'\uFF00', U'\uFFEF'},
+                                      {U'\U00020000', U'\U0003FFFF'}}) {
+        EXPECT_TRUE(breaks(U'a', first) && breaks(last, U'a')) << first;
+        EXPECT_FALSE(breaks(U'a', first - 1) || breaks(last + 1, U'a')) << first;
+    }
+    for (const auto& [first, last] : {std::pair(U'\u0300', U'\u036F'),
+                                      {U'\u200D', U'\u200D'},
+                                      {U'\u3099', U'\u309A'},
+                                      {U'\uFE00', U'\uFE0F'},
+                                      {U'\U000E0100', U'\U000E01EF'}}) {
+        EXPECT_FALSE(breaks(U'\u571F', first) || breaks(U'\u571F', last)) << first;
+        EXPECT_TRUE(breaks(U'\u571F', first - 1) && breaks(U'\u571F', last + 1)) << first;
     }
 }
 
