@@ -128,13 +128,16 @@ TEST_F(Atlas, IsDrawnWithoutAPageThatEndsTheDrawing) {
         }
     };
     for (const bool crashes : {true, false}) {
-        const Arguments limit = {"--limit-time", "1"};
+        const Arguments limit = {"--limit-time", "3"};
         Arguments more = crashes ? Arguments() : limit;
         more.emplace_back("--allow-all");
         const host_tests::RunningMapPage running(folder, Call(list, more), endless);
         if (crashes) {
-            // The columns are checked in a process of their own before.
-            sleep(1);
+            // Once the file is begun: the columns are checked in another process before.
+            constexpr int kTries = 2000;
+            for (int i = 0; i < kTries && folder.Names().front()[0] != '.'; ++i) {
+                usleep(10'000);
+            }
             kill(running.DrawingProcess(), SIGSEGV);
         }
         const Result result = running.Wait();
