@@ -185,7 +185,7 @@ void Scene::SetProperty(CMapTitle& title) {
             return title.SetFontValue(m_input.Text());
         case 3:
             return title.SetLineAlignment(
-                static_cast<Gdiplus::StringAlignment>(m_input.Whole()));
+                static_cast<Gdiplus::StringAlignment>(m_input.Choice(4)));
         case 1:
             return title.SetFontStyle(Family());
         case 2:

@@ -9,11 +9,10 @@ using map_surround::Length;
 
 namespace {
 
-/// How much of its width a text has to the left of the point where it is written.
+/// How much of its width a text has to the left of the point where it is written, where
+/// that is not its beginning.
 double PartLeftOf(Gdiplus::StringAlignment alignment) {
-    return alignment == Gdiplus::StringAlignmentCenter ? 0.5
-           : alignment == Gdiplus::StringAlignmentFar  ? 1.0
-                                                       : 0.0;
+    return alignment == Gdiplus::StringAlignmentCenter ? 0.5 : 1.0;
 }
 
 }  // namespace

@@ -222,6 +222,7 @@ TEST(MapTitle, SetsLinesWhereTheyAreWanted) {
                            Row{Gdiplus::StringAlignmentFar, 200.0f + 60.0f}}) {
         CMapTitle title = Title(L"Land cover\nOlinda");
         title.SetLineAlignment(row.alignment);
+        EXPECT_EQ(title.GetLineAlignment(), row.alignment);
         Surface surface;
         Recording recording(Mode::RecordOnly);
         recording.ScriptBounds({{1, 3, 60, 20}});
