@@ -51,22 +51,16 @@ void CheckForArchive(const Page& page) {
     }
 }
 
-void MakeArchive(QPDF& pdf) {
-    QPDFObjectHandle profile = QPDFObjectHandle::newStream(&pdf, StandardColours());
-    profile.getDict().replaceKey("/N", QPDFObjectHandle::newInteger(3));
+void AddColours(PdfObjects& objects, QPDFObjectHandle catalogue) {
+    const int profile =
+        objects.WritePacked(QPDFObjectHandle::parse("<< /N 3 >>"), StandardColours());
     QPDFObjectHandle intent = QPDFObjectHandle::parse(
         "<< /Type /OutputIntent /S /GTS_PDFA1 /OutputConditionIdentifier (sRGB) "
         "/Info (sRGB IEC61966-2.1) >>");
-    intent.replaceKey("/DestOutputProfile", profile);
-    QPDFObjectHandle intents = QPDFObjectHandle::newArray();
-    intents.appendItem(pdf.makeIndirectObject(intent));
-    pdf.getRoot().replaceKey("/OutputIntents", intents);
-    for (QPDFObjectHandle object : pdf.getAllObjects()) {
-        if (object.isStream() &&
-            object.getDict().getKey("/Subtype").isNameAndEquals("/Image")) {
-            object.getDict().removeKey("/Interpolate");
-        }
-    }
+    intent.replaceKey("/DestOutputProfile", PdfObjects::Reference(profile));
+    catalogue.replaceKey(
+        "/OutputIntents",
+        QPDFObjectHandle::newArray({PdfObjects::Reference(objects.Write(intent))}));
 }
 
 }  // namespace host

@@ -1,7 +1,6 @@
 #pragma once
 
-#include <qpdf/QPDF.hh>
-
+#include "page/output/pdf_objects.h"
 #include "page/page.h"
 
 namespace host {
@@ -12,8 +11,7 @@ namespace host {
 /// place is no text.
 void CheckForArchive(const Page& page);
 
-/// Says what the colours of a file are, those of sRGB, and has its images drawn as they
-/// are.
-void MakeArchive(QPDF& pdf);
+/// Says what the colours of a file are, those of sRGB.
+void AddColours(PdfObjects& objects, QPDFObjectHandle catalogue);
 
 }  // namespace host

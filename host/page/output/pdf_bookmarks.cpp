@@ -6,61 +6,70 @@
 namespace host {
 namespace {
 
-void AddOutline(QPDF& pdf, const std::vector<PdfPage>& pages) {
-    const std::vector<QPDFObjectHandle>& drawn = pdf.getAllPages();
-    QPDFObjectHandle outline = pdf.makeIndirectObject(QPDFObjectHandle::newDictionary());
-    std::vector<QPDFObjectHandle> bookmarks;
-    for (std::size_t i = 0; i < pages.size(); ++i) {
-        QPDFObjectHandle bookmark =
-            pdf.makeIndirectObject(QPDFObjectHandle::parse("<< >>"));
-        QPDFObjectHandle place = QPDFObjectHandle::newArray();
-        place.appendItem(drawn[i]);
-        place.appendItem(QPDFObjectHandle::newName("/Fit"));
-        const std::string& name = pages[i].name;
-        bookmark.replaceKey("/Title", QPDFObjectHandle::newUnicodeString(
-                                          name.empty() ? pages[i].about.title : name));
-        bookmark.replaceKey("/Parent", outline);
-        bookmark.replaceKey("/Dest", place);
-        if (i > 0) {
-            bookmark.replaceKey("/Prev", bookmarks.back());
-            bookmarks.back().replaceKey("/Next", bookmark);
-        }
-        bookmarks.push_back(bookmark);
+using Handle = QPDFObjectHandle;
+
+void AddOutline(PdfObjects& objects, const std::vector<PlacedPage>& pages,
+                Handle catalogue) {
+    const int outline = objects.Reserve();
+    std::vector<int> numbers(pages.size());
+    for (int& number : numbers) {
+        number = objects.Reserve();
     }
-    outline.replaceKey("/Type", QPDFObjectHandle::newName("/Outlines"));
-    outline.replaceKey("/First", bookmarks.front());
-    outline.replaceKey("/Last", bookmarks.back());
-    outline.replaceKey(
-        "/Count", QPDFObjectHandle::newInteger(static_cast<long long>(bookmarks.size())));
-    pdf.getRoot().replaceKey("/Outlines", outline);
-    pdf.getRoot().replaceKey("/PageMode", QPDFObjectHandle::newName("/UseOutlines"));
+    for (std::size_t i = 0; i < pages.size(); ++i) {
+        Handle bookmark = Handle::newDictionary();
+        const std::string& name = pages[i].page->name;
+        bookmark.replaceKey(
+            "/Title",
+            Handle::newUnicodeString(name.empty() ? pages[i].page->about.title : name));
+        bookmark.replaceKey("/Parent", PdfObjects::Reference(outline));
+        bookmark.replaceKey("/Dest",
+                            Handle::newArray({PdfObjects::Reference(pages[i].number),
+                                              Handle::newName("/Fit")}));
+        if (i > 0) {
+            bookmark.replaceKey("/Prev", PdfObjects::Reference(numbers[i - 1]));
+        }
+        if (i + 1 < pages.size()) {
+            bookmark.replaceKey("/Next", PdfObjects::Reference(numbers[i + 1]));
+        }
+        objects.Write(numbers[i], bookmark);
+    }
+    Handle entries = Handle::newDictionary();
+    entries.replaceKey("/Type", Handle::newName("/Outlines"));
+    entries.replaceKey("/First", PdfObjects::Reference(numbers.front()));
+    entries.replaceKey("/Last", PdfObjects::Reference(numbers.back()));
+    entries.replaceKey("/Count",
+                       Handle::newInteger(static_cast<long long>(pages.size())));
+    objects.Write(outline, entries);
+    catalogue.replaceKey("/Outlines", PdfObjects::Reference(outline));
+    catalogue.replaceKey("/PageMode", Handle::newName("/UseOutlines"));
 }
 
-void AddLabels(QPDF& pdf, const std::vector<PdfPage>& pages) {
-    QPDFObjectHandle numbers = QPDFObjectHandle::newArray();
+void AddLabels(const std::vector<PlacedPage>& pages, Handle catalogue) {
+    Handle numbers = Handle::newArray();
     for (std::size_t i = 0; i < pages.size(); ++i) {
-        QPDFObjectHandle label = QPDFObjectHandle::newDictionary();
-        if (pages[i].name.empty()) {
-            label = QPDFObjectHandle::parse("<< /S /D >>");
-            label.replaceKey("/St",
-                             QPDFObjectHandle::newInteger(static_cast<long long>(i) + 1));
+        Handle label = Handle::newDictionary();
+        const std::string& name = pages[i].page->name;
+        if (name.empty()) {
+            label.replaceKey("/S", Handle::newName("/D"));
+            label.replaceKey("/St", Handle::newInteger(static_cast<long long>(i) + 1));
         } else {
-            label.replaceKey("/P", QPDFObjectHandle::newUnicodeString(pages[i].name));
+            label.replaceKey("/P", Handle::newUnicodeString(name));
         }
-        numbers.appendItem(QPDFObjectHandle::newInteger(static_cast<long long>(i)));
+        numbers.appendItem(Handle::newInteger(static_cast<long long>(i)));
         numbers.appendItem(label);
     }
-    QPDFObjectHandle labels = QPDFObjectHandle::newDictionary();
+    Handle labels = Handle::newDictionary();
     labels.replaceKey("/Nums", numbers);
-    pdf.getRoot().replaceKey("/PageLabels", labels);
+    catalogue.replaceKey("/PageLabels", labels);
 }
 
 }  // namespace
 
-void AddBookmarks(QPDF& pdf, const std::vector<PdfPage>& pages) {
-    if (pages.size() > 1 || !pages.front().name.empty()) {
-        AddOutline(pdf, pages);
-        AddLabels(pdf, pages);
+void AddBookmarks(PdfObjects& objects, const std::vector<PlacedPage>& pages,
+                  const Handle& catalogue) {
+    if (pages.size() > 1 || !pages.front().page->name.empty()) {
+        AddOutline(objects, pages, catalogue);
+        AddLabels(pages, catalogue);
     }
 }
 

@@ -1,15 +1,22 @@
 #pragma once
 
-#include <qpdf/QPDF.hh>
 #include <vector>
 
+#include "page/output/pdf_objects.h"
 #include "page/output/pdf_page.h"
 
 namespace host {
 
+/// A page and its number among the objects of a file.
+struct PlacedPage {
+    const PdfPage* page;
+    int number;
+};
+
 /// Gives each page of a file a bookmark, its name or else its title, and a label, its
 /// name or else its number, and has viewers show the bookmarks. A file of one page
 /// without a name gets none.
-void AddBookmarks(QPDF& pdf, const std::vector<PdfPage>& pages);
+void AddBookmarks(PdfObjects& objects, const std::vector<PlacedPage>& pages,
+                  const QPDFObjectHandle& catalogue);
 
 }  // namespace host

@@ -4,8 +4,6 @@
 #include <iterator>
 #include <memory>
 #include <qpdf/Buffer.hh>
-#include <qpdf/Pl_Buffer.hh>
-#include <qpdf/Pl_Flate.hh>
 #include <stdexcept>
 
 namespace host {
@@ -82,29 +80,15 @@ private:
     bool m_paints = false;                       // since the last one
 };
 
-/// Packed at once: a file of many pages holds one of each until it is written.
-std::string Packed(const std::string& text) {
-    Pl_Buffer packed("packed");
-    Pl_Flate flate("flate", &packed, Pl_Flate::a_deflate);
-    flate.writeString(text);
-    flate.finish();
-    const std::shared_ptr<Buffer> buffer = packed.getBufferSharedPointer();
-    return {reinterpret_cast<const char*>(buffer->getBuffer()), buffer->getSize()};
-}
-
 }  // namespace
 
-void TagContent(QPDF& pdf, Handle page, const std::vector<std::string>& tags) {
-    Handle drawn = page.getKey("/Contents");
+std::string TaggedContent(Handle drawn, const std::vector<std::string>& tags) {
     const std::shared_ptr<Buffer> buffer = drawn.getStreamData(qpdf_dl_generalized);
     const std::string content(reinterpret_cast<const char*>(buffer->getBuffer()),
                               buffer->getSize());
     Retagging retagging(content, tags);
     Handle::parseContentStream(drawn, &retagging);
-    Handle written = Handle::newStream(&pdf);
-    written.replaceStreamData(Packed(retagging.Text()), Handle::newName("/FlateDecode"),
-                              Handle::newNull());
-    page.replaceKey("/Contents", written);
+    return retagging.Text();
 }
 
 }  // namespace host

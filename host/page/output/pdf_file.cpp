@@ -85,7 +85,7 @@ void PdfFile::Add(const Page& page, const Progress& progress, const std::string&
     m_pages.back().isDropped = false;
 }
 
-void PdfFile::Finish(const PageAbout& about, const Write& write) {
+void PdfFile::Finish(const PageAbout& about, const PdfObjects::Sink& write) {
     m_draft->Writing([&] { FinishSurface(m_draft->surface.get()); });
     FinishPdf(m_draft->descriptor, about, m_pages, m_settings.print.standard, write);
 }

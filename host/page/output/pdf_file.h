@@ -2,11 +2,11 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
 
+#include "page/output/pdf_objects.h"
 #include "page/output/pdf_page.h"
 #include "page/output/print_settings.h"
 #include "page/page.h"
@@ -48,13 +48,10 @@ public:
     /// Whether the draft can still be written.
     bool IsGood() const;
 
-    /// Takes the bytes of a file, piece by piece.
-    using Write = std::function<void(const std::vector<std::uint8_t>&)>;
-
     /// Writes the file, of at least one page. Nothing can be added after that. Throws
     /// std::runtime_error.
     /// @param about the file as a whole
-    void Finish(const PageAbout& about, const Write& write);
+    void Finish(const PageAbout& about, const PdfObjects::Sink& write);
 
 private:
     struct Draft;

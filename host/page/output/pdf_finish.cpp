@@ -1,21 +1,20 @@
 #include "page/output/pdf_finish.h"
 
-#include <unistd.h>
-
+#include <algorithm>
 #include <array>
-#include <cstdio>
 #include <cstdlib>
 #include <ctime>
 #include <optional>
-#include <qpdf/Pipeline.hh>
-#include <qpdf/QPDF.hh>
-#include <qpdf/QPDFWriter.hh>
+#include <qpdf/QPDFObjectHandle.hh>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 #include "map_surround/version.h"
 #include "page/output/pdf_archive.h"
 #include "page/output/pdf_bookmarks.h"
+#include "page/output/pdf_content.h"
+#include "page/output/pdf_draft.h"
 #include "page/output/pdf_structure.h"
 #include "page/output/pdf_viewports.h"
 #include "page/output/xmp_packet.h"
@@ -52,14 +51,8 @@ std::string Written(const std::optional<std::tm>& moment, const char* format) {
     return text.data();
 }
 
-/// Says what the file is in both of the ways in which programs look for it.
-void Describe(QPDF& pdf, const PageAbout& about, PdfStandard standard) {
-    const std::optional<std::tm> moment = Moment();
-    Handle draft = pdf.getTrailer().getKey("/Info").getKey("/Producer");
-    const FileFacts facts = {draft.isString() ? draft.getUTF8Value() : "",
-                             "map_surround " MAP_SURROUND_VERSION_STRING,
-                             Written(moment, "%Y-%m-%dT%H:%M:%SZ"),
-                             standard == PdfStandard::A2u};
+Handle InfoOf(const PageAbout& about, const FileFacts& facts,
+              const std::optional<std::tm>& moment) {
     Handle info = Handle::newDictionary();
     const auto set = [&info](const char* key, const std::string& text) {
         if (!text.empty()) {
@@ -74,107 +67,104 @@ void Describe(QPDF& pdf, const PageAbout& about, PdfStandard standard) {
     set("/Creator", facts.creator);
     set("/CreationDate", Written(moment, "D:%Y%m%d%H%M%SZ"));
     set("/ModDate", Written(moment, "D:%Y%m%d%H%M%SZ"));
-    pdf.getTrailer().replaceKey("/Info", pdf.makeIndirectObject(info));
-
-    Handle packet = Handle::newStream(&pdf, XmpPacket(about, facts));
-    packet.getDict().replaceKey("/Type", Handle::newName("/Metadata"));
-    packet.getDict().replaceKey("/Subtype", Handle::newName("/XML"));
-    Handle root = pdf.getRoot();
-    root.replaceKey("/Metadata", packet);
-    root.replaceKey("/Lang", Handle::newUnicodeString(about.language));
-    root.replaceKey("/ViewerPreferences", Handle::parse("<< /DisplayDocTitle true >>"));
+    return info;
 }
 
-/// Says of fonts what Cairo takes for granted: that characters are numbered as glyphs.
-void NumberGlyphs(QPDF& pdf) {
-    for (Handle font : pdf.getAllObjects()) {
-        if (font.isDictionary() &&
-            font.getKey("/Subtype").isNameAndEquals("/CIDFontType2")) {
-            font.replaceKey("/CIDToGIDMap", Handle::newName("/Identity"));
-        }
-    }
+/// Says what the file is in both of the ways in which programs look for it.
+/// @return the number of the one that the catalogue does not name
+int Describe(PdfObjects& objects, const PageAbout& about, const std::string& producer,
+             PdfStandard standard, Handle catalogue) {
+    const std::optional<std::tm> moment = Moment();
+    const FileFacts facts = {producer, "map_surround " MAP_SURROUND_VERSION_STRING,
+                             Written(moment, "%Y-%m-%dT%H:%M:%SZ"),
+                             standard == PdfStandard::A2u};
+    const int packet = objects.WritePlain(
+        Handle::parse("<< /Type /Metadata /Subtype /XML >>"), XmpPacket(about, facts));
+    catalogue.replaceKey("/Metadata", PdfObjects::Reference(packet));
+    catalogue.replaceKey("/Lang", Handle::newUnicodeString(about.language));
+    catalogue.replaceKey("/ViewerPreferences",
+                         Handle::parse("<< /DisplayDocTitle true >>"));
+    return objects.Write(InfoOf(about, facts, moment));
 }
 
-/// Hands pieces of a file on: libqpdf writes a few bytes at a time.
-class Pieces : public Pipeline {
+/// Copies the pages that are to be there, each with what is said of it.
+class Pages {
 public:
-    explicit Pieces(const std::function<void(const std::vector<std::uint8_t>&)>& write)
-        : Pipeline("file", nullptr), m_write(write) {
-        m_piece.reserve(kSize);
+    Pages(PdfDraft& draft, PdfObjects& objects, const std::vector<PdfPage>& drawn)
+        : m_draft(draft),
+          m_objects(objects),
+          m_structure(objects, std::count_if(drawn.begin(), drawn.end(),
+                                             [](const PdfPage& page) {
+                                                 return !page.isDropped;
+                                             }) == 1),
+          m_tree(objects.Reserve()) {}
+
+    void Copy(std::size_t index, const PdfPage& drawn) {
+        PdfDraft::PageCopy page = m_draft.CopyOf(index);
+        const int number = m_objects.Reserve();
+        const std::vector<std::string> tags =
+            m_structure.Add(drawn, number, page.entries);
+        const int content = m_objects.WritePacked(Handle::newDictionary(),
+                                                  TaggedContent(page.content, tags));
+        page.entries.replaceKey("/Contents", PdfObjects::Reference(content));
+        page.entries.replaceKey("/Parent", PdfObjects::Reference(m_tree));
+        m_measures |= AddViewports(m_objects, page.entries, drawn.maps, drawn.dpi);
+        m_objects.Write(number, page.entries);
+        m_written.push_back({&drawn, number});
+        m_draft.Forget(index);
     }
 
-    void write(const unsigned char* data, std::size_t length) override {
-        m_piece.insert(m_piece.end(), data, data + length);
-        if (m_piece.size() >= kSize) {
-            finish();
+    void Finish(Handle catalogue) {
+        Handle tree = Handle::parse("<< /Type /Pages >>");
+        Handle children = Handle::newArray();
+        for (const PlacedPage& page : m_written) {
+            children.appendItem(PdfObjects::Reference(page.number));
         }
-    }
-
-    void finish() override {
-        m_write(m_piece);
-        m_piece.clear();
+        tree.replaceKey("/Kids", children);
+        tree.replaceKey("/Count", Handle::newInteger(children.getArrayNItems()));
+        m_objects.Write(m_tree, tree);
+        catalogue.replaceKey("/Pages", PdfObjects::Reference(m_tree));
+        m_structure.Finish(catalogue);
+        AddBookmarks(m_objects, m_written, catalogue);
+        if (m_measures) {
+            // Measuring on Earth came after PDF 1.7.
+            catalogue.replaceKey(
+                "/Extensions",
+                Handle::parse("<< /ADBE << /BaseVersion /1.7 /ExtensionLevel 3 >> >>"));
+        }
     }
 
 private:
-    static constexpr std::size_t kSize = std::size_t{1} << 18;
-    const std::function<void(const std::vector<std::uint8_t>&)>& m_write;
-    std::vector<std::uint8_t> m_piece;
+    PdfDraft& m_draft;
+    PdfObjects& m_objects;
+    PdfStructure m_structure;
+    int m_tree;
+    std::vector<PlacedPage> m_written;
+    bool m_measures = false;
 };
-
-void Write(QPDF& pdf, Pieces& pieces) {
-    QPDFWriter writer(pdf);
-    writer.setOutputPipeline(&pieces);
-    writer.setMinimumPDFVersion("1.7");
-    writer.setObjectStreamMode(qpdf_o_generate);
-    writer.setDeterministicID(true);
-    writer.write();
-    pieces.finish();
-}
-
-/// Takes out the pages that are not to be there, and gives the others.
-std::vector<PdfPage> WithoutDropped(QPDF& pdf, const std::vector<PdfPage>& drawn) {
-    const std::vector<QPDFObjectHandle> inFile = pdf.getAllPages();
-    if (inFile.size() != drawn.size()) {
-        throw std::runtime_error("the PDF file lacks pages");
-    }
-    std::vector<PdfPage> kept;
-    for (std::size_t i = 0; i < drawn.size(); ++i) {
-        if (drawn[i].isDropped) {
-            pdf.removePage(inFile[i]);
-        } else {
-            kept.push_back(drawn[i]);
-        }
-    }
-    return kept;
-}
 
 }  // namespace
 
-void FinishPdf(int draft, const PageAbout& about, const std::vector<PdfPage>& drawn,
-               PdfStandard standard,
-               const std::function<void(const std::vector<std::uint8_t>&)>& write) {
-    std::FILE* const file = fdopen(dup(draft), "rb");
-    if (file == nullptr) {
-        throw std::runtime_error("the PDF file cannot be read again");
+void FinishPdf(int draftFile, const PageAbout& about, const std::vector<PdfPage>& drawn,
+               PdfStandard standard, const PdfObjects::Sink& write) {
+    PdfObjects objects(write);
+    PdfDraft draft(draftFile, objects, standard);
+    if (draft.PageCount() != drawn.size()) {
+        throw std::runtime_error("the PDF file lacks pages");
     }
-    std::rewind(file);
-    QPDF pdf;
-    pdf.setSuppressWarnings(true);
-    constexpr bool kClose = true;
-    pdf.processFile("page", file, kClose);
-    const std::vector<PdfPage> pages = WithoutDropped(pdf, drawn);
-    Describe(pdf, about, standard);
-    NumberGlyphs(pdf);
-    WriteStructure(pdf, pages);
-    AddBookmarks(pdf, pages);
-    for (std::size_t i = 0; i < pages.size(); ++i) {
-        AddViewports(pdf, pdf.getAllPages()[i], pages[i].maps, pages[i].dpi);
+    Pages pages(draft, objects, drawn);
+    for (std::size_t i = 0; i < drawn.size(); ++i) {
+        if (!drawn[i].isDropped) {
+            pages.Copy(i, drawn[i]);
+        }
     }
+    Handle catalogue = Handle::parse("<< /Type /Catalog >>");
+    pages.Finish(catalogue);
+    const int info = Describe(objects, about, draft.Producer(), standard, catalogue);
     if (standard == PdfStandard::A2u) {
-        MakeArchive(pdf);
+        AddColours(objects, catalogue);
     }
-    Pieces pieces(write);
-    Write(pdf, pieces);
+    objects.Finish(objects.Write(catalogue), info);
 }
 
 }  // namespace host

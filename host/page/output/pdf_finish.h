@@ -1,9 +1,8 @@
 #pragma once
 
-#include <cstdint>
-#include <functional>
 #include <vector>
 
+#include "page/output/pdf_objects.h"
 #include "page/output/pdf_page.h"
 #include "page/output/print_settings.h"
 
@@ -16,13 +15,12 @@ namespace host {
 /// It is dated by SOURCE_DATE_EPOCH, or not at all, and its identifier follows from what
 /// it holds, so that the same page gives the same bytes. Throws std::runtime_error when
 /// it cannot be written.
-/// @param draft descriptor of the file; read from its beginning
+/// @param draftFile descriptor of the file; read from its beginning
 /// @param about the file as a whole
 /// @param drawn its pages, as Cairo drew them
 /// @param standard whose rules it keeps
 /// @param write takes the file, piece by piece
-void FinishPdf(int draft, const PageAbout& about, const std::vector<PdfPage>& drawn,
-               PdfStandard standard,
-               const std::function<void(const std::vector<std::uint8_t>&)>& write);
+void FinishPdf(int draftFile, const PageAbout& about, const std::vector<PdfPage>& drawn,
+               PdfStandard standard, const PdfObjects::Sink& write);
 
 }  // namespace host

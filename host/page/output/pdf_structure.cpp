@@ -1,11 +1,9 @@
 #include "page/output/pdf_structure.h"
 
 #include <algorithm>
-#include <cmath>
 #include <qpdf/QPDFObjectHandle.hh>
 #include <string>
-
-#include "page/output/pdf_content.h"
+#include <vector>
 
 namespace host {
 namespace {
@@ -24,12 +22,12 @@ const char* TagOf(SpokenItem::Role role) {
     return "/Figure";
 }
 
-Handle Structure(QPDF& pdf, const char* tag, const Handle& parent) {
+Handle Structure(const char* tag, int parent) {
     Handle element = Handle::newDictionary();
     element.replaceKey("/Type", Handle::newName("/StructElem"));
     element.replaceKey("/S", Handle::newName(tag));
-    element.replaceKey("/P", parent);
-    return pdf.makeIndirectObject(element);
+    element.replaceKey("/P", PdfObjects::Reference(parent));
+    return element;
 }
 
 Handle BoundingBox(const Box& box) {
@@ -41,11 +39,10 @@ Handle BoundingBox(const Box& box) {
 }
 
 /// What is read of an item, and where it stands.
-Handle Spoken(QPDF& pdf, const PdfPage::Tagged& item, const Handle& parent,
-              const Handle& page, std::size_t tag) {
+Handle Spoken(const PdfPage::Tagged& item, int parent, int page, std::size_t tag) {
     const bool isFigure = item.spoken.role == SpokenItem::Role::Figure;
-    Handle element = Structure(pdf, TagOf(item.spoken.role), parent);
-    element.replaceKey("/Pg", page);
+    Handle element = Structure(TagOf(item.spoken.role), parent);
+    element.replaceKey("/Pg", PdfObjects::Reference(page));
     element.replaceKey("/K", Handle::newInteger(static_cast<long long>(tag)));
     element.replaceKey(isFigure ? "/Alt" : "/ActualText",
                        Handle::newUnicodeString(item.spoken.text));
@@ -57,9 +54,19 @@ Handle Spoken(QPDF& pdf, const PdfPage::Tagged& item, const Handle& parent,
     return element;
 }
 
-/// The elements of a page below a parent, and by tag, for those who come from the page.
-void AddPage(QPDF& pdf, const PdfPage& described, const Handle& page, Handle parent,
-             Handle byTag) {
+}  // namespace
+
+PdfStructure::PdfStructure(PdfObjects& objects, bool isOfOnePage)
+    : m_objects(objects),
+      m_isOfOnePage(isOfOnePage),
+      m_root(objects.Reserve()),
+      m_document(objects.Reserve()),
+      m_sections(Handle::newArray()),
+      m_byTag(Handle::newArray()) {}
+
+std::vector<std::string> PdfStructure::Add(const PdfPage& described, int page,
+                                           Handle entries) {
+    const int parent = m_isOfOnePage ? m_document : m_objects.Reserve();
     std::vector<std::string> tags(described.tags.size());
     std::vector<Handle> elements(described.tags.size(), Handle::newNull());
     Handle children = Handle::newArray();
@@ -71,51 +78,41 @@ void AddPage(QPDF& pdf, const PdfPage& described, const Handle& page, Handle par
         }
         const auto tag = static_cast<std::size_t>(found - described.tags.begin());
         tags[tag] = TagOf(item.spoken.role);
-        elements[tag] = Spoken(pdf, item, parent, page, tag);
+        elements[tag] =
+            PdfObjects::Reference(m_objects.Write(Spoken(item, parent, page, tag)));
         children.appendItem(elements[tag]);
     }
-    parent.replaceKey("/K", children);
-    for (const Handle& element : elements) {
-        byTag.appendItem(element);
+    if (m_isOfOnePage) {
+        m_sections = children;
+    } else {
+        Handle section = Structure("/Sect", m_document);
+        section.replaceKey("/K", children);
+        m_objects.Write(parent, section);
+        m_sections.appendItem(PdfObjects::Reference(parent));
     }
-    TagContent(pdf, page, tags);
+    const Handle number = Handle::newInteger(m_pages++);
+    m_byTag.appendItem(number);
+    m_byTag.appendItem(
+        PdfObjects::Reference(m_objects.Write(Handle::newArray(elements))));
+    entries.replaceKey("/StructParents", number);
+    entries.replaceKey("/Tabs", Handle::newName("/S"));
+    return tags;
 }
 
-}  // namespace
-
-void WriteStructure(QPDF& pdf, const std::vector<PdfPage>& pages) {
-    const std::vector<QPDFObjectHandle>& drawn = pdf.getAllPages();
-    Handle root = pdf.makeIndirectObject(Handle::newDictionary());
-    root.replaceKey("/Type", Handle::newName("/StructTreeRoot"));
-    Handle document = Structure(pdf, "/Document", root);
-    root.replaceKey("/K", document);
-    Handle sections = Handle::newArray();
-    Handle numbers = Handle::newArray();
-    for (std::size_t i = 0; i < pages.size(); ++i) {
-        Handle page = drawn[i];
-        const bool isOnly = pages.size() == 1;
-        Handle parent = isOnly ? document : Structure(pdf, "/Sect", document);
-        Handle byTag = pdf.makeIndirectObject(Handle::newArray());
-        AddPage(pdf, pages[i], page, parent, byTag);
-        if (!isOnly) {
-            sections.appendItem(parent);
-        }
-        const Handle number = Handle::newInteger(static_cast<long long>(i));
-        numbers.appendItem(number);
-        numbers.appendItem(byTag);
-        page.replaceKey("/StructParents", number);
-        page.replaceKey("/Tabs", Handle::newName("/S"));
-    }
-    if (pages.size() != 1) {
-        document.replaceKey("/K", sections);
-    }
+void PdfStructure::Finish(Handle catalogue) {
+    Handle document = Structure("/Document", m_root);
+    document.replaceKey("/K", m_sections);
+    m_objects.Write(m_document, document);
     Handle tree = Handle::newDictionary();
-    tree.replaceKey("/Nums", numbers);
-    root.replaceKey("/ParentTree", pdf.makeIndirectObject(tree));
-    root.replaceKey("/ParentTreeNextKey",
-                    Handle::newInteger(static_cast<long long>(pages.size())));
-    pdf.getRoot().replaceKey("/StructTreeRoot", root);
-    pdf.getRoot().replaceKey("/MarkInfo", Handle::parse("<< /Marked true >>"));
+    tree.replaceKey("/Nums", m_byTag);
+    Handle root = Handle::newDictionary();
+    root.replaceKey("/Type", Handle::newName("/StructTreeRoot"));
+    root.replaceKey("/K", PdfObjects::Reference(m_document));
+    root.replaceKey("/ParentTree", PdfObjects::Reference(m_objects.Write(tree)));
+    root.replaceKey("/ParentTreeNextKey", Handle::newInteger(m_pages));
+    m_objects.Write(m_root, root);
+    catalogue.replaceKey("/StructTreeRoot", PdfObjects::Reference(m_root));
+    catalogue.replaceKey("/MarkInfo", Handle::parse("<< /Marked true >>"));
 }
 
 }  // namespace host

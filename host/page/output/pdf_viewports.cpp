@@ -113,7 +113,7 @@ std::optional<QPDFObjectHandle> MeasureOf(const GeoreferencedMap& map) {
 
 }  // namespace
 
-void AddViewports(QPDF& pdf, QPDFObjectHandle page,
+bool AddViewports(PdfObjects& objects, QPDFObjectHandle page,
                   const std::vector<GeoreferencedMap>& maps, double dpi) {
     const QuietGdal messages;
     const double height = page.getKey("/MediaBox").getArrayItem(3).getNumericValue();
@@ -131,17 +131,14 @@ void AddViewports(QPDF& pdf, QPDFObjectHandle page,
             "/BBox",
             Numbers({map.pixels.left * pixel, height - map.pixels.bottom * pixel,
                      map.pixels.right * pixel, height - map.pixels.top * pixel}));
-        viewport.replaceKey("/Measure", pdf.makeIndirectObject(*measure));
+        viewport.replaceKey("/Measure", PdfObjects::Reference(objects.Write(*measure)));
         viewports.appendItem(viewport);
     }
     if (viewports.getArrayNItems() == 0) {
-        return;
+        return false;
     }
     page.replaceKey("/VP", viewports);
-    // Measuring on Earth came after PDF 1.7.
-    pdf.getRoot().replaceKey(
-        "/Extensions",
-        QPDFObjectHandle::parse("<< /ADBE << /BaseVersion /1.7 /ExtensionLevel 3 >> >>"));
+    return true;
 }
 
 }  // namespace host

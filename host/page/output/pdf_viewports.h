@@ -1,9 +1,9 @@
 #pragma once
 
-#include <qpdf/QPDF.hh>
 #include <vector>
 
 #include "page/output/georeference.h"
+#include "page/output/pdf_objects.h"
 
 namespace host {
 
@@ -12,8 +12,10 @@ namespace host {
 ///
 /// A map of unknown coordinate system, or of which a corner is nowhere on Earth, gets
 /// none.
+/// @param page the entries of the page, which are completed
 /// @param dpi pixels an inch of the maps' places
-void AddViewports(QPDF& pdf, QPDFObjectHandle page,
+/// @return whether there is any
+bool AddViewports(PdfObjects& objects, QPDFObjectHandle page,
                   const std::vector<GeoreferencedMap>& maps, double dpi);
 
 }  // namespace host

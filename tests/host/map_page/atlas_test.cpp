@@ -10,6 +10,9 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
+#include <set>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -77,6 +80,26 @@ TEST_F(Atlas, HasAllPagesInOneFile) {
     EXPECT_EQ(Draw("name\nanother\n").out,
               "list.csv: 0 drawn, 1 already there, 0 failed\n");
     EXPECT_TRUE(ContentsOf(folder.Path("atlas.pdf")) == atlas);
+}
+
+TEST_F(Atlas, HasAnImageOfManyPagesOnce) {
+    ASSERT_EQ(Draw("name,extent\nN1,\nN2,500300 8998200 500900 8998800\nN3,\n").status,
+              0);
+    std::istringstream list(
+        host_tests::Said("pdfimages -list " + folder.Path("atlas.pdf")));
+    std::vector<std::string> pages;
+    std::set<std::string> objects;
+    std::string line;
+    while (std::getline(list, line)) {
+        std::istringstream words(line);
+        const std::vector<std::string> row(std::istream_iterator<std::string>(words), {});
+        if (row.size() > 10 && row[2] == "image") {
+            pages.push_back(row[0]);
+            objects.insert(row[10]);
+        }
+    }
+    EXPECT_THAT(pages, ElementsAre("1", "2", "3"));
+    EXPECT_EQ(objects.size(), 2U) << "the first map is the third";
 }
 
 TEST_F(Atlas, GoesOnAfterPagesThatFail) {

@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "legend/fake_sources.h"
+#include "page/layout/laid_out.h"
 #include "page/layout/layout.h"
 #include "page/layout/page_remarks.h"
 #include "page/layout/text_size.h"
@@ -21,6 +22,7 @@
 namespace {
 
 using host::LayoutDesign;
+using host_tests::LaidOut;
 
 constexpr const char* kProjection =
     R"(PROJCS["UTM 25S",GEOGCS["WGS 84",DATUM["WGS_1984",SPHEROID["WGS 84",6378137,)"
@@ -173,6 +175,12 @@ void Check(std::uint32_t seed) {
             EXPECT_GE(*points, 5.99) << host::NameOf(item);
         }
     }
+    const LaidOut laid(laidOut.page);
+    const CSurroundFrame* const arrow = laid.Of(SurroundNorthArrow);
+    const CSurroundFrame* const picture = laid.Of(SurroundPicture);
+    ASSERT_TRUE(arrow != nullptr && picture != nullptr);
+    EXPECT_LE(arrow->GetMapSurround()->GetSize(), picture->GetMapSurround()->GetSize());
+
     // Only a legend may be too long for its sheet, and that is told.
     const bool isLeftOut = page.rows > 0 && !hasLegend;
     EXPECT_EQ(laidOut.remarks.size(), isLeftOut ? 1u : 0u)
