@@ -2,6 +2,7 @@
 
 #include <cairo-ps.h>
 
+#include <algorithm>
 #include <cmath>
 #include <cstdio>
 #include <stdexcept>
@@ -10,13 +11,29 @@
 
 #include "page/output/cairo_page.h"
 #include "page/units.h"
+#include "page/words/page_words.h"
 
 namespace host {
 namespace {
 
 using Bytes = std::vector<std::uint8_t>;
 
-constexpr const char* kFileTitle = "map page";
+/// The title as a comment has it, a line of at most 255 characters of ASCII; none for one
+/// that cannot be written so.
+std::string TitleLine(const std::string& title) {
+    constexpr std::size_t kMost = 200;
+    const bool isPlain = std::all_of(title.begin(), title.end(),
+                                     [](char c) { return c >= ' ' && c <= '~'; });
+    return isPlain && !title.empty() && title.size() <= kMost ? "%%Title: " + title + "\n"
+                                                              : "";
+}
+
+/// What the comments are told of a page.
+struct Told {
+    double width;
+    double height;
+    std::string title;
+};
 
 std::string Number(double number) {
     char text[32];
@@ -33,8 +50,9 @@ std::string Whole(double number) {
 }
 
 /// What stands in place of a line that tells the size of what was drawn, where the page
-/// may be larger; the line itself if it is another.
-std::string InPlaceOf(std::string_view line, double width, double height) {
+/// may be larger; the line itself if it is another, with its end.
+std::string InPlaceOf(std::string_view line, const Told& told) {
+    const auto [width, height, title] = told;
     const auto begins = [line](std::string_view with) {
         return line.substr(0, with.size()) == with;
     };
@@ -42,32 +60,32 @@ std::string InPlaceOf(std::string_view line, double width, double height) {
     const std::string box = "0 0 " + Whole(width) + " " + Whole(height);
     if (begins("%%CreationDate:")) {
         // The same page gives the same file.
-        return std::string("%%Title: ") + kFileTitle;
+        return TitleLine(title);
     }
     if (begins("%%DocumentMedia:")) {
-        return "%%DocumentMedia: page " + size + " 0 () ()";
+        return "%%DocumentMedia: page " + size + " 0 () ()\n";
     }
     if (begins("%%BoundingBox:")) {
-        return "%%BoundingBox: " + box + "\n%%HiResBoundingBox: 0 0 " + size;
+        return "%%BoundingBox: " + box + "\n%%HiResBoundingBox: 0 0 " + size + "\n";
     }
     if (begins("%%PageMedia:")) {
-        return "%%PageMedia: page";
+        return "%%PageMedia: page\n";
     }
     if (begins("%%PageBoundingBox:")) {
-        return "%%PageBoundingBox: " + box;
+        return "%%PageBoundingBox: " + box + "\n";
     }
     constexpr std::string_view sets = " cairo_set_page_size";
     if (line.size() > sets.size() && line.substr(line.size() - sets.size()) == sets) {
         // Cairo drew on a page of whole points, from its top.
         return size + std::string(sets) + "\n0 " + Number(height - std::ceil(height)) +
-               " translate";
+               " translate\n";
     }
-    return std::string(line);
+    return std::string(line) + "\n";
 }
 
-/// Tells the page's true size in the comments and in the page's set-up: between the two
-/// stand only what the pages share, and after them the page.
-Bytes TellingSize(const Bytes& file, double width, double height) {
+/// Tells the page's title and true size in the comments and in the page's set-up: between
+/// the two stand only what the pages share, and after them the page.
+Bytes Telling(const Told& told, const Bytes& file) {
     const std::string_view text(reinterpret_cast<const char*>(file.data()), file.size());
     const std::size_t comments = text.find("\n%%EndComments");
     const std::size_t setUp = text.find("\n%%BeginPageSetup");
@@ -84,7 +102,7 @@ Bytes TellingSize(const Bytes& file, double width, double height) {
     const auto appendChanged = [&](std::size_t from, std::size_t to) {
         while (from < to) {
             const std::size_t end = text.find('\n', from);
-            append(InPlaceOf(text.substr(from, end - from), width, height) + "\n");
+            append(InPlaceOf(text.substr(from, end - from), told));
             from = end + 1;
         }
     };
@@ -109,7 +127,7 @@ std::vector<std::uint8_t> EncodePostScript(const Page& page, double dpi,
     how.print = print;
     DrawOnCairo(surface.get(), page, dpi, progress, how);
     FinishSurface(surface.get());
-    return TellingSize(file, width, height);
+    return Telling({width, height, WordsOf(page).about.title}, file);
 }
 
 }  // namespace host

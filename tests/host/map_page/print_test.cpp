@@ -201,11 +201,14 @@ TEST_F(Print, GivesTheSamePostScriptEachTime) {
     ASSERT_EQ(Draw("again.PS").status, 0);
     const std::string file = ContentsOf(folder.Path("page.ps"));
     EXPECT_EQ(file, ContentsOf(folder.Path("again.PS")));
+    EXPECT_FALSE(Holds(file, "%%Title")) << "comments are ASCII";
     EXPECT_TRUE(Holds(file, "\n%%BoundingBox: 0 0 842 596\n"));
     EXPECT_TRUE(Holds(file, "\n%%HiResBoundingBox: 0 0 841.889764 595.275591\n"));
     EXPECT_TRUE(Holds(file,
                       "\n841.889764 595.275591 cairo_set_page_size\n"
                       "0 -0.724409 translate\n"));
+    ASSERT_EQ(Draw("plain.ps", {}, "Harbour").status, 0);
+    EXPECT_TRUE(Holds(ContentsOf(folder.Path("plain.ps")), "\n%%Title: Harbour\n"));
 }
 
 TEST_F(Print, GivesTheSamePdfEachTimeAndDatesItByTheEnvironment) {
