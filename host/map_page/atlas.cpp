@@ -22,7 +22,7 @@
 #include "page/document/map_on_page.h"
 #include "page/document/page_text.h"
 #include "page/output/page_output.h"
-#include "page/output/pdf_file.h"
+#include "page/output/pdf/pdf_file.h"
 #include "page/texts.h"
 #include "page/words/page_words.h"
 #include "system/errors.h"

@@ -7,7 +7,7 @@
 
 #include "page/output/image_file.h"
 #include "page/output/page_image.h"
-#include "page/output/pdf_file.h"
+#include "page/output/pdf/pdf_file.h"
 #include "page/output/postscript_file.h"
 #include "page/output/svg_file.h"
 #include "page/texts.h"

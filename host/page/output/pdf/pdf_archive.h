@@ -1,6 +1,6 @@
 #pragma once
 
-#include "page/output/pdf_objects.h"
+#include "page/output/pdf/pdf_objects.h"
 #include "page/page.h"
 
 namespace host {

@@ -1,4 +1,4 @@
-#include "page/output/pdf_finish.h"
+#include "page/output/pdf/pdf_finish.h"
 
 #include <algorithm>
 #include <array>
@@ -11,13 +11,13 @@
 #include <vector>
 
 #include "map_surround/version.h"
-#include "page/output/pdf_archive.h"
-#include "page/output/pdf_bookmarks.h"
-#include "page/output/pdf_content.h"
-#include "page/output/pdf_draft.h"
-#include "page/output/pdf_structure.h"
-#include "page/output/pdf_viewports.h"
-#include "page/output/xmp_packet.h"
+#include "page/output/pdf/pdf_archive.h"
+#include "page/output/pdf/pdf_bookmarks.h"
+#include "page/output/pdf/pdf_content.h"
+#include "page/output/pdf/pdf_draft.h"
+#include "page/output/pdf/pdf_structure.h"
+#include "page/output/pdf/pdf_viewports.h"
+#include "page/output/pdf/xmp_packet.h"
 #include "system/number_text.h"
 
 namespace host {

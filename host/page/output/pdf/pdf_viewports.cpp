@@ -1,4 +1,4 @@
-#include "page/output/pdf_viewports.h"
+#include "page/output/pdf/pdf_viewports.h"
 
 #include <ogr_spatialref.h>
 

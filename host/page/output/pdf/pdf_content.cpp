@@ -1,4 +1,4 @@
-#include "page/output/pdf_content.h"
+#include "page/output/pdf/pdf_content.h"
 
 #include <algorithm>
 #include <iterator>

@@ -1,4 +1,4 @@
-#include "page/output/pdf_structure.h"
+#include "page/output/pdf/pdf_structure.h"
 
 #include <algorithm>
 #include <qpdf/QPDFObjectHandle.hh>

@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "page/output/pdf_objects.h"
-#include "page/output/pdf_page.h"
+#include "page/output/pdf/pdf_objects.h"
+#include "page/output/pdf/pdf_page.h"
 #include "page/output/print_settings.h"
 #include "page/page.h"
 

@@ -1,4 +1,4 @@
-#include "page/output/pdf_draft.h"
+#include "page/output/pdf/pdf_draft.h"
 
 #include <unistd.h>
 

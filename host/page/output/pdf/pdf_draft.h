@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "page/output/pdf_objects.h"
+#include "page/output/pdf/pdf_objects.h"
 #include "page/output/print_settings.h"
 
 namespace host {

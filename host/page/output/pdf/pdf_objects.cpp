@@ -1,4 +1,4 @@
-#include "page/output/pdf_objects.h"
+#include "page/output/pdf/pdf_objects.h"
 
 #include <qpdf/Pipeline.hh>
 #include <qpdf/Pl_Flate.hh>

@@ -1,4 +1,4 @@
-#include "page/output/pdf_archive.h"
+#include "page/output/pdf/pdf_archive.h"
 
 #include <lcms2.h>
 

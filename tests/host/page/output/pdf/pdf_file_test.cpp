@@ -1,4 +1,4 @@
-#include "page/output/pdf_file.h"
+#include "page/output/pdf/pdf_file.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "page/output/pdf_file.h"
+#include "page/output/pdf/pdf_file.h"
 
 #include <cairo-pdf.h>
 
@@ -7,8 +7,8 @@
 #include <utility>
 
 #include "page/output/cairo_page.h"
-#include "page/output/pdf_archive.h"
-#include "page/output/pdf_finish.h"
+#include "page/output/pdf/pdf_archive.h"
+#include "page/output/pdf/pdf_finish.h"
 #include "page/units.h"
 #include "system/descriptor.h"
 #include "system/memory_file.h"

@@ -3,7 +3,7 @@
 #include <vector>
 
 #include "page/output/georeference.h"
-#include "page/output/pdf_objects.h"
+#include "page/output/pdf/pdf_objects.h"
 
 namespace host {
 

@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "page/output/pdf_objects.h"
-#include "page/output/pdf_page.h"
+#include "page/output/pdf/pdf_objects.h"
+#include "page/output/pdf/pdf_page.h"
 
 namespace host {
 

@@ -1,4 +1,4 @@
-#include "page/output/xmp_packet.h"
+#include "page/output/pdf/xmp_packet.h"
 
 namespace host {
 namespace {

@@ -2,8 +2,8 @@
 
 #include <vector>
 
-#include "page/output/pdf_objects.h"
-#include "page/output/pdf_page.h"
+#include "page/output/pdf/pdf_objects.h"
+#include "page/output/pdf/pdf_page.h"
 
 namespace host {
 

@@ -1,4 +1,4 @@
-#include "page/output/pdf_bookmarks.h"
+#include "page/output/pdf/pdf_bookmarks.h"
 
 #include <qpdf/QPDFObjectHandle.hh>
 #include <string>
