@@ -1,10 +1,14 @@
 #include "page/output/png_image.h"
 
-#include <spng.h>
+#include <png.h>
 
 #include <cmath>
+#include <csetjmp>
+#include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <memory>
+#include <new>
 #include <stdexcept>
 
 #include "page/units.h"
@@ -18,70 +22,97 @@ constexpr std::size_t kBytesWritten = 3;
 // Of zlib's levels and PNG's filters the pair that writes a page fastest while the file
 // stays within a tenth of what higher levels reach: paper is the same from row to row.
 constexpr int kLevel = 1;
-constexpr int kFilter = SPNG_FILTER_CHOICE_UP;
+constexpr int kFilter = PNG_FILTER_UP;
 
-void Check(int error) {
-    if (error != 0) {
-        throw std::runtime_error(spng_strerror(error));
+constexpr std::size_t kFirstRoom = 1 << 16;
+
+// libpng leaves on an error by jumping. What it jumps over here has no destructors.
+
+/// The file as far as it is written.
+struct PngBytes {
+    std::uint8_t* bytes = nullptr;
+    std::size_t size = 0;
+    std::size_t room = 0;
+    char error[80] = "";
+};
+
+[[noreturn]] void Leave(png_structp png, const char* why) {
+    auto& file = *static_cast<PngBytes*>(png_get_error_ptr(png));
+    std::snprintf(file.error, sizeof file.error, "%s", why);
+    png_longjmp(png, 1);
+}
+
+void SayNothing(png_structp /*png*/, const char* /*warning*/) {}
+
+void AppendBytes(png_structp png, png_bytep bytes, png_size_t count) {
+    auto& file = *static_cast<PngBytes*>(png_get_io_ptr(png));
+    if (file.room - file.size < count) {
+        const std::size_t room = 2 * file.room + count + kFirstRoom;
+        void* const larger = std::realloc(file.bytes, room);
+        if (larger == nullptr) {
+            png_error(png, "not enough memory");
+        }
+        file.bytes = static_cast<std::uint8_t*>(larger);
+        file.room = room;
     }
+    std::memcpy(file.bytes + file.size, bytes, count);
+    file.size += count;
 }
 
 /// Blue, green, red, unused to red, green, blue.
-void Reorder(const std::uint8_t* from, std::vector<std::uint8_t>& row) {
-    for (std::size_t i = 0; i < row.size() / kBytesWritten; ++i) {
-        row[kBytesWritten * i] = from[kBytesRead * i + 2];
-        row[kBytesWritten * i + 1] = from[kBytesRead * i + 1];
-        row[kBytesWritten * i + 2] = from[kBytesRead * i];
+void Reorder(const std::uint8_t* from, int width, std::uint8_t* row) {
+    for (int x = 0; x < width; ++x) {
+        row[0] = from[2];
+        row[1] = from[1];
+        row[2] = from[0];
+        from += kBytesRead;
+        row += kBytesWritten;
     }
 }
 
-void DescribeImage(spng_ctx* png, const PixelRows& pixels, double dpi) {
-    spng_ihdr header = {};
-    header.width = static_cast<std::uint32_t>(pixels.width);
-    header.height = static_cast<std::uint32_t>(pixels.height);
-    header.bit_depth = 8;
-    header.color_type = SPNG_COLOR_TYPE_TRUECOLOR;
-    Check(spng_set_ihdr(png, &header));
-
-    constexpr std::uint8_t kMetre = 1;
-    const auto density = static_cast<std::uint32_t>(std::lround(dpi * kInchesPerMetre));
-    spng_phys resolution = {density, density, kMetre};
-    Check(spng_set_phys(png, &resolution));
-}
-
-void EncodeRows(spng_ctx* png, const PixelRows& pixels) {
-    Check(spng_encode_image(png, nullptr, 0, SPNG_FMT_PNG,
-                            SPNG_ENCODE_PROGRESSIVE | SPNG_ENCODE_FINALIZE));
-    std::vector<std::uint8_t> row(static_cast<std::size_t>(pixels.width) * kBytesWritten);
-    int state = 0;
-    for (int y = 0; y < pixels.height && state == 0; ++y) {
-        Reorder(pixels.first + y * pixels.stride, row);
-        state = spng_encode_row(png, row.data(), row.size());
+bool WriteFile(png_structp png, png_infop info, const PixelRows& pixels, double dpi,
+               std::uint8_t* row) {
+    if (setjmp(png_jmpbuf(png)) != 0) {
+        return false;
     }
-    Check(state == SPNG_EOI ? 0 : state);
+    png_set_IHDR(png, info, static_cast<png_uint_32>(pixels.width),
+                 static_cast<png_uint_32>(pixels.height), 8, PNG_COLOR_TYPE_RGB,
+                 PNG_INTERLACE_NONE, PNG_COMPRESSION_TYPE_DEFAULT,
+                 PNG_FILTER_TYPE_DEFAULT);
+    const auto density = static_cast<png_uint_32>(std::lround(dpi * kInchesPerMetre));
+    png_set_pHYs(png, info, density, density, PNG_RESOLUTION_METER);
+    png_set_compression_level(png, kLevel);
+    png_set_filter(png, PNG_FILTER_TYPE_BASE, kFilter);
+    png_write_info(png, info);
+    for (int y = 0; y < pixels.height; ++y) {
+        Reorder(pixels.first + y * pixels.stride, pixels.width, row);
+        png_write_row(png, row);
+    }
+    png_write_end(png, info);
+    return true;
 }
 
 }  // namespace
 
 std::vector<std::uint8_t> EncodePng(const PixelRows& pixels, double dpi) {
-    const std::unique_ptr<spng_ctx, decltype(&spng_ctx_free)> png(
-        spng_ctx_new(SPNG_CTX_ENCODER), &spng_ctx_free);
-    if (png == nullptr) {
+    PngBytes written;
+    std::vector<std::uint8_t> row(static_cast<std::size_t>(pixels.width) * kBytesWritten);
+    png_structp png =
+        png_create_write_struct(PNG_LIBPNG_VER_STRING, &written, Leave, SayNothing);
+    png_infop info = png == nullptr ? nullptr : png_create_info_struct(png);
+    if (info == nullptr) {
+        png_destroy_write_struct(&png, nullptr);
         throw std::bad_alloc();
     }
-    Check(spng_set_option(png.get(), SPNG_ENCODE_TO_BUFFER, 1));
-    Check(spng_set_option(png.get(), SPNG_IMG_COMPRESSION_LEVEL, kLevel));
-    Check(spng_set_option(png.get(), SPNG_FILTER_CHOICE, kFilter));
-    DescribeImage(png.get(), pixels, dpi);
-    EncodeRows(png.get(), pixels);
-
-    std::size_t size = 0;
-    int error = 0;
-    const std::unique_ptr<void, decltype(&std::free)> file(
-        spng_get_png_buffer(png.get(), &size, &error), &std::free);
-    Check(error);
-    const auto* bytes = static_cast<const std::uint8_t*>(file.get());
-    return {bytes, bytes + size};
+    png_set_write_fn(png, &written, AppendBytes, nullptr);
+    const bool whole = WriteFile(png, info, pixels, dpi, row.data());
+    png_destroy_write_struct(&png, &info);
+    const std::unique_ptr<std::uint8_t, decltype(&std::free)> file(written.bytes,
+                                                                   &std::free);
+    if (!whole) {
+        throw std::runtime_error(written.error);
+    }
+    return {written.bytes, written.bytes + written.size};
 }
 
 }  // namespace host
