@@ -13,8 +13,10 @@ GpStatus TellMetric(const GpFontFamily* family, INT style, UINT16* value,
     if (!IsStyle(style)) {
         return InvalidParameter;
     }
-    return Tell(From(family), value, [&](const FontFamily& f) {
-        return f.family->metrics[style & FontStyleBoldItalic].*metric;
+    return Guarded([&] {
+        return Tell(From(family), value, [&](const FontFamily& f) {
+            return f.family->MetricsOf(style).*metric;
+        });
     });
 }
 
@@ -120,10 +122,12 @@ GpStatus GdipGetFamily(GpFont* font, GpFontFamily** family) {
 }
 
 GpStatus GdipGetFontHeightGivenDPI(const GpFont* font, REAL dpi, REAL* height) {
-    return Tell(From(font), height, [&](const engine::Font& f) {
-        const engine::FamilyMetrics& m = f.family->metrics[f.style & FontStyleBoldItalic];
-        return f.size * engine::PixelsIn(f.unit, dpi) * static_cast<REAL>(m.spacing) /
-               static_cast<REAL>(m.em);
+    return engine::Guarded([&] {
+        return Tell(From(font), height, [&](const engine::Font& f) {
+            const engine::FamilyMetrics& m = f.family->MetricsOf(f.style);
+            return f.size * engine::PixelsIn(f.unit, dpi) * static_cast<REAL>(m.spacing) /
+                   static_cast<REAL>(m.em);
+        });
     });
 }
 

@@ -89,7 +89,7 @@ std::shared_ptr<const FaceFile> FileOf(const FcPattern* face) {
     return file;
 }
 
-FamilyMetrics MetricsOf(const FaceFile& file) {
+FamilyMetrics MetricsIn(const FaceFile& file) {
     const FontBytes blob = BytesOf(file);
     hb_face_t* const face = hb_face_create(blob.get(), static_cast<unsigned>(file.index));
     hb_font_t* const font = hb_font_create(face);
@@ -125,32 +125,52 @@ FontBytes BytesOf(const FaceFile& file) {
     return bytes;
 }
 
+Family::Family(std::u16string found, std::string asked,
+               std::shared_ptr<const FaceFile> regular)
+    : name(std::move(found)), asked_(std::move(asked)) {
+    Style& style = styles_[FontStyleRegular];
+    std::call_once(style.found, [&] { style.face = std::move(regular); });
+}
+
+const std::shared_ptr<const FaceFile>& Family::FaceOf(INT style) const {
+    Style& of = styles_[style & FontStyleBoldItalic];
+    std::call_once(of.found, [&] {
+        const std::lock_guard lock(g_fontconfig);
+        const Pattern face = Match(Question(asked_, style));
+        auto file = face == nullptr ? nullptr : FileOf(face.get());
+        if (file == nullptr) {
+            throw std::bad_alloc();
+        }
+        of.face = std::move(file);
+    });
+    return of.face;
+}
+
+const FamilyMetrics& Family::MetricsOf(INT style) const {
+    Style& of = styles_[style & FontStyleBoldItalic];
+    std::call_once(of.measured, [&] { of.metrics = MetricsIn(*FaceOf(style)); });
+    return of.metrics;
+}
+
 std::shared_ptr<const Family> FindFamily(const FlatChar* name) {
-    const std::lock_guard lock(g_fontconfig);
     const std::string utf8 = Utf8(name);
     if (utf8.empty()) {
         return nullptr;
     }
-    auto family = std::make_shared<Family>();
-    for (INT style = 0; style < 4; ++style) {
-        const Pattern question = Question(utf8, style);
-        const Pattern face = Match(question);
-        if (face == nullptr ||
-            !(IsMeant(face.get(), question.get()) || IsGeneric(utf8))) {
-            return nullptr;
-        }
-        FcChar8* found = nullptr;
-        if (style == 0 &&
-            FcPatternGetString(face.get(), FC_FAMILY, 0, &found) == FcResultMatch) {
-            family->name = Utf16(reinterpret_cast<const char*>(found));
-        }
-        family->faces[style] = FileOf(face.get());
-        if (family->faces[style] == nullptr) {
-            return nullptr;
-        }
-        family->metrics[style] = MetricsOf(*family->faces[style]);
+    const std::lock_guard lock(g_fontconfig);
+    const Pattern question = Question(utf8, FontStyleRegular);
+    const Pattern face = Match(question);
+    if (face == nullptr || !(IsMeant(face.get(), question.get()) || IsGeneric(utf8))) {
+        return nullptr;
     }
-    return family;
+    FcChar8* found = nullptr;
+    auto regular = FileOf(face.get());
+    if (regular == nullptr ||
+        FcPatternGetString(face.get(), FC_FAMILY, 0, &found) != FcResultMatch) {
+        return nullptr;
+    }
+    return std::make_shared<Family>(Utf16(reinterpret_cast<const char*>(found)), utf8,
+                                    std::move(regular));
 }
 
 Fallback FindFallback(const Family& family, INT style) {

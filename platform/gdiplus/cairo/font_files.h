@@ -4,7 +4,9 @@
 #include <hb.h>
 
 #include <memory>
+#include <mutex>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "cairo/flat_functions.h"
@@ -34,11 +36,31 @@ struct FamilyMetrics {
     UINT16 spacing = 0;
 };
 
-/// A family of the system: its name, and the face for each of the four styles.
-struct Family {
-    std::u16string name;
-    std::shared_ptr<const FaceFile> faces[4];
-    FamilyMetrics metrics[4];
+/// A family of the system. Fontconfig takes longer to find a face than a line takes to
+/// write: those of the other styles are looked for when they are first needed, by
+/// whatever thread.
+class Family {
+public:
+    Family(std::u16string found, std::string asked,
+           std::shared_ptr<const FaceFile> regular);
+
+    /// Of the style's bold and italic alone; throw std::bad_alloc where there is none
+    /// now.
+    const std::shared_ptr<const FaceFile>& FaceOf(INT style) const;
+    const FamilyMetrics& MetricsOf(INT style) const;
+
+    const std::u16string name;
+
+private:
+    struct Style {
+        std::once_flag found;
+        std::shared_ptr<const FaceFile> face;
+        std::once_flag measured;
+        FamilyMetrics metrics;
+    };
+
+    std::string asked_;
+    mutable Style styles_[4];
 };
 
 /// The family of a name, or one of the same measures that Fontconfig binds to it; null

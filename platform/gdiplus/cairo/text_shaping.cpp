@@ -113,8 +113,7 @@ Shaper::Shaper(ThreadTexts& texts, const TextStyle& style, const std::u32string&
       style_(style),
       text_(text),
       levels_(LevelsOf(text, (style.flags & StringFormatFlagsDirectionRightToLeft) != 0)),
-      faces_{texts.Sized(style.family->faces[style.style & FontStyleBoldItalic], style)} {
-}
+      faces_{texts.Sized(style.family->FaceOf(style.style), style)} {}
 
 std::shared_ptr<SizedFace> Shaper::FaceFor(char32_t character) {
     for (const std::shared_ptr<SizedFace>& face : faces_) {

@@ -259,17 +259,20 @@ TEST(Fonts, ThatCannotBeOpenedNowAreToldAndOpenedLater) {
         Bitmap bitmap(60, 40);
         Graphics graphics(&bitmap);
         const SolidBrush ink(Color(0xFF000000));
-        {
-            const WithoutFiles without;
-            EXPECT_EQ(FontFamily(L"Arial").GetLastStatus(), OutOfMemory);
-        }
+        const FontFamily family(L"Arial");
         const Font font(L"Arial", 20.0f);
         {
             const WithoutFiles without;
+            EXPECT_EQ(family.GetEmHeight(FontStyleBold), 0);
+            EXPECT_EQ(family.GetLastStatus(), OutOfMemory);
+            EXPECT_EQ(font.GetHeight(96.0f), 0.0f);
+            EXPECT_EQ(font.GetLastStatus(), OutOfMemory);
             EXPECT_EQ(graphics.DrawString(L"North", -1, &font, PointF(), &ink),
                       OutOfMemory);
             EXPECT_EQ(PixelsOtherThan(bitmap, 0), 0);
         }
+        EXPECT_EQ(family.GetEmHeight(FontStyleBold), 2048);
+        EXPECT_GT(font.GetHeight(96.0f), 0.0f);
         EXPECT_EQ(graphics.DrawString(L"North", -1, &font, PointF(), &ink), Ok);
         EXPECT_GT(PixelsOtherThan(bitmap, 0), 0);
     }).join();
