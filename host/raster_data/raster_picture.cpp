@@ -47,11 +47,38 @@ int NearestOf(int index, int drawn, int pixels) {
                             (2 * std::int64_t{drawn}));
 }
 
+/// The shades of a band's values.
+template <class T>
+class Shades {
+public:
+    explicit Shades(const ShadeRange& range) : m_range(range) {}
+    std::uint8_t Of(T value) const { return m_range.Shade(static_cast<double>(value)); }
+
+private:
+    ShadeRange m_range;
+};
+
+/// Of bytes, which are worked out beforehand.
+template <>
+class Shades<std::uint8_t> {
+public:
+    explicit Shades(const ShadeRange& range) {
+        for (std::size_t value = 0; value < m_shades.size(); ++value) {
+            m_shades[value] = range.Shade(static_cast<double>(value));
+        }
+    }
+    std::uint8_t Of(std::uint8_t value) const { return m_shades[value]; }
+
+private:
+    std::array<std::uint8_t, 256> m_shades{};
+};
+
 template <class T>
 PixelImage DrawShadesAs(const std::vector<GDALRasterBand*>& bands,
                         const std::vector<ShadeRange>& ranges, int width, int height,
                         const Progress& progress) {
     constexpr std::array<std::size_t, 3> kChannels{kRed, kGreen, kBlue};
+    const std::vector<Shades<T>> shades(ranges.begin(), ranges.end());
     PixelImage image = MakeImage(width, height);
     ReadRows<T>(bands, width, height, Sampling::kAverage, progress,
                 [&](const SampleRow<T>& row) {
@@ -62,8 +89,7 @@ PixelImage DrawShadesAs(const std::vector<GDALRasterBand*>& bands,
                             continue;
                         }
                         for (std::size_t b = 0; b < bands.size(); ++b) {
-                            pixel[kChannels[b]] =
-                                ranges[b].Shade(static_cast<double>(row.bands[b][i]));
+                            pixel[kChannels[b]] = shades[b].Of(row.bands[b][i]);
                         }
                         if (bands.size() == 1) {
                             pixel[kGreen] = pixel[kBlue] = pixel[kRed];

@@ -169,7 +169,8 @@ void ReadRows(const std::vector<GDALRasterBand*>& bands, int width, int height,
               Sampling sampling, const Progress& progress, const TakeRow<T>& take) {
     Level level = sampling == Sampling::kAverage ? SmallestLevel(bands, width, height)
                                                  : FullLevel(bands);
-    if (level.Width() > kMostAveragedColumns ||
+    const bool isMeanOfOne = level.Width() == width && level.Height() == height;
+    if (isMeanOfOne || level.Width() > kMostAveragedColumns ||
         std::int64_t{level.Width()} * level.Height() > kMostAveragedPixels) {
         sampling = Sampling::kNearest;
     }
