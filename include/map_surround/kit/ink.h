@@ -9,6 +9,7 @@
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <new>
 
 #include "map_surround/element.h"
@@ -60,6 +61,13 @@ struct PixelBox {
     int bottom;
 };
 
+/// Most rows are, and need not be looked at pixel by pixel: without alpha there is no
+/// colour either, so that every byte is like the one before it, and 0.
+inline bool IsBlank(const std::uint8_t* row, int width) {
+    const auto bytes = static_cast<std::size_t>(width) * 4;
+    return row[0] == 0 && std::memcmp(row, row + 1, bytes - 1) == 0;
+}
+
 inline PixelBox InkedPixels(Gdiplus::Bitmap& bitmap, int width, int height) {
     PixelBox box = {width, height, -1, -1};
     Gdiplus::BitmapData data;
@@ -70,6 +78,9 @@ inline PixelBox InkedPixels(Gdiplus::Bitmap& bitmap, int width, int height) {
     for (int y = 0; y < height; ++y) {
         const auto* row = static_cast<const std::uint8_t*>(data.Scan0) +
                           static_cast<std::ptrdiff_t>(y) * data.Stride;
+        if (IsBlank(row, width)) {
+            continue;
+        }
         for (int x = 0; x < width; ++x) {
             if (row[4 * x + 3] != 0) {
                 box.left = std::min(box.left, x);
