@@ -39,6 +39,9 @@ Gdiplus::Color StripColour(int k, const std::vector<Gdiplus::Color>& colours) {
     return {255, colour.GetRed(), colour.GetGreen(), colour.GetBlue()};
 }
 
+/// How a text is set in lines.
+using Lines = std::vector<std::wstring> (TextRoom::*)(const std::wstring& text);
+
 /// A cursor moving down the legend, column by column, in pixels.
 struct Cursor {
     Gdiplus::Graphics* graphics;
@@ -82,13 +85,18 @@ struct Cursor {
     void Label(const std::wstring& text, float atSwatches, float top) {
         Write(text, entryFont, left + atSwatches * swatchWidth, top);
     }
-    /// From y down, but for the last line.
-    void WriteLines(const std::vector<std::wstring>& lines, const Gdiplus::Font& font,
+    /// As it is, or in the lines that there is room for: from y down, but for the last.
+    void WriteLines(const std::wstring& text, Lines lines, const Gdiplus::Font& font,
                     float x, float above) {
-        const float step = legend::kLineTenths * rowHeight / 10;
-        for (std::size_t i = 0; i < lines.size(); ++i) {
-            y += i == 0 ? 0.0f : step;
-            Write(lines[i], font, x, y - above);
+        if (room == nullptr) {
+            Write(text, font, x, y - above);
+            return;
+        }
+        float step = 0.0f;
+        for (const std::wstring& line : (room->*lines)(text)) {
+            y += step;
+            Write(line, font, x, y - above);
+            step = legend::kLineTenths * rowHeight / 10;
         }
     }
 
@@ -160,11 +168,8 @@ void Cursor::DrawClasses(CClassifyDisplayTable* table) {
             item->GetColor(red, green, blue, ignored);
             Fill(Gdiplus::Color(255, red, green, blue), y, swatchHeight);
             brush.SetColor(kBlack);
-            const std::wstring label = item->GetLable();
             WriteLines(
-                room == nullptr ? std::vector<std::wstring>{label}
-                                : room->LinesOfLabel(label),
-                entryFont,
+                item->GetLable(), &TextRoom::LinesOfLabel, entryFont,
                 left + static_cast<float>(legend::kClassLabelTenths) / 10 * swatchWidth,
                 SwatchLabelAbove());
         }
@@ -239,12 +244,10 @@ void CMapLegend::Draw(Gdiplus::Graphics* graphics, CPoint centre, double scale) 
             continue;
         }
         brush.SetColor(m_fileColor);
-        const std::wstring name =
-            m_sourceCaption + map_surround::NameOf(*source, m_shownSources, i);
         cursor.BeginRow();
         cursor.WriteLines(
-            room ? room->LinesOfName(name) : std::vector<std::wstring>{name},
-            fileName.font, cursor.left, 0.0f);
+            m_sourceCaption + map_surround::NameOf(*source, m_shownSources, i),
+            &TextRoom::LinesOfName, fileName.font, cursor.left, 0.0f);
         cursor.y += rowHeight + gap;
         const std::vector<Gdiplus::Color> ramp = map_surround::RampOf(m_shownSources, i);
         if (ramp.empty() && source->GetDisplayType() == DisplayRGB) {
