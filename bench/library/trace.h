@@ -35,6 +35,7 @@ public:
         }
     }
     bool RepeatsAnswers();
+    std::size_t Count() const { return m_calls.size(); }
 
 private:
     std::vector<std::unique_ptr<FlatCall>> m_calls;
