@@ -3,8 +3,6 @@
 #include <cstdlib>
 #include <cstring>
 #include <memory>
-#include <tuple>
-#include <type_traits>
 #include <utility>
 
 #include "page/catalogue.h"

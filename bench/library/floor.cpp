@@ -3,8 +3,6 @@
 #include <cairo.h>
 #include <dlfcn.h>
 
-#include <utility>
-
 namespace bench {
 namespace {
 

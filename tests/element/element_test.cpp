@@ -24,15 +24,13 @@ static_assert(std::is_abstract_v<CMapSurround>);
 static_assert(std::has_virtual_destructor_v<CMapSurround>);
 static_assert(sizeof(MapSurroundType) == 4);
 
-struct Row {
-    const char* name;
-    std::unique_ptr<CMapSurround> element;
-    float aspectRatio;
-    int type;
-};
-
 TEST(Element, HasTheDefaultsOfItsKind) {
-    const Row rows[] = {
+    const struct {
+        const char* name;
+        std::unique_ptr<CMapSurround> element;
+        float aspectRatio;
+        int type;
+    } rows[] = {
         {"plain", std::make_unique<Plain>(), 5.8f, 0},
         {"title", std::make_unique<CMapTitle>(), 5.0f, 3},
         {"legend", std::make_unique<CMapLegend>(), 5.8f, 4},
@@ -42,7 +40,7 @@ TEST(Element, HasTheDefaultsOfItsKind) {
         {"four angles", std::make_unique<CNorthArrowFourAngle>(), 0.8f, 1},
         {"eight angles", std::make_unique<CNorthArrowEightAngle>(), 1.0f, 1},
     };
-    for (const Row& row : rows) {
+    for (const auto& row : rows) {
         EXPECT_EQ(row.element->GetFrontColor().GetValue(), 0xFF000000) << row.name;
         EXPECT_EQ(row.element->GetSize(), 0) << row.name;
         EXPECT_EQ(row.element->GetAspectRatio(), row.aspectRatio) << row.name;

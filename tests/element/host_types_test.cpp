@@ -10,15 +10,13 @@ namespace {
 
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 
-struct BoxRow {
-    const char* name;
-    CBoundingBox box;
-    double left, top, width, height;
-    bool empty;
-};
-
 TEST(HostTypes, ABoxSpansItsCornersInAnyOrder) {
-    const BoxRow rows[] = {
+    const struct {
+        const char* name;
+        CBoundingBox box;
+        double left, top, width, height;
+        bool empty;
+    } rows[] = {
         {"default", CBoundingBox(), 0, 0, 0, 0, true},
         {"from bottom left", CBoundingBox(10, 20, 110, 70), 10, 70, 100, 50, false},
         {"from top left", CBoundingBox(10, 70, 110, 20), 10, 70, 100, 50, false},
@@ -28,7 +26,7 @@ TEST(HostTypes, ABoxSpansItsCornersInAnyOrder) {
         {"no left", CBoundingBox(kNaN, 0, 9, 9), 0, 0, 0, 0, true},
         {"no bottom", CBoundingBox(0, kNaN, 9, 9), 0, 0, 0, 0, true},
     };
-    for (const BoxRow& row : rows) {
+    for (const auto& row : rows) {
         CBoundingBox box = row.box;
         EXPECT_EQ(box.TopLeft().x, row.left) << row.name;
         EXPECT_EQ(box.TopLeft().y, row.top) << row.name;

@@ -17,18 +17,16 @@ namespace {
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
 
-struct NumberRow {
-    double value;
-    int digits;
-    std::wstring text;
-};
-
 // The exact binary value decides; in decimal the doubles behind these literals are
 //   0.1
 //   0.1000000000000000055…   2.675  2.67499999999999982236431605997495353221893310546875
 //   1.005    1.00499999999999989…     0.035  0.03500000000000000333…
 //   0.615    0.61499999999999999…     1e23   99999999999999991611392
-const NumberRow kNumbers[] = {
+const struct {
+    double value;
+    int digits;
+    std::wstring text;
+} kNumbers[] = {
     {0.0, 0, L"0"},
     {0.0, 2, L"0.00"},
     {1.0, 0, L"1"},
@@ -100,7 +98,7 @@ const NumberRow kNumbers[] = {
 };
 
 TEST(NumberText, HasExactlyTheDigitsAskedForAndTheNearestValue) {
-    for (const NumberRow& row : kNumbers) {
+    for (const auto& row : kNumbers) {
         EXPECT_EQ(CommonFun::double2wstring(row.value, row.digits), row.text)
             << row.value << " with " << row.digits << " digits";
     }

@@ -15,14 +15,12 @@ static_assert(Truncate(-1e12) == std::numeric_limits<std::int32_t>::min());
 static_assert(Truncate(1e12) == std::numeric_limits<std::int32_t>::max());
 static_assert(Truncate(std::numeric_limits<double>::quiet_NaN()) == 0);
 
-struct Row {
-    double value;
-    std::int32_t truncated;
-};
-
 TEST(Numbers, TruncateGoesTowardZeroAndSaturates) {
     constexpr double infinity = std::numeric_limits<double>::infinity();
-    const Row rows[] = {
+    const struct {
+        double value;
+        std::int32_t truncated;
+    } rows[] = {
         {0.0, 0},
         {-0.0, 0},
         {2.999, 2},
@@ -40,7 +38,7 @@ TEST(Numbers, TruncateGoesTowardZeroAndSaturates) {
         {std::numeric_limits<double>::quiet_NaN(), 0},
         {std::numeric_limits<double>::denorm_min(), 0},
     };
-    for (const Row& row : rows) {
+    for (const auto& row : rows) {
         EXPECT_EQ(Truncate(row.value), row.truncated) << row.value;
     }
 }

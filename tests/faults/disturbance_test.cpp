@@ -48,20 +48,18 @@ Trace Calls(const std::string& letters) {
     return Lines(drawing);
 }
 
-struct Row {
-    const char* name;
-    int failingCall;
-    const char* failingFunction;
-    const char* disturbed;
-    bool goesOn;
-    Gdiplus::Status last;
-};
-
 TEST(Disturbance, IsToldFromADrawingThatStops) {
     const Gdiplus::Status ok = Gdiplus::Ok;
     const Gdiplus::Status null = Gdiplus::InvalidParameter;
     const Gdiplus::Status ordered = Gdiplus::GenericError;
-    const Row rows[] = {
+    const struct {
+        const char* name;
+        int failingCall;
+        const char* failingFunction;
+        const char* disturbed;
+        bool goesOn;
+        Gdiplus::Status last;
+    } rows[] = {
         {"no pen", 1, "", "pcnt", true, null},
         {"no pen, but one is drawn with", 1, "", "pclt", true, ok},
         {"no pen ever, but one is drawn with", 0, "GdipCreatePen1", "pclt", false, ok},
@@ -78,7 +76,7 @@ TEST(Disturbance, IsToldFromADrawingThatStops) {
         {"nothing, but a pen is drawn with", 0, "", "pclt", false, ordered},
     };
     const Trace undisturbed = Calls("pclt");
-    for (const Row& row : rows) {
+    for (const auto& row : rows) {
         const Fault fault{row.failingCall, row.failingFunction, ordered};
         const Trace disturbed = Calls(row.disturbed);
         EXPECT_EQ(static_cast<bool>(GoesOn(undisturbed, disturbed, fault)), row.goesOn)

@@ -126,23 +126,21 @@ TEST(DrawFrame, DrawsABorderOfNoWidthTransparent) {
     }
 }
 
-struct ShadowRow {
-    const char* name;
-    float ratioX;
-    float ratioY;
-    float fallX;  ///< 101 times the ratio
-    float fallY;  ///< 51 times
-    float penOfRight;
-    float penOfBottom;
-    float penAfter;
-};
-
 // The rectangle is 101 wide and 51 high from (10, 20), with a pen of 2 and gaps of 3 and
 // 4; a strip is moved by whole pixels.
 TEST(DrawFrame, DropsTheShadowByItsRatios) {
     const float third = 1.0f / 3.0f;
     const float nan = std::numeric_limits<float>::quiet_NaN();
-    const ShadowRow rows[] = {
+    const struct {
+        const char* name;
+        float ratioX;
+        float ratioY;
+        float fallX;  ///< 101 times the ratio
+        float fallY;  ///< 51 times
+        float penOfRight;
+        float penOfBottom;
+        float penAfter;
+    } rows[] = {
         {"exact", 0.5f, 0.25f, 50.5f, 12.75f, 2, 2, 2},
         // 33.666668; 51 / 3 is rounded up to a whole
         {"thirds, in floats", third, third, 101.0f * third, 17.0f, 2, 2, 2},
@@ -155,7 +153,7 @@ TEST(DrawFrame, DropsTheShadowByItsRatios) {
     };
     const std::string brush = BrushLook(kShadow);
     const auto whole = [](float fall) { return std::isnan(fall) ? 0 : std::trunc(fall); };
-    for (const ShadowRow& row : rows) {
+    for (const auto& row : rows) {
         CFrameBase frame = ColouredFrame();
         frame.DrawShadow = true;
         frame.BorderWidth = 2.0f;
@@ -191,19 +189,17 @@ TEST(DrawFrame, DrawsTheNextBorderTransparentAfterAShadowThatFallsNowhere) {
     EXPECT_EQ(second.at(2), DrawRectangle(PenLook(kTransparent, 0), 0, 0, 9, 9));
 }
 
-struct RectRow {
-    const char* name;
-    CRect rect;
-    int gapX, gapY;
-    int x, y, width, height;
-};
-
 TEST(DrawFrame, KeepsRectanglesWithin32Bits) {
     const int low = kLowest;
     const int top = kHighest;
     const CRect box(0, 0, 10, 10);
     const CRect plane(low, low, top, top);
-    const RectRow rows[] = {
+    const struct {
+        const char* name;
+        CRect rect;
+        int gapX, gapY;
+        int x, y, width, height;
+    } rows[] = {
         {"empty", CRect(5, 6, 5, 6), 0, 0, 5, 6, 0, 0},
         {"inside out", CRect(110, 70, 10, 20), 0, 0, 110, 70, -100, -50},
         {"gaps inwards", CRect(10, 20, 110, 70), -3, -4, 13, 24, 94, 42},
@@ -216,7 +212,7 @@ TEST(DrawFrame, KeepsRectanglesWithin32Bits) {
         // -2^31 - (2^31 - 1) is below; the width is 2 * (2^31 - 1) more than 2^32 - 1
         {"everything at once", plane, top, top, low, low, top, top},
     };
-    for (const RectRow& row : rows) {
+    for (const auto& row : rows) {
         CFrameBase frame = ColouredFrame();
         frame.DrawBorder = true;
         frame.DrawFill = true;
@@ -235,18 +231,16 @@ TEST(DrawFrame, KeepsRectanglesWithin32Bits) {
     }
 }
 
-struct FallRow {
-    CRect rect;
-    float ratioX, ratioY;
-    std::array<float, 4> right, bottom;
-};
-
 TEST(DrawFrame, DropsTheShadowInFloats) {
     const int low = kLowest;
     const int top = kHighest;
     const float side = 4294967296.0f;  // 2^32 - 1, as a float
     const float edge = 2147483648.0f;  // 2^31 - 1, as a float
-    const FallRow rows[] = {
+    const struct {
+        CRect rect;
+        float ratioX, ratioY;
+        std::array<float, 4> right, bottom;
+    } rows[] = {
         // 0.7 as a float is a little less; times 10 and times 50 it is rounded to 7 and
         // 35, where a double would stay below and lose a pixel.
         {CRect(0, 0, 50, 10), 0.7f, 0.7f, {50, 7, 35, 10}, {35, 10, 50, 7}},
@@ -265,7 +259,7 @@ TEST(DrawFrame, DropsTheShadowInFloats) {
          {edge + 256, edge, 100, 400}},
     };
     const std::string brush = BrushLook(kShadow);
-    for (const FallRow& row : rows) {
+    for (const auto& row : rows) {
         CFrameBase frame = ColouredFrame();
         frame.DrawShadow = true;
         frame.BorderWidth = 0.0f;

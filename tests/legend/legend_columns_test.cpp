@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <bitset>
 #include <cmath>
-#include <cstdlib>
 #include <deque>
 #include <limits>
 #include <utility>

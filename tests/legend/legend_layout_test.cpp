@@ -64,20 +64,18 @@ struct Shelf {
     }
 };
 
-struct Row {
-    const char* what;
-    const char* sources;
-    std::map<std::string, ink::Size> ink;  ///< of what has another than usual
-    int height;
-    std::int64_t width;  ///< the aspect ratio is width / height
-};
-
 // Usually the title is 50 x 16 and the sample 40 x 13: rows of 13, swatches of 78 / 10 =
 // 7, and three samples of 40 are 120 wide.
 TEST(LegendLayout, SizesByHand) {
     constexpr int most = 2147483647;
     const ink::Size vast{most, most};
-    const Row rows[] = {
+    const struct {
+        const char* what;
+        const char* sources;
+        std::map<std::string, ink::Size> ink;  ///< of what has another than usual
+        int height;
+        std::int64_t width;  ///< the aspect ratio is width / height
+    } rows[] = {
         {"no source", "", {}, 16 + 12, 120},
         // 24 below the title, and 12 less for there is no source: past the limit by 7.
         {"huge title alone", "", {{"T", {10, most - 5}}}, most, 120},
@@ -125,7 +123,7 @@ TEST(LegendLayout, SizesByHand) {
          120},
     };
     Shelf shelf;
-    for (const Row& row : rows) {
+    for (const auto& row : rows) {
         SCOPED_TRACE(row.what);
         CMapLegend legend;
         legend.SetTitleValue(L"T");

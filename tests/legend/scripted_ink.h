@@ -4,7 +4,6 @@
 
 #include <functional>
 
-#include <cstdlib>
 #include <map>
 #include <string>
 

@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <cmath>
 #include <limits>
 #include <string>
 #include <type_traits>
@@ -103,17 +102,15 @@ TEST(ScaleBarBase, StoresWhatItIsGiven) {
     EXPECT_EQ(bar.GetUnitsName(), L"\u5355\u4F4D");
 }
 
-struct UnitRow {
-    std::wstring given;
-    std::wstring stored;
-};
-
 TEST(ScaleBarBase, TranslatesTheUnitWordsOfHostsAndNoOthers) {
     const std::wstring degree = L"\u5EA6";
     const std::wstring unknown = L"\u672A\u77E5";
     const std::wstring metre = L"\u7C73";
     const std::wstring kilometre = L"\u516C\u91CC";
-    const UnitRow rows[] = {
+    const struct {
+        std::wstring given;
+        std::wstring stored;
+    } rows[] = {
         {L"degree", degree},
         {L"Degree", degree},
         {L"unknown", unknown},
@@ -139,7 +136,7 @@ TEST(ScaleBarBase, TranslatesTheUnitWordsOfHostsAndNoOthers) {
     };
     CScaleLine bar;
     bar.SetDestUnitType(MeasureDegree);
-    for (const UnitRow& row : rows) {
+    for (const auto& row : rows) {
         bar.SetUnitsName(row.given);
         EXPECT_EQ(bar.GetUnitsName(), row.stored);
         bar.SetUnitsNameVerbatim(row.given);
@@ -173,18 +170,16 @@ TEST(ScaleBarBase, SizesTheUnitNameByAThirdOfTheHeight) {
     EXPECT_NE(unitName.find(Times(16777216.0f)), std::string::npos) << unitName;
 }
 
-struct AspectRow {
-    const char* why;
-    double paperToData;
-    double screenToPaper;
-    int mainCount;
-    int size;
-    float aspectRatio;
-};
-
 // The margins of size 40 are 8 + 1 + 26.6667 + 1 = 36.6667.
 TEST(ScaleBarBase, ResetsTheAspectRatioToTheDivisionsAndMargins) {
-    const AspectRow rows[] = {
+    const struct {
+        const char* why;
+        double paperToData;
+        double screenToPaper;
+        int mainCount;
+        int size;
+        float aspectRatio;
+    } rows[] = {
         {"50 + margins = 86.6667", 1.0, 10.0, 5, 40, 2.1666667f},
         {"margins alone", 1.0, 10.0, 0, 40, 0.9166667f},
         {"f 0.8: 40 + margins = 76.6667", 2500.0, 10.0, 5, 40, 1.9166667f},
@@ -195,7 +190,7 @@ TEST(ScaleBarBase, ResetsTheAspectRatioToTheDivisionsAndMargins) {
         {"size 80: 50 + 16 + 2 + 53.3333 + 2 = 123.3333", 1.0, 10.0, 5, 80, 1.5416667f},
         {"a negative count shortens: -10 + margins", 1.0, 10.0, -1, 40, 0.6666667f},
     };
-    for (const AspectRow& row : rows) {
+    for (const auto& row : rows) {
         CScaleLine bar;
         bar.SetPaper2DataScale(row.paperToData);
         bar.SetScreen2PaperByOneScale(row.screenToPaper);
@@ -207,14 +202,6 @@ TEST(ScaleBarBase, ResetsTheAspectRatioToTheDivisionsAndMargins) {
     }
 }
 
-struct SumRow {
-    const char* why;
-    int size;
-    double screenToPaper;
-    int mainCount;
-    float aspectRatio;
-};
-
 // Where the division cancels the margins, or is so large that each sum is rounded, their
 // order and precision tell. At 2^53 + 2^29, halfway between two floats, doubles are 2
 // apart.
@@ -222,7 +209,13 @@ TEST(ScaleBarBase, AddsTheMarginsInOrder) {
     const double halfway = 9007199254740992.0 + 536870912.0;
     const float below = 9007199254740992.0f;  // 2^53
     const float above = 9007200328482816.0f;  // 2^53 + 2^30
-    const SumRow rows[] = {
+    const struct {
+        const char* why;
+        int size;
+        double screenToPaper;
+        int mainCount;
+        float aspectRatio;
+    } rows[] = {
         // 0.2 + 0.025 + 0.6666667 + 0.025 as floats
         {"the margins of size 1", 1,
          -(double{1.0f / 5.0f} + double{1.0f / 40.0f} + double{2.0f / 3.0f} +
@@ -236,7 +229,7 @@ TEST(ScaleBarBase, AddsTheMarginsInOrder) {
         {"two thirds before a fortieth", 280, halfway - 254.0, 1, below / 280.0f},
         {"a count that is no float", 40, 1.0, 16777217, 419431.3125f},
     };
-    for (const SumRow& row : rows) {
+    for (const auto& row : rows) {
         CScaleLine bar;
         bar.SetScreen2PaperByOneScale(row.screenToPaper);
         bar.SetMainDivCount(row.mainCount);
@@ -266,17 +259,15 @@ TEST(ScaleBarBase, KeepsTheAspectRatioAndDrawsNothingWithoutADivisionValue) {
     }
 }
 
-struct ValueRow {
-    double paperToData;
-    const char* label;           ///< of one division
-    const char* alternateLabel;  ///< the same in the alternating style
-    int step;                    ///< at a paper-to-screen scale of 1000
-};
-
 // Rounded down to one digit. 0.07 loses the last bit when it is divided by ten twice, and
 // 7e-5 would come out as 6e-5 were it multiplied by 100000 at once.
 TEST(ScaleBarBase, RoundsTheDivisionValueDownToOneDigit) {
-    const ValueRow rows[] = {
+    const struct {
+        double paperToData;
+        const char* label;           ///< of one division
+        const char* alternateLabel;  ///< the same in the alternating style
+        int step;                    ///< at a paper-to-screen scale of 1000
+    } rows[] = {
         {0.01, "0.01", "0.01", 1000},
         {0.037, "0.03", "0.03", 810},
         {0.07, "0.07", "0.07", 999},
@@ -299,7 +290,7 @@ TEST(ScaleBarBase, RoundsTheDivisionValueDownToOneDigit) {
         {7e-5, "0.00007", "0.00007", 1000},
         {0.00025, "0.0002", "0.0002", 800},
     };
-    for (const ValueRow& row : rows) {
+    for (const auto& row : rows) {
         for (const Style style : kStyles) {
             const bool alternates = style == Style::Alternate;
             BarRow bar;

@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <limits>
-#include <new>
 #include <type_traits>
 #include <utility>
 
@@ -14,20 +13,18 @@ namespace {
 
 using namespace recording;
 
-struct MeasuredRow {
-    const char* name;
-    unsigned int imageWidth, imageHeight;
-    int size;
-    float angle;
-    int width;
-    Gdiplus::Rect turned;
-};
-
 // It turns about the middle, of which both numbers are whole.
 TEST(DrawPicture, MeasuresTheBoxAroundTheTurnedImage) {
     constexpr int highest = std::numeric_limits<int>::max();
     constexpr int lowest = std::numeric_limits<int>::min();
-    const MeasuredRow rows[] = {
+    const struct {
+        const char* name;
+        unsigned int imageWidth, imageHeight;
+        int size;
+        float angle;
+        int width;
+        Gdiplus::Rect turned;
+    } rows[] = {
         {"unturned", 200, 100, 50, 0, 100, {0, 0, 100, 50}},
         {"a little", 200, 100, 50, 30, 100, {-6, -22, 111, 93}},
         {"upright", 200, 100, 50, 90, 100, {25, -25, 50, 100}},
@@ -41,7 +38,7 @@ TEST(DrawPicture, MeasuresTheBoxAroundTheTurnedImage) {
         {"not loaded", 0, 0, 40, 0, 0, {0, 0, 4, 8}},
         {"without height", 9, 0, 40, 0, highest, {0, 0, 4, 8}},
     };
-    for (const MeasuredRow& row : rows) {
+    for (const auto& row : rows) {
         Recording recording(Mode::RecordOnly);
         recording.ScriptImageSize(row.imageWidth, row.imageHeight);
         recording.ScriptBounds({row.turned});
@@ -111,17 +108,15 @@ TEST(DrawPicture, MeasuresRealBoxes) {
     EXPECT_NEAR(picture.GetAspectRatio(), 111.6 / 93.3, 0.02);
 }
 
-struct DrawnRow {
-    const char* name;
-    int size;
-    float aspectRatio;
-    double scale;
-    int halfWidth;
-    int halfHeight;
-};
-
 TEST(DrawPicture, StretchesTheImageIntoItsRectangle) {
-    const DrawnRow rows[] = {
+    const struct {
+        const char* name;
+        int size;
+        float aspectRatio;
+        double scale;
+        int halfWidth;
+        int halfHeight;
+    } rows[] = {
         {"half scale", 50, 2.0f, 0.5, 25, 12},       // 25 high
         {"full scale", 50, 2.0f, 1.0, 50, 25},       // 50 high
         {"enlarged", 50, 2.0f, 3.125, 156, 78},      // 156.25 is 156 high
@@ -134,7 +129,7 @@ TEST(DrawPicture, StretchesTheImageIntoItsRectangle) {
         {"mirrored", 50, -2.0f, 1.0, -50, 25},
         {"no scale", 50, 2.0f, 0.0, 0, 0},
     };
-    for (const DrawnRow& row : rows) {
+    for (const auto& row : rows) {
         for (const float angle : {0.0f, 30.0f, 90.0f, -45.0f}) {
             Surface surface;
             Recording recording(Mode::RecordOnly);
@@ -291,15 +286,6 @@ TEST(DrawPicture, PaintsTheImage) {
     EXPECT_EQ(surface.WorldTransform(), (std::vector<float>{1, 0, 0, 1, 0, 0}));
 }
 
-struct PictureRow {
-    const char* name;
-    int size;
-    float aspectRatio;
-    double scale;
-    int centre;
-    int x, y, width, height;
-};
-
 // 2^30 - 1 is half of the largest height; twice that is one less than it.
 TEST(DrawPicture, IsCutToWhatGdiPlusTakes) {
     const int half = 1073741823;
@@ -307,7 +293,14 @@ TEST(DrawPicture, IsCutToWhatGdiPlusTakes) {
     const int top = std::numeric_limits<int>::max();
     const float on = std::numeric_limits<float>::infinity();
     const float none = std::numeric_limits<float>::quiet_NaN();
-    const PictureRow rows[] = {
+    const struct {
+        const char* name;
+        int size;
+        float aspectRatio;
+        double scale;
+        int centre;
+        int x, y, width, height;
+    } rows[] = {
         {"highest", top, 1, 1, 0, -half - 1, -half, top, 2 * half},
         {"highest, far out", top, 1, 1, low, low, low, top, 2 * half},
         {"lowest", low, 1, 1, 0, half + 1, half + 1, low, low},
@@ -320,7 +313,7 @@ TEST(DrawPicture, IsCutToWhatGdiPlusTakes) {
         {"no number for a scale", 40, 1, none, 5, 5, 5, 0, 0},
         {"no number for a ratio", 40, none, 1, 5, 5, -15, 0, 40},
     };
-    for (const PictureRow& row : rows) {
+    for (const auto& row : rows) {
         Surface surface;
         Recording recording(Mode::RecordOnly);
         CDrawPicture picture;

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <cstdlib>
 #include <iterator>
 #include <limits>
 
@@ -65,18 +64,16 @@ std::vector<Named> Measuring(const std::string& text, const Gdiplus::Rect& bound
     };
 }
 
-struct MeasuredRow {
-    const char* name;
-    Gdiplus::Rect bounds;
-    float angle;
-    Gdiplus::Rect turned;
-};
-
 // It turns about the middle of its outline, halves included.
 TEST(MapTitle, MeasuresTheBoxAroundItsTurnedOutline) {
     constexpr int highest = std::numeric_limits<int>::max();
     constexpr int lowest = std::numeric_limits<int>::min();
-    const MeasuredRow rows[] = {
+    const struct {
+        const char* name;
+        Gdiplus::Rect bounds;
+        float angle;
+        Gdiplus::Rect turned;
+    } rows[] = {
         {"unturned", {1, 3, 60, 20}, 0, {1, 3, 60, 20}},
         {"a little", {1, 3, 60, 20}, 30, {0, -10, 62, 47}},
         {"upright", {1, 3, 60, 20}, 90, {21, -17, 20, 60}},
@@ -87,7 +84,7 @@ TEST(MapTitle, MeasuresTheBoxAroundItsTurnedOutline) {
         {"huge and negative", {lowest, lowest, lowest, lowest}, 0, {0, 0, 1, lowest}},
         {"no height", {1, 3, 60, 0}, 0, {1, 3, 60, 0}},
     };
-    for (const MeasuredRow& row : rows) {
+    for (const auto& row : rows) {
         CMapTitle title = Title();
         title.SetAngle(row.angle);
         Recording recording(Mode::RecordOnly);
@@ -156,17 +153,15 @@ TEST(MapTitle, MeasuresAndDrawsNothingWithoutAFamily) {
     }
 }
 
-struct DrawnRow {
-    double scale;
-    float x;
-    float y;
-    float emSize;
-};
-
 // The outline is 60 x 20 from (1, 3), the centre (200, 150), the em size 15. Where the
 // outline starts does not matter.
 TEST(MapTitle, DrawsItsTextAboutTheCentre) {
-    const DrawnRow rows[] = {
+    const struct {
+        double scale;
+        float x;
+        float y;
+        float emSize;
+    } rows[] = {
         {0.5, 200 - 15, 150 - 5, 7.5f},
         {1.0, 200 - 30, 150 - 10, 15.0f},
         {2.0, 200 - 60, 150 - 20, 30.0f},
@@ -176,7 +171,7 @@ TEST(MapTitle, DrawsItsTextAboutTheCentre) {
         {1.0 / 3.0, 190.0f, static_cast<float>(150 - 20 * (1.0 / 3.0) * 0.5), 5.0f},
     };
     for (const Text& text : kTexts) {
-        for (const DrawnRow& row : rows) {
+        for (const auto& row : rows) {
             for (const float angle : {0.0f, 30.0f, 90.0f, -45.0f}) {
                 CMapTitle title = Title(text.text);
                 title.SetFrontColor(Gdiplus::Color(0xFF103050));
@@ -341,18 +336,16 @@ TEST(MapTitle, IsNotTurnedByAnAngleThatIsNotFinite) {
     }
 }
 
-struct PlacedRow {
-    const char* name;
-    double fontSize;
-    double scale;
-    int centre;
-    std::string emSize;
-    std::string at;
-};
-
 // The outline is 60 x 20.
 TEST(MapTitle, IsPlacedInDoubles) {
-    const PlacedRow rows[] = {
+    const struct {
+        const char* name;
+        double fontSize;
+        double scale;
+        int centre;
+        std::string emSize;
+        std::string at;
+    } rows[] = {
         {"endless", 15.0, kInfinity, 0, "inf", "(-inf, -inf)"},
         {"no number", 15.0, kNaN, 0, "nan", "(nan, nan)"},
         {"past a float", 15.0, 1e300, 0, "inf", "(-inf, -inf)"},
@@ -362,7 +355,7 @@ TEST(MapTitle, IsPlacedInDoubles) {
         // 2^31 - 1 - 30 * 4 is 2147483527, exact only as a double; floats are 128 apart
         {"a far centre, back", 15.0, 4.0, kMost, "60", "(2147483520, 2147483648)"},
     };
-    for (const PlacedRow& row : rows) {
+    for (const auto& row : rows) {
         Surface surface;
         CMapTitle title;
         title.SetFontValue(L"Map");

@@ -44,7 +44,7 @@ protected:
     }
 
     ScratchFolder folder;
-    const std::vector<std::string> endless = {"/vsistdin/", "-o", "page.png"};
+    const host_tests::Arguments endless = "/vsistdin/ -o page.png";
     std::vector<std::string> names;
 };
 
@@ -92,7 +92,7 @@ TEST_F(MapPageThatEndsEarly, TakesTheDrawingWithIt) {
 }
 
 TEST_F(MapPageThatEndsEarly, LeavesNothingOfAPageThatIsHalfWritten) {
-    const RunningMapPage running(folder, {"scene.tif", "-o", "page.png"}, [] {
+    const RunningMapPage running(folder, "scene.tif -o page.png", [] {
         const rlimit limit = {1000, 1000};
         setrlimit(RLIMIT_FSIZE, &limit);
     });

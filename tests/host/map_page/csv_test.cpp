@@ -11,14 +11,12 @@ namespace {
 
 using Records = std::vector<std::vector<std::string>>;
 
-struct CsvRow {
-    std::string text;
-    Records records;
-    std::vector<std::size_t> lines;
-};
-
 TEST(Csv, ReadsRecordsAndTheirLines) {
-    const CsvRow rows[] = {
+    const struct {
+        std::string text;
+        Records records;
+        std::vector<std::size_t> lines;
+    } rows[] = {
         {"", {}, {}},
         {"\n\r\n", {}, {}},
         {"a", {{"a"}}, {1}},
@@ -35,7 +33,7 @@ TEST(Csv, ReadsRecordsAndTheirLines) {
         {" a , b ", {{" a ", " b "}}, {1}},
         {"a\rb,c", {{"a\rb", "c"}}, {1}},
     };
-    for (const CsvRow& row : rows) {
+    for (const auto& row : rows) {
         Records fields;
         std::vector<std::size_t> lines;
         for (const map_page::CsvRecord& record : map_page::ReadCsv(row.text)) {
@@ -47,13 +45,11 @@ TEST(Csv, ReadsRecordsAndTheirLines) {
     }
 }
 
-struct WrongRow {
-    std::string text;
-    std::string error;
-};
-
 TEST(Csv, TellsTheLineOfWhatIsWrong) {
-    const WrongRow rows[] = {
+    const struct {
+        std::string text;
+        std::string error;
+    } rows[] = {
         {"a\n\"b\nc", "line 2: has a quote that is not closed"},
         {"\"", "line 1: has a quote that is not closed"},
         {"a\n\nb\"c\"", "line 3: has text beside quotes"},
@@ -62,7 +58,7 @@ TEST(Csv, TellsTheLineOfWhatIsWrong) {
         {"a,b\nc,\xFF\xFE\n", "line 2: is not valid UTF-8"},
         {std::string("a\n\nb\0c\n", 7), "line 3: has a zero byte"},
     };
-    for (const WrongRow& row : rows) {
+    for (const auto& row : rows) {
         std::string error;
         try {
             map_page::ReadCsv(row.text);

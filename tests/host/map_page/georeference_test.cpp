@@ -11,7 +11,6 @@
 #include <cstdint>
 #include <filesystem>
 #include <memory>
-#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -77,54 +76,40 @@ protected:
 
     /// A page of two maps.
     void WriteTwoMaps(const std::string& name) const {
-        ASSERT_EQ(Run({"map.tif", "--no-legend", "--save", "one.json"}).status, 0);
-        std::string page = ContentsOf(folder.Path("one.json"));
-        const std::size_t map = page.rfind('{', page.find("\"map\""));
-        int depth = 0;
-        std::size_t end = map;
-        do {
-            depth += page[end] == '{' ? 1 : page[end] == '}' ? -1 : 0;
-            ++end;
-        } while (depth > 0);
-        page.insert(end, "," + page.substr(map, end - map));
-        host_tests::WriteFile(folder.Path(name), page);
+        const std::string map =
+            R"({"type": "map", "rasters": ["map.tif"], "frame": {"left": 9, "top": 99, )"
+            R"("width": 90, "height": 90}})";
+        Write(name, R"({"version": 2, "width": 400, "height": 300, "elements": [)" + map +
+                        "," + map + "]}");
     }
-};
-
-struct Row {
-    const char* output;
-    Arguments options;
-    std::array<double, 4> map;  ///< of its first pixel: x, y, across, down
-    const char* projection;
 };
 
 TEST_F(Georeference, IsThatOfWhatThePageShows) {
     const std::array<double, 4> metres = {500000.0, 9000000.0, 450.0, -450.0};
     const std::array<double, 4> degrees = {10.25, 48.5, 0.002, -0.002};
-    const Arguments world = {"--world-file", "--dpi", "96"};
-    const Row rows[] = {
-        {"page.tif", {"--dpi", "96"}, metres, "EPSG:32725"},
-        {"page.tif",
-         {"--portrait", "--size", "A5", "--dpi", "100"},
-         degrees,
-         "EPSG:4326"},
-        {"page.tif", {"--dpi", "96"}, {-500.0, -800.0, 2.0, 3.0}, "EPSG:2193"},
-        {"page.tif", {"--dpi", "96"}, metres, ""},
+    const Arguments world = "--world-file --dpi 96";
+    const struct {
+        const char* output;
+        Arguments options;
+        std::array<double, 4> map;  ///< of its first pixel: x, y, across, down
+        const char* projection;
+    } rows[] = {
+        {"page.tif", "--dpi 96", metres, "EPSG:32725"},
+        {"page.tif", "--portrait --size A5 --dpi 100", degrees, "EPSG:4326"},
+        {"page.tif", "--dpi 96", {-500.0, -800.0, 2.0, 3.0}, "EPSG:2193"},
+        {"page.tif", "--dpi 96", metres, ""},
         {"page.png", world, metres, "EPSG:32725"},
         {"page.png", world, degrees, "EPSG:4326"},
         {"page.jpeg", world, {1500000.0, 5400000.0, 10.0, -10.0}, "EPSG:2193"},
         {"page.png", world, metres, ""},
         {"page.pdf", {}, metres, "EPSG:32725"},
-        {"page.pdf", {"--portrait"}, degrees, "EPSG:4326"},
-        {"page.pdf", {"--size", "A5"}, {600000.0, 2200000.0, 9.0, -9.0}, "EPSG:27572"},
+        {"page.pdf", "--portrait", degrees, "EPSG:4326"},
+        {"page.pdf", "--size A5", {600000.0, 2200000.0, 9.0, -9.0}, "EPSG:27572"},
     };
-    for (const Row& row : rows) {
+    for (const auto& row : rows) {
         const auto& [x, y, across, down] = row.map;
         WriteMap("map.tif", x, y, across, down, row.projection);
-        Arguments arguments = {"map.tif", "--no-legend", "-o", row.output};
-        arguments.insert(arguments.end(), row.options.begin(), row.options.end());
-        const Result result = Run(arguments);
-        ASSERT_EQ(result.status, 0) << result.err;
+        RunWell(Arguments{"map.tif", "--no-legend", "-o", row.output} + row.options);
         const Opened page = Open(folder.Path(row.output));
         ASSERT_NE(page, nullptr);
         std::array<double, 6> transform{};
@@ -170,7 +155,7 @@ TEST_F(Georeference, OfAPdfIsThatOfEveryMap) {
     const std::pair<const char*, int> rows[] = {
         {"map.tif", 1}, {"two.json", 2}, {"nowhere.tif", 0}};
     for (const auto& [input, count] : rows) {
-        ASSERT_EQ(Run({input, "-o", "page.pdf"}).status, 0);
+        RunWell({input, "-o", "page.pdf"});
         EXPECT_EQ(host_tests::Said("qpdf --qdf --object-streams=disable " +
                                    folder.Path("page.pdf") +
                                    " - | grep -ac '/Type /Viewport' || true"),
@@ -184,7 +169,7 @@ TEST_F(Georeference, IsLeftOutWhereThePageHasNoMapOrSeveral) {
     WriteRaster(folder.Path("plain.tif"), {});
     WriteTwoMaps("two.json");
     for (const char* input : {"plain.tif", "two.json"}) {
-        ASSERT_EQ(Run({input, "-o", "page.tif"}).status, 0) << input;
+        RunWell({input, "-o", "page.tif"});
         std::array<double, 6> transform{};
         EXPECT_EQ(Open(folder.Path("page.tif"))->GetGeoTransform(transform.data()),
                   CE_Failure)
@@ -202,8 +187,8 @@ TEST_F(Georeference, IsLeftOutWhereThePageHasNoMapOrSeveral) {
         {"map.tif", "a.pdf", 2, "--world-file: goes with an output in .png or .jpg"},
         {"own.jpg", "own.jpeg", 1, "own.jgw: would replace "},
     };
-    ASSERT_EQ(Run({"map.tif", "-o", "own.jpg", "--world-file"}).status, 0);
-    EXPECT_THAT(Run({"map.tif", "-o", "own.jpg"}).err,
+    RunWell("map.tif -o own.jpg --world-file");
+    EXPECT_THAT(Run("map.tif -o own.jpg").err,
                 HasSubstr("own.jgw is not of this page; --world-file renews it"));
     for (const auto& row : rows) {
         const Result result = Run({row.input, "-o", row.output, "--world-file"});

@@ -30,10 +30,10 @@ protected:
 
     /// A configuration of fonts, in which map_page runs.
     Result RunWithFonts(const std::string& configuration, const Arguments& arguments) {
-        host_tests::WriteFile(folder.Path("fonts.conf"),
-                              "<?xml version=\"1.0\"?><!DOCTYPE fontconfig SYSTEM "
-                              "\"fonts.dtd\"><fontconfig>" +
-                                  configuration + "</fontconfig>");
+        Write("fonts.conf",
+              "<?xml version=\"1.0\"?><!DOCTYPE fontconfig SYSTEM "
+              "\"fonts.dtd\"><fontconfig>" +
+                  configuration + "</fontconfig>");
         const RunningMapPage running(folder, arguments, [this] {
             setenv("FONTCONFIG_FILE", folder.Path("fonts.conf").c_str(), 1);
         });
@@ -42,21 +42,19 @@ protected:
 };
 
 TEST_F(HonestStatus, OfTextsThatAreTooLargeOrTooSmall) {
-    ASSERT_EQ(Run({"data/scene.tif", "--title", "Olinda", "--save", "page.json"}).status,
-              0);
-    std::string page = ContentsOf(folder.Path("page.json"));
+    RunWell("data/scene.tif --title Olinda --save page.json");
+    std::string page = Contents("page.json");
     const std::size_t size = page.find("\"fontSize\": ");
     page.replace(size, page.find(',', size) - size, "\"fontSize\": 20000");
-    host_tests::WriteFile(folder.Path("page.json"), page);
-    ExpectRefused(Run({"page.json", "-o", "page.png", "--dpi", "400"}),
+    Write("page.json", page);
+    ExpectRefused(Run("page.json -o page.png --dpi 400"),
                   "title: is 83333 pixels high, and texts of at most 65535 are drawn");
-    ExpectRefused(
-        Run({"data/scene.tif", "--size", "A6", "--dpi", "10", "-o", "page.png"}),
-        "scale bar: is 3 pixels high, too little for its text");
+    ExpectRefused(Run("data/scene.tif --size A6 --dpi 10 -o page.png"),
+                  "scale bar: is 3 pixels high, too little for its text");
 }
 
 TEST_F(HonestStatus, OfFontsThatAreNotThere) {
-    const Arguments draw = {"data/scene.tif", "-o", "page.png"};
+    const Arguments draw = "data/scene.tif -o page.png";
     ExpectRefused(RunWithFonts("", draw),
                   "--title-font: no font family \"Arial\" is installed");
     // Sans, but no serif for the numbers of the bar, and no Chinese for the captions.
@@ -66,11 +64,10 @@ TEST_F(HonestStatus, OfFontsThatAreNotThere) {
         "<include>/etc/fonts/conf.d</include>";
     const std::string why = "scale bar: no font family \"Times New Roman\" is installed";
     ExpectRefused(RunWithFonts(sans, draw), why);
-    ASSERT_EQ(Run({"data/scene.tif", "--save", "page.json"}).status, 0);
-    ExpectRefused(RunWithFonts(sans, {"page.json", "-o", "page.png"}),
-                  "page.json: " + why);
-    const Result boxes = RunWithFonts(sans, {"data/scene.tif", "-o", "page.png",
-                                             "--scale-bar", "none", "--language", "zh"});
+    RunWell("data/scene.tif --save page.json");
+    ExpectRefused(RunWithFonts(sans, "page.json -o page.png"), "page.json: " + why);
+    const Result boxes =
+        RunWithFonts(sans, "data/scene.tif -o page.png --scale-bar none --language zh");
     EXPECT_EQ(boxes.status, 0);
     EXPECT_EQ(boxes.err.rfind("map_page: warning: legend: no font has \"图例影像名：", 0),
               0u)
@@ -82,9 +79,9 @@ constexpr int kNotStarted = 127;  // for want of a library
 
 // Fonts and rasters are files, and take memory: without either, texts were once boxes.
 TEST_F(HonestStatus, OfDescriptorsAndMemoryThatRunOut) {
-    const Arguments draw = {"data/scene.tif", "-o", "page.png", "--dpi", "60"};
-    ASSERT_EQ(Run(draw).status, 0);
-    const std::string whole = ContentsOf(folder.Path("page.png"));
+    const Arguments draw = "data/scene.tif -o page.png --dpi 60";
+    RunWell(draw);
+    const std::string whole = Contents("page.png");
     const auto tryWith = [&](int resource, rlim_t most) {
         fs::remove(folder.Path("page.png"));
         const RunningMapPage running(folder, draw, [resource, most] {
@@ -97,7 +94,7 @@ TEST_F(HonestStatus, OfDescriptorsAndMemoryThatRunOut) {
         EXPECT_TRUE(drawn || result.status == 1 || result.status == kNotStarted)
             << most << " ends with " << result.status;
         EXPECT_EQ(fs::exists(folder.Path("page.png")), drawn) << most;
-        EXPECT_TRUE(!drawn || ContentsOf(folder.Path("page.png")) == whole) << most;
+        EXPECT_TRUE(!drawn || Contents("page.png") == whole) << most;
         EXPECT_EQ(std::count(result.err.begin(), result.err.end(), '\n'), drawn ? 0 : 1)
             << most << result.err;
         return drawn;
@@ -117,13 +114,9 @@ TEST_F(HonestStatus, OfDescriptorsAndMemoryThatRunOut) {
 #endif
 
 TEST_F(HonestStatus, OfColumnsThatThePageHasNothingFor) {
-    host_tests::WriteFile(
-        folder.Path("page.json"),
-        R"({"version": 2, "width": 300, "height": 200, "elements": []})");
-    host_tests::WriteFile(folder.Path("list.csv"),
-                          "name,rasters,extent\npage,data/scene.tif,0 0 1 1\n");
-    const Result result = Run({"page.json", "--series", "list.csv", "-o", "{name}.png"});
-    EXPECT_EQ(result.status, 0);
+    Write("page.json", R"({"version": 2, "width": 300, "height": 200, "elements": []})");
+    Write("list.csv", "name,rasters,extent\npage,data/scene.tif,0 0 1 1\n");
+    const Result result = RunWell("page.json --series list.csv -o {name}.png");
     const std::string line = "map_page: warning: list.csv: line 2: the page has no map ";
     EXPECT_EQ(result.err, line + "or legend that shows the rasters\n" + line +
                               "whose extent, scale or colours change\n");

@@ -1,19 +1,12 @@
 #include <gdiplus.h>
 #include <gtest/gtest.h>
-#include <sys/resource.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
-#include <array>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
-#include <cstring>
-#include <functional>
 #include <map>
 #include <random>
+#include <stdexcept>
 #include <string>
-#include <vector>
 
 #include "hostile_files/damage.h"
 #include "hostile_files/png_checksums.h"
@@ -21,6 +14,7 @@
 #include "map_page/seed_rasters.h"
 #include "map_surround/picture.h"
 #include "page/made_raster.h"
+#include "system/separate_process.h"
 
 namespace {
 
@@ -29,8 +23,8 @@ using host_tests::WriteFile;
 
 constexpr unsigned kSecondsAllowed = 60;
 
-/// How a process ends that draws a picture; as its status, or by a signal.
-enum class Ending { Drawn, Refused, SurfaceLost, Died };
+/// How a process ends that draws a picture.
+enum class Ending : char { Drawn, Refused, SurfaceLost, Died };
 
 /// Opens an image as a picture and draws it, turned, onto a small surface, which must
 /// draw afterwards too.
@@ -58,50 +52,42 @@ Ending DrawPicture(const std::wstring& path) {
 }
 
 Ending DrawPictureInAProcess(const std::wstring& path, std::string& why) {
-    const pid_t process = fork();
-    if (process == 0) {
-        const rlimit noCore = {0, 0};
-        setrlimit(RLIMIT_CORE, &noCore);
+    const auto draw = [&path](const host::Progress&) {
         std::signal(SIGSEGV, SIG_DFL);
-        alarm(kSecondsAllowed);
         // Decoders talk.
         if (std::freopen("/dev/null", "w", stderr) == nullptr) {
-            _exit(127);
+            throw std::runtime_error("nothing to be quiet with");
         }
-        _exit(static_cast<int>(DrawPicture(path)));
-    }
-    int status = 0;
-    waitpid(process, &status, 0);
-    if (WIFSIGNALED(status)) {
-        why = strsignal(WTERMSIG(status));
+        return std::string(1, static_cast<char>(DrawPicture(path)));
+    };
+    try {
+        const std::string ending =
+            host::InSeparateProcess("drawing", draw, {}, {kSecondsAllowed});
+        return static_cast<Ending>(ending.at(0));
+    } catch (const std::runtime_error& error) {
+        why = error.what();
         return Ending::Died;
     }
-    if (WEXITSTATUS(status) > static_cast<int>(Ending::SurfaceLost)) {
-        why = "status " + std::to_string(WEXITSTATUS(status));
-        return Ending::Died;
-    }
-    return static_cast<Ending>(WEXITSTATUS(status));
 }
 
 /// Images in every format that a picture is read from.
 class HostileImages : public ::testing::Test {
 protected:
     HostileImages() {
-        images.AddScene("truecolour.png", {"-of", "PNG"});
-        images.AddClasses("palette.png", {"-of", "PNG"});
-        images.AddElevation("sixteen_bits.png", {"-of", "PNG", "-ot", "UInt16"});
-        images.AddScene("baseline.jpg", {"-of", "JPEG"});
-        images.AddScene("progressive.jpg", {"-of", "JPEG", "-co", "PROGRESSIVE=YES"});
-        images.AddElevation("grey.jpg", {"-of", "JPEG", "-ot", "Byte"});
-        images.AddClasses("plain.gif", {"-of", "GIF"});
-        images.AddClasses("interlaced.gif", {"-of", "GIF", "-co", "INTERLACING=YES"});
-        images.AddScene("lzw.tif", {"-co", "COMPRESS=LZW", "-co", "TILED=YES"});
-        images.AddScene("planes.tif",
-                        {"-co", "COMPRESS=PACKBITS", "-co", "INTERLEAVE=BAND"});
-        images.AddScene("jpeg.tif", {"-co", "COMPRESS=JPEG", "-co", "PHOTOMETRIC=YCBCR"});
-        images.AddClasses("palette.tif", {"-co", "COMPRESS=DEFLATE"});
-        images.AddScene("truecolour.bmp", {"-of", "BMP"});
-        images.AddClasses("palette.bmp", {"-of", "BMP"});
+        images.AddScene("truecolour.png", "-of PNG");
+        images.AddClasses("palette.png", "-of PNG");
+        images.AddElevation("sixteen_bits.png", "-of PNG -ot UInt16");
+        images.AddScene("baseline.jpg", "-of JPEG");
+        images.AddScene("progressive.jpg", "-of JPEG -co PROGRESSIVE=YES");
+        images.AddElevation("grey.jpg", "-of JPEG -ot Byte");
+        images.AddClasses("plain.gif", "-of GIF");
+        images.AddClasses("interlaced.gif", "-of GIF -co INTERLACING=YES");
+        images.AddScene("lzw.tif", "-co COMPRESS=LZW -co TILED=YES");
+        images.AddScene("planes.tif", "-co COMPRESS=PACKBITS -co INTERLEAVE=BAND");
+        images.AddScene("jpeg.tif", "-co COMPRESS=JPEG -co PHOTOMETRIC=YCBCR");
+        images.AddClasses("palette.tif", "-co COMPRESS=DEFLATE");
+        images.AddScene("truecolour.bmp", "-of BMP");
+        images.AddClasses("palette.bmp", "-of BMP");
     }
 
     /// The n-th damaged image; the same each time.

@@ -5,7 +5,6 @@
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
-#include <fstream>
 #include <map>
 #include <random>
 #include <string>
@@ -84,16 +83,15 @@ Ending Draw(const ScratchFolder& out, const std::string& raster, std::string& sa
 class HostileRasters : public ::testing::Test {
 protected:
     HostileRasters() {
-        seeds.AddScene("scene.tif", {"-co", "TILED=YES", "-co", "COMPRESS=LZW"});
-        seeds.AddElevation("elevation.tif",
-                           {"-co", "COMPRESS=DEFLATE", "-ot", "Float32"});
+        seeds.AddScene("scene.tif", "-co TILED=YES -co COMPRESS=LZW");
+        seeds.AddElevation("elevation.tif", "-co COMPRESS=DEFLATE -ot Float32");
         seeds.AddClasses("classes.tif", {});
-        seeds.AddScene("scene.png", {"-of", "PNG"});
-        seeds.AddScene("scene.jpg", {"-of", "JPEG"});
-        seeds.AddScene("scene.bmp", {"-of", "BMP"});
-        seeds.AddClasses("classes.img", {"-of", "HFA"});
-        seeds.AddElevation("elevation.asc", {"-of", "AAIGrid", "-outsize", "20", "15"});
-        seeds.Add(seeds.Path("classes.tif"), "classes.vrt", {"-of", "VRT"});
+        seeds.AddScene("scene.png", "-of PNG");
+        seeds.AddScene("scene.jpg", "-of JPEG");
+        seeds.AddScene("scene.bmp", "-of BMP");
+        seeds.AddClasses("classes.img", "-of HFA");
+        seeds.AddElevation("elevation.asc", "-of AAIGrid -outsize 20 15");
+        seeds.Add(seeds.Path("classes.tif"), "classes.vrt", "-of VRT");
     }
 
     host_tests::SeedRasters seeds;

@@ -22,7 +22,7 @@ using host_tests::ContentsOf;
 using host_tests::Result;
 using host_tests::RunningMapPage;
 
-const host_tests::Arguments kDraw = {"scene.tif", "-o", "page.png", "--title", "Scene"};
+const host_tests::Arguments kDraw = "scene.tif -o page.png --title Scene";
 
 /// How often it is killed: a few times with the other tests, more when asked.
 int HowOften() {

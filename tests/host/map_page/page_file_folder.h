@@ -14,7 +14,7 @@
 namespace host_tests {
 
 /// A folder with data/scene.tif, data/classes.tif on the same ground, and logo.png.
-class PageFileTest : public ::testing::Test {
+class PageFileTest : public MapPageTest {
 protected:
     PageFileTest() {
         std::filesystem::create_directory(folder.Path("data"));
@@ -31,10 +31,6 @@ protected:
         const std::string path = folder.Path("logo.png");
         logo.Save(std::wstring(path.begin(), path.end()).c_str(), &kPngEncoder);
     }
-
-    Result Run(const Arguments& arguments) const { return RunMapPage(folder, arguments); }
-
-    ScratchFolder folder;
 };
 
 }  // namespace host_tests

@@ -1,6 +1,5 @@
 #include "map_page/run_map_page.h"
 
-#include <gtest/gtest.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -9,8 +8,19 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <sstream>
 
 namespace host_tests {
+
+Arguments::Arguments(const char* call) {
+    std::istringstream words(call);
+    assign(std::istream_iterator<std::string>(words), {});
+}
+
+Arguments operator+(Arguments first, const Arguments& second) {
+    first.insert(first.end(), second.begin(), second.end());
+    return first;
+}
 
 std::string ContentsOf(const std::string& path) {
     std::ifstream file(path, std::ios::binary);
@@ -85,6 +95,30 @@ std::string Said(const std::string& command) {
     }
     EXPECT_EQ(pclose(pipe), 0) << command;
     return text;
+}
+
+Result MapPageTest::RunWell(const Arguments& arguments) const {
+    Result result = Run(arguments);
+    EXPECT_EQ(result.status, 0) << ::testing::PrintToString(arguments) << result.err;
+    return result;
+}
+
+void MapPageTest::ExpectError(int status, const std::string& line,
+                              const Arguments& arguments) const {
+    SCOPED_TRACE(::testing::PrintToString(arguments));
+    const std::vector<std::string> names = folder.Names();
+    const std::string page = Contents("page.png");
+    const Result result = Run(arguments);
+    EXPECT_EQ(result.status, status);
+    EXPECT_EQ(result.out, "");
+    const bool isWhole = line.back() != '*';
+    const std::string expected =
+        "map_page: " + (isWhole ? line + "\n" : line.substr(0, line.size() - 1));
+    EXPECT_EQ(isWhole ? result.err : result.err.substr(0, expected.size()), expected);
+    EXPECT_GT(result.err.size(), isWhole ? 0 : expected.size() + 1) << "and why";
+    EXPECT_EQ(result.err.find('\n'), result.err.size() - 1) << result.err;
+    EXPECT_TRUE(Contents("page.png") == page);
+    EXPECT_EQ(folder.Names(), names);
 }
 
 }  // namespace host_tests

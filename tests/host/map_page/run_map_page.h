@@ -1,5 +1,6 @@
 #pragma once
 
+#include <gtest/gtest.h>
 #include <sys/types.h>
 
 #include <functional>
@@ -10,7 +11,12 @@
 
 namespace host_tests {
 
-using Arguments = std::vector<std::string>;
+/// The arguments of a call; from one text, what stands between its blanks.
+struct Arguments : std::vector<std::string> {
+    using vector::vector;
+    Arguments(const char* call);
+};
+Arguments operator+(Arguments first, const Arguments& second);
 
 struct Result {
     int status = -1;  ///< 128 and the signal when it was killed
@@ -50,5 +56,29 @@ std::string Said(const std::string& command);
 inline Result RunMapPage(const ScratchFolder& folder, const Arguments& arguments) {
     return RunningMapPage(folder, arguments).Wait();
 }
+
+/// A folder in which map_page runs, with files by their names there.
+class MapPageTest : public ::testing::Test {
+protected:
+    Result Run(const Arguments& arguments) const { return RunMapPage(folder, arguments); }
+
+    /// Fails unless it ends well.
+    Result RunWell(const Arguments& arguments) const;
+
+    /// Fails unless it ends so, says nothing but that line, and leaves the folder and its
+    /// page.png as they are.
+    /// @param line after "map_page: "; a "*" at its end stands for anything
+    void ExpectError(int status, const std::string& line,
+                     const Arguments& arguments) const;
+
+    std::string Contents(const std::string& name) const {
+        return ContentsOf(folder.Path(name));
+    }
+    void Write(const std::string& name, const std::string& contents) const {
+        WriteFile(folder.Path(name), contents);
+    }
+
+    ScratchFolder folder;
+};
 
 }  // namespace host_tests

@@ -5,15 +5,6 @@
 #include <gtest/gtest.h>
 
 namespace host_tests {
-namespace {
-
-std::vector<std::string> Small(const std::vector<std::string>& options) {
-    std::vector<std::string> all = {"-outsize", "60", "45"};
-    all.insert(all.end(), options.begin(), options.end());
-    return all;
-}
-
-}  // namespace
 
 SeedRasters::SeedRasters() {
     GDALAllRegister();
@@ -21,7 +12,7 @@ SeedRasters::SeedRasters() {
 }
 
 void SeedRasters::Add(const std::string& from, const std::string& name,
-                      const std::vector<std::string>& options) {
+                      const Arguments& options) {
     std::vector<char*> arguments;
     std::vector<std::string> kept = options;
     for (std::string& option : kept) {
@@ -38,19 +29,16 @@ void SeedRasters::Add(const std::string& from, const std::string& name,
     m_names.push_back(name);
 }
 
-void SeedRasters::AddScene(const std::string& name,
-                           const std::vector<std::string>& options) {
-    Add(m_samples.scene, name, Small(options));
+void SeedRasters::AddScene(const std::string& name, const Arguments& options) {
+    Add(m_samples.scene, name, "-outsize 60 45" + options);
 }
 
-void SeedRasters::AddElevation(const std::string& name,
-                               const std::vector<std::string>& options) {
-    Add(m_samples.elevation, name, Small(options));
+void SeedRasters::AddElevation(const std::string& name, const Arguments& options) {
+    Add(m_samples.elevation, name, "-outsize 60 45" + options);
 }
 
-void SeedRasters::AddClasses(const std::string& name,
-                             const std::vector<std::string>& options) {
-    Add(m_samples.landCover, name, Small(options));
+void SeedRasters::AddClasses(const std::string& name, const Arguments& options) {
+    Add(m_samples.landCover, name, "-outsize 60 45" + options);
 }
 
 }  // namespace host_tests

@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "map_page/run_map_page.h"
 #include "raster_data/sample_rasters.h"
 #include "scratch_folder.h"
 
@@ -14,14 +15,13 @@ public:
     SeedRasters();
 
     /// Converts a raster, with gdal_translate's options.
-    void Add(const std::string& from, const std::string& name,
-             const std::vector<std::string>& options);
+    void Add(const std::string& from, const std::string& name, const Arguments& options);
 
     /// Of 60 x 45 pixels unless the options say otherwise: three bands, a band of
     /// heights, and a band of classes with their colours.
-    void AddScene(const std::string& name, const std::vector<std::string>& options);
-    void AddElevation(const std::string& name, const std::vector<std::string>& options);
-    void AddClasses(const std::string& name, const std::vector<std::string>& options);
+    void AddScene(const std::string& name, const Arguments& options);
+    void AddElevation(const std::string& name, const Arguments& options);
+    void AddClasses(const std::string& name, const Arguments& options);
 
     /// Those that were added, in that order.
     const std::vector<std::string>& Names() const { return m_names; }

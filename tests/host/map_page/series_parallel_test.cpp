@@ -54,14 +54,11 @@ constexpr const char* kLoopbackSsh =
 class SeriesOverParallel : public host_tests::PageFileTest {
 protected:
     SeriesOverParallel() {
-        EXPECT_EQ(Run({"data/scene.tif", "--size", "A6", "--title", "Sheet", "--save",
-                       "page.json"})
-                      .status,
-                  0);
+        RunWell("data/scene.tif --size A6 --title Sheet --save page.json");
         for (const char* name : {"sheets", "whole", "home"}) {
             fs::create_directory(folder.Path(name));
         }
-        WriteFile(folder.Path("home/ssh"), kLoopbackSsh);
+        Write("home/ssh", kLoopbackSsh);
         fs::permissions(folder.Path("home/ssh"), fs::perms::owner_all);
     }
 
@@ -75,24 +72,22 @@ protected:
     }
 
     Result RunInShell(const std::string& command) const {
-        WriteFile(folder.Path("command.sh"),
-                  "cd '" + folder.Path() + "' || exit 99\nexport HOME='" +
-                      folder.Path("home") + "' PARALLEL_SSH='" + folder.Path("home/ssh") +
-                      "'\nPATH='" + fs::path(MAP_PAGE_PROGRAM).parent_path().string() +
-                      "':\"$PATH\"\n" + command);
+        Write("command.sh", "cd '" + folder.Path() + "' || exit 99\nexport HOME='" +
+                                folder.Path("home") + "' PARALLEL_SSH='" +
+                                folder.Path("home/ssh") + "'\nPATH='" +
+                                fs::path(MAP_PAGE_PROGRAM).parent_path().string() +
+                                "':\"$PATH\"\n" + command);
         const int status =
             std::system(("sh '" + folder.Path("command.sh") + "' >'" +
                          folder.Path("out") + "' 2>'" + folder.Path("err") + "'")
                             .c_str());
-        return {WIFEXITED(status) ? WEXITSTATUS(status) : -1,
-                ContentsOf(folder.Path("out")), ContentsOf(folder.Path("err"))};
+        return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, Contents("out"),
+                Contents("err")};
     }
 
     /// Draws the series undivided and compares each page.
     void ExpectSheetsOfTheWholeSeries(std::size_t count) const {
-        ASSERT_EQ(
-            Run({"page.json", "--series", "sheets.csv", "-o", "whole/{name}.png"}).status,
-            0);
+        RunWell("page.json --series sheets.csv -o whole/{name}.png");
         std::size_t drawn = 0;
         for (const auto& entry : fs::directory_iterator(folder.Path("whole"))) {
             const std::string name = entry.path().filename().string();
@@ -123,7 +118,7 @@ TEST_F(SeriesOverParallel, DrawsTheSamePagesOnSeveralMachines) {
     const Result result = RunInShell(commands[1]);
     EXPECT_EQ(result.status, 0) << result.err;
     ExpectSheetsOfTheWholeSeries(23);
-    const std::string machines = ContentsOf(folder.Path("home/machines"));
+    const std::string machines = Contents("home/machines");
     EXPECT_THAT(machines, ::testing::HasSubstr("north\n"));
     EXPECT_THAT(machines, ::testing::HasSubstr("south\n"));
 }

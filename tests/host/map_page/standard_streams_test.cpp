@@ -8,7 +8,6 @@
 #include <csignal>
 #include <filesystem>
 #include <string>
-#include <vector>
 
 #include "map_page/page_file_folder.h"
 
@@ -25,23 +24,21 @@ using StandardStreams = host_tests::PageFileTest;
 TEST_F(StandardStreams, MayBeClosed) {
     for (const char* name : {"page.png", "page.jpg", "page.tif", "page.ps"}) {
         const Arguments draw = {"data/scene.tif", "-o", name, "--dpi", "50"};
-        ASSERT_EQ(Run(draw).status, 0);
-        const std::string page = ContentsOf(folder.Path(name));
+        RunWell(draw);
+        const std::string page = Contents(name);
         for (const int closed : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
             fs::remove(folder.Path(name));
             const RunningMapPage running(folder, draw, [closed] { close(closed); });
             EXPECT_EQ(running.Wait().status, 0);
-            EXPECT_TRUE(ContentsOf(folder.Path(name)) == page) << name << closed;
+            EXPECT_TRUE(Contents(name) == page) << name << closed;
         }
     }
 }
 
 TEST_F(StandardStreams, AreNotLostInSilence) {
-    const Arguments calls[] = {{"--schema"},
-                               {"--help"},
-                               {"--version"},
-                               {"data/scene.tif", "-o", "page.png"},
-                               {"data/scene.tif", "--save", "page.json"}};
+    const Arguments calls[] = {"--schema", "--help", "--version",
+                               "data/scene.tif -o page.png",
+                               "data/scene.tif --save page.json"};
     for (const Arguments& call : calls) {
         const RunningMapPage running(
             folder, call, [] { dup2(open("/dev/full", O_WRONLY), STDOUT_FILENO); });
@@ -63,10 +60,10 @@ void BreakPipe(int stream) {
 }
 
 TEST_F(StandardStreams, LeaveNoTemporaryFileWhenAPipeBreaks) {
-    const Arguments plain = {"data/scene.tif", "data/plain.tif", "-o", "page.png"};
+    const Arguments plain = "data/scene.tif data/plain.tif -o page.png";
     WriteRaster(folder.Path("data/plain.tif"), MadeRaster());
-    ASSERT_EQ(Run(plain).status, 0);
-    const std::string page = ContentsOf(folder.Path("page.png"));
+    RunWell(plain);
+    const std::string page = Contents("page.png");
     for (const int stream : {STDOUT_FILENO, STDERR_FILENO}) {
         fs::remove(folder.Path("page.png"));
         const RunningMapPage running(folder, plain, [stream] { BreakPipe(stream); });
@@ -75,7 +72,7 @@ TEST_F(StandardStreams, LeaveNoTemporaryFileWhenAPipeBreaks) {
             EXPECT_TRUE(name == "data" || name == "logo.png" || name == "page.png")
                 << name;
         }
-        const std::string left = ContentsOf(folder.Path("page.png"));
+        const std::string left = Contents("page.png");
         EXPECT_TRUE(left.empty() || left == page);
     }
 }
@@ -93,8 +90,7 @@ TEST_F(StandardStreams, ShowNamesOnOneLine) {
                   "\" is neither on, off, #RRGGBB, #RRGGBBAA nor the name of a colour\n");
     WriteRaster(folder.Path(name + ".tif"), MadeRaster());
     const Result drawn =
-        Run({"data/scene.tif", name + ".tif", "-o", name + ".png", "--dpi", "50"});
-    EXPECT_EQ(drawn.status, 0);
+        RunWell({"data/scene.tif", name + ".tif", "-o", name + ".png", "--dpi", "50"});
     EXPECT_EQ(drawn.err, "map_page: warning: " + shown +
                              ".tif: left off the map: it has no georeference\n");
     EXPECT_EQ(drawn.out.find(shown + ".png: 585 x 413 pixels, "), 0u) << drawn.out;
@@ -106,10 +102,9 @@ TEST_F(StandardStreams, ShowNamesOnOneLine) {
 }
 
 TEST_F(StandardStreams, ShowNamesOfASeriesOnOneLine) {
-    ASSERT_EQ(Run({"data/scene.tif", "--save", "page.json"}).status, 0);
-    host_tests::WriteFile(folder.Path("list.csv"),
-                          "name,rasters\nb,\"no\nne\x1B.tif\"\n");
-    const Result result = Run({"page.json", "--series", "list.csv", "-o", "{name}.png"});
+    RunWell("data/scene.tif --save page.json");
+    Write("list.csv", "name,rasters\nb,\"no\nne\x1B.tif\"\n");
+    const Result result = Run("page.json --series list.csv -o {name}.png");
     EXPECT_EQ(result.status, 1);
     EXPECT_NE(result.err.find("no\\nne\\x1B.tif: no such file\n"), std::string::npos)
         << result.err;

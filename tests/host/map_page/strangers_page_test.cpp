@@ -243,8 +243,7 @@ protected:
                       element + "]}");
     }
     Arguments Draw(const Arguments& more = {}) const {
-        Arguments arguments = {"maps/page.json", "-o", "page.png", "--dpi", "20",
-                               "--limit-time",   "20"};
+        Arguments arguments = "maps/page.json -o page.png --dpi 20 --limit-time 20";
         arguments.insert(arguments.end(), more.begin(), more.end());
         return arguments;
     }
@@ -305,7 +304,7 @@ TEST_P(StrangersPagePart, ReachesNobodyAndReadsNothingElsewhere) {
         WritePage(R"({"type": "map"})");
         WriteFile(folder.Path("maps/list.csv"),
                   "name,rasters\nx,\"" + QuotedInList(names[i]) + "\"\n");
-        Arguments series = Draw({"--series", "maps/list.csv"});
+        Arguments series = Draw("--series maps/list.csv");
         series[2] = "{name}.png";
         ExpectRefused(series, names[i]);
         EXPECT_FALSE(server.WasCalled()) << names[i];
@@ -326,18 +325,17 @@ TEST_F(StrangersPage, DoesSoWhereTheCallerAllowsIt) {
                             R"("rasters": [)";
     const WatchedFolder other(folder.Path("other"));
     WritePage(map + "\"link.tif\"]}");
-    EXPECT_EQ(RunMapPage(folder, Draw({"--allow-outside", "other"})).status, 0);
+    EXPECT_EQ(RunMapPage(folder, Draw("--allow-outside other")).status, 0);
     EXPECT_TRUE(other.WasTouched());
     WritePage(map + "\"file.vrt\"]}");
-    EXPECT_EQ(RunMapPage(folder, Draw({"--allow-outside", "other/canary.tif"})).status,
-              0);
+    EXPECT_EQ(RunMapPage(folder, Draw("--allow-outside other/canary.tif")).status, 0);
     EXPECT_TRUE(other.WasTouched());
     WritePage(map + "\"raw.vrt\"]}");
-    ExpectRefused(Draw({"--allow-outside", "other"}), "raw.vrt");
-    EXPECT_EQ(RunMapPage(folder, Draw({"--allow-all"})).status, 0);
+    ExpectRefused(Draw("--allow-outside other"), "raw.vrt");
+    EXPECT_EQ(RunMapPage(folder, Draw("--allow-all")).status, 0);
     EXPECT_TRUE(other.WasTouched());
 
-    Arguments briefly = Draw({"--allow-remote"});
+    Arguments briefly = Draw("--allow-remote");
     briefly[6] = "1";
     WritePage(map + Quoted("/vsicurl/" + Url()) + "]}");
     EXPECT_EQ(RunMapPage(folder, briefly).status, 1);
@@ -348,7 +346,7 @@ TEST_F(StrangersPage, DoesSoWhereTheCallerAllowsIt) {
     EXPECT_FALSE(server.WasCalled());
     // Services do not open files elsewhere either.
     WritePage(map + "\"link.tif\"]}");
-    ExpectRefused(Draw({"--allow-remote"}), "link.tif");
+    ExpectRefused(Draw("--allow-remote"), "link.tif");
     EXPECT_FALSE(other.WasTouched());
 }
 

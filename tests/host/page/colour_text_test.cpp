@@ -10,17 +10,15 @@ using host::ColourFromText;
 using host::ColourText;
 using host::NamedColour;
 
-struct Row {
-    Gdiplus::ARGB colour;
-    std::string text;
-};
-
 TEST(ColourText, HasTheAlphaLastUnlessItIsOpaque) {
-    const Row rows[] = {
+    const struct {
+        Gdiplus::ARGB colour;
+        std::string text;
+    } rows[] = {
         {0xFF000000, "#000000"},   {0xFF3C4650, "#3C4650"},   {0x80FF0000, "#FF000080"},
         {0x44112233, "#11223344"}, {0x00FFFFFF, "#FFFFFF00"}, {0xFEFFFFFF, "#FFFFFFFE"},
     };
-    for (const Row& row : rows) {
+    for (const auto& row : rows) {
         EXPECT_EQ(ColourText(row.colour), row.text);
         EXPECT_EQ(ColourFromText(row.text), row.colour) << row.text;
     }

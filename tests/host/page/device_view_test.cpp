@@ -19,14 +19,12 @@ TEST(DeviceView, ScalesByTheResolution) {
     EXPECT_DOUBLE_EQ(DeviceView(200.0, 300.0).Scale(), 3.125);
 }
 
-struct ExtentRow {
-    double dpi;
-    CBoundingBox extent;  // of a page 200 units high
-    CRect rect;
-};
-
 TEST(DeviceView, TurnsExtentsUpsideDown) {
-    const ExtentRow rows[] = {
+    const struct {
+        double dpi;
+        CBoundingBox extent;  // of a page 200 units high
+        CRect rect;
+    } rows[] = {
         {96.0, {0.0, 0.0, 300.0, 200.0}, {0, 0, 300, 200}},
         {96.0, {10.0, 20.0, 50.0, 100.0}, {10, 100, 50, 180}},
         // 1.5625 pixels a unit: 15.625, 78.125; 100 x 1.5625 = 156.25, 180 x = 281.25
@@ -37,7 +35,7 @@ TEST(DeviceView, TurnsExtentsUpsideDown) {
         // Beyond the sheet on every side: -0.5 goes up to 0, -1.5 to -1.
         {96.0, {-0.5, -10.0, 310.0, 201.5}, {0, -1, 310, 210}},
     };
-    for (const ExtentRow& row : rows) {
+    for (const auto& row : rows) {
         const CRect rect = DeviceView(200.0, row.dpi).ToDevice(row.extent);
         EXPECT_EQ(rect.left, row.rect.left) << row.dpi;
         EXPECT_EQ(rect.top, row.rect.top) << row.dpi;
@@ -74,21 +72,19 @@ TEST(DeviceView, FindsTheMiddleOfARectangle) {
     EXPECT_EQ(host::Centre(CRect(10, 20, 31, 61)).y, 40);
 }
 
-struct PaperRow {
-    const char* text;
-    double widthMillimetres;
-    double heightMillimetres;
-};
-
 TEST(Paper, IsReadByNameOrByItsSides) {
-    const PaperRow rows[] = {
+    const struct {
+        const char* text;
+        double widthMillimetres;
+        double heightMillimetres;
+    } rows[] = {
         {"A4", 297.0, 210.0},      {"a3", 420.0, 297.0},
         {"A0", 1189.0, 841.0},     {"b5", 250.0, 176.0},
         {"Letter", 279.4, 215.9},  {"LEGAL", 355.6, 215.9},
         {"tabloid", 431.8, 279.4}, {"100x50", 100.0, 50.0},
         {"20x5000", 20.0, 5000.0}, {"100.5X50.25", 100.5, 50.25},
     };
-    for (const PaperRow& row : rows) {
+    for (const auto& row : rows) {
         host::PaperSize paper;
         ASSERT_TRUE(host::ParsePaperSize(row.text, paper)) << row.text;
         EXPECT_DOUBLE_EQ(paper.width, row.widthMillimetres * 96.0 / 25.4) << row.text;
@@ -107,15 +103,13 @@ TEST(Paper, RefusesWhatIsNone) {
     }
 }
 
-struct PixelRow {
-    const char* paper;
-    double dpi;
-    int width;
-    int height;
-};
-
 TEST(Paper, HasWholePixels) {
-    const PixelRow rows[] = {
+    const struct {
+        const char* paper;
+        double dpi;
+        int width;
+        int height;
+    } rows[] = {
         {"A4", 96.0, 1123, 794},    // 1122.5 x 793.7
         {"A4", 150.0, 1754, 1240},  // 1753.9 x 1240.2
         {"A4", 300.0, 3508, 2480},  // 3507.9 x 2480.3
@@ -123,7 +117,7 @@ TEST(Paper, HasWholePixels) {
         {"20x20", 1.0, 1, 1},  // 0.79
         {"20x20", 0.1, 1, 1},  // never none
     };
-    for (const PixelRow& row : rows) {
+    for (const auto& row : rows) {
         host::PaperSize paper;
         ASSERT_TRUE(host::ParsePaperSize(row.paper, paper));
         const Gdiplus::Size size =

@@ -21,7 +21,6 @@
 
 namespace {
 
-using host::DistanceUnit;
 using host::Language;
 
 class InLanguage : public ::testing::TestWithParam<std::size_t> {

@@ -3,8 +3,6 @@
 #include <gtest/gtest.h>
 #include <ogr_spatialref.h>
 
-#include <vector>
-
 #include "raster_data/make_raster.h"
 
 namespace {
@@ -42,14 +40,10 @@ void WriteRaster(const std::string& path, const MadeRaster& made) {
         raster.bands[0].back() = kHole;
         raster.noData = kHole;
     }
-    raster.describe = [&made](GDALDataset& dataset) {
-        GDALColorTable colours;
-        const GDALColorEntry body = ColorOf(made.argb);
-        const GDALColorEntry corner = ColorOf(made.cornerArgb);
-        colours.SetColorEntry(kBody, &body);
-        colours.SetColorEntry(kCorner, &corner);
-        dataset.GetRasterBand(1)->SetColorTable(&colours);
-        Place(dataset, made.transform, made.projection);
+    raster.describe = [&](GDALRasterBand& band) {
+        raster_test::SetPalette(
+            band, {{kBody, ColorOf(made.argb)}, {kCorner, ColorOf(made.cornerArgb)}});
+        Place(*band.GetDataset(), made.transform, made.projection);
     };
     raster_test::Write(path, raster);
 }
@@ -65,8 +59,9 @@ void WriteScene(const std::string& path, int width, int height) {
             raster.bands[2].push_back((x + y) % 200);
         }
     }
-    raster.describe = [](GDALDataset& dataset) {
-        Place(dataset, {500000.0, 30.0, 0.0, 9000000.0, 0.0, -30.0}, "EPSG:32725");
+    raster.describe = [](GDALRasterBand& band) {
+        Place(*band.GetDataset(), {500000.0, 30.0, 0.0, 9000000.0, 0.0, -30.0},
+              "EPSG:32725");
     };
     raster_test::Write(path, raster);
 }

@@ -127,25 +127,23 @@ TEST(Page, DrawsItsItemsInOrder) {
         drawn));
 }
 
-struct GapRow {
-    double dpi;
-    float borderWidth;
-    int borderGap;
-    int fillGap;
-    float widthDrawn;
-    int borderGapDrawn;
-    int fillGapDrawn;
-};
-
 TEST(Page, ScalesDecorationsWithTheResolution) {
-    const GapRow rows[] = {
+    const struct {
+        double dpi;
+        float borderWidth;
+        int borderGap;
+        int fillGap;
+        float widthDrawn;
+        int borderGapDrawn;
+        int fillGapDrawn;
+    } rows[] = {
         {96.0, 1.0f, 3, 2, 1.0f, 3, 2},
         {150.0, 1.0f, 3, 2, 2.0f, 5, 3},   // 1.56, 4.69, 3.13
         {300.0, 1.0f, 3, 2, 3.0f, 9, 6},   // 3.13, 9.38, 6.25
         {96.0, 0.2f, 0, -1, 1.0f, 0, -1},  // a line never vanishes
         {48.0, 0.6f, 1, -4, 1.0f, 1, -2},  // 0.3; 0.5 goes up
     };
-    for (const GapRow& row : rows) {
+    for (const auto& row : rows) {
         const double scale = row.dpi / 96.0;
         const auto pixels = [scale](double units) {
             return static_cast<int>(units * scale + 0.5);
@@ -269,13 +267,11 @@ TEST(Page, DrawsTheBorderOverTheMapAndTheShadowUnderIt) {
     EXPECT_EQ(at(50, 50), Gdiplus::Color(200, 30, 30).GetValue());
 }
 
-struct SmoothingRow {
-    MapSurroundType kind;
-    Gdiplus::SmoothingMode smoothing;
-};
-
 TEST(Page, SmoothsEachKindAsItLooksBest) {
-    const SmoothingRow rows[] = {
+    const struct {
+        MapSurroundType kind;
+        Gdiplus::SmoothingMode smoothing;
+    } rows[] = {
         {SurroundNorthArrow, Gdiplus::SmoothingModeAntiAlias},
         {SurroundScaleBar, Gdiplus::SmoothingModeDefault},
         {SurroundLegend, Gdiplus::SmoothingModeDefault},
@@ -289,7 +285,7 @@ TEST(Page, SmoothsEachKindAsItLooksBest) {
     host::Page page(100.0, 100.0);
     std::vector<bool> smooth;
     std::vector<Gdiplus::TextRenderingHint> hints;
-    for (const SmoothingRow& row : rows) {
+    for (const auto& row : rows) {
         page.Add(FrameOf(new Probe(row.kind,
                                    [&](Gdiplus::Graphics& graphics, CPoint, double) {
                                        smooth.push_back(
@@ -324,19 +320,17 @@ TEST(Page, GivesEveryItemACleanTransform) {
     EXPECT_EQ(found, (std::vector<float>{1.0f, 0.0f, 0.0f, 1.0f, 0.0f, 0.0f}));
 }
 
-struct InkRow {
-    double dpi;
-    float angle;
-    const wchar_t* text;
-};
-
 TEST(Page, CentresTheInkOfATitle) {
-    const InkRow rows[] = {
+    const struct {
+        double dpi;
+        float angle;
+        const wchar_t* text;
+    } rows[] = {
         {96.0, 0.0f, L"Typographic"},  {150.0, 0.0f, L"Typographic"},
         {300.0, 0.0f, L"Typographic"}, {150.0, 90.0f, L"Typographic"},
         {150.0, 180.0f, L"acme"},      {96.0, 0.0f, L"\u5965\u6797\u8fbe"},
     };
-    for (const InkRow& row : rows) {
+    for (const auto& row : rows) {
         auto* const title = new CMapTitle;
         title->SetFontValue(row.text);
         title->SetFontStyle(L"Arial");

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cmath>
 #include <memory>
 
 #include "page/catalogue.h"
@@ -95,17 +94,15 @@ TEST(NorthArrowFrame, LooksTheSameAtEveryResolution) {
 }
 
 TEST(LegendFrame, ExplainsAPaletteThatIsARampByIt) {
-    const ScratchFolder folder;
     raster_test::Raster values{100, {raster_test::Ramp(0, 99)}};
-    values.describe = [](GDALDataset& dataset) {
-        GDALColorTable palette;
+    values.describe = [](GDALRasterBand& band) {
+        raster_test::Palette palette;
         for (short value = 0; value < 100; ++value) {
-            const GDALColorEntry entry{value, 1, 2, 255};
-            palette.SetColorEntry(value, &entry);
+            palette.push_back({value, {value, 1, 2, 255}});
         }
-        dataset.GetRasterBand(1)->SetColorTable(&palette);
+        raster_test::SetPalette(band, palette);
     };
-    const auto raster = raster_test::WriteAndOpen(folder, values);
+    const auto raster = raster_test::WriteAndOpen(values);
     const auto rampOf = [&](bool explains, bool isShown) {
         host::LegendFrame frame(std::make_unique<CMapLegend>());
         frame.SetExplainsRamps(explains);

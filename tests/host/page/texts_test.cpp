@@ -20,6 +20,7 @@ using host::PageItem;
 using host_tests::MakeVisible;
 using host_tests::PixelsOf;
 using recording::Recording;
+using ::testing::ThrowsMessage;
 
 /// What is within the n-th pair of quotes of a line.
 std::string Quoted(const std::string& line, int n) {
@@ -137,25 +138,20 @@ TEST_F(TextsOfAPage, OfALegendHaveItsNamesAndAreToldWhereTheyAreCut) {
 TEST_F(TextsOfAPage, AreInFontsThatAreInstalled) {
     PageItem title = Item("title");
     host::ElementOf<CMapTitle>(title)->SetFontStyle(L"No Such");
-    try {
-        host::CheckFontsOf(PageOf(std::move(title)));
-        FAIL();
-    } catch (const host::PageError& error) {
-        EXPECT_STREQ(error.what(), "title: no font family \"No Such\" is installed");
-    }
+    EXPECT_THAT(
+        [&] { host::CheckFontsOf(PageOf(std::move(title))); },
+        ThrowsMessage<host::PageError>("title: no font family \"No Such\" is installed"));
     EXPECT_NO_THROW(host::CheckFontsOf(PageOf(Item("legend"))));
 }
 
-struct FailureRow {
-    const char* type;
-    const char* function;
-    Gdiplus::Status status;
-    const char* told;
-};
-
 // Only the last failure of a surface is kept; it is asked for after each item.
 TEST_F(TextsOfAPage, AFailedCallFailsThePageByName) {
-    const FailureRow rows[] = {
+    const struct {
+        const char* type;
+        const char* function;
+        Gdiplus::Status status;
+        const char* told;
+    } rows[] = {
         {"title", "GdipDrawString", Gdiplus::GenericError,
          "title: cannot be drawn: status 1"},
         {"title", "GdipCreateFont ", Gdiplus::OutOfMemory,
@@ -173,46 +169,34 @@ TEST_F(TextsOfAPage, AFailedCallFailsThePageByName) {
         {"map", "GdipResetWorld", Gdiplus::GenericError,
          "page: cannot be drawn: status 1"},
     };
-    for (const FailureRow& row : rows) {
+    for (const auto& row : rows) {
         host::Page page = PageOf(Item(row.type));
         host::FrameOf(page.Items()[0]).DrawBorder = true;
         page.Items().push_back(Item("map"));  // which is drawn well
-        try {
-            Recording recording;
-            recording.FailCallsOf(row.function, row.status);
-            PixelsOf(page);
-            ADD_FAILURE() << row.told;
-        } catch (const host::NamedError& error) {
-            EXPECT_STREQ(error.what(), row.told);
-        }
+        Recording recording;
+        recording.FailCallsOf(row.function, row.status);
+        EXPECT_THAT([&] { PixelsOf(page); }, ThrowsMessage<host::NamedError>(row.told));
     }
 }
 
-struct SizeRow {
-    const char* type;
-    int size;
-    const char* told;
-};
-
 TEST_F(TextsOfAPage, AreOfASizeThatFontsHave) {
-    const SizeRow rows[] = {
+    const struct {
+        const char* type;
+        int size;
+        const char* told;
+    } rows[] = {
         {"title", 65'536,
          "title: is 65536 pixels high, and texts of at most 65535 are drawn"},
         {"title", 0, "title: is 0 pixels high, too little for its text"},
         {"scale-bar-line2", 3, "scale-bar: is 3 pixels high, too little for its text"},
     };
-    for (const SizeRow& row : rows) {
+    for (const auto& row : rows) {
         PageItem item = Item(row.type);
         host::ElementOf<CMapSurround>(item)->SetSize(row.size);
         if (auto* const title = host::ElementOf<CMapTitle>(item)) {
             title->SetFontSize(row.size);
         }
-        try {
-            PixelsOf(item);
-            ADD_FAILURE() << row.told;
-        } catch (const host::NamedError& error) {
-            EXPECT_STREQ(error.what(), row.told);
-        }
+        EXPECT_THAT([&] { PixelsOf(item); }, ThrowsMessage<host::NamedError>(row.told));
     }
 }
 

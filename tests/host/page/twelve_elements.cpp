@@ -1,6 +1,5 @@
 #include "page/twelve_elements.h"
 
-#include <algorithm>
 #include <cstdint>
 #include <utility>
 

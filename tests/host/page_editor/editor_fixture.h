@@ -5,10 +5,8 @@
 #include <QEvent>
 #include <QImage>
 #include <QMessageBox>
-#include <QPointF>
 #include <QTimer>
 #include <functional>
-#include <string>
 #include <vector>
 
 #include "page_editor/window/editor_window.h"

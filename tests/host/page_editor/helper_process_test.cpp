@@ -1,5 +1,6 @@
 #include "system/helper_process.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <pthread.h>
 #include <signal.h>
@@ -99,13 +100,9 @@ TEST(HelperProcess, LeavesNoProcessOfAJobThatIsGivenUp) {
     const ScratchFolder folder;
     const std::string file = folder.Path("process");
     pid_t process = 0;
-    try {
-        host::InHelper("drawing", "hang", file,
-                       [&](double) { return !(std::ifstream(file) >> process); });
-        FAIL();
-    } catch (const std::runtime_error& error) {
-        EXPECT_STREQ(error.what(), "drawing was stopped");
-    }
+    const auto untilItRuns = [&](double) { return !(std::ifstream(file) >> process); };
+    EXPECT_THAT([&] { host::InHelper("drawing", "hang", file, untilItRuns); },
+                ::testing::ThrowsMessage<std::runtime_error>("drawing was stopped"));
     EXPECT_TRUE(QTest::qWaitFor([&] { return kill(process, 0) != 0; }));
 }
 

@@ -1,6 +1,5 @@
 #include "pdf/pdf_check.h"
 
-#include <algorithm>
 #include <functional>
 #include <map>
 #include <qpdf/QPDF.hh>

@@ -7,7 +7,6 @@
 #include <fstream>
 #include <sstream>
 #include <string>
-#include <vector>
 
 #include "raster_data/gdal_session.h"
 #include "raster_data/make_raster.h"
@@ -68,10 +67,8 @@ protected:
             if (opened == nullptr) {
                 return why;
             }
-            double low = 0.0;
-            double high = 0.0;
-            opened->GetRasterBand(0)->ComputeMinMax(&low, &high, false);
-            return std::to_string(static_cast<int>(low));
+            return std::to_string(
+                static_cast<int>(raster_test::RangeOf(*opened, 0, false)->first));
         });
     }
     std::string Read(const std::string& raster) const { return Read(raster, Allowed()); }

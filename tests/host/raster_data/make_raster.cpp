@@ -34,15 +34,33 @@ void Write(const std::string& path, const Raster& raster) {
         }
     }
     if (raster.describe) {
-        raster.describe(*dataset);
+        raster.describe(*dataset->GetRasterBand(1));
     }
     for (int band = 1; band <= bands; ++band) {
-        std::vector<double> values = raster.bands[static_cast<std::size_t>(band - 1)];
-        ASSERT_EQ(dataset->GetRasterBand(band)->RasterIO(
-                      GF_Write, 0, 0, raster.width, height, values.data(), raster.width,
-                      height, GDT_Float64, 0, 0, nullptr),
-                  CE_None);
+        Set(*dataset->GetRasterBand(band), 0, 0, raster.width, height,
+            raster.bands[static_cast<std::size_t>(band - 1)]);
     }
+}
+
+void Set(GDALRasterBand& band, int x, int y, int width, int height,
+         std::vector<double> values) {
+    ASSERT_EQ(band.RasterIO(GF_Write, x, y, width, height, values.data(), width, height,
+                            GDT_Float64, 0, 0, nullptr),
+              CE_None);
+}
+
+void SetPalette(GDALRasterBand& band, const Palette& entries) {
+    GDALColorTable palette;
+    for (const auto& [index, colour] : entries) {
+        palette.SetColorEntry(index, &colour);
+    }
+    band.SetColorTable(&palette);
+}
+
+void AddOverviews(GDALDataset& dataset, std::vector<int> factors) {
+    ASSERT_EQ(dataset.BuildOverviews("NEAREST", static_cast<int>(factors.size()),
+                                     factors.data(), 0, nullptr, nullptr, nullptr),
+              CE_None);
 }
 
 std::unique_ptr<host::GdalRaster> Open(const std::string& path,
@@ -53,13 +71,23 @@ std::unique_ptr<host::GdalRaster> Open(const std::string& path,
     return raster;
 }
 
-std::unique_ptr<host::GdalRaster> WriteAndOpen(const ScratchFolder& folder,
-                                               const Raster& raster,
+std::unique_ptr<host::GdalRaster> WriteAndOpen(const Raster& raster,
                                                const host::RasterStyle& style) {
+    static const ScratchFolder folder;
     static std::atomic<int> count{0};
     const std::string path = folder.Path("raster_" + std::to_string(++count) + ".tif");
     Write(path, raster);
     return Open(path, style);
+}
+
+std::optional<std::pair<double, double>> RangeOf(host::GdalRaster& raster, int band,
+                                                 bool approximate) {
+    double least = 0.0;
+    double greatest = 0.0;
+    if (!raster.GetRasterBand(band)->ComputeMinMax(&least, &greatest, approximate)) {
+        return {};
+    }
+    return std::pair(least, greatest);
 }
 
 host::RasterStyle Stretched(const char* stretch) {
@@ -87,8 +115,8 @@ unsigned int Pixel(const host::PixelImage& image, int x, int y) {
     return byte(3) << 24U | byte(2) << 16U | byte(1) << 8U | byte(0);
 }
 
-std::vector<unsigned int> Pixels(const host::PixelImage& image) {
-    std::vector<unsigned int> pixels;
+Colours Pixels(const host::PixelImage& image) {
+    Colours pixels;
     for (int y = 0; y < image.height; ++y) {
         for (int x = 0; x < image.width; ++x) {
             pixels.push_back(Pixel(image, x, y));

@@ -6,6 +6,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "raster_data/gdal_raster.h"
@@ -23,8 +24,8 @@ struct Raster {
     std::optional<double> noData = {};
     std::vector<std::string> options = {};
 
-    /// What else it has: palette, tables, colours of bands.
-    std::function<void(GDALDataset&)> describe = {};
+    /// What else it has: palette, tables, colours of bands. It is given the first band.
+    std::function<void(GDALRasterBand&)> describe = {};
 };
 
 /// Writes the raster; fails the test when that cannot be done.
@@ -38,10 +39,24 @@ Dataset Create(const std::string& path, int width, int height, int bands,
 std::unique_ptr<host::GdalRaster> Open(const std::string& path,
                                        const host::RasterStyle& style = {});
 
-/// Writes a raster and opens it.
-std::unique_ptr<host::GdalRaster> WriteAndOpen(const ScratchFolder& folder,
-                                               const Raster& raster,
+/// Writes a raster, in a folder that is gone after the tests, and opens it.
+std::unique_ptr<host::GdalRaster> WriteAndOpen(const Raster& raster,
                                                const host::RasterStyle& style = {});
+
+/// Sets the pixels of a part of a band; fails the test when that cannot be done.
+void Set(GDALRasterBand& band, int x, int y, int width, int height,
+         std::vector<double> values);
+
+/// Gives a band that palette, of indexes and colours.
+using Palette = std::vector<std::pair<int, GDALColorEntry>>;
+void SetPalette(GDALRasterBand& band, const Palette& entries);
+
+/// Adds smaller copies of a raster, a factor each.
+void AddOverviews(GDALDataset& dataset, std::vector<int> factors);
+
+/// The least and the greatest value of a band, where it has any.
+std::optional<std::pair<double, double>> RangeOf(host::GdalRaster& raster, int band = 0,
+                                                 bool approximate = true);
 
 /// The style of a stretch, given as ParseStretch reads it.
 host::RasterStyle Stretched(const char* stretch);
@@ -49,10 +64,12 @@ host::RasterStyle Stretched(const char* stretch);
 /// The whole numbers from first to last.
 std::vector<double> Ramp(int first, int last);
 
+using Colours = std::vector<unsigned int>;
+
 /// A drawn pixel as 0xAARRGGBB.
 unsigned int Pixel(const host::PixelImage& image, int x, int y);
 
 /// All pixels of a drawn image, row by row.
-std::vector<unsigned int> Pixels(const host::PixelImage& image);
+Colours Pixels(const host::PixelImage& image);
 
 }  // namespace raster_test

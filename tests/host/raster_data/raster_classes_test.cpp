@@ -4,12 +4,14 @@
 #include <filesystem>
 #include <ostream>
 
+#include "raster_data/gdal_session.h"
 #include "raster_data/make_raster.h"
 
 namespace {
 
 using raster_test::Pixels;
 using raster_test::Raster;
+using raster_test::SetPalette;
 using raster_test::WriteAndOpen;
 
 struct Class {
@@ -36,19 +38,6 @@ std::vector<Class> Classes(host::GdalRaster& raster) {
                                unsigned{green} << 8U | unsigned{blue}});
     }
     return classes;
-}
-
-struct PaletteEntry {
-    int index;
-    GDALColorEntry colour;
-};
-
-void SetPalette(GDALRasterBand& band, const std::vector<PaletteEntry>& entries) {
-    GDALColorTable palette;
-    for (const PaletteEntry& entry : entries) {
-        palette.SetColorEntry(entry.index, &entry.colour);
-    }
-    band.SetColorTable(&palette);
 }
 
 struct TableColumn {
@@ -83,10 +72,10 @@ void SetTable(GDALRasterBand& band, const Table& table) {
     ASSERT_EQ(band.SetDefaultRAT(&attributes), CE_None);
 }
 
-const std::vector<PaletteEntry> kFourColours = {{0, {0, 0, 0, 255}},
-                                                {1, {10, 20, 30, 255}},
-                                                {2, {40, 50, 60, 255}},
-                                                {3, {70, 80, 90, 255}}};
+const raster_test::Palette kFourColours = {{0, {0, 0, 0, 255}},
+                                           {1, {10, 20, 30, 255}},
+                                           {2, {40, 50, 60, 255}},
+                                           {3, {70, 80, 90, 255}}};
 
 const std::vector<TableColumn> kByUsage = {{"a", GFT_Integer, GFU_MinMax},
                                            {"b", GFT_String, GFU_Name},
@@ -106,16 +95,14 @@ const std::vector<TableColumn> kRealColours = {{"Value", GFT_Integer, GFU_MinMax
                                                {"Blue", GFT_Real, GFU_Generic},
                                                {"Alpha", GFT_Real, GFU_Generic}};
 
-struct ClassesRow {
+const struct {
     const char* name;
     GDALDataType type;
     std::vector<double> values;  ///< one row of pixels
     std::function<void(GDALRasterBand&)> describe;
     std::vector<Class> classes;
     std::vector<unsigned int> drawn;
-};
-
-const ClassesRow kRows[] = {
+} kRows[] = {
     {"a palette's classes are called by their values, and only those that occur are "
      "listed",
      GDT_Byte,
@@ -271,15 +258,12 @@ const ClassesRow kRows[] = {
 };
 
 TEST(RasterClasses, HaveNamesAndColoursAndAreThoseThatOccur) {
-    const ScratchFolder folder;
-    for (const ClassesRow& row : kRows) {
+    for (const auto& row : kRows) {
         SCOPED_TRACE(row.name);
         const int width = static_cast<int>(row.values.size());
         Raster raster{width, {row.values}, row.type};
-        raster.describe = [&](GDALDataset& dataset) {
-            row.describe(*dataset.GetRasterBand(1));
-        };
-        const auto opened = WriteAndOpen(folder, raster);
+        raster.describe = row.describe;
+        const auto opened = WriteAndOpen(raster);
         EXPECT_EQ(opened->GetDisplayType(), DisplayClassified);
         EXPECT_EQ(Classes(*opened), row.classes);
         EXPECT_EQ(Pixels(opened->Render(width, 1)), row.drawn);
@@ -288,15 +272,14 @@ TEST(RasterClasses, HaveNamesAndColoursAndAreThoseThatOccur) {
 }
 
 TEST(RasterClasses, OfATableWithoutColoursAreToldApart) {
-    const ScratchFolder folder;
     Raster raster{3, {{1, 2, 3}}};
-    raster.describe = [](GDALDataset& dataset) {
-        SetTable(*dataset.GetRasterBand(1),
+    raster.describe = [](GDALRasterBand& band) {
+        SetTable(band,
                  {{{"Value", GFT_Integer, GFU_MinMax}, {"Name", GFT_String, GFU_Name}},
                   {{"1", "One"}, {"2", "Two"}, {"3", "Three"}},
                   {}});
     };
-    const auto opened = WriteAndOpen(folder, raster);
+    const auto opened = WriteAndOpen(raster);
     const std::vector<Class> classes = Classes(*opened);
     ASSERT_EQ(classes.size(), 3U);
     EXPECT_EQ(classes[2].label, L"Three");
@@ -309,19 +292,15 @@ TEST(RasterClasses, OfATableWithoutColoursAreToldApart) {
 
 TEST(RasterClasses, PalettesMayBeTransparent) {
     const ScratchFolder folder;
-    const std::string tif = folder.Path("palette.tif");
     const std::string png = folder.Path("palette.png");
     // GeoTIFF keeps no alpha in palettes; PNG does.
-    raster_test::Write(tif, {3, {{0, 1, 2}}});
+    host::StartGdal();
     {
         GDALDriver* const memory = GetGDALDriverManager()->GetDriverByName("MEM");
         GDALDataset* const source = memory->Create("", 3, 1, 1, GDT_Byte, nullptr);
         SetPalette(*source->GetRasterBand(1),
                    {{0, {1, 2, 3, 0}}, {1, {4, 5, 6, 128}}, {2, {7, 8, 9, 255}}});
-        unsigned char values[] = {0, 1, 2};
-        ASSERT_EQ(source->GetRasterBand(1)->RasterIO(GF_Write, 0, 0, 3, 1, values, 3, 1,
-                                                     GDT_Byte, 0, 0, nullptr),
-                  CE_None);
+        raster_test::Set(*source->GetRasterBand(1), 0, 0, 3, 1, {0, 1, 2});
         GDALDataset* const written =
             GetGDALDriverManager()->GetDriverByName("PNG")->CreateCopy(
                 png.c_str(), source, FALSE, nullptr, nullptr, nullptr);
@@ -339,57 +318,49 @@ TEST(RasterClasses, PalettesMayBeTransparent) {
 }
 
 TEST(RasterClasses, ATableThatIsOnlyAHistogramMakesNone) {
-    const ScratchFolder folder;
     Raster raster{3, {{0, 3, 10}}, GDT_Float32};
-    raster.describe = [](GDALDataset& dataset) {
-        SetTable(*dataset.GetRasterBand(1), {{{"Histogram", GFT_Real, GFU_PixelCount}},
-                                             {{"1"}, {"2"}},
-                                             {{0.0, 5.0}},
-                                             GRTT_ATHEMATIC});
+    raster.describe = [](GDALRasterBand& band) {
+        SetTable(band, {{{"Histogram", GFT_Real, GFU_PixelCount}},
+                        {{"1"}, {"2"}},
+                        {{0.0, 5.0}},
+                        GRTT_ATHEMATIC});
     };
-    const auto opened = WriteAndOpen(folder, raster);
+    const auto opened = WriteAndOpen(raster);
     EXPECT_EQ(opened->GetDisplayType(), DisplayGray);
     EXPECT_EQ(opened->GetClassifyDisplayTable()->GetClassesCount(), 0);
 }
 
 TEST(RasterClasses, AreOfTheBandThatIsShown) {
-    const ScratchFolder folder;
     Raster raster{1, {{1}, {1}}};
-    raster.describe = [](GDALDataset& dataset) {
-        SetTable(*dataset.GetRasterBand(1),
-                 {kByUsage, {{"1", "One", "1", "2", "3"}}, {}});
+    raster.describe = [](GDALRasterBand& band) {
+        SetTable(band, {kByUsage, {{"1", "One", "1", "2", "3"}}, {}});
     };
-    EXPECT_EQ(WriteAndOpen(folder, raster)->GetDisplayType(), DisplayClassified);
+    EXPECT_EQ(WriteAndOpen(raster)->GetDisplayType(), DisplayClassified);
     host::RasterStyle style;
     style.bands = {2};
-    EXPECT_EQ(WriteAndOpen(folder, raster, style)->GetDisplayType(), DisplayGray);
+    EXPECT_EQ(WriteAndOpen(raster, style)->GetDisplayType(), DisplayGray);
     raster.bands.push_back({1});
-    EXPECT_EQ(WriteAndOpen(folder, raster)->GetDisplayType(), DisplayRGB);
+    EXPECT_EQ(WriteAndOpen(raster)->GetDisplayType(), DisplayRGB);
 }
 
 TEST(RasterClasses, AreDrawnFromTheNearestPixelAndNeverMixed) {
-    const ScratchFolder folder;
     // Seven columns in three: the centres lie at 1.17, 3.5 and 5.83.
     Raster raster{7, {{1, 2, 1, 3, 1, 2, 1}}};
-    raster.describe = [](GDALDataset& dataset) {
-        SetPalette(*dataset.GetRasterBand(1), kFourColours);
-    };
-    EXPECT_EQ(Pixels(WriteAndOpen(folder, raster)->Render(3, 1)),
+    raster.describe = [](GDALRasterBand& band) { SetPalette(band, kFourColours); };
+    EXPECT_EQ(Pixels(WriteAndOpen(raster)->Render(3, 1)),
               (std::vector{0xff28323cU, 0xff46505aU, 0xff28323cU}));
 }
 
 TEST(RasterClasses, OfVeryManyTheLowestAreListed) {
-    const ScratchFolder folder;
     std::vector<double> values(300 * 100);
     for (std::size_t i = 0; i < values.size(); ++i) {
         values[i] = 0.5 + static_cast<double>(values.size() - i);
     }
     Raster raster{300, {values}, GDT_Float64};
-    raster.describe = [](GDALDataset& dataset) {
-        SetTable(*dataset.GetRasterBand(1),
-                 {kByUsage, {{"-1", "None", "1", "2", "3"}}, {}});
+    raster.describe = [](GDALRasterBand& band) {
+        SetTable(band, {kByUsage, {{"-1", "None", "1", "2", "3"}}, {}});
     };
-    const auto opened = WriteAndOpen(folder, raster);
+    const auto opened = WriteAndOpen(raster);
     const std::vector<Class> classes = Classes(*opened);
     ASSERT_EQ(classes.size(), 10000U);
     EXPECT_EQ(classes.front().label, L"1.5");
@@ -400,9 +371,7 @@ TEST(RasterClasses, OfARasterThatCannotBeReadAreNone) {
     const ScratchFolder folder;
     const std::string path = folder.Path("cut.tif");
     Raster raster{300, {std::vector<double>(300 * 300, 1.0)}};
-    raster.describe = [](GDALDataset& dataset) {
-        SetPalette(*dataset.GetRasterBand(1), kFourColours);
-    };
+    raster.describe = [](GDALRasterBand& band) { SetPalette(band, kFourColours); };
     raster_test::Write(path, raster);
     const auto opened = raster_test::Open(path);
     std::filesystem::resize_file(path, 2000);
@@ -419,11 +388,8 @@ TEST(RasterClasses, OfALargeRasterAreSampled) {
         const raster_test::Dataset dataset = raster_test::Create(
             path, 20000, 20000, 1, GDT_Byte, {"SPARSE_OK=TRUE", "TILED=YES"});
         SetPalette(*dataset->GetRasterBand(1), kFourColours);
-        std::vector<unsigned char> block(512 * 512, 2);
-        ASSERT_EQ(dataset->GetRasterBand(1)->RasterIO(GF_Write, 10000, 10000, 512, 512,
-                                                      block.data(), 512, 512, GDT_Byte, 0,
-                                                      0, nullptr),
-                  CE_None);
+        raster_test::Set(*dataset->GetRasterBand(1), 10000, 10000, 512, 512,
+                         std::vector<double>(512 * 512, 2));
     }
     const auto raster = raster_test::Open(path);
     EXPECT_EQ(Classes(*raster),

@@ -12,14 +12,6 @@ namespace {
 
 using raster_test::Raster;
 
-struct Case {
-    const char* what;
-    int first;
-    int last;
-    void (*change)(GDALColorTable& palette, Raster& raster);
-    std::size_t colours;  ///< of the ramp
-};
-
 void Nothing(GDALColorTable&, Raster&) {}
 
 template <short Step>
@@ -31,7 +23,13 @@ void Zigzag(GDALColorTable& palette, Raster&) {
     }
 }
 
-const Case kCases[] = {
+const struct {
+    const char* what;
+    int first;
+    int last;
+    void (*change)(GDALColorTable& palette, Raster& raster);
+    std::size_t colours;  ///< of the ramp
+} kCases[] = {
     {"a ramp", 100, 163, Nothing, 64},
     {"of all bytes", 0, 255, Nothing, 256},
     {"of just enough values", 100, 131, Nothing, 32},
@@ -41,8 +39,8 @@ const Case kCases[] = {
     {"with a name", 100, 163,
      [](GDALColorTable&, Raster& raster) {
          const auto describe = raster.describe;
-         raster.describe = [describe](GDALDataset& dataset) {
-             describe(dataset);
+         raster.describe = [describe](GDALRasterBand& band) {
+             describe(band);
              std::vector<std::string> names(164);
              names[120] = "meadow";
              std::vector<char*> list;
@@ -50,21 +48,21 @@ const Case kCases[] = {
                  list.push_back(name.data());
              }
              list.push_back(nullptr);
-             dataset.GetRasterBand(1)->SetCategoryNames(list.data());
+             band.SetCategoryNames(list.data());
          };
      },
      0},
     {"with an attribute table", 100, 163,
      [](GDALColorTable&, Raster& raster) {
          const auto describe = raster.describe;
-         raster.describe = [describe](GDALDataset& dataset) {
-             describe(dataset);
+         raster.describe = [describe](GDALRasterBand& band) {
+             describe(band);
              GDALDefaultRasterAttributeTable table;
              table.CreateColumn("Value", GFT_Integer, GFU_MinMax);
              table.CreateColumn("Class_Name", GFT_String, GFU_Name);
              table.SetValue(0, 0, 110);
              table.SetValue(0, 1, "meadow");
-             dataset.GetRasterBand(1)->SetDefaultRAT(&table);
+             band.SetDefaultRAT(&table);
          };
      },
      0},
@@ -75,9 +73,8 @@ const Case kCases[] = {
 };
 
 TEST(RasterRamps, ArePalettesWithoutNamesThatChangeLittleByLittle) {
-    for (const Case& row : kCases) {
+    for (const auto& row : kCases) {
         SCOPED_TRACE(row.what);
-        const ScratchFolder folder;
         const std::vector<double> values = raster_test::Ramp(row.first, row.last);
         Raster raster{static_cast<int>(values.size()), {values}};
         GDALColorTable palette;
@@ -85,13 +82,13 @@ TEST(RasterRamps, ArePalettesWithoutNamesThatChangeLittleByLittle) {
             const GDALColorEntry entry{value, static_cast<short>(255 - value), 7, 255};
             palette.SetColorEntry(value, &entry);
         }
-        raster.describe = [&palette](GDALDataset& dataset) {
-            dataset.GetRasterBand(1)->SetColorTable(&palette);
+        raster.describe = [&palette](GDALRasterBand& band) {
+            band.SetColorTable(&palette);
         };
         row.change(palette, raster);
         // Whatever the stretch, which is of greys.
-        const auto opened = raster_test::WriteAndOpen(
-            folder, raster, raster_test::Stretched("percent 20 80"));
+        const auto opened =
+            raster_test::WriteAndOpen(raster, raster_test::Stretched("percent 20 80"));
         EXPECT_EQ(opened->GetDisplayType(), DisplayClassified);
         const std::vector<host::ClassColour> colours = opened->RampColours();
         ASSERT_EQ(colours.size(), row.colours);
@@ -103,18 +100,14 @@ TEST(RasterRamps, ArePalettesWithoutNamesThatChangeLittleByLittle) {
                           unsigned{colours[i].green} << 8U | unsigned{colours[i].blue},
                       drawn[i]);
         }
-        double lowest = 0.0;
-        double highest = 0.0;
-        EXPECT_TRUE(opened->GetRasterBand(0)->ComputeMinMax(&lowest, &highest, true));
-        EXPECT_EQ(lowest, row.first);
-        EXPECT_EQ(highest, row.last);
+        EXPECT_EQ(raster_test::RangeOf(*opened),
+                  std::pair(row.first + 0.0, row.last + 0.0));
     }
 }
 
 TEST(RasterRamps, OfRastersWithoutAPaletteAreNone) {
-    const ScratchFolder folder;
     const Raster raster{64, {raster_test::Ramp(0, 63)}};
-    EXPECT_TRUE(raster_test::WriteAndOpen(folder, raster)->RampColours().empty());
+    EXPECT_TRUE(raster_test::WriteAndOpen(raster)->RampColours().empty());
 }
 
 }  // namespace

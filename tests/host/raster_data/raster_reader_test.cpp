@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstring>
 #include <numeric>
 
 #include "raster_data/gdal_session.h"
@@ -96,14 +95,12 @@ int MeanOfCell(int column, int row, int width, int height, int rasterWidth,
     return static_cast<int>((2 * sum + count) / (2 * count));
 }
 
-struct PassRow {
+const struct {
     const char* name;
     int width, height, bands, blockWidth, blockHeight;
     int drawnWidth, drawnHeight;
     double mostReads;  ///< of a block, on average
-};
-
-const PassRow kPasses[] = {
+} kPasses[] = {
     {"rows of pixels", 5000, 3000, 3, 5000, 1, 300, 200, 1.0},
     {"strips", 5000, 3000, 3, 5000, 16, 300, 200, 1.0},
     {"tiles", 5000, 3000, 3, 256, 256, 300, 200, 1.0},
@@ -116,7 +113,7 @@ const PassRow kPasses[] = {
 };
 
 TEST(ReadRows, ReadsEveryBlockOnceAndTakesTheMeanOfAllPixels) {
-    for (const PassRow& row : kPasses) {
+    for (const auto& row : kPasses) {
         SCOPED_TRACE(row.name);
         CountingDataset dataset(row.width, row.height, row.bands, row.blockWidth,
                                 row.blockHeight);

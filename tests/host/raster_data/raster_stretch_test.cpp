@@ -18,11 +18,12 @@ using raster_test::Open;
 using raster_test::Pixel;
 using raster_test::Pixels;
 using raster_test::Ramp;
+using raster_test::RangeOf;
 using raster_test::Raster;
 using raster_test::Stretched;
 using raster_test::WriteAndOpen;
 
-using Colours = std::vector<unsigned int>;
+using raster_test::Colours;
 
 struct StretchRow {
     const char* stretch;
@@ -49,19 +50,16 @@ unsigned int ShadeOf(double value, const StretchRow& row) {
 }
 
 TEST(RasterStretch, IsWhatTheLegendSaysAndOneForEveryPart) {
-    const ScratchFolder folder;
     for (const GDALDataType type : {GDT_Byte, GDT_Float32, GDT_Float64}) {
         for (const StretchRow& row : kStretches) {
             SCOPED_TRACE(row.stretch);
             const auto raster =
-                WriteAndOpen(folder, {101, {Ramp(0, 100)}, type}, Stretched(row.stretch));
+                WriteAndOpen({101, {Ramp(0, 100)}, type}, Stretched(row.stretch));
             const auto part = raster->Part({20, 0, 30, 1});
             for (GdalRaster* told : {raster.get(), part.get()}) {
-                double black = -1.0;
-                double white = -1.0;
-                EXPECT_TRUE(told->GetRasterBand(0)->ComputeMinMax(&black, &white, true));
-                EXPECT_NEAR(black, row.black, 1e-12);
-                EXPECT_NEAR(white, row.white, 1e-12);
+                const auto range = RangeOf(*told);
+                EXPECT_NEAR(range->first, row.black, 1e-12);
+                EXPECT_NEAR(range->second, row.white, 1e-12);
             }
             const host::PixelImage whole = raster->Render(101, 1);
             const host::PixelImage drawnPart = part->Render(60, 2);
@@ -76,9 +74,8 @@ TEST(RasterStretch, IsWhatTheLegendSaysAndOneForEveryPart) {
 }
 
 TEST(RasterStretch, OfEachBandIsTheSameForEveryPart) {
-    const ScratchFolder folder;
-    const auto raster = WriteAndOpen(
-        folder, {101, {Ramp(0, 100), Ramp(100, 200), Ramp(50, 150)}, GDT_UInt16});
+    const auto raster =
+        WriteAndOpen({101, {Ramp(0, 100), Ramp(100, 200), Ramp(50, 150)}, GDT_UInt16});
     const host::PixelImage whole = raster->Render(101, 1);
     // All three are 48 / 96 of the way from 2 % to 98 %.
     EXPECT_EQ(Pixel(whole, 50, 0), 0xff808080);
@@ -87,19 +84,18 @@ TEST(RasterStretch, OfEachBandIsTheSameForEveryPart) {
 }
 
 TEST(RasterStretch, DrawsFinishedColoursAsTheyAre) {
-    const ScratchFolder folder;
     Raster raster{3, {{200, 210, 220}, {100, 101, 102}, {7, 7, 9}}};
-    EXPECT_EQ(Pixels(WriteAndOpen(folder, raster)->Render(3, 1)),
+    EXPECT_EQ(Pixels(WriteAndOpen(raster)->Render(3, 1)),
               (Colours{0xffc86407, 0xffd26507, 0xffdc6609}));
-    EXPECT_EQ(Pixels(WriteAndOpen(folder, raster, Stretched("minmax"))->Render(3, 1)),
+    EXPECT_EQ(Pixels(WriteAndOpen(raster, Stretched("minmax"))->Render(3, 1)),
               (Colours{0xff000000, 0xff808000, 0xffffffff}));
     raster.type = GDT_UInt16;
     raster.options = {"PHOTOMETRIC=RGB"};
-    EXPECT_EQ(Pixels(WriteAndOpen(folder, raster)->Render(3, 1)),
+    EXPECT_EQ(Pixels(WriteAndOpen(raster)->Render(3, 1)),
               (Colours{0xff000000, 0xff808000, 0xffffffff}));
     raster.type = GDT_Byte;
     raster.options = {"PHOTOMETRIC=MINISBLACK"};
-    EXPECT_EQ(Pixels(WriteAndOpen(folder, raster)->Render(3, 1)),
+    EXPECT_EQ(Pixels(WriteAndOpen(raster)->Render(3, 1)),
               (Colours{0xff000000, 0xff808000, 0xffffffff}));
 }
 
@@ -108,15 +104,8 @@ TEST(RasterStretch, OfALargeRasterIsSampledTheSameAtEverySize) {
     const std::string path = folder.Path("large.tif");
     {
         const Dataset dataset = raster_test::Create(path, 9000, 3000, 1, GDT_UInt16);
-        std::vector<std::uint16_t> line(9000);
-        for (std::size_t x = 0; x < line.size(); ++x) {
-            line[x] = static_cast<std::uint16_t>(x);
-        }
         for (int y = 0; y < 3000; ++y) {
-            ASSERT_EQ(
-                dataset->GetRasterBand(1)->RasterIO(GF_Write, 0, y, 9000, 1, line.data(),
-                                                    9000, 1, GDT_UInt16, 0, 0, nullptr),
-                CE_None);
+            raster_test::Set(*dataset->GetRasterBand(1), 0, y, 9000, 1, Ramp(0, 8999));
         }
     }
     for (const auto& [stretch, black, white] :
@@ -125,35 +114,30 @@ TEST(RasterStretch, OfALargeRasterIsSampledTheSameAtEverySize) {
           {"stddev 1", 4500.0 - 9000.0 / std::sqrt(12.0),
            4500.0 + 9000.0 / std::sqrt(12.0)}}) {
         SCOPED_TRACE(stretch);
-        double told[2][2] = {};
-        for (int i = 0; i < 2; ++i) {
-            const auto raster = Open(path, Stretched(stretch));
-            raster->Render(i == 0 ? 9 : 500, 1);
-            EXPECT_TRUE(
-                raster->GetRasterBand(0)->ComputeMinMax(&told[i][0], &told[i][1], true));
-            EXPECT_NEAR(told[i][0], black, 5.0);
-            EXPECT_NEAR(told[i][1], white, 5.0);
-        }
-        EXPECT_EQ(told[0][0], told[1][0]);
-        EXPECT_EQ(told[0][1], told[1][1]);
+        const auto small = Open(path, Stretched(stretch));
+        small->Render(9, 1);
+        const auto range = RangeOf(*small);
+        EXPECT_NEAR(range->first, black, 5.0);
+        EXPECT_NEAR(range->second, white, 5.0);
+        const auto large = Open(path, Stretched(stretch));
+        large->Render(500, 1);
+        EXPECT_EQ(RangeOf(*large), range);
     }
 }
 
 TEST(RasterStretch, ReachesEverywhereWhereSquaresLeaveTheDoubles) {
-    const ScratchFolder folder;
-    const auto raster = WriteAndOpen(folder, {3, {{-1.7e308, 0, 1.7e308}}, GDT_Float64},
-                                     Stretched("stddev 1"));
+    const auto raster =
+        WriteAndOpen({3, {{-1.7e308, 0, 1.7e308}}, GDT_Float64}, Stretched("stddev 1"));
     EXPECT_EQ(Pixels(raster->Render(3, 1)),
               (Colours{0xff000000, 0xff808080, 0xffffffff}));
 }
 
 TEST(RasterBands, AreThoseChosen) {
-    const ScratchFolder folder;
     const Raster raster{
         2, {{0, 9}, {10, 0}, {0, 30}, {7, 40}}, GDT_UInt16, {}, {"ALPHA=NO"}};
     RasterStyle style;
     style.bands = {3, 2, 2};
-    const auto colours = WriteAndOpen(folder, raster, style);
+    const auto colours = WriteAndOpen(raster, style);
     EXPECT_EQ(colours->GetDisplayType(), DisplayRGB);
     EXPECT_EQ(colours->GetRedBandNum(), 2);
     EXPECT_EQ(colours->GetGreenBandNum(), 1);
@@ -161,15 +145,11 @@ TEST(RasterBands, AreThoseChosen) {
     EXPECT_EQ(Pixels(colours->Render(2, 1)), (Colours{0xff00ffff, 0xffff0000}));
 
     style.bands = {4};
-    const auto grey = WriteAndOpen(folder, raster, style);
+    const auto grey = WriteAndOpen(raster, style);
     EXPECT_EQ(grey->GetDisplayType(), DisplayGray);
     EXPECT_EQ(Pixels(grey->Render(2, 1)), (Colours{0xff000000, 0xffffffff}));
-    double black = 0.0;
-    double white = 0.0;
     // The band that a legend asks for is the one that is shown.
-    EXPECT_TRUE(grey->GetRasterBand(0)->ComputeMinMax(&black, &white, true));
-    EXPECT_EQ(black, 7.0);
-    EXPECT_EQ(white, 40.0);
+    EXPECT_EQ(RangeOf(*grey), std::pair(7.0, 40.0));
 }
 
 TEST(RasterBands, ThatThereAreNotAreRefusedButOfOneBandNoneIsChosen) {
@@ -181,31 +161,27 @@ TEST(RasterBands, ThatThereAreNotAreRefusedButOfOneBandNoneIsChosen) {
     std::string why;
     EXPECT_EQ(GdalRaster::Open(path, why, style), nullptr);
     EXPECT_EQ(why, "has no band 3 (it has 2)");
-    EXPECT_EQ(WriteAndOpen(folder, {1, {{1}}}, style)->GetDisplayType(), DisplayGray);
+    EXPECT_EQ(WriteAndOpen({1, {{1}}}, style)->GetDisplayType(), DisplayGray);
 }
 
-struct NoDataRow {
+// The file says that 9 is no data.
+const struct {
     const char* noData;
     Colours drawn;
-};
-
-// The file says that 9 is no data.
-const NoDataRow kNoData[] = {
+} kNoData[] = {
     {"", {0xff000000, 0xff222222, 0, 0xffffffff}},   // 5 / 38 of 255 is 33.6
     {"0", {0, 0xff000000, 0xff1f1f1f, 0xffffffff}},  // 4 / 33 of 255 is 30.9
     {"none", {0xff000000, 0xff222222, 0xff3c3c3c, 0xffffffff}},
 };
 
 TEST(RasterNoData, IsTheUsersElseTheFiles) {
-    const ScratchFolder folder;
-    for (const NoDataRow& row : kNoData) {
+    for (const auto& row : kNoData) {
         for (const GDALDataType type : {GDT_Byte, GDT_Float32}) {
             Raster raster{4, {{0, 5, 9, 38}}, type};
             raster.noData = 9;
             RasterStyle style;
             ASSERT_TRUE(style.ParseNoData(row.noData));
-            EXPECT_EQ(Pixels(WriteAndOpen(folder, raster, style)->Render(4, 1)),
-                      row.drawn)
+            EXPECT_EQ(Pixels(WriteAndOpen(raster, style)->Render(4, 1)), row.drawn)
                 << row.noData;
         }
     }
@@ -222,36 +198,28 @@ TEST(RasterNoData, IsTheUsersInOverviewsAndOfClasses) {
         raster_test::Write(path, {64, {values}});
         const Dataset dataset(GDALDataset::Open(path.c_str(), GDAL_OF_UPDATE),
                               [](GDALDataset* opened) { GDALClose(opened); });
-        int factor = 4;
-        ASSERT_EQ(
-            dataset->BuildOverviews("NEAREST", 1, &factor, 0, nullptr, nullptr, nullptr),
-            CE_None);
+        raster_test::AddOverviews(*dataset, {4});
     }
     EXPECT_EQ(Pixels(Open(path, style)->Render(1, 2)), (Colours{0, 0xff808080}));
 
     Raster classes{3, {{4, 5, 6}}};
-    classes.describe = [](GDALDataset& dataset) {
-        GDALColorTable palette;
-        for (const short value : std::array<short, 3>{4, 5, 6}) {
-            const GDALColorEntry entry{value, value, value, 255};
-            palette.SetColorEntry(value, &entry);
-        }
-        dataset.GetRasterBand(1)->SetColorTable(&palette);
+    classes.describe = [](GDALRasterBand& band) {
+        raster_test::SetPalette(
+            band, {{4, {4, 4, 4, 255}}, {5, {5, 5, 5, 255}}, {6, {6, 6, 6, 255}}});
     };
-    const auto classified = WriteAndOpen(folder, classes, style);
+    const auto classified = WriteAndOpen(classes, style);
     EXPECT_EQ(Pixels(classified->Render(3, 1)), (Colours{0xff040404, 0, 0xff060606}));
     EXPECT_EQ(classified->GetClassifyDisplayTable()->GetClassesCount(), 2);
 }
 
 TEST(RasterNorthUp, ShowsThePixelsWhereTheyAre) {
-    const ScratchFolder folder;
     // Rows run from north to south here, and columns from west to east: a quarter turn.
     Raster raster{2, {{10, 20, 30, 40, 50, 60}}};
-    raster.describe = [](GDALDataset& dataset) {
+    raster.describe = [](GDALRasterBand& band) {
         std::array<double, 6> place{100.0, 0.0, 10.0, 500.0, -10.0, 0.0};
-        dataset.SetGeoTransform(place.data());
+        band.GetDataset()->SetGeoTransform(place.data());
     };
-    const auto turned = WriteAndOpen(folder, raster, Stretched("none"))->NorthUp();
+    const auto turned = WriteAndOpen(raster, Stretched("none"))->NorthUp();
     EXPECT_EQ(turned->Width(), 3);
     EXPECT_EQ(turned->Height(), 2);
     EXPECT_EQ(turned->GeoTransform(), (std::array<double, 6>{100, 10, 0, 500, 0, -10}));
@@ -261,7 +229,6 @@ TEST(RasterNorthUp, ShowsThePixelsWhereTheyAre) {
 }
 
 TEST(RasterNorthUp, IsTransparentBesideTheRasterAndKeepsItsShades) {
-    const ScratchFolder folder;
     for (const auto& [type, noData] : {std::pair(GDT_Byte, std::optional<double>()),
                                        {GDT_Byte, 255.0},
                                        {GDT_UInt16, {}},
@@ -275,11 +242,11 @@ TEST(RasterNorthUp, IsTransparentBesideTheRasterAndKeepsItsShades) {
         raster.bands[0][0] = noData.value_or(0.0);
         raster.bands[0][1] = 0.0;
         raster.bands[0][99] = 100.0;
-        raster.describe = [](GDALDataset& dataset) {
+        raster.describe = [](GDALRasterBand& band) {
             std::array<double, 6> place{0.0, 5.0, 5.0, 0.0, 5.0, -5.0};  // on its corner
-            dataset.SetGeoTransform(place.data());
+            band.GetDataset()->SetGeoTransform(place.data());
         };
-        const auto turned = WriteAndOpen(folder, raster)->NorthUp();
+        const auto turned = WriteAndOpen(raster)->NorthUp();
         EXPECT_EQ(turned->GetDisplayType(), DisplayGray);
         const host::PixelImage image = turned->Render(turned->Width(), turned->Height());
         const int right = image.width - 1;

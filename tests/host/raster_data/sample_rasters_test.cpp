@@ -37,12 +37,10 @@ TEST(SampleRasters, AreASceneAnElevationModelAndALandCoverMapOfOneArea) {
         EXPECT_THAT(raster->Projection(), testing::HasSubstr("UTM zone 33N"));
     }
 
-    double lowest = 0.0;
-    double highest = 0.0;
-    EXPECT_TRUE(elevation->GetRasterBand(0)->ComputeMinMax(&lowest, &highest, false));
-    EXPECT_GT(lowest, 0.0);  // the sea has no value
-    EXPECT_GT(highest, 1000.0);
-    EXPECT_LT(highest, 3000.0);
+    const auto heights = raster_test::RangeOf(*elevation, 0, false);
+    EXPECT_GT(heights->first, 0.0);  // the sea has no value
+    EXPECT_GT(heights->second, 1000.0);
+    EXPECT_LT(heights->second, 3000.0);
 
     CClassifyDisplayTable* const classes = landCover->GetClassifyDisplayTable();
     ASSERT_EQ(classes->GetClassesCount(), 9);

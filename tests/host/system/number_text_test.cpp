@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <limits>
-
 namespace {
 
 TEST(NumberText, IsTheShortestThatReadsBack) {

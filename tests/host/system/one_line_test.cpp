@@ -10,13 +10,11 @@ namespace {
 
 using host::OneLine;
 
-struct Row {
-    std::string text;
-    std::string line;
-};
-
 TEST(OneLine, EscapesWhatIsNotToBeSeen) {
-    const Row rows[] = {
+    const struct {
+        std::string text;
+        std::string line;
+    } rows[] = {
         {"", ""},
         {"page.png: is a \"map\" \\ 100 %", "page.png: is a \"map\" \\ 100 %"},
         {"a\nb\r\tc", "a\\nb\\r\\tc"},
@@ -32,7 +30,7 @@ TEST(OneLine, EscapesWhatIsNotToBeSeen) {
          "nchen\n\xC3",
          "M\\xFCnchen\\n\\xC3"},
     };
-    for (const Row& row : rows) {
+    for (const auto& row : rows) {
         EXPECT_EQ(OneLine(row.text), row.line);
         EXPECT_EQ(OneLine(row.line), row.line);
     }

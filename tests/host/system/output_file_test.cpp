@@ -1,5 +1,6 @@
 #include "system/output_file.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -163,12 +164,9 @@ TEST_F(OutputFile, RefusesWhatCannotBeReplaced) {
         {folder.Path(std::string(5000, 'x')) + "/page.png", "File name too long"},
     };
     for (const auto& [path, why] : rows) {
-        try {
-            const host::OutputFile output(path);
-            ADD_FAILURE() << path << " was taken";
-        } catch (const std::runtime_error& error) {
-            EXPECT_EQ(error.what(), why) << path;
-        }
+        EXPECT_THAT([&path = path] { host::OutputFile output(path); },
+                    ::testing::ThrowsMessage<std::runtime_error>(why))
+            << path;
     }
     EXPECT_EQ(folder.Names().size(), 4u);
     EXPECT_EQ(Contents("protected.png"), "before");

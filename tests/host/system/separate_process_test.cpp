@@ -1,5 +1,6 @@
 #include "system/separate_process.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -13,15 +14,13 @@
 
 namespace {
 
-struct Row {
-    std::string name;
-    std::function<std::string()> work;
-    std::string outcome;
-};
-
 TEST(SeparateProcess, ReportsHoweverItEnds) {
     const std::string longLine(100'000, 'x');
-    const Row rows[] = {
+    const struct {
+        std::string name;
+        std::function<std::string()> work;
+        std::string outcome;
+    } rows[] = {
         {"returns", [] { return "a page"; }, "a page"},
         {"returns nothing", [] { return ""; }, ""},
         {"returns much", [&] { return longLine; }, longLine},
@@ -36,7 +35,7 @@ TEST(SeparateProcess, ReportsHoweverItEnds) {
         {"crashes", []() -> std::string { std::abort(); },
          "thrown: drawing failed: Aborted (signal 6)"},
     };
-    for (const Row& row : rows) {
+    for (const auto& row : rows) {
         std::string outcome;
         try {
             outcome = host::InSeparateProcess(
@@ -110,12 +109,8 @@ TEST(SeparateProcess, IsStoppedEvenWhenItHangs) {
             pause();
         }
     };
-    try {
-        host::InSeparateProcess("drawing", hang, stop);
-        FAIL();
-    } catch (const std::runtime_error& error) {
-        EXPECT_STREQ(error.what(), "drawing was stopped");
-    }
+    EXPECT_THAT([&] { host::InSeparateProcess("drawing", hang, stop); },
+                ::testing::ThrowsMessage<std::runtime_error>("drawing was stopped"));
     EXPECT_EQ(asked, 3);
     EXPECT_EQ(waitpid(-1, nullptr, WNOHANG), -1) << "a process is left";
 }

@@ -6,20 +6,18 @@
 
 namespace {
 
-struct Row {
-    std::wstring wide;
-    std::string utf8;
-};
-
 TEST(Utf8, IsWideTextAndBack) {
-    const Row rows[] = {
+    const struct {
+        std::wstring wide;
+        std::string utf8;
+    } rows[] = {
         {L"", ""},
         {L"Olinda", "Olinda"},
         {L"\u00DF \u20AC", "\xC3\x9F \xE2\x82\xAC"},
         {std::wstring(1, wchar_t{0x1F5FA}), "\xF0\x9F\x97\xBA"},
         {std::wstring(1, wchar_t{0x10FFFF}), "\xF4\x8F\xBF\xBF"},
     };
-    for (const Row& row : rows) {
+    for (const auto& row : rows) {
         EXPECT_EQ(host::Narrow(row.wide), row.utf8);
         std::wstring wide;
         EXPECT_TRUE(host::Widen(row.utf8, wide)) << row.utf8;

@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <cmath>
 #include <fstream>
-#include <variant>
 
 #include "page/document/opened_page.h"
 #include "recording/recording.h"

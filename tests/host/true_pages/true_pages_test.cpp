@@ -178,7 +178,7 @@ void CheckBar(const DrawnPage& page) {
 /// Draws a page with map_page.
 host_tests::Result Draw(const std::vector<std::string>& asked,
                         const std::vector<std::string>& more) {
-    std::vector<std::string> arguments = asked;
+    host_tests::Arguments arguments(asked.begin(), asked.end());
     arguments.insert(arguments.end(), more.begin(), more.end());
     const ScratchFolder scratch;
     const host_tests::Result result = host_tests::RunMapPage(scratch, arguments);

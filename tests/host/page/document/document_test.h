@@ -20,6 +20,12 @@
 
 namespace host_tests {
 
+/// The text of a page of 400 x 300 units with these elements.
+inline std::string PageText(const std::string& elements, int version = 3) {
+    return R"({"version": )" + std::to_string(version) +
+           R"(, "width": 400, "height": 300, "elements": [)" + elements + "]}";
+}
+
 /// The pixels of a page at 96 dpi.
 inline std::vector<std::uint8_t> PixelsOf(const host::Page& page) {
     host::PageImage image(host::PixelSize(page, 96.0));

@@ -3,7 +3,6 @@
 #include <gmock/gmock.h>
 
 #include <memory>
-#include <stdexcept>
 #include <tuple>
 
 #include "map_surround/legend.h"
@@ -20,6 +19,7 @@ namespace {
 using host::Box;
 using host::MapFrame;
 using host::PageItem;
+using ::testing::ThrowsMessage;
 using OpeningRasters = host_tests::DocumentTest;
 
 PageItem MapOf(const std::vector<std::string>& paths) {
@@ -84,13 +84,10 @@ TEST_F(OpeningRasters, WhatIsMissingIsToldWithItsPlace) {
     host::Page page(400.0, 300.0);
     page.Items().push_back(host::FindItemType("frame")->make());
     page.Items().push_back(MapOf({folder.Path("scene.tif"), folder.Path("none.tif")}));
-    try {
-        OpenRasters(page, store);
-        FAIL();
-    } catch (const host::PageError& error) {
-        EXPECT_EQ(std::string(error.what()),
-                  "elements[1].rasters: " + folder.Path("none.tif") + ": no such file");
-    }
+    EXPECT_THAT(
+        [&] { OpenRasters(page, store); },
+        ThrowsMessage<host::PageError>("elements[1].rasters: " + folder.Path("none.tif") +
+                                       ": no such file"));
     EXPECT_EQ(std::get<MapFrame>(page.Items()[1]).picture, nullptr);
 }
 
@@ -142,23 +139,17 @@ TEST_F(OpeningRasters, BandsThatThereAreNotAreToldWithTheirFile) {
           {"one.tif", std::vector{1}, "has one band only, so that none can be chosen"}}) {
         PageItem item = MapOf({folder.Path(name)});
         std::get<MapFrame>(item).style.bands = bands;
-        try {
-            OpenRasters(item, store);
-            FAIL();
-        } catch (const host::PageError& error) {
-            EXPECT_EQ(std::string(error.what()),
-                      "rasters: " + folder.Path(name) + ": " + why);
-        }
+        EXPECT_THAT(
+            [&] { OpenRasters(item, store); },
+            ThrowsMessage<host::PageError>("rasters: " + folder.Path(name) + ": " + why));
     }
 }
 
-struct FileRow {
-    std::string element;
-    std::string error;
-};
-
 TEST_F(OpeningRasters, FilesAndFontsThatCannotBeUsedAreTold) {
-    const FileRow rows[] = {
+    const struct {
+        std::string element;
+        std::string error;
+    } rows[] = {
         {R"({"type": "picture", "path": "logo.png"})", ""},
         {R"({"type": "picture", "path": "none.png"})",
          "elements[0].path: " + folder.Path("none.png") + ": No such file or directory"},
@@ -173,11 +164,9 @@ TEST_F(OpeningRasters, FilesAndFontsThatCannotBeUsedAreTold) {
         {R"({"type": "legend", "titleFont": "Nosuch Grotesk"})",
          "elements[0].titleFont: no font family \"Nosuch Grotesk\" is installed"},
     };
-    for (const FileRow& row : rows) {
-        const host::Page page = host::ReadPage(
-            R"({"version": 2, "width": 400, "height": 300, "elements": [)" + row.element +
-                "]}",
-            host::FilePaths(folder.Path("page.json")));
+    for (const auto& row : rows) {
+        const host::Page page = host::ReadPage(host_tests::PageText(row.element),
+                                               host::FilePaths(folder.Path("page.json")));
         std::string error;
         try {
             CheckFilesAndFonts(page);

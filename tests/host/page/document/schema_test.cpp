@@ -1,7 +1,5 @@
 #include "page/document/schema.h"
 
-#include <gmock/gmock.h>
-
 #include <fstream>
 #include <iterator>
 #include <nlohmann/json.hpp>

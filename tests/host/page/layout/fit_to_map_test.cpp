@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <memory>
 
 #include "map_surround/north_arrow.h"
 #include "map_surround/scale_bar.h"
@@ -20,14 +19,12 @@ namespace {
 
 using host::Box;
 
-struct WidenedRow {
-    Box given;
-    double aspectRatio;
-    Box expected;
-};
-
 TEST(WidenedExtent, HasTheProportionsOfTheFrame) {
-    const WidenedRow rows[] = {
+    const struct {
+        Box given;
+        double aspectRatio;
+        Box expected;
+    } rows[] = {
         {{0, 0, 10, 10}, 2.0, {-5, 0, 15, 10}},
         {{0, 0, 10, 10}, 0.5, {0, -5, 10, 15}},
         {{100, 200, 140, 220}, 2.0, {100, 200, 140, 220}},
@@ -36,7 +33,7 @@ TEST(WidenedExtent, HasTheProportionsOfTheFrame) {
         {{0, 0, 10, 10}, HUGE_VAL, {0, 0, 10, 10}},
         {{0, 0, 10, 10}, std::nan(""), {0, 0, 10, 10}},
     };
-    for (const WidenedRow& row : rows) {
+    for (const auto& row : rows) {
         const Box extent = host::Widened(row.given, row.aspectRatio);
         EXPECT_DOUBLE_EQ(extent.left, row.expected.left) << row.aspectRatio;
         EXPECT_DOUBLE_EQ(extent.bottom, row.expected.bottom) << row.aspectRatio;
@@ -71,17 +68,15 @@ protected:
     std::vector<std::string> remarks;
 };
 
-struct BarRow {
-    std::string properties;
-    std::string extent;
-    double value;
-    double length;
-};
-
 TEST_F(FitToMap, DivisionsAreTrueToTheMap) {
     const std::string half =
         R"({"left": 500000, "bottom": 8999550, "right": 500600, "top": 9000000})";
-    const BarRow rows[] = {
+    const struct {
+        std::string properties;
+        std::string extent;
+        double value;
+        double length;
+    } rows[] = {
         // True, and so left alone, though 75 is not round.
         {R"("distances": "map", "divisionValue": 75, "divisionLength": 25)", "null", 75,
          25},
@@ -108,7 +103,7 @@ TEST_F(FitToMap, DivisionsAreTrueToTheMap) {
         {R"("distances": "map", "unit": "ft", "divisionValue": 1, "divisionLength": 25)",
          "null", 200, 200.0 * 0.3048 / 3.0},
     };
-    for (const BarRow& row : rows) {
+    for (const auto& row : rows) {
         const host::ScaleBarFrame& frame =
             FitBar(R"({"type": "scale-bar-line", "divisions": 1, "units": "m", )" +
                        row.properties + "}",

@@ -1,12 +1,10 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <memory>
 #include <optional>
 #include <regex>
 #include <stdexcept>
 #include <string>
-#include <variant>
 #include <vector>
 
 #include "legend/fake_sources.h"

@@ -5,9 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <memory>
 #include <string>
-#include <variant>
 #include <vector>
 
 #include "map_surround/picture.h"

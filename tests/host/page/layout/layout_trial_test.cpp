@@ -6,11 +6,9 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <memory>
 #include <random>
 #include <sstream>
 #include <string>
-#include <vector>
 
 #include "legend/fake_sources.h"
 #include "page/layout/laid_out.h"

@@ -4,7 +4,6 @@
 #include <cstdlib>
 #include <memory>
 #include <set>
-#include <string>
 #include <vector>
 
 #include "legend/fake_sources.h"

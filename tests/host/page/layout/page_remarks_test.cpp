@@ -29,12 +29,6 @@ std::string At(int left, int top, int width, int height) {
            ", \"height\": " + std::to_string(height);
 }
 
-struct RemarksRow {
-    const char* what;
-    std::string elements;
-    std::vector<std::string> remarks;  ///< how each begins
-};
-
 TEST_F(PageRemarks, TellOfEachElementWhatAReaderWouldStumbleOver) {
     const std::string map =
         Item("map", At(50, 250, 200, 200), R"("rasters": ["scene.tif"], )");
@@ -51,7 +45,11 @@ TEST_F(PageRemarks, TellOfEachElementWhatAReaderWouldStumbleOver) {
                         R"(, "divisionValue": 100, "divisionLength": )" +
                         std::to_string(length) + ", ");
     };
-    const RemarksRow rows[] = {
+    const struct {
+        const char* what;
+        std::string elements;
+        std::vector<std::string> remarks;  ///< how each begins
+    } rows[] = {
         {"a page as it should be", neatLine + "," + map + "," + title, {}},
         {"drawn in another order", title + "," + map + "," + neatLine, {}},
         {"within the map", map + "," + Item("title", At(60, 240, 100, 28), text), {}},
@@ -116,12 +114,10 @@ TEST_F(PageRemarks, TellOfEachElementWhatAReaderWouldStumbleOver) {
          bar(4, 30, 40.0),
          {"scale-bar: its ticks are less than 0.5 mm apart"}},
     };
-    for (const RemarksRow& row : rows) {
+    for (const auto& row : rows) {
         SCOPED_TRACE(row.what);
-        const host::Page page = host::ReadPage(
-            R"({"version": 2, "width": 400, "height": 300, "elements": [)" +
-                row.elements + "]}",
-            host::FilePaths(folder.Path("page.json")));
+        const host::Page page = host::ReadPage(host_tests::PageText(row.elements),
+                                               host::FilePaths(folder.Path("page.json")));
         const std::vector<std::string> remarks = host::RemarksOf(page);
         EXPECT_EQ(remarks.size(), row.remarks.size())
             << ::testing::PrintToString(remarks);

@@ -240,20 +240,18 @@ MadeRaster Cornered(double xStep, double yStep) {
     return raster;
 }
 
-struct PartRow {
-    MadeRaster raster;
-    host::Box extent;  ///< 4 x 4 pixels, of which 3 x 3 lie on the raster
-    int redX;          ///< where the corner pixel is then
-    int redY;
-};
-
 TEST_F(MapLayers, ShowTheExtentAskedFor) {
-    const PartRow rows[] = {
+    const struct {
+        MadeRaster raster;
+        host::Box extent;  ///< 4 x 4 pixels, of which 3 x 3 lie on the raster
+        int redX;          ///< where the corner pixel is then
+        int redY;
+    } rows[] = {
         {Cornered(10.0, -10.0), {-10.0, 50.0, 30.0, 90.0}, 1, 1},
         {Cornered(-10.0, -10.0), {50.0, 50.0, 90.0, 90.0}, 2, 1},
         {Cornered(10.0, 10.0), {-10.0, -10.0, 30.0, 30.0}, 1, 2},
     };
-    for (const PartRow& row : rows) {
+    for (const auto& row : rows) {
         host::MapLayers map = Layers({row.raster}, row.extent);
         ExpectExtent(map.Extent(), row.extent.left, row.extent.bottom, row.extent.right,
                      row.extent.top);

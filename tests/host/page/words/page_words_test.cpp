@@ -5,7 +5,6 @@
 
 #include <cmath>
 #include <functional>
-#include <set>
 #include <string>
 
 #include "legend/fake_sources.h"

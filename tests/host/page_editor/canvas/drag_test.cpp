@@ -9,7 +9,6 @@ namespace {
 
 using editor_tests::EditorTest;
 using editor_tests::ExpectBox;
-using host::Box;
 using ::testing::ElementsAre;
 
 /// Two north arrows far from each other and from the lines of the sheet.
@@ -105,15 +104,13 @@ TEST_F(Dragging, IsGivenUpByAnyCommand) {
     ExpectImageIsThePage();
 }
 
-struct SnapRow {
-    const char* what;
-    CPoint2D by;    // the move
-    CPoint2D left;  // where the lower left corner is then
-};
-
 TEST_F(Dragging, IsDrawnToLines) {
     const double middle = document.Page().Width() / 2.0;
-    const SnapRow rows[] = {
+    const struct {
+        const char* what;
+        CPoint2D by;    // the move
+        CPoint2D left;  // where the lower left corner is then
+    } rows[] = {
         {"the left of the sheet", {-96.0, 100.0}, {0.0, 200.0}},
         {"its left to the left of the other", {597.0, 100.0}, {700.0, 200.0}},
         {"its right to the left of the other", {504.0, 100.0}, {600.0, 200.0}},
@@ -121,7 +118,7 @@ TEST_F(Dragging, IsDrawnToLines) {
         {"its top to the bottom of the other", {100.0, 403.0}, {200.0, 500.0}},
         {"nothing", {300.0, 100.0}, {400.0, 200.0}},
     };
-    for (const SnapRow& row : rows) {
+    for (const auto& row : rows) {
         SCOPED_TRACE(row.what);
         DragTo(CPoint2D(150.0, 150.0), CPoint2D(150.0 + row.by.x, 150.0 + row.by.y));
         EXPECT_NEAR(BoxOf(0).left, row.left.x, 1e-6);

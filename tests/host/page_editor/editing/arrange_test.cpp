@@ -17,15 +17,13 @@ using ::testing::ElementsAre;
 const std::vector<host::Box> kBoxes = {
     {0.0, 0.0, 10.0, 20.0}, {90.0, 50.0, 110.0, 60.0}, {20.0, 30.0, 30.0, 70.0}};
 
-struct Alignment {
-    AlignTo to;
-    std::vector<double> offsets;  // along the direction of the alignment
-    bool isAcross;
-};
-
 TEST(Arrange, AlignsWithTheBoxAroundAll) {
     // Around all: from 0 to 110 across, its middle at 55; from 0 to 70 upwards.
-    const Alignment rows[] = {
+    const struct {
+        AlignTo to;
+        std::vector<double> offsets;  // along the direction of the alignment
+        bool isAcross;
+    } rows[] = {
         {AlignTo::Left, {0.0, -90.0, -20.0}, true},
         {AlignTo::Centre, {50.0, -45.0, 30.0}, true},
         {AlignTo::Right, {100.0, 0.0, 80.0}, true},
@@ -33,7 +31,7 @@ TEST(Arrange, AlignsWithTheBoxAroundAll) {
         {AlignTo::Middle, {25.0, -20.0, -15.0}, false},
         {AlignTo::Bottom, {0.0, -50.0, -30.0}, false},
     };
-    for (const Alignment& row : rows) {
+    for (const auto& row : rows) {
         const auto offsets =
             page_editor::AlignOffsets(kBoxes, row.to, page_editor::Around(kBoxes));
         for (std::size_t i = 0; i < kBoxes.size(); ++i) {

@@ -2,7 +2,6 @@
 
 #include <gmock/gmock.h>
 
-#include <QAbstractButton>
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>

@@ -23,20 +23,18 @@ protected:
     }
 };
 
-struct AlignRow {
-    const char* command;
-    double x;  // how far the second of the three moves
-    double y;
-};
-
 TEST_F(ArrangeCommands, Align) {
-    const AlignRow rows[] = {
+    const struct {
+        const char* command;
+        double x;  // how far the second of the three moves
+        double y;
+    } rows[] = {
         {"alignLeft", -50.0, 0.0},   {"alignCentre", 220.0, 0.0},
         {"alignRight", 490.0, 0.0},  {"alignTop", 0.0, 90.0},
         {"alignMiddle", 0.0, -55.0}, {"alignBottom", 0.0, -200.0},
     };
     document.Select({0, 1, 2});
-    for (const AlignRow& row : rows) {
+    for (const auto& row : rows) {
         SCOPED_TRACE(row.command);
         Command(row.command);
         ExpectBox(BoxOf(1), {150.0 + row.x, 300.0 + row.y, 210.0 + row.x, 360.0 + row.y});

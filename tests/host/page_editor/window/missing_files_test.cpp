@@ -3,7 +3,6 @@
 #include <gmock/gmock.h>
 
 #include <QFile>
-#include <QPlainTextEdit>
 #include <fstream>
 #include <iterator>
 #include <set>

@@ -18,7 +18,6 @@ using editor_tests::Answers;
 using page_editor::EditorWindow;
 using page_editor::Recovery;
 using ::testing::IsEmpty;
-using ::testing::SizeIs;
 
 constexpr const char* kFolder = "EDITOR_TESTS_FOLDER";
 
