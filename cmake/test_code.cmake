@@ -3,7 +3,8 @@
 # the few that compute much themselves there is busy_test_code().
 add_library(map_surround_test_code INTERFACE)
 if(NOT MSVC)
-  target_compile_options(map_surround_test_code INTERFACE -O0)
+  target_compile_options(map_surround_test_code INTERFACE -O0
+    $<$<CXX_COMPILER_ID:GNU>:-Wno-subobject-linkage>)
 endif()
 
 # What most tests include, read once for all of them.
@@ -21,6 +22,7 @@ endfunction()
 function(use_test_headers target)
   target_link_libraries(${target} PRIVATE map_surround_test_code)
   target_precompile_headers(${target} REUSE_FROM map_surround_test_headers)
+  compile_several_at_once(${target})
 endfunction()
 
 # Source files of the calling folder whose tests take longer to run than to optimise.

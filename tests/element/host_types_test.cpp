@@ -1,14 +1,11 @@
 #include <gtest/gtest.h>
 
-#include <limits>
-
+#include "element/no_numbers.h"
 #include "host/device_geometry.h"
 #include "host/raster_data.h"
 #include "legend/fake_sources.h"
 
 namespace {
-
-constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 
 TEST(HostTypes, ABoxSpansItsCornersInAnyOrder) {
     const struct {
@@ -23,8 +20,8 @@ TEST(HostTypes, ABoxSpansItsCornersInAnyOrder) {
         {"from bottom right", CBoundingBox(110, 20, 10, 70), 10, 70, 100, 50, false},
         {"from top right", CBoundingBox(110, 70, 10, 20), 10, 70, 100, 50, false},
         {"a point", CBoundingBox(5, 6, 5, 6), 5, 6, 0, 0, false},
-        {"no left", CBoundingBox(kNaN, 0, 9, 9), 0, 0, 0, 0, true},
-        {"no bottom", CBoundingBox(0, kNaN, 9, 9), 0, 0, 0, 0, true},
+        {"no left", CBoundingBox(kNan, 0, 9, 9), 0, 0, 0, 0, true},
+        {"no bottom", CBoundingBox(0, kNan, 9, 9), 0, 0, 0, 0, true},
     };
     for (const auto& row : rows) {
         CBoundingBox box = row.box;

@@ -4,18 +4,15 @@
 #include <climits>
 #include <clocale>
 #include <cmath>
-#include <limits>
 #include <locale>
 #include <sstream>
 #include <string>
 #include <utility>
 
+#include "element/no_numbers.h"
 #include "host/common_functions.h"
 
 namespace {
-
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
-constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
 
 // The exact binary value decides; in decimal the doubles behind these literals are
 //   0.1

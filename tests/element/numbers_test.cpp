@@ -16,6 +16,10 @@ static_assert(Truncate(1e12) == std::numeric_limits<std::int32_t>::max());
 static_assert(Truncate(std::numeric_limits<double>::quiet_NaN()) == 0);
 
 TEST(Numbers, TruncateGoesTowardZeroAndSaturates) {
+    struct Row {
+        double value;
+        std::int32_t truncated;
+    };
     constexpr double infinity = std::numeric_limits<double>::infinity();
     const struct {
         double value;

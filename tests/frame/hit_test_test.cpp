@@ -1,17 +1,14 @@
 #include <gtest/gtest.h>
 
 #include <iterator>
-#include <limits>
 #include <utility>
 
+#include "element/no_numbers.h"
 #include "map_surround/frame.h"
 
 namespace {
 
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
-constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
-
-struct Row {
+struct HitRow {
     const char* name;
     double x;
     double y;
@@ -21,9 +18,9 @@ struct Row {
     int handle;
 };
 
-void Ask(CFrameBase& frame, const Row* rows, std::size_t count) {
+void Ask(CFrameBase& frame, const HitRow* rows, std::size_t count) {
     for (std::size_t i = 0; i < count; ++i) {
-        const Row& row = rows[i];
+        const HitRow& row = rows[i];
         frame.HitHandle = 99;
         EXPECT_EQ(frame.HitTest(CPoint2D(row.x, row.y), row.tolerance, row.insideOnly),
                   row.relation)
@@ -34,7 +31,7 @@ void Ask(CFrameBase& frame, const Row* rows, std::size_t count) {
 
 // From (10, 20) to (110, 70): the middles are x 60 and y 45.
 TEST(HitTest, FindsTheHandlesFromInside) {
-    const Row rows[] = {
+    const HitRow rows[] = {
         {"top left", 10, 70, 0, false, TopoOnHandle, 0},
         {"top middle", 60, 70, 0, false, TopoOnHandle, 1},
         {"top right", 110, 70, 0, false, TopoOnHandle, 2},
@@ -85,11 +82,11 @@ TEST(HitTest, FindsTheHandlesFromInside) {
         {"below bottom right", 110, 19.999, 3, false, TopoDisjoint, -1},
 
         {"negative tolerance on a handle", 10, 70, -1, false, TopoWithin, -1},
-        {"tolerance of no number", 10, 70, kNaN, false, TopoWithin, -1},
+        {"tolerance of no number", 10, 70, kNan, false, TopoWithin, -1},
         {"minus zero is zero", 10, 70, -0.0, false, TopoOnHandle, 0},
         {"endless tolerance", 60, 45, kInfinity, false, TopoOnHandle, 0},
         {"endless tolerance, outside", 0, 0, kInfinity, false, TopoDisjoint, -1},
-        {"a point of no number", kNaN, 45, 3, false, TopoDisjoint, -1},
+        {"a point of no number", kNan, 45, 3, false, TopoDisjoint, -1},
         {"an endless point", kInfinity, 45, kInfinity, false, TopoDisjoint, -1},
     };
     CFrameBase frame;
@@ -101,7 +98,7 @@ TEST(HitTest, FindsTheHandlesFromInside) {
 }
 
 TEST(HitTest, TakesTheFirstHandleOfANarrowFrame) {
-    const Row rows[] = {
+    const HitRow rows[] = {
         {"on top left and top middle", 1, 100, 5, false, TopoOnHandle, 0},
         {"near all handles of the top", 2, 98, 5, false, TopoOnHandle, 0},
         {"near all handles of the middle", 2, 50, 5, false, TopoOnHandle, 3},
@@ -115,11 +112,11 @@ TEST(HitTest, TakesTheFirstHandleOfANarrowFrame) {
 
 TEST(HitTest, AnswersForStrangeExtents) {
     const CBoundingBox point(5, 5, 5, 5);
-    const CBoundingBox noNumber(kNaN, 0, 9, 9);
+    const CBoundingBox noNumber(kNan, 0, 9, 9);
     // Each handle is at an infinity or nowhere.
     const CBoundingBox endless(-kInfinity, -kInfinity, kInfinity, kInfinity);
     const CBoundingBox wide(-1.7e308, 0, 1.7e308, 10);  // wider than a double
-    const std::pair<CBoundingBox, Row> rows[] = {
+    const std::pair<CBoundingBox, HitRow> rows[] = {
         {CBoundingBox(), {"default", 0, 0, kInfinity, false, TopoDisjoint, -1}},
         {CBoundingBox(), {"default, its edge", 1, 1, 9, true, TopoDisjoint, -1}},
         {point, {"a point", 5, 5, 0, false, TopoOnHandle, 0}},
@@ -164,7 +161,7 @@ TEST(SetOffset, MovesTheExtent) {
 }
 
 TEST(SetOffset, LeavesAnEmptyExtentEmpty) {
-    for (const double offset : {0.0, 1.0, 1e300, kInfinity, kNaN}) {
+    for (const double offset : {0.0, 1.0, 1e300, kInfinity, kNan}) {
         CFrameBase frame;
         frame.SetOffset(offset, offset);
         EXPECT_EQ(frame.GetExtent().GetWidth(), 0);

@@ -6,6 +6,8 @@
 #include <cmath>
 #include <limits>
 
+#include "element/no_numbers.h"
+
 namespace {
 
 using map_surround::kit::Division;
@@ -56,8 +58,6 @@ TEST(LargestDivision, IsRoundAndAsLongAsItsValue) {
 }
 
 TEST(LargestDivision, IsNoneWhereNoneCanBe) {
-    constexpr double kInfinity = std::numeric_limits<double>::infinity();
-    constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
     for (const double number : {0.0, -1.0, kInfinity, kNan}) {
         EXPECT_FALSE(LargestDivision(number, 3, 700.0).has_value()) << number;
         EXPECT_FALSE(LargestDivision(2.5, 3, number).has_value()) << number;

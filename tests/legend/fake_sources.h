@@ -12,6 +12,9 @@
 /// Data sources that live in memory, and answer what a test tells them.
 namespace fakes {
 
+/// A display type that there is none of.
+constexpr auto kUnknown = static_cast<DataDisplayType>(7);
+
 /// What a source answers, one value a question; the last goes on answering. A plain value
 /// answers every time.
 template <typename T>

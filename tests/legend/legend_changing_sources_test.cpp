@@ -13,30 +13,23 @@
 namespace {
 
 using fakes::Answers;
+using fakes::kUnknown;
 using fakes::Raster;
 using namespace recording;
 
-constexpr auto kUnknown = static_cast<DataDisplayType>(7);
-
 /// Rows of 10, swatches of 6, samples 40 wide: a title without ink and a source come to
 /// 24 + 10 + 12 - 12 = 34 and the entries, 120 wide.
-ink::Size Ink(const std::string& text, const std::string&, float) {
+ink::Size ShortInk(const std::string& text, const std::string&, float) {
     return text == "Band_1" ? ink::Size{40, 10}
            : text == "one"  ? ink::Size{41, 10}
            : text == "two"  ? ink::Size{60, 10}
                             : ink::Size{0, 0};
 }
 
-void Measure(CMapLegend& legend) {
-    Recording recording(Mode::RecordOnly);
-    ink::Script(recording, Ink);
-    legend.ResetAspectRatio();
-}
-
 std::vector<std::string> Draw(CMapLegend& legend) {
     Surface surface;
     Recording recording(Mode::RecordOnly);
-    ink::Script(recording, Ink);
+    ink::Script(recording, ShortInk);
     legend.Draw(surface.Graphics(), CPoint(0, 0), 1.0);
     return recording.Drawing();
 }
@@ -73,7 +66,7 @@ TEST(LegendOfChangingSources, TheDisplayTypeIsAskedForEachComparison) {
         raster.table.items = {{L"", 0, 0, 0}, {L"", 0, 0, 0}};
         CMapLegend legend;
         legend.SetDataSouce({&raster});
-        Measure(legend);
+        ink::Measure(legend, ShortInk);
         EXPECT_EQ(legend.GetSize(), 34 + row.entries);
         EXPECT_EQ(raster.displayType.Asked(), row.asked);
         raster.displayType.Rewind();
@@ -88,7 +81,7 @@ TEST(LegendOfChangingSources, AvailabilityAndTypeAreAskedOnce) {
     raster.type = Answers<GISDataSourceType>({DataSourceRaster, DataSourceUnknown});
     CMapLegend legend;
     legend.SetDataSouce({&raster});
-    Measure(legend);
+    ink::Measure(legend, ShortInk);
     EXPECT_EQ(legend.GetSize(), 34);
     EXPECT_EQ(raster.available.Asked(), 1U);
     EXPECT_EQ(raster.type.Asked(), 1U);
@@ -130,7 +123,7 @@ TEST(LegendOfChangingSources, TheHeightTakesTheFirstCountAndTheWidthFreshOnes) {
         raster.table.Claim(row.counts);
         CMapLegend legend;
         legend.SetDataSouce({&raster});
-        Measure(legend);
+        ink::Measure(legend, ShortInk);
         EXPECT_EQ(legend.GetSize(), row.height);
         EXPECT_EQ(legend.GetAspectRatio(),
                   static_cast<float>(row.width) / static_cast<float>(row.height));
@@ -183,13 +176,13 @@ TEST(LegendOfChangingSources, WhereTheDrawingAsksForTheCount) {
         CMapLegend legend;
         legend.SetDataSouce({&raster, &after});
         // 34 + 36 + 22 for the other source; the title has no ink.
-        Measure(legend);
+        ink::Measure(legend, ShortInk);
         ASSERT_EQ(legend.GetSize(), 92);
         raster.table.Claim(row.counts);
 
         Surface surface;
         Recording recording(Mode::RecordOnly);
-        ink::Script(recording, Ink);
+        ink::Script(recording, ShortInk);
         legend.Draw(surface.Graphics(), CPoint(0, 0), 1.0);
         const std::vector<std::string> drawing = recording.Drawing();
         ASSERT_EQ(drawing.size(), static_cast<std::size_t>(2 + 2 * row.classes + 1));
@@ -223,7 +216,7 @@ TEST(LegendOfChangingSources, TheLengthOfTheListIsReadAfterEachSource) {
         first.whenAsked = [&] { legend.SetDataSouce(row.after); };
 
         legend.SetDataSouce(row.before);
-        Measure(legend);
+        ink::Measure(legend, ShortInk);
         EXPECT_EQ(legend.GetSize(), 12 + 22 * static_cast<int>(row.names));
 
         legend.SetDataSouce(row.before);
@@ -237,7 +230,7 @@ TEST(LegendOfChangingSources, OneThatThrowsDoesNotScaleTheFontSizes) {
     Raster raster(L"one", DisplayRGB);
     CMapLegend legend;
     legend.SetDataSouce({&raster});
-    Measure(legend);
+    ink::Measure(legend, ShortInk);
     const std::vector<std::string> before = Draw(legend);
     const int size = legend.GetSize();
     const float aspectRatio = legend.GetAspectRatio();
@@ -249,7 +242,7 @@ TEST(LegendOfChangingSources, OneThatThrowsDoesNotScaleTheFontSizes) {
         throw std::runtime_error("the file is gone");
     };
     for (int time = 1; time <= 2; ++time) {
-        EXPECT_THROW(Measure(legend), std::runtime_error);
+        EXPECT_THROW(ink::Measure(legend, ShortInk), std::runtime_error);
         EXPECT_EQ(legend.GetTitleSize(), 20.0f);
         EXPECT_EQ(legend.GetFileNameSize(), 15.0f);
         EXPECT_EQ(legend.GetSize(), size);

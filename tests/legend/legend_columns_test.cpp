@@ -24,7 +24,7 @@ constexpr int kGap = 12;
 constexpr int kTitle = 13 + 2 * kGap;
 
 /// Every character is 10 wide, in Arial; half as wide in any other family.
-ink::Size Ink(const std::string& text, const std::string& family, float) {
+ink::Size ColumnInk(const std::string& text, const std::string& family, float) {
     const auto characters = static_cast<int>(std::count_if(
         text.begin(), text.end(), [](char c) { return (c & 0xC0) != 0x80; }));
     return text == "Band_1" ? ink::Size{40, 13}
@@ -38,9 +38,8 @@ public:
         for (const char letter : letters) {
             m_rasters.emplace_back(L"name", letter == 'r'   ? DisplayRGB
                                             : letter == 'g' ? DisplayGray
-                                            : letter == 'u'
-                                                ? static_cast<DataDisplayType>(7)
-                                                : DisplayClassified);
+                                            : letter == 'u' ? fakes::kUnknown
+                                                            : DisplayClassified);
             const int classes = letter >= '0' && letter <= '9' ? letter - '0' : 0;
             m_rasters.back().table.items.assign(static_cast<std::size_t>(classes),
                                                 {L"class", 1, 2, 3});
@@ -59,12 +58,6 @@ private:
     std::deque<Raster> m_rasters;
 };
 
-void Measure(CMapLegend& legend) {
-    Recording recording(Mode::RecordOnly);
-    ink::Script(recording, Ink);
-    legend.ResetAspectRatio();
-}
-
 int WidthOf(const CMapLegend& legend) {
     return static_cast<int>(
         std::lround(static_cast<float>(legend.GetSize()) * legend.GetAspectRatio()));
@@ -79,7 +72,7 @@ struct Text {
 std::vector<Text> TextsOf(CMapLegend& legend) {
     Surface surface;
     Recording recording(Mode::RecordOnly);
-    ink::Script(recording, Ink);
+    ink::Script(recording, ColumnInk);
     const CPoint middle((WidthOf(legend) + 1) / 2, (legend.GetSize() + 1) / 2);
     legend.Draw(surface.Graphics(), middle, 1.0);
     std::vector<Text> texts;
@@ -163,7 +156,7 @@ TEST(LegendColumns, AreAsLowAndAsEqualAsTheyCanBe) {
         legend.SetDataSouce(sources.All());
         legend.SetColumns(row.columns);
         EXPECT_EQ(legend.GetColumns(), row.columns);
-        Measure(legend);
+        ink::Measure(legend, ColumnInk);
         EXPECT_EQ(legend.GetSize(), kTitle + row.height);
         EXPECT_EQ(RowsOf(legend), row.rows);
     }
@@ -174,7 +167,7 @@ TEST(LegendColumns, AreSixtyFourAtMost) {
     Legend legend;
     legend.SetDataSouce(sources.All());
     legend.SetColumns(100);
-    Measure(legend);
+    ink::Measure(legend, ColumnInk);
     const std::string rows = RowsOf(legend);
     EXPECT_EQ(std::count(rows.begin(), rows.end(), '|'), 63) << rows;
     EXPECT_EQ(legend.GetSize(), kTitle + 13 + kGap + 13);
@@ -250,7 +243,7 @@ TEST(LegendColumns, NoOtherWayIsLowerOrMoreEqual) {
         Legend legend;
         legend.SetDataSouce(sources.All());
         legend.SetColumns(columns);
-        Measure(legend);
+        ink::Measure(legend, ColumnInk);
         unsigned starts = 0;
         int piece = -1;
         char before = '|';
@@ -345,7 +338,7 @@ TEST(LegendColumns, AreAsWideAsTheWidest) {
         legend.SetDataSouce(sources.All());
         legend.SetColumns(row.columns);
         row.change(legend, sources);
-        Measure(legend);
+        ink::Measure(legend, ColumnInk);
         EXPECT_EQ(WidthOf(legend), row.width);
         // The second column begins as far right as it is wide and half a swatch.
         const std::vector<Text> texts = TextsOf(legend);
@@ -364,7 +357,7 @@ TEST(LegendColumns, SourcesThatChangeAreDrawnInTheColumnsMeasured) {
     Legend legend;
     legend.SetDataSouce(sources.All());
     legend.SetColumns(2);
-    Measure(legend);
+    ink::Measure(legend, ColumnInk);
     EXPECT_EQ(RowsOf(legend), "nc|ccc");
     sources[0].table.items.resize(7, {L"class", 1, 2, 3});
     EXPECT_EQ(RowsOf(legend), "nc|cccccc");
@@ -374,7 +367,7 @@ TEST(LegendColumns, SourcesThatChangeAreDrawnInTheColumnsMeasured) {
     sources[0].table.items.resize(1, {L"class", 1, 2, 3});
     EXPECT_EQ(RowsOf(legend), "nc");
     legend.SetColumns(1);
-    Measure(legend);
+    ink::Measure(legend, ColumnInk);
     sources[0].table.items.resize(4, {L"class", 1, 2, 3});
     EXPECT_EQ(RowsOf(legend), "ncccc");
 }

@@ -10,11 +10,10 @@
 
 namespace {
 
+using fakes::kUnknown;
 using fakes::Raster;
 using fakes::Vector;
 using namespace recording;
-
-constexpr auto kUnknown = static_cast<DataDisplayType>(7);
 
 /// Sources to choose from, by a letter each.
 struct Shelf {

@@ -13,12 +13,6 @@ namespace {
 using fakes::Raster;
 using namespace recording;
 
-void Measure(CMapLegend& legend) {
-    Recording recording(Mode::RecordOnly);
-    ink::Script(recording, ink::Typical);
-    legend.ResetAspectRatio();
-}
-
 /// A legend with everything set, its sources and the size it was measured to.
 struct Described {
     Raster rgb{L"a.tif", DisplayRGB};
@@ -51,7 +45,7 @@ struct Described {
         legend.SetMostLines(3);
         legend.SetSizeAspect(factor);
         legend.SetDataSouce({&rgb, &gray, &classes});
-        Measure(legend);
+        ink::Measure(legend, ink::Typical);
         size = legend.GetSize();
         aspectRatio = legend.GetAspectRatio();
     }
@@ -128,7 +122,7 @@ TEST(LegendProperties, AFreshLegendHasItsDefaults) {
 
 TEST(LegendProperties, TheSizeFactorIsOneAtFirst) {
     CMapLegend legend;
-    Measure(legend);
+    ink::Measure(legend, ink::Typical);
     EXPECT_EQ(legend.GetTitleSize(), 20.0f);
     EXPECT_EQ(legend.GetFileNameSize(), 15.0f);
 }
@@ -155,7 +149,7 @@ TEST(LegendProperties, MeasuringOverwritesTheHostsSize) {
     Described built;
     built.legend.SetSize(999);
     built.legend.SetAspectRatio(99.0f);
-    Measure(built.legend);
+    ink::Measure(built.legend, ink::Typical);
     built.ExpectMeasured(built.legend);
 }
 
@@ -200,7 +194,7 @@ TEST(LegendProperties, ACopyHasEveryFieldAndTheSameSources) {
     expectCopy(assigned);
 
     // The size factor too: measuring the copy again doubles again.
-    Measure(copy);
+    ink::Measure(copy, ink::Typical);
     EXPECT_EQ(copy.GetTitleSize(), 84.0f);
     // And from now on they are two.
     EXPECT_EQ(built.legend.GetTitleSize(), 42.0f);

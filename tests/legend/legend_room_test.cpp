@@ -18,7 +18,7 @@ using fakes::Raster;
 using namespace recording;
 
 /// Rows of 13 and samples 40 wide; any other character is 10 wide.
-ink::Size Ink(const std::string& text, const std::string&, float) {
+ink::Size RoomInk(const std::string& text, const std::string&, float) {
     const auto characters = std::count_if(text.begin(), text.end(),
                                           [](char c) { return (c & 0xC0) != 0x80; });
     return text == "Band_1" ? ink::Size{40, 13}
@@ -28,7 +28,7 @@ ink::Size Ink(const std::string& text, const std::string&, float) {
 std::vector<std::string> TextsOf(CMapLegend& legend, double scale) {
     Surface surface;
     Recording recording(Mode::RecordOnly);
-    ink::Script(recording, Ink);
+    ink::Script(recording, RoomInk);
     legend.Draw(surface.Graphics(), CPoint(0, 0), scale);
     std::vector<std::string> texts;
     for (const std::string& line : recording.Drawing()) {
@@ -39,12 +39,6 @@ std::vector<std::string> TextsOf(CMapLegend& legend, double scale) {
         }
     }
     return texts;
-}
-
-void Measure(CMapLegend& legend) {
-    Recording recording(Mode::RecordOnly);
-    ink::Script(recording, Ink);
-    legend.ResetAspectRatio();
 }
 
 TEST(LegendRoom, GapsAreSoManyRows) {
@@ -62,7 +56,7 @@ TEST(LegendRoom, GapsAreSoManyRows) {
     legend.SetDataSouce({&rgb, &gray});
     for (const auto& row : rows) {
         legend.SetGap(row.rows);
-        Measure(legend);
+        ink::Measure(legend, RoomInk);
         // The title and two gaps, three rows, a ramp of four swatches, and a gap for all
         // but the last of them.
         EXPECT_EQ(legend.GetSize(), 13 + 2 * row.gap + 13 + 3 * (7 + row.gap) + 13 +
@@ -70,15 +64,15 @@ TEST(LegendRoom, GapsAreSoManyRows) {
             << row.rows;
     }
     legend.SetGap(infinity);
-    Measure(legend);
+    ink::Measure(legend, RoomInk);
     EXPECT_EQ(legend.GetSize(), std::numeric_limits<int>::max());
 
     // The second swatch is drawn a swatch and a gap below the first.
     legend.SetGap(1.0f);
-    Measure(legend);
+    ink::Measure(legend, RoomInk);
     Surface surface;
     Recording recording(Mode::RecordOnly);
-    ink::Script(recording, Ink);
+    ink::Script(recording, RoomInk);
     legend.Draw(surface.Graphics(), CPoint(0, 0), 1.0);
     const auto top = -static_cast<float>((legend.GetSize() + 1) / 2);
     const auto width = static_cast<float>(legend.GetSize()) * legend.GetAspectRatio();
@@ -113,7 +107,7 @@ TEST(LegendRoom, NamesAndLabelsAreCutToTheWidth) {
         legend.SetSourceCaption(L"N:");
         legend.SetDataSouce({&classes});
         legend.SetMostWidth(row.width);
-        Measure(legend);
+        ink::Measure(legend, RoomInk);
         EXPECT_EQ(legend.GetAspectRatio(),
                   static_cast<float>(row.measured) / static_cast<float>(legend.GetSize()))
             << row.width;
@@ -124,20 +118,20 @@ TEST(LegendRoom, NamesAndLabelsAreCutToTheWidth) {
 }
 
 TEST(LegendRoom, ACaptionCountsWhereNamesAreCut) {
-    Raster raster(L"abcdefghijklmn", static_cast<DataDisplayType>(7));
+    Raster raster(L"abcdefghijklmn", fakes::kUnknown);
     CMapLegend legend;
     legend.SetSourceCaption(L"N:");
     legend.SetDataSouce({&raster});
     for (const auto& [most, width] : {std::pair(0.0f, 140), std::pair(200.0f, 160)}) {
         legend.SetMostWidth(most);
-        Measure(legend);
+        ink::Measure(legend, RoomInk);
         EXPECT_EQ(legend.GetAspectRatio(),
                   static_cast<float>(width) / static_cast<float>(legend.GetSize()));
     }
 }
 
 TEST(LegendRoom, NoCharacterIsCutInHalf) {
-    Raster raster(L"ab\xD83Dxyz", static_cast<DataDisplayType>(7));
+    Raster raster(L"ab\xD83Dxyz", fakes::kUnknown);
     // Where wide characters are UTF-16, nothing has to replace the half that is given.
     const char* const whole = sizeof(wchar_t) == 2 ? "ab\xED\xA0\xBDx…" : "ab\uFFFDx…";
     for (const auto& [width, text] : {std::pair(50.0f, whole), std::pair(40.0f, "ab…")}) {
@@ -145,7 +139,7 @@ TEST(LegendRoom, NoCharacterIsCutInHalf) {
         legend.SetSourceCaption(L"");
         legend.SetDataSouce({&raster});
         legend.SetMostWidth(width);
-        Measure(legend);
+        ink::Measure(legend, RoomInk);
         EXPECT_EQ(TextsOf(legend, 1.0), (std::vector<std::string>{"", text}));
     }
 }
@@ -209,13 +203,13 @@ TEST(LegendRoom, TextsAreBrokenWhereTheyMayBe) {
         {L"نهر النيل الأزرق", 9, 9, {"نهر النيل", "الأزرق"}, false},
     };
     for (const auto& row : rows) {
-        Raster raster(row.name, static_cast<DataDisplayType>(7));
+        Raster raster(row.name, fakes::kUnknown);
         CMapLegend legend;
         legend.SetSourceCaption(L"");
         legend.SetDataSouce({&raster});
         legend.SetMostWidth(std::max(0.5f, 10.0f * static_cast<float>(row.characters)));
         legend.SetMostLines(row.lines);
-        Measure(legend);
+        ink::Measure(legend, RoomInk);
         std::vector<std::string> expected = row.broken;
         expected.insert(expected.begin(), "");  // the title
         EXPECT_EQ(TextsOf(legend, 1.0), expected);
@@ -238,13 +232,13 @@ TEST(LegendRoom, LinesEndBesideTheFirstAndTheLastOfEachRange) {
                 name += static_cast<wchar_t>(character);
             }
         }
-        Raster raster(name, static_cast<DataDisplayType>(7));
+        Raster raster(name, fakes::kUnknown);
         CMapLegend legend;
         legend.SetSourceCaption(L"");
         legend.SetDataSouce({&raster});
         legend.SetMostWidth(10.0f);
         legend.SetMostLines(2);
-        Measure(legend);
+        ink::Measure(legend, RoomInk);
         return !legend.HasCutTexts();
     };
     for (const auto& [first, last] : {std::pair(U'\u2E80', U'\u9FFF'),
@@ -275,18 +269,18 @@ TEST(LegendRoom, ASwatchIsLevelWithTheFirstLineOfItsLabel) {
     legend.SetDataSouce({&classes});
     legend.SetMostLines(2);
     // Without a width there is nothing to break, and all is as it was.
-    Measure(legend);
+    ink::Measure(legend, RoomInk);
     EXPECT_EQ(legend.GetSize(), 13 + 24 + 13 + 2 * 19);
     EXPECT_FALSE(legend.HasCutTexts());
     legend.SetMostWidth(90.0f);
     for (const bool aligned : {false, true}) {
         legend.SetAlignedLabels(aligned);
-        Measure(legend);
+        ink::Measure(legend, RoomInk);
         ASSERT_EQ(legend.GetSize(), 13 + 24 + 13 + 12 + 7 + 16 + 12 + 7);
         ASSERT_EQ(legend.GetAspectRatio(), 120.0f / 104.0f);
         Surface surface;
         Recording recording(Mode::RecordOnly);
-        ink::Script(recording, Ink);
+        ink::Script(recording, RoomInk);
         legend.Draw(surface.Graphics(), CPoint(60, 52), 1.0);
         const auto placed = [](const std::string& line) {
             const std::size_t at = line.rfind('(', line.find(')'));

@@ -38,6 +38,14 @@ inline void Script(recording::Recording& recording, const Rule& rule) {
     });
 }
 
+/// Measures a legend, or whatever else has an aspect ratio, by a rule.
+template <typename Element>
+void Measure(Element& element, const Rule& rule) {
+    recording::Recording recording(recording::Mode::RecordOnly);
+    Script(recording, rule);
+    element.ResetAspectRatio();
+}
+
 /// The sizes of a few texts in whatever font; any other text has no ink.
 inline Rule Of(std::map<std::string, Size> sizes) {
     return [sizes](const std::string& text, const std::string&, float) {

@@ -30,7 +30,7 @@ struct Square {
     CMapLegend legend;
     Raster rgb{L"rgb.tif", DisplayRGB};
     Raster gray{L"高程.tif", DisplayGray};
-    Raster unknown{L"unknown.tif", static_cast<DataDisplayType>(7)};
+    Raster unknown{L"unknown.tif", fakes::kUnknown};
     Raster classes{L"classes.tif", DisplayClassified};
 
     Square() {

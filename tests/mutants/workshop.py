@@ -76,7 +76,7 @@ class Workshop:
 
         run("cmake", "--preset", "release", "-DCMAKE_CXX_COMPILER_LAUNCHER=",
             "-DCMAKE_CXX_FLAGS_RELWITHDEBINFO=-O1", "-DCMAKE_EXE_LINKER_FLAGS=-fuse-ld=lld",
-            "-DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON",
+            "-DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON", "-DCMAKE_UNITY_BUILD=OFF",
             *(f"-DMAP_SURROUND_{part}=OFF" for part in ("SHARED", "HOST", "EXAMPLES")))
         run("cmake", "--build", "--preset", "release", "--target", "library_tests")
         self._ninja = lambda *tool: run("ninja", "-C", str(self.tree), "-t", *tool)

@@ -69,6 +69,10 @@ std::string BlackLabel(const std::string& text, float x, float y, float emSize) 
     return DrawString(text, Times(emSize), x, y, BlackBrush());
 }
 
+recording::Named BlackLine(const char* name, int x1, int y1, int x2, int y2) {
+    return {name, DrawLine(BlackPen(), x1, y1, x2, y2)};
+}
+
 std::string DefaultUnitName(float x, float y, float emSize) {
     return DrawString("单位", Times(emSize), x, y, BlackBrush());
 }

@@ -53,6 +53,7 @@ std::string BlackPen(float width = 1.0f);
 std::string BlackBrush();
 std::string Times(float emSize);
 std::string BlackLabel(const std::string& text, float x, float y, float emSize = 10.0f);
+recording::Named BlackLine(const char* name, int x1, int y1, int x2, int y2);
 
 /// The unit name that a bar has from the start, of size 40 at scale 1.
 std::string DefaultUnitName(float x, float y, float emSize = 40.0f / 3.0f);

@@ -12,10 +12,6 @@ namespace {
 using namespace recording;
 using namespace scale_bar_test;
 
-Named Line(const char* name, int x1, int y1, int x2, int y2) {
-    return {name, DrawLine(BlackPen(), x1, y1, x2, y2)};
-}
-
 Named Box(const char* name, int x, int width) {
     return {name, DrawRectangle(BlackPen(), x, 156, width, 13)};
 }
@@ -40,15 +36,15 @@ BarRow Row(Style style, int mainCount, int subCount) {
 TEST(BoxRows, AlternatingCountsSmallBoxesAndDivisionsInOneRow) {
     EXPECT_TRUE(Equal(
         {
-            Line("strip top", 89, 156, 164, 156),
-            Line("strip bottom", 89, 169, 164, 169),
+            BlackLine("strip top", 89, 156, 164, 156),
+            BlackLine("strip bottom", 89, 169, 164, 169),
             Label("0.0", 89),
             Box("small box 1", 89, 6),
             Fill(89, 6),
             Box("small box 2", 95, 6),
             Box("small box 3", 101, 6),
             Fill(101, 6),
-            Line("closing line", 114, 156, 114, 169),
+            BlackLine("closing line", 114, 156, 114, 169),
             Label("1.0", 114),
             Box("division 2", 114, 25),
             Fill(114, 25),

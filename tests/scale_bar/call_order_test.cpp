@@ -30,11 +30,8 @@ Named MakeFont(const std::string& font) {
 Named DeleteFont(const std::string& font) {
     return {"delete font", "GdipDeleteFont " + font};
 }
-Named Line(const char* name, int x1, int y1, int x2, int y2) {
-    return {name, DrawLine(BlackPen(), x1, y1, x2, y2)};
-}
 
-Calls Label(const char* text, float x) {
+Calls LabelCalls(const char* text, float x) {
     return {MakeBrush(), {"label", BlackLabel(text, x, 130)}, DeleteBrush()};
 }
 
@@ -60,13 +57,13 @@ std::vector<std::string> LinesOf(Style style) {
 Calls LineStyle(int baseLine, int subTop, int subFoot, float unitTop) {
     const Named label = MakeFont(Times(10));
     const Named labelEnd = DeleteFont(Times(10));
-    return Calls{MakePen(), MakePen(), Line("tick 0", 89, 156, 89, 170), label} +
-           Label("0", 84) +
-           Calls{Line("sub tick 0", 89, subTop, 89, subFoot),
-                 Line("sub tick 1", 101, subTop, 101, subFoot), labelEnd,
-                 Line("tick 1", 114, 156, 114, 170), label} +
-           Label("1", 109) +
-           Calls{labelEnd, Line("base line", 89, baseLine, 114, baseLine)} +
+    return Calls{MakePen(), MakePen(), BlackLine("tick 0", 89, 156, 89, 170), label} +
+           LabelCalls("0", 84) +
+           Calls{BlackLine("sub tick 0", 89, subTop, 89, subFoot),
+                 BlackLine("sub tick 1", 101, subTop, 101, subFoot), labelEnd,
+                 BlackLine("tick 1", 114, 156, 114, 170), label} +
+           LabelCalls("1", 109) +
+           Calls{labelEnd, BlackLine("base line", 89, baseLine, 114, baseLine)} +
            UnitName(118, unitTop) + Calls{DeletePen(), DeletePen()};
 }
 
@@ -82,24 +79,25 @@ TEST(CallOrder, OfTheAlternatingStyle) {
         Calls{MakePen(),
               MakePen(),
               MakeBrush(),
-              Line("strip top", 89, 156, 114, 156),
-              Line("strip bottom", 89, 169, 114, 169),
+              BlackLine("strip top", 89, 156, 114, 156),
+              BlackLine("strip bottom", 89, 169, 114, 169),
               MakeFont(Times(10))} +
-        Label("0.0", 84) +
+        LabelCalls("0.0", 84) +
         Calls{{"small box", DrawRectangle(BlackPen(), 89, 156, 12, 13)},
               {"filled", FillRectangleI(BlackBrush(), 89, 156, 12, 13)},
-              Line("closing line", 114, 156, 114, 169)} +
-        Label("1.0", 109) + UnitName(118, 157) +
+              BlackLine("closing line", 114, 156, 114, 169)} +
+        LabelCalls("1.0", 109) + UnitName(118, 157) +
         Calls{DeleteFont(Times(10)), DeleteBrush(), DeletePen(), DeletePen()};
     EXPECT_TRUE(Equal(expected, LinesOf(Style::Alternate)));
 }
 
 TEST(CallOrder, OfTheEqualAlternatingStyle) {
     const Calls expected =
-        Calls{MakePen(), MakePen(), MakeBrush(), MakeFont(Times(10))} + Label("0", 84) +
-        Calls{{"box", DrawRectangle(BlackPen(), 89, 156, 25, 13)}} + Label("0", 84) +
+        Calls{MakePen(), MakePen(), MakeBrush(), MakeFont(Times(10))} +
+        LabelCalls("0", 84) + Calls{{"box", DrawRectangle(BlackPen(), 89, 156, 25, 13)}} +
+        LabelCalls("0", 84) +
         Calls{{"filled", FillRectangleI(BlackBrush(), 89, 156, 25, 13)}} +
-        Label("1", 109) + UnitName(118, 157) +
+        LabelCalls("1", 109) + UnitName(118, 157) +
         Calls{DeleteFont(Times(10)), DeleteBrush(), DeletePen(), DeletePen()};
     EXPECT_TRUE(Equal(expected, LinesOf(Style::EquAlternate)));
 }

@@ -2,6 +2,7 @@
 
 #include <limits>
 
+#include "element/no_numbers.h"
 #include "recording/lines.h"
 #include "scale_bar/bar_row.h"
 
@@ -14,7 +15,6 @@ using namespace scale_bar_test;
 
 constexpr int kLowest = std::numeric_limits<int>::min();
 constexpr int kHighest = std::numeric_limits<int>::max();
-constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
 
 // Beyond 32 bits a length is drawn at the limit. Half the height is 1073741823, so the
 // rectangle runs from there above the centre to as much below it.

@@ -5,6 +5,7 @@
 #include <type_traits>
 #include <vector>
 
+#include "element/no_numbers.h"
 #include "recording/lines.h"
 #include "scale_bar/bar_row.h"
 
@@ -19,9 +20,6 @@ static_assert(std::is_base_of_v<CScaleBarBase, CSingleDivisionScaleBar>);
 static_assert(std::is_base_of_v<CScaleLine, CSteppedScaleLine>);
 static_assert(std::has_virtual_destructor_v<CScaleBarBase>);
 static_assert(sizeof(ScaleBarType) == 4 && sizeof(ScaleBarPostion) == 4);
-
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
-constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
 
 /// A style that a host writes itself, over the base or over the style kept free.
 template <typename Base>

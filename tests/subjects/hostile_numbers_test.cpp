@@ -6,6 +6,7 @@
 #include <cmath>
 #include <limits>
 
+#include "element/no_numbers.h"
 #include "page/catalogue.h"
 #include "recording/expect.h"
 #include "recording/lines.h"
@@ -17,12 +18,10 @@ using namespace recording;
 
 constexpr int kLowest = std::numeric_limits<int>::min();
 constexpr int kHighest = std::numeric_limits<int>::max();
-constexpr float kInfinity = std::numeric_limits<float>::infinity();
-constexpr float kNan = std::numeric_limits<float>::quiet_NaN();
 
 constexpr int kInts[] = {kLowest, -40, -1, 0, 1, kHighest};
-constexpr float kFloats[] = {kNan, -kInfinity, -1e30f, -1.0f, -0.0f,
-                             0.0f, 1e-40f,     0.5f,   1e38f, kInfinity};
+constexpr float kFloats[] = {kFloatNan, -kFloatInfinity, -1e30f, -1.0f, -0.0f,
+                             0.0f,      1e-40f,          0.5f,   1e38f, kFloatInfinity};
 constexpr double kMost = std::numeric_limits<double>::max();
 constexpr double kDoubles[] = {kNan,   -kInfinity, -kMost, -1e300, -1.0,     0.0,
                                1e-300, 1.0 / 3.0,  1e9,    kMost,  kInfinity};
@@ -176,8 +175,8 @@ TEST(HostileNumbers, LeaveGdiplusAtWork) {
     ForEachElement([](CMapSurround& element) {
         for (const int size : {kLowest, -100, 0, 40, kHighest}) {
             for (const float real :
-                 {kNan, kInfinity, -3.0f, 0.0f, 0.01f, 15.0f, 400.0f}) {
-                for (const double scale : {-1.0, 0.0, 0.01, 1.0, double{kNan}}) {
+                 {kFloatNan, kFloatInfinity, -3.0f, 0.0f, 0.01f, 15.0f, 400.0f}) {
+                for (const double scale : {-1.0, 0.0, 0.01, 1.0, kNan}) {
                     Surface surface;
                     SetOwn(element, {size, real, scale});
                     element.SetAngle(real);

@@ -6,6 +6,7 @@
 #include <iterator>
 #include <limits>
 
+#include "element/no_numbers.h"
 #include "recording/expect.h"
 #include "recording/lines.h"
 
@@ -14,8 +15,6 @@ namespace {
 using namespace recording;
 
 constexpr int kMost = std::numeric_limits<int>::max();
-constexpr float kInfinity = std::numeric_limits<float>::infinity();
-constexpr float kNaN = std::numeric_limits<float>::quiet_NaN();
 
 CMapTitle Title(const std::wstring& text = L"Olinda") {
     CMapTitle title;
@@ -320,7 +319,7 @@ TEST(MapTitle, TakesTheSizeOfRealOutlines) {
 }
 
 TEST(MapTitle, IsNotTurnedByAnAngleThatIsNotFinite) {
-    for (const float angle : {kNaN, kInfinity, -kInfinity}) {
+    for (const float angle : {kFloatNan, kFloatInfinity, -kFloatInfinity}) {
         Surface surface;
         CMapTitle title;
         title.SetFontValue(L"Map");
@@ -346,11 +345,11 @@ TEST(MapTitle, IsPlacedInDoubles) {
         std::string emSize;
         std::string at;
     } rows[] = {
-        {"endless", 15.0, kInfinity, 0, "inf", "(-inf, -inf)"},
-        {"no number", 15.0, kNaN, 0, "nan", "(nan, nan)"},
+        {"endless", 15.0, kFloatInfinity, 0, "inf", "(-inf, -inf)"},
+        {"no number", 15.0, kFloatNan, 0, "nan", "(nan, nan)"},
         {"past a float", 15.0, 1e300, 0, "inf", "(-inf, -inf)"},
         {"a font size past a float", 1e300, 1.0, 100, "inf", "(70, 90)"},
-        {"no font size", kNaN, 1.0, 100, "nan", "(70, 90)"},
+        {"no font size", kFloatNan, 1.0, 100, "nan", "(70, 90)"},
         {"a far centre", 15.0, 0.0, kMost, "0", "(2147483648, 2147483648)"},
         // 2^31 - 1 - 30 * 4 is 2147483527, exact only as a double; floats are 128 apart
         {"a far centre, back", 15.0, 4.0, kMost, "60", "(2147483520, 2147483648)"},

@@ -12,6 +12,7 @@
 #include "page/document/page_format.h"
 #include "page/document/page_upgrade.h"
 #include "page/document/value_json.h"
+#include "page/language.h"
 #include "system/input_file.h"
 
 namespace host {

@@ -7,6 +7,7 @@
 
 #include "page/document/item_type.h"
 #include "page/document/page_format.h"
+#include "page/language.h"
 
 namespace host {
 namespace {

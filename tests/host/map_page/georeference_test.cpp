@@ -33,7 +33,7 @@ Opened Open(const std::string& path) {
 }
 
 /// Columns and rows, the last after the last pixel.
-struct Pixels {
+struct PixelRange {
     int left = 1 << 30;
     int top = 1 << 30;
     int right = 0;
@@ -41,7 +41,7 @@ struct Pixels {
 };
 
 /// Around the pixels that are blue.
-Pixels BluePart(GDALDataset& page) {
+PixelRange BluePart(GDALDataset& page) {
     const int width = page.GetRasterXSize();
     const int height = page.GetRasterYSize();
     const std::size_t count =
@@ -50,7 +50,7 @@ Pixels BluePart(GDALDataset& page) {
     EXPECT_EQ(page.RasterIO(GF_Read, 0, 0, width, height, rgb.data(), width, height,
                             GDT_Byte, 3, nullptr, 0, 0, 0),
               CE_None);
-    Pixels part;
+    PixelRange part;
     for (std::size_t i = 0; i < count; ++i) {
         if (rgb[i + 2 * count] > rgb[i] + 60) {
             const int x = static_cast<int>(i) % width;
@@ -85,6 +85,12 @@ protected:
 };
 
 TEST_F(Georeference, IsThatOfWhatThePageShows) {
+    struct Row {
+        const char* output;
+        Arguments options;
+        std::array<double, 4> map;  ///< of its first pixel: x, y, across, down
+        const char* projection;
+    };
     const std::array<double, 4> metres = {500000.0, 9000000.0, 450.0, -450.0};
     const std::array<double, 4> degrees = {10.25, 48.5, 0.002, -0.002};
     const Arguments world = "--world-file --dpi 96";
@@ -114,7 +120,7 @@ TEST_F(Georeference, IsThatOfWhatThePageShows) {
         ASSERT_NE(page, nullptr);
         std::array<double, 6> transform{};
         ASSERT_EQ(page->GetGeoTransform(transform.data()), CE_None) << row.output;
-        const Pixels blue = BluePart(*page);
+        const PixelRange blue = BluePart(*page);
         ASSERT_GT(blue.right, blue.left) << row.output;
         // One that is stored from the south begins below.
         const double top = std::max(y, y + down);

@@ -21,14 +21,14 @@ namespace {
 using host_tests::ContentsOf;
 using host_tests::WriteFile;
 
-constexpr unsigned kSecondsAllowed = 60;
+constexpr unsigned kSecondsForAnImage = 60;
 
 /// How a process ends that draws a picture.
-enum class Ending : char { Drawn, Refused, SurfaceLost, Died };
+enum class PictureEnding : char { Drawn, Refused, SurfaceLost, Died };
 
 /// Opens an image as a picture and draws it, turned, onto a small surface, which must
 /// draw afterwards too.
-Ending DrawPicture(const std::wstring& path) {
+PictureEnding DrawPicture(const std::wstring& path) {
     const Gdiplus::GdiplusStartupInput input;
     ULONG_PTR token = 0;
     Gdiplus::GdiplusStartup(&token, &input, nullptr);
@@ -46,12 +46,12 @@ Ending DrawPicture(const std::wstring& path) {
     Gdiplus::Color pixel;
     bitmap.GetPixel(5, 6, &pixel);
     if (pixel.GetValue() != 0xFF123456) {
-        return Ending::SurfaceLost;
+        return PictureEnding::SurfaceLost;
     }
-    return drawn ? Ending::Drawn : Ending::Refused;
+    return drawn ? PictureEnding::Drawn : PictureEnding::Refused;
 }
 
-Ending DrawPictureInAProcess(const std::wstring& path, std::string& why) {
+PictureEnding DrawPictureInAProcess(const std::wstring& path, std::string& why) {
     const auto draw = [&path](const host::Progress&) {
         std::signal(SIGSEGV, SIG_DFL);
         // Decoders talk.
@@ -62,11 +62,11 @@ Ending DrawPictureInAProcess(const std::wstring& path, std::string& why) {
     };
     try {
         const std::string ending =
-            host::InSeparateProcess("drawing", draw, {}, {kSecondsAllowed});
-        return static_cast<Ending>(ending.at(0));
+            host::InSeparateProcess("drawing", draw, {}, {kSecondsForAnImage});
+        return static_cast<PictureEnding>(ending.at(0));
     } catch (const std::runtime_error& error) {
         why = error.what();
-        return Ending::Died;
+        return PictureEnding::Died;
     }
 }
 
@@ -116,7 +116,8 @@ std::size_t Asked(const char* variable, std::size_t otherwise) {
 TEST_F(HostileImages, AreDrawnAsTheyAreWithoutDamage) {
     for (const std::string& name : images.Names()) {
         std::string why;
-        EXPECT_EQ(DrawPictureInAProcess(Wide(images.Path(name)), why), Ending::Drawn)
+        EXPECT_EQ(DrawPictureInAProcess(Wide(images.Path(name)), why),
+                  PictureEnding::Drawn)
             << name << ": " << why;
     }
 }
@@ -124,7 +125,7 @@ TEST_F(HostileImages, AreDrawnAsTheyAreWithoutDamage) {
 // What a decoder dies of is its own; that no program that embeds the picture element in a
 // process of its own comes to harm is map_page's part.
 TEST_F(HostileImages, EndWithAPictureOrAStatus) {
-    std::map<Ending, int> endings;
+    std::map<PictureEnding, int> endings;
     // A few with the other tests, more when asked.
     const std::size_t count = Asked("HOSTILE_IMAGES", 140);
     const std::size_t first = Asked("HOSTILE_IMAGES_FIRST", 0);
@@ -133,13 +134,13 @@ TEST_F(HostileImages, EndWithAPictureOrAStatus) {
     for (std::size_t i = first; i < first + count; ++i) {
         const std::string path = Damaged(i);
         std::string why;
-        const Ending ending = DrawPictureInAProcess(Wide(path), why);
+        const PictureEnding ending = DrawPictureInAProcess(Wide(path), why);
         ++endings[ending];
-        EXPECT_NE(ending, Ending::SurfaceLost) << "number " << i << ", " << path;
-        if (ending == Ending::Died) {
+        EXPECT_NE(ending, PictureEnding::SurfaceLost) << "number " << i << ", " << path;
+        if (ending == PictureEnding::Died) {
             std::printf("died: number %zu, %s: %s\n", i, path.c_str(), why.c_str());
         }
-        if (ending == Ending::Died || i % 20 == 0) {
+        if (ending == PictureEnding::Died || i % 20 == 0) {
             WriteFile(out.Path("page.png"), "an older page");
             const host_tests::Result page = host_tests::RunMapPage(
                 out, {"scene.tif", "-o", "page.png", "--dpi", "40", "--picture", path});
@@ -153,7 +154,8 @@ TEST_F(HostileImages, EndWithAPictureOrAStatus) {
         std::remove(path.c_str());
     }
     std::printf("%zu damaged images: %d drawn, %d refused, %d processes died\n", count,
-                endings[Ending::Drawn], endings[Ending::Refused], endings[Ending::Died]);
+                endings[PictureEnding::Drawn], endings[PictureEnding::Refused],
+                endings[PictureEnding::Died]);
 }
 
 }  // namespace

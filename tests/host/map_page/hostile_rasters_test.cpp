@@ -22,7 +22,7 @@ using host_tests::Result;
 using host_tests::RunningMapPage;
 using host_tests::WriteFile;
 
-constexpr unsigned kSecondsAllowed = 120;
+constexpr unsigned kSecondsForARaster = 120;
 
 std::vector<std::string> LinesOf(const std::string& text) {
     std::vector<std::string> lines;
@@ -44,15 +44,16 @@ bool IsWholePng(const std::string& bytes) {
            bytes.compare(bytes.size() - end.size(), end.size(), end) == 0;
 }
 
-enum class Ending { Page, Refused, ContainedCrash, Wrong };
+enum class RasterEnding { Page, Refused, ContainedCrash, Wrong };
 
 /// Draws a raster in an output folder that holds an older page, and tells how it ended:
 /// with a whole page, or with one line and the older page as it was.
-Ending Draw(const ScratchFolder& out, const std::string& raster, std::string& said) {
+RasterEnding Draw(const ScratchFolder& out, const std::string& raster,
+                  std::string& said) {
     const std::string older = "an older page";
     WriteFile(out.Path("page.png"), older);
     const RunningMapPage running(out, {raster, "-o", "page.png", "--dpi", "40"},
-                                 [] { alarm(kSecondsAllowed); });
+                                 [] { alarm(kSecondsForARaster); });
     const Result result = running.Wait();
     said = result.err;
     std::vector<std::string> lines = LinesOf(result.err);
@@ -64,19 +65,19 @@ Ending Draw(const ScratchFolder& out, const std::string& raster, std::string& sa
     const std::string page = ContentsOf(out.Path("page.png"));
     if (out.Names() != std::vector<std::string>{"page.png"}) {
         said += "(left other files behind)";
-        return Ending::Wrong;
+        return RasterEnding::Wrong;
     }
     if (result.status == 0 && lines.empty() && IsWholePng(page)) {
-        return Ending::Page;
+        return RasterEnding::Page;
     }
     if (result.status == 1 && lines.size() == 1 && BeginsWith(lines[0], "map_page: ") &&
         page == older) {
         return lines[0].find("drawing failed") == std::string::npos
-                   ? Ending::Refused
-                   : Ending::ContainedCrash;
+                   ? RasterEnding::Refused
+                   : RasterEnding::ContainedCrash;
     }
     said += "(status " + std::to_string(result.status) + ")";
-    return Ending::Wrong;
+    return RasterEnding::Wrong;
 }
 
 /// Rasters of every kind that is damaged here, in a folder of their own.
@@ -105,7 +106,7 @@ int HowMany() {
 }
 
 TEST_F(HostileRasters, EndWithAPageOrOneLine) {
-    std::map<Ending, int> endings;
+    std::map<RasterEnding, int> endings;
     const int count = HowMany();
     for (int i = 0; i < count; ++i) {
         const std::string& name =
@@ -119,18 +120,18 @@ TEST_F(HostileRasters, EndWithAPageOrOneLine) {
         WriteFile(path, isText ? hostile_files::DamageText(seed, random)
                                : hostile_files::Damage(seed, random));
         std::string said;
-        const Ending ending = Draw(out, path, said);
+        const RasterEnding ending = Draw(out, path, said);
         ++endings[ending];
-        EXPECT_NE(ending, Ending::Wrong)
+        EXPECT_NE(ending, RasterEnding::Wrong)
             << "number " << i << ", " << name << ": " << said;
-        if (ending == Ending::ContainedCrash) {
+        if (ending == RasterEnding::ContainedCrash) {
             std::printf("contained: number %d, %s: %s", i, name.c_str(), said.c_str());
         }
         std::remove(path.c_str());
     }
     std::printf("%d damaged rasters: %d drawn, %d refused, %d crashes contained\n", count,
-                endings[Ending::Page], endings[Ending::Refused],
-                endings[Ending::ContainedCrash]);
+                endings[RasterEnding::Page], endings[RasterEnding::Refused],
+                endings[RasterEnding::ContainedCrash]);
 }
 
 std::string Vrt(const std::string& size, const std::string& inside) {
@@ -150,36 +151,36 @@ TEST_F(HostileRasters, OfUnusualKindsEndAsTheyShould) {
     const struct {
         std::string name;
         std::string vrt;
-        Ending ending;
+        RasterEnding ending;
     } rows[] = {
-        {"zero bands", Vrt(size, place), Ending::Refused},
-        {"no geotransform", Vrt(size, Band(elevation)), Ending::Page},
+        {"zero bands", Vrt(size, place), RasterEnding::Refused},
+        {"no geotransform", Vrt(size, Band(elevation)), RasterEnding::Page},
         {"rotated",
          Vrt(size, "<GeoTransform>0, 30, 9, 0, 9, -30</GeoTransform>" + Band(elevation)),
-         Ending::Page},
+         RasterEnding::Page},
         {"without extent",
          Vrt(size, "<GeoTransform>0, 0, 0, 0, 0, 0</GeoTransform>" + Band(elevation)),
-         Ending::Page},
+         RasterEnding::Page},
         {"not a number as no-data",
          Vrt(size, place + Band(elevation, "<NoDataValue>nan</NoDataValue>")),
-         Ending::Page},
+         RasterEnding::Page},
         {"nothing but no-data",
          Vrt(size, place + "<VRTRasterBand dataType=\"Float32\" band=\"1\">"
                            "<NoDataValue>0</NoDataValue></VRTRasterBand>"),
-         Ending::Page},
+         RasterEnding::Page},
         {"1 x 1", Vrt("rasterXSize=\"1\" rasterYSize=\"1\"", place + Band(elevation)),
-         Ending::Page},
+         RasterEnding::Page},
         {"a source that is not there", Vrt(size, place + Band("nowhere.tif")),
-         Ending::Refused},
+         RasterEnding::Refused},
         {"claims 2147483647 x 2147483647",
          Vrt("rasterXSize=\"2147483647\" rasterYSize=\"2147483647\"",
              place + Band(elevation)),
-         Ending::Page},
+         RasterEnding::Page},
         {"negative size",
          Vrt("rasterXSize=\"-5\" rasterYSize=\"5\"", place + Band(elevation)),
-         Ending::Refused},
-        {"empty file", "", Ending::Refused},
-        {"no raster", "Dear Sir or Madam,\n", Ending::Refused},
+         RasterEnding::Refused},
+        {"empty file", "", RasterEnding::Refused},
+        {"no raster", "Dear Sir or Madam,\n", RasterEnding::Refused},
     };
     for (const auto& row : rows) {
         const std::string path = seeds.Path("unusual.vrt");

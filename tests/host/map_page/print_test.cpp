@@ -40,23 +40,23 @@ std::string After(const std::string& text, const std::string& label) {
 /// The mean of each colour over squares of pixels, in which the edges of shapes and
 /// letters lie alike however they are smoothed.
 std::vector<double> Squares(const std::string& path) {
-    constexpr UINT kSide = 20;
+    constexpr UINT kCell = 20;
     Gdiplus::Bitmap bitmap(std::wstring(path.begin(), path.end()).c_str());
     EXPECT_GT(bitmap.GetWidth(), 500u);
     std::vector<double> means;
-    for (UINT top = 0; top + kSide <= bitmap.GetHeight(); top += kSide) {
-        for (UINT left = 0; left + kSide <= bitmap.GetWidth(); left += kSide) {
+    for (UINT top = 0; top + kCell <= bitmap.GetHeight(); top += kCell) {
+        for (UINT left = 0; left + kCell <= bitmap.GetWidth(); left += kCell) {
             std::array<double, 3> sum{};
-            for (UINT i = 0; i < kSide * kSide; ++i) {
+            for (UINT i = 0; i < kCell * kCell; ++i) {
                 Gdiplus::Color color;
-                bitmap.GetPixel(static_cast<INT>(left + i % kSide),
-                                static_cast<INT>(top + i / kSide), &color);
+                bitmap.GetPixel(static_cast<INT>(left + i % kCell),
+                                static_cast<INT>(top + i / kCell), &color);
                 sum[0] += color.GetR();
                 sum[1] += color.GetG();
                 sum[2] += color.GetB();
             }
             for (const double one : sum) {
-                means.push_back(one / (kSide * kSide));
+                means.push_back(one / (kCell * kCell));
             }
         }
     }

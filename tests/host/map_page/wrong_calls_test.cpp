@@ -16,13 +16,13 @@ using host_tests::Arguments;
 
 const Arguments kDraw = "data/scene.tif -o page.png";
 
-struct ErrorRow {
-    int status;
-    std::string line;
-    Arguments call;
-};
-
 class WrongCall : public host_tests::PageFileTest {
+    struct ErrorRow {
+        int status;
+        std::string line;
+        Arguments call;
+    };
+
 protected:
     WrongCall() {
         Write("page.png", "what was here before");

@@ -6,9 +6,9 @@
 
 #include <filesystem>
 #include <fstream>
-#include <limits>
 #include <tuple>
 
+#include "element/no_numbers.h"
 #include "raster_data/make_raster.h"
 
 namespace {
@@ -19,9 +19,6 @@ using raster_test::Ramp;
 using raster_test::RangeOf;
 using raster_test::Raster;
 using raster_test::WriteAndOpen;
-
-constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
 /// Why a path does not open; fails the test when it does.
 std::string WhyNot(const std::string& path) {

@@ -6,6 +6,7 @@
 #include <limits>
 #include <stdexcept>
 
+#include "element/no_numbers.h"
 #include "raster_data/make_raster.h"
 
 namespace {
@@ -20,9 +21,6 @@ using raster_test::Stretched;
 using raster_test::WriteAndOpen;
 
 using raster_test::Colours;
-
-constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
 unsigned int Grey(unsigned int shade) {
     return 0xff000000U | shade << 16U | shade << 8U | shade;

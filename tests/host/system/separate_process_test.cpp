@@ -15,6 +15,11 @@
 namespace {
 
 TEST(SeparateProcess, ReportsHoweverItEnds) {
+    struct Row {
+        std::string name;
+        std::function<std::string()> work;
+        std::string outcome;
+    };
     const std::string longLine(100'000, 'x');
     const struct {
         std::string name;

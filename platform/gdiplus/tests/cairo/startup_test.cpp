@@ -8,7 +8,7 @@ using namespace Gdiplus;
 
 namespace {
 
-ULONG_PTR Start() {
+ULONG_PTR StartOnce() {
     const GdiplusStartupInput input;
     ULONG_PTR token = 0;
     GdiplusStartup(&token, &input, nullptr);
@@ -25,7 +25,7 @@ Status Draw() {
 
 /// A token that is not the last ends nothing, nor does one that was given before.
 TEST(GdiplusIsRunning, UntilItsLastTokenIsGiven) {
-    const ULONG_PTR more = Start();
+    const ULONG_PTR more = StartOnce();
     GdiplusShutdown(more);
     GdiplusShutdown(more);
     GdiplusShutdown(0);
@@ -46,7 +46,7 @@ TEST(GdiplusIsRunning, AndAfterItNothingCanBeMade) {
                                  pen.GetLastStatus() == GdiplusNotInitialized &&
                                  family.GetLastStatus() == GdiplusNotInitialized &&
                                  image.GetLastStatus() == GdiplusNotInitialized;
-            const ULONG_PTR token = Start();
+            const ULONG_PTR token = StartOnce();
             const bool again = Draw() == Ok;
             DllExports::GdiplusShutdown(token);
             std::exit(refused && again ? 0 : 1);
@@ -60,7 +60,7 @@ TEST(GdiplusIsRunning, InThreadsThatOutliveIt) {
             std::thread thread([] {
                 Draw();
                 DllExports::GdiplusShutdown(1);
-                const ULONG_PTR token = Start();
+                const ULONG_PTR token = StartOnce();
                 Draw();
                 DllExports::GdiplusShutdown(token);
             });

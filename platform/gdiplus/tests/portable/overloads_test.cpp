@@ -10,7 +10,7 @@ using namespace Gdiplus;
 
 namespace {
 
-constexpr ARGB kWhite = 0xFFFFFFFF;
+constexpr ARGB kPaper = 0xFFFFFFFF;
 
 /// What the rows draw with.
 struct Tools {
@@ -26,11 +26,11 @@ std::vector<ARGB> Drawn(const std::function<Status(Graphics&, Tools&)>& draw,
                         const char* name) {
     Bitmap bitmap(40, 30);
     Graphics graphics(&bitmap);
-    graphics.Clear(Color(kWhite));
+    graphics.Clear(Color(kPaper));
     graphics.SetInterpolationMode(InterpolationModeNearestNeighbor);
     Tools tools;
     EXPECT_EQ(draw(graphics, tools), Ok) << name;
-    EXPECT_GT(PixelsOtherThan(bitmap, kWhite), 0) << name;
+    EXPECT_GT(PixelsOtherThan(bitmap, kPaper), 0) << name;
     std::vector<ARGB> pixels;
     for (int y = 0; y < 30; ++y) {
         for (int x = 0; x < 40; ++x) {

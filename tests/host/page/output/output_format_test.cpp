@@ -9,13 +9,12 @@ namespace {
 
 using host::OutputFormat;
 
-struct Row {
-    std::string path;
-    OutputFormat format;
-    bool isForPrint;
-};
-
 TEST(OutputFormat, IsTheOneOfTheEnding) {
+    struct Row {
+        std::string path;
+        OutputFormat format;
+        bool isForPrint;
+    };
     const Row rows[] = {
         {"page.png", OutputFormat::Png, false},
         {"a.b/page.PNG", OutputFormat::Png, false},
