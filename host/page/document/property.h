@@ -71,7 +71,7 @@ struct Property {
     Choices choices = {};     ///< of Choice
     bool isFloat = false;     ///< held with the precision of a float
     bool isMeasured = false;  ///< measuring the element changes it
-    bool hasLines = false;    ///< of a Text: each of its lines is of something else
+    bool hasLines = false;    ///< of a Text: people give it in several
     /// Of a Text that has a form: what is wrong with one, as CheckValue says it, and the
     /// regular expression that a schema has of it.
     std::string (*checkText)(const std::string&) = nullptr;

@@ -96,8 +96,8 @@ std::vector<Property> ElementProperties() {
 }
 
 std::vector<Property> TitleProperties() {
-    return Join({{Of<&CMapTitle::GetFontValue, &CMapTitle::SetFontValue>(
-                      "text", "The text", PropertyKind::Text),
+    return Join({{WithLines(Of<&CMapTitle::GetFontValue, &CMapTitle::SetFontValue>(
+                      "text", "The text", PropertyKind::Text)),
                   OneOf(Of<&CMapTitle::GetLineAlignment, &CMapTitle::SetLineAlignment>(
                             "lineAlignment", "Where lines of different length stand",
                             PropertyKind::Choice),

@@ -47,6 +47,23 @@ protected:
         return widget;
     }
 
+    /// Types lines in place of what stands there.
+    void BeginLines(const char* property, const QStringList& lines) {
+        auto* const text = In<QPlainTextEdit>(property);
+        ASSERT_NE(text, nullptr);
+        text->selectAll();
+        for (int i = 0; i < lines.size(); ++i) {
+            if (i > 0) {
+                QTest::keyClick(text, Qt::Key_Return);
+            }
+            QTest::keyClicks(text, lines[i]);
+        }
+    }
+    /// Types lines in place of what stands there, and leaves the field.
+    void TypeLines(const char* property, const QStringList& lines) {
+        BeginLines(property, lines);
+        panel.FinishTyping();
+    }
     /// Types a text in place of what stands there, and Enter.
     void Type(const char* property, const QString& text, const char* name = "") {
         Begin(property, text, name);
@@ -85,13 +102,13 @@ TEST_F(PropertyPanel, HasAFieldForEveryPropertyOfEveryType) {
 
 TEST_F(PropertyPanel, ChangesAText) {
     const std::size_t title = Select("title");
-    Type("text", "Olinda");
-    EXPECT_EQ(std::get<std::string>(Value(title, "text")), "Olinda");
+    TypeLines("text", {"Olinda", "and Recife"});
+    EXPECT_EQ(std::get<std::string>(Value(title, "text")), "Olinda\nand Recife");
     EXPECT_EQ(document.UndoLabel(), "Change text");
     ExpectImageIsThePage();
     Command("undo");
     EXPECT_EQ(std::get<std::string>(Value(title, "text")), "Title");
-    EXPECT_EQ(In<QLineEdit>("text")->text(), "Title");
+    EXPECT_EQ(In<QPlainTextEdit>("text")->toPlainText(), "Title");
 }
 
 TEST_F(PropertyPanel, MeasuresWhatIsChanged) {
@@ -246,16 +263,6 @@ TEST_F(PropertyPanel, ChangesTheOrderTheNamesAndTheChoiceOfALegendsRasters) {
     WriteScene(Path("a.tif"), 60, 40);
     WriteScene(Path("b.tif"), 60, 40);
     const std::size_t legend = Select("legend");
-    const auto write = [this](const char* property, const QStringList& lines) {
-        In<QPlainTextEdit>(property)->selectAll();
-        for (int i = 0; i < lines.size(); ++i) {
-            if (i > 0) {
-                QTest::keyClick(In<QPlainTextEdit>(property), Qt::Key_Return);
-            }
-            QTest::keyClicks(In<QPlainTextEdit>(property), lines[i]);
-        }
-        panel.FinishTyping();
-    };
     const auto namesShown = [&] {
         std::vector<std::wstring> names;
         const auto& item = document.Page().Items()[legend];
@@ -266,16 +273,16 @@ TEST_F(PropertyPanel, ChangesTheOrderTheNamesAndTheChoiceOfALegendsRasters) {
     };
     const QString a = QString::fromStdString(Path("a.tif"));
     const QString b = QString::fromStdString(Path("b.tif"));
-    write("rasters", {a, b});
+    TypeLines("rasters", {a, b});
     EXPECT_THAT(namesShown(), ElementsAre(L"", L""));
-    write("names", {"", "Relief"});
+    TypeLines("names", {"", "Relief"});
     EXPECT_THAT(namesShown(), ElementsAre(L"", L"Relief"));
     EXPECT_EQ(In<QPlainTextEdit>("names")->toPlainText(), "\nRelief");
-    write("rasters", {b, a});
+    TypeLines("rasters", {b, a});
     EXPECT_THAT(std::get<std::vector<std::string>>(Value(legend, "rasters")),
                 ElementsAre(Path("b.tif"), Path("a.tif")));
     EXPECT_THAT(namesShown(), ElementsAre(L"", L"Relief")) << "they go by place";
-    write("rasters", {a});
+    TypeLines("rasters", {a});
     EXPECT_THAT(namesShown(), ElementsAre(L""));
     ExpectImageIsThePage();
 }
@@ -334,7 +341,7 @@ TEST_F(PropertyPanel, IsTakenByACommandAsFarAsItIsTyped) {
         const host::PageItem& item = page.Items()[title];
         return host::FindProperty(host::TypeOf(item)->properties, property)->read(item);
     };
-    Begin("text", "Olinda");
+    BeginLines("text", {"Olinda"});
     EXPECT_EQ(std::get<std::string>(Value(title, "text")), "Title");
     EXPECT_EQ(std::get<std::string>(saved("text")), "Olinda");
     Begin("fontSize", "12.5");
@@ -345,7 +352,7 @@ TEST_F(PropertyPanel, IsTakenByACommandAsFarAsItIsTyped) {
     EXPECT_EQ(std::get<std::int32_t>(saved("size")), 77);
     Begin("font", "Liberation Serif");
     EXPECT_EQ(std::get<std::string>(saved("font")), "Liberation Serif");
-    Begin("text", "Recife");
+    BeginLines("text", {"Recife"});
     Command("undo");  // of the text
     EXPECT_EQ(std::get<std::string>(Value(title, "text")), "Olinda");
 }
@@ -384,7 +391,7 @@ TEST_F(PropertyPanel, TakesPathsAndExtentsAsFarAsTheyAreTyped) {
 TEST_F(PropertyPanel, IsUnsavedWorkWhileOneTypes) {
     Select("title");
     ASSERT_TRUE(window.Files().SaveTo(QString::fromStdString(Path("page.json"))));
-    Begin("text", "Olinda");
+    BeginLines("text", {"Olinda"});
     bool isAsked = false;
     QTimer::singleShot(0, qApp, [&isAsked] {
         auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
