@@ -3,6 +3,8 @@
 #include <cairo.h>
 #include <dlfcn.h>
 
+#include <memory>
+
 namespace bench {
 namespace {
 
