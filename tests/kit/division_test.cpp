@@ -111,11 +111,10 @@ TEST(DrawBar, IsTrueToAPixel) {
         double scale;
         int divisions;
     };
-    const Row rows[] = {{100.0, 1.0, 4},
-                        {99.9, 1.0, 8},
-                        {33.4, 3.0, 9},
-                        {200.0, 0.37, 5},
-                        {10.49, 1.0, 50}};
+    const Row rows[] = {
+        {100.0, 1.0, 4},  {99.9, 1.0, 8},   {33.4, 3.0, 9},
+        {200.0, 0.37, 5}, {10.49, 1.0, 50},
+    };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.length);
         const Drawn drawn = DrawnBar(row.length, row.scale, row.divisions);

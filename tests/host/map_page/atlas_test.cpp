@@ -9,7 +9,6 @@
 #include <csignal>
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
 #include <iterator>
 #include <set>
 #include <sstream>
@@ -22,7 +21,6 @@
 namespace {
 
 using host_tests::Arguments;
-using host_tests::ContentsOf;
 using host_tests::Result;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;

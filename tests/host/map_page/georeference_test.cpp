@@ -21,7 +21,6 @@
 namespace {
 
 using host_tests::Arguments;
-using host_tests::ContentsOf;
 using host_tests::Result;
 using ::testing::HasSubstr;
 

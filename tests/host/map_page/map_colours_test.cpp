@@ -1,6 +1,5 @@
 // The colours of a drawn map, read back from its pixels.
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -15,7 +14,6 @@
 namespace {
 
 using host_tests::Arguments;
-using host_tests::ContentsOf;
 using host_tests::Result;
 
 // data/scene.tif has 120 x 120 pixels of 30 m, the first at 500000, 9000000. At column x

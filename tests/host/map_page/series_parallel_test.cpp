@@ -17,7 +17,6 @@ namespace {
 namespace fs = std::filesystem;
 using host_tests::ContentsOf;
 using host_tests::Result;
-using host_tests::WriteFile;
 
 /// The indented blocks of a document whose first line begins with a word.
 std::vector<std::string> CommandsOf(const std::string& document,

@@ -15,7 +15,6 @@ namespace {
 
 namespace fs = std::filesystem;
 using host_tests::Arguments;
-using host_tests::ContentsOf;
 using host_tests::Result;
 using host_tests::RunningMapPage;
 

@@ -11,6 +11,9 @@
 #include <QtTest>
 #include <algorithm>
 #include <cstdlib>
+#include <fstream>
+#include <iterator>
+#include <optional>
 #include <utility>
 
 #include "page/document/item_type.h"
@@ -49,8 +52,8 @@ EditorTest::EditorTest() {
 }
 
 std::size_t EditorTest::Add(const char* type, const host::Box& box,
-                            const QStringList& files) {
-    window.Insert(type, files);
+                            const QStringList& named) {
+    window.Insert(type, named);
     EXPECT_EQ(window.LastFailure().toStdString(), "");
     const std::size_t item = document.Count() - 1;
     document.ChangeItems({item}, "Place", [&](host::PageItem& added) {
@@ -68,7 +71,7 @@ host::Box EditorTest::BoxOf(std::size_t item, const host::Page& page) {
     return host::BoxOf(host::FrameOf(page.Items()[item]).GetExtent());
 }
 
-host::PropertyValue EditorTest::Value(std::size_t index, const char* name) {
+host::PropertyValue EditorTest::ValueOf(std::size_t index, const char* name) {
     const host::PageItem& item = document.Page().Items()[index];
     const host::Property* property =
         host::FindProperty(host::TypeOf(item)->properties, name);
@@ -123,11 +126,24 @@ void EditorTest::Key(Qt::Key key, Qt::KeyboardModifiers modifiers) {
     QTest::keyClick(&canvas, key, modifiers);
 }
 
-void EditorTest::Command(const char* name) {
+void EditorTest::Command(const char* name, std::vector<Answers::Answer> answers) {
+    std::optional<Answers> given;
+    if (!answers.empty()) {
+        given.emplace(std::move(answers));
+    }
     auto* const action = window.findChild<QAction*>(name);
     ASSERT_NE(action, nullptr) << name;
     EXPECT_TRUE(action->isEnabled()) << name;
     action->trigger();
+}
+
+std::string EditorTest::Bytes(const char* name) const {
+    std::ifstream file(folder.Path(name), std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+void EditorTest::Write(const char* name, const std::string& text) const {
+    std::ofstream(folder.Path(name)) << text;
 }
 
 void EditorTest::ExpectImageIsThePage() {

@@ -14,50 +14,6 @@
 
 namespace editor_tests {
 
-/// An editor's window at 100 % with an empty A4 sheet, and what a person does to it.
-class EditorTest : public ::testing::Test {
-protected:
-    EditorTest();
-
-    /// Adds an element of a type whose frame is the box, and lets nothing be selected.
-    std::size_t Add(const char* type, const host::Box& box,
-                    const QStringList& files = {});
-
-    host::Box BoxOf(std::size_t item);
-    host::Box BoxOf(std::size_t item, const host::Page& page);
-    host::PropertyValue Value(std::size_t item, const char* property);
-
-    /// The pointer, at points of the page.
-    void Press(CPoint2D at, Qt::KeyboardModifiers modifiers = {});
-    void MoveTo(CPoint2D at, Qt::KeyboardModifiers modifiers = {});
-    /// Moves it with no button down.
-    void Hover(CPoint2D at);
-    void Release(CPoint2D at, Qt::KeyboardModifiers modifiers = {});
-    void Click(CPoint2D at, Qt::KeyboardModifiers modifiers = {});
-    /// Presses, moves there in a few steps, and lets go.
-    void DragTo(CPoint2D from, CPoint2D to, Qt::KeyboardModifiers modifiers = {});
-
-    void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = {});
-    /// Runs the command of a menu.
-    void Command(const char* name);
-
-    /// Fails unless the canvas shows what drawing the whole page gives.
-    void ExpectImageIsThePage();
-
-    ScratchFolder folder;
-    page_editor::EditorWindow window;
-    page_editor::PageDocument& document = window.Document();
-    page_editor::PageCanvas& canvas = window.Canvas();
-    page_editor::PropertyPanel& panel = window.Panel();
-
-private:
-    void Send(QEvent::Type type, CPoint2D at, Qt::MouseButton button,
-              Qt::MouseButtons buttons, Qt::KeyboardModifiers modifiers);
-};
-
-/// Presses a button of the next question, whenever it is asked.
-void AnswerLater(QMessageBox::StandardButton button);
-
 /// Answers the dialogs that come, one after the other; every one has to come.
 class Answers {
 public:
@@ -82,6 +38,64 @@ private:
     bool m_isAnswering = false;
     QTimer m_timer;
 };
+
+/// An editor's window at 100 % with an empty A4 sheet, and what a person does to it.
+class EditorTest : public ::testing::Test {
+protected:
+    EditorTest();
+
+    /// Adds an element of a type whose frame is the box, and lets nothing be selected.
+    std::size_t Add(const char* type, const host::Box& box,
+                    const QStringList& named = {});
+
+    host::Box BoxOf(std::size_t item);
+    host::Box BoxOf(std::size_t item, const host::Page& page);
+    template <class Type>
+    Type Value(std::size_t item, const char* property) {
+        return std::get<Type>(ValueOf(item, property));
+    }
+    host::PropertyValue ValueOf(std::size_t item, const char* property);
+
+    /// The pointer, at points of the page.
+    void Press(CPoint2D at, Qt::KeyboardModifiers modifiers = {});
+    void MoveTo(CPoint2D at, Qt::KeyboardModifiers modifiers = {});
+    /// Moves it with no button down.
+    void Hover(CPoint2D at);
+    void Release(CPoint2D at, Qt::KeyboardModifiers modifiers = {});
+    void Click(CPoint2D at, Qt::KeyboardModifiers modifiers = {});
+    /// Presses, moves there in a few steps, and lets go.
+    void DragTo(CPoint2D from, CPoint2D to, Qt::KeyboardModifiers modifiers = {});
+
+    void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = {});
+    /// Runs the command of a menu; the dialogs that come get these answers.
+    void Command(const char* name, std::vector<Answers::Answer> answers = {});
+
+    /// Files in a folder of the test's own, by their names there.
+    QString Path(const char* name) const {
+        return QString::fromStdString(folder.Path(name));
+    }
+    std::string Bytes(const char* name) const;
+    void Write(const char* name, const std::string& text) const;
+
+    std::string LastFailure() const { return window.LastFailure().toStdString(); }
+
+    /// Fails unless the canvas shows what drawing the whole page gives.
+    void ExpectImageIsThePage();
+
+    ScratchFolder folder;
+    page_editor::EditorWindow window;
+    page_editor::PageDocument& document = window.Document();
+    page_editor::PageCanvas& canvas = window.Canvas();
+    page_editor::PropertyPanel& panel = window.Panel();
+    page_editor::FileCommands& files = window.Files();
+
+private:
+    void Send(QEvent::Type type, CPoint2D at, Qt::MouseButton button,
+              Qt::MouseButtons buttons, Qt::KeyboardModifiers modifiers);
+};
+
+/// Presses a button of the next question, whenever it is asked.
+void AnswerLater(QMessageBox::StandardButton button);
 
 void ExpectBox(const host::Box& box, const host::Box& expected);
 

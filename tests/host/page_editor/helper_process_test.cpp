@@ -112,20 +112,19 @@ class EditorsProcess : public editor_tests::EditorTest {};
 TEST_F(EditorsProcess, IsNeverCopied) {
     pthread_atfork([] { ++g_forks; }, nullptr, nullptr);
     WriteScene(folder.Path("scene.tif"), 60, 40);
-    const QString scene = QString::fromStdString(folder.Path("scene.tif"));
+    const QString scene = Path("scene.tif");
     Add("map", {100.0, 100.0, 400.0, 300.0}, {scene});
-    const QString logo = QString::fromStdString(folder.Path("logo.png"));
+    const QString logo = Path("logo.png");
     ASSERT_TRUE(QFile::copy(MAP_SURROUND_PICTURE, logo));
     Add("picture", {500.0, 100.0, 600.0, 200.0}, {logo});
     Command("selectAll");
     Command("copy");
     Command("paste");
-    const QString page = QString::fromStdString(folder.Path("page.json"));
-    ASSERT_TRUE(window.Files().SaveTo(page));
-    ASSERT_TRUE(window.Files().OpenFiles({page}));
+    const QString page = Path("page.json");
+    ASSERT_TRUE(files.SaveTo(page));
+    ASSERT_TRUE(files.OpenFiles({page}));
     for (const char* name : {"page.png", "page.pdf"}) {
-        EXPECT_TRUE(
-            window.Files().ExportTo(QString::fromStdString(folder.Path(name)), 50.0));
+        EXPECT_TRUE(files.ExportTo(QString::fromStdString(folder.Path(name)), 50.0));
     }
     EXPECT_EQ(g_forks, 0);
 }

@@ -135,7 +135,7 @@ TEST_F(Dragging, OffTheRangeOfPageFilesIsRefused) {
     const std::string before = host::WritePage(document.Page(), {});
     DragTo(CPoint2D(150.0, 150.0), CPoint2D(5.0e6, 150.0));
     EXPECT_EQ(host::WritePage(document.Page(), {}), before);
-    EXPECT_THAT(window.LastFailure().toStdString(), ::testing::HasSubstr("left"));
+    EXPECT_THAT(LastFailure(), ::testing::HasSubstr("left"));
     ExpectImageIsThePage();
 }
 

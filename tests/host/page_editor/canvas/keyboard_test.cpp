@@ -77,7 +77,7 @@ TEST_F(Keyboard, GoesToThePropertiesAndBack) {
     QTest::keyClick(field, Qt::Key_Escape);
     EXPECT_TRUE(canvas.hasFocus());
     EXPECT_THAT(document.Selection(), ElementsAre(1));
-    EXPECT_EQ(std::get<std::string>(Value(1, "name")), "title");
+    EXPECT_EQ(Value<std::string>(1, "name"), "title");
 }
 
 TEST_F(Keyboard, StepsOfAnotherItemAreAnotherCommand) {

@@ -67,15 +67,14 @@ TEST_F(Resizing, ShiftTurnsTheProportionsRound) {
 
 TEST_F(Resizing, LetsTheElementGrow) {
     const std::size_t title = Add("title", kBox);
-    const double size = std::get<double>(Value(title, "fontSize"));
+    const double size = Value<double>(title, "fontSize");
     Pull(title, 2, 120.0, 60.0);
-    EXPECT_NEAR(std::get<double>(Value(title, "fontSize")), 2.0 * size, 1e-6);
+    EXPECT_NEAR(Value<double>(title, "fontSize"), 2.0 * size, 1e-6);
 }
 
 TEST_F(Resizing, ReadsAMapOnlyOnceItEnds) {
     WriteScene(folder.Path("scene.tif"), 120, 60);
-    const std::size_t map =
-        Add("map", kBox, {QString::fromStdString(folder.Path("scene.tif"))});
+    const std::size_t map = Add("map", kBox, {Path("scene.tif")});
     document.Select({map});
     Press(CPoint2D(420.0, 300.0));
     MoveTo(CPoint2D(480.0, 270.0), Qt::AltModifier);

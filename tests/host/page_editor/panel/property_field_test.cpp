@@ -34,7 +34,7 @@ protected:
         QSpontaneKeyEvent::setSpontaneous(&wheel);
         qApp->notify(&widget, &wheel);
     }
-    int Size() { return std::get<std::int32_t>(Value(title, "size")); }
+    int Size() { return Value<std::int32_t>(title, "size"); }
     double Left() { return BoxOf(title).left; }
 
     std::size_t title = 0;
@@ -91,12 +91,12 @@ TEST_F(PropertyField, KeysOfFilesReachThePage) {
     using editor_tests::Answers;
     QLineEdit& left = In<QLineEdit>("left");
     left.setFocus();
-    const QString page = QString::fromStdString(folder.Path("page"));
+    const QString page = Path("page");
     {
         Answers answers({Answers::Name(page)});
         QTest::keyClick(&left, Qt::Key_S, Qt::ControlModifier);
     }
-    EXPECT_EQ(window.Files().Path(), page + ".json");
+    EXPECT_EQ(files.Path(), page + ".json");
     window.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
     left.setFocus();

@@ -79,13 +79,13 @@ TEST_F(ArrangeCommands, ChangeTheOrder) {
 TEST_F(ArrangeCommands, RotateByAQuarter) {
     document.Select({2});
     Command("rotate");
-    EXPECT_EQ(std::get<double>(Value(2, "angle")), 90.0);
+    EXPECT_EQ(Value<double>(2, "angle"), 90.0);
     ExpectBox(BoxOf(2), {625.0, 375.0, 675.0, 475.0});
     ExpectImageIsThePage();
     for (int turn = 0; turn < 3; ++turn) {
         Command("rotate");
     }
-    EXPECT_EQ(std::get<double>(Value(2, "angle")), 0.0);
+    EXPECT_EQ(Value<double>(2, "angle"), 0.0);
     ExpectBox(BoxOf(2), {600.0, 400.0, 700.0, 450.0});
 }
 
@@ -118,8 +118,7 @@ TEST_F(ArrangeCommands, CutCopyAndPaste) {
 
     QGuiApplication::clipboard()->setText("some text");
     Command("paste");
-    EXPECT_THAT(window.LastFailure().toStdString(),
-                ::testing::StartsWith("the clipboard: "));
+    EXPECT_THAT(LastFailure(), ::testing::StartsWith("the clipboard: "));
     EXPECT_EQ(document.Count(), count);
 }
 
@@ -132,7 +131,7 @@ TEST_F(ArrangeCommands, ChangeTheSheet) {
     Command("undo");
     ExpectImageIsThePage();
     EXPECT_FALSE(window.SetSheet("19x100"));
-    EXPECT_THAT(window.LastFailure().toStdString(), ::testing::HasSubstr("19x100"));
+    EXPECT_THAT(LastFailure(), ::testing::HasSubstr("19x100"));
     Command("undo");
     EXPECT_NEAR(document.Page().Width(), 1122.5, 0.1);
     canvas.SetZoom(1.0);

@@ -10,7 +10,6 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 
 #include "page/document/item_type.h"
 #include "page/document/page_text.h"
@@ -25,11 +24,6 @@ using editor_tests::EditorTest;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 
-std::string BytesOf(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
-
 /// Presses a button of the next question that is asked.
 void AnswerWith(QMessageBox::StandardButton button) {
     QTimer::singleShot(0, qApp, [button] {
@@ -39,11 +33,7 @@ void AnswerWith(QMessageBox::StandardButton button) {
     });
 }
 
-class FileCommands : public EditorTest {
-protected:
-    QString Path(const char* name) { return QString::fromStdString(folder.Path(name)); }
-    page_editor::FileCommands& files = window.Files();
-};
+class FileCommands : public EditorTest {};
 
 // A page of a stranger: the rasters and pictures beside it are read, and no others unless
 // the person says so.
@@ -94,7 +84,7 @@ TEST_F(FileCommands, SavesAndOpensAgain) {
     ASSERT_TRUE(files.SaveTo(Path("page.json")));
     EXPECT_FALSE(window.isWindowModified());
     EXPECT_THAT(window.windowTitle().toStdString(), HasSubstr("page.json"));
-    EXPECT_THAT(BytesOf(folder.Path("page.json")), HasSubstr("\"scene.tif\""));
+    EXPECT_THAT(Bytes("page.json"), HasSubstr("\"scene.tif\""));
 
     page_editor::EditorWindow other;
     ASSERT_TRUE(other.Files().OpenFiles({Path("page.json")}));
@@ -105,9 +95,9 @@ TEST_F(FileCommands, SavesAndOpensAgain) {
     other.Canvas().SetZoom(1.0);
     EXPECT_TRUE(other.Canvas().Image() ==
                 editor_tests::DrawnWhole(document.Page(), 96.0));
-    const std::string saved = BytesOf(folder.Path("page.json"));
+    const std::string saved = Bytes("page.json");
     ASSERT_TRUE(other.Files().SaveTo(Path("page.json")));
-    EXPECT_EQ(BytesOf(folder.Path("page.json")), saved);
+    EXPECT_EQ(Bytes("page.json"), saved);
 }
 
 TEST_F(FileCommands, MarksTheTitleUntilItIsSaved) {
@@ -135,8 +125,7 @@ TEST_F(FileCommands, KnowsAPageFileByItsEndingInAnyCase) {
     Add("frame", {10.0, 10.0, 50.0, 50.0});
     ASSERT_TRUE(files.SaveTo(Path("page.JSON")));
     files.New();
-    ASSERT_TRUE(files.OpenFiles({Path("page.JSON")}))
-        << window.LastFailure().toStdString();
+    ASSERT_TRUE(files.OpenFiles({Path("page.JSON")})) << LastFailure();
     EXPECT_EQ(document.Count(), 1u);
     EXPECT_EQ(files.Path(), Path("page.JSON"));
 }
@@ -147,21 +136,20 @@ TEST_F(FileCommands, KeepsThePageWhenAFileCannotBeOpened) {
     EXPECT_FALSE(files.OpenFiles({Path("bad.json")}));
     EXPECT_EQ(window.LastFailure(), Path("bad.json") + ": height: is missing");
     EXPECT_FALSE(files.OpenFiles({Path("none.json")}));
-    EXPECT_THAT(window.LastFailure().toStdString(),
-                HasSubstr("none.json: No such file or directory"));
+    EXPECT_THAT(LastFailure(), HasSubstr("none.json: No such file or directory"));
     EXPECT_FALSE(files.OpenFiles({Path("none.tif")}));
-    EXPECT_THAT(window.LastFailure().toStdString(), HasSubstr("none.tif: "));
+    EXPECT_THAT(LastFailure(), HasSubstr("none.tif: "));
     EXPECT_EQ(document.Count(), 1u);
     EXPECT_TRUE(document.CanUndo());
 }
 
 TEST_F(FileCommands, LeavesNothingHalfWritten) {
     EXPECT_FALSE(files.SaveTo(Path("none/page.json")));
-    EXPECT_THAT(window.LastFailure().toStdString(), HasSubstr("none/page.json: "));
+    EXPECT_THAT(LastFailure(), HasSubstr("none/page.json: "));
     EXPECT_FALSE(files.ExportTo(Path("page.gif"), 96.0));
-    EXPECT_THAT(window.LastFailure().toStdString(), HasSubstr("ends in none of"));
+    EXPECT_THAT(LastFailure(), HasSubstr("ends in none of"));
     EXPECT_FALSE(files.ExportTo(Path("page.png"), 1.0e5));
-    EXPECT_THAT(window.LastFailure().toStdString(), HasSubstr("pixels"));
+    EXPECT_THAT(LastFailure(), HasSubstr("pixels"));
     EXPECT_TRUE(folder.Names().empty());
 }
 

@@ -24,7 +24,7 @@ protected:
         raster.transform = {290000.0, 30.0, 0.0, 9120000.0, 0.0, -30.0};
         raster.projection = "EPSG:32725";
         WriteRaster(folder.Path("scene.tif"), raster);
-        return QString::fromStdString(folder.Path("scene.tif"));
+        return Path("scene.tif");
     }
 
     QStringList FilesFor(const std::string& type) {
@@ -102,8 +102,8 @@ TEST_F(Insert, ScaleBarsAreTrueToTheMap) {
     // 8 pixels of 30 m across the map's frame. Bars are true to the ground, which differs
     // from the map by less than half a thousandth in the middle of a UTM zone.
     const double perUnit = 8.0 * 30.0 / BoxOf(0).Width();
-    const double value = std::get<double>(Value(1, "divisionValue"));
-    const double length = std::get<double>(Value(1, "divisionLength"));
+    const double value = Value<double>(1, "divisionValue");
+    const double length = Value<double>(1, "divisionLength");
     EXPECT_NEAR(value / length, perUnit, 5e-4 * perUnit);
 }
 
@@ -113,8 +113,7 @@ TEST_F(Insert, ScaleBarsFollowTheMap) {
     document.ChangeItems({0}, "Resize", [](host::PageItem& item) {
         host::FrameOf(item).SetExtent({100.0, 100.0, 200.0, 200.0});
     });
-    EXPECT_NEAR(std::get<double>(Value(1, "divisionValue")) /
-                    std::get<double>(Value(1, "divisionLength")),
+    EXPECT_NEAR(Value<double>(1, "divisionValue") / Value<double>(1, "divisionLength"),
                 8.0 * 30.0 / 100.0, 5e-4 * 2.4);
     ExpectImageIsThePage();
 }
@@ -122,9 +121,9 @@ TEST_F(Insert, ScaleBarsFollowTheMap) {
 TEST_F(Insert, LegendsExplainTheMap) {
     window.Insert("map", {Scene()});
     window.Insert("legend");
-    EXPECT_THAT(std::get<std::vector<std::string>>(Value(1, "rasters")),
+    EXPECT_THAT(Value<std::vector<std::string>>(1, "rasters"),
                 ElementsAre(folder.Path("scene.tif")));
-    EXPECT_GT(std::get<std::int32_t>(Value(1, "size")), 10);
+    EXPECT_GT(Value<std::int32_t>(1, "size"), 10);
 }
 
 TEST_F(Insert, SpeaksTheLanguageThatIsChosen) {
@@ -132,9 +131,9 @@ TEST_F(Insert, SpeaksTheLanguageThatIsChosen) {
     window.Insert("legend");
     window.Insert("scale-bar-line");
     const auto words = [this] {
-        return std::vector<std::string>{std::get<std::string>(Value(1, "title")),
-                                        std::get<std::string>(Value(1, "bandCaption")),
-                                        std::get<std::string>(Value(2, "units"))};
+        return std::vector<std::string>{Value<std::string>(1, "title"),
+                                        Value<std::string>(1, "bandCaption"),
+                                        Value<std::string>(2, "units")};
     };
     EXPECT_THAT(words(), ElementsAre("Legend", "Band ", "m"));
     window.findChild<QAction*>("language-ru")->trigger();
@@ -147,9 +146,9 @@ TEST_F(Insert, SpeaksTheLanguageThatIsChosen) {
 
 TEST_F(Insert, TellsWhichFileCannotBeUsed) {
     window.Insert("map", {"missing.tif"});
-    EXPECT_THAT(window.LastFailure().toStdString(), HasSubstr("missing.tif"));
-    window.Insert("picture", {QString::fromStdString(folder.Path("none.png"))});
-    EXPECT_THAT(window.LastFailure().toStdString(), HasSubstr("none.png: No such file"));
+    EXPECT_THAT(LastFailure(), HasSubstr("missing.tif"));
+    window.Insert("picture", {Path("none.png")});
+    EXPECT_THAT(LastFailure(), HasSubstr("none.png: No such file"));
     window.Insert("compass");
     EXPECT_EQ(window.LastFailure(), "compass: is no type of element");
     EXPECT_EQ(document.Count(), 0u);

@@ -3,8 +3,6 @@
 #include <gmock/gmock.h>
 
 #include <QFile>
-#include <fstream>
-#include <iterator>
 #include <set>
 
 #include "page/document/page_text.h"
@@ -17,11 +15,6 @@ using ::testing::HasSubstr;
 
 class MissingFiles : public editor_tests::EditorTest {
 protected:
-    QString Path(const char* name) { return QString::fromStdString(folder.Path(name)); }
-    std::string Bytes(const char* name) {
-        std::ifstream file(folder.Path(name), std::ios::binary);
-        return {std::istreambuf_iterator<char>(file), {}};
-    }
     std::string Told() { return window.Remarks().Text().toStdString(); }
     bool IsHatched(std::size_t item) {
         const host::Box box = BoxOf(item);
@@ -43,13 +36,13 @@ protected:
     void OpenMoved() {
         WriteScene(folder.Path("scene.tif"), 60, 40);
         ASSERT_TRUE(QFile::copy(MAP_SURROUND_PICTURE, Path("logo.png")));
-        ASSERT_TRUE(window.Files().OpenFiles({Path("scene.tif")}));
+        ASSERT_TRUE(files.OpenFiles({Path("scene.tif")}));
         window.Insert("picture", {Path("logo.png")});
-        ASSERT_TRUE(window.Files().SaveTo(Path("page.json")));
+        ASSERT_TRUE(files.SaveTo(Path("page.json")));
         ASSERT_TRUE(QFile::rename(Path("scene.tif"), Path("moved.tif")));
         ASSERT_TRUE(QFile::rename(Path("logo.png"), Path("moved.png")));
-        window.Files().New();
-        ASSERT_TRUE(window.Files().OpenFiles({Path("page.json")}));
+        files.New();
+        ASSERT_TRUE(files.OpenFiles({Path("page.json")}));
         canvas.SetZoom(1.0);
         for (std::size_t i = 0; i < document.Count(); ++i) {
             map = std::holds_alternative<host::MapFrame>(document.Item(i)) ? i : map;
@@ -66,9 +59,9 @@ TEST_F(MissingFiles, AreShownAndSavedAsTheyWereNamed) {
     EXPECT_THAT(Told(), HasSubstr(folder.Path("logo.png") + ": "));
     EXPECT_FALSE(window.isWindowModified());
     const std::string before = Bytes("page.json");
-    ASSERT_TRUE(window.Files().SaveTo(Path("again.json")));
+    ASSERT_TRUE(files.SaveTo(Path("again.json")));
     EXPECT_EQ(Bytes("again.json"), before);
-    EXPECT_FALSE(window.Files().ExportTo(Path("page.png"), 50.0));
+    EXPECT_FALSE(files.ExportTo(Path("page.png"), 50.0));
     EXPECT_THAT(window.Failures().Text().toStdString(), HasSubstr(": No such file"));
     EXPECT_FALSE(QFile::exists(Path("page.png")));
 }
@@ -96,7 +89,7 @@ TEST_F(MissingFiles, AreMendedInThePanel) {
         panel.Field("rasters")->changed(std::vector<std::string>{folder.Path(name)});
     };
     set("none.tif");
-    EXPECT_THAT(window.LastFailure().toStdString(), HasSubstr("none.tif: "));
+    EXPECT_THAT(LastFailure(), HasSubstr("none.tif: "));
     EXPECT_TRUE(IsHatched(map));
     set("moved.tif");
     EXPECT_FALSE(IsHatched(map));
@@ -114,14 +107,13 @@ TEST_F(MissingFiles, AreMendedInThePanel) {
             panel.Field("path")->changed(folder.Path("moved.png"));
         }
     }
-    EXPECT_TRUE(window.Files().ExportTo(Path("page.png"), 50.0))
-        << window.LastFailure().toStdString();
+    EXPECT_TRUE(files.ExportTo(Path("page.png"), 50.0)) << LastFailure();
     ExpectImageIsThePage();
 }
 
 TEST_F(MissingFiles, AreNoReasonToShowNoWindow) {
-    std::ofstream(folder.Path("bad.json")) << "{";
-    EXPECT_FALSE(window.Files().OpenFiles({Path("bad.json")}));
+    Write("bad.json", "{");
+    EXPECT_FALSE(files.OpenFiles({Path("bad.json")}));
     EXPECT_TRUE(window.Failures().isVisible());
     EXPECT_THAT(window.Failures().Text().toStdString(),
                 HasSubstr(folder.Path("bad.json") + ": "));

@@ -5,8 +5,6 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <fstream>
-#include <iterator>
 
 #include "page/document/page_text.h"
 #include "page/made_raster.h"
@@ -19,18 +17,7 @@ using editor_tests::Answers;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 
-class Saving : public editor_tests::EditorTest {
-protected:
-    QString Path(const char* name) { return QString::fromStdString(folder.Path(name)); }
-    std::string Bytes(const char* name) {
-        std::ifstream file(folder.Path(name), std::ios::binary);
-        return {std::istreambuf_iterator<char>(file), {}};
-    }
-    void Write(const char* name, const char* text) {
-        std::ofstream(folder.Path(name)) << text;
-    }
-    page_editor::FileCommands& files = window.Files();
-};
+class Saving : public editor_tests::EditorTest {};
 
 TEST(SaveDialog, FinishesNames) {
     const struct {
@@ -58,43 +45,25 @@ TEST(SaveDialog, FinishesNames) {
 
 TEST_F(Saving, AsksAboutTheNameThatIsWritten) {
     Write("vor.json", "kept");
-    {
-        Answers answers(
+    Command("save",
             {Answers::Name(Path("vor")), Answers::Press("No"), Answers::Cancel()});
-        Command("save");
-    }
     EXPECT_EQ(Bytes("vor.json"), "kept");
     EXPECT_EQ(files.Path(), "");
-    {
-        Answers answers({Answers::Name(Path("vor")), Answers::Press("Yes")});
-        Command("saveAs");
-    }
+    Command("saveAs", {Answers::Name(Path("vor")), Answers::Press("Yes")});
     EXPECT_NE(Bytes("vor.json"), "kept");
     EXPECT_EQ(files.Path(), Path("vor.json"));
-    {
-        Answers answers({Answers::Name(Path("plan.v2"))});
-        Command("saveAs");
-    }
+    Command("saveAs", {Answers::Name(Path("plan.v2"))});
     EXPECT_THAT(folder.Names(), ElementsAre("plan.v2.json", "vor.json"));
     EXPECT_TRUE(files.OpenFiles({Path("plan.v2.json")}));
 }
 
 TEST_F(Saving, ExportsTheFormatThatIsChosen) {
-    {
-        Answers answers({Answers::Name(Path("map.png"), "PDF"), Answers::Accept()});
-        Command("export");
-    }
+    Command("export", {Answers::Name(Path("map.png"), "PDF"), Answers::Accept()});
     EXPECT_EQ(Bytes("map.pdf").substr(0, 5), "%PDF-");
-    {
-        Answers answers({Answers::Name(Path("map"), "JPEG"), Answers::Accept()});
-        Command("export");
-    }
+    Command("export", {Answers::Name(Path("map"), "JPEG"), Answers::Accept()});
     EXPECT_THAT(folder.Names(), ElementsAre("map.jpg", "map.pdf"));
-    {
-        Answers answers(
+    Command("export",
             {Answers::Name(Path("map"), "PDF"), Answers::Press("No"), Answers::Cancel()});
-        Command("export");
-    }
 }
 
 TEST_F(Saving, ReplacesNothingThatThePageIsDrawnFrom) {
@@ -113,15 +82,11 @@ TEST_F(Saving, ReplacesNothingThatThePageIsDrawnFrom) {
     for (const char* name :
          {"scan.png", "logo.png", "link.png", "hard.png", "page.png"}) {
         EXPECT_FALSE(files.ExportTo(Path(name), 50.0)) << name;
-        EXPECT_THAT(window.LastFailure().toStdString(),
-                    HasSubstr(folder.Path(name) + ": would replace "));
+        EXPECT_THAT(LastFailure(), HasSubstr(folder.Path(name) + ": would replace "));
     }
     EXPECT_FALSE(files.SaveTo(Path("logo.json")));
-    {
-        Answers answers(
+    Command("export",
             {Answers::Name(Path("scan")), Answers::Press("OK"), Answers::Cancel()});
-        Command("export");
-    }
     EXPECT_TRUE(Bytes("scan.png") == scan);
     EXPECT_TRUE(Bytes("logo.png") == logo);
     EXPECT_EQ(Bytes("page.json"), page);

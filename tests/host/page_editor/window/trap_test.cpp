@@ -12,7 +12,6 @@
 #include <fstream>
 #include <functional>
 #include <iterator>
-#include <utility>
 
 #include "page/document/page_text.h"
 #include "page_editor/editor_fixture.h"
@@ -50,8 +49,6 @@ protected:
         return children.substr(0, children.find_last_not_of(' ') + 1);
     }
 
-    QString Path(const char* name) { return QString::fromStdString(folder.Path(name)); }
-    std::string LastFailure() { return window.LastFailure().toStdString(); }
     std::string Died(const char* name) {
         return folder.Path(name) + ": reading failed: " + kAborted;
     }
@@ -101,14 +98,14 @@ TEST_F(TrapFiles, AreShownWhereNothingIsWrong) {
 TEST_F(TrapFiles, AreNotOpenedWhereOpeningThemCrashes) {
     window.Insert("map", {Path("open.trap")});
     EXPECT_EQ(LastFailure(), Died("open.trap"));
-    EXPECT_FALSE(window.Files().OpenFiles({Path("open.trap")}));
+    EXPECT_FALSE(files.OpenFiles({Path("open.trap")}));
     EXPECT_THAT(LastFailure(), EndsWith(Died("open.trap")));
     EXPECT_EQ(Text(), before);
 }
 
 TEST_F(TrapFiles, AreNotOpenedWithAPage) {
     Add("map", {100.0, 100.0, 300.0, 300.0}, {Path("well.trap")});
-    ASSERT_TRUE(window.Files().SaveTo(Path("page.json")));
+    ASSERT_TRUE(files.SaveTo(Path("page.json")));
     const std::string now = Text();
     WriteTrap(folder.Path("well.trap"), Trap::DiesWhenOpened);
     page_editor::EditorWindow other;
@@ -183,7 +180,7 @@ TEST_F(TrapFiles, EndAnExportThatCrashes) {
     window.Insert("map", {Path("read.trap")});
     const std::vector<std::string> names = folder.Names();
     for (const char* name : {"page.png", "page.ps"}) {
-        EXPECT_FALSE(window.Files().ExportTo(Path(name), 96.0));
+        EXPECT_FALSE(files.ExportTo(Path(name), 96.0));
         EXPECT_EQ(LastFailure(), folder.Path(name) + ": drawing failed: " + kAborted);
     }
     EXPECT_EQ(folder.Names(), names);
@@ -194,7 +191,7 @@ TEST_F(TrapFiles, EndAnExportThatIsGivenUp) {
     WriteTrap(folder.Path("well.trap"), Trap::HangsWhenRead);
     const std::vector<std::string> names = folder.Names();
     GiveUp();
-    EXPECT_FALSE(window.Files().ExportTo(Path("page.png"), 96.0));
+    EXPECT_FALSE(files.ExportTo(Path("page.png"), 96.0));
     EXPECT_EQ(LastFailure(), folder.Path("page.png") + ": drawing was stopped");
     EXPECT_EQ(folder.Names(), names);
 }
@@ -204,7 +201,7 @@ TEST_F(TrapFiles, AreGivenUpWhereOpeningThemHangs) {
     GiveUp();
     window.Insert("map", {Path("stuck.trap")});
     EXPECT_EQ(LastFailure(), folder.Path("stuck.trap") + ": reading was stopped");
-    EXPECT_FALSE(window.Files().OpenFiles({Path("stuck.trap")}));
+    EXPECT_FALSE(files.OpenFiles({Path("stuck.trap")}));
     EXPECT_THAT(LastFailure(),
                 EndsWith(folder.Path("stuck.trap") + ": reading was stopped"));
     EXPECT_EQ(Text(), before);
@@ -227,7 +224,7 @@ TEST_F(TrapFiles, AreHatchedWhereReadingThemIsGivenUp) {
         // drawn at another size.
         if (++dialogs == 1) {
             Q_EMIT field->editingFinished();
-            EXPECT_EQ(std::get<double>(Value(0, "angle")), 0.0);
+            EXPECT_EQ(Value<double>(0, "angle"), 0.0);
             canvas.SetZoom(1.25);
         }
     });
@@ -237,8 +234,7 @@ TEST_F(TrapFiles, AreHatchedWhereReadingThemIsGivenUp) {
     const int width = image.width();
     // What was to be done meanwhile is done now.
     EXPECT_TRUE(QTest::qWaitFor([&] { return image.width() < width; }));
-    EXPECT_TRUE(
-        QTest::qWaitFor([&] { return std::get<double>(Value(0, "angle")) == 45.0; }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Value<double>(0, "angle") == 45.0; }));
     EXPECT_EQ(dialogs, 2);
     document.Select({map});
     Command("delete");
@@ -258,8 +254,8 @@ TEST_F(TrapFiles, DoNotChangeWhatIsSelectedLater) {
     canvas.SetZoom(1.5);
     document.Select({1});
     QTest::qWait(300);
-    EXPECT_EQ(std::get<double>(Value(0, "angle")), 0.0);
-    EXPECT_EQ(std::get<double>(Value(1, "angle")), 0.0);
+    EXPECT_EQ(Value<double>(0, "angle"), 0.0);
+    EXPECT_EQ(Value<double>(1, "angle"), 0.0);
 }
 
 }  // namespace
