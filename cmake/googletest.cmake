@@ -15,16 +15,17 @@ else()
 endif()
 
 # The tests of a program, each by itself; or, where a process takes longer to start than
-# most tests take, in as many parts as run at a time.
+# most tests take, in twice as many parts as run at a time, since some take longer. EACH
+# has them by themselves in any case.
 option(MAP_SURROUND_WHOLE_PROGRAMS "Run the programs of tests whole" OFF)
 cmake_host_system_information(RESULT processors QUERY NUMBER_OF_LOGICAL_CORES)
-set(MAP_SURROUND_TEST_PARTS ${processors})
+math(EXPR MAP_SURROUND_TEST_PARTS "2 * ${processors}")
 function(add_program_tests target prefix)
-  cmake_parse_arguments(PARSE_ARGV 2 arg "" "FILTER" "PROPERTIES")
+  cmake_parse_arguments(PARSE_ARGV 2 arg "EACH" "FILTER" "PROPERTIES")
   if(NOT arg_FILTER)
     set(arg_FILTER "*")
   endif()
-  if(NOT MAP_SURROUND_WHOLE_PROGRAMS)
+  if(arg_EACH OR NOT MAP_SURROUND_WHOLE_PROGRAMS)
     gtest_discover_tests(${target} TEST_PREFIX "${prefix}." TEST_FILTER "${arg_FILTER}"
       DISCOVERY_TIMEOUT 60 PROPERTIES ${arg_PROPERTIES})
     return()
@@ -33,6 +34,7 @@ function(add_program_tests target prefix)
   foreach(part RANGE ${last})
     add_test(NAME ${prefix}.${part} COMMAND ${target} "--gtest_filter=${arg_FILTER}")
     set_tests_properties(${prefix}.${part} PROPERTIES ${arg_PROPERTIES} TIMEOUT 1500
-      ENVIRONMENT "GTEST_TOTAL_SHARDS=${MAP_SURROUND_TEST_PARTS};GTEST_SHARD_INDEX=${part}")
+      ENVIRONMENT "GTEST_BRIEF=1;GTEST_TOTAL_SHARDS=${MAP_SURROUND_TEST_PARTS};\
+GTEST_SHARD_INDEX=${part}")
   endforeach()
 endfunction()

@@ -393,7 +393,7 @@ constexpr std::uint32_t kParts = 10;
 
 TEST_P(TruePages, SayWhatIsSo) {
     const std::uint32_t first = Given("TRUE_PAGES_FIRST", 0);
-    const std::uint32_t count = Given("TRUE_PAGES", 100);
+    const std::uint32_t count = Given("TRUE_PAGES", 40);
     const bool printsAll = Given("TRUE_PAGES_PRINT", 0) != 0;  // else a tenth of them
     const auto failures = [] {
         return ::testing::UnitTest::GetInstance()
