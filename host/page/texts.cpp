@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <map>
 #include <set>
+#include <tuple>
 
 #include "map_surround/title.h"
 #include "page/document/page_error.h"
@@ -69,10 +71,20 @@ bool CutsTexts(const CMapLegend& legend) {
     return measured.HasCutTexts();
 }
 
-FontChain ChainOf(const WrittenText& text) {
-    return {text.family, (text.style & Gdiplus::FontStyleBold) != 0,
-            (text.style & Gdiplus::FontStyleItalic) != 0};
-}
+/// Fontconfig sorts all fonts for each of these, so the items of a page share them.
+class Chains {
+public:
+    const FontChain& Of(const WrittenText& text) {
+        const bool bold = (text.style & Gdiplus::FontStyleBold) != 0;
+        const bool italic = (text.style & Gdiplus::FontStyleItalic) != 0;
+        return m_chains
+            .try_emplace({text.family, bold, italic}, text.family, bold, italic)
+            .first->second;
+    }
+
+private:
+    std::map<std::tuple<std::string, bool, bool>, FontChain> m_chains;
+};
 
 std::string CodeOf(char32_t character) {
     char code[16];
@@ -94,10 +106,10 @@ std::string InWords(const std::u32string& missing) {
            "): " + (missing.size() == 1 ? "a box is drawn" : "boxes are drawn");
 }
 
-void AddMissing(const PageItem& item, std::vector<std::string>& remarks) {
+void AddMissing(const PageItem& item, Chains& chains, std::vector<std::string>& remarks) {
     std::u32string missing;
     for (const WrittenText& text : TextsOf(item)) {
-        missing += ChainOf(text).Missing(text.characters);
+        missing += chains.Of(text).Missing(text.characters);
     }
     if (!missing.empty()) {
         remarks.push_back(NameOf(item) + ": " + InWords(missing));
@@ -138,8 +150,9 @@ void CheckFontsOf(const Page& page) {
 
 std::vector<std::string> RemarksOfTexts(const Page& page) {
     std::vector<std::string> remarks;
+    Chains chains;
     for (const PageItem& item : page.Items()) {
-        AddMissing(item, remarks);
+        AddMissing(item, chains, remarks);
         const auto* const legend = ElementOf<CMapLegend>(item);
         if (legend != nullptr && CutsTexts(*legend)) {
             remarks.push_back(NameOf(item) +
@@ -151,16 +164,18 @@ std::vector<std::string> RemarksOfTexts(const Page& page) {
 
 std::vector<std::string> RemarksOfMissing(const Page& page) {
     std::vector<std::string> remarks;
+    Chains chains;
     for (const PageItem& item : page.Items()) {
-        AddMissing(item, remarks);
+        AddMissing(item, chains, remarks);
     }
     return remarks;
 }
 
 void CheckWritten(const Page& page) {
+    Chains chains;
     for (const PageItem& item : page.Items()) {
         for (const WrittenText& text : TextsOf(item)) {
-            const std::string why = ChainOf(text).WhyUnusable(text.characters);
+            const std::string why = chains.Of(text).WhyUnusable(text.characters);
             if (!why.empty()) {
                 throw NamedError(NameOf(item), "cannot be written: " + why);
             }

@@ -10,17 +10,13 @@
 #include <cerrno>
 #include <cstddef>
 #include <iterator>
-#include <map>
-#include <mutex>
 #include <set>
 #include <system_error>
-#include <tuple>
 #include <utility>
 
 namespace host {
 namespace {
 
-using Config = std::unique_ptr<FcConfig, decltype(&FcConfigDestroy)>;
 using Pattern = std::unique_ptr<FcPattern, decltype(&FcPatternDestroy)>;
 using FontSet = std::unique_ptr<FcFontSet, decltype(&FcFontSetDestroy)>;
 using ObjectSet = std::unique_ptr<FcObjectSet, decltype(&FcObjectSetDestroy)>;
@@ -121,9 +117,10 @@ struct FontChain::Fonts {
     }
 };
 
-namespace {
-
-FontSet Sorted(const std::string& family, bool bold, bool italic) {
+FontChain::FontChain(const std::string& family, bool bold, bool italic) {
+    if (FcInit() == FcFalse) {
+        return;
+    }
     const Pattern pattern = PatternOf(reinterpret_cast<const FcChar8*>(family.c_str()));
     FcPatternAddInteger(pattern.get(), FC_WEIGHT,
                         bold ? FC_WEIGHT_BOLD : FC_WEIGHT_REGULAR);
@@ -132,32 +129,9 @@ FontSet Sorted(const std::string& family, bool bold, bool italic) {
     FcConfigSubstitute(nullptr, pattern.get(), FcMatchPattern);
     FcDefaultSubstitute(pattern.get());
     FcResult result = FcResultMatch;
-    return {FcFontSort(nullptr, pattern.get(), FcTrue, nullptr, &result),
-            &FcFontSetDestroy};
-}
-
-}  // namespace
-
-FontChain::FontChain(const std::string& family, bool bold, bool italic) {
-    if (FcInit() == FcFalse) {
-        return;
-    }
-    // Fontconfig sorts all fonts for each, which takes a millisecond.
-    constexpr std::size_t mostKept = 64;
-    static std::mutex mutex;
-    static Config kept(nullptr, &FcConfigDestroy);
-    static std::map<std::tuple<std::string, bool, bool>, std::shared_ptr<const Fonts>>
-        chains;
-    const std::lock_guard lock(mutex);
-    if (kept.get() != FcConfigGetCurrent() || chains.size() >= mostKept) {
-        kept.reset(FcConfigReference(nullptr));
-        chains.clear();
-    }
-    std::shared_ptr<const Fonts>& chain = chains[{family, bold, italic}];
-    if (chain == nullptr) {
-        chain = std::make_shared<Fonts>(Fonts{Sorted(family, bold, italic)});
-    }
-    m_fonts = chain;
+    FontSet set(FcFontSort(nullptr, pattern.get(), FcTrue, nullptr, &result),
+                &FcFontSetDestroy);
+    m_fonts = std::make_shared<Fonts>(Fonts{std::move(set)});
 }
 
 std::u32string FontChain::Missing(const std::wstring& text) const {

@@ -14,7 +14,7 @@ bool IsFontFamilyKnown(const std::string& family);
 
 /// What a text in a family and style is drawn with: the family's font, and those that
 /// stand in, in their order, for characters that it does not have. Empty where there are
-/// no fonts. Found once for as long as the same fonts are installed.
+/// no fonts.
 class FontChain {
 public:
     /// @param family UTF-8

@@ -1,6 +1,5 @@
 #include "system/fonts.h"
 
-#include <fontconfig/fontconfig.h>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 
@@ -43,21 +42,6 @@ TEST(Fonts, AreOfNoUseWhenTheirFilesCannotBeOpened) {
     const std::string why = chain.WhyUnusable(L"Olinda");
     setrlimit(RLIMIT_NOFILE, &before);
     EXPECT_NE(why.find("Sans-Bold.ttf: Too many open files"), std::string::npos) << why;
-}
-
-TEST(Fonts, AreFoundAnewWhenOthersAreInstalled) {
-    const auto missing = [] {
-        return host::FontChain("Arial", false, false).Missing(L"a");
-    };
-    ASSERT_EQ(missing(), U"");
-    FcConfig* const installed = FcConfigReference(nullptr);
-    FcConfig* const none = FcConfigCreate();
-    FcConfigSetCurrent(none);
-    FcConfigDestroy(none);
-    EXPECT_EQ(missing(), U"a");
-    FcConfigSetCurrent(installed);
-    FcConfigDestroy(installed);
-    EXPECT_EQ(missing(), U"");
 }
 
 }  // namespace
