@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <bitset>
 #include <cmath>
+#include <cstdlib>
 #include <deque>
 #include <limits>
 #include <utility>

@@ -2,6 +2,7 @@
 
 #include <gdiplus.h>
 
+#include <cstdlib>
 #include <functional>
 
 #include <map>

@@ -7,6 +7,7 @@
 #include <QMessageBox>
 #include <QTimer>
 #include <functional>
+#include <string>
 #include <vector>
 
 #include "page_editor/window/editor_window.h"
