@@ -391,47 +391,4 @@ TEST(LegendDrawing, LengthsBeyondTheLimitStayAtIt) {
     }
 }
 
-// Thrice 16777217 is 50331652 as a float, and a third of that 16777218, where the width
-// of the sample itself would be 16777216.
-TEST(LegendDrawing, ASwatchIsAThirdOfTheLeastWidthAsAFloat) {
-    Raster rgb(L"", DisplayRGB);
-    CMapLegend legend;
-    legend.SetDataSouce({&rgb});
-    Surface surface;
-    Recording recording(Mode::RecordOnly);
-    // A row of 140, three swatches of 84 and 24 + 36 of gaps, then 60 of the title: 512.
-    ink::Script(recording, ink::Of({{"Band_1", {16777217, 140}}, {"T", {1, 60}}}));
-    legend.SetTitleValue(L"T");
-    legend.ResetAspectRatio();
-    ASSERT_EQ(legend.GetSize(), 512);
-    legend.SetAspectRatio(0.0f);
-    recording.Clear();
-    legend.Draw(surface.Graphics(), CPoint(0, 256), 1.0);
-    // Below the title, drawn as high as it was measured, two gaps, the row and a gap.
-    EXPECT_EQ(
-        recording.Drawing().at(2),
-        FillRectangle(BrushLook(0xFFFF0000), 0, 60 + 24 + 140 + 12, 16777218.0f, 84));
-}
-
-// So does the time, whatever the number of classes.
-TEST(LegendDrawing, CallsGrowInProportionToTheClasses) {
-    const auto calls = [](int classes, bool draw) {
-        Raster raster(L"classes", DisplayClassified);
-        raster.table.items.assign(static_cast<std::size_t>(classes), {L"class", 1, 2, 3});
-        CMapLegend legend;
-        legend.SetDataSouce({&raster});
-        Surface surface;
-        Recording recording(Mode::Silent);
-        if (draw) {
-            legend.Draw(surface.Graphics(), CPoint(0, 0), 1.0);
-        } else {
-            legend.ResetAspectRatio();
-        }
-        return recording.Count();
-    };
-    // Reset, size, style, outline, bounds; two colours, swatch, label.
-    EXPECT_EQ(calls(10000, false) - calls(100, false), 9900 * 5);
-    EXPECT_EQ(calls(10000, true) - calls(100, true), 9900 * 4);
-}
-
 }  // namespace

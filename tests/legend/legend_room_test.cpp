@@ -221,6 +221,23 @@ TEST(LegendRoom, TextsAreBrokenWhereTheyMayBe) {
     }
 }
 
+// Rounded up to whole pixels.
+TEST(LegendRoom, LinesAreTwelveTenthsOfARowApart) {
+    for (const auto& [row, apart] : {std::pair(10, 12), {13, 16}, {14, 17}}) {
+        Raster raster(L"ab cd", fakes::kUnknown);
+        CMapLegend legend;
+        legend.SetDataSouce({&raster});
+        legend.SetSourceCaption(L"");
+        legend.SetMostWidth(20.0f);
+        legend.SetMostLines(2);
+        ink::Measure(legend, [height = row](const std::string& text,
+                                            const std::string& family, float emSize) {
+            return ink::Size{RoomInk(text, family, emSize).width, height};
+        });
+        EXPECT_EQ(legend.GetSize(), row + 24 + row + apart);
+    }
+}
+
 TEST(LegendRoom, LinesEndBesideTheFirstAndTheLastOfEachRange) {
     const auto breaks = [](char32_t first, char32_t second) {
         std::wstring name;

@@ -100,12 +100,8 @@ TEST(Page, DrawsItsItemsInOrder) {
     page.Add(std::move(second));
 
     recording::Surface surface(400, 200);
-    std::vector<std::string> drawn;
-    {
-        recording::Recording recording;
-        page.Draw(*surface.Graphics(), 192.0);
-        drawn = recording.Drawing();
-    }
+    recording::Recording recording;
+    page.Draw(*surface.Graphics(), 192.0);
     // At two pixels a unit the first frame is (220, 100) to (380, 180), its border 3
     // pixels wide. The shadow begins where the pen ends, 2 pixels beyond its line; it
     // falls 160 / 8 = 20 to the right and 80 / 4 = 20 down.
@@ -124,7 +120,7 @@ TEST(Page, DrawsItsItemsInOrder) {
          {"before the second frame", ResetWorld()},
          {"border around the page",
           DrawRectangle(PenLook(0xFF000000, 2.0f), 0, 0, 400, 200)}},
-        drawn));
+        recording.Drawing()));
 }
 
 TEST(Page, ScalesDecorationsWithTheResolution) {
@@ -158,12 +154,8 @@ TEST(Page, ScalesDecorationsWithTheResolution) {
         page.Add(std::move(frame));
 
         recording::Surface surface;
-        std::vector<std::string> drawn;
-        {
-            recording::Recording recording;
-            page.Draw(*surface.Graphics(), row.dpi);
-            drawn = recording.Drawing();
-        }
+        recording::Recording recording;
+        page.Draw(*surface.Graphics(), row.dpi);
         const int left = pixels(20.0);
         const int top = pixels(20.0);
         const int width = pixels(180.0) - left;
@@ -178,7 +170,7 @@ TEST(Page, ScalesDecorationsWithTheResolution) {
              {"border",
               DrawRectangle(PenLook(kBorder, row.widthDrawn), left - border, top - border,
                             width + 2 * border, height + 2 * border)}},
-            drawn))
+            recording.Drawing()))
             << "at " << row.dpi;
     }
 }

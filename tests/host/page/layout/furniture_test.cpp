@@ -57,7 +57,6 @@ TEST(Furniture, DivisionsAreTrueToTheMap) {
         for (const double width : {0.5, 7.0, 970.0, 10031.0, 3.7e6}) {
             for (const int divisions : {1, 3, 5}) {
                 host::PageDesign design;
-                ASSERT_TRUE(host::ParsePaperSize("A4", design.paper));
                 design.scaleBar.style = style;
                 design.scaleBar.divisions = divisions;
                 design.scaleBar.distances = host::BarDistances::Map;
@@ -111,7 +110,6 @@ TEST(Furniture, CountsWhatItIsAskedToCount) {
     };
     for (const Row& row : rows) {
         host::PageDesign design;
-        ASSERT_TRUE(host::ParsePaperSize("A4", design.paper));
         design.scaleBar.distances = host::BarDistances::Map;
         design.scaleBar.unit = row.unit;
         const host::LaidOutPage laidOut = host::LayOut(design, MapOf(6000.0, 4500.0));
@@ -131,44 +129,6 @@ TEST(Furniture, CountsWhatItIsAskedToCount) {
     }
 }
 
-TEST(Furniture, StandsInsideThePageAndApart) {
-    fakes::Raster source(L"a_scene_with_quite_a_long_name.tif", DisplayRGB);
-    source.hasBand = source.hasTable = false;
-    for (const char* paper : {"A4", "210x297", "100x100", "400x60"}) {
-        host::PageDesign design;
-        ASSERT_TRUE(host::ParsePaperSize(paper, design.paper));
-        design.scaleBar.distances = host::BarDistances::Map;
-        design.northArrow.angle = 0.0;
-        host::MapOnPage map = MapOf(1000.0, 900.0);
-        map.sources = {&source, &source, &source};
-        const host::LaidOutPage laidOut = host::LayOut(design, map);
-        const LaidOut found(laidOut.page);
-        std::vector<CBoundingBox> boxes = {found.map};
-        for (const CSurroundFrame* frame :
-             {found.Of(SurroundLegend), found.Of(SurroundScaleBar),
-              found.Of(SurroundNorthArrow)}) {
-            ASSERT_NE(frame, nullptr) << paper;
-            boxes.push_back(frame->GetExtent());
-        }
-        for (std::size_t i = 0; i < boxes.size(); ++i) {
-            const CPoint2D corner = boxes[i].TopLeft();
-            const double right = corner.x + boxes[i].GetWidth();
-            const double bottom = corner.y - boxes[i].GetHeight();
-            EXPECT_GE(corner.x, 0.0) << paper;
-            EXPECT_LE(corner.y, laidOut.page.Height()) << paper;
-            EXPECT_LE(right, laidOut.page.Width()) << paper;
-            EXPECT_GE(bottom, 0.0) << paper;
-            for (std::size_t j = 0; j < i; ++j) {
-                const CPoint2D other = boxes[j].TopLeft();
-                EXPECT_TRUE(
-                    right <= other.x || other.x + boxes[j].GetWidth() <= corner.x ||
-                    bottom >= other.y || other.y - boxes[j].GetHeight() >= corner.y)
-                    << paper << ": " << i << " over " << j;
-            }
-        }
-    }
-}
-
 template <class Element>
 const host::CatalogueEntry* StyleOf() {
     return host::FindEntry(Element());
@@ -176,7 +136,6 @@ const host::CatalogueEntry* StyleOf() {
 
 TEST(Furniture, IsLeftOutWhereTheMapHasNoCoordinates) {
     host::PageDesign design;
-    ASSERT_TRUE(host::ParsePaperSize("A4", design.paper));
     const host::LaidOutPage bare = host::LayOut(design, {nullptr, 1.5});
     const LaidOut found(bare.page);
     EXPECT_EQ(found.Of(SurroundScaleBar), nullptr);
@@ -193,7 +152,6 @@ TEST(Furniture, TakesWhatTheDesignSays) {
     fakes::Raster source(L"a_scene_with_quite_a_long_name.tif", DisplayRGB);
     source.hasBand = source.hasTable = false;
     host::PageDesign design;
-    ASSERT_TRUE(host::ParsePaperSize("A4", design.paper));
     design.scaleBar.style = StyleOf<CScaleLine3>();
     design.scaleBar.subdivisions = 3;
     design.scaleBar.unitPosition = UnitPosBefore;
@@ -229,7 +187,6 @@ TEST(Furniture, TakesWhatTheDesignSays) {
 
 TEST(Furniture, LeavesOutWhatItDoesNotKnowAndTells) {
     host::PageDesign design;
-    ASSERT_TRUE(host::ParsePaperSize("A4", design.paper));
     design.scaleBar.numeric = true;
     const host::LaidOutPage laidOut = host::LayOut(design, MapOf(10.0, 10.0));
     EXPECT_EQ(laidOut.remarks.size(), 3u) << "north, the bar and the scale";
