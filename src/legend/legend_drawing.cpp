@@ -40,7 +40,13 @@ Gdiplus::Color StripColour(int k, const std::vector<Gdiplus::Color>& colours) {
 }
 
 /// How a text is set in lines.
-using Lines = std::vector<std::wstring> (TextRoom::*)(const std::wstring& text);
+using Lines = std::vector<std::wstring> (*)(TextRoom& room, const std::wstring& text);
+std::vector<std::wstring> LinesOfName(TextRoom& room, const std::wstring& text) {
+    return room.LinesOfName(text);
+}
+std::vector<std::wstring> LinesOfLabel(TextRoom& room, const std::wstring& text) {
+    return room.LinesOfLabel(text);
+}
 
 /// A cursor moving down the legend, column by column, in pixels.
 struct Cursor {
@@ -93,7 +99,7 @@ struct Cursor {
             return;
         }
         float step = 0.0f;
-        for (const std::wstring& line : (room->*lines)(text)) {
+        for (const std::wstring& line : lines(*room, text)) {
             y += step;
             Write(line, font, x, y - above);
             step = legend::kLineTenths * rowHeight / 10;
@@ -169,7 +175,7 @@ void Cursor::DrawClasses(CClassifyDisplayTable* table) {
             Fill(Gdiplus::Color(255, red, green, blue), y, swatchHeight);
             brush.SetColor(kBlack);
             WriteLines(
-                item->GetLable(), &TextRoom::LinesOfLabel, entryFont,
+                item->GetLable(), LinesOfLabel, entryFont,
                 left + static_cast<float>(legend::kClassLabelTenths) / 10 * swatchWidth,
                 SwatchLabelAbove());
         }
@@ -247,7 +253,7 @@ void CMapLegend::Draw(Gdiplus::Graphics* graphics, CPoint centre, double scale) 
         cursor.BeginRow();
         cursor.WriteLines(
             m_sourceCaption + map_surround::NameOf(*source, m_shownSources, i),
-            &TextRoom::LinesOfName, fileName.font, cursor.left, 0.0f);
+            LinesOfName, fileName.font, cursor.left, 0.0f);
         cursor.y += rowHeight + gap;
         const std::vector<Gdiplus::Color> ramp = map_surround::RampOf(m_shownSources, i);
         if (ramp.empty() && source->GetDisplayType() == DisplayRGB) {
