@@ -1,5 +1,6 @@
 #include "recording/recording.h"
 
+#include <new>
 #include <stdexcept>
 #include <utility>
 
@@ -8,8 +9,15 @@
 namespace recording {
 
 Session& ThisThread() {
+#ifdef __MINGW32__
+    // A thread's variables are freed there before they are destroyed: this one never is.
+    alignas(Session) thread_local unsigned char room[sizeof(Session)];
+    thread_local Session* const session = new (room) Session;
+    return *session;
+#else
     thread_local Session session;
     return session;
+#endif
 }
 
 Gdiplus::Status Session::Enter(const char* function) {
