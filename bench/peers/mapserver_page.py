@@ -1,5 +1,6 @@
 """Writes the furniture page as a mapfile, which map2img draws; with a map, if asked.
-    mapserver_page.py DPI OUT.map [RASTER]
+    mapserver_page.py DPI OUT.map [RASTER [SYSTEM]]
+Of a SYSTEM, such as epsg:31985, the map is drawn in it, from what the raster says it has.
 """
 import json
 import subprocess
@@ -48,10 +49,11 @@ END""")
                    f'LABEL TYPE TRUETYPE FONT "{font}" SIZE {points * SCALE:.1f} '
                    "COLOR 0 0 0 POSITION CR FORCE TRUE END")
 
-    def raster_map(self, raster):
+    def raster_map(self, raster, system):
         """The first three bands; its pixels as they are, as map_page shows them."""
+        own = "PROJECTION AUTO END" if system else ""
         self.layers.append(f"""LAYER
- TYPE RASTER STATUS ON DATA "{raster}"
+ TYPE RASTER STATUS ON DATA "{raster}" {own}
  PROCESSING "BANDS=3,2,1" PROCESSING "SCALE=0,255"
 END""")
 
@@ -70,10 +72,11 @@ def extent_of(raster, width, height):
 
 def main():
     raster = sys.argv[3] if len(sys.argv) > 3 else None
+    system = sys.argv[4] if len(sys.argv) > 4 else None
     width, height = round(297 / 25.4 * 96 * SCALE), round(210 / 25.4 * 96 * SCALE)
     mapfile = Mapfile()
     if raster:
-        mapfile.raster_map(raster)
+        mapfile.raster_map(raster, system)
     furniture.draw(mapfile)
     fonts = sys.argv[2].rsplit("/", 1)[0] + "/fonts.list"
     with open(fonts, "w", encoding="utf-8") as file:
@@ -83,6 +86,7 @@ def main():
         file.write(f"""MAP
 NAME "page" SIZE {width} {height} EXTENT {extent_of(raster, width, height)} IMAGECOLOR 255 255 255
 MAXSIZE 8192 FONTSET "{fonts}" IMAGETYPE PNG24
+{f'PROJECTION "init={system}" END' if system else ""}
 OUTPUTFORMAT NAME "PNG24" DRIVER AGG/PNG MIMETYPE "image/png" IMAGEMODE RGB EXTENSION "png" END
 """ + "\n".join(mapfile.layers) + "\nEND\n")
 
