@@ -11,7 +11,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// What these open in turn is looked at as well.
+// The files that these open in turn are checked as well.
 constexpr std::string_view kFilesInFiles[] = {"/vsizip/", "/vsitar/", "/vsigzip/",
                                               "/vsisubfile/", "/vsimem/"};
 
@@ -19,7 +19,7 @@ bool Begins(std::string_view text, std::string_view with) {
     return text.substr(0, with.size()) == with;
 }
 
-/// The file behind a name, as far as there is one; empty when that cannot be told.
+/// The file behind a name, as far as it exists; empty when that cannot be told.
 fs::path ResolvedPath(const std::string& path) {
     std::error_code error;
     fs::path resolved = fs::weakly_canonical(fs::absolute(path, error), error);
@@ -74,7 +74,7 @@ std::string AllowedSources::WhyNot(const std::string& name) const {
 std::string AllowedSources::WhyNotName(const std::string& name) const {
     std::error_code ignored;
     if (IsInFiles(name)) {
-        return {};  // the file is looked at when it is opened
+        return {};  // the file is checked when it is opened
     }
     // GDAL looks for a description anywhere in a name.
     const bool isNoFile = IsNoPath(name) || name.find('<') != std::string::npos;

@@ -19,7 +19,7 @@ pid_t StartChild(const std::function<int()>& work) {
     if (getppid() != parent) {
         std::raise(SIGTERM);
     }
-    _exit(work());  // what libraries tidy up at the end takes longer than the fork
+    _exit(work());  // the libraries' exit handlers take longer than the fork
 }
 
 int WaitFor(pid_t process) {

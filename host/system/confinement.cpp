@@ -18,7 +18,7 @@
 namespace host {
 namespace {
 
-// Younger than Debian 12's headers: the third version of Landlock has it.
+// Missing from Debian 12's headers; Landlock has it from its third version.
 constexpr std::uint64_t kTruncate = 1ULL << 14;
 
 constexpr std::uint64_t kReading =
@@ -31,13 +31,13 @@ constexpr std::uint64_t kWriting =
     LANDLOCK_ACCESS_FS_MAKE_SOCK | LANDLOCK_ACCESS_FS_MAKE_FIFO |
     LANDLOCK_ACCESS_FS_MAKE_BLOCK | LANDLOCK_ACCESS_FS_MAKE_SYM;
 
-// Younger than Debian 12's headers, and numbered alike on all machines.
+// Missing from Debian 12's headers; the same numbers on every machine.
 constexpr int kFchmodat2 = 452;
 constexpr int kSetxattrat = 463;
 constexpr int kRemovexattrat = 466;
 constexpr int kFileSetattr = 469;
 
-// Reading and drawing make none of these calls; a decoder that was taken over would.
+// Reading and drawing make none of these calls; a hijacked decoder might.
 constexpr int kRefused[] = {
     SCMP_SYS(execve), SCMP_SYS(execveat), SCMP_SYS(ptrace), SCMP_SYS(process_vm_readv),
     SCMP_SYS(process_vm_writev), SCMP_SYS(pidfd_getfd), SCMP_SYS(kill),
@@ -46,26 +46,26 @@ constexpr int kRefused[] = {
     // Memory and queues that others may share.
     SCMP_SYS(shmget), SCMP_SYS(shmat), SCMP_SYS(msgget), SCMP_SYS(semget),
     SCMP_SYS(mq_open),
-    // What Landlock leaves of files.
+    // What Landlock does not cover of files.
     SCMP_SYS(truncate), SCMP_SYS(chmod), SCMP_SYS(fchmod), SCMP_SYS(fchmodat),
     SCMP_SYS(chown), SCMP_SYS(fchown), SCMP_SYS(lchown), SCMP_SYS(fchownat),
     SCMP_SYS(utime), SCMP_SYS(utimes), SCMP_SYS(futimesat), SCMP_SYS(utimensat),
     SCMP_SYS(setxattr), SCMP_SYS(lsetxattr), SCMP_SYS(fsetxattr), SCMP_SYS(removexattr),
     SCMP_SYS(lremovexattr), SCMP_SYS(fremovexattr), kFchmodat2, kSetxattrat,
     kRemovexattrat, kFileSetattr,
-    // And what it has of them, for kernels without it.
+    // What it does cover, for kernels without it.
     SCMP_SYS(creat), SCMP_SYS(mkdir), SCMP_SYS(mkdirat), SCMP_SYS(mknod),
     SCMP_SYS(mknodat), SCMP_SYS(unlink), SCMP_SYS(unlinkat), SCMP_SYS(rmdir),
     SCMP_SYS(rename), SCMP_SYS(renameat), SCMP_SYS(renameat2), SCMP_SYS(link),
     SCMP_SYS(linkat), SCMP_SYS(symlink), SCMP_SYS(symlinkat),
-    // The machine's own, which root could.
+    // What changes the machine, which root could.
     SCMP_SYS(mount), SCMP_SYS(umount2), SCMP_SYS(pivot_root), SCMP_SYS(chroot),
     SCMP_SYS(move_mount), SCMP_SYS(open_tree), SCMP_SYS(fsopen), SCMP_SYS(unshare),
     SCMP_SYS(setns), SCMP_SYS(bpf), SCMP_SYS(perf_event_open), SCMP_SYS(userfaultfd),
     SCMP_SYS(keyctl), SCMP_SYS(add_key), SCMP_SYS(request_key), SCMP_SYS(init_module),
     SCMP_SYS(finit_module), SCMP_SYS(delete_module), SCMP_SYS(kexec_load),
     SCMP_SYS(reboot), SCMP_SYS(swapon), SCMP_SYS(swapoff), SCMP_SYS(open_by_handle_at),
-    // A second way to make all other calls.
+    // A second way to make all the other calls.
     SCMP_SYS(io_uring_setup), SCMP_SYS(io_uring_enter), SCMP_SYS(io_uring_register)};
 
 constexpr int kRefusedNetwork[] = {
@@ -90,7 +90,7 @@ long LandlockVersion() {
     return version < 0 ? 0 : version;
 }
 
-/// Files by name.
+/// The Landlock rules for files opened by name.
 class FileRules {
 public:
     explicit FileRules(std::uint64_t handled) : m_handled(handled) {
@@ -106,7 +106,7 @@ public:
         }
     }
 
-    /// What is not there needs no leave.
+    /// A missing file needs no permission.
     void Allow(const std::string& path, std::uint64_t access) const {
         const int place = open(path.c_str(), O_PATH | O_CLOEXEC);
         struct stat status = {};
@@ -143,7 +143,7 @@ bool ConfineFiles(const Kept& kept) {
                           (kept.readable ? kReading : 0));
     rules.Allow("/dev/null", kReading | LANDLOCK_ACCESS_FS_WRITE_FILE | kTruncate);
     if (kept.temporaryFiles) {
-        // The calls leave of it what has no name.
+        // The system calls that remain can only make unnamed files there.
         rules.Allow(kTemporaryFolder, LANDLOCK_ACCESS_FS_WRITE_FILE);
     }
     if (kept.readable) {
@@ -165,10 +165,10 @@ bool ConfineCalls(const Kept& kept) {
     for (const int call : kRefused) {
         refuse(call);
     }
-    // Left for this process alone.
+    // Allowed within this process only.
     refuse(SCMP_SYS(tgkill), SCMP_A0(SCMP_CMP_NE, static_cast<scmp_datum_t>(getpid())));
     refuse(SCMP_SYS(prlimit64), SCMP_A0(SCMP_CMP_NE, 0));
-    for (const scmp_datum_t typing : {TIOCSTI, TIOCLINUX}) {  // as if a person did
+    for (const scmp_datum_t typing : {TIOCSTI, TIOCLINUX}) {  // as if a person typed
         refuse(SCMP_SYS(ioctl),
                SCMP_A1(SCMP_CMP_MASKED_EQ, std::numeric_limits<unsigned>::max(), typing));
     }
@@ -178,8 +178,8 @@ bool ConfineCalls(const Kept& kept) {
         }
     }
     if (kept.temporaryFiles) {
-        // Opening to write what is there: not that without a name, and not what is
-        // emptied or made, which is for the rules of files.
+        // Opening existing files for writing. Unnamed files are allowed; truncating and
+        // creating are left to the file rules.
         const auto refuseToOpen = [&](int call, unsigned flags) {
             held = held &&
                    seccomp_rule_add(

@@ -7,11 +7,11 @@
 namespace host {
 
 /// Writes all the bytes, however often a signal interrupts.
-/// @return 0, or the number of the error (errno) that ended it
+/// @return 0, or the error (errno) that stopped it
 int WriteAll(int descriptor, const void* bytes, std::size_t count);
 
-/// The bytes of an open file, wherever it stands.
-/// @return false, and errno, when they cannot be read
+/// Reads all the bytes of an open file, whatever its position.
+/// @return false, with errno set, when they cannot be read
 bool ReadAll(int descriptor, std::vector<std::uint8_t>& bytes);
 
 }  // namespace host

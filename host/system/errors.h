@@ -9,17 +9,17 @@
 
 namespace host {
 
-/// What is wrong, with what, in one line for a person: "page.png: Permission denied".
+/// What is wrong with what, in one line: "page.png: Permission denied".
 class NamedError : public std::runtime_error {
 public:
     NamedError(const std::string& thing, const std::string& why)
         : std::runtime_error(thing + ": " + why) {}
-    /// @param line that names the thing
+    /// @param line names the thing
     explicit NamedError(const std::string& line) : std::runtime_error(line) {}
 };
 
-/// Runs a step whose std::runtime_error has the reason but not the thing; what is a
-/// NamedError already stays as it is.
+/// Runs a step whose std::runtime_error gives the reason but not the thing, and adds its
+/// name; a NamedError stays as it is.
 template <typename Step>
 auto Naming(const std::string& thing, Step step) {
     try {
@@ -31,7 +31,7 @@ auto Naming(const std::string& thing, Step step) {
     }
 }
 
-/// The message of an exception, in one line.
+/// An exception's message on one line.
 inline std::string LineFor(const std::exception& error) {
     return dynamic_cast<const std::bad_alloc*>(&error) != nullptr
                ? "memory: the page needs more than there is"

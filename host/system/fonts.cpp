@@ -51,7 +51,7 @@ struct CharacterRange {
     char32_t last;
 };
 
-// Spaces, and what only joins, parts or turns what stands beside it.
+// Spaces, and characters that only join, separate or turn their neighbours.
 constexpr CharacterRange kWithoutShape[] = {
     {0x00, 0x20},     {0x7F, 0xA0},      {0xAD, 0xAD},     {0x34F, 0x34F},
     {0x61C, 0x61C},   {0x1680, 0x1680},  {0x180B, 0x180F}, {0x2000, 0x200F},
@@ -65,7 +65,7 @@ bool HasShape(char32_t character) {
                         });
 }
 
-/// The characters of a text that are seen, each once.
+/// The visible characters of a text, each once.
 std::u32string ShapesOf(const std::wstring& text) {
     std::u32string shapes;
     for (const wchar_t unit : text) {
@@ -77,7 +77,7 @@ std::u32string ShapesOf(const std::wstring& text) {
     return shapes;
 }
 
-/// Whether a font's file can be had in memory, as it is for drawing.
+/// Why a font file cannot be mapped into memory, as it is for drawing.
 std::string WhyNotMapped(const char* file) {
     const auto failed = [file] {
         return std::string(file) + ": " + std::generic_category().message(errno);
@@ -103,7 +103,7 @@ std::string WhyNotMapped(const char* file) {
 struct FontChain::Fonts {
     FontSet set;
 
-    /// The place in the set of the first that has a character; -1 for none.
+    /// The index of the first font in the set that has a character; -1 for none.
     int With(char32_t character) const {
         for (int i = 0; set != nullptr && i < set->nfont; ++i) {
             FcCharSet* has = nullptr;
@@ -170,8 +170,8 @@ bool IsFontFamilyKnown(const std::string& family) {
     if (IsGeneric(name) || IsInstalled(name)) {
         return true;
     }
-    // The configured substitutes; those that stand in for the family itself, and not for
-    // any family at all, are bound as strongly as its name.
+    // The configured substitutes: those for the family itself, rather than for any
+    // family, are bound as strongly as its name.
     const Pattern pattern = PatternOf(name);
     FcConfigSubstitute(nullptr, pattern.get(), FcMatchPattern);
     FcValue value;

@@ -21,10 +21,10 @@
 namespace host {
 namespace {
 
-/// Where the helper is asked; -1 while there is none.
+/// The socket on which the helper takes requests; -1 without a helper.
 int g_helper = -1;
 
-/// What holds the descriptor that goes along with a message of one byte.
+/// The buffer for a descriptor, sent along with a message of one byte.
 struct Parcel {
     alignas(cmsghdr) std::array<char, CMSG_SPACE(sizeof(int))> room{};
     char byte = 0;
@@ -57,7 +57,7 @@ int ReceiveDescriptor(int from) {
     return descriptor;
 }
 
-/// @return false when nobody listens any more, which must not end this process
+/// @return false when nobody listens any more, which must not kill this process
 bool SendText(int to, const std::string& text) {
     for (std::size_t done = 0; done < text.size();) {
         const ssize_t count =
@@ -70,7 +70,7 @@ bool SendText(int to, const std::string& text) {
     return true;
 }
 
-/// A text that says how long it is.
+/// A text preceded by its length.
 std::string Measured(const std::string& text) {
     const std::uint64_t size = text.size();
     std::string measured(sizeof(size), '\0');
@@ -106,7 +106,7 @@ bool IsGivenUp(int asker) {
     return poll(&descriptor, 1, 0) > 0;
 }
 
-/// What is asked for, in a process of its own, which this one waits for.
+/// Does what is asked for in a process of its own, and waits for it.
 std::string Answer(int asker, const Jobs& jobs) {
     const std::string what = ReceiveMeasured(asker);
     const std::string name = ReceiveMeasured(asker);
@@ -132,9 +132,9 @@ std::string Answer(int asker, const Jobs& jobs) {
     }
 }
 
-/// Until nobody can ask any more.
+/// Serves until nobody can ask any more.
 int Serve(int askers, const Jobs& jobs) {
-    std::signal(SIGCHLD, SIG_IGN);  // nothing is told of how they end
+    std::signal(SIGCHLD, SIG_IGN);  // their exit statuses are not collected
     for (int asker = 0; (asker = ReceiveDescriptor(askers)) >= 0; close(asker)) {
         StartChild([&] {
             std::signal(SIGCHLD, SIG_DFL);
@@ -157,13 +157,13 @@ Ends Connected(const std::string& forWhat) {
     return ends;
 }
 
-/// The end at which an answer comes; closing it gives the work up.
+/// The end at which the answer arrives; closing it abandons the work.
 class Asking {
 public:
     explicit Asking(const std::string& what) {
         const Ends ends = Connected(what);
         m_descriptor = ends[0];
-        SendDescriptor(g_helper, ends[1]);  // a lost helper is seen as no answer
+        SendDescriptor(g_helper, ends[1]);  // a lost helper shows as no answer
         close(ends[1]);
     }
     Asking(const Asking&) = delete;

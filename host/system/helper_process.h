@@ -7,17 +7,16 @@
 
 namespace host {
 
-/// A piece of work that a helper knows: it makes bytes of bytes.
+/// A piece of work that a helper can do: bytes in, bytes out.
 using Job = std::string (*)(const std::string& input, const Progress& progress);
 
 /// Jobs by their names.
 using Jobs = std::map<std::string, Job>;
 
-/// Starts the helper of this process, once: a process from which InHelper starts those
-/// that do a job. A copy of a process with threads has their locks as they were, and may
-/// wait for one for ever, as a program with a window is once it has drawn text; the
-/// helper has none of them. So call it early in main(), before anything starts a thread
-/// or draws.
+/// Starts this process's helper, once: it is what InHelper has jobs started from. A copy
+/// of a process with threads has their locks in whatever state they were, and may wait
+/// for one for ever; so may a program with a window, once it has drawn text. The helper
+/// has no threads, so call this early in main(), before anything starts one or draws.
 ///
 /// The helper ends with this process. Throws std::runtime_error when it cannot be
 /// started.
@@ -25,7 +24,7 @@ void StartHelper(const Jobs& jobs);
 
 /// Does a job in a process of its own that the helper starts. Returns and throws as
 /// InSeparateProcess does.
-/// @param job one that StartHelper was given
+/// @param job one of those given to StartHelper
 std::string InHelper(const std::string& what, const std::string& job,
                      const std::string& input, const Progress& progress = {});
 

@@ -6,21 +6,21 @@
 
 namespace host {
 
-/// A file that only lives in memory, for what can only be written to a file.
+/// A file that lives only in memory, for libraries that can only write to a file.
 class MemoryFile {
 public:
-    /// Throws std::runtime_error when the system has none to give.
+    /// Throws std::runtime_error when the system cannot make one.
     MemoryFile();
     MemoryFile(const MemoryFile&) = delete;
     MemoryFile& operator=(const MemoryFile&) = delete;
     ~MemoryFile();
 
-    /// A name to open it by, in this process.
+    /// A name by which this process can open it.
     std::string Name() const { return "/proc/self/fd/" + std::to_string(m_descriptor); }
 
     int Descriptor() const { return m_descriptor; }
 
-    /// What was written so far; none when it cannot be read.
+    /// What has been written so far; empty when it cannot be read.
     std::vector<std::uint8_t> Bytes() const;
 
 private:

@@ -29,7 +29,7 @@ bool IsControl(unsigned character) {
     return character < 0x20 || (character >= 0x7F && character < 0xA0);
 }
 
-/// Ends lines, or has what follows written from right to left.
+/// Whether it ends a line, or makes what follows run from right to left.
 bool TurnsLines(unsigned character) {
     return (character >= 0x2028 && character <= 0x202E) ||
            (character >= 0x2066 && character <= 0x2069);

@@ -23,8 +23,7 @@ namespace {
 
 constexpr int kEndingSignals[] = {SIGINT, SIGTERM, SIGHUP};
 
-// The names of temporary files, empty where there is none: where a signal handler can
-// read them.
+// The names of the temporary files, empty for none, where a signal handler can read them.
 char g_unfinished[4][PATH_MAX];
 
 void RemoveAndEnd(int signal) {
@@ -37,7 +36,7 @@ void RemoveAndEnd(int signal) {
     std::raise(signal);
 }
 
-/// Holds the ending signals back while the temporary file and its noted name differ.
+/// Holds back the ending signals while the temporary file and its recorded name differ.
 class SignalsHeldBack {
 public:
     SignalsHeldBack() {
@@ -70,7 +69,7 @@ std::string FolderOf(const std::string& path) {
     return slash == std::string::npos ? "." : path.substr(0, slash + 1);
 }
 
-/// The file behind a name, which may be a link to it.
+/// The file behind a name that may be a link.
 std::string Resolved(const std::string& path) {
     struct stat status = {};
     if (lstat(path.c_str(), &status) != 0) {
@@ -93,8 +92,8 @@ std::string Resolved(const std::string& path) {
     return target.get();
 }
 
-/// Whoever may write there by the rights of the folder alone, a file that is marked is
-/// not to be replaced.
+/// A write-protected file is not replaced, even by those whom the folder's permissions
+/// let do it.
 void CheckMayBeReplaced(const std::string& path) {
     struct stat status = {};
     if (stat(path.c_str(), &status) != 0) {
@@ -108,8 +107,8 @@ void CheckMayBeReplaced(const std::string& path) {
     }
 }
 
-/// Gives a file the owner and the permissions of the one it replaces, else those of any
-/// new file. What runs with its owner's rights is another program now, and does not.
+/// Gives a file the owner and permissions of the one it replaces, else those of any new
+/// file. Set-user-ID and set-group-ID are dropped: the contents are new.
 void TakeAfter(const std::string& path, int descriptor) {
     struct stat status = {};
     if (stat(path.c_str(), &status) != 0) {
@@ -118,8 +117,8 @@ void TakeAfter(const std::string& path, int descriptor) {
         status.st_mode = 0666 & ~mask;
     } else if (fchown(descriptor, status.st_uid, status.st_gid) != 0 &&
                fchown(descriptor, static_cast<uid_t>(-1), status.st_gid) != 0) {
-        // Neither may be given away by this user, whose own the file then is: no more
-        // people than before may read it.
+        // This user may not give the file away, so it is the user's own: nobody more may
+        // read it than before.
         status.st_mode &= ~static_cast<mode_t>(S_IRWXG);
     }
     if (fchmod(descriptor, status.st_mode & 0777) != 0) {
@@ -127,7 +126,7 @@ void TakeAfter(const std::string& path, int descriptor) {
     }
 }
 
-/// So that the new name is on the disk too; a folder that cannot be read does without.
+/// Puts the new name on the disk too; a folder that cannot be read is left alone.
 void SyncFolder(const std::string& folder) {
     const int descriptor = open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (descriptor >= 0) {
@@ -211,7 +210,7 @@ void OutputFile::Commit() {
 
 void RemoveUnfinishedOutputOnSignals() {
     for (const int signal : kEndingSignals) {
-        // One that is ignored, as under nohup, stays ignored.
+        // A signal that is ignored, as under nohup, stays ignored.
         if (std::signal(signal, RemoveAndEnd) == SIG_IGN) {
             std::signal(signal, SIG_IGN);
         }

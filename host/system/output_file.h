@@ -9,16 +9,16 @@ namespace host {
 
 /// A file that appears under its name only when it is complete.
 ///
-/// It is written under a temporary name in the same folder, which goes when the object
-/// does, and on the signals that end a program (see RemoveUnfinishedOutputOnSignals).
-/// What stood under the name before stays until Commit, and stays for good when anything
-/// fails. Its owner and its permissions become those of the new file, as far as this user
-/// may give them. A forked process may do the writing. At most four at a time.
+/// It is written under a temporary name in the same folder, which is removed with the
+/// object, and on the signals that end a program (see RemoveUnfinishedOutputOnSignals). A
+/// file that already has the name stays until Commit, and for good when anything fails.
+/// The new file takes over its owner and permissions, as far as this user may set them. A
+/// forked process may do the writing. At most four exist at a time.
 class OutputFile {
 public:
-    /// Begins the temporary file. Throws std::runtime_error with the reason, so that a
-    /// folder that cannot be written to is found before the work. A link is followed;
-    /// what is neither a file nor yet there (a folder, a device) is refused, and so is a
+    /// Creates the temporary file. Throws std::runtime_error with the reason, so that a
+    /// folder that cannot be written to is noticed before the work is done. A link is
+    /// followed; anything there but a file (a folder, a device) is refused, and so is a
     /// file that nobody may write to.
     explicit OutputFile(const std::string& path);
     OutputFile(const OutputFile&) = delete;
@@ -28,28 +28,28 @@ public:
     /// Appends. Throws std::runtime_error with the reason.
     void Write(const std::vector<std::uint8_t>& bytes) const;
 
-    /// Of the temporary file, for writing and reading; closed with this object.
+    /// The temporary file, for writing and reading; closed with this object.
     int Descriptor() const { return m_descriptor; }
 
-    /// How many bytes were written so far. Throws likewise.
+    /// How many bytes have been written. Throws as Write does.
     std::size_t Size() const;
 
-    /// What a person should know of the file that is replaced; empty for nothing: one
-    /// with other names (hard links) goes on under those as it was.
+    /// What the user should know about the file that is replaced, or empty: under its
+    /// other names (hard links) it stays as it was.
     std::string Remark() const;
 
-    /// Sees what was written onto the disk and gives it its name. Throws
+    /// Waits until the data are on the disk and gives the file its name. Throws
     /// std::runtime_error with the reason.
     void Commit();
 
 private:
     std::string m_path;
     int m_descriptor = -1;
-    char* m_unfinished;  // the temporary name, empty once there is none
+    char* m_unfinished;  // the temporary name, empty once it is gone
 };
 
-/// Has the unfinished output removed when the program is interrupted, terminated or hung
-/// up on; it then ends as it would have.
+/// Has unfinished output removed when the program is interrupted, terminated or hung up
+/// on; the signal then ends it as usual.
 void RemoveUnfinishedOutputOnSignals();
 
 }  // namespace host

@@ -4,7 +4,7 @@
 
 namespace host {
 
-/// Told how far long work has come, 0 to 1; answers false to stop it.
+/// Told how far a long task has come, 0 to 1; returns false to stop it.
 using Progress = std::function<bool(double)>;
 
 }  // namespace host

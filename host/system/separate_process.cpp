@@ -27,9 +27,9 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-constexpr double kSmallestStep = 1.0 / 256.0;  // of progress that is worth telling
+constexpr double kSmallestStep = 1.0 / 256.0;  // the least progress worth reporting
 
-/// A failed write is ignored: the reader is gone, and ends this process next.
+/// A failed write is ignored: the reader is gone, and this process ends next.
 void Send(int descriptor, const std::string& message) {
     WriteAll(descriptor, message.data(), message.size());
 }
@@ -38,8 +38,7 @@ std::string NameOfLimit(const WorkLimits& limits) {
     return "its limit of " + std::to_string(limits.megabytes) + " MB of memory";
 }
 
-/// Counts what is written to; the files of programs and fonts, shared by all, do not
-/// count.
+/// Counts private, writable memory; the shared files of programs and fonts do not count.
 void LimitMemory(unsigned megabytes) {
     rlimit most = {};
     if (megabytes > 0 && getrlimit(RLIMIT_DATA, &most) == 0) {
@@ -52,7 +51,7 @@ void LimitMemory(unsigned megabytes) {
 std::string Report(int descriptor, const SeparateWork& work, const WorkLimits& limits) {
     double told = 0.0;
     const Progress tell = [descriptor, &told](double part) {
-        if (std::fabs(part - told) >= kSmallestStep) {  // each map begins anew
+        if (std::fabs(part - told) >= kSmallestStep) {  // each map starts again at 0
             told = part;
             Send(descriptor, PartMessage(part));
         }
@@ -70,7 +69,7 @@ std::string Report(int descriptor, const SeparateWork& work, const WorkLimits& l
     }
 }
 
-/// The separate process as seen from here.
+/// The separate process, seen from this one.
 class Worker {
 public:
     Worker(std::string what, pid_t process, int descriptor, const WorkLimits& limits)

@@ -11,7 +11,7 @@
 namespace host {
 
 void OpenClosedStandardStreams() {
-    // A file that is opened gets the lowest number that is free.
+    // A file that is opened gets the lowest free number.
     int opened = STDIN_FILENO;
     while (opened >= STDIN_FILENO && opened <= STDERR_FILENO) {
         opened = open("/dev/null", O_RDWR);

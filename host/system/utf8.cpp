@@ -12,7 +12,7 @@ namespace {
 
 using CplText = std::unique_ptr<char, decltype(&VSIFree)>;
 
-/// Lone surrogates, which GDAL lets through, and what lies past the last character.
+/// Lone surrogates, which GDAL lets through, and values beyond the last character.
 bool IsNoCharacter(wchar_t c) { return (c >= 0xD800 && c <= 0xDFFF) || c > 0x10FFFF; }
 
 }  // namespace

@@ -11,7 +11,7 @@
 namespace host {
 namespace {
 
-constexpr int kPatience = 100;  // milliseconds between two looks
+constexpr int kPatience = 100;  // milliseconds between two polls
 
 }  // namespace
 
