@@ -11,8 +11,8 @@
 
 namespace host {
 
-/// Where the cells of a decimated axis begin in the pixels of the file: every pixel
-/// belongs to exactly one cell. 10 pixels in 4 cells begin at 0, 2, 5, 7, and end at 10.
+/// Where the cells of a decimated axis begin, in pixels of the file: every pixel belongs
+/// to exactly one cell. 10 pixels in 4 cells begin at 0, 2, 5, 7, and end at 10.
 inline std::vector<int> CellEdges(int pixels, int cells) {
     std::vector<int> edges;
     edges.reserve(static_cast<std::size_t>(cells) + 1);
@@ -22,16 +22,16 @@ inline std::vector<int> CellEdges(int pixels, int cells) {
     return edges;
 }
 
-/// What the pixels of one row of a cell are summed in; four million bytes fit.
+/// The type in which the pixels of one row of a cell are summed; four million bytes fit.
 template <class T>
 using RowSum = std::conditional_t<std::is_same_v<T, std::uint8_t>, std::uint32_t, double>;
 
 /// The sums of one row of cells, and their means.
 ///
-/// GDAL averages too (GRIORA_Average), but otherwise: a cell of which some pixels have no
-/// data comes out as opaque as a full one, one NaN or infinite pixel takes its whole cell
-/// along, and numbers of 32 bits and doubles are summed as floats, so that 1e9 and
-/// 1e9 + 0.5 average to 1e9. In memory it is as fast as this on bytes, and takes about a
+/// GDAL averages too (GRIORA_Average), but otherwise: a cell with some pixels without
+/// data comes out as opaque as a full one, a single NaN or infinite pixel spoils its
+/// whole cell, and 32-bit integers and doubles are summed as floats, so that 1e9 and 1e9
+/// + 0.5 average to 1e9. In memory it is as fast as this on bytes, and takes about a
 /// third of the time on floats.
 template <class T>
 class CellRow {
@@ -65,7 +65,7 @@ public:
         }
     }
 
-    /// The means of what was added since the last call.
+    /// The means of what has been added since the last call.
     SampleRow<T> Finish(int x, int y, bool hasAlpha) {
         SampleRow<T> row;
         row.x = x;
@@ -118,7 +118,7 @@ private:
         }
     }
 
-    /// A sum that left the range of a double has no mean: the cell is transparent then.
+    /// A sum beyond the range of a double has no mean: the cell is transparent then.
     static T Mean(double sum, std::int64_t valid, std::uint8_t& alpha) {
         const double mean = valid > 0 ? sum / static_cast<double>(valid) : 0.0;
         if (!std::isfinite(mean)) {

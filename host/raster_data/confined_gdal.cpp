@@ -19,8 +19,7 @@
 namespace host {
 namespace {
 
-// Each reads a file, and side files by the same name. VRT reads others: see
-// vrt_sources.h.
+// Each reads a file and side files of the same name. VRT reads others: see vrt_sources.h.
 constexpr std::string_view kFileDrivers[] = {
     "VRT",    "GTiff", "PNG",     "JPEG",           "BMP",         "GIF",
     "BIGGIF", "HFA",   "AAIGrid", "GRASSASCIIGrid", "JP2OpenJPEG", "WEBP",
@@ -38,7 +37,7 @@ struct Confinement {
     std::string lastRefused;
 };
 
-/// That of this process.
+/// The confinement of this process.
 std::optional<Confinement>& Current() {
     static std::optional<Confinement> confinement;
     return confinement;
@@ -57,11 +56,11 @@ bool IsOneOf(std::string_view text, const std::string_view (&list)[Count]) {
     return std::find(std::begin(list), std::end(list), text) != std::end(list);
 }
 
-/// Memory of this process, in which nothing is but what it writes: TIFF files.
+/// This process's own memory, which holds only what the process writes: TIFF files.
 constexpr std::string_view kMemoryFolder = "/vsimem/";
 
-/// The file system as GDAL sees it: what is not allowed is not there, and nothing can be
-/// written.
+/// The file system as GDAL sees it: what is not allowed does not exist, and nothing can
+/// be written.
 class AllowedFilesystem : public VSIFilesystemHandler {
 public:
     explicit AllowedFilesystem(VSIFilesystemHandler& files) : m_files(files) {}
@@ -85,7 +84,7 @@ public:
     }
 
     char** ReadDirEx(const char* path, int most) override {
-        // Of a file that is allowed alone the folder is not, and needs not be told.
+        // Where only the file is allowed, its folder is not listed.
         return Current()->allowed.WhyNotFile(path).empty() ? m_files.ReadDirEx(path, most)
                                                            : nullptr;
     }
@@ -103,7 +102,7 @@ private:
     VSIFilesystemHandler& m_files;
 };
 
-/// A folder of GDAL's, such as `/vsicurl/`, in which nothing is.
+/// One of GDAL's folders, such as `/vsicurl/`, with nothing in it.
 class EmptyFilesystem : public VSIFilesystemHandler {
 public:
     using VSIFilesystemHandler::Open;
@@ -121,7 +120,7 @@ public:
 };
 
 void ConfineFilesystems() {
-    // The manager takes what is installed, and forgets what was there.
+    // The manager takes ownership, and forgets the previous handler.
     VSIFileManager::InstallHandler(
         "", new AllowedFilesystem(*VSIFileManager::GetHandler("")));
     const CPLStringList prefixes(VSIFileManager::GetPrefixes());

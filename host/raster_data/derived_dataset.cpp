@@ -59,7 +59,7 @@ std::shared_ptr<GDALDataset> TurnedNorthUp(GDALDataset& dataset) {
     if (hasNoData == FALSE && band->GetRasterDataType() == GDT_Byte) {
         list.AddString("-dstalpha");
     } else if (hasNoData == FALSE) {
-        // GDAL masks by no alpha band of most other types.
+        // Most other types cannot be masked by an alpha band in GDAL.
         for (const char* argument : {"-ot", "Float64", "-dstnodata", "nan"}) {
             list.AddString(argument);
         }

@@ -33,20 +33,20 @@ bool IsFile(const std::string& path) {
            !VSI_ISDIR(status.st_mode);
 }
 
-/// What speaks against opening a raster before anything is read of it, and of VRTs before
-/// what they are made of is.
+/// Why a raster should not be opened, judged before anything of it is read; of a VRT,
+/// before its sources are.
 std::string WhyNotRead(const std::string& path) {
     std::error_code ignored;
     const std::filesystem::file_status status = std::filesystem::status(path, ignored);
     if (std::filesystem::is_other(status)) {
-        return "is not a plain file";  // a pipe may never answer
+        return "is not a plain file";  // reading a pipe may block for ever
     }
     const std::string why = WhyNotAllowed(path);
     return why.empty() ? WhyNotVrt(path) : why;
 }
 
-/// The file whose presence tells whether a dataset can be read; empty for one that is no
-/// file, such as a service's.
+/// The file whose presence tells whether a dataset can be read; empty when there is none,
+/// as for a service.
 std::string MainFile(GDALDataset& dataset, const std::string& path) {
     if (IsFile(path)) {
         return path;
@@ -60,7 +60,7 @@ std::vector<std::string> FilesOf(GDALDataset& dataset) {
     return {files.List(), files.List() + files.size()};
 }
 
-/// What stands in the way of opening, as a person would say it.
+/// Why a raster cannot be opened, in plain words.
 std::string WhyNotOpened(const std::string& path, const QuietGdal& quiet) {
     VSIStatBufL status{};
     if (VSIStatExL(path.c_str(), &status, VSI_STAT_EXISTS_FLAG | VSI_STAT_NATURE_FLAG) !=
@@ -87,8 +87,8 @@ std::string WhyNotOpened(const std::string& path, const QuietGdal& quiet) {
     return reason;
 }
 
-/// So that it is told when they lead elsewhere: GDAL looks for them only when it needs
-/// them.
+/// Has GDAL look for the side files, which it otherwise does only when it needs them, so
+/// that those that lead elsewhere are reported.
 void LookForSideFiles(GDALDataset& dataset) {
     for (int i = 1; i <= dataset.GetRasterCount(); ++i) {
         dataset.GetRasterBand(i)->GetOverviewCount();
@@ -96,8 +96,8 @@ void LookForSideFiles(GDALDataset& dataset) {
     }
 }
 
-/// The dataset with the style's no-data instead of its own: what it masked otherwise
-/// counts again.
+/// The dataset with the style's no-data value instead of its own: what its own masked
+/// shows again.
 std::shared_ptr<GDALDataset> WithNoData(const std::shared_ptr<GDALDataset>& dataset,
                                         const RasterStyle& style) {
     const std::string noData = style.NoDataText();
@@ -153,7 +153,7 @@ std::unique_ptr<GdalRaster> GdalRaster::Open(const std::string& path, std::strin
     std::vector<std::string> files;
     try {
         LookForSideFiles(*dataset);
-        if (LastRefused().empty()) {  // which asking for the files could overwrite
+        if (LastRefused().empty()) {  // listing the files could overwrite it
             files = FilesOf(*dataset);
         }
         dataset = WithNoData(dataset, style);

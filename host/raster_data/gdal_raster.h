@@ -19,7 +19,7 @@ namespace host {
 
 using map_surround::kit::ClassColour;
 
-/// Pixels of a drawn raster: 4 bytes each (blue, green, red, alpha, as GDI+ keeps
+/// The pixels of a drawn raster: 4 bytes each (blue, green, red, alpha, as GDI+ keeps
 /// PixelFormat32bppARGB in memory), rows from the top, no padding.
 struct PixelImage {
     int width = 0;
@@ -30,23 +30,23 @@ struct PixelImage {
 /// Any raster that GDAL opens, as the legend's data source and as the map's picture.
 ///
 /// The display type follows from the bands that are shown: three are RGB; one with a
-/// palette or an attribute table is classified, any other grey. A style chooses them,
-/// else their colours do: red, green and blue, else the first three that are no alpha;
-/// where there are no three, the first.
+/// palette or an attribute table is classified, any other grey. The style chooses them,
+/// else their colours do: red, green and blue, else the first three that are not alpha;
+/// with fewer than three, the first.
 ///
-/// Its bands' ranges are the ranges drawn: ComputeMinMax tells which value is black and
-/// which white, `approximate` or not. No file is written beside the raster.
+/// The bands' ranges are the ranges drawn: ComputeMinMax gives the values shown black and
+/// white, `approximate` or not. No file is written beside the raster.
 class GdalRaster : public CRasterSource {
 public:
-    /// @return null when the file is no raster that GDAL opens, or has not the bands that
-    /// the style chooses; `why` then says so in a few words, without the file's name
+    /// @return null when GDAL cannot open the file as a raster, or it lacks the bands
+    /// that the style chooses; `why` then says so in a few words, without the file's name
     static std::unique_ptr<GdalRaster> Open(const std::string& path, std::string& why,
                                             const RasterStyle& style = {});
 
     ~GdalRaster() override;
 
     // CGISDataSource
-    bool IsAvailable() override;  ///< false once the file cannot be read any more
+    bool IsAvailable() override;  ///< false once the file can no longer be read
     GISDataSourceType GetDataSourceType() override;
     std::wstring GetFileName() override;  ///< without its folder
     DataDisplayType GetDisplayType() override;
@@ -58,23 +58,23 @@ public:
     CRasterBand* GetRasterBand(int index) override;
     CClassifyDisplayTable* GetClassifyDisplayTable() override;
 
-    /// The colours that the map has for the values of a band with a palette, from the
-    /// lowest to the highest, where they are a ramp and no classes: 32 or more without
-    /// names, none far from the one before it. Reads the raster the first time.
+    /// The map's colours for the values of a band with a palette, from lowest to highest,
+    /// where they form a ramp rather than classes: 32 or more, unnamed, none far from the
+    /// one before it. Reads the raster the first time.
     std::vector<ClassColour> RampColours();
 
     const std::string& Path() const;
-    const RasterStyle& Style() const;  ///< as it was opened with
+    const RasterStyle& Style() const;  ///< the style it was opened with
 
-    /// The files that it is read from, side files and a VRT's sources included.
+    /// The files that it is read from, including side files and the sources of a VRT.
     const std::vector<std::string>& Files() const;
 
     int BandCount() const;
     int Width() const;   ///< pixels
     int Height() const;  ///< pixels
 
-    /// GDAL's six coefficients from pixel and line to map coordinates; the identity when
-    /// the raster has none.
+    /// GDAL's six coefficients from pixel and line to map coordinates; the identity for a
+    /// raster without them.
     const std::array<double, 6>& GeoTransform() const;
     bool HasGeoTransform() const;
 
@@ -95,14 +95,14 @@ public:
     /// @param window inside the raster, at least one pixel
     std::unique_ptr<GdalRaster> Part(const Window& window) const;
 
-    /// The same of a raster that is turned against its coordinates, with its rows from
-    /// west to east: each pixel is the nearest one's, and transparent beside the raster.
-    /// Throws std::runtime_error when it cannot be made.
+    /// The same for a raster that is rotated, with its rows from west to east: each pixel
+    /// takes the nearest one's value, and is transparent outside the raster. Throws
+    /// std::runtime_error when it cannot be made.
     std::unique_ptr<GdalRaster> NorthUp() const;
 
-    /// The whole raster at the given size in pixels, read decimated or from overviews in
-    /// strips, so that memory does not follow the raster's size; no-data is transparent.
-    /// A value has the same colour at every size, and in every part. Throws
+    /// The whole raster at the given size in pixels, read decimated or from overviews, in
+    /// strips, so that memory does not grow with the raster; no-data is transparent. A
+    /// value has the same colour at every size, and in every part. Throws
     /// std::runtime_error with the reason when it cannot be read or is stopped.
     PixelImage Render(int width, int height, const Progress& progress = {});
 

@@ -14,8 +14,8 @@ namespace host {
 
 namespace {
 
-// Rows of blocks are read once each and in order, so a larger cache would only hold what
-// is not asked for again.
+// Each row of blocks is read once, in order, so a larger cache would only keep what is
+// not needed again.
 constexpr GIntBig kCacheBytes = GIntBig{64} << 20;
 
 constexpr std::size_t kLongestReason = 120;
@@ -37,7 +37,7 @@ void Erase(std::string& text, const std::string& part) {
     }
 }
 
-/// Cuts at a character, not inside one.
+/// Cuts between characters, not inside one.
 void CutUtf8(std::string& text, std::size_t length) {
     if (text.size() <= length) {
         return;

@@ -11,8 +11,8 @@ struct ImageSize {
     std::int64_t height = 0;  ///< likewise
 };
 
-/// The size that an image says it has, of which no pixel is read: PNG, JPEG, GIF, BMP or
-/// TIFF. None for what is no such image.
+/// The size given in an image's header, without reading a pixel: PNG, JPEG, GIF, BMP or
+/// TIFF. No value for anything else.
 std::optional<ImageSize> SizeOfImage(const std::string& path);
 
 }  // namespace host

@@ -7,8 +7,8 @@
 namespace host {
 namespace {
 
-/// Cut before it becomes an integer: the sum of a window's fractions can end a little
-/// beyond a raster that is as large as integers go.
+/// Limited before it becomes an integer: rounding may put a window's edge a little beyond
+/// a raster of the largest possible size.
 int PixelsUpTo(double edge, int size) {
     return static_cast<int>(std::min(std::ceil(edge), 1.0 * size));
 }

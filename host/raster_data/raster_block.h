@@ -12,7 +12,7 @@
 
 namespace host {
 
-/// What is read of a raster, in its pixels; fractions where it is decimated.
+/// The part of a raster to read, in its pixels; fractional when decimated.
 struct Window {
     double x = 0.0;
     double y = 0.0;
@@ -20,8 +20,8 @@ struct Window {
     double height = 0.0;
 };
 
-/// Reads a window at `columns` x `rows`, taking the nearest pixels, from an overview
-/// where one is fine enough. Throws std::runtime_error with GDAL's reason.
+/// Reads a window at `columns` x `rows` by nearest neighbour, from an overview where one
+/// is fine enough. Throws std::runtime_error with GDAL's reason.
 void ReadWindow(GDALRasterBand* band, const Window& window, int columns, int rows,
                 void* to, GDALDataType type);
 
@@ -30,7 +30,7 @@ constexpr GDALDataType kGdalType = std::is_same_v<T, std::uint8_t> ? GDT_Byte
                                    : std::is_same_v<T, float>      ? GDT_Float32
                                                                    : GDT_Float64;
 
-/// One panel's pixels of some rows: a plane for each band, and which of them count.
+/// One panel's pixels for some rows: a plane for each band, and which pixels count.
 template <class T>
 class Block {
 public:

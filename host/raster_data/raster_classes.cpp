@@ -17,13 +17,13 @@ namespace host {
 
 namespace {
 
-// A table of more rows is no legend.
+// A longer table is not a legend.
 constexpr int kMostRows = 1 << 20;
 
 constexpr ClassColour kUnknown{128, 128, 128, 255};
 
 // For tables that name their classes without colouring them: neighbours differ in hue and
-// in lightness, so that they stay apart in print.
+// in lightness, so that they can be told apart in print.
 constexpr std::array<ClassColour, 12> kQualitative{{
     {78, 121, 167, 255},
     {242, 179, 92, 255},
@@ -39,7 +39,7 @@ constexpr std::array<ClassColour, 12> kQualitative{{
     {121, 112, 110, 255},
 }};
 
-/// The column of a usage, else one of those names that is of no other usage; -1 when
+/// The column with a usage, else one with one of those names and a generic usage; -1 when
 /// there is neither.
 int Column(const GDALRasterAttributeTable& table, GDALRATFieldUsage usage,
            std::initializer_list<const char*> names) {
@@ -74,7 +74,7 @@ int NameColumn(const GDALRasterAttributeTable& table) {
     return -1;
 }
 
-/// The columns of a row's colour: 0 to 255, or fractions where none is above 1.
+/// A table's colour columns: 0 to 255, or fractions where none exceeds 1.
 class ColourColumns {
 public:
     ColourColumns(const GDALRasterAttributeTable& table, int rows)
@@ -115,7 +115,7 @@ private:
     double m_scale = 1.0;
 };
 
-/// Which values a row of the table stands for.
+/// The values that a row of the table stands for.
 class RowValues {
 public:
     explicit RowValues(const GDALRasterAttributeTable& table)
@@ -144,7 +144,7 @@ public:
         if (m_low >= 0 && m_high >= 0) {
             return m_table.GetValueAsDouble(row, m_high);
         }
-        // Up to where the next bin begins, which a value is then found in.
+        // Up to the start of the next bin, which belongs to that bin.
         return m_binned ? std::nextafter(Low(row + 1), Low(row)) : row;
     }
 
@@ -158,7 +158,7 @@ private:
     double m_binSize = 0.0;
 };
 
-/// The entry of a list at a class value; null where the value is no index into it.
+/// The list's entry for a class value; null where the value is not an index.
 template <class T>
 const T* At(const std::vector<T>& list, double value) {
     const bool isIndex = value >= 0.0 && value < static_cast<double>(list.size()) &&
@@ -166,7 +166,7 @@ const T* At(const std::vector<T>& list, double value) {
     return isIndex ? &list[static_cast<std::size_t>(value)] : nullptr;
 }
 
-/// A whole number without decimals, any other with as many as tell it from its
+/// A whole number without decimals, any other with as many as distinguish it from its
 /// neighbours.
 std::wstring ValueText(double value) {
     std::array<char, 32> text{};
@@ -269,7 +269,7 @@ const RasterClasses::Row* RasterClasses::Find(double value) const {
     auto row = std::upper_bound(m_rows.begin(), m_rows.end(), value,
                                 [](double v, const Row& r) { return v < r.low; });
     const Row* found = nullptr;
-    // Of two ranges that meet in the value, the lower one has it.
+    // A value where two ranges meet belongs to the lower one.
     for (int tries = 0; tries < 2 && row != m_rows.begin(); ++tries) {
         --row;
         found = value <= row->high ? &*row : found;

@@ -15,12 +15,12 @@ namespace host {
 using map_surround::kit::ClassColour;
 using map_surround::kit::ClassificationTable;
 
-/// The classes that a band's attribute table, palette and category names define: which
-/// class a value belongs to, its name and its colour. What none of them knows is a class
-/// of its own, called by its value, in grey.
+/// The classes that a band's attribute table, palette and category names define: the
+/// class of a value, its name and its colour. A value that none of them knows is a class
+/// of its own, named by the value, in grey.
 ///
-/// Of an attribute table the columns count by their usage, else by their common names
-/// ("Value", "Red", "Class_Name", …); a column of texts is a name when no other is one.
+/// An attribute table's columns are found by their usage, else by their common names
+/// ("Value", "Red", "Class_Name", …); failing those, a column of text is the name.
 class RasterClasses {
 public:
     explicit RasterClasses(GDALRasterBand& band);
@@ -31,12 +31,12 @@ public:
     /// Whether an attribute table or category names say what values stand for.
     bool HasNames() const;
 
-    /// The colours of a palette from one value to another, where they are a ramp: 32 or
-    /// more, opaque, none far from the one before it. Else none.
+    /// The colours of a palette from one value to another, where they form a ramp: 32 or
+    /// more, opaque, none far from the one before it. Otherwise empty.
     std::vector<ClassColour> Ramp(double first, double last) const;
 
-    /// The value that stands for a value's class: the low end of its range in the table,
-    /// else itself. Classes are in the order of these.
+    /// The value that represents a value's class: the low end of its range in the table,
+    /// else the value itself. Classes are in this order.
     double ClassOf(double value) const;
 
     std::wstring Name(double classValue) const;

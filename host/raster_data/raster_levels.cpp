@@ -15,8 +15,8 @@ bool SameSize(GDALRasterBand* a, GDALRasterBand* b) {
     return a->GetXSize() == b->GetXSize() && a->GetYSize() == b->GetYSize();
 }
 
-/// What masks an overview of a band: an overview of the band's mask, or what the overview
-/// itself knows (its no-data value); null when neither does.
+/// The mask of a band's overview: the same overview of the band's mask, or the overview's
+/// own (its no-data value); null when there is neither.
 GDALRasterBand* OverviewMask(GDALRasterBand* band, GDALRasterBand* overview) {
     GDALRasterBand* const mask = band->GetMaskBand();
     for (int i = 0; i < mask->GetOverviewCount(); ++i) {
@@ -28,7 +28,7 @@ GDALRasterBand* OverviewMask(GDALRasterBand* band, GDALRasterBand* overview) {
     return HasMask(overview) ? overview->GetMaskBand() : nullptr;
 }
 
-/// A mask that bands share is read once.
+/// A mask that bands share is read only once.
 void AddMask(Level& level, GDALRasterBand* mask) {
     if (std::find(level.masks.begin(), level.masks.end(), mask) == level.masks.end()) {
         level.masks.push_back(mask);

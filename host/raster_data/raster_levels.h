@@ -6,7 +6,7 @@ class GDALRasterBand;
 
 namespace host {
 
-/// Bands that are read together, or one overview of them, with the masks that tell which
+/// Bands that are read together, or one overview of each, with the masks that tell which
 /// of their pixels count. All of one size; all owned by the dataset.
 struct Level {
     std::vector<GDALRasterBand*> bands;
@@ -19,8 +19,8 @@ struct Level {
 /// The bands themselves.
 Level FullLevel(const std::vector<GDALRasterBand*>& bands);
 
-/// The smallest overview that is at least `width` x `height` and that all bands and their
-/// masks have; the bands themselves where there is none.
+/// The smallest overview of at least `width` x `height` that all bands and their masks
+/// have; without one, the bands themselves.
 Level SmallestLevel(const std::vector<GDALRasterBand*>& bands, int width, int height);
 
 }  // namespace host

@@ -15,12 +15,12 @@ namespace host {
 
 namespace {
 
-// Whole codes up to here are looked up, others searched for.
+// Integer codes up to here are looked up, other values searched for.
 constexpr int kCodes = 1 << 16;
 
 constexpr std::size_t kMostClasses = 10'000;
 
-// Where the components of a pixel stand in memory.
+// The order of a pixel's components in memory.
 constexpr std::size_t kBlue = 0;
 constexpr std::size_t kGreen = 1;
 constexpr std::size_t kRed = 2;
@@ -41,7 +41,7 @@ std::size_t Offset(int width, int x, int y) {
            static_cast<std::size_t>(x);
 }
 
-/// Which of `pixels` the centre of one of `drawn` falls on.
+/// Which of `pixels` contains the centre of one of `drawn`.
 int NearestOf(int index, int drawn, int pixels) {
     return static_cast<int>((2 * std::int64_t{index} + 1) * pixels /
                             (2 * std::int64_t{drawn}));
@@ -58,7 +58,7 @@ private:
     ShadeRange m_range;
 };
 
-/// Of bytes, which are worked out beforehand.
+/// For bytes, worked out beforehand.
 template <>
 class Shades<std::uint8_t> {
 public:
@@ -100,14 +100,15 @@ PixelImage DrawShadesAs(const std::vector<GDALRasterBand*>& bands,
     return image;
 }
 
-/// A code that is looked up in a table, else -1.
+/// The code of a value that is looked up in a table, else -1.
 int Code(double value) {
     return value >= 0.0 && value < kCodes && value == std::floor(value)
                ? static_cast<int>(value)
                : -1;
 }
 
-/// The classes of the values seen; of those that are no codes only the lowest.
+/// The classes of the values seen; for a class of many values that are not codes, only
+/// the lowest.
 class SeenClasses {
 public:
     explicit SeenClasses(const RasterClasses& classes)
@@ -128,7 +129,7 @@ public:
         }
     }
 
-    /// In order.
+    /// In ascending order.
     std::set<double> Values() const {
         std::set<double> values = m_others;
         for (int code = 0; code < kCodes; ++code) {
@@ -145,7 +146,7 @@ private:
     std::set<double> m_others;
 };
 
-/// The colour of each value, asked of the classes once for each code.
+/// The colour of each value; the classes are asked once for each code.
 class ClassColours {
 public:
     explicit ClassColours(const RasterClasses& classes)

@@ -11,8 +11,8 @@ class GDALRasterBand;
 
 namespace host {
 
-/// One band as grey or three as red, green and blue, each value in the shade that its
-/// band's range gives it. `width` and `height` are at most the bands'.
+/// One band as grey or three as red, green and blue, each value in the shade given by its
+/// band's range. `width` and `height` are at most the bands'.
 PixelImage DrawShades(const std::vector<GDALRasterBand*>& bands,
                       const std::vector<ShadeRange>& ranges, int width, int height,
                       const Progress& progress);
@@ -23,13 +23,13 @@ PixelImage DrawClasses(GDALRasterBand* band, const RasterClasses& classes, int w
                        int height, const Progress& progress);
 
 /// The classes that occur in a band and are not fully transparent, in the order of their
-/// values. Rasters of up to 16 million pixels are read whole, larger ones sampled at
-/// 4096 x 4096, so that a rare class of a large raster may be missed; at most 10 000 are
+/// values. Rasters of up to 16 million pixels are read whole, larger ones sampled at 4096
+/// x 4096, so that a rare class of a large raster may be missing; at most 10 000 are
 /// listed.
 std::unique_ptr<ClassificationTable> OccurringClasses(GDALRasterBand* band,
                                                       const RasterClasses& classes);
 
-/// The image at a size that is at least its own, each pixel as it is.
+/// The image enlarged to at least its own size, without interpolation.
 PixelImage Enlarge(PixelImage image, int width, int height);
 
 }  // namespace host

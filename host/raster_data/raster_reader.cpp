@@ -15,18 +15,18 @@ namespace host {
 
 namespace {
 
-// What one call to GDAL reads of one band.
+// The samples that one call to GDAL reads of one band.
 constexpr int kSamplesPerRead = 1 << 20;
 
 // What one row of blocks may take of GDAL's cache, so that no block is read twice.
 constexpr double kBlockRowBytes = 32.0 * (1 << 20);
 
-// Beyond these the mean of every pixel would take too long, or too long a row.
+// With more pixels, or longer rows, averaging every pixel would take too long.
 constexpr std::int64_t kMostAveragedPixels = std::int64_t{1} << 32;
 constexpr int kMostAveragedColumns = 1 << 22;
 
-/// The columns read, cut into panels so narrow that GDAL's cache holds one row of a
-/// panel's blocks, of all bands; one panel when blocks are as wide as the raster.
+/// The columns read, split into panels so narrow that GDAL's cache holds one row of a
+/// panel's blocks for all bands; one panel when blocks are as wide as the raster.
 std::vector<int> PanelEdges(const Level& level, int width) {
     GDALRasterBand* const band = level.bands.front();
     int blockWidth = 0;

@@ -11,7 +11,7 @@ class GDALRasterBand;
 
 namespace host {
 
-/// How many pixels of the file become one that is read.
+/// How pixels of the file become one that is read.
 enum class Sampling {
     kNearest,  ///< the file's pixel at the centre; for class codes, which have no mean
     kAverage,  ///< the mean of all that have a value
@@ -23,10 +23,10 @@ constexpr std::size_t kMostBands = 3;
 /// The types that values are read as.
 enum class SampleType { Byte, Float, Double };
 
-/// The first of them that holds every value of the bands without loss.
+/// The first of them that holds every value of the bands exactly.
 SampleType SampleTypeOf(const std::vector<GDALRasterBand*>& bands);
 
-/// What `work` answers, given a zero of that type.
+/// What `work` returns, given a zero of that type.
 template <class Work>
 auto WithSampleType(const std::vector<GDALRasterBand*>& bands, Work work) {
     switch (SampleTypeOf(bands)) {
@@ -40,8 +40,8 @@ auto WithSampleType(const std::vector<GDALRasterBand*>& bands, Work work) {
     return work(0.0);
 }
 
-/// A piece of one row of what is read. The pointers hold for the call that it is given
-/// to.
+/// A piece of one row that is read. The pointers are valid during the call that receives
+/// it.
 template <class T>
 struct SampleRow {
     int x = 0;                                 ///< first column
@@ -50,7 +50,7 @@ struct SampleRow {
     std::array<const T*, kMostBands> bands{};  ///< null beyond the bands asked for
 
     /// 255 where every band has a value, 0 where one has none (no-data, masked out,
-    /// transparent, or no finite number), between the two at edges and by the alpha band.
+    /// transparent, NaN or infinite), between the two at edges and by the alpha band.
     const std::uint8_t* alpha = nullptr;
 };
 
@@ -60,13 +60,12 @@ using TakeRow = std::function<void(const SampleRow<T>&)>;
 /// Reads one to three bands of a dataset, all of one size, at `width` x `height`, both at
 /// most the bands' own: each row in one piece or in several, from the top in each column.
 ///
-/// Memory follows the width of the file, not its size. An average is taken from the
+/// Memory follows the width of the file, not its size. Averages are taken from the
 /// smallest overview that is large enough, else in one pass over the file; rasters of
-/// more than four thousand million pixels are sampled instead. Values of another type
-/// than T are converted to it, complex ones by their real part. T is std::uint8_t, float
-/// or double.
+/// more than four thousand million pixels are sampled instead. Values of another type are
+/// converted to T, complex ones by their real part. T is std::uint8_t, float or double.
 ///
-/// Throws std::runtime_error when the file cannot be read or `progress` answers false.
+/// Throws std::runtime_error when the file cannot be read or `progress` returns false.
 template <class T>
 void ReadRows(const std::vector<GDALRasterBand*>& bands, int width, int height,
               Sampling sampling, const Progress& progress, const TakeRow<T>& take);

@@ -17,9 +17,8 @@ namespace {
 
 constexpr std::array kColours{GCI_RedBand, GCI_GreenBand, GCI_BlueBand};
 
-/// The bands that are shown when nobody chose any, from 0: those whose colours are red,
-/// green and blue, else the first three that are no alpha band; where there are no three,
-/// the first.
+/// The indices of the bands shown by default, from 0: those whose colours are red, green
+/// and blue, else the first three that are not alpha; with fewer than three, the first.
 std::vector<int> BandsByColour(GDALDataset& dataset) {
     std::vector<int> byColour(kColours.size(), -1);
     std::vector<int> others;
@@ -61,7 +60,7 @@ std::vector<int> ShownBands(GDALDataset& dataset, const std::vector<int>& chosen
     return shown;
 }
 
-/// Bytes that say which colour they are: nothing is left to be worked out.
+/// Whether the bands are bytes whose colours are declared: ready to be drawn as they are.
 bool AreFinished(const std::vector<GDALRasterBand*>& bands) {
     return bands.size() == kColours.size() &&
            std::all_of(bands.begin(), bands.end(), [](GDALRasterBand* band) {
@@ -71,7 +70,7 @@ bool AreFinished(const std::vector<GDALRasterBand*>& bands) {
            });
 }
 
-/// A share of the work, told as a share of all of it.
+/// Reports part of the work as a share of all of it.
 Progress ShareOf(const Progress& progress, double from, double to) {
     return [&progress, from, to](double done) {
         return !progress || progress(from + done * (to - from));
@@ -188,7 +187,7 @@ std::vector<ClassColour> RasterShading::RampColours() {
 
 PixelImage RasterShading::Draw(GDALDataset& dataset, int width, int height,
                                const Progress& progress) {
-    // What is finer than the raster is drawn at the raster's own size and enlarged.
+    // Beyond the raster's own resolution, it is drawn at its own size and enlarged.
     const int readWidth = std::min(width, dataset.GetRasterXSize());
     const int readHeight = std::min(height, dataset.GetRasterYSize());
     const std::vector<GDALRasterBand*> bands = ShownOf(dataset);

@@ -16,37 +16,38 @@ class GDALDataset;
 
 namespace host {
 
-/// How a whole raster is shown: which of its bands, and which colour each value has. The
-/// raster, its legend and every part that is drawn of it share one, so that they agree.
+/// How a whole raster is shown: its bands, and the colour of each value. The raster, its
+/// legend and every part drawn of it share one, so that they agree.
 class RasterShading {
 public:
-    /// Throws std::runtime_error when the style asks for a band that there is not.
+    /// Throws std::runtime_error when the style asks for a band that does not exist.
     RasterShading(std::shared_ptr<GDALDataset> whole, RasterStyle style);
 
     const RasterStyle& Style() const { return m_style; }
     DataDisplayType Type() const;
     int BandCount() const { return static_cast<int>(m_bands.size()); }
 
-    /// From 0: three as red, green and blue, or one.
+    /// The indices of the bands shown, from 0: three for red, green and blue, or one.
     const std::vector<int>& Shown() const { return m_shown; }
 
-    /// Of a raster whose one band is shown, the first is that band, wherever it stands:
-    /// it is the one whose range a legend asks for. Null for an index that is none.
+    /// When one band is shown, index 0 is that band, whatever its place in the file: it
+    /// is the one whose range a legend asks for. Null for an index out of range.
     CRasterBand* Band(int index);
 
-    /// What is black and what white of a band; nothing when no pixel of it has a value.
-    /// Reads the raster the first time. Throws as RangesOf does.
+    /// The values of a band shown black and white; nothing when no pixel of it has a
+    /// value. Reads the raster the first time. Throws as RangesOf does.
     std::optional<ShadeRange> RangeOf(int band, const Progress& progress = {});
 
-    /// Those that occur; none of a raster that is not classified, or cannot be read.
+    /// The classes that occur; none for a raster that is not classified, or cannot be
+    /// read.
     ClassificationTable& Classes();
 
-    /// The colours of the values in the range of a classified raster's band, from the
-    /// lowest to the highest, where they are a ramp rather than classes; none of any
-    /// other, or of one that cannot be read. See RasterClasses::Ramp.
+    /// The colours of the values in the range of a classified raster's band, from lowest
+    /// to highest, where they form a ramp rather than classes; empty for any other
+    /// raster, and for one that cannot be read. See RasterClasses::Ramp.
     std::vector<ClassColour> RampColours();
 
-    /// A dataset with the raster's bands, all of it or a part, as a picture. Throws as
+    /// A picture of a dataset that has the raster's bands, all of it or a part. Throws as
     /// ReadRows does.
     PixelImage Draw(GDALDataset& dataset, int width, int height,
                     const Progress& progress);
@@ -71,7 +72,7 @@ private:
     RasterStyle m_style;
     std::vector<int> m_shown;
     std::vector<ShownBand> m_bands;
-    std::optional<RasterClasses> m_classes;  ///< only of a classified raster
+    std::optional<RasterClasses> m_classes;  ///< only for a classified raster
     std::unique_ptr<ClassificationTable> m_listed;
     std::map<int, std::optional<ShadeRange>> m_ranges;
 };

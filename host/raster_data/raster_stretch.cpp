@@ -12,20 +12,21 @@
 namespace host {
 namespace {
 
-// Of percents all values are kept.
+// Percentiles need all values in memory.
 constexpr int kRankedSide = 1 << 11;
 
 // More would take too long.
 constexpr int kMostSide = 1 << 16;
 
-/// What the values of a band come to, one after the other.
+/// Summarises a band's values, one after the other.
 class Summary {
 public:
     void Add(double value) {
         m_first = m_count == 0.0 ? value : m_first;
         m_least = std::min(m_least, value);
         m_most = std::max(m_most, value);
-        // From the first value, so that small differences of large numbers are not lost.
+        // Relative to the first value, so that small differences between large numbers
+        // are not lost.
         const double difference = value - m_first;
         m_sum += difference;
         m_squares += difference * difference;
@@ -39,7 +40,7 @@ public:
         const double mean = m_sum / m_count;
         const double variance = m_squares / m_count - mean * mean;
         const double reach = stretch.deviations * std::sqrt(std::max(variance, 0.0));
-        // Squares that left the range of a double reach everywhere.
+        // Squares beyond the range of a double reach everywhere.
         if (stretch.kind != Stretch::Kind::Deviations || !std::isfinite(reach)) {
             return ShadeRange{m_least, m_most};
         }
@@ -56,7 +57,7 @@ private:
     double m_count = 0.0;
 };
 
-/// Gives each pixel that has a value in all bands to `add(band, value)`.
+/// Passes each pixel that has a value in all bands to `add(band, value)`.
 template <class T, class Add>
 void ReadValues(const std::vector<GDALRasterBand*>& bands, const LookedAt& size,
                 const Progress& progress, Add add) {
@@ -98,7 +99,8 @@ double Ranked(std::vector<T>& values, double percent) {
     return static_cast<double>(*at);
 }
 
-/// Reorders the values. Where nearly all are one value, the rest is still told apart.
+/// Reorders the values. Where nearly all are one value, the others can still be told
+/// apart.
 template <class T>
 std::optional<ShadeRange> RankedRange(std::vector<T>& values, const Stretch& stretch) {
     if (values.empty()) {
@@ -133,7 +135,7 @@ std::uint8_t ShadeRange::Shade(double value) const {
     if (!(black < white)) {
         return 128;
     }
-    // Halves, since the difference of two doubles may be no double.
+    // Halved, since the difference of two doubles may overflow.
     const double t = (value / 2 - black / 2) / (white / 2 - black / 2);
     if (!(t > 0.0)) {
         return 0;
@@ -164,7 +166,7 @@ std::vector<std::optional<ShadeRange>> RangesOf(const std::vector<GDALRasterBand
                                                        bands, stretch, progress);
                                                })
                               : CountedRanges(bands, stretch, kCountedSide, progress);
-    // A sample may meet nothing but no-data.
+    // A sample may hit nothing but no-data.
     return ranges.front() ? ranges : CountedRanges(bands, stretch, kMostSide, progress);
 }
 

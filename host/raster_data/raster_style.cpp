@@ -12,7 +12,7 @@ namespace {
 // GDAL's own limit.
 constexpr int kHighestBand = 65536;
 
-/// The pieces between separators; two separators have an empty one between them.
+/// The pieces between separators; between two in a row there is an empty one.
 std::vector<std::string_view> Split(std::string_view text, char separator) {
     std::vector<std::string_view> pieces;
     for (;;) {

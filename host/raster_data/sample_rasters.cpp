@@ -83,7 +83,7 @@ void Write(GDALDataset& dataset, int band, std::vector<T>& pixels, GDALDataType 
           path);
 }
 
-/// What is still in memory is written when a dataset is closed.
+/// Closing a dataset writes what is still in memory.
 void Finish(Dataset& dataset, const std::string& path) {
     CPLErrorReset();
     dataset.reset();

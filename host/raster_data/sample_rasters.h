@@ -12,9 +12,9 @@ struct SampleRasters {
     std::string landCover;  ///< `land_cover.tif`: nine classes with names and colours
 };
 
-/// Writes the sample rasters into a folder, which is made when it is not there; files of
-/// the same names are replaced. Their pixels are the same each time. Throws
-/// std::runtime_error with the reason when they cannot be written.
+/// Writes the sample rasters into a folder, creating it if need be; files of the same
+/// names are replaced. Their pixels are the same each time. Throws std::runtime_error
+/// with the reason when they cannot be written.
 /// @return the paths
 SampleRasters MakeSampleRasters(const std::string& folder);
 

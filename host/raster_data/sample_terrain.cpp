@@ -39,7 +39,7 @@ double Noise(double x, double y, std::uint32_t seed) {
                down);
 }
 
-/// Noise of seven scales, each half as wide and half as high as the one before; 0 to 1.
+/// Noise at seven scales, each half as wide and half as high as the one before; 0 to 1.
 double Rough(double x, double y, std::uint32_t seed) {
     double sum = 0.0;
     double most = 0.0;
@@ -66,7 +66,7 @@ double Elevation(int x, int y) {
     return 260.0 * inland + 1350.0 * land * land * crest * crest + 260.0 * land * relief;
 }
 
-/// The slope towards east and south: metres a metre.
+/// The slope towards east and south, in metres per metre.
 struct Slope {
     double east = 0.0;
     double south = 0.0;

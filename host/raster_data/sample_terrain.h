@@ -7,7 +7,7 @@
 
 namespace host {
 
-/// What covers a pixel of the sample terrain; the codes of its land-cover raster.
+/// The land cover of a pixel of the sample terrain; the codes of its land-cover raster.
 enum class LandCover : std::uint8_t {
     kWater = 1,
     kBeach,

@@ -26,12 +26,12 @@ namespace {
 constexpr int kDeepest = 3;
 constexpr std::int64_t kMostNested = 10'000;
 
-// Elements whose text is the name of a raster.
+// Elements whose text names a raster.
 constexpr const char* kSources[] = {"SourceFilename", "SourceDataset"};
 
 using Xml = std::unique_ptr<CPLXMLNode, decltype(&CPLDestroyXMLNode)>;
 
-/// As GDAL tells one: by what stands in the first bytes.
+/// As GDAL recognises one: by its first bytes.
 bool IsVrt(const std::string& path) {
     std::array<char, 1025> first{};
     VSILFILE* const file = VSIFOpenL(path.c_str(), "rb");
@@ -47,8 +47,8 @@ bool IsCalled(const CPLXMLNode& node, const char* name) {
     return node.eType == CXT_Element && EQUAL(node.pszValue, name);
 }
 
-/// Whether it has a file read as bytes, a program run, or a raster opened that no element
-/// of the sources names.
+/// Whether a node has a file read as raw bytes, a program run, or a raster opened that no
+/// source element names.
 bool IsNotOfRasters(const CPLXMLNode& node) {
     return IsCalled(node, "ImageOffset") || IsCalled(node, "PixelFunctionLanguage") ||
            IsCalled(node, "Group") ||
@@ -68,7 +68,7 @@ std::string SourceIn(const CPLXMLNode& element, const std::string& vrt) {
     return isRelative ? CPLProjectRelativeFilename(CPLGetPath(vrt.c_str()), name) : name;
 }
 
-/// What a VRT is made of. Throws std::runtime_error with what is not allowed of it.
+/// The sources of a VRT. Throws std::runtime_error for one that is not allowed.
 Counts SourcesOf(const std::string& vrt) {
     Counts sources;
     const Xml xml(CPLParseXMLFile(vrt.c_str()), CPLDestroyXMLNode);
@@ -100,8 +100,8 @@ void CheckAllowed(const std::string& source) {
     }
 }
 
-/// Goes down from a VRT to those in it and so on. Throws std::runtime_error with what
-/// speaks against them.
+/// Follows a VRT into those it is made of, and so on. Throws std::runtime_error with the
+/// reason why it should not be read.
 void CheckVrt(const std::string& raster) {
     Counts vrts = {{raster, 1}};
     std::int64_t count = 0;
