@@ -41,7 +41,7 @@ std::string FilePaths::ToFile(const std::string& path) const {
                                      .lexically_normal()
                                      .lexically_relative(folder.lexically_normal())
                                      .string();
-    // A file whose name looks like something of GDAL's: a:b.tif.
+    // A file name that GDAL would take for something else: a:b.tif.
     return AllowedSources::IsNoPath(relative) ? "./" + relative : relative;
 }
 

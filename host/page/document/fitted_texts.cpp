@@ -15,8 +15,8 @@ double WidthOf(const CMapSurround& element) {
     return element.GetSize() * double{element.GetAspectRatio()};
 }
 
-/// Half the width that a frame may have about its middle without leaving the margins of
-/// the page or coming to what stands beside it; 0 where there is no room.
+/// Half the width that a frame may have about its middle without leaving the page's
+/// margins or reaching its neighbours; 0 where there is no room.
 double HalfRoomAbout(const Box& frame, const Page& page) {
     const Measures measures({page.Width(), page.Height()});
     const double middle = frame.MiddleX();
@@ -45,12 +45,12 @@ void WidenFrame(CFrameBase& frame, double width, const Page& page) {
     box.left = middle - half;
     box.right = middle + half;
     frame.SetExtent(BoundingBoxOf(box));
-    // The shadow falls as far as it did.
+    // The shadow falls as far as before.
     frame.ShadowRatioX = static_cast<float>(frame.ShadowRatioX * before / box.Width());
 }
 
-/// Has a frame hold a title with half an em to each side and a tenth above and below: it
-/// is widened, and what is too large for it then is set smaller.
+/// Fits a frame around a title with half an em to each side and a tenth above and below:
+/// the frame is widened, and a title that is still too large is set smaller.
 /// @return whether the title is set smaller
 bool FitTitle(CSurroundFrame& frame, CMapTitle& title, const Page& page) {
     const double em = title.GetFontSize();
@@ -120,7 +120,7 @@ std::vector<LegendPlace> ForgetLegendSizes(Page& page) {
 }
 
 void FitLegend(const LegendPlace& place) {
-    constexpr int kTries = 4;  // text does not shrink quite as evenly as the legend
+    constexpr int kTries = 4;  // text does not shrink quite in proportion
     const CBoundingBox box = place.frame->GetExtent();
     CMapLegend& legend = *place.legend;
     const auto put = [&] {

@@ -9,19 +9,19 @@
 #include "page/page.h"
 #include "page/placed_frame.h"
 
-// Texts that were changed, and keep within their frames.
+// Keeping changed texts within their frames.
 namespace host {
 
-/// Titles of a page, and which of them are set smaller than it says.
+/// The titles of a page, and which of them are set smaller than it says.
 class FittedTitles {
 public:
     explicit FittedTitles(const Page& page) : m_page(page) {}
 
     /// Widens the frame of a title that is too long for it, about its middle, and sets
-    /// one that is still too large for it smaller; any other item stays.
+    /// the title smaller if it is still too large; other items are left alone.
     void Fit(PageItem& item);
 
-    /// Its size is that asked for, whatever its frame.
+    /// Sets the title in the size asked for, whatever its frame.
     void Forget(const PageItem& item);
 
     /// "title: is set in 18.5 points to fit its frame, instead of 24.0 points"
@@ -32,7 +32,7 @@ private:
     std::map<const CMapTitle*, double> m_asked;  // em sizes, page units
 };
 
-/// Where a legend stands in its frame, from the frame's middle, y growing upwards.
+/// The place of a legend in its frame, from the frame's middle, y growing upwards.
 struct LegendPlace {
     CMapLegend* legend;
     PlacedFrame* frame;
@@ -40,10 +40,10 @@ struct LegendPlace {
     double top;
 };
 
-/// Has the legends measured anew when they are opened.
+/// Has the legends measured again when they are opened.
 std::vector<LegendPlace> ForgetLegendSizes(Page& page);
 
-/// The legend begins where it did, and its ink is no larger than its frame has room for.
+/// Keeps the legend's corner where it was, and its ink within its frame.
 void FitLegend(const LegendPlace& place);
 
 }  // namespace host

@@ -20,7 +20,7 @@ bool Is(const CSurroundFrame& frame) {
     return dynamic_cast<const Class*>(&frame) != nullptr;
 }
 
-/// What all elements of a family have in common on a page.
+/// What the elements of a family have in common on a page.
 struct FamilyOnPage {
     MapSurroundType family;
     std::vector<Property> (*properties)();
@@ -76,7 +76,7 @@ ItemType EmptyFrame() {
             }};
 }
 
-/// A frame with an element of the catalogue in it.
+/// A frame that holds an element of the catalogue.
 ItemType Framed(const CatalogueEntry& entry) {
     const FamilyOnPage& family = *FamilyOf(entry);
     return {entry.name,

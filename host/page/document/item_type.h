@@ -11,8 +11,7 @@
 
 namespace host {
 
-/// A kind of thing that can stand on a page: the map, a frame with one class of element,
-/// an empty frame.
+/// A type of page item: the map, a frame with one class of element, an empty frame.
 struct ItemType {
     const char* name;  ///< as in the page file: "scale-bar-line"
     const char* about;
@@ -27,22 +26,22 @@ constexpr const char* kMapType = "map";
 /// Every type: the map, the empty frame, then the elements in the catalogue's order.
 const std::vector<ItemType>& ItemTypes();
 
-/// The properties of the frame around each, whatever its type.
+/// The properties of the frame around every item, whatever its type.
 const std::vector<Property>& FrameProperties();
 
-/// The type of an item; null for a frame or an element of a class of somebody's own.
+/// The type of an item; null for a frame or an element of the host's own class.
 const ItemType* TypeOf(const PageItem& item);
 
-/// The type of a name, null when there is none.
+/// The type with a name; null for none.
 const ItemType* FindItemType(std::string_view name);
 
-/// A property of a type, or of its frame, by name; null when there is none.
+/// A property of a type, or of its frame, by name; null for none.
 const Property* FindProperty(const std::vector<Property>& properties,
                              std::string_view name);
 
-/// Measures the element anew, as is right after a change of what it shows: it takes its
-/// natural proportions, and a title its natural size. A legend is measured once its
-/// rasters are open, by OpenRasters.
+/// Measures the element again, after a change of its contents: it takes its natural
+/// proportions, and a title its natural size. A legend is measured by OpenRasters, once
+/// its rasters are open.
 void MeasureItem(PageItem& item);
 
 }  // namespace host

@@ -28,7 +28,7 @@ std::string LineAndColumn(const std::string& text, std::size_t position) {
     return "line " + std::to_string(line) + ", column " + std::to_string(column);
 }
 
-/// The reason out of the parser's message, without its number, its position, and what it
+/// The reason from the parser's message, without its number, the position, and what it
 /// read last, which may be anything.
 std::string ReasonIn(const std::string& message) {
     if (message.find("ill-formed UTF-8") != std::string::npos) {
@@ -42,8 +42,8 @@ std::string ReasonIn(const std::string& message) {
     return "is not valid JSON: " + reason.substr(0, reason.find("; last read"));
 }
 
-/// Follows the parser through the text and refuses what it would accept: a key given
-/// twice, and nesting without end.
+/// Follows the parser and refuses what it would accept: a key given twice, and unlimited
+/// nesting.
 class Watch {
 public:
     bool operator()(json::parse_event_t event, const json& parsed) {
@@ -71,7 +71,7 @@ public:
         return true;
     }
 
-    /// The place of the value that the parser failed at.
+    /// The place of the value where the parser failed.
     std::string PlaceOfNext() {
         Count();
         return Place();

@@ -23,7 +23,7 @@ std::shared_ptr<GdalRaster> OnMap(const MapLayers& map, const std::string& path)
     return found == rasters.end() ? nullptr : *found;
 }
 
-/// A raster as the first map shows it that has it; null when it is left off them all.
+/// A raster as the first map that has it shows it; null when all the maps leave it off.
 std::shared_ptr<GdalRaster> AsShown(const std::string& path, const Page* page,
                                     RasterStore& store) {
     bool isNamed = false;
@@ -64,8 +64,8 @@ Sources SourcesOf(const LegendFrame& frame, const Page* page, RasterStore& store
     return found;
 }
 
-/// A legend multiplies its font sizes whenever it is measured. Those of a page have been
-/// already.
+/// A legend multiplies its font sizes each time it is measured; those of a page are
+/// multiplied already.
 void Measure(CMapLegend& legend, float sizeFactor) {
     const int size = legend.GetSize();
     const float aspectRatio = legend.GetAspectRatio();

@@ -10,14 +10,13 @@
 
 namespace host {
 
-/// What the furniture of a page says of a map; its legend explains the rasters that are
-/// on it.
+/// What the elements of a page say of a map; the legend explains the rasters on it.
 MapOnPage DescribeMap(const std::shared_ptr<MapLayers>& map);
 
-/// The layers of an item that is a map whose rasters are open; else null.
+/// The layers of a map whose rasters are open; null for any other item.
 std::shared_ptr<MapLayers> LayersOf(const PageItem& item);
 
-/// What the maps of a page remark (see MapLayers::Remarks).
+/// The remarks of a page's maps (see MapLayers::Remarks).
 std::vector<std::string> RemarksOfMaps(const Page& page);
 
 }  // namespace host

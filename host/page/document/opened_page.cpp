@@ -16,7 +16,7 @@
 namespace host {
 namespace {
 
-/// Has the page's map remember how and what part of it is shown, and show that.
+/// Has the page's map keep the style and extent of its design, and show them.
 void ShowAsDesigned(const MapDesign& design, Page& page, RasterStore& rasters) {
     for (PageItem& item : page.Items()) {
         auto* const map = std::get_if<MapFrame>(&item);

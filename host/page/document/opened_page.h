@@ -1,7 +1,7 @@
 #pragma once
 
-// Opens and saves whole pages, for every program. Errors are std::runtime_error, in one
-// line that begins with the file's name. GDI+ must have been started.
+// Opens and saves whole pages, for every program. Errors are std::runtime_error, on one
+// line that begins with the file's name. GDI+ must be running.
 
 #include <cstdint>
 #include <memory>
@@ -20,35 +20,35 @@ namespace host {
 struct OpenedPage {
     std::unique_ptr<RasterStore> rasters;
     Page page;
-    /// What could not be done as asked, and what a reader would stumble over (see
-    /// RemarksOf), one line each.
+    /// What could not be done as asked, and what would trouble a reader (see RemarksOf),
+    /// one line each.
     std::vector<std::string> remarks;
 };
 
 /// Opens a page file: makes the changes, checks its pictures and fonts, opens the rasters
 /// and fits scale bars and north arrows to the maps.
-/// @param allowed what may be read of the files that it names; null: all. What rasters
-/// lead to in turn is not looked at here: see ConfineGdal.
+/// @param allowed what may be read of the files that it names; null: everything. The
+/// files that rasters refer to in turn are not checked here: see ConfineGdal.
 OpenedPage OpenPageFile(const std::string& path, const AllowedSources* allowed,
                         const PageChanges& changes = {});
 
-/// What is remarked of a page that was opened: of its maps, of what was done with it, and
-/// of what can be seen on it.
+/// All remarks on an opened page: on its maps, on what was done with it, and on what can
+/// be seen on it.
 std::vector<std::string> AllRemarks(const Page& page,
                                     const std::vector<std::string>& ofWhatWasDone);
 
-/// Lays a page out by itself around at least one raster.
+/// Lays out an automatic page around at least one raster.
 OpenedPage LayOutRasters(const std::vector<std::string>& paths, const PageDesign& design);
 
-/// The text of a page file as bytes. Throws NamedError with the file's name.
+/// The text of a page file in bytes. Throws NamedError with the file's name.
 std::vector<std::uint8_t> PageFileBytes(const Page& page, const std::string& path);
 
 /// Saves a page file; on failure an older file of that name is left alone.
-/// @return what a person should know of that file (see OutputFile::Remark)
+/// @return what the user should know about that file (see OutputFile::Remark)
 std::string SavePageFile(const Page& page, const std::string& path);
 
-/// Whether a file's name is that of a page file and not of a raster: it ends in .json, in
-/// any case.
+/// Whether a file name is a page file's rather than a raster's: it ends in .json, in any
+/// case.
 bool IsPageFile(const std::string& path);
 
 }  // namespace host

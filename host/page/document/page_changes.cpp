@@ -27,7 +27,7 @@ const Property* PropertyOf(const PageItem& item, const char* name) {
     return type == nullptr ? nullptr : FindProperty(type->properties, name);
 }
 
-/// What of an item is its text: a title's, or a legend's first line.
+/// The property that is an item's text: a title's, or a legend's first line.
 const Property* TextOf(const PageItem& item) {
     const Property* const text = PropertyOf(item, "text");
     return text != nullptr ? text : PropertyOf(item, "title");
@@ -38,7 +38,7 @@ bool IsNamed(const PageItem& item, const std::string& name) {
     return own != nullptr && std::get<std::string>(own->read(item)) == name;
 }
 
-/// @param place named in errors
+/// @param place for errors
 void WriteValue(PageItem& item, const Property& property, const std::string& place,
                 const PropertyValue& value) {
     const std::string why = CheckValue(property, value);
@@ -62,14 +62,14 @@ bool IsOf(const PageItem& item, MapSurroundType family) {
     return type != nullptr && type->element != nullptr && type->element->family == family;
 }
 
-/// "scale bar", as automatic pages call theirs.
+/// "scale bar": the name on an automatic page.
 std::string UsualName(MapSurroundType family) {
     std::string name = FamilyName(family);
     std::replace(name.begin(), name.end(), '-', ' ');
     return name;
 }
 
-/// The element of a family that a change is about.
+/// The element of a family that a change applies to.
 PageItem& ElementFor(Page& page, MapSurroundType family, const std::string& asked) {
     const std::string name = UsualName(family);
     PageItem* found = nullptr;
@@ -90,7 +90,8 @@ PageItem& ElementFor(Page& page, MapSurroundType family, const std::string& aske
     return *found;
 }
 
-/// An element of another style in the same frame, with all that both have.
+/// Replaces an element by one of another style in the same frame, with every property
+/// that both have.
 void Restyle(PageItem& item, const CatalogueEntry& style) {
     const ItemType& before = *TypeOf(item);
     const ItemType& type = *FindItemType(style.name);
@@ -107,7 +108,7 @@ void Restyle(PageItem& item, const CatalogueEntry& style) {
         property.write(restyled, property.read(item));
     }
     MeasureItem(restyled);
-    // Its ink stands where that of the other did.
+    // Its ink stays centred where the other's was.
     const auto middleOf = [](PageItem& of) {
         const InkBox ink = MeasureInk(*std::get<std::unique_ptr<CSurroundFrame>>(of));
         return CPoint2D((ink.right - ink.left) / 2.0, (ink.up - ink.down) / 2.0);
@@ -133,7 +134,7 @@ void ChangeStyle(Page& page, const StyleChange& change) {
                 items.end());
 }
 
-/// A unit that is asked for has its own name, and a name that is asked for one unit.
+/// A unit that is asked for brings its own name, and a name belongs to one unit.
 void KeepUnitAndName(PageItem& item, const std::string& changed) {
     auto* const frame = FrameAs<ScaleBarFrame>(item);
     auto* const bar = ElementOf<CScaleBarBase>(item);
@@ -148,14 +149,14 @@ void ChangeElement(Page& page, const ElementChange& change, FittedTitles& titles
     PageItem& item = ElementFor(page, change.family, change.asked);
     const Property* const property = PropertyOf(item, change.property.c_str());
     if (change.property == "units") {
-        KeepUnitAndName(item, change.property);  // while it has the name of its unit
+        KeepUnitAndName(item, change.property);  // while it has its unit's name
     }
     WriteValue(item, *property, change.asked, change.value);
     if (change.property == "unit") {
         KeepUnitAndName(item, change.property);
     }
     if (change.property == "fontSize") {
-        MeasureItem(item);  // as large as it was asked for
+        MeasureItem(item);  // in the size asked for
         titles.Forget(item);
     } else {
         titles.Fit(item);

@@ -5,8 +5,8 @@
 
 namespace host {
 
-/// What is wrong in a page file, and where: "elements[2].size: must be a number",
-/// "line 3, column 7: ...".
+/// What is wrong in a page file, and where: "elements[2].size: must be a number", "line
+/// 3, column 7: ...".
 class PageError : public std::runtime_error {
 public:
     PageError(const std::string& place, const std::string& why)

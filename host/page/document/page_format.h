@@ -1,6 +1,6 @@
 #pragma once
 
-// The words of the page file that are no property, and its version.
+// The keys of the page file that are not properties, and its version.
 
 #include <cstddef>
 #include <string>

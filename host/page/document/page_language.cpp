@@ -29,7 +29,8 @@ bool IsInSomeLanguage(const std::string& text, const wchar_t* Language::*word) {
         [&](const Language& language) { return Narrow(language.*word) == text; });
 }
 
-/// The unit that a bar is in by its name, which may be of another language than the bar.
+/// The unit that a bar's name for it means; the name may be in another language than the
+/// bar.
 std::optional<DistanceUnit> UnitNamedBy(const ScaleBarFrame& frame,
                                         const std::wstring& name) {
     std::optional<DistanceUnit> unit = frame.GetLanguage().UnitCalled(name);

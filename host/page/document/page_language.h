@@ -8,8 +8,9 @@
 
 namespace host {
 
-/// What the properties of a legend or a scale bar that hold words are in a language.
-/// Those that hold the words of no language are somebody's own, and not among them.
+/// The properties of a legend or a scale bar that hold words, with their values in a
+/// language. Properties whose words are in none of the languages are the user's own and
+/// left out.
 std::vector<std::pair<const Property*, PropertyValue>> WordsIn(const Language& language,
                                                                const PageItem& item);
 

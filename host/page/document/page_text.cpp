@@ -53,7 +53,7 @@ const json& ObjectAt(const json& value, const std::string& place) {
     return value;
 }
 
-/// Sets those properties of the item that the object has.
+/// Sets the properties that the object has.
 void ReadProperties(const json& object, const std::vector<Property>& properties,
                     PageItem& item, const FilePaths& paths, const std::string& place) {
     for (const Property& property : properties) {
@@ -65,7 +65,7 @@ void ReadProperties(const json& object, const std::vector<Property>& properties,
     }
 }
 
-/// Throws for a key that is not known.
+/// Throws for an unknown key.
 void CheckKeys(const json& object, const std::vector<Property>& properties,
                const std::vector<std::string>& others, const std::string& place) {
     for (const auto& entry : object.items()) {
@@ -100,7 +100,7 @@ const ItemType& TypeIn(const json& object, const std::string& place) {
     return *type;
 }
 
-/// A measured property that the file gives keeps the value given.
+/// Keeps a measured property that the file gives at the given value.
 void ReadMeasured(const json& object, const ItemType& type, PageItem& item,
                   const FilePaths& paths, const std::string& place) {
     std::vector<Property> measured;
@@ -155,7 +155,7 @@ double SideOf(const json& page, const char* key) {
     return side;
 }
 
-/// The page as the newest version has it.
+/// The page as the newest version writes it.
 json Upgraded(json page) {
     const json& version = MemberOf(page, kVersionKey, "");
     if (!version.is_number_integer() || version < 1 || version > kPageVersion) {

@@ -10,22 +10,22 @@
 
 namespace host {
 
-/// An item as JSON text on one line, with every property. Throws PageError for an item of
-/// no type (see TypeOf) and for a value out of its property's range.
+/// An item as JSON text on one line, with every property. Throws PageError for an item
+/// without a type (see TypeOf) and for a value outside its property's range.
 ///
-/// ReadItem makes the same item again: an editor keeps these texts for undoing, copying
-/// and the clipboard.
+/// ReadItem makes the same item again: an editor keeps these texts for undo, copies and
+/// the clipboard.
 std::string WriteItem(const PageItem& item);
 
 /// The item that a text describes, measured. What the text leaves out has its default;
-/// a size and proportions left out are the natural ones. Opens a picture's file but no
-/// rasters (see OpenRasters). Throws PageError. GDI+ must have been started.
+/// size and proportions left out are the natural ones. Opens a picture's file but no
+/// rasters (see OpenRasters). Throws PageError. GDI+ must be running.
 PageItem ReadItem(const std::string& text);
 
-/// The items that a text describes, a line each.
+/// The items that a text describes, one per line.
 std::vector<PageItem> ReadItems(const std::string& lines);
 
-/// A page as JSON text, of which reading and writing again makes the same bytes. Throws
+/// A page as JSON text; reading it and writing it again gives the same bytes. Throws
 /// PageError as WriteItem does.
 /// @param paths those of the file that the text is for
 std::string WritePage(const Page& page, const FilePaths& paths);
@@ -34,7 +34,7 @@ std::string WritePage(const Page& page, const FilePaths& paths);
 Page ReadPage(const std::string& text, const FilePaths& paths);
 
 /// Reads a page file. Throws std::runtime_error with the reason, without the file's name.
-/// @param allowed what may be read of what it names; null: all
+/// @param allowed what the page file may have read; null: everything
 Page LoadPage(const std::string& path, const AllowedSources* allowed = nullptr);
 
 }  // namespace host

@@ -45,7 +45,7 @@ void UpgradeColours(json& object, const std::vector<Property>& properties,
     }
 }
 
-/// The type of an element; null where there is none that is known.
+/// The type of an element; null for a missing or unknown one.
 const ItemType* TypeIn(const json& element) {
     const auto type = element.find(kTypeKey);
     return type != element.end() && type->is_string()

@@ -36,7 +36,7 @@ std::string WhyNotOpened(const std::string& picture) {
         return {};
     }
     if (!S_ISREG(status.st_mode)) {
-        return "is not a plain file";  // a pipe may never answer
+        return "is not a plain file";  // reading a pipe may block for ever
     }
     const std::optional<ImageSize> size = SizeOfImage(picture);
     return size ? WhyTooLarge(*size) : "";

@@ -22,7 +22,7 @@ namespace {
 
 constexpr const char* kRastersKey = "rasters";
 
-/// Adds the property, and the element of a page, to an error's place.
+/// Adds the property, and the page's element, to an error's place.
 template <typename Step>
 void Placing(const std::string& place, Step step) {
     try {
@@ -32,8 +32,8 @@ void Placing(const std::string& place, Step step) {
     }
 }
 
-/// What a map shows: as much more than its extent as its frame has room for, or what its
-/// frame holds at the scale that it keeps.
+/// What a map shows: its extent, extended to the proportions of its frame, or as much as
+/// its frame holds at the scale that it keeps.
 Box ShownOf(const MapFrame& map, const MapLayers& layers) {
     const CBoundingBox box = map.frame.GetExtent();
     if (!(map.scale > 0.0)) {
@@ -49,7 +49,7 @@ Box ShownOf(const MapFrame& map, const MapLayers& layers) {
     return *shown;
 }
 
-/// A map that is not stretched: where its frame has other proportions, it shows more.
+/// A map that is never stretched: where its frame has other proportions, it shows more.
 std::shared_ptr<MapPicture> PictureOf(const MapFrame& map, RasterStore& store) {
     std::shared_ptr<MapLayers> layers = store.Map(map.rasterPaths, map.extent, map.style);
     const double ratio = layers->AspectRatio();
@@ -142,7 +142,7 @@ void OpenRasters(PageItem& item, RasterStore& store) {
 }
 
 void OpenRasters(Page& page, RasterStore& store) {
-    // Legends explain what the maps show.
+    // Maps first: legends explain what they show.
     for (const bool isMap : {true, false}) {
         for (std::size_t i = 0; i < page.Items().size(); ++i) {
             PageItem& item = page.Items()[i];
@@ -184,7 +184,7 @@ void CheckReplacesNoInput(const std::string& output, const Page& page,
              type == nullptr ? std::vector<Property>() : type->properties) {
             if (property.kind == PropertyKind::File) {
                 inputs.push_back(std::get<std::string>(property.read(item)));
-            } else if (property.kind == PropertyKind::Rasters) {  // open or not
+            } else if (property.kind == PropertyKind::Rasters) {  // even if not open
                 const auto named =
                     std::get<std::vector<std::string>>(property.read(item));
                 inputs.insert(inputs.end(), named.begin(), named.end());

@@ -14,12 +14,11 @@
 
 namespace host {
 
-/// The rasters of pages, opened once each, by path and style, and the maps made of them:
-/// items that name the same rasters share them, also after an item was written and read
-/// again. So undoing a change reads no raster (see RenderedMaps, which knows maps by
-/// their object).
+/// The rasters of pages, each opened once, by path and style, and the maps made of them:
+/// items that name the same rasters share them, even after an item was written and read
+/// again. So undo reads no raster (see RenderedMaps, which knows maps by their object).
 ///
-/// Must outlive the pages that were given rasters from it.
+/// Must outlive the pages that use its rasters.
 class RasterStore {
 public:
     /// A raster in a style. Throws PageError that names the path when it cannot be
@@ -33,8 +32,8 @@ public:
     /// Whether a raster is open, in any style.
     bool Has(const std::string& path) const;
 
-    /// A map of at least one raster. Throws as Raster does, and where bands are chosen of
-    /// rasters that all have only one.
+    /// A map of at least one raster. Throws as Raster does, and where bands are chosen
+    /// although every raster has only one.
     std::shared_ptr<MapLayers> Map(const std::vector<std::string>& paths,
                                    const std::optional<Box>& extent,
                                    const RasterStyle& style = {});
@@ -47,28 +46,30 @@ private:
     std::map<MapKey, std::shared_ptr<MapLayers>> m_maps;
 };
 
-/// Opens what an item names: gives a map its picture, and a legend its sources, by which
-/// it is measured; a legend whose size is set keeps size and proportions. Items of other
-/// kinds stay as they are. Throws PageError that names the property; the item then stays
-/// as it was.
+/// Opens the files of an item: gives a map its picture, and a legend its sources, by
+/// which it is measured; a legend whose size is set keeps size and proportions. Other
+/// items are left alone. Throws PageError that names the property, leaving the item
+/// unchanged.
 void OpenRasters(PageItem& item, RasterStore& store);
 
-/// The same for every item of a page, and its legends explain what its maps show (see
+/// The same for every item of a page, with legends that explain what its maps show (see
 /// OpenLegend); the error names the element.
 void OpenRasters(Page& page, RasterStore& store);
 
-/// Names the rasters of every map and legend of a page that was laid out from them.
+/// Records the rasters' paths in every map and legend of a page that was laid out from
+/// them.
 void NameRasters(Page& page, const std::vector<std::string>& paths);
 
-/// Throws std::runtime_error that names the input, where a file that is to be written is
-/// one of those that a page is drawn from, by whatever name: its rasters with all their
-/// side files, its pictures, and the others given.
+/// Throws std::runtime_error that names the input, where writing a file would replace one
+/// that the page is drawn from, under whatever name: its rasters with all their side
+/// files, its pictures, and the others given.
 void CheckReplacesNoInput(const std::string& output, const Page& page,
                           const RasterStore& rasters,
                           const std::vector<std::string>& others = {});
 
-/// Which properties' files and fonts cannot be used, one line each: a picture that is
-/// missing, no image or over 32767 pixels a side, a font family that is not installed.
+/// The properties whose files or fonts cannot be used, one line each: a picture that is
+/// missing, not an image or over 32767 pixels along a side, a font family that is not
+/// installed.
 std::vector<std::string> WhyNotFilesAndFonts(const Page& page);
 
 /// Throws PageError with the first of them.

@@ -4,8 +4,8 @@
 
 namespace host {
 
-/// The JSON Schema (draft 7) of page files, which follows from the tables of properties.
-/// Kept in docs/page.schema.json.
+/// The JSON Schema (draft 7) of page files, derived from the tables of properties. Kept
+/// in docs/page.schema.json.
 std::string PageSchema();
 
 }  // namespace host

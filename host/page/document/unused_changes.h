@@ -7,8 +7,8 @@
 
 namespace host {
 
-/// What of the changes a page has nothing for, one line each: rasters, where it has no
-/// map or legend.
+/// The changes that a page has no use for, one line each: rasters, where it has no map or
+/// legend.
 std::vector<std::string> RemarksOfUnused(const PageChanges& changes, const Page& page);
 
 }  // namespace host

@@ -31,7 +31,7 @@ Gdiplus::ARGB ColourFromJson(const json& value, const std::string& place) {
     return *colour;
 }
 
-/// A float as the shortest decimal that is that float again: 0.1, and not the double
+/// The double with the shortest decimal that reads as the same float: 0.1 rather than
 /// 0.10000000149011612.
 double ShortestDouble(double value) {
     const auto single = static_cast<float>(value);
@@ -80,7 +80,7 @@ std::int32_t IntegerFromJson(const json& value, const std::string& place) {
     return static_cast<std::int32_t>(number);
 }
 
-/// -1 is no value of a choice.
+/// -1 is not a value of any choice.
 std::int32_t ChoiceFromJson(const Choices& choices, const json& value,
                             const std::string& place) {
     const std::string& name = TextFromJson(value, place);
@@ -103,7 +103,7 @@ std::string FileFromJson(const json& value, const FilePaths& paths,
     return file;
 }
 
-/// One that may be opened without a look at it, which writing the property does.
+/// A file that may be opened without being examined, as writing the property does.
 std::string PictureFromJson(const json& value, const FilePaths& paths,
                             const std::string& place) {
     std::string file = FileFromJson(value, paths, place);

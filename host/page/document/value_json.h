@@ -8,12 +8,12 @@
 
 namespace host {
 
-/// A property's value as it stands in a page file. Throws PageError that names the place
-/// for a value that could not be read back.
+/// A property's value for a page file. Throws PageError that names the place for a value
+/// that could not be read back.
 nlohmann::ordered_json ValueToJson(const Property& property, const PropertyValue& value,
                                    const FilePaths& paths, const std::string& place);
 
-/// The value that stands in a page file; checked. Throws PageError that names the place.
+/// The value in a page file, checked. Throws PageError that names the place.
 PropertyValue ValueFromJson(const Property& property, const nlohmann::json& value,
                             const FilePaths& paths, const std::string& place);
 

@@ -6,7 +6,7 @@
 namespace host::tables {
 namespace {
 
-/// The families of the catalogue by the numbers that the library gives them.
+/// The catalogue's families, with their numbers in the library.
 Choices FamilyChoices() {
     static const std::vector<Choice> families = [] {
         std::map<std::int32_t, const char*> names = {{SurroundNone, "none"}};
@@ -43,7 +43,7 @@ void OpenPicture(PageItem& item, const PropertyValue& value) {
     SubjectOf<CDrawPicture>(item).Open(path.c_str());
 }
 
-/// How a line of text is set.
+/// The type in which a line of text is set.
 std::vector<Property> TypeProperties() {
     return {
         Of<&CMapTitle::GetFontStyle, &CMapTitle::SetFontStyle>("font", "Font family",

@@ -21,8 +21,8 @@ Box BoxOf(const CFrameBase& frame) {
             extent.GetHeight()};
 }
 
-/// The edge on the far side of `length`, so that their difference is exactly the length
-/// wherever doubles allow it.
+/// The edge at the far end of `length`, so that their difference is exactly the length
+/// wherever doubles allow.
 double FarEdge(double edge, double length) {
     const double far = edge + length;
     if (std::fabs(far - edge) == std::fabs(length)) {
@@ -62,7 +62,7 @@ Property OfBox(const char* name, const char* about) {
 
 }  // namespace
 
-// Left before width and top before height: a side that moves may cost the size its last
+// Left before width and top before height: moving an edge may cost the size its last
 // digit.
 std::vector<Property> FrameProperties() {
     constexpr auto kSwitch = PropertyKind::Switch;

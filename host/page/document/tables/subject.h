@@ -1,6 +1,6 @@
 #pragma once
 
-// Making properties of pairs of accessors and of fields.
+// Makes properties from pairs of accessors and from fields.
 
 #include <cstdint>
 #include <map>
@@ -18,7 +18,7 @@
 
 namespace host::tables {
 
-/// The part of an item that a class is about: the map, the frame, or its element.
+/// The part of an item that a class describes: the map, the frame, or its element.
 template <class Class>
 Class& SubjectOf(PageItem& item) {
     if constexpr (std::is_same_v<Class, MapFrame>) {
@@ -43,7 +43,7 @@ const Class& SubjectOf(const PageItem& item) {
     return SubjectOf<Class>(const_cast<PageItem&>(item));  // NOLINT: reads only
 }
 
-// A property's value and what the accessors of a class call it.
+// Converts between a property's value and the types of a class's accessors.
 
 template <class Type>
 PropertyValue ToValue(Type value) {
@@ -167,8 +167,8 @@ inline std::vector<Choice> ByNumber(const std::map<std::int32_t, const char*>& n
     return choices;
 }
 
-/// What the catalogue's elements of a class answer when asked for their style. Those that
-/// answer alike share the name of the first: a stepped bar is a "line".
+/// The style types of the catalogue's elements of a class. Styles that share a type take
+/// the name of the first: a stepped bar is a "line".
 template <auto Get>
 Choices TypeChoices() {
     static const std::vector<Choice> types = [] {

@@ -1,6 +1,6 @@
 #pragma once
 
-// The properties of every type of page item: one function a class, in a file a family.
+// The properties of every type of page item: one function per class, one file per family.
 
 #include <initializer_list>
 #include <vector>
@@ -47,7 +47,7 @@ constexpr Choice kFontStyles[] = {
 
 std::vector<Property> FrameProperties();        ///< CFrameBase
 std::vector<Property> MapProperties();          ///< MapFrame
-std::vector<Property> PlacedFrameProperties();  ///< of a frame with or without element
+std::vector<Property> PlacedFrameProperties();  ///< a frame with or without an element
 std::vector<Property> ElementProperties();      ///< CMapSurround
 std::vector<Property> TitleProperties();
 std::vector<Property> NumericScaleProperties();
@@ -56,7 +56,7 @@ std::vector<Property> LegendProperties();
 std::vector<Property> NorthArrowProperties();
 std::vector<Property> ScaleBarProperties();
 
-/// One list of all.
+/// The lists as one.
 std::vector<Property> Join(std::initializer_list<std::vector<Property>> lists);
 
 }  // namespace host::tables
