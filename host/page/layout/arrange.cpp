@@ -11,23 +11,24 @@ namespace {
 
 constexpr int kWidestPanel = 5;       // columns beside the map
 constexpr int kMostColumns = 12;      // of a legend
-constexpr double kLeastColumn = 7.0;  // of a legend, em
-constexpr int kStepsUp = 2;           // in which a legend may be larger than usual
+constexpr double kLeastColumn = 7.0;  // of a legend, in em
+constexpr int kStepsUp = 2;           // by which a legend may be larger than usual
 
-/// A legend that leaves the map less than this part of what it has without is left out.
+/// A legend is left out if the map keeps less than this share of the area that it has
+/// without one.
 constexpr double kLeastWithLegend = 0.2;
 
 double AreaOf(const Box& box) { return box.Width() * box.Height(); }
 
-/// How good a page is: the size of its map, a little of it given for type that is read
+/// How good a page is: the size of its map, some of which is traded for type that reads
 /// more easily.
 double WorthOf(const Cells& cells, const Measures& measures) {
-    constexpr double kSmaller = 0.94;  // a step
+    constexpr double kSmaller = 0.94;  // per step
     constexpr double kLarger = 1.004;
     constexpr double kDense = 0.97;
     constexpr double kOfNames[] = {1.0, 0.95, 0.9};
     constexpr double kLeanFrames = 0.99;
-    constexpr double kColumn = 0.998;  // one more in the legend
+    constexpr double kColumn = 0.998;  // per further column in the legend
     const int larger = StepOf(cells.setting.points) - StepOf(measures.body);
     double worth =
         AreaOf(cells.map) * std::pow(larger < 0 ? kSmaller : kLarger, std::abs(larger));
@@ -37,15 +38,15 @@ double WorthOf(const Cells& cells, const Measures& measures) {
            kOfNames[static_cast<int>(cells.names)];
 }
 
-/// A place for the furniture: beside the map, in so many columns, or below it.
+/// A place for the furniture: beside the map, in a number of columns, or below it.
 struct Place {
     bool isBeside = true;
     int columns = 0;
     bool isStacked = false;
-    double most = 0.0;  ///< area of the map where there is no legend
+    double most = 0.0;  ///< area of the map without a legend
 };
 
-/// Looks for the best of all arrangements.
+/// Searches all arrangements for the best.
 class Search {
 public:
     Search(const Sheet& sheet, const Box& room)
@@ -69,10 +70,10 @@ public:
             }
             return m_best;
         }
-        // The usual size first: what cannot be better than it is not tried.
+        // The usual size first: whatever cannot beat it is not tried.
         for (const Names names : {Names::AreWhole, Names::AreBroken, Names::AreCut}) {
             if (names == Names::AreCut && m_best) {
-                break;  // only where there is no other way
+                break;  // only as a last resort
             }
             const double body = m_sheet.measures.body;
             TryAll(body, names);
@@ -90,7 +91,7 @@ public:
 private:
     static constexpr double kDenseGap = 0.5;
 
-    /// A picture or an arrow alone has room in one column.
+    /// A picture or an arrow alone needs only one column.
     int LeastPanel() const {
         const Furniture& all = m_sheet.furniture;
         const bool isOne = !all.legend && all.bar <= 0.0 && all.scale <= 0.0 &&
@@ -117,7 +118,7 @@ private:
     }
 
     void TryAll(double points, Names names) {
-        // Rows move together where type cannot become smaller.
+        // Rows move closer together once type cannot become smaller.
         const double least = points > kLeastSetPoints ? LegendSetting().gap : kDenseGap;
         for (const double gap : {LegendSetting().gap, least}) {
             for (const Place& place : m_places) {
@@ -133,7 +134,7 @@ private:
         }
     }
 
-    /// Beside the map one column less is as good, as long as it is not too high.
+    /// Fewer columns beside the map are as good, as long as the panel is not too high.
     void TryBeside(const Place& place, LegendSetting setting, Names names) {
         for (; setting.columns <= place.columns; ++setting.columns) {
             if (Try(place, setting, names) > 0.0) {
@@ -142,7 +143,8 @@ private:
         }
     }
 
-    /// Below it each column more leaves the larger map, until there is no more to gain.
+    /// Below the map each further column leaves a larger map, until nothing more is
+    /// gained.
     void TryBelow(const Place& place, LegendSetting setting, Names names) {
         const double one = m_sheet.OneColumn(setting).width;
         const int most =
@@ -200,7 +202,7 @@ struct LeftOut {
     bool (*isThere)(const Furniture&);
 };
 
-// In this order, until the rest has room.
+// In this order, until the rest fits.
 constexpr LeftOut kLeftOutFirst[] = {
     {"legend", [](Furniture& all) { all.legend = false; },
      [](const Furniture& all) { return all.legend; }},
@@ -234,7 +236,7 @@ bool TakesTheMap(const Sheet& sheet, const Box& room, const Cells& cells) {
     return best && AreaOf(cells.map) < kLeastWithLegend * AreaOf(best->map);
 }
 
-/// Everything into the middle of the sheet.
+/// Moves everything into the middle of the sheet.
 void CentreOnSheet(Cells& cells, const Box& room) {
     double bottom = cells.map.bottom;
     double top = cells.map.top;

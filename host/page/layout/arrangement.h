@@ -7,13 +7,13 @@
 
 namespace host {
 
-/// A title is no higher than this part of the room.
+/// The greatest share of the room that a title may take in height.
 constexpr double kMostOfTitle = 0.25;
 
-/// What becomes of a legend's names and labels that are wider than their column.
+/// What happens to a legend's names and labels that are wider than their column.
 enum class Names { AreWhole, AreBroken, AreCut };
 
-/// Where everything stands, page units; what has no width is not there.
+/// Where everything stands, in page units; an absent element has no width.
 struct Cells {
     Box map;
     Box title;
@@ -33,7 +33,7 @@ constexpr Box Cells::*kCells[] = {&Cells::map,    &Cells::title, &Cells::legend,
                                   &Cells::bar,    &Cells::scale, &Cells::arrow,
                                   &Cells::picture};
 
-/// What stands around a map, and how high it is; 0 for what does not.
+/// What stands around a map, and its height; 0 for what is absent.
 struct Furniture {
     double bar = 0.0;
     double scale = 0.0;
@@ -51,7 +51,7 @@ struct Furniture {
     }
 };
 
-/// A sheet that is to be laid out.
+/// A sheet to be laid out.
 struct Sheet {
     const PageDesign& design;
     const MapOnPage& map;
@@ -61,17 +61,17 @@ struct Sheet {
     LegendDraft& legend;
     Furniture furniture;
 
-    /// How large the ink of the legend in one column is, nearly.
+    /// The approximate size of the legend's ink in one column.
     PaperSize OneColumn(const LegendSetting& setting) const;
 
-    /// The ink of the legend in a room; nothing where it has no room in it, or where
-    /// something else becomes of its names.
+    /// The ink of the legend in a room; nothing where it does not fit, or its names would
+    /// be treated otherwise.
     std::optional<InkBox> LegendIn(const LegendSetting& setting, const PaperSize& room,
                                    Names names) const;
 };
 
-/// Where everything stands when the furniture is beside the map, in a panel of some
-/// columns of the grid; nothing where it does not fit.
+/// Where everything stands with the furniture beside the map, in a panel of some columns
+/// of the grid; nothing where it does not fit.
 /// @param titleWithin whether the title is on top of the panel
 std::optional<Cells> Beside(const Sheet& sheet, const Box& room, int columns,
                             const LegendSetting& setting, bool titleWithin, Names names);
@@ -82,8 +82,8 @@ std::optional<Cells> Beside(const Sheet& sheet, const Box& room, int columns,
 std::optional<Cells> Below(const Sheet& sheet, const Box& room, bool isStacked,
                            const LegendSetting& setting, bool titleWithin, Names names);
 
-/// The largest map, and type that is read well, of all that fit; the map alone where
-/// nothing does. What is left out for want of room is told.
+/// The arrangement with the largest map, and type that reads well, of all that fit; the
+/// map alone where nothing else does. Remarks say what is left out for lack of room.
 Cells Arrange(Sheet& sheet, std::vector<std::string>& remarks);
 
 }  // namespace host

@@ -17,7 +17,7 @@ std::optional<BarOnMap> OnPage(const std::optional<BarDivision>& division, int d
                     division->mapUnits / map.MapUnitsPerPageUnit(), divisions};
 }
 
-/// As wide a bar as there is, with about as many divisions.
+/// The widest bar possible, with about as many divisions.
 std::optional<BarOnMap> WidestBar(const ShownMap& map, const BarMeasure& measure,
                                   DistanceUnit unit, int divisions, double most) {
     std::optional<BarOnMap> widest;
@@ -32,7 +32,7 @@ std::optional<BarOnMap> WidestBar(const ShownMap& map, const BarMeasure& measure
     return widest;
 }
 
-/// As many divisions of a value as there is room for.
+/// As many divisions of a value as fit.
 std::optional<BarOnMap> BarOfValue(const ShownMap& map, const BarMeasure& measure,
                                    DistanceUnit unit, double value, double most) {
     for (int count = kMostDivisions; count > 0; --count) {

@@ -7,7 +7,7 @@
 
 namespace host {
 
-/// The divisions of a bar that are true to a map.
+/// A bar's divisions, true to a map.
 struct BarOnMap {
     DistanceUnit unit;  ///< never a choice by length
     double value;       ///< of a division, in that unit
@@ -15,9 +15,9 @@ struct BarOnMap {
     int divisions;
 };
 
-/// Divisions of a round value for a bar: as many as it has, or more or fewer of them
-/// where something else of it is to stay.
-/// @param value what a division stands for, where that is to stay; in the bar's unit
+/// Round divisions for a bar: as many as it has, or more or fewer where something else is
+/// to be kept.
+/// @param value of a division, where that is to be kept; in the bar's unit
 /// @param divisions how many it has
 /// @param longest the whole bar, page units
 /// @return nothing where none fits

@@ -6,7 +6,7 @@
 namespace host {
 namespace {
 
-constexpr double kMostOfLegend = 0.7;  // of the room, its height
+constexpr double kMostOfLegend = 0.7;  // of the room's height
 constexpr double kLean = 1.5;          // height over width
 constexpr int kLongestBar = 3;         // columns
 
@@ -26,7 +26,7 @@ struct Grid {
         return {begin, bottom, begin + Width(columns), top};
     }
 
-    /// How many columns something of a width takes.
+    /// The number of columns that a width takes.
     int ColumnsFor(double wide) const {
         return std::max(1, static_cast<int>(std::ceil((wide + gap) / (width + gap))));
     }
@@ -37,8 +37,8 @@ struct Grid {
     double width;
 };
 
-/// The columns of what stands from left to right: legend, bar, north arrow, picture; the
-/// last two under the bar where they are stacked.
+/// The columns of each part from left to right: legend, bar, north arrow, picture; the
+/// last two under the bar when stacked.
 struct Shares {
     int legend = 0;
     int bar = 0;
@@ -60,7 +60,7 @@ Shares LeastShares(const Furniture& furniture, bool isStacked) {
     return shares;
 }
 
-/// What is left goes to the bar, as far as bars are long, and then to the legend.
+/// Gives what is left to the bar, up to the longest useful bar, and then to the legend.
 void ShareOut(Shares& shares, int count, int forLegend) {
     int spare = count - shares.Block() - forLegend;
     shares.legend = forLegend;
@@ -76,7 +76,7 @@ void ShareOut(Shares& shares, int count, int forLegend) {
     } else {
         (shares.picture > 0 ? shares.picture : shares.arrow) += spare;
     }
-    if (shares.isStacked) {  // all of the block's columns
+    if (shares.isStacked) {  // all the columns of the block
         int& last = shares.picture > 0 ? shares.picture : shares.arrow;
         last += shares.Block() - shares.arrow - shares.picture;
     }

@@ -22,7 +22,7 @@ public:
         return m_columns >= kFlat && m_squares > 0 && BarHeight() > 0.0;
     }
 
-    /// Of the bar and the scale in figures above it.
+    /// The height of the bar and the scale in figures above it.
     double BarHeight() const { return m_furniture.Bar(m_measures.gap); }
 
     double Height() const {
@@ -30,7 +30,7 @@ public:
         return HasBar() ? std::max(squares, BarHeight()) : squares;
     }
 
-    /// Cells from the left, from this bottom up.
+    /// Places its cells from the left, upwards from a bottom line.
     void Put(Cells& cells, double left, double bottom) const {
         const int forBar = HasBar() ? m_columns - m_squares : 0;
         const int forSquares = m_columns - forBar;
@@ -75,7 +75,7 @@ private:
     int m_squares;
 };
 
-/// What stands on top of one another in the panel, and how high it all is.
+/// What is stacked in the panel, and its total height.
 struct Stack {
     std::optional<TitleBlock> title;
     double legend = 0.0;
@@ -151,7 +151,7 @@ std::optional<Cells> Beside(const Sheet& sheet, const Box& room, int columns,
     cells.setting = setting;
     cells.names = names;
     cells.map = FitMap(forMap, sheet.shape);
-    // Both in the middle, from the top of the room; the map in the middle of a panel that
+    // Both are centred, from the top of the room; the map in the middle of a panel that
     // is higher.
     const double height = std::max(cells.map.Height(), needed);
     const double left = room.MiddleX() - (cells.map.Width() + gap + width) / 2.0;

@@ -22,14 +22,14 @@
 namespace host {
 namespace {
 
-// Proportions and lengths that differ by less count as the same: nobody sees that a map
-// is stretched by half a percent.
+// Smaller differences in proportions and lengths count as none: nobody sees that a map is
+// stretched by half a percent.
 constexpr double kNearlyTheShape = 0.005;
 constexpr double kNearlyTrue = 1.0e-9;
 
 constexpr double kMetresInAKilometre = 1000.0;
 
-/// The map that a page speaks of: the first that is open and has coordinates.
+/// The map that a page describes: the first that is open and has coordinates.
 struct SpokenOf {
     const MapFrame* frame = nullptr;
     ShownMap shown;
@@ -48,8 +48,8 @@ std::optional<SpokenOf> MapOf(const Page& page) {
     return std::nullopt;
 }
 
-/// Pages of version 1 have bars that are not exact: their divisions are of one digit, and
-/// what they count is the type of their unit.
+/// Bars of version 1 pages are not exact: their divisions have one digit, and their unit
+/// is the type of the bar.
 void FitAsInVersion1(ScaleBarFrame& frame, const CScaleBarBase& bar,
                      const ShownMap& map) {
     const bool isKilometre = bar.GetDestUnitType() == MeasureKilometer &&
@@ -74,7 +74,7 @@ void FitAsInVersion1(ScaleBarFrame& frame, const CScaleBarBase& bar,
     frame.SetDivisionLength(division.length);
 }
 
-/// Whether the whole bar stands for what it says.
+/// Whether the whole bar stands for the distance that it gives.
 bool IsTrue(const ScaleBarFrame& frame, const CScaleBarBase& bar, const ShownMap& map,
             const BarMeasure& measure) {
     const int divisions = bar.GetMainDivCount();
@@ -85,14 +85,14 @@ bool IsTrue(const ScaleBarFrame& frame, const CScaleBarBase& bar, const ShownMap
            std::fabs(*length - said * divisions) <= kNearlyTrue * *length;
 }
 
-/// Whether the ink of a bar ends before its frame does, where that has a width.
+/// Whether the bar's ink ends within its frame, if the frame has a width.
 bool EndsInFrame(ScaleBarFrame& frame) {
     constexpr double kLittle = 1.0;  // page units
     const double width = frame.GetExtent().GetWidth();
     return !(width > 0.0) || MeasureInk(frame).right <= width / 2.0 + kLittle;
 }
 
-/// Gives a bar divisions that are true, as long as there is room for in its frame.
+/// Gives a bar true divisions that fit in its frame.
 bool FitWithinFrame(ScaleBarFrame& frame, CScaleBarBase& bar, const ShownMap& map,
                     const BarMeasure& measure) {
     constexpr double kLess = 0.95;
@@ -191,7 +191,7 @@ void FitNumericScale(const PlacedFrame& frame, NumericScale& text, const SpokenO
     }
 }
 
-/// What a page says of a map that has nothing to say it of.
+/// What a page says of a map without coordinates.
 std::vector<std::string> RemarksOfNoCoordinates(const Page& page) {
     const std::vector<PageItem>& items = page.Items();
     std::vector<std::string> remarks;
@@ -259,7 +259,7 @@ std::vector<std::string> FitToMap(Page& page) {
             FitArrow(*arrowFrame, *arrow, map->shown, remarks);
         }
     }
-    // Over the length of the bar, which has its own now.
+    // Along the bar, which has its length by now.
     const double barLength = BarLength(page);
     for (PageItem& item : page.Items()) {
         const auto* const frame = FrameAs<PlacedFrame>(item);

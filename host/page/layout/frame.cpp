@@ -7,8 +7,8 @@
 namespace host {
 namespace {
 
-// Of an A4 sheet; a sheet of twice the side has furniture 1.6 times as large, for it is
-// read from a little further away.
+// For an A4 sheet; one twice as wide has furniture 1.6 times as large, since it is read
+// from a little further away.
 constexpr double kSheet = UnitsFromMillimetres(210.0);
 constexpr double kModule = UnitsFromMillimetres(5.0);
 constexpr double kBodyPoints = 8.0;  // points
@@ -53,7 +53,7 @@ void Decorate(CFrameBase& frame, const Box& extent, const FrameStyle& style,
     frame.BorderWidth = static_cast<float>(measures.borderWidth);
     frame.DrawShadow = style.shadow.has_value();
     frame.ShadowColor = style.shadow.value_or(Gdiplus::Color(0));
-    // Both ratios come to the same distance whatever the frame's proportions.
+    // Both ratios give the same distance, whatever the frame's proportions.
     frame.ShadowRatioX = static_cast<float>(measures.shadow / extent.Width());
     frame.ShadowRatioY = static_cast<float>(measures.shadow / extent.Height());
     frame.DrawFill = style.background.has_value();

@@ -15,7 +15,7 @@ void AddUnlessEmpty(Page& page, std::unique_ptr<CSurroundFrame> frame) {
     }
 }
 
-/// A map at a scale may be larger than there is room for.
+/// A map at a fixed scale may be larger than its room.
 void TellWhatIsCutOff(const MapDesign& design, const MapOnPage& map,
                       const ShownMap& shown, std::vector<std::string>& remarks) {
     constexpr double kNothing = 1e-6;  // of the map
@@ -27,7 +27,7 @@ void TellWhatIsCutOff(const MapDesign& design, const MapOnPage& map,
     }
 }
 
-/// Furniture that is usual, and means nothing without coordinates.
+/// Furniture that is usual, but means nothing without coordinates.
 void TellWhatHasNoCoordinates(const PageDesign& design, const MapOnPage& map,
                               std::vector<std::string>& remarks) {
     if (map.extent) {
@@ -41,7 +41,7 @@ void TellWhatHasNoCoordinates(const PageDesign& design, const MapOnPage& map,
     }
 }
 
-/// Around everything, as far from it as margins are from the neat line.
+/// Around everything, as far from it as the margin is from the neat line.
 Box NeatLineAround(const Cells& cells, const Measures& measures) {
     Box all = cells.map;
     for (const auto part : kCells) {
@@ -78,13 +78,14 @@ double BarLengthOf(const PlacedFrame* frame) {
                                 ElementOf<CScaleBarBase>(*bar)->GetMainDivCount();
 }
 
-/// Whether an element is to be placed: in its cell, or, where nothing is known of what it
-/// says, to tell that. Of one that has no cell for want of room, that is told already.
+/// Whether an element is to be placed: in its cell, or, if what it says is unknown, to
+/// have that remarked. An element left without a cell for lack of room has its remark
+/// already.
 bool IsToBePlaced(const Box& cell, bool isKnown) {
     return cell.Width() > 0.0 || !isKnown;
 }
 
-/// Everything but the map and the title, in the order of reading.
+/// Everything but the map and the title, in reading order.
 void AddFurniture(Page& page, const Sheet& sheet, const Furniture& known,
                   const Cells& cells, const ShownMap& shown,
                   std::vector<std::string>& remarks) {

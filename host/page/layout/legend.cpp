@@ -11,9 +11,9 @@ namespace {
 
 constexpr double kTitleOfBody = 1.25;
 constexpr int kLinesOfName = 4;
-constexpr double kBetweenColumns = 1.0;  // em
+constexpr double kBetweenColumns = 1.0;  // in em
 
-/// How high the ink of a text is, in em.
+/// The height of a text's ink, in em.
 double InkOfEm(const wchar_t* text, const std::wstring& family, int style) {
     constexpr double kEm = 1000.0;
     const double height = InkHeight(text, family, kEm, style) / kEm;
@@ -48,14 +48,14 @@ LegendDraft::LegendDraft(const PageDesign& design, const MapOnPage& map) {
 
 InkBox LegendDraft::Set(const LegendSetting& setting, double width) {
     CMapLegend& legend = Legend();
-    // A legend draws its texts in an em that is the height of their ink as measured,
-    // which is a whole number of page units.
+    // The em in which a legend draws its texts is the measured height of their ink, which
+    // is a whole number of page units.
     const double em = UnitsFromPoints(setting.points);
     const double titleEm = UnitsFromPoints(OnTypeScale(kTitleOfBody * setting.points));
     const double size = em / m_rowOfEm;
     const double row = std::max(
         1.0, InkHeight(L"Band_1", legend.GetTitle(), size, legend.GetFileNameStyle()));
-    const double drawn = em / row;  // of what is measured
+    const double drawn = em / row;  // of what was measured
     legend.SetColumns(setting.columns);
     legend.SetGap(static_cast<float>(setting.gap));
     legend.SetFileNameSize(static_cast<float>(size));

@@ -16,30 +16,30 @@ namespace host {
 struct LegendSetting {
     int columns = 1;
     double points = 8.0;  ///< of its entries
-    double gap = 0.8;     ///< between its rows, in heights of one
+    double gap = 0.8;     ///< between its rows, in row heights
 };
 
-/// A legend of a page's sources that is tried in several settings.
+/// A legend of a page's sources, tried in several settings.
 class LegendDraft {
 public:
     LegendDraft(const PageDesign& design, const MapOnPage& map);
 
-    /// False when none is wanted or there is nothing to explain.
+    /// False when no legend is wanted or there is nothing to explain.
     bool IsWanted() const { return m_frame != nullptr; }
 
     /// Sets the legend.
-    /// @param width for its ink, page units; names that are wider are cut, or wrapped
-    /// @return its ink, which may be wider all the same
+    /// @param width for its ink, page units; wider names are cut or wrapped
+    /// @return its ink, which may still be wider
     InkBox Set(const LegendSetting& setting, double width);
 
-    /// Whether names or labels are cut as it is set now.
+    /// Whether names or labels are cut in the present setting.
     bool IsCut() const { return Legend().HasCutTexts(); }
 
-    /// The ink of the legend where nothing is cut, as Set() would have it: measured once
-    /// a setting.
+    /// The legend's ink with nothing cut, as Set() would have it: measured once for each
+    /// setting.
     const InkBox& Natural(const LegendSetting& setting);
 
-    /// The legend as it was set last.
+    /// The legend as it was last set.
     std::unique_ptr<LegendFrame> Take() { return std::move(m_frame); }
 
 private:
@@ -47,8 +47,8 @@ private:
 
     std::unique_ptr<LegendFrame> m_frame;
     std::map<std::tuple<int, double, double>, InkBox> m_natural;
-    double m_rowOfEm = 1.0;    ///< height of the ink of a row, which it is drawn in
-    double m_titleOfEm = 1.0;  ///< the same of its first line
+    double m_rowOfEm = 1.0;    ///< height of a row's ink, in which it is drawn
+    double m_titleOfEm = 1.0;  ///< the same for its first line
 };
 
 }  // namespace host

@@ -16,8 +16,8 @@ MapShape ShapeOf(const MapDesign& design, const MapOnPage& map) {
     if (!design.scale) {
         return shape;
     }
-    // All of the map, drawn as wide as one page unit, has the scale that its width of
-    // page units divides.
+    // The scale is that of the whole map drawn one page unit wide, divided by its width
+    // in page units.
     const std::optional<double> oneUnitWide =
         map.extent ? ScaleOf({map.projection, *map.extent, 1.0}) : std::nullopt;
     if (!oneUnitWide) {

@@ -17,7 +17,7 @@ std::optional<double> TrueNorthOf(const ShownMap& shown) {
     return ground ? ground->TrueNorth() : std::nullopt;
 }
 
-/// The direction of north, where there is one to be told.
+/// The direction of north, where it is known.
 std::optional<double> AngleOf(const NorthArrowDesign& design, const ShownMap& shown,
                               std::vector<std::string>& remarks) {
     if (design.angle) {
@@ -36,7 +36,7 @@ std::optional<double> AngleOf(const NorthArrowDesign& design, const ShownMap& sh
     return angle;
 }
 
-/// The usual style, or on a small sheet, on which nobody could read its letters, one with
+/// The usual style, or on a small sheet, where its letters would be illegible, one with
 /// larger letters.
 std::unique_ptr<CNorthArrowBase> LegibleArrow(std::unique_ptr<CNorthArrowBase> usual,
                                               double size) {
@@ -85,7 +85,7 @@ std::unique_ptr<PlacedFrame> PlaceNorthArrow(const PageDesign& design,
     if (!design.northArrow.style) {
         arrow = LegibleArrow(std::move(arrow), size);
     }
-    // All styles keep within a square of their size, and a turned one within its
+    // Every style stays within a square of its size; a rotated one stays within the
     // diagonal.
     arrow->SetSize(static_cast<int>(size));
     arrow->SetFrontColor(Gdiplus::Color(kInkColor));

@@ -16,7 +16,7 @@ constexpr const char* kLeftOut =
     "the numeric scale is left out: the map has no coordinate system that reaches its "
     "middle";
 
-/// @param denominator as it is to be written
+/// @param denominator as it is written
 std::unique_ptr<PlacedFrame> FrameOfScale(double denominator, const Measures& measures) {
     auto text = std::make_unique<NumericScale>();
     text->SetFontSize(UnitsFromPoints(measures.body));
@@ -140,7 +140,7 @@ std::vector<std::string> AddNumericScale(Page& page) {
                  place.style, measures);
         return RemarksOf(page).size();
     };
-    // Where it disturbs least, the first of those.
+    // The first of those where it disturbs least.
     std::vector<std::size_t> disturbed;
     std::transform(places.begin(), places.end(), std::back_inserter(disturbed), put);
     const auto least = std::min_element(disturbed.begin(), disturbed.end());

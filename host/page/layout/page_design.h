@@ -26,29 +26,29 @@ struct FrameStyle {
 };
 
 struct TitleDesign {
-    std::wstring text;  ///< no title when it is empty
+    std::wstring text;  ///< empty for no title
     std::wstring family = L"Arial";
     FontProcess style = FontProcessBold;
     std::optional<double> points;  ///< else a size that suits the sheet
 };
 
 struct PictureDesign {
-    std::wstring path;  ///< no picture when it is empty
+    std::wstring path;  ///< empty for no picture
 };
 
-/// A style out of the catalogue, or null for none. When not set, the usual one of its
-/// family where the map has coordinates, and else none.
+/// A style from the catalogue, or null for none. When not set, the usual style of its
+/// family where the map has coordinates, and otherwise none.
 using StyleChoice = std::optional<const CatalogueEntry*>;
 
 struct ScaleBarDesign {
     StyleChoice style;
-    std::optional<int> divisions;  ///< else four, or as many as there is room for
+    std::optional<int> divisions;  ///< else four, or as many as fit
     int subdivisions = 2;          ///< ticks between two main ones
     ScaleBarPostion unitPosition = UnitPosAfter;
     BarDistances distances = BarDistances::Ground;  ///< or Map
     std::optional<DistanceUnit> unit;               ///< else UsualUnit
     std::optional<std::wstring> unitName;           ///< else that of its language
-    BarFit fit = BarFit::Count;  ///< when a series gives it another map
+    BarFit fit = BarFit::Count;  ///< when another map is put on the page
     bool numeric = false;        ///< the scale in figures, under the bar
 };
 
@@ -58,8 +58,8 @@ struct NorthArrowDesign {
 };
 
 struct MapDesign {
-    std::optional<Box> extent;    ///< the part that is shown; else all of it
-    std::optional<double> scale;  ///< its denominator; else as large as there is room
+    std::optional<Box> extent;    ///< the part shown; else all of it
+    std::optional<double> scale;  ///< its denominator; else as large as fits
     RasterStyle style;            ///< in which its rasters are shown
 };
 
@@ -76,11 +76,11 @@ enum class LayoutDesign : std::int32_t {
     Bottom,   ///< the map on top, everything else below it
 };
 
-/// What an automatic page is to show.
+/// What an automatic page shows.
 struct PageDesign {
     PaperSize paper;
     LayoutDesign layout = LayoutDesign::Classic;
-    const Language* language = &English();  ///< of the words that are not given
+    const Language* language = &English();  ///< for the words that are not given
     FrameStyle frames;
     TitleDesign title;
     PictureDesign picture;

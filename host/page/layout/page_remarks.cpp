@@ -16,10 +16,10 @@
 namespace host {
 namespace {
 
-// Page units: a quarter of a millimetre, in which roundings to pixels have room.
+// Page units: a quarter of a millimetre, which leaves room for rounding to pixels.
 constexpr double kLittle = 1.0;
 
-// Ticks that are nearer to one another are a smear: half a millimetre.
+// Ticks closer than half a millimetre run together.
 constexpr double kTicksApart = UnitsFromMillimetres(0.5);
 
 /// An item as a reader sees it.
@@ -28,8 +28,8 @@ struct Seen {
     Box frame;
     std::optional<Box> ink;  ///< of the element, or of a map
     std::optional<Box> all;  ///< the ink, and the frame where it is drawn
-    bool holds = false;      ///< others: a map, or a frame without element
-    bool covers = false;     ///< what lies under its frame
+    bool holds = false;      ///< holds others: a map, or a frame without an element
+    bool covers = false;     ///< covers what lies under its frame
 };
 
 Box Together(const Box& a, const Box& b) {
@@ -37,7 +37,7 @@ Box Together(const Box& a, const Box& b) {
             std::max(a.right, b.right), std::max(a.top, b.top)};
 }
 
-/// By how much a box stands out of another, page units.
+/// How far a box stands out of another, page units.
 double OutOf(const Box& box, const Box& room) {
     return std::max({0.0, room.left - box.left, room.bottom - box.bottom,
                      box.right - room.right, box.top - room.top});

@@ -14,10 +14,11 @@ namespace {
 constexpr int kUsualDivisions = 4;
 constexpr double kLongest = 4.5;  // columns of the layout's grid
 
-// A page is not told from another by less; more is told, for maps in degrees.
+// The least difference in scale between directions that is remarked; maps in degrees
+// differ more.
 constexpr double kNearlyConformal = 0.01;
 
-/// What a bar is to be made with, and how the map is measured for it.
+/// What a bar is made with, and how the map is measured for it.
 struct Plan {
     std::unique_ptr<ScaleBarFrame> frame;
     CScaleBarBase* bar = nullptr;
@@ -52,14 +53,14 @@ std::optional<Plan> PlanBar(const CatalogueEntry& style, const ScaleBarDesign& d
     return Plan{std::move(frame), placed, *measure};
 }
 
-/// Gives a bar so many divisions, as long as there is room for.
+/// Gives a bar a number of divisions, as long as there is room for them.
 /// @return its ink; empty where there is no room
 InkBox Fit(Plan& plan, const ScaleBarDesign& design, const ShownMap& map, int count,
            double most) {
     constexpr double kLess = 0.95;
     constexpr int kTries = 60;
-    // Labels and unit name stand out from the divisions, so make these smaller until all
-    // of it fits.
+    // Labels and unit name stand out beyond the divisions, so make these smaller until
+    // everything fits.
     double longest = most;
     for (int i = 0; i < kTries; ++i, longest *= kLess) {
         const std::optional<BarOnMap> divisions = FitBar(
@@ -73,7 +74,7 @@ InkBox Fit(Plan& plan, const ScaleBarDesign& design, const ShownMap& map, int co
         const InkBox ink = MeasureInk(*plan.frame);
         if (ink.Width() <= most) {
             if (design.unitName && IsByLength(plan.frame->Unit())) {
-                plan.frame->SetUnit(divisions->unit);  // a name goes with one unit only
+                plan.frame->SetUnit(divisions->unit);  // a name belongs to one unit
                 plan.bar->SetUnitsNameVerbatim(*design.unitName);
             }
             plan.frame->SetLongest(longest);
@@ -83,13 +84,13 @@ InkBox Fit(Plan& plan, const ScaleBarDesign& design, const ShownMap& map, int co
     return {};
 }
 
-/// The size of a bar whose numbers are set so, in points.
+/// The size of a bar whose numbers have a size, in points.
 int BarSize(double points) {
     return static_cast<int>(std::ceil(UnitsFromPoints(points) / kBarNumbers));
 }
 
-/// Gives a bar as many divisions as there is room for, and no more than so many, with
-/// numbers in the usual size of type, or in the smallest.
+/// Gives a bar as many divisions as fit, up to a number, with its numbers in the usual
+/// type size, or in the smallest.
 InkBox FitLegibly(Plan& plan, const ScaleBarDesign& design, const ShownMap& map,
                   const Measures& measures, double most) {
     for (const double points : {measures.body, kLeastSetPoints}) {
@@ -104,7 +105,7 @@ InkBox FitLegibly(Plan& plan, const ScaleBarDesign& design, const ShownMap& map,
     return {};
 }
 
-/// A scale that another direction does not have is told.
+/// Remarks on a scale that does not hold in other directions.
 void TellDirection(const ShownMap& map, std::vector<std::string>& remarks) {
     const std::optional<MapGround> ground = MapGround::Of(map.projection, map.extent);
     const std::optional<double> stretch = ground ? ground->UpwardStretch() : std::nullopt;

@@ -8,10 +8,10 @@ struct Division {
     double length;  ///< on the page, in page units
 };
 
-/// The largest division of a round value that is at most that long. What is rounded
-/// already has boxes that neither overlap nor hide the unit. At 0.1 units a page unit and
-/// a length of 37, the value is 3 and the length 30.
-/// @param perPageUnit how much of the bar's unit one page unit is
+/// The largest round division that is at most that long. A rounded value makes boxes that
+/// neither overlap nor hide the unit. At 0.1 units per page unit and a length of 37, the
+/// value is 3 and the length 30.
+/// @param perPageUnit the bar's units in one page unit
 Division DivisionOf(double length, double perPageUnit);
 
 }  // namespace host

@@ -1,6 +1,6 @@
 #pragma once
 
-// The steps of LayOut(): one function an element, in a file of its own.
+// The steps of LayOut(): one function for each element, in its own file.
 
 #include <memory>
 #include <string>
@@ -18,7 +18,7 @@ namespace host {
 struct Measures {
     explicit Measures(const PaperSize& paper);
 
-    double module;       ///< what all others are multiples of: 5 mm on A4, 8 mm on A2
+    double module;       ///< all others are multiples of it: 5 mm on A4, 8 mm on A2
     double neatLine;     ///< from the sheet's edge to the neat line around everything
     double margin;       ///< from the sheet's edge to the elements
     double gap;          ///< between neighbours
@@ -27,27 +27,27 @@ struct Measures {
     double shadow;       ///< how far shadows fall
     double borderWidth;  ///< of element frames
     double body;         ///< the usual size of type, points
-    double title;        ///< that of a title
+    double title;        ///< the usual size of a title
 };
 
 /// The colour of the lines around the map and the sheet.
 constexpr Gdiplus::ARGB kLineColor = 0xFF2D3B47;
 
-/// The colour of furniture that is drawn in one colour.
+/// The colour of furniture drawn in one colour.
 constexpr Gdiplus::ARGB kInkColor = 0xFF1E2832;
 
-/// Puts a frame where it belongs, with border, shadow and background in the page's style.
+/// Puts a frame in its place, with border, shadow and background in the page's style.
 void Decorate(CFrameBase& frame, const Box& extent, const FrameStyle& style,
               const Measures& measures);
 
 enum class Stands { AtTopLeft, InTheMiddle };
 
-/// Decorates a frame that fills a cell, with the ink of its element somewhere in it. The
-/// element keeps its size.
+/// Decorates a frame that fills a cell and holds its element's ink somewhere. The element
+/// keeps its size.
 void FrameInk(PlacedFrame& frame, const InkBox& ink, const Box& cell, Stands stands,
               const FrameStyle& style, const Measures& measures);
 
-/// Makes a decorated frame as small as the ink of its element, and some space, let it be.
+/// Shrinks a decorated frame to the ink of its element, plus some space.
 void ShrinkToInk(PlacedFrame& frame, const Measures& measures);
 
 /// A title as it is set, with the size of its frame, page units.
@@ -59,8 +59,8 @@ struct TitleBlock {
 };
 
 /// Sets a title in the size that is asked for, or else suits the sheet, in as many lines
-/// as the width asks for, and smaller where it does not fit at all. Nothing when there is
-/// nothing to show.
+/// as the width requires, and smaller where it would not fit at all. Nothing when there
+/// is nothing to show.
 /// @param lines made from the same design, once for many rooms
 /// @param width,height of the room for its frame
 std::optional<TitleBlock> SetTitle(const PageDesign& design, const Measures& measures,
@@ -78,15 +78,15 @@ std::unique_ptr<CSurroundFrame> PlaceNeatLine(const Box& extent,
 /// How a map may lie in a room.
 struct MapShape {
     double aspectRatio = 1.0;  ///< width divided by height
-    /// At a scale that is asked for: the size of all of the map, which may be cut off.
+    /// At a fixed scale: the size of the whole map, which may be cut off.
     std::optional<PaperSize> atScale = std::nullopt;
 };
 
-/// The shape of a map on a page. Throws std::runtime_error where the scale that is asked
-/// for cannot be kept.
+/// The shape of a map on a page. Throws std::runtime_error where the requested scale
+/// cannot be kept.
 MapShape ShapeOf(const MapDesign& design, const MapOnPage& map);
 
-/// The largest room for the map, in the middle of the one given.
+/// The largest room for the map, in the middle of the given one.
 Box FitMap(const Box& room, const MapShape& shape);
 
 /// What the map shows in its frame.
@@ -96,11 +96,11 @@ ShownMap Shown(const MapDesign& design, const MapOnPage& map, const Box& frame);
 MapFrame PlaceMap(const Box& extent, std::shared_ptr<MapPicture> picture,
                   const Measures& measures);
 
-/// Gives a legend the words and the looks of a design; its type sizes stay.
+/// Gives a legend the words and looks of a design; its type sizes stay.
 void DressLegend(CMapLegend& legend, const PageDesign& design);
 
-// The elements below fill their cells. Each is null when it is not wanted, when nothing
-// is known of what it says, or when the cell has no room for it; the last two are told.
+// The elements below fill their cells. Each is null when it is not wanted, when what it
+// would say is unknown, or when it does not fit its cell; the last two are remarked.
 
 /// A scale bar that is true to the map.
 std::unique_ptr<PlacedFrame> PlaceScaleBar(const PageDesign& design, const MapOnPage& map,
@@ -128,7 +128,7 @@ std::unique_ptr<PlacedFrame> PlacePicture(const PageDesign& design,
 const CatalogueEntry* ScaleBarStyleOn(const PageDesign& design, const MapOnPage& map);
 const CatalogueEntry* NorthArrowStyleOn(const PageDesign& design, const MapOnPage& map);
 
-/// How high their frames are, page units; 0 where they will not be there.
+/// The heights of their frames, page units; 0 for those that are left out.
 double ScaleBarHeight(const PageDesign& design, const MapOnPage& map,
                       const Measures& measures);
 double NumericScaleHeight(const PageDesign& design, const MapOnPage& map,

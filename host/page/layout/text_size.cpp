@@ -19,8 +19,8 @@ struct Letters {
 constexpr Letters kLetterSizes[] = {
     {"one", 4.0 / 15.0}, {"two", 2.0 / 15.0}, {"four", 1.0 / 5.0}, {"eight", 1.0 / 10.0}};
 
-/// A legend draws its texts in an em size that is the height of their ink as it was
-/// measured, and grows with the legend.
+/// The em size of a legend's texts is the measured height of their ink, and grows with
+/// the legend.
 double LegendEm(const CMapLegend& legend, bool hasSources) {
     CMapLegend natural(legend);
     natural.SetSizeAspect(1.0f);

@@ -10,11 +10,11 @@ namespace {
 
 constexpr double kSmallestTitlePoints = 4.0;
 
-// Space around the ink, in em: more beside it than above it, as type wants.
+// Space around the ink, in em: more at the sides than above, as type needs.
 constexpr double kSpaceBeside = 0.85;
 constexpr double kSpaceAbove = 0.5;
 
-/// How a title may be set to fit: so many lines, down to a part of the wanted size.
+/// A way to fit a title: in a number of lines, down to a share of the wanted size.
 struct Way {
     int lines;
     double least;
@@ -27,7 +27,7 @@ struct InkRoom {
     double height;
 };
 
-/// Sets a title in an em size, page units, if it fits so in no more than some lines.
+/// Sets a title in an em size, page units, if that fits in at most some lines.
 std::optional<TitleBlock> SetIn(const PageDesign& design, const TitleLines& lines,
                                 double em, int most, const InkRoom& room) {
     const std::optional<std::wstring> text =
@@ -45,7 +45,8 @@ std::optional<TitleBlock> SetIn(const PageDesign& design, const TitleLines& line
     const double width = height * double{title.GetAspectRatio()};
     TitleBlock block{*text, em, width + 2.0 * kSpaceBeside * em,
                      height + 2.0 * kSpaceAbove * em};
-    // The pieces of a line are measured one by one, so it may be a little wider.
+    // The pieces of a line are measured separately, so together they may be a little
+    // wider.
     if (!(height > 0.0) || !(width > 0.0) || block.width > room.width * 1.02 ||
         block.height > room.height) {
         return std::nullopt;
@@ -53,7 +54,7 @@ std::optional<TitleBlock> SetIn(const PageDesign& design, const TitleLines& line
     return block;
 }
 
-/// The sizes from the wanted one down to the least that a page sets, in points.
+/// The sizes from the wanted one down to the smallest that a page sets, in points.
 std::vector<double> SizesFrom(double points) {
     std::vector<double> sizes = {points};
     const std::vector<double>& scale = TypeScale();
@@ -80,7 +81,7 @@ std::optional<TitleBlock> SetToFit(const PageDesign& design, const TitleLines& l
             }
         }
     }
-    // One word wider than the sheet, or more lines than it has room for.
+    // One word wider than the sheet, or more lines than fit.
     for (int halves = 1; halves < 4; ++halves) {
         const double points = kLeastSetPoints - halves / 2.0;
         auto block = SetIn(design, lines, UnitsFromPoints(points), 1000,
@@ -116,7 +117,7 @@ std::unique_ptr<CSurroundFrame> PlaceTitle(const PageDesign& design,
     title->SetFrontColor(Gdiplus::Color(kInkColor));
     const double wanted = design.title.points.value_or(measures.title);
     const double points = PointsFromUnits(block.em);
-    // What suits the sheet is as large as it fits, down to half of that.
+    // A title that suits the sheet is as large as fits, down to half of that size.
     if (design.title.points ? points < wanted : points < wanted / 2.0) {
         remarks.push_back("the title is set in " + PointsText(points) +
                           " to fit the page, instead of " + PointsText(wanted));

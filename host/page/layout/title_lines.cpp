@@ -6,21 +6,21 @@
 namespace host {
 namespace {
 
-// Longer ones are no titles, and are not divided.
+// Longer texts are not titles, and are not broken.
 constexpr std::size_t kMostCharacters = 4000;
 
-constexpr double kMeasuredEm = 100.0;  // page units: fine enough for whole ones
-constexpr double kSpace = 0.28;        // em
+constexpr double kMeasuredEm = 100.0;  // page units: large, for whole units
+constexpr double kSpace = 0.28;        // in em
 
 bool IsSpace(wchar_t c) { return c == L' ' || c == L'\t' || c == L'\u3000'; }
 
-/// Those between which a line may end.
+/// Characters between which a line may end.
 bool IsIdeograph(wchar_t c) {
     return (c >= 0x2E80 && c <= 0x9FFF) || (c >= 0xAC00 && c <= 0xD7AF) ||
            (c >= 0xF900 && c <= 0xFAFF) || (c >= 0xFF00 && c <= 0xFFEF);
 }
 
-/// Those that no line begins with.
+/// Characters that never begin a line.
 bool Closes(wchar_t c) {
     constexpr const wchar_t* kClosing =
         L"\u3001\u3002\u3005\u3009\u300B\u300D\u300F\u3011\u3015\u30FC\uFF01\uFF09\uFF0C"
@@ -28,7 +28,7 @@ bool Closes(wchar_t c) {
     return std::wstring(kClosing).find(c) != std::wstring::npos;
 }
 
-/// Those that no line ends with.
+/// Characters that never end a line.
 bool Opens(wchar_t c) {
     constexpr const wchar_t* kOpening = L"\u3008\u300A\u300C\u300E\u3010\u3014\uFF08";
     return std::wstring(kOpening).find(c) != std::wstring::npos;
@@ -122,7 +122,7 @@ std::optional<std::wstring> TitleLines::Within(double width) const {
     if (widest > width) {
         return std::nullopt;
     }
-    // The narrowest width that gives no more lines makes them even.
+    // The narrowest width that needs no more lines makes them even.
     constexpr int kHalvings = 12;
     const std::size_t fewest = Divide(width, nullptr);
     if (fewest == static_cast<std::size_t>(LinesOf(m_text))) {

@@ -8,23 +8,23 @@
 
 namespace host {
 
-/// A title that may be set in several lines. It is divided at spaces and between
-/// ideographs; the lines of the caller's stay.
+/// A title that may be set in several lines. It is broken at spaces and between
+/// ideographs; the caller's line breaks stay.
 class TitleLines {
 public:
     explicit TitleLines(const TitleDesign& design);
 
-    /// The title in as few lines as its width asks for, these as even as can be, divided
-    /// by U+000A. Nothing where one piece alone is wider.
+    /// The title in as few lines as its width requires, as even as possible, separated by
+    /// U+000A. Nothing where a single piece is wider.
     /// @param width in em
     std::optional<std::wstring> Within(double width) const;
 
 private:
     struct Piece {
         std::wstring text;
-        double width;  // em
-        double space;  // em, of the space that follows it in a line
-        bool isLast;   // of its line as the caller has it
+        double width;  // in em
+        double space;  // in em, of the space that follows it in a line
+        bool isLast;   // in the caller's line
     };
 
     std::size_t Divide(double width, std::wstring* lines) const;
