@@ -12,21 +12,21 @@ namespace host {
 /// coordinates.
 class BarMeasure {
 public:
-    /// Lengths on the ground, in metres.
+    /// Distances on the ground, in metres.
     static BarMeasure OfGround(MapGround ground);
 
-    /// Lengths in coordinates.
-    /// @param size metres, or degrees, of one map unit
+    /// Distances in coordinates.
+    /// @param size metres, or degrees, per map unit
     static BarMeasure OfCoordinates(double size);
 
-    /// The length under so many map units in the middle of the map, in metres or degrees;
-    /// none where they reach beyond the Earth.
+    /// The distance covered by some map units in the middle of the map, in metres or
+    /// degrees; nothing where they reach beyond the Earth.
     std::optional<double> Length(double mapUnits) const;
 
-    /// The longest span, of at most so many map units, that can be measured.
+    /// The longest span, up to a number of map units, that can be measured.
     double Reach(double most) const;
 
-    /// The map units over such a length: the way back.
+    /// The map units that cover a distance: the inverse of Length.
     std::optional<double> MapUnits(double length, double most) const;
 
 private:
@@ -38,17 +38,17 @@ private:
 struct BarDivision {
     DistanceUnit unit;
     double value;     ///< in that unit: 1, 2 or 5 times a power of ten
-    double mapUnits;  ///< on the map: a part of the whole bar, which is true as a whole
+    double mapUnits;  ///< of the map; the bar is true as a whole
 };
 
-/// Divisions of a bar that is at most so long: the largest that are round.
+/// The largest round divisions of a bar of limited length.
 /// @param divisions how many of them, at least 1
 /// @param most map units, the whole bar
 /// @return nothing where nothing can be measured
 std::optional<BarDivision> LargestDivision(const BarMeasure& measure, DistanceUnit unit,
                                            int divisions, double most);
 
-/// Divisions of a value that is given, whatever it is.
+/// Divisions of a given value, round or not.
 /// @param value above 0, in the unit
 /// @return nothing where the bar would be longer than `most`
 std::optional<BarDivision> DivisionOfValue(const BarMeasure& measure, DistanceUnit unit,

@@ -9,7 +9,7 @@ namespace {
 constexpr double kFoot = 0.3048;
 constexpr double kMile = 5280.0 * kFoot;
 
-/// The units that a choice by length is between.
+/// The two units of a choice by length.
 struct ByLength {
     DistanceUnit choice;
     DistanceUnit smaller;
@@ -21,7 +21,7 @@ constexpr ByLength kByLength[] = {
     {DistanceUnit::Imperial, DistanceUnit::Foot, DistanceUnit::Mile},
 };
 
-// Rounding leaves a length of 1000 m a hair short of it now and then.
+// Rounding sometimes leaves a length of 1000 m a hair short.
 constexpr double kNearly = 1.0 - 1.0e-12;
 
 }  // namespace

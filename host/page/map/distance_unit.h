@@ -8,7 +8,7 @@
 
 namespace host {
 
-/// What a scale bar counts in. The values are those of page files' choices.
+/// The unit that a scale bar counts in. The values are those of page files' choices.
 enum class DistanceUnit : std::int32_t {
     Metric,    ///< metres or kilometres, by the length of a division
     Imperial,  ///< feet or miles, likewise
@@ -19,18 +19,19 @@ enum class DistanceUnit : std::int32_t {
     Yard,
     Mile,  ///< of 5280 feet
     NauticalMile,
-    Degree,      ///< of a map whose coordinates are degrees; no length on the ground
-    Coordinate,  ///< whatever the map's coordinates count
+    Degree,      ///< for a map in degrees; not a length on the ground
+    Coordinate,  ///< whatever the map's coordinates are in
 };
 
-/// What is known of a unit.
+/// The facts about a unit.
 struct DistanceUnitFacts {
     DistanceUnit unit;
     const char* word;   ///< on the command line and in page files: "us-ft"
-    const char* about;  ///< for people: "US survey feet"
-    /// Metres, of a degree degrees; of a choice by length, those of the smaller unit.
+    const char* about;  ///< in plain words: "US survey feet"
+    /// In metres; for a degree in degrees; for a choice by length, that of the smaller
+    /// unit.
     double size;
-    CommonMeasureUnits type;  ///< what a bar answers when asked for its unit
+    CommonMeasureUnits type;  ///< the unit that a bar reports
 };
 
 /// Every unit, the choices by length first.
@@ -38,7 +39,7 @@ const std::vector<DistanceUnitFacts>& DistanceUnits();
 
 const DistanceUnitFacts& FactsOf(DistanceUnit unit);
 
-/// Whether it is a length, which can be measured on the ground.
+/// Whether it is a unit of length, which can be measured on the ground.
 constexpr bool IsLength(DistanceUnit unit) {
     return unit != DistanceUnit::Degree && unit != DistanceUnit::Coordinate;
 }
@@ -48,9 +49,9 @@ constexpr bool IsByLength(DistanceUnit unit) {
     return unit == DistanceUnit::Metric || unit == DistanceUnit::Imperial;
 }
 
-/// The unit of a division of at most so much, where the unit is a choice by length: the
-/// larger one as soon as a division is one of it. 900 m are metres, 1000 m a kilometre,
-/// 5280 feet a mile.
+/// The unit for divisions of a size, where it is chosen by length: the larger one as soon
+/// as a division measures one of it. 900 m are metres, 1000 m a kilometre, 5280 feet a
+/// mile.
 /// @param size metres; degrees for an angle
 DistanceUnit UnitFor(DistanceUnit unit, double size);
 

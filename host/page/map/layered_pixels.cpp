@@ -80,7 +80,7 @@ void LayOver(const PixelImage& above, int left, int top, PixelImage& below) {
 }
 
 PixelSpan PixelsBetween(double from, double to, int size) {
-    // Far out of the picture, and small enough that differences stay within 32 bits.
+    // Far outside the picture, yet small enough that differences stay within 32 bits.
     static constexpr double kFarthest = 1.0e9;
     const auto edge = [size](double fraction) {
         return static_cast<int>(std::lround(

@@ -24,7 +24,7 @@ bool ReadSystem(const std::string& projection, OGRSpatialReference& system) {
     return !projection.empty() && system.importFromWkt(projection.c_str()) == OGRERR_NONE;
 }
 
-/// The point elsewhere; none where the transformation does not reach.
+/// The transformed point; nothing where the transformation is not valid.
 std::optional<MapPoint> Transformed(OGRCoordinateTransformation& way, MapPoint point) {
     if (way.Transform(1, &point.x, &point.y) == 0 || !std::isfinite(point.x) ||
         !std::isfinite(point.y)) {
@@ -35,10 +35,10 @@ std::optional<MapPoint> Transformed(OGRCoordinateTransformation& way, MapPoint p
 
 }  // namespace
 
-/// The ellipsoid under a map, and the way there and back.
+/// The ellipsoid under a map, with the transformations to it and back.
 class MapGround::Ellipsoid {
 public:
-    /// The same one as long as the same is asked for, as of one page: to make one takes
+    /// Kept for as long as the same system is asked for, as on one page: making one takes
     /// milliseconds.
     static std::shared_ptr<const Ellipsoid> Of(const std::string& projection) {
         struct Last {
@@ -46,7 +46,7 @@ public:
             std::string projection;
             std::shared_ptr<const Ellipsoid> ellipsoid;
         };
-        // Never gone: at the end of a process, what it needs of PROJ may be already.
+        // Never destroyed: at exit, what it needs of PROJ may already be gone.
         static Last& last = *new Last;
         const std::lock_guard<std::mutex> lock(last.mutex);
         if (last.ellipsoid == nullptr || last.projection != projection) {
@@ -69,7 +69,7 @@ public:
                               place.latitude / m_degreesPerUnit});
     }
 
-    /// The place that many metres due north.
+    /// The place a number of metres due north.
     MapPlace NorthOf(const MapPlace& place, double metres) const {
         MapPlace north = {};
         geod_direct(&m_geodesic, place.latitude, place.longitude, 0.0, metres,
@@ -77,7 +77,7 @@ public:
         return north;
     }
 
-    /// The metres along the geodesic between what lies under two points.
+    /// The metres along the geodesic between the places under two points.
     std::optional<double> Distance(MapPoint a, MapPoint b) const {
         const std::optional<MapPlace> from = PlaceOf(a);
         const std::optional<MapPlace> to = PlaceOf(b);
@@ -119,7 +119,7 @@ private:
         return ellipsoid;
     }
 
-    /// One thread at a time goes there or back.
+    /// One thread at a time transforms.
     std::optional<MapPoint> Way(OGRCoordinateTransformation& way, MapPoint point) const {
         const std::lock_guard<std::mutex> lock(m_mutex);
         return Transformed(way, point);
@@ -169,7 +169,7 @@ std::optional<MapPlace> MapGround::PlaceAt(const std::string& projection, double
         std::fabs(place->longitude) > 720.0) {
         return std::nullopt;
     }
-    // 180 degrees west is 180 degrees west, and not east.
+    // 180 degrees west must not come out as east.
     if (std::fabs(place->longitude) > 180.0 + kBeyondEarth) {
         place->longitude = std::remainder(place->longitude, 360.0);
     }
@@ -178,7 +178,7 @@ std::optional<MapPlace> MapGround::PlaceAt(const std::string& projection, double
 
 std::optional<double> MapGround::TrueNorth() const {
     constexpr double kStep = 10.0;  // metres, short enough for meridians to be straight
-    // Both points go the same way there and back, so that what that loses cancels out.
+    // Both points are transformed there and back, so that the losses cancel out.
     const std::optional<MapPlace> place = m_ellipsoid->PlaceOf({m_x, m_y});
     const std::optional<MapPoint> here = m_ellipsoid->PointOf(*place);
     const std::optional<MapPoint> north =

@@ -11,8 +11,8 @@
 namespace host {
 namespace {
 
-/// A raster with its rows from west to east, or from east to west; as it is where it has
-/// no georeference, or where `why` says that it cannot be.
+/// A raster resampled to rows that run along the x axis; unchanged where it has no
+/// georeference, or where `why` says that it cannot be.
 std::shared_ptr<GdalRaster> Straight(std::shared_ptr<GdalRaster> raster,
                                      std::string& why) {
     if (!IsGeoreferenced(*raster) || !IsTurned(*raster)) {
@@ -26,7 +26,7 @@ std::shared_ptr<GdalRaster> Straight(std::shared_ptr<GdalRaster> raster,
     }
 }
 
-/// A map edge where all rasters end, or where the first ends when that is nearly there.
+/// A map edge: where all rasters end, or where the first ends if that is nearly the same.
 double MapEdge(double ofAll, double ofFirst, double firstLength) {
     return std::fabs(ofAll - ofFirst) <= firstLength / 100.0 ? ofFirst : ofAll;
 }
@@ -126,7 +126,7 @@ std::vector<std::string> MapLayers::Remarks() const {
     return remarks;
 }
 
-/// Keeps of each raster the pixels that show, so that no others are read.
+/// Keeps only the pixels of each raster that show, so that no others are read.
 void MapLayers::CutTo(const Box& extent) {
     m_extent = extent;
     std::vector<Layer> whole;

@@ -4,7 +4,7 @@
 
 namespace host {
 
-/// What a map frame shows, at any size.
+/// The picture in a map frame, at any size.
 class MapPicture {
 public:
     MapPicture() = default;

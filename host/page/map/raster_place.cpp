@@ -13,7 +13,7 @@ namespace {
 
 using SpatialReference = std::unique_ptr<OGRSpatialReference>;
 
-/// Coordinates in the usual order of maps: east before north. Null for no valid WKT.
+/// With coordinates in the usual order of maps: east before north. Null for invalid WKT.
 SpatialReference SystemOf(const GdalRaster& raster) {
     auto system = std::make_unique<OGRSpatialReference>();
     system->SetAxisMappingStrategy(OAMS_TRADITIONAL_GIS_ORDER);
@@ -22,8 +22,8 @@ SpatialReference SystemOf(const GdalRaster& raster) {
                : nullptr;
 }
 
-/// Whether the corners of a raster keep their coordinates in another system, to half a
-/// pixel. So systems that say the same in different words count as one.
+/// Whether a raster's corners keep their coordinates in another system, to half a pixel,
+/// so that one system in different words counts as the same.
 bool KeepsItsPlace(const Box& extent, double pixelSize, const OGRSpatialReference& own,
                    const OGRSpatialReference& other) {
     const std::unique_ptr<OGRCoordinateTransformation> transformation(
@@ -69,8 +69,8 @@ struct Run {
     int count;
 };
 
-/// The pixels or lines of a raster, the first at `origin` and each a `step`, that a
-/// length of the map touches; none where it passes the raster by.
+/// The pixels or lines of a raster, the first at `origin` and each a `step` long, that an
+/// interval of the map touches; none where it misses the raster.
 Run TouchedBy(double low, double high, double origin, double step, int count) {
     const auto [first, last] =
         std::minmax({(low - origin) / step, (high - origin) / step});

@@ -10,21 +10,19 @@ namespace host {
 /// Whether a raster's pixels have map coordinates.
 bool IsGeoreferenced(const GdalRaster& raster);
 
-/// Whether the rows of a georeferenced raster do not run from west to east, or from east
-/// to west.
+/// Whether the rows of a georeferenced raster run along neither east nor west.
 bool IsTurned(const GdalRaster& raster);
 
-/// What a raster that is not turned spans, in map coordinates.
+/// The extent of a raster that is not rotated, in map coordinates.
 Box ExtentOf(const GdalRaster& raster);
 
-/// The pixels of a raster that is not turned which a part of the map touches; no columns
-/// or no rows where it passes the raster by.
+/// The pixels of an unrotated raster that a part of the map touches; no columns or no
+/// rows where it misses the raster.
 GdalRaster::Window WindowIn(const Box& extent, const GdalRaster& raster);
 
-/// Why a raster that is not turned cannot be laid under or over the first one; empty when
-/// it can. Their coordinate systems are the same when the raster's corners have, to half
-/// a pixel, the same coordinates in both, however they are worded; unknown is the same as
-/// unknown.
+/// Why an unrotated raster cannot be laid over or under the first one; empty when it can.
+/// Coordinate systems are the same when the raster's corners have the same coordinates in
+/// both, to half a pixel, however they are worded; unknown is the same as unknown.
 std::string WhyNotPlaced(const GdalRaster& raster, const GdalRaster& first);
 
 }  // namespace host

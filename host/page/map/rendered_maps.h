@@ -8,19 +8,18 @@
 
 namespace host {
 
-/// Gives a map's picture at a size in pixels, as MapPicture::Render does.
+/// Renders a map's picture at a size in pixels, as MapPicture::Render does.
 using RenderMap =
     std::function<PixelImage(MapPicture&, int width, int height, const Progress&)>;
 
-/// Maps as they were last rendered, so that a page can be drawn again without reading
-/// its rasters.
+/// Maps as last rendered, so that a page can be redrawn without reading its rasters.
 class RenderedMaps {
 public:
-    /// @param render how maps are rendered; by themselves where there is none
+    /// @param render how maps are rendered; by default they render themselves
     explicit RenderedMaps(RenderMap render = {}) : m_render(std::move(render)) {}
 
-    /// A map's picture at a size in pixels: as it was rendered when that was its size
-    /// then, else rendered now. Throws what rendering throws.
+    /// A map's picture at a size in pixels: the last rendering if it has that size, else
+    /// a new one. Throws what rendering throws.
     PixelImage& Of(MapPicture& picture, int width, int height, const Progress& progress) {
         PixelImage& image = m_images[&picture];
         if (image.width != width || image.height != height) {

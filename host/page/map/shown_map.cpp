@@ -9,7 +9,7 @@ namespace {
 
 constexpr double kMetresPerPageUnit = 1.0 / (kUnitsPerInch * kInchesPerMetre);
 
-// The part of a map's width over which its scale is measured without a bar.
+// The share of a map's width over which its scale is measured without a bar.
 constexpr double kSpan = 0.25;
 
 }  // namespace

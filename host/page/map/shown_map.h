@@ -18,31 +18,29 @@ struct ShownMap {
     double MapUnitsPerPageUnit() const { return extent.Width() / width; }
 };
 
-/// The scale's denominator: 25 000 where a centimetre on paper is 250 m on the ground.
-/// Measured over a span of the map as a bar of that length is, and over a quarter of the
-/// map's width where there is none: so bar and figure agree.
+/// The scale's denominator: 25 000 where a centimetre on paper is 250 m on the ground. It
+/// is measured over the same span of the map as a bar of that length, or else over a
+/// quarter of the map's width, so that bar and figures agree.
 /// @param span page units; 0 for no bar
-/// @return nothing where the coordinate system is unknown, or does not reach
+/// @return nothing where the coordinate system is unknown, or not valid
 std::optional<double> ScaleOf(const ShownMap& map, double span = 0.0);
 
-/// What a map of a frame's size shows at a scale, with the middle of an extent in its
-/// own.
+/// The extent that a frame shows at a scale, centred on the middle of another.
 /// @param scale its denominator
 /// @param width,height of the frame, page units
-/// @return nothing where the coordinate system is unknown, or does not reach
+/// @return nothing where the coordinate system is unknown, or not valid
 std::optional<Box> ExtentAtScale(const std::string& projection, const Box& around,
                                  double scale, double width, double height);
 
 /// What a scale bar on a page measures.
 enum class BarDistances : std::int32_t {
-    Fixed,   ///< what it was told to
+    Fixed,   ///< a fixed distance
     Map,     ///< the coordinates of the map on the page
     Ground,  ///< the ground in the middle of that map, along the ellipsoid
 };
 
-/// The unit that a bar counts in where nobody chooses: metres or kilometres, feet or
-/// miles where the coordinates are feet, degrees of a map in degrees whose coordinates
-/// are measured.
+/// A bar's default unit: metres or kilometres; feet or miles where the coordinates are
+/// feet; degrees for a map in degrees whose coordinates are measured.
 DistanceUnit UsualUnit(const std::string& projection, BarDistances distances);
 
 /// How a bar in a unit is measured. Degrees and coordinates are always the map's own.
