@@ -18,7 +18,7 @@ using FileOfImage = std::vector<std::uint8_t>;
 
 constexpr int kJpegQuality = 90;
 
-/// The bytes of a file that a surface may stand as in what is written.
+/// The encoded file that represents a surface in the output.
 void StandAs(cairo_surface_t* image, const char* kind, FileOfImage file) {
     auto kept = std::make_unique<FileOfImage>(std::move(file));
     const auto drop = [](void* bytes) { delete static_cast<FileOfImage*>(bytes); };
@@ -36,7 +36,7 @@ bool IsOpaqueImage(const PixelImage& image) {
     return alphas == 255;
 }
 
-/// The alphas alone, in rows as Cairo has them.
+/// The alphas alone, in Cairo's row layout.
 std::vector<std::uint8_t> AlphasOf(const PixelImage& image) {
     const int stride = cairo_format_stride_for_width(CAIRO_FORMAT_A8, image.width);
     std::vector<std::uint8_t> alphas(static_cast<std::size_t>(stride) *
@@ -52,7 +52,7 @@ std::vector<std::uint8_t> AlphasOf(const PixelImage& image) {
     return alphas;
 }
 
-/// As Cairo has colours that are partly transparent.
+/// Partly transparent colours as Cairo keeps them.
 void Premultiply(PixelImage& image) {
     for (std::size_t i = 0; i < image.bgra.size(); i += 4) {
         const unsigned alpha = image.bgra[i + 3];
@@ -79,7 +79,7 @@ void DrawMapImage(cairo_surface_t* surface, const MapFrame& map, const CRect& fr
                             std::max(1, frame.bottom - frame.top), progress);
     const cairo_surface_type_t kind = cairo_surface_get_type(surface);
     const bool isOpaque = IsOpaqueImage(image);
-    // PostScript has masks of ink or none only, and would get pixels of all around.
+    // PostScript has only one-bit masks, and would get JPEG pixels outside them.
     const bool isJpeg =
         images == MapImages::Jpeg && (isOpaque || kind != CAIRO_SURFACE_TYPE_PS);
     if (!isOpaque && !isJpeg) {

@@ -8,11 +8,11 @@
 
 namespace host {
 
-/// Draws what a map shows on a surface whose unit is a point, as one image of its frame's
-/// size in pixels, pixel for pixel. Nothing is smoothed, however closely a viewer looks.
-/// What is transparent stays so. Throws what the map's picture throws.
+/// Draws a map's picture on a surface whose unit is a point, as one image of its frame's
+/// size in pixels, pixel for pixel. Nothing is smoothed, however closely a viewer zooms
+/// in. Transparent parts stay transparent. Throws what the map's picture throws.
 /// @param frame pixels of the page
-/// @param dpi pixels an inch
+/// @param dpi pixels per inch
 void DrawMapImage(cairo_surface_t* surface, const MapFrame& map, const CRect& frame,
                   double dpi, MapImages images, const Progress& progress);
 

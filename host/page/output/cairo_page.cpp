@@ -11,8 +11,8 @@
 namespace host {
 namespace {
 
-/// Begins a tag, and ends it however drawing goes: a surface with one that is open is
-/// lost.
+/// Begins a tag, and ends it however drawing goes: a surface with an open tag cannot be
+/// used.
 class Tag {
 public:
     explicit Tag(cairo_t* cairo) : m_cairo(cairo) {

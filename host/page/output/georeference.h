@@ -11,29 +11,30 @@
 
 namespace host {
 
-/// A map as it lies on a page, in its own coordinates.
+/// A map on a page, with its own coordinates.
 struct GeoreferencedMap {
-    std::string name;             ///< what people call it; UTF-8
-    CRect pixels;                 ///< of the page, that its frame takes up
-    Box extent;                   ///< what it shows, in map units
+    std::string name;             ///< the frame's name; UTF-8
+    CRect pixels;                 ///< of the page, taken up by its frame
+    Box extent;                   ///< the part shown, in map units
     std::string projection = {};  ///< as WKT; empty when unknown
 };
 
 /// The maps of a page that have coordinates, in drawing order.
-/// @param dpi pixels an inch of the page
+/// @param dpi the page's pixels per inch
 std::vector<GeoreferencedMap> GeoreferencedMaps(const Page& page, double dpi);
 
-/// The coordinates of a picture's pixels.
+/// The coordinates of an image's pixels.
 struct Georeference {
-    /// As GDAL has it: x = transform[0] + column * transform[1] + row * transform[2], and
-    /// y likewise with the others. Of a map from (500000, 9000000), at 30 map units a
-    /// pixel, that begins in column 100 and row 50: 497000, 30, 0, 9001500, 0, -30.
+    /// GDAL's coefficients: x = transform[0] + column * transform[1] + row *
+    /// transform[2], and y likewise with the others. For a map from (500000, 9000000), at
+    /// 30 map units per pixel, that begins in column 100 and row 50: 497000, 30, 0,
+    /// 9001500, 0, -30.
     std::array<double, 6> transform{};
     std::string projection = {};  ///< as WKT; empty when unknown
 };
 
 /// The coordinates of a page's pixels, which are those of its only map.
-/// @param why set where there are none: "the page has 2 maps"
+/// @param why set when there are none: "the page has 2 maps"
 std::optional<Georeference> GeoreferenceOf(const Page& page, double dpi,
                                            std::string& why);
 

@@ -53,8 +53,8 @@ std::vector<std::uint8_t> Saved(Gdiplus::Bitmap& image, OutputFormat format,
 
 std::vector<std::uint8_t> Encode(PageImage& image, OutputFormat format, double dpi,
                                  const std::optional<Georeference>& georeference) {
-    // GDI+ writes PNG files too, but takes three times as long; and TIFF files, without a
-    // resolution, unpacked, and with an alpha.
+    // GDI+ also writes PNG, but takes three times as long; and TIFF, but without a
+    // resolution, uncompressed, and with an alpha band.
     if (format == OutputFormat::Png) {
         return EncodePng(image.Rows(), dpi);
     }

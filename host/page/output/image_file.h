@@ -9,8 +9,8 @@
 
 namespace host {
 
-/// The bytes of an image file of a format that is not for print. All record the
-/// resolution, JPEG in whole dots an inch; TIFF files their coordinates.
+/// The bytes of an image file, in a format that is not for print. All record the
+/// resolution, JPEG in whole dots per inch; TIFF files record their coordinates.
 ///
 /// Encoded in memory, because GDI+ reports Ok for some formats when the disk is full.
 /// Throws std::runtime_error with the reason when it cannot be encoded.

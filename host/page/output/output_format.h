@@ -4,15 +4,15 @@
 
 namespace host {
 
-/// What a page can be drawn into: images, and files for printers and their programs, in
-/// which texts and shapes are no pixels.
+/// The formats that a page can be drawn in: images, and files for print, in which texts
+/// and shapes are not pixels.
 enum class OutputFormat { Png, Jpeg, Bmp, Tiff, PostScript, Pdf, Svg };
 
-/// The format that a file name's ending stands for, in any case: "a/Page.TIFF". Throws
-/// std::runtime_error that lists the endings for any other.
+/// The format for a file name's ending, in any case: "a/Page.TIFF". For any other ending
+/// throws std::runtime_error that lists them.
 OutputFormat OutputFormatOf(const std::string& path);
 
-/// Whether it is for print and not an image.
+/// Whether it is a format for print, not an image.
 bool IsForPrint(OutputFormat format);
 
 }  // namespace host

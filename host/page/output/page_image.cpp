@@ -17,7 +17,7 @@ std::size_t SizeInBytes(Gdiplus::Size size) {
 
 }  // namespace
 
-// Not filled with zeros: the page paints its paper first of all.
+// Not zeroed: the page begins by painting its paper.
 PageImage::PageImage(Gdiplus::Size size)
     : m_size(size),
       m_pixels(new std::uint8_t[SizeInBytes(size)]),

@@ -9,11 +9,11 @@
 
 namespace host {
 
-/// The pixels of a page: GDI+ draws on them, and they are read where they lie, since a
-/// copy of a large page takes as long as drawing it.
+/// The pixels of a page: GDI+ draws on them, and they are read in place, since copying a
+/// large page takes as long as drawing it.
 ///
-/// Opaque, and undefined until something is drawn. Throws std::bad_alloc when there is no
-/// memory for it.
+/// Opaque, and undefined until something is drawn. Throws std::bad_alloc when memory runs
+/// out.
 class PageImage {
 public:
     /// @param size pixels, at least 1 x 1

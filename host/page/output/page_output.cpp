@@ -15,7 +15,7 @@
 namespace host {
 namespace {
 
-// Cairo draws on surfaces of at most 32767 pixels a side.
+// Cairo draws on surfaces of at most 32767 pixels along a side.
 constexpr int kLongestImageSide = 32767;
 constexpr std::int64_t kMostImagePixels = 250'000'000;
 
@@ -66,7 +66,7 @@ std::vector<std::uint8_t> EncodePage(const Page& page, OutputFormat format, doub
     if (encoding) {
         encoding();
     }
-    std::string why;  // without coordinates it is a picture alone
+    std::string why;  // without coordinates it is just an image
     return Encode(
         image, format, dpi,
         format == OutputFormat::Tiff ? GeoreferenceOf(page, dpi, why) : std::nullopt);

@@ -11,12 +11,12 @@
 
 namespace host {
 
-/// Throws std::runtime_error where a page has too many pixels to be drawn at the
-/// resolution. A0 at 400 dpi, 248 million, can be.
+/// Throws std::runtime_error if a page has too many pixels to be drawn at the resolution.
+/// A0 at 400 dpi, 248 million, is possible.
 void CheckPageSize(const Page& page, double dpi);
 
-/// The bytes of the file that a page is drawn into. Throws what the page's drawing
-/// throws, and std::runtime_error with the reason when it cannot be encoded.
+/// The bytes of the file that shows a page. Throws what drawing the page throws, and
+/// std::runtime_error with the reason when it cannot be encoded.
 /// @param encoding called between drawing the page and encoding it
 /// @param print how formats for print are written
 std::vector<std::uint8_t> EncodePage(const Page& page, OutputFormat format, double dpi,

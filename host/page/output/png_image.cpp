@@ -19,16 +19,16 @@ namespace {
 constexpr std::size_t kBytesRead = 4;
 constexpr std::size_t kBytesWritten = 3;
 
-// Of zlib's levels and PNG's filters the pair that writes a page fastest while the file
-// stays within a tenth of what higher levels reach: paper is the same from row to row.
+// The combination of zlib level and PNG filter that writes a page fastest, with a file
+// within a tenth of the size at higher levels: paper is the same from row to row.
 constexpr int kLevel = 1;
 constexpr int kFilter = PNG_FILTER_UP;
 
 constexpr std::size_t kFirstRoom = 1 << 16;
 
-// libpng leaves on an error by jumping. What it jumps over here has no destructors.
+// libpng leaves by a long jump on an error. What is skipped here has no destructors.
 
-/// The file as far as it is written.
+/// The part of the file written so far.
 struct PngBytes {
     std::uint8_t* bytes = nullptr;
     std::size_t size = 0;
@@ -59,7 +59,7 @@ void AppendBytes(png_structp png, png_bytep bytes, png_size_t count) {
     file.size += count;
 }
 
-/// Blue, green, red, unused to red, green, blue.
+/// From blue, green, red, unused to red, green, blue.
 void Reorder(const std::uint8_t* from, int width, std::uint8_t* row) {
     for (int x = 0; x < width; ++x) {
         row[0] = from[2];

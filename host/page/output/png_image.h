@@ -15,10 +15,10 @@ struct PixelRows {
 };
 
 /// The bytes of a PNG file of opaque colours that records its resolution: 150 dpi are
-/// 5906 pixels a metre.
+/// 5906 pixels per metre.
 ///
-/// Made for pages, which are large and mostly paper: quick to write rather than as small
-/// as can be. Throws std::runtime_error with the reason.
+/// Made for pages, which are large and mostly paper: fast to write rather than as small
+/// as possible. Throws std::runtime_error with the reason.
 std::vector<std::uint8_t> EncodePng(const PixelRows& pixels, double dpi);
 
 }  // namespace host

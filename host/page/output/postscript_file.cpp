@@ -18,8 +18,8 @@ namespace {
 
 using Bytes = std::vector<std::uint8_t>;
 
-/// The title as a comment has it, a line of at most 255 characters of ASCII; none for one
-/// that cannot be written so.
+/// The title as a comment, a line of at most 255 ASCII characters; empty for a title that
+/// cannot be written so.
 std::string TitleLine(const std::string& title) {
     constexpr std::size_t kMost = 200;
     const bool isPlain = std::all_of(title.begin(), title.end(),
@@ -28,7 +28,7 @@ std::string TitleLine(const std::string& title) {
                                                               : "";
 }
 
-/// What the comments are told of a page.
+/// What the comments say about a page.
 struct Told {
     double width;
     double height;
@@ -37,10 +37,10 @@ struct Told {
 
 std::string Number(double number) {
     char text[32];
-    // Never in another notation: a page has at most 5 digits of points.
+    // Never in scientific notation: a page has at most 5 digits of points.
     std::snprintf(text, sizeof text, "%.6f", number);
     for (char& c : text) {
-        c = c == ',' ? '.' : c;  // whatever the locale
+        c = c == ',' ? '.' : c;  // in any locale
     }
     return text;
 }
@@ -49,8 +49,8 @@ std::string Whole(double number) {
     return std::to_string(static_cast<long>(std::ceil(number)));
 }
 
-/// What stands in place of a line that tells the size of what was drawn, where the page
-/// may be larger; the line itself if it is another, with its end.
+/// Replaces a line that gives the size of what was drawn, since the page may be larger;
+/// returns any other line unchanged, with its end.
 std::string InPlaceOf(std::string_view line, const Told& told) {
     const auto [width, height, title] = told;
     const auto begins = [line](std::string_view with) {
@@ -59,7 +59,7 @@ std::string InPlaceOf(std::string_view line, const Told& told) {
     const std::string size = Number(width) + " " + Number(height);
     const std::string box = "0 0 " + Whole(width) + " " + Whole(height);
     if (begins("%%CreationDate:")) {
-        // The same page gives the same file.
+        // A date would make the file differ each time.
         return TitleLine(title);
     }
     if (begins("%%DocumentMedia:")) {
@@ -76,15 +76,15 @@ std::string InPlaceOf(std::string_view line, const Told& told) {
     }
     constexpr std::string_view sets = " cairo_set_page_size";
     if (line.size() > sets.size() && line.substr(line.size() - sets.size()) == sets) {
-        // Cairo drew on a page of whole points, from its top.
+        // Cairo drew from the top of a page of whole points.
         return size + std::string(sets) + "\n0 " + Number(height - std::ceil(height)) +
                " translate\n";
     }
     return std::string(line) + "\n";
 }
 
-/// Tells the page's title and true size in the comments and in the page's set-up: between
-/// the two stand only what the pages share, and after them the page.
+/// Writes the page's title and true size into the comments and the page's set-up: between
+/// the two stand only shared definitions, and after them the page.
 Bytes Telling(const Told& told, const Bytes& file) {
     const std::string_view text(reinterpret_cast<const char*>(file.data()), file.size());
     const std::size_t comments = text.find("\n%%EndComments");

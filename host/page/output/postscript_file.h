@@ -9,9 +9,9 @@
 namespace host {
 
 /// The bytes of a PostScript file with the page in its true size: shapes stay shapes and
-/// texts texts; maps are images without loss. The same page gives the same bytes. Throws
+/// text stays text; maps are lossless images. The same page gives the same bytes. Throws
 /// as DrawOnCairo does.
-/// @param dpi the resolution of maps: an A4 page is 842 x 595 points at any
+/// @param dpi the resolution of maps: an A4 page is always 842 x 595 points
 std::vector<std::uint8_t> EncodePostScript(const Page& page, double dpi,
                                            const Progress& progress = {},
                                            const PrintSettings& print = {});

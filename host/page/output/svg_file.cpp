@@ -16,7 +16,7 @@
 namespace host {
 namespace {
 
-/// Whether a line fills a rectangle whose sides are those of the page.
+/// Whether a line fills a rectangle whose sides are parallel to the page's.
 bool FillsUprightRectangle(std::string_view line) {
     constexpr std::string_view kFill = "<path style=\" stroke:none;";
     constexpr std::string_view kOutline = " d=\"M ";
@@ -38,7 +38,7 @@ bool FillsUprightRectangle(std::string_view line) {
            (isAcrossFirst || isDownFirst);
 }
 
-/// What stands for the map, the scale bar and others, a line each.
+/// The words for the map, the scale bar and other figures, one line each.
 std::string FiguresOf(const PageWords& words) {
     std::string lines;
     for (const SpokenItem& item : words.items) {
@@ -49,9 +49,9 @@ std::string FiguresOf(const PageWords& words) {
     return lines;
 }
 
-/// What Cairo does not write: what the page is called, its language, its words, what
-/// stands for its figures, and that rectangles have sharp sides. The strips of a grey
-/// ramp, each finer than a pixel, would let the paper shine through.
+/// Adds what Cairo does not write: the page's title, its language, its words, those for
+/// its figures, and sharp edges for rectangles. Otherwise the strips of a grey ramp, each
+/// finer than a pixel, would let the paper shine through.
 std::vector<std::uint8_t> WithWords(const std::vector<std::uint8_t>& draft,
                                     const PageWords& words, const std::string& texts) {
     const std::string_view text(reinterpret_cast<const char*>(draft.data()),

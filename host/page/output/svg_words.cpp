@@ -39,7 +39,7 @@ void SvgWords::ListenTo(Gdiplus::CairoGraphics& graphics) {
 
 void SvgWords::Add(const Gdiplus::CairoLine& line) {
     const cairo_matrix_t& m = line.matrix;
-    // In points, so that numbers are as fine at every resolution.
+    // In points, for the same precision at every resolution.
     const double enlarged = std::hypot(m.xx, m.yx);
     if (!(enlarged > 0.0) || !(line.width > 0.0)) {
         return;

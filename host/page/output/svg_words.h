@@ -6,14 +6,14 @@
 
 namespace host {
 
-/// The lines of text of a page, in the order in which they are drawn, for its SVG file.
+/// The lines of text of a page, in drawing order, for its SVG file.
 class SvgWords {
 public:
-    /// Takes note of what is drawn on a surface from now on, as long as both live.
+    /// Records what is drawn on a surface from now on, as long as both live.
     void ListenTo(Gdiplus::CairoGraphics& graphics);
 
-    /// The lines as SVG texts that are not seen: each where it was drawn, and stretched
-    /// to its width in whatever font the viewer has.
+    /// The lines as invisible SVG texts: each where it was drawn, and stretched to its
+    /// width in whatever font the viewer has.
     const std::string& Texts() const { return m_texts; }
 
 private:
@@ -22,7 +22,7 @@ private:
     std::string m_texts;
 };
 
-/// A text as XML has it.
+/// A text escaped for XML.
 std::string EscapedXml(const std::string& text);
 
 }  // namespace host

@@ -14,7 +14,7 @@
 namespace host {
 namespace {
 
-/// A file in GDAL's memory, gone with this object.
+/// A file in GDAL's memory, removed with this object.
 class GdalFile {
 public:
     GdalFile() = default;
@@ -38,7 +38,7 @@ public:
     }
 };
 
-/// Paper is the same from pixel to pixel, so differences pack well, at any level.
+/// Paper is the same from pixel to pixel, so differences compress well, at any level.
 constexpr const char* kPacked[] = {
     "COMPRESS=DEFLATE", "PREDICTOR=2",     "ZLEVEL=1", "BLOCKYSIZE=64",
     "INTERLEAVE=PIXEL", "PHOTOMETRIC=RGB", nullptr};
@@ -63,7 +63,7 @@ void Write(const PixelRows& pixels, double dpi,
     const std::string density = NumberText(dpi);
     file->SetMetadataItem("TIFFTAG_XRESOLUTION", density.c_str());
     file->SetMetadataItem("TIFFTAG_YRESOLUTION", density.c_str());
-    file->SetMetadataItem("TIFFTAG_RESOLUTIONUNIT", "2");  // an inch
+    file->SetMetadataItem("TIFFTAG_RESOLUTIONUNIT", "2");  // inches
     if (georeference) {
         TellPlace(*file, *georeference);
     }

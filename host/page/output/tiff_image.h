@@ -9,8 +9,8 @@
 
 namespace host {
 
-/// The bytes of a TIFF file, RGB without alpha, packed without loss, that records the
-/// resolution in dots an inch, and is a GeoTIFF where it has coordinates. Throws
+/// The bytes of a TIFF file, RGB without alpha, losslessly compressed, that records the
+/// resolution in dots per inch, and is a GeoTIFF where it has coordinates. Throws
 /// std::runtime_error with the reason.
 std::vector<std::uint8_t> EncodeTiff(
     const PixelRows& pixels, double dpi,

@@ -17,9 +17,9 @@
 namespace host {
 namespace {
 
-/// The bytes of an ICC profile of sRGB, the same at all times.
+/// The bytes of an ICC profile of sRGB, always the same.
 std::string StandardColours() {
-    constexpr double kVersion = 4.2;  // the latest that PDF/A-2 takes
+    constexpr double kVersion = 4.2;  // the latest that PDF/A-2 allows
     constexpr std::size_t kDate = 24;
     constexpr std::size_t kDateBytes = 12;
     const std::unique_ptr<std::remove_pointer_t<cmsHPROFILE>, int (*)(cmsHPROFILE)>
@@ -36,7 +36,7 @@ std::string StandardColours() {
         size < kDate + kDateBytes) {
         throw std::runtime_error("no profile of colours can be made");
     }
-    // Made on the first of January 2000.
+    // Dated the first of January 2000.
     const unsigned char date[kDateBytes] = {0x07, 0xD0, 0, 1, 0, 1};
     std::copy(std::begin(date), std::end(date), bytes.begin() + kDate);
     return bytes;

@@ -5,13 +5,13 @@
 
 namespace host {
 
-// What PDF/A-2u asks for beyond PDF/UA-1.
+// The requirements of PDF/A-2u beyond PDF/UA-1.
 
-/// Throws NamedError for the first item with a character that no font has: the box in its
-/// place is no text.
+/// Throws NamedError for the first item with a character that no font has: a box in its
+/// place is not text.
 void CheckForArchive(const Page& page);
 
-/// Says what the colours of a file are, those of sRGB.
+/// Declares the colours of a file to be sRGB.
 void AddColours(PdfObjects& objects, QPDFObjectHandle catalogue);
 
 }  // namespace host

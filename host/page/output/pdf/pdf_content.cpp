@@ -28,7 +28,7 @@ public:
         }
         const std::string name = object.getOperatorValue();
         if (name == "BDC" && !m_isNumbered) {
-            ++m_spans;  // of a text, within a tag
+            ++m_spans;  // a text's span, within a tag
         } else if (name == "EMC" && m_spans > 0) {
             --m_spans;
         } else if (name == "BDC") {
@@ -72,10 +72,10 @@ private:
     const std::string& m_content;
     const std::vector<std::string>& m_tags;
     std::string m_text;
-    std::size_t m_copied = 0;                    // of the content
-    std::size_t m_operands = std::string::npos;  // where those of an operator begin
-    bool m_isNumbered = false;                   // the last operand
-    std::size_t m_spans = 0;                     // that are open
+    std::size_t m_copied = 0;                    // up to here in the content
+    std::size_t m_operands = std::string::npos;  // where an operator's operands begin
+    bool m_isNumbered = false;                   // whether the last operand was
+    std::size_t m_spans = 0;                     // open spans
     std::size_t m_count = 0;                     // tags so far
     bool m_paints = false;                       // since the last one
 };

@@ -13,7 +13,7 @@ namespace {
 
 using Handle = QPDFObjectHandle;
 
-/// A sum of what comes by.
+/// A checksum of what passes through.
 class Sum : public Pipeline {
 public:
     explicit Sum(const std::string& begin)
@@ -91,7 +91,7 @@ Handle PdfDraft::Copied(Handle object) {
             object.isStream() ? Written(object) : m_objects.Write(Value(object));
         m_file.replaceObject(object.getObjGen(), Handle::newNull());
     } else if (copy->second == 0) {
-        throw std::runtime_error("the PDF file cannot be copied");  // a part of itself
+        throw std::runtime_error("the PDF file cannot be copied");  // contains itself
     }
     return PdfObjects::Reference(copy->second);
 }
@@ -112,7 +112,7 @@ Handle PdfDraft::Value(Handle object) {
         copy.replaceKey(key, Copied(value));
     }
     if (copy.getKey("/Subtype").isNameAndEquals("/CIDFontType2")) {
-        // Cairo takes for granted that characters are numbered as glyphs.
+        // Cairo assumes that characters have the numbers of their glyphs.
         copy.replaceKey("/CIDToGIDMap", Handle::newName("/Identity"));
     }
     return copy;

@@ -11,12 +11,12 @@
 
 namespace host {
 
-/// A file that Cairo wrote, of which pages go into another: what they refer to is copied
-/// once, and so are images that are drawn on many pages. An object is gone from memory
-/// when it has been copied.
+/// A file that Cairo wrote, whose pages go into another: what they refer to is copied
+/// once, and so are images that are drawn on many pages. An object is dropped from memory
+/// once copied.
 class PdfDraft {
 public:
-    /// Throws std::runtime_error where there is no such file.
+    /// Throws std::runtime_error if it is not a PDF file.
     /// @param descriptor not owned, read from its beginning
     /// @param objects of the other file
     PdfDraft(int descriptor, PdfObjects& objects, PdfStandard standard);
@@ -26,15 +26,15 @@ public:
 
     std::size_t PageCount() const { return m_pages.size(); }
 
-    /// The content of a page, and a copy of all else that belongs to the page itself:
-    /// what was its place among others is left out.
+    /// The content of a page, and a copy of everything else that belongs to it, except
+    /// its place among the pages.
     struct PageCopy {
         QPDFObjectHandle content;
         QPDFObjectHandle entries;
     };
     PageCopy CopyOf(std::size_t page);
 
-    /// Lets go of a page that was copied.
+    /// Releases a page that has been copied.
     void Forget(std::size_t page);
 
 private:
@@ -47,7 +47,7 @@ private:
     bool m_isArchive;
     std::vector<QPDFObjectHandle> m_pages;
     std::map<int, int> m_copies;           // their numbers, by those in the draft
-    std::map<std::string, int> m_streams;  // likewise, by a sum of what they hold
+    std::map<std::string, int> m_streams;  // likewise, by a checksum of their contents
 };
 
 }  // namespace host

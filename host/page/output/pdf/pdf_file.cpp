@@ -15,7 +15,7 @@
 
 namespace host {
 
-/// What Cairo writes.
+/// The file that Cairo writes.
 struct PdfFile::Draft {
     int descriptor;
     int error = 0;  ///< why it could not be written, as errno has it
@@ -28,7 +28,7 @@ struct PdfFile::Draft {
         return self.error == 0 ? CAIRO_STATUS_SUCCESS : CAIRO_STATUS_WRITE_ERROR;
     }
 
-    /// A step that writes; where that fails, throws the reason, which Cairo cannot tell.
+    /// A step that writes; on failure throws the reason, which Cairo does not know.
     template <typename Step>
     auto Writing(Step step) const {
         try {
@@ -67,7 +67,7 @@ void PdfFile::Add(const Page& page, const Progress& progress, const std::string&
     cairo_pdf_surface_set_size(surface.get(), width, height);
     PdfPage described = PdfPageOf(page, m_settings.dpi);
     described.name = name;
-    described.isDropped = true;  // until it is drawn
+    described.isDropped = true;  // until it has been drawn
     CairoDrawing how;
     how.print = m_settings.print;
     for (const PdfPage::Tagged& item : described.items) {
@@ -79,7 +79,7 @@ void PdfFile::Add(const Page& page, const Progress& progress, const std::string&
             return DrawOnCairo(surface.get(), page, m_settings.dpi, progress, how);
         });
     } catch (...) {
-        cairo_surface_show_page(surface.get());  // the next is another
+        cairo_surface_show_page(surface.get());  // begins another page
         throw;
     }
     m_pages.back().isDropped = false;

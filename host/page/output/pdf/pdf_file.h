@@ -15,17 +15,16 @@ namespace host {
 
 /// How a PDF file is written.
 struct PdfSettings {
-    double dpi = 150.0;  ///< of maps: an A4 page is 842 x 595 points at any
+    double dpi = 150.0;  ///< of maps: an A4 page is always 842 x 595 points
     PrintSettings print = {};
 };
 
-/// A PDF file of pages in their true size: shapes stay shapes and texts texts, in fonts
-/// that the file brings along, one copy of each for all its pages; maps are images. It is
-/// searched, read aloud and measured as its pages are (see PdfPageOf), and the same pages
-/// give the same bytes.
+/// A PDF file of pages in their true size: shapes stay shapes and text stays text, in
+/// embedded fonts that all its pages share; maps are images. It can be searched, read
+/// aloud and measured (see PdfPageOf), and the same pages give the same bytes.
 ///
-/// A page is gone from memory when it has been added. Two files take part: Cairo writes a
-/// draft, of which the file is made when it is finished.
+/// A page is dropped from memory once it has been added. Two files take part: Cairo
+/// writes a draft, from which the file is made at the end.
 class PdfFile {
 public:
     /// @param draft descriptor of an empty file, open for reading and writing; not owned
@@ -34,15 +33,15 @@ public:
     PdfFile& operator=(const PdfFile&) = delete;
     ~PdfFile();
 
-    /// Draws a page. Throws what its drawing throws, and NamedError for a text of which
-    /// no font has a character where PDF/A is asked for, and the file is then without it;
-    /// and std::runtime_error when the draft cannot be written.
-    /// @param name of the page in the file, as label and as bookmark; empty: its number,
-    /// and its title
+    /// Draws a page. Throws what drawing it throws; where PDF/A is asked for, NamedError
+    /// for a text with a character that no font has, and the page is left out of the
+    /// file; and std::runtime_error when the draft cannot be written.
+    /// @param name the page's label and bookmark in the file; when empty, its number and
+    /// its title
     void Add(const Page& page, const Progress& progress = {},
              const std::string& name = "");
 
-    /// Takes the last page that was added out again.
+    /// Removes the last page that was added.
     void DropLast() { m_pages.back().isDropped = true; }
 
     /// Whether the draft can still be written.
@@ -58,10 +57,10 @@ private:
 
     PdfSettings m_settings;
     std::unique_ptr<Draft> m_draft;
-    std::vector<PdfPage> m_pages;  // with those that were dropped
+    std::vector<PdfPage> m_pages;  // including dropped ones
 };
 
-/// The bytes of a file of one page. Throws as PdfFile does.
+/// The bytes of a file with one page. Throws as PdfFile does.
 std::vector<std::uint8_t> EncodePdf(const Page& page, const PdfSettings& settings,
                                     const Progress& progress = {});
 

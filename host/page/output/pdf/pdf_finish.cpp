@@ -25,7 +25,7 @@ namespace {
 
 using Handle = QPDFObjectHandle;
 
-/// The moment that the file is of; none unless the environment says one.
+/// The date of the file; nothing unless the environment sets one.
 std::optional<std::tm> Moment() {
     const char* const set = std::getenv("SOURCE_DATE_EPOCH");
     if (set == nullptr || *set == '\0') {
@@ -70,7 +70,7 @@ Handle InfoOf(const PageAbout& about, const FileFacts& facts,
     return info;
 }
 
-/// Says what the file is in both of the ways in which programs look for it.
+/// Describes the file in both of the places where programs look.
 /// @return the number of the one that the catalogue does not name
 int Describe(PdfObjects& objects, const PageAbout& about, const std::string& producer,
              PdfStandard standard, Handle catalogue) {
@@ -87,7 +87,7 @@ int Describe(PdfObjects& objects, const PageAbout& about, const std::string& pro
     return objects.Write(InfoOf(about, facts, moment));
 }
 
-/// Copies the pages that are to be there, each with what is said of it.
+/// Copies the pages that stay, each with its description.
 class Pages {
 public:
     Pages(PdfDraft& draft, PdfObjects& objects, const std::vector<PdfPage>& drawn)
@@ -127,7 +127,7 @@ public:
         m_structure.Finish(catalogue);
         AddBookmarks(m_objects, m_written, catalogue);
         if (m_measures) {
-            // Measuring on Earth came after PDF 1.7.
+            // Geospatial measuring came after PDF 1.7.
             catalogue.replaceKey(
                 "/Extensions",
                 Handle::parse("<< /ADBE << /BaseVersion /1.7 /ExtensionLevel 3 >> >>"));

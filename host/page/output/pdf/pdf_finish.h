@@ -8,13 +8,13 @@
 
 namespace host {
 
-/// A PDF file of Cairo's with what Cairo does not write: its words, as metadata that
-/// viewers and catalogues read, its language, the structure in which it is read aloud, as
-/// PDF/UA-1 asks for, and where its maps lie on Earth.
+/// Completes a PDF file by Cairo with what Cairo does not write: metadata for viewers and
+/// catalogues, the language, the structure for reading aloud that PDF/UA-1 requires, and
+/// where its maps lie on Earth.
 ///
-/// It is dated by SOURCE_DATE_EPOCH, or not at all, and its identifier follows from what
-/// it holds, so that the same page gives the same bytes. Throws std::runtime_error when
-/// it cannot be written.
+/// It is dated by SOURCE_DATE_EPOCH, or not at all, and its identifier is derived from
+/// its contents, so that the same page gives the same bytes. Throws std::runtime_error
+/// when it cannot be written.
 /// @param draftFile descriptor of the file; read from its beginning
 /// @param about the file as a whole
 /// @param drawn its pages, as Cairo drew them

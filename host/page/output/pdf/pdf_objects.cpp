@@ -18,7 +18,7 @@ Handle Integer(std::size_t number) {
     return Handle::newInteger(static_cast<long long>(number));
 }
 
-/// The last bytes of a number, the highest first.
+/// The low bytes of a number, the highest first.
 std::string HighestFirst(std::uint64_t number, std::size_t count) {
     std::string bytes(count, '\0');
     for (std::size_t i = count; i-- > 0; number >>= 8U) {
@@ -32,8 +32,8 @@ constexpr std::size_t kIndexBytes = 2;
 
 }  // namespace
 
-/// Hands pieces of a file on, for libqpdf writes a few bytes at a time, and knows how
-/// long it is and a sum of it.
+/// Passes on the file in larger pieces, since libqpdf writes a few bytes at a time, and
+/// keeps its length and checksum.
 class PdfObjects::Output : public Pipeline {
 public:
     explicit Output(const Sink& sink)
@@ -62,7 +62,7 @@ public:
 
     std::uint64_t Length() const { return m_length; }
 
-    /// A string of 16 bytes that follow from all that was written; asked for once.
+    /// A string of 16 bytes derived from everything written; asked for once.
     Handle Identifier() {
         Flush();
         m_sum->SHA2_finalize();
@@ -174,7 +174,7 @@ void PdfObjects::WritePack() {
 
 std::string PdfObjects::Places() const {
     std::string rows(1 + kWhereBytes, '\0');
-    rows += HighestFirst(0xFFFF, kIndexBytes);  // of number 0, which is nobody's
+    rows += HighestFirst(0xFFFF, kIndexBytes);  // for number 0, which is never used
     for (const Place& place : m_places) {
         rows += place.isPacked ? '\2' : '\1';
         rows += HighestFirst(place.where, kWhereBytes) +

@@ -12,24 +12,24 @@
 
 namespace host {
 
-/// What a PDF file is told of one of its pages that Cairo drew.
+/// What a PDF file needs to know about one of its pages that Cairo drew.
 struct PdfPage {
-    /// What is read of the page.
+    /// An item that is read aloud.
     struct Tagged {
         SpokenItem spoken;
         Box box;  ///< points, from the bottom left corner of the sheet
     };
 
     PageAbout about;
-    std::vector<Tagged> items;      ///< in the order in which they are read
-    std::vector<std::size_t> tags;  ///< items of the page, as they were tagged
+    std::vector<Tagged> items;      ///< in reading order
+    std::vector<std::size_t> tags;  ///< items of the page, in the order of their tags
     std::vector<GeoreferencedMap> maps;
-    double dpi;              ///< of the places of the maps
-    std::string name = {};   ///< its label and bookmark; empty: its number and its title
-    bool isDropped = false;  ///< of a page that is not to be in the file
+    double dpi;              ///< for the places of the maps
+    std::string name = {};   ///< label and bookmark; empty: its number and its title
+    bool isDropped = false;  ///< whether it is left out of the file
 };
 
-/// Describes a page before it is drawn; `tags` are known afterwards.
+/// Describes a page before it is drawn; `tags` are set afterwards.
 inline PdfPage PdfPageOf(const Page& page, double dpi) {
     PageWords words = WordsOf(page);
     PdfPage described{std::move(words.about), {}, {}, GeoreferencedMaps(page, dpi), dpi};

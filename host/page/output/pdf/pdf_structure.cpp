@@ -38,7 +38,7 @@ Handle BoundingBox(const Box& box) {
     return numbers;
 }
 
-/// What is read of an item, and where it stands.
+/// The words for an item, and its place.
 Handle Spoken(const PdfPage::Tagged& item, int parent, int page, std::size_t tag) {
     const bool isFigure = item.spoken.role == SpokenItem::Role::Figure;
     Handle element = Structure(TagOf(item.spoken.role), parent);

@@ -13,7 +13,7 @@ namespace host {
 /// is an element of the file's structure, with the words that stand for it.
 class PdfStructure {
 public:
-    /// @param isOfOnePage whether there will be no other
+    /// @param isOfOnePage whether the file has only one page
     PdfStructure(PdfObjects& objects, bool isOfOnePage);
 
     /// Writes the elements of the next page.
@@ -31,7 +31,7 @@ private:
     int m_root;
     int m_document;
     QPDFObjectHandle m_sections;  // of the document: the pages, or the elements of one
-    QPDFObjectHandle m_byTag;     // elements of each page, for those who come from there
+    QPDFObjectHandle m_byTag;     // elements of each page, to find them from there
     int m_pages = 0;
 };
 

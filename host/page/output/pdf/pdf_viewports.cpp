@@ -16,7 +16,7 @@
 namespace host {
 namespace {
 
-// From the lower left corner along the left side, as shares of the map.
+// From the lower left corner up the left side, as fractions of the map.
 constexpr std::array<double, 4> kCornersX = {0.0, 0.0, 1.0, 1.0};
 constexpr std::array<double, 4> kCornersY = {0.0, 1.0, 1.0, 0.0};
 
@@ -61,7 +61,7 @@ std::optional<std::vector<double>> PlacesOf(const Box& extent,
     return places;
 }
 
-/// As the programs that measure in PDF files know it, else as GDAL does.
+/// In the form that programs measuring in PDF files know, else in GDAL's.
 std::string WktOf(const OGRSpatialReference& system) {
     for (const char* const format : {"FORMAT=WKT1_ESRI", "FORMAT=WKT1_GDAL"}) {
         const std::array<const char*, 2> options = {format, nullptr};

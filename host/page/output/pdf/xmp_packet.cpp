@@ -3,7 +3,8 @@
 namespace host {
 namespace {
 
-/// What it is, and the property of PDF/UA, which PDF/A does not know by itself.
+/// The declaration of PDF/A, and of the property of PDF/UA, which PDF/A does not know by
+/// itself.
 constexpr const char* kArchive = R"(<pdfaid:part>2</pdfaid:part>
 <pdfaid:conformance>U</pdfaid:conformance>
 <pdfaExtension:schemas xmlns:pdfaExtension="http://www.aiim.org/pdfa/ns/extension/"
@@ -43,7 +44,7 @@ std::string Escaped(const std::string& text) {
     return escaped;
 }
 
-/// A property, its text in the containers given: {"rdf:Seq", "rdf:li"}.
+/// A property, with its text in nested containers: {"rdf:Seq", "rdf:li"}.
 std::string Simple(const std::string& name, const std::string& text,
                    const std::string& before = "", const std::string& after = "") {
     return text.empty()

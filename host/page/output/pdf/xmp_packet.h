@@ -6,7 +6,7 @@
 
 namespace host {
 
-/// What a file says of itself besides its words.
+/// What a file says about itself besides its words.
 struct FileFacts {
     std::string producer;  ///< the library that wrote it
     std::string creator;   ///< the program that had it written
@@ -14,7 +14,7 @@ struct FileFacts {
     bool isArchive;        ///< whether it is PDF/A-2u, and not PDF/UA-1 alone
 };
 
-/// The words of a page and the facts of its file as an XMP packet.
+/// The words of a page and the facts about its file as an XMP packet.
 std::string XmpPacket(const PageAbout& about, const FileFacts& facts);
 
 }  // namespace host
