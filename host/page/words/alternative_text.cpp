@@ -24,7 +24,7 @@ std::wstring Wide(const std::string& utf8) {
     return wide;
 }
 
-/// What somebody called an item; empty where it is called what it is.
+/// The name that the user gave an item; empty where it has its usual one.
 std::wstring OwnName(const std::string& name, const char* usual) {
     return name == usual ? L"" : Wide(name);
 }
@@ -39,8 +39,8 @@ std::wstring PlaceWords(const MapPlace& place, int decimals, const SpokenWords& 
            side(place.latitude, words.north, words.south);
 }
 
-/// "from 34.95° W 8.08° S to 34.8° W 7.95° S", with as many decimals as tell its corners
-/// apart; empty where a corner is nowhere on Earth.
+/// "from 34.95° W 8.08° S to 34.8° W 7.95° S", with as many decimals as distinguish its
+/// corners; empty where a corner is not on Earth.
 std::wstring CornerWords(const MapLayers& map, const SpokenWords& words) {
     const Box& extent = map.Extent();
     const auto from = MapGround::PlaceAt(map.Projection(), extent.left, extent.bottom);
@@ -59,7 +59,8 @@ std::wstring CornerWords(const MapLayers& map, const SpokenWords& words) {
                   {PlaceWords(*from, decimals, words), PlaceWords(*to, decimals, words)});
 }
 
-/// Of a map with coordinates, of those the page's first as the page has it in figures.
+/// The scale of a map with coordinates; for the page's first, the one that the page gives
+/// in figures.
 std::optional<double> ScaleIn(const Page& page, const MapFrame& map,
                               const MapLayers& layers) {
     const auto first =
@@ -93,7 +94,7 @@ std::wstring MapWords(const Page& page, const PageItem& item, const SpokenWords&
     return text;
 }
 
-/// What a bar writes at its end: a bar that is not exact cuts its divisions to one digit.
+/// The value at a bar's end: a bar that is not exact cuts its divisions to one digit.
 double LengthOf(const ScaleBarFrame& frame, const CScaleBarBase& bar) {
     constexpr double kNearly = 1.0e-9;
     const double value = frame.DivisionValue();

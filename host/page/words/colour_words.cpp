@@ -8,7 +8,7 @@
 namespace host {
 namespace {
 
-/// A colour as people tell colours apart.
+/// A colour as people perceive it.
 struct Perceived {
     double hue;        ///< degrees: 0 red, 120 green, 240 blue
     double chroma;     ///< 0 grey to 1
@@ -31,11 +31,11 @@ Perceived PerceivedAs(const Gdiplus::Color& colour) {
     return {std::fmod(sixths * 60.0 + 360.0, 360.0), chroma, (most + least) / 2.0};
 }
 
-/// Hues from the one before up to this one.
+/// Hues from the previous one up to this one.
 struct HueRange {
     double end;
     const wchar_t* SpokenWords::*word;
-    const wchar_t* SpokenWords::*darkWord = nullptr;   ///< where it has one of its own
+    const wchar_t* SpokenWords::*darkWord = nullptr;   ///< where it has a word of its own
     const wchar_t* SpokenWords::*lightWord = nullptr;  ///< likewise
 };
 
@@ -71,7 +71,7 @@ std::wstring GreyWords(double lightness, const SpokenWords& words) {
 
 std::wstring ColourWords(Gdiplus::ARGB colour, const SpokenWords& words) {
     constexpr double kColourless = 0.1;
-    constexpr double kDark = 0.35;  // green and blue of full strength are at a half
+    constexpr double kDark = 0.35;  // pure green and blue are at a half
     constexpr double kLight = 0.72;
     constexpr double kBlackish = 0.06;
     const Perceived seen = PerceivedAs(Gdiplus::Color(colour));
@@ -81,7 +81,7 @@ std::wstring ColourWords(Gdiplus::ARGB colour, const SpokenWords& words) {
     const HueRange& range =
         *std::find_if(std::begin(kHues), std::end(kHues) - 1,
                       [&seen](const HueRange& one) { return seen.hue < one.end; });
-    // Sienna is as light as a full red, and brown all the same: an orange that is dull.
+    // Sienna is as light as a full red, yet brown: a dull orange.
     const bool isDull =
         seen.chroma < 0.45 && seen.lightness < 0.6 && range.word == &SpokenWords::orange;
     if (range.darkWord != nullptr && (seen.lightness < 0.45 || isDull)) {

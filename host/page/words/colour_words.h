@@ -8,7 +8,7 @@
 
 namespace host {
 
-/// What people call a colour, whatever its alpha: 0xFF0000FF is "blue", 0xFF000080 "dark
+/// The name of a colour, whatever its alpha: 0xFF0000FF is "blue", 0xFF000080 "dark
 /// blue".
 std::wstring ColourWords(Gdiplus::ARGB colour, const SpokenWords& words);
 

@@ -14,7 +14,7 @@
 namespace host {
 namespace {
 
-/// As long as any text of a page file, at most.
+/// No longer than any text of a page file.
 std::wstring Shortened(std::wstring text) {
     constexpr std::size_t kMost = 10'000;
     if (text.size() > kMost) {
@@ -23,8 +23,8 @@ std::wstring Shortened(std::wstring text) {
     return text;
 }
 
-/// On one line, as a list of files or a window's frame shows it, and of characters that
-/// XML knows: U+FFFE and U+FFFF are none.
+/// On one line, as a list of files or a window's title bar shows it, and in characters
+/// that XML allows: not U+FFFE and U+FFFF.
 std::string OnOneLine(std::string text) {
     for (const char* const none : {"\xEF\xBF\xBE", "\xEF\xBF\xBF"}) {
         for (std::size_t at = text.find(none); at != std::string::npos;
@@ -39,7 +39,7 @@ std::string OnOneLine(std::string text) {
     return text;
 }
 
-/// A line of text that is no scale; null for anything else, and one without text.
+/// A line of text that is not a scale; null for anything else, and for an empty one.
 const CMapTitle* LineOf(const PageItem& item) {
     const auto* const title = ElementOf<CMapTitle>(item);
     return title == nullptr || title->GetFontValue().empty() ||
@@ -48,7 +48,7 @@ const CMapTitle* LineOf(const PageItem& item) {
                : title;
 }
 
-/// The largest line of text, the first of several; null for none.
+/// The largest line of text, the first among equals; null for none.
 const CMapTitle* LargestLine(const Page& page) {
     const CMapTitle* largest = nullptr;
     for (const PageItem& item : page.Items()) {
@@ -61,7 +61,8 @@ const CMapTitle* LargestLine(const Page& page) {
     return largest;
 }
 
-/// The page's own, else that of its first bar, as pages have the words of one language.
+/// The page's own language, else that of its first bar, as a page's words are all in one
+/// language.
 const Language& LanguageOf(const Page& page) {
     if (const Language* const own = FindLanguage(page.About().language)) {
         return *own;
@@ -79,7 +80,7 @@ double MiddleOf(const PageItem& item) {
     return extent.TopLeft().y - extent.GetHeight() / 2.0;
 }
 
-/// Where the texts above the map end; above all of the page where it has none.
+/// Where the texts above the map end; above the whole page where it has no map.
 double TopOfMaps(const Page& page) {
     for (const PageItem& item : page.Items()) {
         if (std::holds_alternative<MapFrame>(item)) {
@@ -89,7 +90,7 @@ double TopOfMaps(const Page& page) {
     return page.Height();
 }
 
-/// Its turn to be read.
+/// Its place in the reading order.
 int TurnOf(const PageItem& item, bool isHeading, double topOfMaps) {
     constexpr MapSurroundType kInOrder[] = {SurroundLegend, SurroundScaleBar,
                                             SurroundMapTitle, SurroundNorthArrow,

@@ -16,22 +16,21 @@ struct SpokenItem {
         Figure,
     };
 
-    std::size_t item;  ///< its place in Page::Items()
+    std::size_t item;  ///< its index in Page::Items()
     Role role = Role::Figure;
-    std::string text;  ///< the text itself; of a figure what stands for it
+    std::string text;  ///< the text itself, or the words for a figure
 };
 
-/// What a page says of itself in words, for files that are read aloud, searched and
-/// listed. UTF-8, without control characters.
+/// A page in words, for files that are read aloud, searched and listed. UTF-8, without
+/// control characters.
 struct PageWords {
-    PageAbout about;  ///< with a title and a language in any case
-    /// What is read, in this order: the title and the texts above the map, the map, the
-    /// legend, the scale bar, the scale, the arrow, pictures and other texts. The rest is
-    /// decoration.
+    PageAbout about;  ///< always with a title and a language
+    /// In reading order: the title and the texts above the map, the map, the legend, the
+    /// scale bar, the scale, the arrow, pictures and other texts. The rest is decoration.
     std::vector<SpokenItem> items;
 };
 
-/// The words of a page: those that it was given, else those that stand on it.
+/// The words of a page: those that it was given, or else derived from its contents.
 PageWords WordsOf(const Page& page);
 
 }  // namespace host

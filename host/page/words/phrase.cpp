@@ -24,7 +24,7 @@ std::wstring Filled(const wchar_t* phrase, std::initializer_list<std::wstring> v
 std::wstring RoundedText(double value, int decimals) {
     const double power = std::pow(10.0, decimals);
     const double rounded = std::round(value * power) / power;
-    // A number that is too large for that has no decimals anyway.
+    // A number too large for rounding has no decimals anyway.
     const std::string text = NumberText(std::isfinite(rounded) ? rounded + 0.0 : value);
     return {text.begin(), text.end()};
 }
