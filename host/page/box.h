@@ -4,7 +4,7 @@
 
 namespace host {
 
-/// A rectangle whose y grows upwards: of the page in page units, or of a map in the units
+/// A rectangle whose y grows upwards: on the page in page units, or on a map in the units
 /// of its coordinate system.
 struct Box {
     double left = 0.0;
@@ -18,7 +18,7 @@ struct Box {
     constexpr double MiddleY() const { return bottom + Height() / 2.0; }
 };
 
-/// The box without a rim.
+/// The box less a margin on every side.
 constexpr Box Inset(const Box& box, double rim) {
     return {box.left + rim, box.bottom + rim, box.right - rim, box.top - rim};
 }

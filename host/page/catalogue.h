@@ -17,7 +17,7 @@
 
 namespace host {
 
-/// What a family of elements is called in page files; empty for none that is known.
+/// The name of an element's family in page files; empty for an unknown one.
 constexpr const char* FamilyName(MapSurroundType family) {
     switch (family) {
         case SurroundNorthArrow:
@@ -42,8 +42,8 @@ struct CatalogueEntry {
     const char* name;       ///< in page files: the family's, then the style
     const char* className;  ///< "CScaleLine2"
     const char* about;      ///< what it looks like, in a few words
-    bool isUsual;           ///< what a page has of the family when nobody chooses a style
-    std::unique_ptr<CMapSurround> (*make)();  ///< a new one, nothing set
+    bool isUsual;           ///< the default style of its family
+    std::unique_ptr<CMapSurround> (*make)();  ///< a new one with its defaults
     bool (*is)(const CMapSurround&);          ///< of exactly this class
 
     /// The word for it on the command line: "line2" of "scale-bar-line2". Empty in a
@@ -54,7 +54,7 @@ struct CatalogueEntry {
     }
 };
 
-/// An entry that still knows its class.
+/// An entry that knows the class of its element.
 template <class Element>
 struct EntryOf : CatalogueEntry {
     using Class = Element;
@@ -105,7 +105,7 @@ inline constexpr std::tuple kElements = {
                                "CScaleEquAltenate", "Equal boxes"),
 };
 
-/// The same without their classes: for (const CatalogueEntry& entry : kCatalogue).
+/// The same without the classes: for (const CatalogueEntry& entry : kCatalogue).
 inline constexpr auto kCatalogue = std::apply(
     [](const auto&... entries) {
         return std::array<CatalogueEntry, sizeof...(entries)>{entries...};
@@ -123,7 +123,7 @@ inline std::vector<const CatalogueEntry*> StylesOf(MapSurroundType family) {
     return styles;
 }
 
-/// What a page has of a family when nobody chooses; null where that is nothing.
+/// The style of a family that a page has by default; null for none.
 constexpr const CatalogueEntry* UsualStyle(MapSurroundType family) {
     for (const CatalogueEntry& entry : kCatalogue) {
         if (entry.family == family && entry.isUsual) {
@@ -133,7 +133,7 @@ constexpr const CatalogueEntry* UsualStyle(MapSurroundType family) {
     return nullptr;
 }
 
-/// The entry that an element is of; null for one of a class of somebody's own.
+/// The entry of an element; null for one of the host's own class.
 inline const CatalogueEntry* FindEntry(const CMapSurround& element) {
     for (const CatalogueEntry& entry : kCatalogue) {
         if (entry.is(element)) {
@@ -143,8 +143,8 @@ inline const CatalogueEntry* FindEntry(const CMapSurround& element) {
     return nullptr;
 }
 
-/// Takes an element over as one of a family's class; null, and the element stays where it
-/// is, when it is none of that.
+/// Takes over an element that is of the family's class; otherwise returns null and leaves
+/// the element where it is.
 template <class Family>
 std::unique_ptr<Family> TakeAs(std::unique_ptr<CMapSurround>& element) {
     auto* const taken = dynamic_cast<Family*>(element.get());

@@ -11,7 +11,7 @@ namespace host {
 namespace {
 
 constexpr double kHighestText = 65535.0;  // pixels
-constexpr double kLowestElement = 8.0;    // pixels; of most, texts are a quarter or less
+constexpr double kLowestElement = 8.0;  // pixels; most texts are a quarter of it or less
 
 std::string WordsFor(Gdiplus::Status status) {
     switch (status) {
@@ -26,7 +26,7 @@ std::string WordsFor(Gdiplus::Status status) {
     }
 }
 
-/// In pixels; none for items without an element.
+/// In pixels; nothing for an item without an element.
 std::optional<double> HeightOf(const PageItem& item, double scale) {
     const auto* const title = ElementOf<CMapTitle>(item);
     const auto* const element = ElementOf<CMapSurround>(item);

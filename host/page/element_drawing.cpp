@@ -9,14 +9,14 @@
 namespace host {
 namespace {
 
-/// How an element of a kind is drawn.
+/// How one kind of element is drawn.
 struct Finish {
     MapSurroundType kind;
     Gdiplus::SmoothingMode smoothing;
 };
 
 // Slanted edges need smoothing. Lines and boxes along the axes are sharper without it,
-// and the thin strips of a legend's ramp would never reach their full colour with it.
+// and with it the thin strips of a legend's ramp would never reach their full colour.
 constexpr Finish kFinishes[] = {
     {SurroundNorthArrow, Gdiplus::SmoothingModeAntiAlias},
     {SurroundScaleBar, Gdiplus::SmoothingModeDefault},
@@ -34,7 +34,7 @@ Gdiplus::SmoothingMode SmoothingOf(MapSurroundType kind) {
     return Gdiplus::SmoothingModeAntiAlias;
 }
 
-/// The box around the ink of the unturned title at a scale, from its layout point.
+/// The box around the ink of the unrotated title at a scale, from its layout point.
 Gdiplus::Rect OutlineOf(const CMapTitle& title, double scale) {
     const std::wstring text = title.GetFontValue();
     const Gdiplus::FontFamily family(title.GetFontStyle().c_str());
@@ -49,13 +49,14 @@ Gdiplus::Rect OutlineOf(const CMapTitle& title, double scale) {
     return bounds;
 }
 
-/// A title hangs from its layout point by the side bearing and the ascent of its font.
-/// The centre that brings the middle of its ink to the given one.
+/// A title is drawn below and to the right of its layout point, by the ascent and the
+/// side bearing of its font. This is the centre that brings the middle of its ink to the
+/// given one.
 CPoint CentreForInk(const CMapTitle& title, CPoint centre, double scale) {
     constexpr double kRadians = 3.14159265358979323846 / 180.0;
     const Gdiplus::Rect measured = OutlineOf(title, 1.0);
     const Gdiplus::Rect drawn = OutlineOf(title, scale);
-    // Lines in the middle, or at the far edge, are written from a point further right.
+    // Centred and right-aligned lines are written from a point further right.
     constexpr double kFromMiddle[] = {-0.5, 0.0, 0.5};
     const int alignment = std::clamp<int>(title.GetLineAlignment(), 0, 2);
     const double right =

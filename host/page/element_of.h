@@ -1,6 +1,6 @@
 #pragma once
 
-// What stands in a frame or on a page, asked for by its class.
+// Finds what stands in a frame or on a page by its class.
 
 #include <memory>
 #include <variant>
@@ -9,7 +9,7 @@
 
 namespace host {
 
-/// A frame's element, where it is of a class or one derived from it; else null.
+/// A frame's element, if it is of a class or derived from it; else null.
 template <class Element>
 Element* ElementOf(CSurroundFrame& frame) {
     return dynamic_cast<Element*>(frame.GetMapSurround());
@@ -19,8 +19,8 @@ const Element* ElementOf(const CSurroundFrame& frame) {
     return dynamic_cast<const Element*>(frame.GetMapSurround());
 }
 
-/// The frame of an item with or without an element, where it is of a class; null for
-/// another one and for a map.
+/// The frame of an item with or without an element, if it is of a class; null for any
+/// other frame and for a map.
 template <class Frame>
 Frame* FrameAs(PageItem& item) {
     const auto* const frame = std::get_if<std::unique_ptr<CSurroundFrame>>(&item);
@@ -32,7 +32,7 @@ const Frame* FrameAs(const PageItem& item) {
     return frame == nullptr ? nullptr : dynamic_cast<const Frame*>(frame->get());
 }
 
-/// The element of an item, where it has one of a class; else null.
+/// The element of an item, if it is of a class; else null.
 template <class Element>
 Element* ElementOf(PageItem& item) {
     auto* const frame = FrameAs<CSurroundFrame>(item);

@@ -5,10 +5,10 @@
 
 namespace host {
 
-// A language is one more row: what it is called in itself, and the words of a page as its
-// maps have them. Captions are written with the space that follows them. Units are as
-// short as they are usual; no two of one language may be called alike. What is spoken
-// stands in braces of its own.
+// A language is one more row: its own name for itself, and the words of a page as its
+// maps have them. Captions end with the space that follows them. Units are as short as is
+// usual; no two units of a language may have the same name. What is read aloud stands in
+// inner braces.
 const std::vector<Language>& Languages() {
     static const std::vector<Language> languages = {
         // clang-format off

@@ -12,29 +12,29 @@
 namespace host {
 
 /// A page on a screen: its image at a resolution, kept up to date while items are moved
-/// and changed. Only the surroundings of what changed are drawn again, and rasters are
-/// not read again; the image is the one that drawing the whole page would give.
+/// and changed. Only the surroundings of a change are redrawn, and rasters are not read
+/// again; the image is the one that drawing the whole page would give.
 class LivePage {
 public:
     /// Draws the page, which must outlive this. Throws what drawing it throws.
-    /// @param dpi device pixels an inch
-    /// @param render how maps are rendered; by themselves where there is none
+    /// @param dpi device pixels per inch
+    /// @param render how maps are rendered; by default they render themselves
     LivePage(const Page& page, double dpi, RenderMap render = {});
 
-    /// The image; it is drawn on only by the operations below.
+    /// The image; only the operations below draw on it.
     PageImage& Image() { return m_image; }
 
-    /// Why items are not drawn whole, one line each; see Page::DrawItems.
+    /// Why items are not drawn completely, one line each; see Page::DrawItems.
     std::vector<std::string> Failures() const;
 
-    /// Draws everything, after items were added, removed or put in another order.
+    /// Redraws everything, after items were added, removed or reordered.
     void DrawAll();
 
-    /// After an item's frame was moved: draws what it left and where it is now.
-    /// @return the pixels that were drawn again
+    /// Redraws where an item was and where it is, after its frame was moved.
+    /// @return the redrawn pixels
     Gdiplus::Rect DrawMoved(std::size_t item);
 
-    /// As DrawMoved, after an item's element or frame was changed in any way.
+    /// As DrawMoved, after any change of an item's element or frame.
     Gdiplus::Rect DrawChanged(std::size_t item);
 
 private:

@@ -7,8 +7,8 @@
 
 namespace host {
 
-/// A map's scale in figures, "1 : 25 000", as a line of text: its font and colour are
-/// those of a title, its text follows from the scale.
+/// A map's scale in figures, "1 : 25 000", as a line of text: font and colour are those
+/// of a title, the text follows from the scale.
 class NumericScale : public CMapTitle {
 public:
     NumericScale() {
@@ -17,8 +17,8 @@ public:
         ResetAspectRatio();
     }
 
-    /// The denominator, as it is written: above 0. One that was measured is rounded to
-    /// four digits, which is less than a pixel of any bar.
+    /// The denominator, as written: above 0. A measured one is rounded to four digits,
+    /// which is less than a pixel of any bar.
     void SetDenominator(double denominator) {
         m_denominator = denominator;
         SetFontValue(TextOf(denominator));
@@ -35,7 +35,7 @@ public:
         return std::round(denominator / unit) * unit;
     }
 
-    /// "1 : 25 000", with spaces that break no line.
+    /// "1 : 25 000", with non-breaking spaces.
     static std::wstring TextOf(double denominator) {
         std::wstring digits = std::to_wstring(
             static_cast<long long>(std::round(std::fmin(denominator, 1.0e15))));

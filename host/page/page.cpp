@@ -17,16 +17,16 @@ namespace {
 
 constexpr Gdiplus::ARGB kPaper = 0xFFFFFFFF;
 
-/// A frame's decoration at the resolution, as one frame that lies behind the content and
-/// one around it. Drawn as one, the fill would cover the inner half of the border.
+/// A frame's decoration at the resolution, as one frame behind the content and one around
+/// it. Drawn as one, the fill would cover the inner half of the border.
 ///
 /// Both are copies, since drawing a frame may change its border width.
 struct Decoration {
     Decoration(const CFrameBase& frame, const DeviceView& view)
         : behind(Scaled(frame, view)), around(behind) {
         behind.DrawBorder = false;
-        // The shadow falls from where the border ends: a pen is half outside its line,
-        // and one of odd width a little more.
+        // The shadow falls from the outer edge of the border: half a pen lies outside its
+        // line, and a little more when its width is odd.
         behind.BorderWidth = std::ceil(around.BorderWidth / 2.0f);
         around.DrawShadow = false;
         around.DrawFill = false;
@@ -36,7 +36,7 @@ struct Decoration {
     CFrameBase around;
 
 private:
-    /// Borders are whole pixels wide, and at least one, for they are drawn without
+    /// Borders are whole pixels wide, at least one, since they are drawn without
     /// smoothing.
     static CFrameBase Scaled(const CFrameBase& frame, const DeviceView& view) {
         CFrameBase scaled(frame);
@@ -52,7 +52,7 @@ private:
     }
 };
 
-/// GDI+ works through every pixel of an image with transparency once more.
+/// For an image with transparency, GDI+ processes every pixel again.
 bool IsOpaque(const PixelImage& image) {
     std::uint8_t alphas = 255;
     for (std::size_t i = 3; i < image.bgra.size(); i += 4) {
@@ -74,7 +74,7 @@ void DrawPicture(Gdiplus::Graphics& graphics, MapPicture& picture, const CRect& 
     graphics.DrawImage(&pixels, rect.left, rect.top, width, height);
 }
 
-/// One visit an item: the drawing of each kind.
+/// Draws each kind of item, in one visit per item.
 struct ItemDrawing {
     Gdiplus::Graphics& graphics;
     const DeviceView& view;

@@ -22,14 +22,14 @@ namespace host {
 /// The map on the page: a picture that fills its frame.
 struct MapFrame {
     CFrameBase frame;
-    std::shared_ptr<MapPicture> picture;        ///< none while the rasters are not open
-    std::string name = {};                      ///< what people call it; UTF-8
+    std::shared_ptr<MapPicture> picture;        ///< null until the rasters are open
+    std::string name = {};                      ///< UTF-8
     std::vector<std::string> rasterPaths = {};  ///< the first on top
-    std::optional<Box> extent = std::nullopt;   ///< shown; else all of the rasters
+    std::optional<Box> extent = std::nullopt;   ///< shown; else all the rasters
     /// The denominator of the scale that the frame keeps whatever its size, around the
     /// middle of the extent; NaN for none.
     double scale = std::numeric_limits<double>::quiet_NaN();
-    RasterStyle style = {};            ///< in which its rasters are shown
+    RasterStyle style = {};            ///< of its rasters
     std::string alternativeText = {};  ///< see PlacedFrame::AlternativeText
 };
 
@@ -40,11 +40,11 @@ using PageItem = std::variant<MapFrame, std::unique_ptr<CSurroundFrame>>;
 CFrameBase& FrameOf(PageItem& item);
 const CFrameBase& FrameOf(const PageItem& item);
 
-/// What people call an item: its name, or else what it is ("map", "title").
+/// What an item is called: its name, or else its type ("map", "title").
 std::string NameOf(const PageItem& item);
 
-/// What a page says of itself where files have room for it, and is drawn nowhere. UTF-8;
-/// what is empty follows from what stands on the page, or is left out.
+/// What a page says about itself in files that have a place for it; drawn nowhere. UTF-8;
+/// what is empty is derived from the page's contents, or left out.
 struct PageAbout {
     std::string title = {};
     std::string author = {};
@@ -53,7 +53,7 @@ struct PageAbout {
     std::string language = {};  ///< the code of a language: "de"
 };
 
-/// Draws what an item shows, and may tell a file that it does.
+/// Draws an item's content, and may tell a file that it does.
 using MarkContent =
     std::function<void(std::size_t item, const std::function<void()>& draw)>;
 
@@ -61,9 +61,9 @@ using MarkContent =
 ///
 /// Extents and sizes are in page units, y growing upwards from the bottom left corner.
 /// Items are drawn in their order; of each, its shadow and background, the map's picture,
-/// its border, its element. What a frame measures in device pixels (its border
-/// width and its gaps) is meant as on a page at 96 dpi and grows with the resolution, so
-/// that the same page looks the same at 96 and at 300 dpi.
+/// its border, its element. What a frame measures in device pixels (its border width and
+/// its gaps) is meant for 96 dpi and grows with the resolution, so that the same page
+/// looks the same at 96 and at 300 dpi.
 class Page {
 public:
     /// A blank white sheet. @param width, height page units, above 0
@@ -86,19 +86,20 @@ public:
 
     /// Draws the sheet and every item on it. The surface's world transform is the
     /// identity before each item. Throws what a map's picture throws, and NamedError with
-    /// the name of the first item of which GDI+ did not draw all.
-    /// @param dpi device pixels an inch: an A4 page is 1754 x 1240 pixels at 150 dpi
+    /// the name of the first item that GDI+ did not draw completely.
+    /// @param dpi device pixels per inch: an A4 page is 1754 x 1240 pixels at 150 dpi
     /// @param progress told how far the maps have been read
-    /// @param mark has maps and elements drawn, by their place in Items(); frames are
-    /// drawn without it
+    /// @param mark draws the content of maps and elements, by their index in Items();
+    /// frames are drawn without it
     void Draw(Gdiplus::Graphics& graphics, double dpi, const Progress& progress = {},
               const MarkContent& mark = {}) const;
 
-    /// As Draw, but draws only these items, in the order given, on blank paper, and takes
-    /// their maps from those rendered before. Where the surface has a clip, only in it.
-    /// Goes on after an item of which GDI+ did not draw all.
-    /// @return why, for each of the items ("title: is 83333 pixels high, and …"); empty
-    /// for those that were drawn, or are only too small for texts at the resolution
+    /// As Draw, but draws only these items, in the given order, on blank paper, and takes
+    /// their maps from those rendered before. Where the surface has a clip, only inside
+    /// it. Continues after an item that GDI+ did not draw completely.
+    /// @return the reason for each of the items ("title: is 83333 pixels high, and …");
+    /// empty for those that were drawn, or whose texts are only too small for the
+    /// resolution
     std::vector<std::string> DrawItems(Gdiplus::Graphics& graphics, double dpi,
                                        const std::vector<std::size_t>& items,
                                        RenderedMaps& maps) const;

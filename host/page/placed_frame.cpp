@@ -70,7 +70,7 @@ void ScaleBarFrame::SetDivisionLength(double length) {
     m_divisionLength = length;
     if (auto* const bar = ElementOf<CScaleBarBase>(*this)) {
         bar->SetScreen2PaperByOneScale(length);
-        bar->SetPaper2ScreenScale(length);  // for measuring at scale 1
+        bar->SetPaper2ScreenScale(length);  // so that it measures at scale 1
     }
 }
 

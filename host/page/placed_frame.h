@@ -15,7 +15,7 @@
 
 namespace host {
 
-/// A frame on a page: it has a name, and may hold its element off the middle.
+/// A frame on a page: it has a name, and may hold its element off centre.
 class PlacedFrame : public CSurroundFrame {
 public:
     /// A frame without an element.
@@ -25,16 +25,16 @@ public:
         SetMapSurround(element.release());
     }
 
-    /// What people call it; drawn nowhere. UTF-8.
+    /// The name of the frame; drawn nowhere. UTF-8.
     const std::string& Name() const { return m_name; }
     void SetName(std::string name) { m_name = std::move(name); }
 
-    /// What is read aloud in place of the element, where the page's own words do not say
-    /// it well. UTF-8; empty for the page's own.
+    /// Read aloud in place of the element, where the page's own words do not describe it
+    /// well. UTF-8; empty for the page's own.
     const std::string& AlternativeText() const { return m_alternativeText; }
     void SetAlternativeText(std::string text) { m_alternativeText = std::move(text); }
 
-    /// Where the element's centre stands from the middle of the frame: page units, y
+    /// The offset of the element's centre from the middle of the frame: page units, y
     /// growing upwards.
     void SetElementOffset(double dx, double dy) { m_offset = {dx, dy}; }
     CPoint2D ElementOffset() const { return m_offset; }
@@ -42,7 +42,7 @@ public:
     void Draw(Gdiplus::Graphics* graphics, CPoint centre, double scale) override;
 
 protected:
-    /// The device pixel of the element's centre, where the frame's middle is at another.
+    /// The device pixel of the element's centre, given that of the frame's middle.
     CPoint ElementCentre(CPoint middle, double scale) const;
 
 private:
@@ -51,25 +51,25 @@ private:
     CPoint2D m_offset;
 };
 
-/// What of a scale bar stays when its map changes; the rest follows from the map.
+/// What a scale bar keeps when its map changes; the rest follows from the map.
 enum class BarFit : std::int32_t {
     Count,  ///< the number of divisions
-    Width,  ///< the width, as far as whole divisions go
-    Value,  ///< what a division stands for
+    Width,  ///< the width, as far as whole divisions allow
+    Value,  ///< the distance of a division
 };
 
 /// The frame of a scale bar, which keeps the bar true to the map at any resolution. A bar
-/// does not give its division back, so it is set through the frame, which remembers it.
+/// has no getter for its division, so it is set through the frame, which remembers it.
 class ScaleBarFrame : public PlacedFrame {
 public:
     explicit ScaleBarFrame(std::unique_ptr<CScaleBarBase> bar);
 
     /// The length of a division on the page, in page units, before the bar rounds its
-    /// value to a nice one.
+    /// value.
     void SetDivisionLength(double length);
     double DivisionLength() const { return m_divisionLength; }
 
-    /// What that length stands for, in the bar's unit.
+    /// The distance that a division stands for, in the bar's unit.
     void SetDivisionValue(double value);
     double DivisionValue() const { return m_divisionValue; }
 
@@ -80,16 +80,16 @@ public:
     void SetExact(bool isExact) { m_isExact = isExact; }
     bool IsExact() const { return m_isExact; }
 
-    /// What the bar counts in; what its unit is called is the bar's own.
+    /// The unit that the bar counts in; the name of the unit is the bar's own.
     void SetUnit(DistanceUnit unit) { m_unit = unit; }
     DistanceUnit Unit() const { return m_unit; }
 
-    /// In which language the bar names a unit that is chosen by length; English until it
-    /// is set.
+    /// The language in which the bar names a unit that is chosen by length; English by
+    /// default.
     void SetLanguage(const Language& language) { m_language = PlaceOf(language); }
     const Language& GetLanguage() const { return LanguageAt(m_language); }
 
-    /// The same by its place in Languages().
+    /// The same, by its index in Languages().
     void SetLanguagePlace(std::int32_t place) { m_language = place; }
     std::int32_t LanguagePlace() const { return m_language; }
 
@@ -97,12 +97,12 @@ public:
     void SetFit(BarFit fit) { m_fit = fit; }
     BarFit Fit() const { return m_fit; }
 
-    /// How long FitToMap makes the whole bar at most, page units; as long as it was,
-    /// where this is 0.
+    /// The greatest length that FitToMap gives the whole bar, page units; 0 for its
+    /// present length.
     void SetLongest(double length) { m_longest = length; }
     double Longest() const { return m_longest; }
 
-    /// What FitToMap keeps the bar true to.
+    /// The distances that FitToMap keeps the bar true to.
     void SetBarDistances(BarDistances distances) { m_distances = distances; }
     BarDistances GetBarDistances() const { return m_distances; }
 
@@ -129,9 +129,9 @@ public:
     void SetTrueNorth(bool trueNorth) { m_trueNorth = trueNorth; }
     bool TrueNorth() const { return m_trueNorth; }
 
-    /// Whether an arrow of one angle looks the same at every size and resolution. Drawn
-    /// as it is, its head grows with the square of its pixels, and fills the sheet at
-    /// last.
+    /// Whether an arrow of one angle looks the same at every size and resolution. As the
+    /// library draws it, its head grows with the square of its pixels, until it fills the
+    /// sheet.
     void SetExact(bool isExact) { m_isExact = isExact; }
     bool IsExact() const { return m_isExact; }
 
@@ -142,13 +142,13 @@ private:
     bool m_isExact = true;
 };
 
-/// The frame of a legend, which remembers what a legend does not give back.
+/// The frame of a legend, which remembers what a legend has no getter for.
 class LegendFrame : public PlacedFrame {
 public:
     explicit LegendFrame(std::unique_ptr<CMapLegend> legend)
         : PlacedFrame(std::move(legend)) {}
 
-    /// What the legend's font sizes are multiplied by when it is measured.
+    /// The factor for the legend's font sizes when it is measured.
     void SetSizeFactor(float factor);
     float SizeFactor() const { return m_sizeFactor; }
 
@@ -158,21 +158,21 @@ public:
     }
     const std::vector<std::string>& RasterPaths() const { return m_rasterPaths; }
 
-    /// What the rasters are called, a line each in the order of the paths; an empty line,
-    /// or none, leaves a raster its file's name.
+    /// The names of the rasters, one line each in the order of the paths; for an empty or
+    /// missing line, the file's name.
     void SetNames(std::wstring lines) { m_names = std::move(lines); }
     std::wstring Names() const { return m_names; }
 
-    /// Whether tiles of one mosaic are one entry (see JoinTiles) when sources are set.
+    /// Whether tiles of one mosaic become one entry (see JoinTiles) when sources are set.
     void SetJoinsTiles(bool joins) { m_joinsTiles = joins; }
     bool JoinsTiles() const { return m_joinsTiles; }
 
-    /// Whether a raster with a palette that is a ramp is explained by it when sources are
-    /// set, not by a class for each of its values.
+    /// Whether a raster whose palette is a ramp is explained by the ramp when sources are
+    /// set, rather than by a class for each of its values.
     void SetExplainsRamps(bool explains) { m_explainsRamps = explains; }
     bool ExplainsRamps() const { return m_explainsRamps; }
 
-    /// What the legend explains, and what it calls each; not owned.
+    /// The sources that the legend explains, and the name of each; not owned.
     void SetSources(std::vector<CGISDataSource*> sources,
                     std::vector<LegendSource> shown = {});
     const std::vector<CGISDataSource*>& Sources() const { return m_sources; }
@@ -186,7 +186,8 @@ private:
     std::vector<CGISDataSource*> m_sources;
 };
 
-/// The frame that suits an element, which it takes over: a ScaleBarFrame for a scale bar.
+/// Takes over an element in the kind of frame that suits it: a ScaleBarFrame for a scale
+/// bar.
 std::unique_ptr<PlacedFrame> FrameFor(std::unique_ptr<CMapSurround> element);
 
 }  // namespace host

@@ -18,13 +18,13 @@
 namespace host {
 namespace {
 
-// What elements write by themselves, and in what.
+// The texts that elements write by themselves, and their fonts.
 constexpr const char* kArrowAndEntryFamily = "Arial";
 constexpr const char* kBarFamily = "Times New Roman";
 constexpr const wchar_t* kLetters = L"NESW";
 constexpr const wchar_t* kNumbers = L"0123456789.-";
 
-constexpr const wchar_t* kEllipsis = L"\u2026";  // of those that are cut
+constexpr const wchar_t* kEllipsis = L"\u2026";  // of texts that are cut
 
 constexpr std::size_t kMostShown = 8;
 
@@ -63,7 +63,7 @@ std::vector<WrittenText> TextsOfLegend(const CMapLegend& legend,
             {kArrowAndEntryFamily, legend.GetFileNameStyle(), entries}};
 }
 
-/// Whether names or labels of a legend as it is now are cut.
+/// Whether names or labels of a legend are cut at present.
 bool CutsTexts(const CMapLegend& legend) {
     CMapLegend measured(legend);
     measured.SetSizeAspect(1.0f);
@@ -71,7 +71,7 @@ bool CutsTexts(const CMapLegend& legend) {
     return measured.HasCutTexts();
 }
 
-/// Fontconfig sorts all fonts for each of these, so the items of a page share them.
+/// Fontconfig sorts all fonts for each chain, so the items of a page share them.
 class Chains {
 public:
     const FontChain& Of(const WrittenText& text) {

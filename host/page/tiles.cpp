@@ -23,7 +23,7 @@ std::wstring WithoutDigits(std::wstring name) {
     return name;
 }
 
-/// What a legend writes and paints for a source, but for its name.
+/// What a legend writes and paints for a source, except for its name.
 std::wstring EntriesOf(CRasterSource& source) {
     std::wstring entries = std::to_wstring(source.GetDisplayType());
     if (source.GetDisplayType() == DisplayRGB) {
@@ -56,12 +56,12 @@ std::wstring EntriesOf(CRasterSource& source) {
     return entries;
 }
 
-/// Whether two pixels are of one length, to half of one over so many.
+/// Whether two pixels are equally long, to half a pixel over a number of them.
 bool IsOneSize(double a, double b, int count) {
     return std::abs(a - b) * count <= std::abs(a) / 2.0;
 }
 
-/// Whether two spans have no more than an edge in common, as tiles of satellites have.
+/// Whether two spans share no more than an edge, as satellite tiles do.
 bool IsEdge(double low, double high, double otherLow, double otherHigh) {
     constexpr double kEdge = 0.1;
     const double common = std::min(high, otherHigh) - std::max(low, otherLow);

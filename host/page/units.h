@@ -2,7 +2,7 @@
 
 namespace host {
 
-/// One page unit is 1/96 inch, so a page at 96 dpi has one device pixel a unit.
+/// A page unit is 1/96 inch, so a page at 96 dpi has one device pixel per unit.
 constexpr double kUnitsPerInch = 96.0;
 
 /// An inch is exactly 25.4 mm.
