@@ -36,16 +36,17 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-/// What the process that draws says in place of how many pages it drew.
+/// What the drawing process returns instead of the number of pages.
 constexpr const char* kOutOfMemory = "out of memory";
 
-/// What is known of the rows when the drawing is begun, again if a row ended it.
+/// What is known of the rows when drawing starts, or restarts after a row ended the
+/// process.
 struct Known {
     std::set<std::size_t> fatal;  ///< rows that ended the process
     std::size_t told = 0;         ///< rows before this one have been reported
 };
 
-/// The page file's own words, which are those of the whole file.
+/// The page file's own words, which apply to the whole file.
 host::PageAbout AboutOf(const Options& options) {
     const std::optional<host::AllowedSources> allowed = AllowedBy(options);
     host::Page page = host::LoadPage(options.pageFile, allowed ? &*allowed : nullptr);
@@ -73,8 +74,8 @@ void AddRow(const Options& options, const SeriesPage& row, const Quiet* quiet,
     }
 }
 
-/// In the process that draws: the rows, each told to `progress` by its place in the list,
-/// and how much of it is done.
+/// In the drawing process: draws the rows, reporting to `progress` the index of each in
+/// the list, plus how much of it is done.
 std::string DrawRows(const Options& options, const SeriesList& list, const Known& known,
                      const host::OutputFile& draft, const host::OutputFile& output,
                      const host::Progress& progress) {
@@ -125,13 +126,13 @@ std::string DrawRows(const Options& options, const SeriesList& list, const Known
     return std::to_string(drawn);
 }
 
-/// Watches the process that draws.
+/// Watches the drawing process.
 class Watched {
 public:
     Watched(const Options& options, std::size_t all) : m_options(options), m_all(all) {}
 
-    /// @param part as DrawRows tells it
-    /// @return whether the row may go on
+    /// @param part as DrawRows reports it
+    /// @return whether the row may continue
     bool See(double part) {
         const auto row = static_cast<std::size_t>(part);
         if (row != m_row) {
@@ -146,7 +147,7 @@ public:
 
     std::size_t Row() const { return m_row; }
 
-    /// Why it ended, where it did so by itself or for taking too long.
+    /// Why the process ended, if by itself or by its time limit.
     std::string Reason(const std::exception& error) const {
         return m_isLate ? "drawing took longer than its limit of " +
                               std::to_string(m_options.limits.seconds) + " s"
@@ -161,12 +162,12 @@ private:
     bool m_isLate = false;
 };
 
-/// Draws what can be drawn; each time that a row ends the process, without that one.
-/// @return how many pages there are in the output
+/// Draws what can be drawn, restarting without each row that ends the process.
+/// @return how many pages are in the output
 std::size_t Draw(const Options& options, const SeriesList& list,
                  std::optional<host::OutputFile>& output) {
     host::WorkLimits limits = options.limits;
-    limits.seconds = 0;  // they are a page's
+    limits.seconds = 0;  // they are meant for each page
     for (Known known;;) {
         output.emplace(options.output);
         const host::OutputFile draft(options.output);

@@ -7,10 +7,10 @@
 
 namespace map_page {
 
-/// Draws the pages of a list into one PDF file, one after the other, in one process. What
-/// a page's file does to a decoder is contained: the process is begun again without that
-/// page. A page that fails is reported in one line on standard error, and the others go
-/// on. A file that is there is left alone.
+/// Draws the pages of a list into one PDF file, one after the other, in a separate
+/// process. If a page crashes a decoder, the process is restarted without that page. A
+/// page that fails is reported on one line of standard error, and the others continue. An
+/// existing file is left alone.
 /// @return the summary; throws Error with it when a page failed, and Error when the file
 /// cannot be written
 std::string DrawAtlas(const Options& options, const SeriesList& list);

@@ -69,7 +69,7 @@ private:
         return field;
     }
 
-    /// After the quote that opens it.
+    /// Reads on after the opening quote.
     std::string ReadQuoted() {
         const std::size_t line = m_line;
         std::string field;

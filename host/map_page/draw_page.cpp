@@ -23,7 +23,7 @@
 namespace map_page {
 namespace {
 
-/// The picture element takes any file; so it is opened once before.
+/// The picture element accepts any file, so it is opened here first.
 void CheckPicture(const std::string& path) {
     const std::string why = path.empty() ? "" : host::CheckImageFile(path);
     if (!why.empty()) {
@@ -56,7 +56,7 @@ std::string LineOf(const std::string& name, const host::OutputFile& file,
            " bytes";
 }
 
-/// Their names, empty where none are asked for.
+/// Their names, empty when not asked for.
 host::WorldFiles BesideOutput(const Options& options) {
     return options.hasWorldFile ? host::WorldFilesOf(options.output) : host::WorldFiles();
 }
@@ -93,7 +93,7 @@ std::string WriteWorldFiles(const Options& options, const host::Page& page,
     return "world file\ncoordinate system\n";
 }
 
-/// Readers take whatever world file lies beside a picture.
+/// Readers take any world file that lies beside an image.
 std::vector<std::string> RemarksOfWorldFile(const Options& options) {
     if (options.hasWorldFile || !options.format) {
         return {};
@@ -149,7 +149,7 @@ std::string DrawPage(const Options& options, const OutputFiles& files,
         files.world ? WriteWorldFiles(options, opened.page, files) : "";
     if (files.output) {
         told = WriteInto(options, opened.page, *files.output, quiet) + "\n";
-        // A map without data is known when it has been drawn.
+        // Only drawing shows whether a map has data.
         remarks.Tell(host::RemarksOfMaps(opened.page));
     }
     if (files.saved) {
@@ -188,7 +188,7 @@ std::string Finish(const Options& options, OutputFiles& files, const std::string
             summary += (summary.empty() ? "" : "\n") + LineOf(one.name, *one.file, line);
         }
     }
-    // The output last: where it is there, all that belongs to it is.
+    // The output last: once it is there, everything that belongs to it is too.
     for (auto one = std::rbegin(all); one != std::rend(all); ++one) {
         if (one->file) {
             host::Naming(one->name, [&] { one->file->Commit(); });

@@ -11,7 +11,7 @@
 
 namespace map_page {
 
-/// The files that the options ask for, begun.
+/// The output files of the options, begun.
 struct OutputFiles {
     explicit OutputFiles(const Options& options);
 
@@ -21,7 +21,7 @@ struct OutputFiles {
     std::optional<host::OutputFile> system;  // likewise
 };
 
-/// Has a page say of itself what the options say of it.
+/// Gives a page the title, author and so on of the options.
 void SayOfPage(const Options& options, host::Page& page);
 
 /// Opens the page that the options ask for, and throws Error where an output would
@@ -29,19 +29,19 @@ void SayOfPage(const Options& options, host::Page& page);
 host::OpenedPage OpenToDraw(const Options& options);
 
 /// Draws the page that the options ask for into the one file and saves it in the other,
-/// and returns what a person is told of each, on a line of its own: "1754 x 1240 pixels",
-/// "6 elements". Throws Error, and std::bad_alloc when the memory does not suffice. GDI+
-/// must have been started.
+/// and returns what to print about each, on its own line: "1754 x 1240 pixels", "6
+/// elements". Throws Error, and std::bad_alloc when memory runs out. GDI+ must be
+/// running.
 std::string DrawPage(const Options& options, const OutputFiles& files,
                      const Quiet& quiet);
 
-/// Finishes the files that were drawn into and gives them their names.
+/// Finishes the files and gives them their names.
 /// @param told what DrawPage returned
 /// @return the lines that say where they are
 std::string Finish(const Options& options, OutputFiles& files, const std::string& told);
 
-/// Throws Error for the first of the columns that names no element with a text in the
-/// page file. GDI+ must have been started.
+/// Throws Error for the first column that does not name an element with a text in the
+/// page file. GDI+ must be running.
 void CheckSeries(const Options& options, const std::vector<std::string>& columns);
 
 }  // namespace map_page

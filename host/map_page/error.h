@@ -6,7 +6,7 @@ namespace map_page {
 
 using Error = host::NamedError;
 
-/// The program was called in a way that it does not know.
+/// The command line is wrong.
 class UsageError : public Error {
 public:
     using Error::Error;

@@ -7,7 +7,7 @@
 
 namespace map_page {
 
-/// The values that are not yet what they stand for.
+/// Options as given, before they are interpreted.
 struct Given {
     std::vector<std::string> rasters;
     GivenStyle style;

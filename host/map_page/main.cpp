@@ -33,8 +33,8 @@ int Fail(int status, const std::exception& error) {
     return status;
 }
 
-/// Whatever reads rasters and pictures and draws them is in the separate process; here is
-/// only what speaks to people and what gives the output its name.
+/// All reading and drawing of rasters and pictures happens in the separate process; this
+/// one only prints messages and names the output.
 std::string DrawSeparately(const map_page::Options& options, const std::string& place) {
     map_page::OutputFiles files(options);
     const auto draw = [&](const host::Progress&) {

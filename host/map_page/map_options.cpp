@@ -18,7 +18,7 @@ constexpr const char* kMap = "Map";
 constexpr const char* kScaleBar = "Scale bar";
 constexpr std::string_view kOneTo = "1:";
 
-/// The denominator of "1:25000" or "25000"; none where it is no scale.
+/// The denominator of "1:25000" or "25000"; nothing for any other text.
 std::optional<double> ScaleIn(const std::string& text) {
     constexpr double kLargest = 1.0e12;
     const bool hasOne = text.compare(0, kOneTo.size(), kOneTo) == 0;

@@ -4,7 +4,7 @@
 
 #include "map_page/options.h"
 
-// The options of the map, and of what on the page follows from it.
+// The options of the map, and of what follows from it on the page.
 namespace map_page {
 
 void DeclareMap(CLI::App& app, Options& options);

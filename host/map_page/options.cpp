@@ -73,7 +73,7 @@ Examples:
   map_page page.json -o a3.pdf --size A3 --scale 1:25000 --title "Recife"
   map_page page.json --series sheets.csv -o 'sheets/{name}.png' --jobs 4)";
 
-/// With the names of colours, some to a line.
+/// Lists the colour names, several per line.
 std::string Footer() {
     constexpr std::size_t kNamesInALine = 12;
     constexpr std::string_view kPlace = "{colours}";
@@ -149,7 +149,7 @@ void DeclareSafety(CLI::App& app, Options& options) {
         ->group("Safety");
 }
 
-/// What stands in the properties of a file.
+/// The document properties of the output.
 void DeclareAbout(CLI::App& app, Options& options) {
     const struct {
         const char* name;
@@ -279,7 +279,7 @@ void Declare(CLI::App& app, Given& given, Options& options) {
 
 bool IsOfPageFile(const Given& given) { return host::IsPageFile(given.rasters.front()); }
 
-/// Those that go with nothing else.
+/// Those that are only for a page file.
 constexpr const char* kOnlyWithPageFile[] = {"--series", "--allow-outside",
                                              "--allow-remote", "--allow-all"};
 
@@ -315,7 +315,7 @@ void CheckWorldFile(const std::string& output) {
     }
 }
 
-/// Fills in what is not only a matter of the command line.
+/// Fills in what depends on more than the command line.
 void Complete(const CLI::App& app, const Given& given, Options& options) {
     options.rasters = given.rasters;
     if (IsOfPageFile(given)) {
@@ -346,7 +346,7 @@ void Complete(const CLI::App& app, const Given& given, Options& options) {
           std::pair("--author", &options.about.author),
           std::pair("--subject", &options.about.subject),
           std::pair("--keywords", &options.about.keywords)}) {
-        ReadText(option, *text);  // throws for what is no text
+        ReadText(option, *text);  // throws for invalid text
     }
     design.paper = ReadPaper("--size", given.size, given.portrait);
 

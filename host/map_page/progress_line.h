@@ -7,24 +7,24 @@
 
 namespace map_page {
 
-/// One line on a terminal that says what is being done and how far it has come:
-/// `map_page: reading the rasters 40 %`. It shows itself when the work takes longer than
-/// a second, and is gone when the object is.
+/// A line on the terminal that says what is being done, and how much of it is: `map_page:
+/// reading the rasters 40 %`. It appears when the work takes longer than a second, and
+/// disappears with the object.
 class ProgressLine {
 public:
-    /// @param descriptor of standard error; where that is no terminal nothing is shown
+    /// @param descriptor of standard error; nothing is shown unless it is a terminal
     explicit ProgressLine(int descriptor);
     ProgressLine(const ProgressLine&) = delete;
     ProgressLine& operator=(const ProgressLine&) = delete;
     ~ProgressLine();
 
-    /// Begins a step whose progress is not known, or not yet.
+    /// Begins a step whose progress is unknown, at least for now.
     void Begin(const std::string& step);
 
     /// @param part of the step that is done, 0 to 1
     void Show(double part);
 
-    /// Removes the line of a process that was killed and could not do so itself.
+    /// Removes the line left by a process that was killed.
     static void Erase(int descriptor);
 
 private:
@@ -35,7 +35,7 @@ private:
     std::string m_step;
     int m_percent = -1;  // unknown
     bool m_done = false;
-    int m_terminal;  // none for no terminal
+    int m_terminal;  // -1 when it is not a terminal
     std::thread m_thread;
 };
 

@@ -16,7 +16,7 @@ Quiet::Quiet(std::string place)
     if (m_standardError >= 0) {
         std::fflush(stderr);
         close(STDERR_FILENO);
-        open("/dev/null", O_WRONLY);  // gets its number, where no other may be left
+        open("/dev/null", O_WRONLY);  // takes its number, when descriptors have run out
     }
 }
 

@@ -4,8 +4,8 @@
 
 namespace map_page {
 
-/// Silences standard error while it lives, but for its own warnings: the libraries that
-/// read and draw write there by themselves, and a person gets one line of ours.
+/// Silences standard error while it lives, except for its own warnings: the libraries
+/// that read and draw write there too, and the user gets one line of ours.
 /// (AddressSanitizer's reports are kept with its option log_path.)
 class Quiet {
 public:
@@ -15,7 +15,7 @@ public:
     Quiet& operator=(const Quiet&) = delete;
     ~Quiet();
 
-    /// Standard error as it was before: a descriptor.
+    /// The descriptor of the real standard error.
     int Voice() const { return m_standardError; }
 
     void Warn(const std::string& what) const;

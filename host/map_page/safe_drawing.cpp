@@ -15,7 +15,7 @@
 namespace map_page {
 namespace {
 
-// Of what libraries load when they first need it.
+// What libraries load on first use.
 constexpr const char* kSystemPlaces[] = {"/usr", "/lib", "/lib64", "/etc/ld.so.cache",
                                          "/etc/localtime"};
 
@@ -29,8 +29,8 @@ std::vector<std::string> Readable(const Options& options,
     return places;
 }
 
-/// A raster of the caller's own, and what lies beside it under the same name: "scene.tif"
-/// with "scene.tif.ovr" and "scene.tfw".
+/// The user's own raster, and its side files: "scene.tif" with "scene.tif.ovr" and
+/// "scene.tfw".
 void AllowWithSideFiles(const std::string& raster, host::AllowedSources& allowed) {
     namespace fs = std::filesystem;
     allowed.Allow(raster);

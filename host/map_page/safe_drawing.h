@@ -7,13 +7,13 @@
 
 namespace map_page {
 
-/// What a page file, and the list of a series, may have read; none: all, for rasters on
-/// the command line are the caller's own.
+/// What a page file, or the list of a series, may have read; nothing for rasters on the
+/// command line, which are the user's own: they may read everything.
 std::optional<host::AllowedSources> AllowedBy(const Options& options);
 
 /// Takes from this process, for good, what drawing the page does not need, as far as the
-/// kernel can: new files, programs, the network and files to read elsewhere. Rasters on
-/// the command line of a kind that may need more, such as a service's, keep it all.
+/// kernel can: new files, programs, the network and files elsewhere. Rasters on the
+/// command line that may need more, such as those of a service, are not confined.
 void Confine(const Options& options);
 
 }  // namespace map_page

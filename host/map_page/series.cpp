@@ -28,7 +28,7 @@
 namespace map_page {
 namespace {
 
-/// Pages that are being drawn, each in its process, and how those ended that are not.
+/// The processes that are drawing pages, and the results of those that ended.
 class Workers {
 public:
     Workers(const Options& options, std::size_t all, const DrawOne& draw)
@@ -73,7 +73,7 @@ private:
         m_running.emplace(process, page.line);
     }
 
-    /// In the process of the page.
+    /// In the page's process.
     int Draw(const SeriesPage& page) const {
         Options options = m_options;
         options.output = page.output;
@@ -116,7 +116,7 @@ private:
     std::size_t m_failed = 0;
 };
 
-/// The columns that are of no use unless the page has an element of that name.
+/// The columns that are useless unless the page has an element with that name.
 std::vector<std::string> ColumnsWithoutUse(const SeriesList& list) {
     std::vector<std::string> columns;
     std::copy_if(list.textColumns.begin(), list.textColumns.end(),
@@ -127,7 +127,7 @@ std::vector<std::string> ColumnsWithoutUse(const SeriesList& list) {
     return columns;
 }
 
-/// One folder that is missing is no row's fault.
+/// A missing folder is not the fault of any row.
 void CheckFolder(const std::string& output) {
     const std::size_t slash = output.rfind('/');
     const std::string folder =

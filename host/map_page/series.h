@@ -13,18 +13,18 @@ namespace map_page {
 /// warnings: "list.csv: line 7".
 using DrawOne = std::function<void(const Options&, const std::string&)>;
 
-/// Throws Error for the first of the columns that names no element with a text.
+/// Throws Error for the first column that does not name an element with a text.
 using CheckColumns = std::function<void(const std::vector<std::string>&)>;
 
-// What the ways of drawing a series share.
+// Shared by the two ways of drawing a series.
 
-/// Outputs get their names when they are complete, so one that is there is complete.
+/// Outputs get their names only when complete, so an existing one is complete.
 bool IsDrawn(const std::string& output);
 
 /// One line on standard error.
 void Tell(const std::string& what);
 
-/// On a terminal, how far the series has come.
+/// Shows on a terminal how far the series has come.
 void ShowPages(std::size_t done, std::size_t all);
 
 /// "list.csv: line 7"
@@ -34,8 +34,8 @@ std::string PlaceOf(const Options& options, std::size_t line);
 std::string SumOf(std::size_t drawn, std::size_t skipped, std::size_t failed);
 
 /// Draws a page for each row of the list, `options.jobs` at a time, each in a process of
-/// its own. Existing outputs are skipped. A page that fails is reported in one line on
-/// standard error, and the others go on. All pages go into one file where IsAtlas says
+/// its own. Existing outputs are skipped. A page that fails is reported on one line of
+/// standard error, and the others continue. All pages go into one file where IsAtlas says
 /// so. Call it while the program has one thread.
 /// @return the summary; throws Error with it when a page failed
 std::string DrawSeries(const Options& options, const CheckColumns& checkColumns,

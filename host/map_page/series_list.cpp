@@ -69,7 +69,7 @@ std::vector<NamePiece> PiecesOf(const std::string& output,
     return pieces;
 }
 
-/// A value as a part of a file name.
+/// A value as part of a file name.
 std::string Safe(std::string value) {
     for (char& c : value) {
         if (c == '/' || static_cast<unsigned char>(c) < 0x20 || c == 0x7F) {
@@ -148,7 +148,7 @@ std::string FileIn(const std::string& text, const host::FilePaths& paths) {
     return file;
 }
 
-/// Of cells that are values of options.
+/// From cells that are values of options.
 host::PageChanges ChangesOfOptions(const std::vector<std::string>& options) {
     try {
         return options.empty() ? host::PageChanges() : ChangesOfCells(options);
@@ -185,7 +185,7 @@ host::PageChanges ChangesIn(const std::vector<std::string>& columns,
     return host::Merged(ChangesOfOptions(options), changes);
 }
 
-/// All that are neither known by name nor only there for the outputs' names.
+/// Those that are neither known columns nor only there for the outputs' names.
 std::vector<std::string> TextColumnsOf(const std::vector<std::string>& columns) {
     std::vector<std::string> texts;
     for (const std::string& column : columns) {
@@ -215,7 +215,7 @@ void CheckOutputsDiffer(const std::vector<SeriesPage>& pages) {
     }
 }
 
-/// The row's value of a column; empty where there is none.
+/// The row's value in a column; empty for a missing column.
 std::string ValueOf(const CsvRecord& record, const std::vector<std::string>& columns,
                     const char* name) {
     const std::size_t column = ColumnOf(columns, name);
@@ -237,7 +237,7 @@ SeriesPage PageOf(const CsvRecord& record, const std::vector<std::string>& colum
         page.name = ValueOf(record, columns, kNameColumn);
     } catch (const Error& error) {
         page.error = error.what();
-        page.output = "line " + std::to_string(record.line);  // of no other row
+        page.output = "line " + std::to_string(record.line);  // unique to this row
     }
     return page;
 }

@@ -13,7 +13,7 @@ namespace map_page {
 struct SeriesPage {
     std::size_t line = 0;  ///< of the list, counted from 1
     std::string output;
-    std::string name;  ///< what the column "name" has, for a page of an atlas
+    std::string name;  ///< the value of column "name", for an atlas page
     host::PageChanges changes;
     std::string error;  ///< why it cannot be drawn; empty for none
 };
@@ -21,7 +21,7 @@ struct SeriesPage {
 /// A series of pages, from a list of comma-separated values whose first row names the
 /// columns (see docs/series.md).
 struct SeriesList {
-    /// Columns that set the text of the element of that name, where there is one.
+    /// Columns that set the text of the element with the same name, if there is one.
     std::vector<std::string> textColumns;
     /// Columns used in the outputs' names; they need not name an element as well.
     std::vector<std::string> nameColumns;
@@ -35,13 +35,11 @@ bool IsAtlas(const std::string& output);
 /// @param path of the list; its rasters are relative to its folder
 /// @param output name of the outputs, in which {column} is the row's value. Slashes and
 /// control characters in a value, and a dot at its start, become underscores, so that no
-/// value leads into another folder.
-/// Where the output is one file for all, an atlas, the column "name" need not be part of
-/// its name.
-/// @param allowed what may be read of the rasters; null: all. A row with others has an
-/// error.
-/// Throws Error when the file is not a list, a column has no name or that of another, a
-/// placeholder names no column, or two rows have the same output.
+/// value leads into another folder. Where all pages go into one file, an atlas, the
+/// column "name" need not be part of its name.
+/// @param allowed what may be read of the rasters; null: everything. A row with other
+/// rasters gets an error. Throws Error when the file is not a list, a column has no name
+/// or a duplicate one, a placeholder names no column, or two rows have the same output.
 SeriesList ReadSeries(const std::string& path, const std::string& output,
                       const host::AllowedSources* allowed);
 

@@ -13,7 +13,7 @@ class App;
 
 namespace map_page {
 
-/// The options of how the map's rasters are shown, as they were given.
+/// The options for how the map's rasters are shown, as given.
 struct GivenStyle {
     std::optional<std::string> stretch;
     std::optional<std::string> bands;
@@ -22,14 +22,14 @@ struct GivenStyle {
 
 void DeclareStyle(CLI::App& app, GivenStyle& given);
 
-/// Throws UsageError for a value that is none.
+/// Throws UsageError for an invalid value.
 host::RasterStyle ReadStyle(const GivenStyle& given);
 
-/// What is given, by the names of a map's properties.
+/// The given options, by the names of a map's properties.
 std::vector<std::pair<std::string, std::string>> MapTexts(const GivenStyle& given);
 
 /// The command line without the program, and with a stretch of several words as one
-/// argument: "percent 2 98". CLI11 would take the rasters after a shorter one for words
+/// argument: "percent 2 98". After a shorter one, CLI11 would take the rasters for words
 /// of it.
 std::vector<std::string> Arguments(int argc, const char* const* argv);
 

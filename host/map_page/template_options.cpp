@@ -17,7 +17,7 @@
 namespace map_page {
 namespace {
 
-// Those of a single value; extent, stretch, bands and noData are columns of their own.
+// Options of a single value; extent, stretch, bands and noData are columns of their own.
 constexpr std::string_view kColumns[] = {
     "title-font",  "title-size",  "title-style", "picture",       "legend-title",
     "legend-font", "scale",       "scale-bar",   "divisions",     "subdivisions",
@@ -25,7 +25,7 @@ constexpr std::string_view kColumns[] = {
     "north-arrow", "north-angle", "size",        "border",        "shadow",
     "background",  "language"};
 
-/// What was given, as changes of a page.
+/// The given options as changes to a page.
 class Changes {
 public:
     explicit Changes(const CLI::App& app) : m_app(app) {}
@@ -84,7 +84,7 @@ void ChangeTexts(const Given& given, const host::PageDesign& design, Changes& ch
 void ChangeBar(const host::ScaleBarDesign& design, Changes& changes) {
     changes.Style("--scale-bar", SurroundScaleBar, design.style.value_or(nullptr));
     for (const char* const option : {"--units", "--distances"}) {
-        // Whatever the bar did: it counts what it says, and so follows the map.
+        // A bar that counts what it says, and so follows the map.
         changes.Element(option, SurroundScaleBar, "exact", true);
         changes.Choice(option, SurroundScaleBar, "distances", design.distances);
     }
@@ -123,7 +123,7 @@ void ChangePaper(const Given& given, const host::PageDesign& design, Changes& ch
     paper.isUpright = given.portrait;
     if (changes.Has("--size")) {
         paper.paper = design.paper;
-        // Sides in millimetres are meant as they are given, and a name either way.
+        // Sides in millimetres are taken as given; a named sheet may be turned.
         const char first = given.size.empty() ? '0' : given.size.front();
         paper.turns = first < '0' || first > '9';
     }

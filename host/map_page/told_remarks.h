@@ -12,7 +12,7 @@ namespace map_page {
 /// Warns of each thing once.
 class ToldRemarks {
 public:
-    /// @param quiet whose voice warns; null: nobody does
+    /// @param quiet prints the warnings; null: nothing is printed
     explicit ToldRemarks(const Quiet* quiet) : m_quiet(quiet) {}
 
     void Tell(const std::vector<std::string>& remarks) {

@@ -1,6 +1,6 @@
 #pragma once
 
-// The values of options: what they may be, and what those that CLI11 leaves as text stand
+// The values of options: which are valid, and what those that CLI11 leaves as text stand
 // for.
 
 #include <gdiplus.h>
@@ -31,7 +31,7 @@ Words<const host::CatalogueEntry*> Styles(MapSurroundType family);
 /// The default style, for the help: "(two, where the map has coordinates)".
 std::string UsualStyle(MapSurroundType family);
 
-/// An option that is one of a few words, of which each stands for a value.
+/// An option with a few words to choose from, each standing for a value.
 template <typename Target, typename Value>
 CLI::Option* AddChoice(CLI::App& app, const std::string& name, Target& target,
                        const Words<Value>& words, const std::string& about) {
@@ -46,13 +46,13 @@ CLI::Option* AddChoice(CLI::App& app, const std::string& name, Target& target,
         ->check(CLI::IsMember(words));
 }
 
-/// Takes a finite number from `lowest` to `highest`. (CLI::Range takes "nan" too.)
+/// Accepts a finite number from `lowest` to `highest`. (CLI::Range accepts "nan" too.)
 CLI::Validator NumberIn(double lowest, double highest);
 
-// Each of these throws UsageError that names the option and says what it takes.
+// Each of these throws UsageError that names the option and says what it accepts.
 
-/// "none" is no colour; else one of a few names, #RRGGBB or #RRGGBBAA. "on" leaves the
-/// colour as it is by default, "off" is none.
+/// "none" is no colour; otherwise a colour name, #RRGGBB or #RRGGBBAA. "on" is the
+/// default colour, "off" is none.
 std::optional<Gdiplus::Color> ReadColor(const std::string& option,
                                         const std::string& text,
                                         std::optional<Gdiplus::Color> byDefault);
@@ -60,7 +60,7 @@ std::optional<Gdiplus::Color> ReadColor(const std::string& option,
 /// UTF-8 as wide text.
 std::wstring ReadText(const std::string& option, const std::string& text);
 
-/// A sheet; upright when `portrait` is set and it is wider than high.
+/// A sheet; in portrait when `portrait` is set.
 host::PaperSize ReadPaper(const std::string& option, const std::string& text,
                           bool portrait);
 

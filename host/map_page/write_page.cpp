@@ -34,7 +34,7 @@ std::string WriteInto(const Options& options, const host::Page& page,
                       const host::OutputFile& output, const Quiet& quiet) {
     host::Naming("--dpi", [&] { host::CheckPageSize(page, options.dpi); });
     host::Naming(options.output, [&] {
-        // Of a series, the pages that are done are shown.
+        // A series shows how many pages are done instead.
         ProgressLine line(options.series.empty() ? quiet.Voice() : -1);
         line.Begin("reading the rasters");
         const host::Progress show = [&line](double part) {

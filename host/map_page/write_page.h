@@ -9,8 +9,8 @@
 
 namespace map_page {
 
-/// Draws the page into the file that the options name, and returns how large it is:
-/// "1754 x 1240 pixels". Throws as DrawPage does.
+/// Draws the page into the file that the options name, and returns its size: "1754 x 1240
+/// pixels". Throws as DrawPage does.
 std::string WriteInto(const Options& options, const host::Page& page,
                       const host::OutputFile& output, const Quiet& quiet);
 
