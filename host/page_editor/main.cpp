@@ -33,7 +33,7 @@ struct Options {
     std::vector<std::size_t> select;
 };
 
-/// @return none, after telling, for --help and --version
+/// @return nothing for --help and --version, which it prints
 std::optional<Options> ReadCommandLine(int argc, char** argv) {
     Options options;
     CLI::App app("Lays out the page around a map by hand.", "page_editor");
@@ -67,7 +67,7 @@ bool Open(page_editor::EditorWindow& window, const Options& options) {
     const bool isForAPerson = options.screenshot.empty();
     if (!files.isEmpty() && !window.Files().OpenFiles(files, isForAPerson)) {
         Fail(window.LastFailure().toStdString());
-        return isForAPerson;  // the window says it too
+        return isForAPerson;  // the window shows it too
     }
     page_editor::Indices selection;
     for (const std::size_t item : options.select) {
@@ -96,7 +96,7 @@ int Run(int argc, char** argv) {
         return 0;
     }
     CPLSetErrorHandler(CPLQuietErrorHandler);
-    host::StartGdal();  // for the helper too
+    host::StartGdal();  // for the helper process too
     host::StartHelper(page_editor::FileJobs());
     const QApplication application(argc, argv);
     host::RemoveUnfinishedOutputOnSignals();

@@ -9,7 +9,7 @@
 namespace page_editor {
 namespace {
 
-/// The lines of the sheet and of all items but some.
+/// The lines of the sheet and of all items except some.
 SnapLines LinesOf(const PageDocument& document, const Indices& but) {
     SnapLines lines;
     lines.Add({0.0, 0.0, document.Page().Width(), document.Page().Height()});
@@ -21,7 +21,8 @@ SnapLines LinesOf(const PageDocument& document, const Indices& but) {
     return lines;
 }
 
-/// How far it is in one direction: to the nearest line, else in whole units.
+/// The distance after snapping in one direction: to the nearest line, else to whole
+/// units.
 double Snapped(double distance, std::vector<double> places,
                const std::vector<double>& lines, const DragRules& rules,
                std::vector<double>& marks) {

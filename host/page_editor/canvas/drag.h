@@ -12,20 +12,20 @@ namespace page_editor {
 
 /// How a drag follows the pointer.
 struct DragRules {
-    bool isFree = false;          ///< draws to no lines and no whole units
-    bool isProportioned = false;  ///< the other way round where proportions are kept
-    double tolerance = 0.0;       ///< how far lines draw, page units
+    bool isFree = false;          ///< does not snap
+    bool isProportioned = false;  ///< keeps proportions, or frees those that are kept
+    double tolerance = 0.0;       ///< the reach of snapping, page units
 };
 
-/// What is shown of a drag besides the page.
+/// What a drag shows besides the page.
 struct DragMarks {
-    std::vector<double> x;  ///< upright lines that it was drawn to, page units
+    std::vector<double> x;  ///< vertical lines that it snapped to, page units
     std::vector<double> y;
-    std::optional<host::Box> outline;  ///< what will be when the drag ends
+    std::optional<host::Box> outline;  ///< the frame when the drag ends
 };
 
-/// What happens to the page while the pointer is held down. Ends in one command, or in
-/// none when it is cancelled.
+/// Changes the page while the mouse button is held down. Ends in one command, or in none
+/// when it is cancelled.
 class Drag {
 public:
     Drag() = default;
@@ -38,7 +38,7 @@ public:
     virtual void End() = 0;
     virtual void Cancel() = 0;
 
-    /// What the last To changed: moved only, or changed in shape too.
+    /// The items that the last To changed: only moved, or changed in shape too.
     virtual const Indices& Items() const = 0;
     virtual bool ChangesShape() const { return false; }
 
@@ -51,12 +51,12 @@ protected:
 /// Moves the selected items.
 std::unique_ptr<Drag> MoveSelected(PageDocument& document, CPoint2D from);
 
-/// Pulls a handle of an item. An element grows with its frame; a map is only outlined
-/// until the end, since its rasters are read anew for another size.
+/// Drags a handle of an item. An element grows with its frame; a map is only outlined
+/// until the end, since a new size means reading its rasters again.
 std::unique_ptr<Drag> PullHandle(PageDocument& document, std::size_t item, int handle,
                                  CPoint2D from);
 
-/// Selects the items that lie in a rectangle, besides those selected before.
+/// Selects the items within a rectangle, in addition to those already selected.
 std::unique_ptr<Drag> SelectWithin(PageDocument& document, CPoint2D from);
 
 }  // namespace page_editor

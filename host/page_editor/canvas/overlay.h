@@ -9,10 +9,10 @@ namespace page_editor {
 
 constexpr int kHandleSide = 8;  ///< pixels
 
-/// Draws what is selected: an outline each, with handles.
+/// Draws the selection: an outline for each item, with handles.
 void DrawSelection(QPainter& painter, const View& view, const PageDocument& document);
 
-/// Draws the lines that a drag was drawn to, and its outline.
+/// Draws the lines that a drag snapped to, and its outline.
 void DrawMarks(QPainter& painter, const View& view, const DragMarks& marks,
                const QRectF& visible);
 

@@ -23,8 +23,7 @@ constexpr double kSnapReach = 6.0;
 constexpr double kWheelStep = 1.2;
 constexpr QRgb kDesk = 0xFF9AA0A6;
 
-// Milliseconds. A page that takes longer to draw waits, while the wheel is turned, for a
-// pause.
+// Milliseconds. A page that is slow to draw waits for a pause while the wheel is turned.
 constexpr int kSlowRedraw = 50;
 constexpr int kPause = 150;
 
@@ -94,8 +93,8 @@ void PageCanvas::PlaceToFit() {
     m_fits = true;
 }
 
-/// Everything anew, at the resolution of the zoom. While a map is read the window lives
-/// on and may have another size: that is drawn later.
+/// Redraws everything, at the resolution of the zoom. The window stays alive while a map
+/// is read and may be resized: the new size is drawn later.
 void PageCanvas::Redraw() {
     if (m_surface.IsDrawing()) {
         m_pause.start();
@@ -151,7 +150,7 @@ void PageCanvas::OnPageReplaced() {
     }
 }
 
-/// In the middle where there is room, else where the scroll bars say.
+/// In the middle where it fits, else where the scroll bars say.
 void PageCanvas::PlaceSheet() {
     const host::Page& page = m_document.Page();
     const QSize sheet(static_cast<int>(std::ceil(page.Width() * m_view.zoom)),
@@ -189,7 +188,7 @@ void PageCanvas::paintEvent(QPaintEvent* event) {
                          QString::fromStdString(m_surface.Failure()));
         return;
     }
-    // Until it is drawn at this zoom, what there is of another is stretched.
+    // Until it is drawn at this zoom, the previous drawing is stretched.
     const double ratio = devicePixelRatioF() * m_drawnZoom / m_view.zoom;
     const QRectF shown = QRectF(event->rect()).translated(-m_view.corner);
     const QRectF source(shown.topLeft() * ratio, shown.size() * ratio);
@@ -223,7 +222,7 @@ void PageCanvas::wheelEvent(QWheelEvent* event) {
         return;
     }
     const double steps = event->angleDelta().y() / 120.0;
-    if (steps != 0.0) {  // a wheel that only turns sideways zooms nothing
+    if (steps != 0.0) {  // horizontal scrolling does not zoom
         PlaceAtZoom(m_view.zoom * std::pow(kWheelStep, steps), event->position());
         RedrawSoon();
     }
@@ -277,7 +276,7 @@ void PageCanvas::PressAt(QPointF point, Qt::KeyboardModifiers modifiers) {
 void PageCanvas::mouseMoveEvent(QMouseEvent* event) {
     const QPointF point = event->position();
     if (m_drag != nullptr && !event->buttons().testFlag(Qt::LeftButton)) {
-        EndDrag();  // it was let go before a dialog
+        EndDrag();  // the button was released before a dialog
     }
     if (m_isPanning) {
         const QPointF by = point - m_panned;

@@ -14,21 +14,21 @@
 
 namespace page_editor {
 
-/// The page on the desktop: drawn by the library, changed with pointer and keys.
+/// The page on the screen: drawn by the library, changed with mouse and keyboard.
 ///
-/// A click selects, with Shift or Ctrl besides what is selected; dragging moves, or pulls
-/// a handle. Alt lets go of lines and whole units; Shift keeps proportions, or lets go of
-/// those that are kept. The middle button, or Space, moves the sheet; Ctrl and the wheel
-/// zoom about the pointer. Arrow keys move what is selected by 1, with Shift by 10, and
-/// with Ctrl they resize it; the sheet is moved where nothing is selected. Tab goes
-/// through the items, Escape gives a drag up.
+/// A click selects, and with Shift or Ctrl adds to the selection; dragging moves, or
+/// resizes by a handle. Alt suspends snapping; Shift keeps proportions, or frees those
+/// that are kept. The middle button, or Space, pans; Ctrl and the wheel zoom about the
+/// pointer. Arrow keys move the selection by 1, with Shift by 10, and with Ctrl they
+/// resize it; with nothing selected they pan. Tab goes through the items, Escape cancels
+/// a drag.
 class PageCanvas : public QAbstractScrollArea {
     Q_OBJECT
 public:
     /// @param document outlives this
     explicit PageCanvas(PageDocument& document, QWidget* parent = nullptr);
 
-    /// Pixels in a page unit: 1 at 100 %.
+    /// Pixels per page unit: 1 at 100 %.
     double Zoom() const { return m_view.zoom; }
     void SetZoom(double zoom);
     /// Zooms so that a point of the viewport stays where it is.
@@ -40,18 +40,18 @@ public:
     const QImage& Image() const { return m_surface.Image(); }
     bool IsDragging() const { return m_drag != nullptr; }
 
-    /// Gives up a drag that is going on; what it changed is as before.
+    /// Cancels a drag and undoes its changes.
     void CancelDrag();
-    /// Moves what is selected, as the arrow keys do.
+    /// Moves the selection, as the arrow keys do.
     void Nudge(double dx, double dy);
-    /// Pulls the right edge, or else the top edge, of what is selected, as a drag does.
+    /// Moves the right edge, or else the top edge, of the selection, as a drag does.
     void Grow(double dx, double dy);
 
 Q_SIGNALS:
     void ZoomChanged(double zoom);
     /// Something could not be done; one line says what and why.
     void Failed(const QString& why);
-    /// Why elements are not shown whole, one line each; none when all are.
+    /// Why elements are not shown completely, one line each; empty when all are.
     void Undrawn(const QStringList& why);
 
 protected:
@@ -89,8 +89,8 @@ private:
     View m_view;
     bool m_fits = true;  // follows the size of the window
     double m_drawnZoom = 1.0;
-    bool m_isSlow = false;  // drawing the page takes longer than a turn of the wheel
-    QTimer m_pause;         // until it is drawn at the zoom
+    bool m_isSlow = false;  // drawing the page takes longer than a wheel step
+    QTimer m_pause;         // until it is redrawn at the zoom
 
     std::unique_ptr<Drag> m_drag;
     QPointF m_pressed;

@@ -1,4 +1,4 @@
-// What the keyboard does to the page.
+// The keyboard on the canvas.
 
 #include <QKeyEvent>
 #include <optional>
@@ -10,7 +10,7 @@
 namespace page_editor {
 namespace {
 
-/// The way that an arrow key points, page units of 1.
+/// The direction of an arrow key, one page unit long.
 std::optional<CPoint2D> ArrowOf(int key) {
     switch (key) {
         case Qt::Key_Left:
@@ -69,7 +69,7 @@ void PageCanvas::keyPressEvent(QKeyEvent* event) {
             m_isSpaceDown = true;
             return viewport()->setCursor(Qt::OpenHandCursor);
         default:
-            QAbstractScrollArea::keyPressEvent(event);  // arrows move the sheet
+            QAbstractScrollArea::keyPressEvent(event);  // arrow keys pan
     }
 }
 

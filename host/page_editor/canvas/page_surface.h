@@ -22,37 +22,37 @@ public:
     explicit PageSurface(const host::Page& page, host::Progress progress = {})
         : m_page(page), m_progress(std::move(progress)) {}
 
-    /// Whether something is being drawn: `progress` may lead back here, which then draws
+    /// Whether a drawing is under way: `progress` may lead back here, which then does
     /// nothing.
     bool IsDrawing() const { return m_isDrawing; }
 
-    /// Draws everything at a resolution, rasters included. What was drawn before is shown
+    /// Draws everything at a resolution, rasters included. The previous drawing is shown
     /// until then.
-    /// @param dpi device pixels an inch
+    /// @param dpi device pixels per inch
     void Begin(double dpi);
 
-    /// Forgets what is shown, when the page is replaced by another.
+    /// Forgets the drawing, when the page is replaced by another.
     void Forget();
 
-    /// Draw what was changed; the pixels that are different now. See host::LivePage.
+    /// Redraw what was changed; return the pixels that differ. See host::LivePage.
     void DrawAll();
     QRect DrawMoved(std::size_t item);
     QRect DrawChanged(std::size_t item);
 
-    /// Empty where the page cannot be drawn.
+    /// Empty when the page cannot be drawn.
     const QImage& Image() const { return m_image; }
     /// Whether the page still has the size that it was drawn at.
     bool IsOfTheSheet() const {
         return !m_image.isNull() && m_width == m_page.Width() &&
                m_height == m_page.Height();
     }
-    /// Why it cannot; else empty.
+    /// Why it cannot; otherwise empty.
     const std::string& Failure() const { return m_failure; }
-    /// Why elements are not drawn whole, one line each.
+    /// Why elements are not drawn completely, one line each.
     std::vector<std::string> Undrawn() const {
         return m_live == nullptr ? std::vector<std::string>() : m_live->Failures();
     }
-    /// Why a map was hatched since this was asked last; else empty.
+    /// Why a map was hatched since the last call; otherwise empty.
     std::string TakeMapFailure() { return std::exchange(m_mapFailure, {}); }
 
 private:
@@ -72,7 +72,7 @@ private:
     std::string m_mapFailure;
 };
 
-/// The highest resolution at which a page is drawn on a screen, and the lowest.
+/// The highest and lowest resolutions at which a page is drawn on a screen.
 double HighestDpi(const host::Page& page);
 double LowestDpi(const host::Page& page);
 

@@ -8,11 +8,11 @@
 
 namespace page_editor {
 
-/// Where the sheet stands in a widget: page units, y growing upwards, to the widget's
-/// pixels, y growing downwards.
+/// The place of the sheet in a widget: from page units, y growing upwards, to the
+/// widget's pixels, y growing downwards.
 struct View {
     QPointF corner;           ///< of the sheet, top left
-    double zoom = 1.0;        ///< pixels in a page unit
+    double zoom = 1.0;        ///< pixels per page unit
     double pageHeight = 0.0;  ///< page units
 
     QPointF ToWidget(CPoint2D point) const {

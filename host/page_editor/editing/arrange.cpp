@@ -25,7 +25,7 @@ CPoint2D AlignOffset(const host::Box& box, AlignTo to, const host::Box& around) 
     return {0.0, 0.0};
 }
 
-/// A box's beginning and length along a direction.
+/// A box's beginning and length along an axis.
 struct Stretch {
     std::size_t box;
     double first;
@@ -48,7 +48,7 @@ std::vector<Stretch> StretchesOf(const std::vector<host::Box>& boxes,
     return stretches;
 }
 
-/// From the bottom up, lets each selected item and the one above it change places.
+/// From the bottom up, swaps each selected item with the one above it.
 Indices RaisedByOne(Indices order, const std::vector<bool>& selected) {
     for (std::size_t place = order.size(); place-- > 1;) {
         if (selected[order[place - 1]] && !selected[order[place]]) {

@@ -14,7 +14,8 @@
 namespace page_editor {
 namespace {
 
-/// The properties that are lengths of an element, and a scale bar's distance over one.
+/// The properties that are lengths of an element, and the distance of a scale bar's
+/// division.
 constexpr std::string_view kLengths[] = {
     "fontSize", "divisionLength", "divisionValue", "offsetX", "offsetY", "size",
 };
@@ -24,7 +25,7 @@ double NumberIn(const host::PropertyValue& value) {
     return integer != nullptr ? *integer : std::get<double>(value);
 }
 
-/// A length of a property's kind, within its range. What was something stays so.
+/// A length in the type of a property, within its range. A positive one stays positive.
 host::PropertyValue LengthFor(const host::Property& property, double length) {
     const double within =
         std::clamp(length, property.range.lowest, property.range.highest);

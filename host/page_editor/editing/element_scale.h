@@ -9,8 +9,8 @@
 
 namespace page_editor {
 
-/// The lengths of an item's element as they were when its frame began to be resized, so
-/// that element and frame grow together.
+/// The lengths of an item's element when resizing of its frame began, so that element and
+/// frame grow together.
 class ElementScale {
 public:
     explicit ElementScale(const host::PageItem& item);
@@ -21,8 +21,8 @@ public:
     /// Whether there is an element that grows with the frame.
     bool HasElement() const { return !m_lengths.empty(); }
 
-    /// Makes the element as large in its frame's new extent as it was in the old, and
-    /// measures it: a title gets larger type, a scale bar longer divisions of more.
+    /// Scales the element to its frame's new extent, and measures it: a title gets larger
+    /// type, a scale bar longer divisions of a larger value.
     void Apply(host::PageItem& item, const host::Box& extent) const;
 
 private:

@@ -53,8 +53,7 @@ std::string ReadWhole(const std::string& path) {
     return {};
 }
 
-/// Where no more is read than a page file may have read, and nothing else can be done. A
-/// raster that is not there is nobody's to allow.
+/// Confined to what a page file may have read. A missing raster needs no permission.
 std::string ReadRaster(const std::string& input, const host::Progress&) {
     const std::vector<std::string> fields = FieldsOf(input);
     const std::string& path = fields.at(0);

@@ -4,9 +4,9 @@
 
 namespace page_editor {
 
-/// What a file holds, as a short text that another content does not have; empty for a
-/// file that is not there or cannot be read. Times and sizes do not count: they may stay
-/// the same, or change with nothing else.
+/// A short text that identifies a file's contents; empty for a file that is missing or
+/// cannot be read. Times and sizes do not count: either may change without the contents,
+/// or stay the same.
 std::string StampOf(const std::string& path);
 
 }  // namespace page_editor

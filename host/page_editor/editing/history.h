@@ -7,11 +7,11 @@
 
 namespace page_editor {
 
-/// Items of a page by their place in its order, ascending.
+/// Items of a page by index, ascending.
 using Indices = std::vector<std::size_t>;
 
-/// An item as host::WriteItem writes it. States of a page share the texts of what did not
-/// change between them, so that the same pointer means the same item.
+/// An item as host::WriteItem writes it. States of a page share the texts of unchanged
+/// items, so that the same pointer means the same item.
 using ItemText = std::shared_ptr<const std::string>;
 
 /// A page at some time, and what was selected then.
@@ -24,36 +24,36 @@ struct PageState {
     std::vector<std::string> remarks = {};
 };
 
-/// The states that a page went through, one after each command, for going back and forth
-/// among them. The oldest are forgotten beyond a few hundred.
+/// The states of a page, one after each command, for undo and redo. Beyond a few hundred,
+/// the oldest are dropped.
 class History {
 public:
     static constexpr std::size_t kMostStates = 500;
 
-    /// Begins anew at a state, which counts as saved.
+    /// Starts again at a state, which counts as saved.
     void Reset(PageState state);
 
-    /// The state after a command; what was undone is forgotten.
+    /// The state after a command; what was undone is dropped.
     /// @param label the command, as a menu names it: "Move"
-    /// @param merge when it is not empty and the last command had the same, both become
-    /// one: a row of small steps is undone at once
+    /// @param merge if it is not empty and the last command had the same, both become
+    /// one: a series of small steps is undone at once
     void Push(PageState state, std::string label, std::string merge);
 
     const PageState& Current() const { return m_entries[m_current].state; }
     /// Keeps the selection of the current state up to date.
     void SetSelection(Indices selection);
-    /// The next command is a command of its own.
+    /// Keeps the next command separate from the last.
     void EndMerging() { m_entries[m_current].merge.clear(); }
 
     bool CanUndo() const { return m_current > 0; }
     bool CanRedo() const { return m_current + 1 < m_entries.size(); }
-    /// The states that undoing and redoing lead to; only where they can be.
+    /// The states that undo and redo lead to; only if there are any.
     const PageState& Previous() const { return m_entries[m_current - 1].state; }
     const PageState& Next() const { return m_entries[m_current + 1].state; }
     void StepBack() { --m_current; }
     void StepForth() { ++m_current; }
 
-    /// What undoing and redoing would undo and redo; empty where nothing.
+    /// The commands that undo and redo would affect; empty for none.
     std::string UndoLabel() const;
     std::string RedoLabel() const;
 

@@ -7,7 +7,7 @@
 namespace page_editor {
 namespace {
 
-/// Frames catch their handles from inside only; people also from just outside.
+/// Frames catch their handles only from inside; users also aim from just outside.
 CPoint2D Inside(const host::Box& box, CPoint2D point, double tolerance) {
     const auto within = [tolerance](double value, double low, double high) {
         const bool isNear = value >= low - tolerance && value <= high + tolerance;

@@ -13,8 +13,8 @@ struct Hit {
 };
 
 /// The handle of a selected item, else the topmost item. An empty frame without a
-/// background is seen through wherever something else lies.
-/// @param tolerance how far from a handle it is still caught, page units
+/// background is transparent wherever something else lies.
+/// @param tolerance how close to a handle counts as a hit, page units
 Hit HitAt(PageDocument& document, CPoint2D point, double tolerance);
 
 }  // namespace page_editor

@@ -75,7 +75,7 @@ void OpenOrHatch(host::PageItem& item, host::RasterStore& rasters,
         }
         for (const std::string& name : names) {
             if (!isMissing(name)) {
-                rasters.Raster(name);  // what is new must be there
+                rasters.Raster(name);  // new ones must exist
             }
         }
         Hatch(item, error.what());

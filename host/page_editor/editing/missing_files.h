@@ -1,6 +1,6 @@
 #pragma once
 
-// A page whose rasters were moved can be opened, mended and saved: its map is hatched
+// A page whose rasters were moved can be opened, repaired and saved: its map is hatched
 // until its rasters can be read.
 
 #include <set>
@@ -16,8 +16,8 @@ namespace page_editor {
 std::set<std::string> NotOpen(const std::vector<host::PageItem>& items,
                               const host::RasterStore& rasters);
 
-/// As host::OpenRasters, but what cannot be opened and is known to be missing is left
-/// out: a map is hatched, a legend explains nothing.
+/// As host::OpenRasters, but skips rasters known to be missing: a map is hatched, a
+/// legend explains nothing.
 void OpenOrHatch(host::PageItem& item, host::RasterStore& rasters,
                  const std::set<std::string>& missing);
 

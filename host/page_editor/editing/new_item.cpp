@@ -22,7 +22,7 @@ namespace {
 
 using Frame = std::unique_ptr<CSurroundFrame>;
 
-/// The first map of a page and what is said of it.
+/// The first map of a page and what the page says of it.
 struct PlacedMap {
     host::MapOnPage map;
     host::Box room;
@@ -42,7 +42,7 @@ PlacedMap FirstMap(const host::Page& page) {
     return {};
 }
 
-/// How an item of a type is laid out on this sheet.
+/// Lays out an item of a type on this sheet.
 class Placing {
 public:
     explicit Placing(const host::Page& page)
@@ -65,7 +65,7 @@ public:
         const host::Box room = {0.0, 0.0, m_measures.column, m_measures.column};
         auto frame = host::PlaceNorthArrow(m_design, m_map.map, Shown(), m_measures, room,
                                            m_remarks);
-        if (frame == nullptr) {  // where no map tells it, north is up
+        if (frame == nullptr) {  // without a map, north is up
             m_design.northArrow.angle = 0.0;
             m_remarks.clear();
             frame = host::PlaceNorthArrow(m_design, m_map.map, Shown(), m_measures, room,
@@ -102,7 +102,7 @@ public:
         return Alone(host::PlacePicture(m_design, m_measures, room));
     }
 
-    /// A frame around an element whatever it is; empty ones are as large as the room.
+    /// A frame around any element; an empty one is as large as the room.
     std::unique_ptr<CSurroundFrame> Any(const host::ItemType& type) {
         host::PageItem item = type.make();
         auto& frame = *host::FrameAs<host::PlacedFrame>(item);
@@ -116,12 +116,12 @@ public:
             auto& legendFrame = *host::FrameAs<host::LegendFrame>(item);
             legendFrame.SetJoinsTiles(true);
             legendFrame.SetExplainsRamps(true);
-            host::DressLegend(*legend, m_design);  // so that one sees its title
+            host::DressLegend(*legend, m_design);  // so that its title shows
         }
         if (auto* const bar = host::FrameAs<host::ScaleBarFrame>(item)) {
             bar->SetLanguage(*m_design.language);
             host::ElementOf<CScaleBarBase>(frame)->SetUnitsNameVerbatim(
-                m_design.language->mapUnit);  // whatever its numbers count
+                m_design.language->mapUnit);  // whatever its numbers are in
             bar->SetDivisionLength(m_room.Width() / 5.0);
         }
         element->ResetAspectRatio();
@@ -132,7 +132,7 @@ public:
         return std::get<Frame>(std::move(item));
     }
 
-    /// A map as large as two thirds of the sheet let it be.
+    /// A map as large as fits in two thirds of the sheet.
     host::PageItem Map(const std::vector<std::string>& paths, host::RasterStore& rasters,
                        const host::Progress& reading) const {
         TryRasters(paths, rasters, reading);
@@ -149,7 +149,7 @@ public:
     const std::vector<std::string>& Remarks() const { return m_remarks; }
 
 private:
-    /// A frame that stands by itself is no larger than its element asks for.
+    /// A frame that stands by itself is no larger than its element requires.
     std::unique_ptr<host::PlacedFrame> Alone(
         std::unique_ptr<host::PlacedFrame> frame) const {
         if (frame != nullptr) {

@@ -9,12 +9,12 @@
 
 namespace page_editor {
 
-/// A new item as people want to begin with: in the middle of the sheet, of a size that
-/// suits it, a scale bar and a legend for the first map on the page. Throws
-/// host::PageError when a file cannot be used.
+/// A new item to start from: in the middle of the sheet, of a suitable size, a scale bar
+/// and a legend for the first map on the page. Throws host::PageError when a file cannot
+/// be used.
 /// @param files the image of a picture, the rasters of a map; not for others
-/// @param reading told that files take long; may give them up
-/// @param remarks where what could not be done as one would expect is added, if not null
+/// @param reading called while files take long to read; may cancel the reading
+/// @param remarks if not null, what could not be done as one would expect is added
 host::PageItem NewItem(const host::ItemType& type, const host::Page& page,
                        host::RasterStore& rasters,
                        const std::vector<std::string>& files = {},

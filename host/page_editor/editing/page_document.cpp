@@ -17,7 +17,7 @@
 namespace page_editor {
 namespace {
 
-/// How far a copy stands from its original: right and down.
+/// The offset of a copy from its original: right and down.
 constexpr double kCopyOffset = 16.0;
 
 host::Page EmptySheet() {
@@ -33,7 +33,7 @@ Indices Range(std::size_t first, std::size_t last) {
     return range;
 }
 
-/// The places at which two lists of the same length differ.
+/// The indices at which two lists of the same length differ.
 Indices Differences(const std::vector<ItemText>& a, const std::vector<ItemText>& b) {
     Indices places;
     for (std::size_t i = 0; i < a.size(); ++i) {
@@ -50,7 +50,7 @@ Indices Union(const Indices& a, const Indices& b) {
     return both;
 }
 
-/// Whether every item is, perhaps changed, where it was.
+/// Whether every item is still at its place, perhaps changed.
 bool IsSameArrangement(const PageState& a, const PageState& b) {
     const auto stands = [](const ItemText& text, const std::vector<ItemText>& items) {
         return std::find(items.begin(), items.end(), text) != items.end();
@@ -64,7 +64,7 @@ bool IsSameArrangement(const PageState& a, const PageState& b) {
     });
 }
 
-/// The text before, where the item is as it was.
+/// The earlier text, if the item is unchanged.
 ItemText TextOf(const host::PageItem& item, const ItemText& before) {
     std::string text = host::WriteItem(item);
     return before != nullptr && *before == text
@@ -169,7 +169,7 @@ void PageDocument::RemoveSelected() {
         state.items.erase(state.items.begin() + static_cast<std::ptrdiff_t>(*index));
     }
     state.selection.clear();
-    state.remarks.clear();  // they may be of what is gone
+    state.remarks.clear();  // they may be about something removed
     Do(std::move(state), "Delete");
 }
 
@@ -267,7 +267,7 @@ void PageDocument::MarkUnsaved() {
     Q_EMIT HistoryChanged();
 }
 
-/// Those of missing rasters explain nothing.
+/// Legends of missing rasters explain nothing.
 Indices PageDocument::FitLegends() {
     try {
         return host::FitLegendsToMaps(m_page, *m_rasters);
@@ -285,7 +285,7 @@ host::PageItem PageDocument::Read(const std::string& text) {
     return item;
 }
 
-/// Makes the page what a state tells, keeping the items whose texts are the same.
+/// Brings the page to a state, keeping the items whose texts are the same.
 void PageDocument::Show(const PageState& state) {
     const PageState& before = m_history.Current();
     std::vector<host::PageItem> items(state.items.size());
@@ -310,7 +310,7 @@ void PageDocument::Show(const PageState& state) {
     m_page = std::move(page);
 }
 
-/// Tells what is different from the state before.
+/// Emits what differs from an earlier state.
 void PageDocument::Announce(const PageState& before) {
     const PageState& now = m_history.Current();
     const Indices legends = FitLegends();
@@ -323,7 +323,7 @@ void PageDocument::Announce(const PageState& before) {
     Q_EMIT HistoryChanged();
 }
 
-/// A command that leads to a state.
+/// Runs a command that leads to a state.
 void PageDocument::Do(PageState state, const std::string& label) {
     const PageState before = m_history.Current();
     Show(state);

@@ -15,8 +15,8 @@
 
 namespace page_editor {
 
-/// A page that is being edited: the items, what of them is selected, and every state that
-/// it went through, without anything of a screen.
+/// A page that is being edited: its items, the selection, and every earlier state,
+/// without any user interface.
 ///
 /// A command changes items and ends in Commit, or is cancelled with Revert; ChangeItems
 /// does both. A change that no page file can hold, or that names a file that cannot be
@@ -29,7 +29,8 @@ public:
 
     const host::Page& Page() const { return m_page; }
     std::size_t Count() const { return m_page.Items().size(); }
-    /// For changes that Commit ends; also for HitTest, which keeps the handle it found.
+    /// For changes that end in Commit; also for HitTest, which stores the handle it
+    /// found.
     host::PageItem& Item(std::size_t index) { return m_page.Items()[index]; }
     CFrameBase& Frame(std::size_t index) { return host::FrameOf(Item(index)); }
     CBoundingBox Extent(std::size_t index) const;
@@ -44,44 +45,44 @@ public:
         return [this](double part) { return !m_watch || m_watch(part); };
     }
 
-    /// Another page, whose rasters are open from the store, or missing (see OpenOrHatch);
-    /// it counts as saved.
+    /// Replaces the page by another, whose rasters are open in the store, or missing (see
+    /// OpenOrHatch); it counts as saved.
     /// @param remarks what could not be done as asked, one line each
     void Replace(host::Page page, std::unique_ptr<host::RasterStore> rasters,
                  std::vector<std::string> remarks = {});
 
-    /// What of the page is not as one would expect, one line each.
+    /// What is not as one would expect on the page, one line each.
     std::vector<std::string> Remarks() const;
 
-    /// What is selected; the last command's items after it.
+    /// The selected items; after a command, those it changed.
     const Indices& Selection() const { return m_history.Current().selection; }
     void Select(Indices selection);
-    /// The next command is undone by itself, even when it is like the last.
+    /// Keeps the next command separate when undoing, even if it is like the last.
     void EndMerging() { m_history.EndMerging(); }
 
-    /// One command: changes items, opens what they name, and commits.
+    /// One command: changes items, opens the files that they name, and commits.
     /// @param merge see History::Push
     void ChangeItems(const Indices& items, const std::string& label,
                      const std::function<void(host::PageItem&)>& change,
                      const std::string& merge = {});
-    /// Makes what was changed a command; none when nothing was. Scale bars and arrows
-    /// that are of the map then follow it (see host::FitToMap).
+    /// Makes the changes a command, if there are any. Scale bars and arrows of the map
+    /// then follow it (see host::FitToMap).
     void Commit(const std::string& label, const std::string& merge = {});
-    /// Makes items again what they were after the last command.
+    /// Restores items to their state after the last command.
     void Revert(const Indices& items);
 
     /// Puts an item on top and selects it.
-    /// @param remarks what could not be done as asked for it
+    /// @param remarks what could not be done as asked
     void Insert(host::PageItem item, const std::string& label,
                 const std::vector<std::string>& remarks = {});
-    /// Takes the selected items off the page.
+    /// Removes the selected items from the page.
     void RemoveSelected();
-    /// Puts copies of the selected items on top, a little off, and selects those.
+    /// Puts copies of the selected items on top, slightly offset, and selects them.
     void DuplicateSelected();
-    /// The selected items as text, a line each; empty for none.
+    /// The selected items as text, one per line; empty for none.
     std::string TextOfSelected() const;
-    /// Puts the items of such a text on top, a little off where they stood, and selects
-    /// them. Throws host::PageError, and changes nothing, for any other text.
+    /// Puts the items of such a text on top, slightly offset from their place, and
+    /// selects them. Throws host::PageError, changing nothing, for any other text.
     void Paste(const std::string& text);
     /// @param order the item that will stand at each place
     void Rearrange(const Indices& order);
@@ -96,18 +97,18 @@ public:
 
     bool IsModified() const { return !m_history.IsSaved(); }
     void MarkSaved();
-    /// No state that the page went through is saved.
+    /// Marks every state of the page as unsaved.
     void MarkUnsaved();
 
 Q_SIGNALS:
-    /// Items were changed, but for their number and order.
+    /// Items were changed, but not their number and order.
     void ItemsChanged(const page_editor::Indices& items);
-    /// Items were added, removed or put in another order, or the sheet has another size.
+    /// Items were added, removed or reordered, or the sheet has another size.
     void PageRearranged();
-    /// It is another page.
+    /// The page was replaced by another.
     void PageReplaced();
     void SelectionChanged();
-    /// What can be undone, and whether the page is saved, may be different now.
+    /// What can be undone, and whether the page is saved, may have changed.
     void HistoryChanged();
 
 private:
@@ -120,7 +121,7 @@ private:
                 const std::vector<std::string>& remarks = {});
 
     std::unique_ptr<host::RasterStore> m_rasters;
-    std::set<std::string> m_missing;  // rasters, when the page came
+    std::set<std::string> m_missing;  // rasters, when the page was opened
     host::Progress m_watch;
     host::Page m_page;
     History m_history;

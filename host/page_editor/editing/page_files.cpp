@@ -22,7 +22,7 @@ std::wstring TitleFor(const std::string& path) {
     return title;
 }
 
-/// Why what the page names cannot be used, one line each.
+/// Why files that the page names cannot be used, one line each.
 std::vector<std::string> WhyNotUsable(const host::Page& page) {
     std::vector<std::string> reasons = host::WhyNotFilesAndFonts(page);
     try {

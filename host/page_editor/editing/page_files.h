@@ -1,7 +1,7 @@
 #pragma once
 
-// Opening pages in the editor: what decodes files is tried in processes of its own first
-// (see separate_reading.h). Errors are as those of page/document/opened_page.h.
+// Opening pages in the editor: everything that decodes files is tried in processes of its
+// own first (see separate_reading.h). Errors are those of page/document/opened_page.h.
 
 #include <functional>
 #include <string>
@@ -12,19 +12,19 @@
 
 namespace page_editor {
 
-/// Asked whether a page file may have something read that lies outside its folder or is
-/// no plain raster or picture, told in one line.
+/// Asks whether a page file may have something read that lies outside its folder or is
+/// not a plain raster or picture, described on one line.
 using MayRead = std::function<bool(const std::string& what)>;
 
-/// Opens a page file. What it names and is not there is a remark, and left to be mended:
-/// a map is hatched (see OpenOrHatch), a picture empty. It may be a stranger's: unless
-/// the answer is yes, nothing is read but what host::AllowedSources has below its folder.
+/// Opens a page file. Missing files are remarked on and left to be repaired: a map is
+/// hatched (see OpenOrHatch), a picture empty. The page file may come from a stranger:
+/// unless the answer is yes, only what host::AllowedSources has below its folder is read.
 /// @param mayRead asked at most once; after a yes the page may have anything read
 /// @param reading called with the progress of reading; returning false cancels it
 host::OpenedPage OpenPageFile(const std::string& path, const MayRead& mayRead,
                               const host::Progress& reading = {});
 
-/// Lays an A4 page out around at least one raster, titled after the first.
+/// Lays out an A4 page around at least one raster, titled after the first.
 /// @param reading as above
 host::OpenedPage LayOutRasters(const std::vector<std::string>& paths,
                                const host::Progress& reading = {});

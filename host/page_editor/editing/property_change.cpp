@@ -23,12 +23,12 @@ namespace {
 
 using host::PropertyKind;
 
-/// The element's properties that change nothing it measures.
+/// The properties that do not affect an element's size.
 constexpr std::string_view kUnmeasured[] = {
     "name", "offsetX", "offsetY", "size", "aspectRatio", "itemType",
 };
 
-/// Whether the element shows something of another size after a change.
+/// Whether a change of the property changes the element's size.
 bool IsMeasuredBy(const host::Property& property, host::PageItem& item) {
     const host::ItemType* const type = host::TypeOf(item);
     const bool isOfElement =
@@ -39,14 +39,14 @@ bool IsMeasuredBy(const host::Property& property, host::PageItem& item) {
     return isOfElement && !isKnownNotTo && property.kind != PropertyKind::Colour;
 }
 
-/// The size that a legend has by itself.
+/// The natural size of a legend.
 int NaturalSize(host::PageItem& item, CMapLegend& legend, host::RasterStore& rasters) {
     legend.SetSize(0);
     host::OpenRasters(item, rasters);
     return legend.GetSize();
 }
 
-/// None where its rasters are missing.
+/// Nothing while its rasters are missing.
 std::optional<int> NaturalSizeIfOpen(host::PageItem& item, CMapLegend& legend,
                                      host::RasterStore& rasters) {
     try {

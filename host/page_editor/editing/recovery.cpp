@@ -45,7 +45,7 @@ std::vector<std::unique_ptr<Recovery>> Recovery::Lost(const QString& folder) {
 Recovery::Recovery(const QString& folder)
     : m_path(folder + '/' + QUuid::createUuid().toString(QUuid::WithoutBraces)) {}
 
-/// A lock never gets too old, but it goes with the process that has it.
+/// A lock never expires, but it ends with its process.
 bool Recovery::Claim() {
     if (m_lock == nullptr) {
         m_lock = std::make_unique<QLockFile>(m_path + ".lock");

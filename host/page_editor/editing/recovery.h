@@ -11,25 +11,25 @@
 
 namespace page_editor {
 
-/// The unsaved work of one window, kept in a folder of the person's own so that it is
-/// there after a crash or a power cut: a page file, and what it is the work on. A lock
-/// tells the work of windows that live from what was lost.
+/// The unsaved work of one window, kept in a folder of the user's so that it survives a
+/// crash or a power cut: a page file, and the file it belongs to. A lock distinguishes
+/// the work of open windows from lost work.
 class Recovery {
 public:
-    /// The person's: ~/.local/share/map_surround/page_editor/recovery on Linux.
+    /// The user's: ~/.local/share/map_surround/page_editor/recovery on Linux.
     static QString Folder();
 
-    /// What is in the folder and of no window any more, the oldest first. Each is this
-    /// caller's until it is destroyed; no other process gets it meanwhile.
+    /// The work in the folder that no window holds, oldest first. Each is locked for the
+    /// caller until destroyed; no other process gets it meanwhile.
     static std::vector<std::unique_ptr<Recovery>> Lost(const QString& folder);
 
-    /// Makes nothing yet.
+    /// Creates nothing yet.
     explicit Recovery(const QString& folder);
 
-    /// Keeps a page in place of what was kept before, whole or not at all. Throws
+    /// Keeps a page in place of the previous one, completely or not at all. Throws
     /// std::runtime_error with the reason.
     /// @param file the page's own; empty for none
-    /// @param stamp of that file, as it was opened or saved last (see StampOf)
+    /// @param stamp of that file, as last opened or saved (see StampOf)
     void Keep(const host::Page& page, const QString& file, const std::string& stamp);
 
     /// Removes what is kept.

@@ -9,12 +9,12 @@ using map_surround::kit::kHandles;
 using map_surround::kit::kSmallestSide;
 using map_surround::kit::PullOf;
 
-/// Where a handle of a box stands.
+/// The position of a box's handle.
 inline CPoint2D HandleAt(const host::Box& box, int handle) {
     return map_surround::kit::HandleAt(host::BoundingBoxOf(box), handle);
 }
 
-/// A box whose handle was pulled to a point.
+/// A box after a handle was dragged to a point.
 inline host::Box Resized(const host::Box& box, int handle, CPoint2D to,
                          bool keepProportions) {
     return host::BoxOf(

@@ -47,8 +47,7 @@ private:
     bool m_isTold = false;
 };
 
-/// Only a process that dies matters here: other errors come up when the editor itself
-/// reads the file.
+/// Only a crash matters here: other errors appear when the editor itself reads the file.
 /// @return what the job returns; empty when it throws
 std::string Try(const std::string& path, const std::string& job, const std::string& input,
                 const host::Progress& progress) {
@@ -62,7 +61,7 @@ std::string Try(const std::string& path, const std::string& job, const std::stri
     }
 }
 
-/// What a map was made of, as an item.
+/// The rasters and style of a map, as an item.
 std::string AsItem(const host::MapLayers& layers) {
     host::MapFrame map;
     for (const auto& raster : layers.Given()) {

@@ -19,19 +19,19 @@ namespace page_editor {
 host::PixelImage RenderSeparately(host::MapPicture& picture, int width, int height,
                                   const host::Progress& progress);
 
-/// What a page file would have read that it may not: "/etc/a.tif is outside /maps".
+/// A page file would have something read that it may not: "/etc/a.tif is outside /maps".
 class NotAllowed : public host::NamedError {
 public:
     using NamedError::NamedError;
 };
 
 /// Reads from rasters that are not open yet what the editor is going to read: their
-/// descriptions and what legends show. Throws host::PageError naming the first raster on
-/// which a decoder died or reading was cancelled; other errors come up when the editor
-/// reads it.
-/// @param pageFile on whose behalf, which may have read only what host::AllowedSources
-/// has below its folder; empty for a person's own. Throws NotAllowed for a raster that
-/// cannot be read by that alone.
+/// descriptions and what legends show. Throws host::PageError that names the first raster
+/// on which a decoder crashed or reading was cancelled; other errors appear when the
+/// editor reads it.
+/// @param pageFile on whose behalf, so that only what host::AllowedSources has below its
+/// folder is read; empty for the user's own rasters. Throws NotAllowed for a raster that
+/// cannot be read within these limits.
 void TryRasters(const std::vector<std::string>& paths, const host::RasterStore& rasters,
                 const host::Progress& progress, const std::string& pageFile = {});
 
@@ -45,11 +45,11 @@ void TryImage(const std::string& path, const host::Progress& progress);
 
 /// The same for a page file with its pictures, but without rasters; the error does not
 /// name the file.
-/// @param isHeld whether it may have read only what host::AllowedSources has below its
-/// folder; others are left to be refused later
+/// @param isHeld whether only what host::AllowedSources has below its folder may be read;
+/// other files are left to be refused later
 void TryPageFile(const std::string& path, bool isHeld, const host::Progress& progress);
 
-/// The same for items as text, a line each.
+/// The same for items as text, one per line.
 void TryItems(const std::string& lines, const host::Progress& progress);
 
 }  // namespace page_editor

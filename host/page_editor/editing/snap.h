@@ -7,8 +7,8 @@
 
 namespace page_editor {
 
-/// Lines to which edges and middles are drawn: those of the sheet and of other items.
-/// Page units.
+/// The lines that edges and middles snap to: those of the sheet and of other items. Page
+/// units.
 struct SnapLines {
     std::vector<double> x;
     std::vector<double> y;
@@ -16,13 +16,13 @@ struct SnapLines {
     void Add(const host::Box& box);
 };
 
-/// How far off a line it was, and the line.
+/// The distance to a line, and the line.
 struct Snap {
     double offset = 0.0;
     double line = 0.0;
 };
 
-/// The nearest line to any of some places, within the tolerance.
+/// The line nearest to any of some places, within the tolerance.
 std::optional<Snap> NearestLine(const std::vector<double>& places,
                                 const std::vector<double>& lines, double tolerance);
 

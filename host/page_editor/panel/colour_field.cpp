@@ -13,7 +13,7 @@ namespace {
 
 constexpr int kSwatch = 16;
 
-/// Half of it over white, so that one sees how transparent it is.
+/// Half of it over white, to show its transparency.
 QIcon Swatch(const QColor& colour) {
     QPixmap pixmap(kSwatch, kSwatch);
     pixmap.fill(Qt::white);

@@ -7,8 +7,8 @@
 
 namespace page_editor {
 
-/// A colour as text, #RRGGBB or #RRGGBBAA, and a button that shows it and asks for
-/// another.
+/// A colour as text, #RRGGBB or #RRGGBBAA, and a button that shows it and opens a colour
+/// dialog.
 class ColourField : public PropertyField {
 public:
     explicit ColourField(QWidget* parent);

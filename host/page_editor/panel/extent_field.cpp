@@ -55,7 +55,7 @@ void ExtentField::FinishTyping() {
     }
 }
 
-/// Once all four are numbers; until then a person is still typing.
+/// Only once all four are numbers; until then the user is still typing.
 void ExtentField::TellEdges() {
     std::array<double, 4> values = {};
     for (std::size_t i = 0; i < values.size(); ++i) {

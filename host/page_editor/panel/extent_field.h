@@ -8,7 +8,7 @@
 
 namespace page_editor {
 
-/// A part of the map by its four edges, or all of it.
+/// A part of the map, given by its four edges, or all of it.
 class ExtentField : public PropertyField {
 public:
     explicit ExtentField(QWidget* parent);

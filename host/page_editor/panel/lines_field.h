@@ -7,7 +7,7 @@
 
 namespace page_editor {
 
-/// A text of several lines, which is done when one leaves it.
+/// A text of several lines, taken when the field loses focus.
 class LinesField : public PropertyField {
 public:
     explicit LinesField(QWidget* parent);

@@ -13,7 +13,7 @@ namespace {
 constexpr int kDigits = 6;
 constexpr double kLarge = 1.0e5;
 
-/// @param form how std::to_chars is to write it; none for as short as can be read back
+/// @param form for std::to_chars; none for the shortest text that reads back exactly
 template <typename... Form>
 QString TextOf(double value, Form... form) {
     if (!std::isfinite(value)) {
@@ -94,7 +94,7 @@ void NumberField::Step(double by) {
     }
 }
 
-/// An unchanged text stands for the exact number, which has more digits.
+/// Unchanged text stands for the exact number, which has more digits.
 std::optional<double> NumberField::ValueOfText() const {
     return m_line->isModified() || m_line->text().isEmpty() ? NumberIn(m_line->text())
                                                             : std::optional(m_value);

@@ -7,18 +7,18 @@
 
 namespace page_editor {
 
-/// A number as text that is read back to the same bits, whatever the locale.
+/// A number as text that reads back exactly, in any locale.
 QString NumberText(double value);
 
-/// A number as text of six digits, or of all that it has where it is a large one: more
-/// are of no use to a person, and are kept behind it.
+/// A number as text with six digits, or with all its integer digits: the rest is of no
+/// use on screen, and is kept behind it.
 QString ShortNumberText(double value);
 
-/// The finite number that a whole text is.
+/// The finite number that a whole text stands for.
 std::optional<double> NumberIn(const QString& text);
 
-/// A number to type, of which six digits are shown; up and down change it by one. A ratio
-/// that is unknown is empty.
+/// A number to type, shown with six digits; up and down change it by one. An unknown
+/// ratio is empty.
 class NumberField : public PropertyField {
 public:
     NumberField(const host::Property& property, QWidget* parent);
@@ -35,7 +35,7 @@ private:
     std::optional<double> ValueOfText() const;
 
     QLineEdit* m_line;
-    double m_value = 0.0;  // as it was shown last
+    double m_value = 0.0;  // as last shown
     bool m_mayBeUnknown;
 };
 

@@ -6,7 +6,7 @@
 
 namespace page_editor {
 
-/// The path of an image, with a button that asks for one.
+/// The path of an image, with a button that opens a file dialog.
 class PathField : public PropertyField {
 public:
     explicit PathField(QWidget* parent);
@@ -18,7 +18,7 @@ private:
     QLineEdit* m_line;
 };
 
-/// Paths of rasters, one a line, the first on top, with a button that adds some.
+/// Paths of rasters, one per line, the first on top, with a button to add some.
 class PathListField : public LinesField {
 public:
     explicit PathListField(QWidget* parent);

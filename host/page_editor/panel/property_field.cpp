@@ -128,7 +128,7 @@ private:
     QComboBox* m_box;
 };
 
-/// A line would take Ctrl+E to go to its end.
+/// A line edit would take Ctrl+E to go to its end.
 bool IsForThePage(const QKeyEvent& key, bool isBeingTyped) {
     const bool isExport =
         key.modifiers() == Qt::ControlModifier && key.key() == Qt::Key_E;

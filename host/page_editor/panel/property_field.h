@@ -9,7 +9,7 @@
 
 namespace page_editor {
 
-/// Edits one property: a widget that shows a value and reports the one that a person
+/// Edits one property: a widget that shows a value and reports the one that the user
 /// enters. It does not check values and knows nothing of items.
 class PropertyField : public QWidget {
 public:
@@ -18,14 +18,14 @@ public:
     /// Shows a value of the property's kind, without reporting it.
     virtual void Show(const host::PropertyValue& value) = 0;
 
-    /// Takes what was typed so far, as leaving the field does.
+    /// Takes what has been typed, as leaving the field does.
     virtual void FinishTyping() {}
 
-    /// Whether something was typed that is not taken yet.
+    /// Whether something was typed that has not been taken yet.
     bool IsBeingTyped() const;
 
-    /// Leaves to others what is not for this: the wheel while it has not the keyboard,
-    /// which then scrolls the panel; and the keys of undoing, redoing and exporting while
+    /// Passes on events that are not for this field: the wheel while it has no focus,
+    /// which then scrolls the panel; and the shortcuts of undo, redo and export while
     /// nothing is being typed, which then reach the page.
     void LeaveToOthers();
 
@@ -35,17 +35,17 @@ public:
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
-    /// Lays one widget out as the whole of the field.
+    /// Fills the field with one widget.
     void Fill(QWidget* widget);
     void Tell(const host::PropertyValue& value) const;
     void Refuse(const QString& why) const;
     /// Ends typing when the line loses focus or Enter is pressed.
     void FinishWith(const QLineEdit* line) const;
-    /// Reports a line as text, once after it was changed.
+    /// Reports a line as text, once after each change.
     void TellChanged(QLineEdit& line) const;
 };
 
-/// The field for a property's kind; its widget to type into is named as the property.
+/// The field for a property's kind; its input widget is named as the property.
 PropertyField* MakeField(const host::Property& property, QWidget* parent);
 
 }  // namespace page_editor

@@ -17,7 +17,7 @@ namespace {
 
 constexpr int kNextTry = 100;  // milliseconds
 
-/// "borderWidth" as people read it: "Border width".
+/// "borderWidth" in plain words: "Border width".
 QString LabelFor(const host::Property& property) {
     QString label;
     for (const QChar c : QString::fromUtf8(property.name)) {
@@ -66,7 +66,7 @@ void PropertyPanel::FinishTyping() {
     }
 }
 
-/// The type of all that are selected; null where they differ or nothing is.
+/// The type of all selected items; null where they differ, or nothing is selected.
 const host::ItemType* PropertyPanel::SharedType() const {
     const host::ItemType* shared = nullptr;
     for (const std::size_t index : m_document.Selection()) {
@@ -124,7 +124,7 @@ void PropertyPanel::AddRows(const QString& title,
     panel->layout()->addWidget(group);
 }
 
-/// Of several items, those of the last.
+/// For several items, those of the last.
 void PropertyPanel::ShowValues() {
     const Indices& selection = m_document.Selection();
     if (selection.empty()) {
@@ -136,9 +136,9 @@ void PropertyPanel::ShowValues() {
     }
 }
 
-/// A dialog takes the keyboard from a field, which then tells its value. While one shows
-/// that files are read the page is in use, so the value waits until there is none,
-/// and is forgotten when something else is selected then.
+/// A dialog takes the focus from a field, which then reports its value. While a dialog
+/// shows that files are being read, the page is in use, so the value waits until it
+/// closes, and is dropped if the selection changes meanwhile.
 void PropertyPanel::Change(const host::Property& property,
                            const host::PropertyValue& value) {
     if (QApplication::activeModalWidget() != nullptr) {

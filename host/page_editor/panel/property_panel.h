@@ -10,23 +10,23 @@
 
 namespace page_editor {
 
-/// Every property of what is selected, made from the tables of properties: of one item
-/// its own and its frame's, of several of one type the same, else their frames'. A change
-/// is made to all that are selected.
+/// Every property of the selection, made from the tables of properties: for one item its
+/// own and its frame's, for several of one type the same, otherwise their frames'. A
+/// change applies to all selected items.
 class PropertyPanel : public QScrollArea {
     Q_OBJECT
 public:
     /// @param document outlives this
     explicit PropertyPanel(PageDocument& document, QWidget* parent = nullptr);
 
-    /// The field of a property shown; null when there is none.
+    /// The field of a property shown; null for none.
     PropertyField* Field(const char* name) const;
 
-    /// Puts the keyboard into the first field.
+    /// Moves the keyboard focus to the first field.
     void FocusFirst();
     /// Takes what is being typed, as leaving its field does.
     void FinishTyping();
-    /// Shows again what is; what was being typed is forgotten.
+    /// Shows the present values; what was being typed is lost.
     void ShowValues();
 
 Q_SIGNALS:

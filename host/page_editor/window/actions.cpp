@@ -18,7 +18,7 @@ namespace {
 
 constexpr double kZoomStep = 1.25;
 
-/// One command of a menu; one without a text is a line between others.
+/// A menu command; without a text, a separator.
 struct Command {
     const char* name;
     const char* text;
@@ -30,8 +30,8 @@ using Commands = std::initializer_list<Command>;
 
 const Command kLine = {"", "", {}, {}};
 
-/// A drag that is going on is given up, and what is being typed is taken, before anything
-/// else happens to the page.
+/// Cancels any drag and takes what is being typed, before anything else happens to the
+/// page.
 void Prepare(EditorWindow& window) {
     window.Canvas().CancelDrag();
     window.Panel().FinishTyping();
@@ -218,7 +218,7 @@ void AddToolBar(EditorWindow& window) {
     }
 }
 
-/// Undo and redo say what they would undo and redo.
+/// Undo and redo name the commands that they affect.
 void FollowHistory(EditorWindow& window) {
     auto* const undo = window.findChild<QAction*>("undo");
     auto* const redo = window.findChild<QAction*>("redo");
@@ -235,7 +235,7 @@ void FollowHistory(EditorWindow& window) {
     follow();
 }
 
-/// What works on the selection is there when something is selected.
+/// Commands on the selection are enabled when there is one.
 void FollowSelection(EditorWindow& window) {
     const auto follow = [&window] {
         const std::size_t count = window.Document().Selection().size();

@@ -67,7 +67,7 @@ Autosave::Autosave(PageDocument& document, FileCommands& files, const QString& f
 void Autosave::Follow() {
     if (!m_document.IsModified()) {
         Forget();
-    } else if (!m_soon.isActive()) {  // so that one who never rests is kept too
+    } else if (!m_soon.isActive()) {  // so that continuous work is kept too
         m_soon.start();
     }
 }
@@ -77,7 +77,8 @@ void Autosave::Forget() {
     m_recovery->Forget();
 }
 
-/// While a dialog shows that files are read, the page may be in the middle of a change.
+/// While a dialog shows that files are being read, the page may be in the middle of a
+/// change.
 void Autosave::Keep() {
     if (QApplication::activeModalWidget() != nullptr) {
         m_soon.start();

@@ -12,24 +12,23 @@ namespace page_editor {
 
 class EditorWindow;
 
-/// Keeps the work of a window for recovery, a moment after each change, as long as it is
-/// not saved.
+/// Keeps a window's unsaved work for recovery, a moment after each change.
 class Autosave : public QObject {
     Q_OBJECT
 public:
     /// @param document, files outlive this
     Autosave(PageDocument& document, FileCommands& files, const QString& folder);
 
-    /// The window ends, and nothing of its work is wanted any more.
+    /// The window closes, and its work is not wanted any more.
     void Forget();
 
-    /// Shows lost work in the window of this, in place of its page, and goes on keeping
-    /// it there.
-    /// @return whether it could be opened; it stays lost otherwise
+    /// Shows lost work in this window, in place of its page, and goes on keeping it
+    /// there.
+    /// @return whether it could be opened; otherwise it stays lost
     bool Recover(std::unique_ptr<Recovery> lost);
 
 Q_SIGNALS:
-    /// The work cannot be kept; told once.
+    /// The work cannot be kept; emitted once.
     void Failed(const QString& why);
 
 private:
@@ -43,8 +42,8 @@ private:
     bool m_isTold = false;
 };
 
-/// Offers the work that was lost when windows ended without their leave: it comes back in
-/// this window, where that has no work of its own or the same file, or in a new one.
+/// Offers the work lost when windows ended unexpectedly: it is restored in this window,
+/// if that has no work of its own or the same file, or in a new one.
 void OfferLostWork(EditorWindow& window, const QString& folder);
 
 }  // namespace page_editor

@@ -78,7 +78,7 @@ EditorWindow::EditorWindow(const QString& recovery)
     });
     connect(m_canvas, &PageCanvas::Failed, this, &EditorWindow::ShowFailure);
     connect(m_canvas, &PageCanvas::Undrawn, m_undrawn, &MessageBar::Follow);
-    // A map without data is known when it has been drawn.
+    // Only drawing shows whether a map has data.
     connect(m_canvas, &PageCanvas::Undrawn, this, &EditorWindow::ShowRemarks);
     connect(m_panel, &PropertyPanel::Failed, this, &EditorWindow::ShowFailure);
     connect(m_files, &FileCommands::Failed, this, [this](const QString& why) {
@@ -259,9 +259,9 @@ void EditorWindow::ShowRemarks() {
     m_remarks->Follow(remarks);
 }
 
-/// Nothing else is done until the file is read, or given up. The window may have to be
-/// drawn meanwhile, with a map that is read for it: that comes back here, and may end
-/// first.
+/// Nothing else is done until the file is read or the reading is cancelled. Meanwhile the
+/// window may have to be drawn, with a map that has to be read: that comes back here, and
+/// may end first.
 bool EditorWindow::ShowReading(double part) {
     if (part >= 1.0) {
         m_waiting.reset();

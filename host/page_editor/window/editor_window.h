@@ -18,8 +18,8 @@
 
 namespace page_editor {
 
-/// The editor's window: the page in the middle, the properties of what is selected beside
-/// it, every command in the menus. GDI+ must have been started.
+/// The editor's window: the page in the middle, the properties of the selection beside
+/// it, every command in the menus. GDI+ must be running.
 class EditorWindow : public QMainWindow {
     Q_OBJECT
 public:
@@ -32,14 +32,14 @@ public:
     FileCommands& Files() { return *m_files; }
     Autosave& Saving() { return *m_autosave; }
 
-    /// Puts a new element of a type on the page; asks for files where none are given and
-    /// the type needs some.
+    /// Puts a new element of a type on the page; asks for files if the type needs some
+    /// and none are given.
     void Insert(const QString& type, QStringList files = {});
     void Undo();
     void Redo();
     void Duplicate();
-    /// What is selected goes to the clipboard as text, and comes from there, also into
-    /// another window.
+    /// Copy puts the selection on the clipboard as text, and Paste takes it from there,
+    /// also from another window.
     void Copy();
     void Cut();
     void Paste();
@@ -47,18 +47,19 @@ public:
     void Distribute(Direction direction);
     void Reorder(Order order);
     void TurnSelected();
-    /// Has the legends and scale bars speak it, but for what somebody wrote.
+    /// Sets the language of the legends and scale bars, except for words that the user
+    /// wrote.
     void SetLanguage(const host::Language& language);
     void SelectAll();
-    /// Puts the keyboard into the properties; Escape brings it back to the page.
+    /// Moves the keyboard focus to the properties; Escape returns it to the page.
     void EditProperties();
     /// Asks for the size of the sheet.
     void SetUpSheet();
-    /// @return false, and nothing is changed, when the text is no sheet
+    /// @return false, changing nothing, when the text is not a sheet
     bool SetSheet(const QString& paper);
 
-    /// What is shown of files that could not be opened, saved or exported, of elements
-    /// that are not drawn whole, and of what on the page is not as one would expect.
+    /// Shows files that could not be opened, saved or exported, elements that are not
+    /// drawn completely, and anything unexpected on the page.
     MessageBar& Failures() { return *m_failures; }
     MessageBar& Undrawn() { return *m_undrawn; }
     MessageBar& Remarks() { return *m_remarks; }

@@ -14,8 +14,8 @@ struct ExportChoices {
     host::MapImages mapImages = host::MapImages::Lossless;
 };
 
-/// Asks for the resolution, and for a file for print how its maps are kept.
-/// @return nothing when it is not wanted
+/// Asks for the resolution, and for a file for print how its maps are stored.
+/// @return nothing when cancelled
 std::optional<ExportChoices> AskHowToExport(QWidget& window, host::OutputFormat format);
 
 }  // namespace page_editor

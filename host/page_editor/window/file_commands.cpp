@@ -41,7 +41,7 @@ const QList<SavedKind> kImages = {
     {"BMP (*.bmp)", ".bmp"}};
 constexpr int kExportPatience = 500;  // milliseconds
 
-/// While it lives the pointer says that something takes time.
+/// Shows a busy pointer while it lives.
 class WaitCursor {
 public:
     WaitCursor() { QApplication::setOverrideCursor(Qt::WaitCursor); }
@@ -58,7 +58,7 @@ std::vector<std::string> Standard(const QStringList& paths) {
     return standard;
 }
 
-/// Adds what a person should know to what was done.
+/// Adds a remark to what was done.
 QString With(const QString& done, const std::string& remark) {
     return remark.empty() ? done : done + "; " + QString::fromStdString(remark);
 }
@@ -131,7 +131,7 @@ bool FileCommands::OpenLost(const Recovery& lost) {
     return isOpen;
 }
 
-/// Opens a page in place of that which is there.
+/// Opens a page in place of the present one.
 bool FileCommands::Show(const std::function<host::OpenedPage()>& open) {
     return Attempt([&] {
         const WaitCursor waiting;
@@ -226,8 +226,8 @@ bool FileCommands::ExportTo(const QString& path, double dpi, host::MapImages map
     });
 }
 
-/// Why a file must stay; empty when it may be replaced. The page's own may when it is
-/// saved, which is told by its ending from what it is exported to.
+/// Why a file must stay; empty when it may be replaced. The page's own file may be
+/// replaced by saving, which its ending distinguishes from exporting.
 QString FileCommands::WhyNot(const QString& file) {
     try {
         host::CheckReplacesNoInput(file.toStdString(), m_document.Page(),

@@ -14,32 +14,32 @@
 namespace page_editor {
 
 /// Opening, saving and exporting the page, with the questions that go with it. A failure
-/// is reported in one line and changes nothing.
+/// is reported on one line and changes nothing.
 class FileCommands : public QObject {
     Q_OBJECT
 public:
-    /// @param document, window outlive this; dialogs stand before the window
+    /// @param document, window outlive this; the window is the parent of dialogs
     FileCommands(PageDocument& document, QWidget& window);
 
     /// The page's file; empty for a page without one.
     const QString& Path() const { return m_path; }
-    /// What it held when it was opened or saved last (see StampOf).
+    /// The state of that file when it was last opened or saved (see StampOf).
     const std::string& Stamp() const { return m_stamp; }
 
-    /// Asks what to do with unsaved work, when there is some.
-    /// @return whether the page may go
+    /// Asks what to do with unsaved work, if there is any.
+    /// @return whether the page may be closed
     bool MayDiscard();
 
-    /// Each asks about unsaved work first, and for a name where none is given.
+    /// Each asks about unsaved work first, and for a name if none is given.
     void New();
     void Open();
     /// @param paths a page file, or rasters to lay a page out around
-    /// @param mayAsk whether somebody is there to allow a page file more than is safe
+    /// @param mayAsk whether the user can be asked to allow a page file more than is safe
     bool OpenFiles(const QStringList& paths, bool mayAsk = true);
-    /// Opens work that was lost, in place of the page: unsaved work on its file.
+    /// Opens lost work in place of the page: unsaved work on its file.
     bool OpenLost(const Recovery& lost);
 
-    /// Saves into the page's file, and asks first where that has been changed by others.
+    /// Saves into the page's file, and asks first if others have changed it.
     bool Save();
     bool SaveAs();
     bool SaveTo(const QString& path);
@@ -56,7 +56,7 @@ Q_SIGNALS:
     void Told(const QString& what);
 
 private:
-    /// Asks whether a page file may have read what it may not by itself.
+    /// Asks whether a page file may read something that it may not by default.
     bool MayRead(const std::string& what);
     bool Show(const std::function<host::OpenedPage()>& open);
     bool Attempt(const std::function<void()>& step);

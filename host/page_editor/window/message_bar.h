@@ -6,8 +6,8 @@
 
 namespace page_editor {
 
-/// A bar across the window that says something until it no longer holds or is closed: a
-/// few lines, and the others as its tooltip.
+/// A bar across the window that shows a message until it no longer applies or is closed:
+/// a few lines, with the rest in its tooltip.
 class MessageBar : public QFrame {
 public:
     enum class Kind { Failure, Remark };
@@ -16,8 +16,8 @@ public:
 
     /// @param lines plain text; none hides the bar
     void Show(const QStringList& lines);
-    /// The same, but nothing when the lines are those of the last time: a bar that was
-    /// closed stays so.
+    /// The same, unless the lines are those of the last time: a bar that was closed stays
+    /// closed.
     void Follow(const QStringList& lines);
 
     QString Text() const { return m_text->text(); }

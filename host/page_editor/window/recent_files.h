@@ -4,14 +4,13 @@
 
 namespace page_editor {
 
-/// The page files that were opened or saved last, the latest first, kept among the
-/// person's settings.
+/// The page files last opened or saved, the latest first, kept in the user's settings.
 QStringList RecentFiles();
 
 /// Puts a file first.
 void AddRecentFile(const QString& path);
 
-/// Forgets a file that is there no more.
+/// Forgets a file that no longer exists.
 void RemoveRecentFile(const QString& path);
 
 }  // namespace page_editor

@@ -9,7 +9,7 @@ Waiting::Waiting(const QString& what, int delay, QWidget& window)
     : m_dialog(what, "Cancel", 0, 100, &window), m_delay(delay) {
     m_dialog.setWindowModality(Qt::WindowModal);
     m_dialog.setAutoClose(false);
-    m_dialog.setMinimumDuration(std::numeric_limits<int>::max());  // shown from here
+    m_dialog.setMinimumDuration(std::numeric_limits<int>::max());  // shown by Show
     m_clock.start();
 }
 

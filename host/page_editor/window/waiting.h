@@ -8,15 +8,16 @@
 namespace page_editor {
 
 /// A progress dialog with a Cancel button, shown once something takes long. The window
-/// takes no other commands meanwhile.
+/// accepts no other commands meanwhile.
 class Waiting {
 public:
-    /// @param what what is waited for, in a few words
+    /// @param what what the user waits for, in a few words
     /// @param delay milliseconds from now until the dialog is shown
     Waiting(const QString& what, int delay, QWidget& window);
 
-    /// @param part from 0 to 1; several times a second, so that the dialog answers
-    /// @return whether to go on
+    /// @param part from 0 to 1; call it several times a second, so that the dialog
+    /// responds
+    /// @return whether to continue
     bool Show(double part);
 
 private:
