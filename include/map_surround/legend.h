@@ -20,9 +20,9 @@ struct LegendSource {
     bool isShown = true;     ///< false leaves the source out, without asking it anything
 
     /// The colours of a ramp from the highest value of the source's first band to the
-    /// lowest, which is then its only entry, whatever its display type. Each has as much
-    /// of the ramp as the others, opaque and unmixed: of two, the upper half is in the
-    /// first. Without any, the source has the entries of its display type.
+    /// lowest; the ramp is then its only entry, whatever its display type. Each colour
+    /// takes an equal part of the ramp, opaque and unmixed: of two, the first is the
+    /// upper half. When empty, the source has the entries of its display type.
     std::vector<Gdiplus::Color> ramp = {};
 };
 
@@ -116,70 +116,69 @@ public:
     }
 
     /// How each source is shown, in the order of the sources: `{{L"Land cover"}, {{},
-    /// false}}` gives the first a name and leaves out the second. Sources without one, as
-    /// all are until this is called, are shown by their file names; what is past the last
-    /// source has no effect. It stays when SetDataSouce() replaces the sources.
+    /// false}}` gives the first a name and leaves out the second. Sources without an
+    /// entry here, as all are by default, are shown by their file names; entries past the
+    /// last source have no effect. They stay when SetDataSouce() replaces the sources.
     std::vector<LegendSource> GetShownSources() const { return m_shownSources; }
     void SetShownSources(std::vector<LegendSource> shown) {
         m_shownSources = std::move(shown);
     }
 
-    /// Whether labels stand where their swatches do: all of them 1.2 swatches from the
-    /// left, those of bands and classes a quarter of a row higher and so in the middle of
-    /// the swatch, and the values of a ramp at its ends, where they do not overlap: both
-    /// black, the highest a fifth of a row above its top, level with it, the lowest nine
-    /// tenths above its end, standing on it.
+    /// Whether labels are aligned with their swatches: all start 1.2 swatches from the
+    /// left, those of bands and classes are a quarter of a row higher and so in the
+    /// middle of the swatch, and the values of a ramp are at its ends, where they do not
+    /// overlap: both black, the highest a fifth of a row above the top, level with it,
+    /// the lowest nine tenths above the end, standing on it.
     ///
-    /// The values are then rounded to three digits of what is between them, not cut:
-    /// -0.314 and 0.87 are -0.31 and 0.87, 3.75 and 255.9 are 4 and 256. Zeros that both
-    /// end in are left out. False until it is set.
+    /// The values are then rounded, not cut, to three digits of their difference: -0.314
+    /// and 0.87 are -0.31 and 0.87, 3.75 and 255.9 are 4 and 256. Zeros that both end in
+    /// are left out. False by default.
     bool GetAlignedLabels() const { return m_alignedLabels; }
     void SetAlignedLabels(bool aligned) { m_alignedLabels = aligned; }
 
     /// The gap between any two items, in rows, rounded to whole pixels of the
-    /// measurement: at 0.8, rows 13 high are 10 apart. 12 pixels, whatever the rows,
-    /// where it is not above 0, as it is until it is set. A gap beyond 32 bits is
-    /// clamped.
+    /// measurement: at 0.8, rows 13 high are 10 apart. When not above 0, as by default,
+    /// it is 12 pixels, whatever the rows. A gap beyond 32 bits is clamped.
     float GetGap() const { return m_gap; }
     void SetGap(float rows) { m_gap = rows; }
 
-    /// How wide names and the labels of classes may be, in pixels of the measurement; one
-    /// that is wider ends in U+2026, and a row of a name is then measured with its
-    /// caption. The labels are measured where the layout has them, two samples from the
-    /// left: with samples 40 wide and a width of 200, they are cut to 120. Any width, as
-    /// until it is set, where it is not above 0.
+    /// The greatest width of names and class labels, in pixels of the measurement; a
+    /// wider one ends in U+2026, and the row of a name is then measured with its caption.
+    /// The labels are measured where the layout has them, two samples from the left: with
+    /// samples 40 wide and a width of 200, they are cut to 120. When not above 0, as by
+    /// default, any width will do.
     float GetMostWidth() const { return m_mostWidth; }
     void SetMostWidth(float width) { m_mostWidth = width; }
 
-    /// In how many lines a name or label may stand that is wider than SetMostWidth() lets
-    /// it be; 1 until it is set, and where it is below. Lines end after spaces, '_', '/',
-    /// '-' and '.' but for those of numbers, and between East Asian characters. A word
-    /// that is wider than a line ends in U+2026, and so does the last line where it
-    /// cannot hold what is left: "Broad-leaved forest" may be "Broad-leaved" above
-    /// "forest", or "Broad-" above "leaved fo…" in two.
+    /// The greatest number of lines for a name or label that is wider than SetMostWidth()
+    /// allows; 1 by default, and when below 1. Lines end after spaces, '_', '/', '-' and
+    /// '.' except within numbers, and between East Asian characters. A word that is wider
+    /// than a line ends in U+2026, and so does the last line if it cannot hold the rest:
+    /// "Broad-leaved forest" may become "Broad-leaved" above "forest", or "Broad-" above
+    /// "leaved fo…" in two.
     ///
     /// Each further line makes the name's row, or the label's, 1.2 rows higher; a swatch
-    /// is level with the first of them. Above 1 and with a width set, everything that is
-    /// written is measured as in several columns.
+    /// is level with the first line. Above 1 and with a width set, everything written is
+    /// measured as in several columns.
     int GetMostLines() const { return m_mostLines; }
     void SetMostLines(int lines) { m_mostLines = lines; }
 
     /// Whether ResetAspectRatio() found a name or label that ends in U+2026.
     bool HasCutTexts() const { return m_hasCutTexts; }
 
-    /// In how many columns the entries stand, below a title that stands over all of them;
-    /// 1 until it is set. Below 1 counts as 1 and above 64 as 64, and no column stays
-    /// empty: there are no more than there are rows to begin them.
+    /// The number of columns of entries, below a title that spans them all; 1 by default.
+    /// Below 1 counts as 1 and above 64 as 64, and no column stays empty: there are no
+    /// more columns than rows to begin them.
     ///
     /// The entries flow from the top of a column to its foot and on at the top of the
-    /// next one. The highest column is as low as can be, and the columns are as equal as
-    /// can be: ten classes stand in four columns as 3, 3, 2 and 2. A name stays with its
-    /// first entry, three bands stay together, and so does a ramp; classes go on in the
-    /// next column without their source's name, for a name again would look like another
+    /// next one. The highest column is as low as possible, and the columns are as equal
+    /// as possible: ten classes stand in four columns as 3, 3, 2 and 2. A name stays with
+    /// its first entry, three bands stay together, and so does a ramp; classes continue
+    /// in the next column without their source's name, which would look like another
     /// source.
     ///
-    /// All columns are as wide as the widest, and half a swatch apart. In more than one,
-    /// everything that is written is measured as it is drawn: names with their captions,
+    /// All columns are as wide as the widest, and half a swatch apart. With more than
+    /// one, everything written is measured as it is drawn: names with their captions,
     /// bands, values, all entries in "Arial" and where they are drawn, not two samples
     /// from the left; ResetAspectRatio() then asks for bands and values, too. With
     /// samples 40 wide and columns of 150, two columns are 150 + 20 + 150 = 320 wide. The
@@ -223,7 +222,7 @@ public:
     float GetTitleSize() const { return m_titleSize; }
     void SetTitleSize(float size) { m_titleSize = size; }
 
-    /// The style of the title; bold until it is set.
+    /// The style of the title; bold by default.
     Gdiplus::FontStyle GetTitleStyle() const { return m_titleStyle; }
     void SetTitleStyle(Gdiplus::FontStyle style) { m_titleStyle = style; }
 
@@ -278,7 +277,7 @@ private:
     int m_mostLines = 1;
     bool m_hasCutTexts = false;
     int m_columns = 1;
-    std::vector<std::size_t> m_columnStarts;  // the rows that begin all but the first
+    std::vector<std::size_t> m_columnStarts;  // begin all columns but the first
     std::vector<LegendSource> m_shownSources;
     std::wstring m_sourceCaption = L"\u5F71\u50CF\u540D\uFF1A";
     std::wstring m_bandCaption = L"\u6CE2\u6BB5_";

@@ -23,9 +23,9 @@ enum FontProcess : std::int32_t {
     FontProcessStrikeout = 8,
 };
 
-/// A text in the front colour: the title of the map. It is one line, but for the U+000A
-/// that the host puts into it; SetLineAlignment() says how lines of different length
-/// stand.
+/// A text in the front colour: the title of the map. It is one line, except for the
+/// U+000A that the host puts into it; SetLineAlignment() says how lines of different
+/// length are aligned.
 ///
 /// Mind the accessors' names: the font *value* is the text, the font *style* is the name
 /// of the font family, the font *process* is the style.
@@ -75,11 +75,12 @@ public:
     double GetFontSize() const { return m_fontSize; }
     void SetFontSize(double size) { m_fontSize = size; }
 
-    /// Where lines stand: at the left edge of their box, in its middle or at its right
-    /// edge. The near edge until it is set, with the calls of a text that has no format.
+    /// How lines are aligned: at the left edge of their box, in its middle or at its
+    /// right edge. The left edge by default, with the same calls as for a text without a
+    /// format.
     ///
-    /// Lines in the middle are centred upon the centre itself: of "Land cover" over
-    /// "Olinda", both have their middle there, and only the ascent sets them low.
+    /// Centred lines are centred on the centre itself: of "Land cover" over "Olinda",
+    /// both have their middle there, and only the ascent sets them low.
     Gdiplus::StringAlignment GetLineAlignment() const { return m_lineAlignment; }
     void SetLineAlignment(Gdiplus::StringAlignment alignment) {
         m_lineAlignment = alignment;
@@ -91,5 +92,5 @@ private:
     FontProcess m_fontProcess = FontProcessRegular;
     double m_fontSize = 15.0;
     Gdiplus::StringAlignment m_lineAlignment = Gdiplus::StringAlignmentNear;
-    Gdiplus::Rect m_textBounds;  // of the unturned outline at scale 1
+    Gdiplus::Rect m_textBounds;  // of the unrotated outline at scale 1
 };

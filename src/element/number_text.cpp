@@ -50,8 +50,8 @@ std::wstring CommonFun::double2wstring(double value, int digits) {
     }
     const int places = std::clamp(digits, 0, kMostDigits);
     if (value >= 0.0 && places <= kMostUnitPlaces) {
-        // Most labels come out whole. The product is off by a quarter of a unit at most,
-        // so rounding the full digits would give the same number.
+        // Most labels are whole. The product is off by a quarter of a unit at most, so
+        // rounding the full digits would give the same number.
         const double units = value * kPowersOfTen[places];
         if (units < kMostUnits) {
             const auto whole = static_cast<std::int64_t>(units);

@@ -6,8 +6,8 @@
 
 namespace map_surround {
 
-/// An angle that is not finite counts as 0: passed on, it would leave a surface on which
-/// nothing can be drawn any more.
+/// An angle that is not finite counts as 0: passed on, it would make any further drawing
+/// on the surface fail.
 inline Gdiplus::REAL FiniteAngle(Gdiplus::REAL angle) {
     return std::isfinite(angle) ? angle : 0.0f;
 }

@@ -8,8 +8,8 @@ namespace {
 
 constexpr std::size_t kMostColumns = 64;
 
-/// The rows of a legend one below another, to be told by how many pieces stand above.
-/// Each counts with the gap below it, that of a column's last piece included.
+/// The rows of a legend one below another; a place is the number of pieces above it. Each
+/// piece includes the gap below it, even the last of a column.
 class Roll {
 public:
     Roll(const std::vector<RowsTogether>& pieces, Length gap) {
@@ -22,19 +22,19 @@ public:
     Length Height(std::size_t from, std::size_t end) const {
         return m_tops[end] - m_tops[from];
     }
-    /// Where a column that begins there ends at the latest.
+    /// The last place where a column from there can end.
     std::size_t LastEnd(std::size_t from, Length limit) const {
         const auto past =
             std::upper_bound(m_tops.begin(), m_tops.end(), m_tops[from] + limit);
         return static_cast<std::size_t>(past - m_tops.begin()) - 1;
     }
-    /// Where a column that ends there begins at the earliest.
+    /// The first place where a column that ends there can begin.
     std::size_t FirstStart(std::size_t end, Length limit) const {
         const auto first =
             std::lower_bound(m_tops.begin(), m_tops.end(), m_tops[end] - limit);
         return static_cast<std::size_t>(first - m_tops.begin());
     }
-    /// The height of the lowest columns that all of it fits into.
+    /// The least height of columns that all the rows fit into.
     Length LowestLimit(std::size_t columns) const {
         Length least = 0;
         Length most = Height(0, Count());
@@ -57,8 +57,8 @@ private:
     std::vector<Length> m_tops = {0};
 };
 
-/// The best ways to set what stands above each end in so many columns: the sum of the
-/// squares of their heights is least where they are as equal as can be.
+/// The best ways to set what stands above each end in a number of columns: the sum of the
+/// squares of their heights is least when they are as equal as possible.
 struct Ways {
     std::size_t firstEnd = 0;
     std::vector<double> costs = {0.0};
@@ -67,8 +67,8 @@ struct Ways {
     std::size_t LastEnd() const { return firstEnd + costs.size() - 1; }
 };
 
-/// The same with one column more.
-/// @param lastEnd beyond which what is left would be too little for the columns after it
+/// The same with one more column.
+/// @param lastEnd the end beyond which too little would be left for the columns after it
 Ways WithOneMore(const Ways& before, const Roll& roll, Length limit,
                  std::size_t lastEnd) {
     Ways ways;
@@ -81,8 +81,8 @@ Ways WithOneMore(const Ways& before, const Roll& roll, Length limit,
     while (step <= count) {
         step *= 2;
     }
-    // The later the last column ends, the later it begins: each end looks only between
-    // the starts of its neighbours, which are found before it.
+    // The later the last column ends, the later it begins: each end searches only between
+    // the starts of its neighbours, which are found first.
     for (; step > 0; step /= 2) {
         for (std::size_t place = step; place <= count; place += 2 * step) {
             const std::size_t end = before.firstEnd + place;
@@ -101,7 +101,7 @@ Ways WithOneMore(const Ways& before, const Roll& roll, Length limit,
                 const auto height = static_cast<double>(roll.Height(start, end));
                 const double cost =
                     before.costs[start - before.firstEnd] + height * height;
-                // Of two as good, the one whose last column is shorter.
+                // Of two equally good ways, the one with the shorter last column.
                 if (cost <= ways.costs[place - 1]) {
                     ways.costs[place - 1] = cost;
                     ways.lastStarts[place - 1] = start;

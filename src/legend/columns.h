@@ -7,7 +7,7 @@
 
 namespace map_surround {
 
-/// Rows of a legend that no column separates: a name and its first entry, three bands, a
+/// Rows of a legend that stay in one column: a name and its first entry, three bands, a
 /// ramp, a class.
 struct RowsTogether {
     Length height;  ///< with the gaps between them
@@ -19,10 +19,10 @@ struct Columns {
     Length height;                    ///< of the highest
 };
 
-/// Sets rows in columns, top to bottom. The highest column is as low as can be, and then
-/// the columns are as equal as can be, the fuller ones first: ten rows stand in four
+/// Sets rows in columns, top to bottom. The highest column is as low as possible, and the
+/// columns are then as equal as possible, the fuller ones first: ten rows stand in four
 /// columns as 3, 3, 2 and 2. No column is empty, so there may be fewer than asked for.
-/// @param gap between any two of them
+/// @param gap between any two rows
 Columns SetInColumns(const std::vector<RowsTogether>& pieces, Length gap, int columns);
 
 }  // namespace map_surround

@@ -28,7 +28,7 @@ constexpr Gdiplus::ARGB kBlue = 0xFF0000FF;
 /// From grey 254 to 1: the ramp leaves out white and black.
 constexpr int kRampStrips = 254;
 
-/// Of the strip at a place from 1, grey where there are no colours.
+/// The colour of the strip at a place from 1; grey without colours.
 Gdiplus::Color StripColour(int k, const std::vector<Gdiplus::Color>& colours) {
     const auto grey = static_cast<unsigned char>(255 - k);
     if (colours.empty()) {
@@ -39,7 +39,7 @@ Gdiplus::Color StripColour(int k, const std::vector<Gdiplus::Color>& colours) {
     return {255, colour.GetRed(), colour.GetGreen(), colour.GetBlue()};
 }
 
-/// How a text is set in lines.
+/// How a text is broken into lines.
 using Lines = std::vector<std::wstring> (*)(TextRoom& room, const std::wstring& text);
 std::vector<std::wstring> LinesOfName(TextRoom& room, const std::wstring& text) {
     return room.LinesOfName(text);
@@ -57,7 +57,7 @@ struct Cursor {
     const std::wstring& highCaption;
     const std::wstring& lowCaption;
     bool alignedLabels;
-    TextRoom* room;  // null where texts have any
+    TextRoom* room;  // null where texts may have any width
     float left;
     float y;  // top of what is drawn next
     float rowHeight;
@@ -70,7 +70,7 @@ struct Cursor {
     std::size_t row = 0;
     std::size_t column = 0;
 
-    /// Goes on in the next column if the next row begins it.
+    /// Continues in the next column if the next row begins it.
     void BeginRow() {
         if (column < columnStarts.size() && row == columnStarts[column]) {
             ++column;
@@ -83,7 +83,7 @@ struct Cursor {
         brush.SetColor(color);
         graphics->FillRectangle(&brush, left, top, swatchWidth, height);
     }
-    /// In the brush's current colour, as what follows is.
+    /// Writes in the brush's current colour, which also applies to what follows.
     void Write(const std::wstring& text, const Gdiplus::Font& font, float x,
                float top) const {
         map_surround::WriteText(graphics, text, font, Gdiplus::PointF(x, top), brush);
@@ -91,7 +91,7 @@ struct Cursor {
     void Label(const std::wstring& text, float atSwatches, float top) {
         Write(text, entryFont, left + atSwatches * swatchWidth, top);
     }
-    /// As it is, or in the lines that there is room for: from y down, but for the last.
+    /// Writes a text as it is, or in the lines that fit: from y down, up to the last.
     void WriteLines(const std::wstring& text, Lines lines, const Gdiplus::Font& font,
                     float x, float above) {
         if (room == nullptr) {

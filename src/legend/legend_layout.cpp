@@ -49,7 +49,7 @@ struct Layout {
             Widen(from + ruler.Measure(line, lettering).Width);
         }
     }
-    /// How much higher so many lines are than one, rounded up.
+    /// How much higher a number of lines is than one, rounded up.
     Length FurtherLines(std::size_t lines) const {
         return ToDevice(static_cast<Length>(lines - 1) *
                         ((legend::kLineTenths * rowHeight + 9) / 10));
@@ -123,8 +123,8 @@ void Layout::AddClasses(CClassifyDisplayTable* table) {
     }
 }
 
-/// Multiplies a font size, and restores it if an exception ends the measurement, be it
-/// std::bad_alloc or a source's own: a retry must not multiply twice.
+/// Multiplies a font size, and restores it if an exception (std::bad_alloc, or a source's
+/// own) ends the measurement: a retry must not multiply twice.
 class ScaledSize {
 public:
     ScaledSize(float& size, float factor) : m_size(size), m_before(size) {

@@ -41,7 +41,7 @@ private:
     bool m_used = false;
 };
 
-/// A text, cut so that it is no wider with the ellipsis that ends it.
+/// A text, cut so that it fits the width with the ellipsis that ends it.
 std::wstring Cut(const std::wstring& text, float width, Ruler& ruler,
                  const Lettering& lettering);
 
@@ -51,10 +51,10 @@ struct BrokenText {
     bool isCut = false;
 };
 
-/// A text in lines no wider than that. They end after spaces, hyphens, underscores,
-/// slashes and full stops, and between East Asian characters; a word that fits no line is
-/// cut, and so is what is left for the last of them.
-/// @param most of the lines
+/// A text in lines no wider than `width`. Lines end after spaces, hyphens, underscores,
+/// slashes and full stops, and between East Asian characters; a word too long for a line
+/// is cut, and so is the last line if text is left over.
+/// @param most the greatest number of lines
 BrokenText BreakLines(const std::wstring& text, float width, int most, Ruler& ruler,
                       const Lettering& lettering);
 

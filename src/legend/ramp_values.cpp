@@ -9,7 +9,7 @@
 namespace map_surround {
 namespace {
 
-// As many as a double tells apart.
+// As many as distinguish any two doubles.
 constexpr int kMostDecimals = 17;
 
 int DecimalsFor(double lowest, double highest) {

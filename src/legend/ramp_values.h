@@ -12,9 +12,9 @@ struct RampValues {
     std::wstring highest;
 };
 
-/// Those of a source's first band; nought where it has none.
-/// @param rounded to three digits of what is between them, without zeros that both end
-/// in: 0 and 9.5 are "0.0" and "9.5"; two that are the same to three digits of their own.
+/// The values of a source's first band; 0 without a band.
+/// @param rounded to three digits of their difference, without the zeros that both end
+/// in: 0 and 9.5 are "0.0" and "9.5"; if they are equal, to three digits of their own.
 /// Otherwise cut to whole numbers.
 RampValues ValuesOf(CRasterSource& source, bool rounded);
 

@@ -25,21 +25,21 @@ inline CRasterSource* TakingPart(const std::vector<CGISDataSource*>& sources,
     return static_cast<CRasterSource*>(source);
 }
 
-/// What the legend calls the source at an index.
+/// The legend's name for the source at an index.
 inline std::wstring NameOf(CRasterSource& source, const std::vector<LegendSource>& shown,
                            std::size_t index) {
     return index < shown.size() && !shown[index].name.empty() ? shown[index].name
                                                               : source.GetFileName();
 }
 
-/// The colours of a ramp that explains the source at an index; a copy, since the source
-/// may have others set when it is asked for its values.
+/// The colours of the ramp that explains the source at an index; a copy, since the source
+/// may set others when it is asked for its values.
 inline std::vector<Gdiplus::Color> RampOf(const std::vector<LegendSource>& shown,
                                           std::size_t index) {
     return index < shown.size() ? shown[index].ramp : std::vector<Gdiplus::Color>();
 }
 
-/// The number of a band as people count.
+/// The number of a band, counted from 1.
 inline std::wstring BandNumber(int index) {
     return CommonFun::int2wstring(ToDevice(Length{index} + 1));
 }

@@ -11,7 +11,7 @@ std::wstring Cut(const std::wstring& text, float width, Ruler& ruler,
     };
     const auto ended = [&text](std::size_t length) {
         constexpr wchar_t kEllipsis = L'\u2026';
-        constexpr unsigned kFirstOfTwo = 0xD800;  // half a character is none
+        constexpr unsigned kFirstOfTwo = 0xD800;  // never leave half a character
         const bool isHalf = length > 0 && (static_cast<unsigned>(text[length - 1]) &
                                            ~0x3FFU) == kFirstOfTwo;
         return text.substr(0, isHalf ? length - 1 : length) + kEllipsis;

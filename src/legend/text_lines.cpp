@@ -9,8 +9,8 @@
 namespace map_surround {
 namespace {
 
-// Of East Asian texts, which break between any two characters: not before these, closing
-// marks and small kana, nor after these, opening marks.
+// East Asian text breaks between any two characters, except before these, closing marks
+// and small kana, and after these, opening marks.
 constexpr std::wstring_view kNeverFirst =
     L"!%),.:;?]}\u2019\u201D\u2026\u3001\u3002\u3005\u3009\u300B\u300D\u300F\u3011\u3015"
     L"\u3041\u3043\u3045\u3047\u3049\u3063\u3083\u3085\u3087\u30A1\u30A3\u30A5\u30A7"
@@ -28,7 +28,7 @@ constexpr Range kEastAsian[] = {{0x2E80, 0x9FFF},
                                 {0xF900, 0xFAFF},
                                 {0xFF00, 0xFFEF},
                                 {0x20000, 0x3FFFF}};
-/// They stand on the character before them, or choose its variant.
+/// Combining marks, and characters that select a variant.
 constexpr Range kMarks[] = {{0x0300, 0x036F},
                             {0x200D, 0x200D},
                             {0x3099, 0x309A},
@@ -51,7 +51,7 @@ bool IsOneOf(std::wstring_view characters, std::uint32_t character) {
 }
 bool IsSpace(std::uint32_t c) { return IsOneOf(L" \t\r\n\u3000", c); }
 
-/// The character at a place, of two halves where it has two; 0 at the end.
+/// The character at an index, two code units where it is a surrogate pair; 0 at the end.
 std::uint32_t CharacterAt(const std::wstring& text, std::size_t at, std::size_t& length) {
     const auto unit = [&text](std::size_t i) {
         return i < text.size() ? static_cast<std::uint32_t>(text[i]) : 0;
@@ -64,8 +64,8 @@ std::uint32_t CharacterAt(const std::wstring& text, std::size_t at, std::size_t&
     return unit(at);
 }
 
-/// Whether a line may end after a character, with those beside it; 0 where the word
-/// begins.
+/// Whether a line may end after a character, given its neighbours; the one before is 0
+/// where the word begins.
 bool MayEndAfter(std::uint32_t before, std::uint32_t character, std::uint32_t next) {
     if (IsIn(kMarks, next) || IsSpace(next)) {
         return false;
@@ -74,7 +74,7 @@ bool MayEndAfter(std::uint32_t before, std::uint32_t character, std::uint32_t ne
         case '_':
         case '/':
             return next != character;
-        case '-':  // of -3 it is a sign
+        case '-':  // in -3 it is a sign
             return next != character && before != 0;
         case '.':
             return next != character && !(IsIn(kDigits, before) && IsIn(kDigits, next));
@@ -86,7 +86,7 @@ bool MayEndAfter(std::uint32_t before, std::uint32_t character, std::uint32_t ne
             !IsOneOf(kNeverLast, character) && !IsOneOf(kNeverFirst, next));
 }
 
-/// Where the next line may begin, or the end of the text.
+/// The next place where a line may begin, or the end of the text.
 std::size_t NextBreak(const std::wstring& text, std::size_t from) {
     std::uint32_t before = 0;
     std::size_t length = 0;
@@ -127,8 +127,9 @@ BrokenText BreakLines(const std::wstring& text, float width, int most, Ruler& ru
             return static_cast<float>(ruler.Measure(lineTo(end), lettering).Width) <=
                    width;
         };
-        // Twice as many words at a time, so that a long text costs no more than its
-        // length, then between the last that fit and the first that do not.
+        // Doubles the number of words each time, so that a long text takes time in
+        // proportion to its length, then searches between the last that fit and the first
+        // that did not.
         std::vector<std::size_t> ends = {NextBreak(text, start)};
         std::size_t fitting = 0;
         while (fits(ends.back())) {

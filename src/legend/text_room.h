@@ -13,21 +13,22 @@
 namespace map_surround {
 
 /// How much room the names and labels of a legend have, at the size in which it is
-/// measured: the layout and the drawing cut and break them alike.
+/// measured: layout and drawing cut and break them alike.
 class TextRoom {
 public:
-    /// @param mostWidth any where it is not above 0
-    /// @param name of the names, and of the labels unless they are measured as drawn
+    /// @param mostWidth any width when not above 0
+    /// @param name the lettering of names, and of labels unless they are measured as
+    /// drawn
     TextRoom(float mostWidth, int mostLines, Ruler& ruler, const Lettering& name)
         : m_mostWidth(mostWidth), m_mostLines(mostLines), m_ruler(ruler), m_name(name) {}
 
-    /// Has labels measured in the font that they are drawn in.
+    /// Has labels measured in the font in which they are drawn.
     void MeasureAsDrawn(float emSize, Gdiplus::FontStyle style) {
         m_entry.emplace(legend::kEntryFamily, emSize, style);
     }
     void SetSample(Length width) { m_sample = width; }
 
-    /// Where the layout has the labels of classes, and of bands and values.
+    /// Where the layout puts the labels of classes, and of bands and values.
     Length LabelAt() const {
         return IsMeasuredAsDrawn() ? Samples(legend::kClassLabelTenths)
                                    : legend::kClassLabelMeasuredAt * m_sample;
@@ -45,7 +46,7 @@ public:
     std::vector<std::wstring> LinesOfLabel(const std::wstring& text) {
         return Fit(text, m_mostWidth - static_cast<float>(LabelAt()), Entry());
     }
-    /// Whether any of these has been cut.
+    /// Whether any text has been cut.
     bool HasCut() const { return m_hasCut; }
 
 private:

@@ -48,7 +48,7 @@ public:
     double subStep;     ///< from one sub-division to the next
     double fullLength;  ///< of a division before rounding
 
-    /// In the front colour; as wide, in pixels, as the drawing scale.
+    /// A pen in the front colour, as many pixels wide as the drawing scale.
     Gdiplus::Pen MakePen() const;
     Gdiplus::SolidBrush MakeBrush() const;
     Gdiplus::Font MakeLabelFont() const;

@@ -11,8 +11,8 @@ using map_surround::Truncate;
 
 namespace {
 
-/// A page size for an image of so many pixels: large images are scaled down, small ones
-/// stay legible.
+/// A size on the page for an image, from its pixels: large images are scaled down, small
+/// ones stay legible.
 int SizeOf(unsigned int width, unsigned int height) {
     unsigned int size = height / 5;
     if (height > 768 && width > 768) {

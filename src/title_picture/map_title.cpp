@@ -9,8 +9,7 @@ using map_surround::Length;
 
 namespace {
 
-/// How much of its width a text has to the left of the point where it is written, where
-/// that is not its beginning.
+/// The share of a text's width to the left of the point where it is written.
 double PartLeftOf(Gdiplus::StringAlignment alignment) {
     return alignment == Gdiplus::StringAlignmentCenter ? 0.5 : 1.0;
 }

@@ -21,11 +21,11 @@ struct ClassColour {
     unsigned char alpha = 255;  ///< Likewise, on the host's map; swatches are opaque.
 };
 
-/// One class: its label and its colour. The fourth component that it answers is the
+/// One class: its label and its colour. The fourth component that it reports is the
 /// colour's alpha.
 class ClassificationItem : public CClassifyDisplayItem {
 public:
-    /// Of a label and a colour.
+    /// From a label and a colour.
     ClassificationItem(std::wstring label, ClassColour colour)
         : m_label(std::move(label)), m_colour(colour) {}
 
@@ -44,7 +44,7 @@ private:
 };
 
 /// The classes of a classified display, in the order in which they were added. The table
-/// owns them; an item stays where it is while more are added.
+/// owns them; pointers to them stay valid when more are added.
 class ClassificationTable : public CClassifyDisplayTable {
 public:
     /// Adds a class after the others.

@@ -20,7 +20,7 @@ inline double RoundDivision(double value) {
     constexpr double kNearly = 1.0 - 1e-12;  // rounded up, it is that value
     constexpr double kDigits[] = {10.0, 5.0, 2.0};
     const double power = std::pow(10.0, std::floor(std::log10(value)));
-    // Multiplying a power of ten below 1 would miss the double that its text stands for.
+    // Multiplying by a power of ten below 1 would miss the double nearest to the decimal.
     const double inverse = std::round(1.0 / power);
     const auto times = [&](double digit) {
         return power >= 1.0 ? digit * power : digit / inverse;
@@ -35,17 +35,17 @@ inline double RoundDivision(double value) {
 
 /// One of a bar's divisions.
 struct Division {
-    double value = 0.0;   ///< what it stands for, in the unit that the bar counts
+    double value = 0.0;   ///< what it stands for, in the bar's unit
     double length = 0.0;  ///< page units
 };
 
-/// The largest division of a round value, of which a bar has so many within a length. A
-/// map of 1 : 25 000 has 2.5 m in a tenth of a millimetre; 3 divisions within 700 of
-/// these, which are 583 m each, stand for 500 m and are 200 long.
-/// @param perPageUnit what a page unit stands for, in the unit that the bar counts
+/// The largest round division such that a number of them fit within a length. On a map at
+/// 1 : 25 000, a tenth of a millimetre is 2.5 m; 3 divisions within 700 of these, which
+/// are 583 m each, stand for 500 m and are 200 long.
+/// @param perPageUnit what a page unit stands for, in the bar's unit
 /// @param divisions how many of them
 /// @param longest the whole bar, page units
-/// @return nothing where one of the three is not above 0, or they make no number
+/// @return nothing where one of the three is not above 0, or the result is not a number
 inline std::optional<Division> LargestDivision(double perPageUnit, int divisions,
                                                double longest) {
     const double most = longest / divisions * perPageUnit;
@@ -64,21 +64,21 @@ inline void SetDivision(CScaleBarBase& bar, const Division& division) {
     bar.SetPaper2ScreenScale(division.length);
 }
 
-/// Has a bar drawn whose whole length is true to a pixel at any scale.
+/// Draws a bar whose whole length is true to a pixel at any scale.
 ///
 /// A bar cuts each division to whole pixels: four of 99.9 pixels are 4 pixels short. So
-/// it is drawn with divisions of whole pixels and, where that would be seen, under a
-/// transform that makes them as long as they are. The surface's transform is then the
+/// it is drawn with divisions of whole pixels and, where the difference would show, under
+/// a transform that stretches them to their length. The surface's transform is then the
 /// caller's again.
 /// @param length of a division, page units
 /// @param centreX of the bar, device pixels
 /// @param scale device pixels per page unit
-/// @param draw draws the bar, or the frame that holds it, at that scale
+/// @param draw draws the bar, or the frame that holds it, at the scale that it is given
 template <typename Draw>
 void WithTrueDivisions(Gdiplus::Graphics& graphics, CScaleBarBase& bar, double length,
                        int centreX, double scale, Draw draw) {
     constexpr double kNobodySees = 0.15;  // pixels
-    constexpr double kAboveWhole = 1e-3;  // pixels, for what the bar cuts off is rounded
+    constexpr double kAboveWhole = 1e-3;  // pixels, against rounding errors
     const double pixels = length * scale;
     if (!(pixels > 0.0)) {
         bar.SetPaper2ScreenScale(pixels);
@@ -100,7 +100,7 @@ void WithTrueDivisions(Gdiplus::Graphics& graphics, CScaleBarBase& bar, double l
     graphics.Restore(state);
 }
 
-/// Draws a bar of such divisions: true to a pixel at any scale.
+/// Draws a bar with such divisions: true to a pixel at any scale.
 /// @param centre device pixels
 /// @param scale device pixels per page unit
 inline void DrawBar(Gdiplus::Graphics& graphics, CScaleBarBase& bar,

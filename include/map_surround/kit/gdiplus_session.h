@@ -8,12 +8,12 @@
 /// What most hosts need around the library, in headers alone: use it, or your own.
 namespace map_surround::kit {
 
-/// GDI+ for as long as it lives: make it before the first element, and let it go after
-/// the last element, bitmap and surface.
+/// Keeps GDI+ running while it lives: create it before the first element, and destroy it
+/// after the last element, bitmap and surface.
 class GdiplusSession {
 public:
-    /// Starts GDI+. Where it cannot be started, as in a version that it has not, all that
-    /// is drawn fails with a status of its own.
+    /// Starts GDI+. If that fails, as for a version that GDI+ does not support, all
+    /// drawing fails with its own status.
     explicit GdiplusSession(const Gdiplus::GdiplusStartupInput& input = {})
         : m_status(Gdiplus::GdiplusStartup(&m_token, &input, nullptr)) {}
     GdiplusSession(const GdiplusSession&) = delete;

@@ -1,7 +1,6 @@
 #pragma once
 
-/// @file
-/// The eight handles of a frame: where they stand, and what pulling one does.
+/// @file The eight handles of a frame: their positions, and what dragging one does.
 
 #include <gdiplus.h>
 
@@ -16,22 +15,22 @@ namespace map_surround::kit {
 /// left.
 constexpr int kHandles = 8;
 
-/// Which way a handle pulls: -1 for the left or the bottom edge, 1 for the right or the
-/// top edge, 0 for neither.
+/// The edges that a handle moves: -1 for the left or the bottom edge, 1 for the right or
+/// the top edge, 0 for neither.
 struct Pull {
     int x = 0;  ///< -1, 0 or 1, as y.
     int y = 0;  ///< Likewise.
 };
 
-/// The way of a handle.
-/// @param handle 0 to 7; any other pulls nothing
+/// The edges that a handle moves.
+/// @param handle 0 to 7; any other moves none
 constexpr Pull PullOf(int handle) {
     constexpr Pull kPulls[kHandles] = {{-1, 1}, {0, 1},  {1, 1},   {1, 0},
                                        {1, -1}, {0, -1}, {-1, -1}, {-1, 0}};
     return handle >= 0 && handle < kHandles ? kPulls[handle] : Pull();
 }
 
-/// Where a handle of an extent stands, page units.
+/// The position of a handle of an extent, page units.
 inline CPoint2D HandleAt(const CBoundingBox& extent, int handle) {
     const Pull pull = PullOf(handle);
     const CPoint2D corner = extent.TopLeft();
@@ -39,14 +38,14 @@ inline CPoint2D HandleAt(const CBoundingBox& extent, int handle) {
             corner.y - extent.GetHeight() * (1 - pull.y) / 2.0};
 }
 
-/// No side gets shorter than this by being pulled, page units.
+/// Dragging makes no side shorter than this, page units.
 constexpr double kSmallestSide = 2.0;
 
-/// An extent whose handle was pulled to a point; the opposite edge or corner stays. It is
-/// never smaller than kSmallestSide either way, and never turns inside out.
-/// @param keepProportions grow both ways as far as the larger pull asks; at the middle of
-/// an edge, the middle of the opposite edge stays. An extent of 100 by 50 whose right
-/// edge is pulled by 20 is then 120 by 60
+/// An extent after a handle was dragged to a point; the opposite edge or corner stays.
+/// Neither side gets shorter than kSmallestSide, and the extent never turns inside out.
+/// @param keepProportions resize both sides by the larger factor; from the middle of an
+/// edge, the middle of the opposite edge stays. An extent of 100 by 50 whose right edge
+/// is dragged by 20 is then 120 by 60
 inline CBoundingBox Pulled(const CBoundingBox& extent, int handle, CPoint2D to,
                            bool keepProportions) {
     const Pull pull = PullOf(handle);
@@ -54,7 +53,7 @@ inline CBoundingBox Pulled(const CBoundingBox& extent, int handle, CPoint2D to,
     const double oldHeight = extent.GetHeight();
     const double left = extent.TopLeft().x;
     const double bottom = extent.TopLeft().y - oldHeight;
-    // The side gets as long as from the edge that stays to the point.
+    // The side's length, from the edge that stays to the point.
     const auto length = [](int way, double low, double old, double point) {
         const double asked = way < 0 ? low + old - point : way > 0 ? point - low : old;
         return std::max(kSmallestSide, asked);
@@ -83,7 +82,7 @@ inline CBoundingBox Pulled(const CBoundingBox& extent, int handle, CPoint2D to,
 
 /// Fills a square on each handle. Draw them last, and only on the screen.
 /// @param rect the frame's rectangle, device pixels
-/// @param side of a square, device pixels; 7 lies from 3 before a handle to 3 after it
+/// @param side of a square, device pixels; 7 extends from 3 before a handle to 3 after it
 inline void DrawHandles(Gdiplus::Graphics& graphics, const CRect& rect, int side,
                         Gdiplus::Color color) {
     const Gdiplus::SolidBrush brush(color);

@@ -13,13 +13,12 @@
 
 namespace map_surround::kit {
 
-/// The encoder of a kind of file, by its MIME type, such as L"image/png"; none where GDI+
-/// has no such encoder.
+/// The encoder for a MIME type, such as L"image/png"; nothing if GDI+ has none.
 inline std::optional<CLSID> EncoderOf(std::wstring_view mimeType) {
     UINT count = 0;
     UINT bytes = 0;
     Gdiplus::GetImageEncodersSize(&count, &bytes);
-    // In whole records, for their texts follow them.
+    // Allocated in whole records, but larger: the texts follow the records.
     std::vector<Gdiplus::ImageCodecInfo> encoders(
         bytes / sizeof(Gdiplus::ImageCodecInfo) + 1);
     Gdiplus::GetImageEncoders(count, bytes, encoders.data());
@@ -31,9 +30,8 @@ inline std::optional<CLSID> EncoderOf(std::wstring_view mimeType) {
     return std::nullopt;
 }
 
-/// The MIME type that goes with the ending of a file's name, in letters of either case:
-/// "plan.JPG" gives image/jpeg. Empty for any but .png, .jpg, .jpeg, .tif, .tiff, .bmp
-/// and .gif.
+/// The MIME type for a file name's ending, in either case: "plan.JPG" gives image/jpeg.
+/// Empty for anything but .png, .jpg, .jpeg, .tif, .tiff, .bmp and .gif.
 inline std::wstring_view MimeTypeOf(std::wstring_view file) {
     struct Kind {
         std::wstring_view ending;
@@ -60,13 +58,13 @@ inline std::wstring_view MimeTypeOf(std::wstring_view file) {
     return {};
 }
 
-/// Saves a picture in the format that its file's ending asks for, with its resolution,
-/// which decides how large it prints: 1748 pixels at 300 dots an inch are 148 mm.
+/// Saves an image in the format of its file's ending, with its resolution, which decides
+/// how large it prints: 1748 pixels at 300 dots per inch are 148 mm.
 ///
 /// A file of that name is replaced.
-/// @param dpi dots an inch, above 0
-/// @return InvalidParameter for a resolution that is none, UnknownImageFormat for an
-/// ending that has no encoder, else what GDI+ answers
+/// @param dpi dots per inch, above 0
+/// @return InvalidParameter for an invalid resolution, UnknownImageFormat for an ending
+/// without an encoder, else what GDI+ returns
 inline Gdiplus::Status SaveImage(Gdiplus::Bitmap& image, const std::wstring& file,
                                  double dpi) {
     const auto resolution = static_cast<Gdiplus::REAL>(dpi);

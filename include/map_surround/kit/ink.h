@@ -32,25 +32,25 @@ struct InkBox {
     bool IsEmpty() const { return Width() <= 0.0 || Height() <= 0.0; }
 };
 
-/// Texts are hinted differently from size to size: at another scale than the measured one
-/// they may reach further by this factor.
+/// Text is hinted differently at each size: at a scale other than the measured one it may
+/// reach further by this factor.
 constexpr double kHinting = 1.05;
 
-/// @cond How it is measured is nobody's business but this file's.
+/// @cond The measuring is internal to this file.
 namespace ink {
 
 constexpr int kLargestSide =
     3000;  // pixels; a longer element is measured at a smaller scale
 
-/// The first look is drawn this much smaller, to find where to measure. Anything wider
-/// than one of its pixels leaves a trace.
+/// The first look is drawn at this scale, to find where to measure. Anything wider than
+/// one of its pixels leaves a trace.
 constexpr double kGlance = 0.25;
-constexpr double kLeastGlance = 300.0;  // pixels; saving more than that saves nothing
-/// Lengths in whole pixels add up to something else at a small scale.
+constexpr double kLeastGlance = 300.0;  // pixels; a smaller one would save no time
+/// Lengths in whole pixels add up differently at a small scale.
 constexpr double kGlancePixels = 4.0;
 
-/// Only the alpha is read. On straight pixels every drawing would have to look at those
-/// beneath it.
+/// Only the alpha is read. With straight alpha, every drawing would have to read the
+/// pixels beneath it.
 constexpr Gdiplus::PixelFormat kFormat = PixelFormat32bppPARGB;
 
 /// The part of a bitmap that is not transparent.
@@ -61,8 +61,8 @@ struct PixelBox {
     int bottom;
 };
 
-/// Most rows are, and need not be looked at pixel by pixel: without alpha there is no
-/// colour either, so that every byte is like the one before it, and 0.
+/// Most rows are blank, and need not be examined pixel by pixel: without alpha there is
+/// no colour either, so every byte is 0 like the one before it.
 inline bool IsBlank(const std::uint8_t* row, int width) {
     const auto bytes = static_cast<std::size_t>(width) * 4;
     return row[0] == 0 && std::memcmp(row, row + 1, bytes - 1) == 0;
@@ -94,8 +94,8 @@ inline PixelBox InkedPixels(Gdiplus::Bitmap& bitmap, int width, int height) {
     return box;
 }
 
-/// The side of a square around an element's centre that its drawing does not leave: half
-/// as much again as its size all around, and room for a text that starts at an edge.
+/// The side of a square around an element's centre that its drawing stays within: half as
+/// much again as its size all around, and room for a text that starts at an edge.
 inline double RoomFor(const CMapSurround& element) {
     const double height = std::max(1.0, static_cast<double>(element.GetSize()));
     const double ratio = std::isfinite(element.GetAspectRatio())
@@ -141,7 +141,7 @@ InkBox Look(const Reach& reach, double scale, Drawing draw) {
             (reach.up - box.top) / scale, (box.bottom + 1 - reach.up) / scale};
 }
 
-/// A bitmap that surely holds a drawing, from how far its small version reached.
+/// A bitmap large enough for a drawing, given how far its small version reached.
 inline Reach Around(const InkBox& glanced, double leeway, double scale,
                     const Reach& all) {
     const auto side = [=](double length, int most) {
@@ -164,7 +164,7 @@ inline bool IsWithin(const InkBox& ink, double leeway, double scale, const Reach
 }
 
 /// Most of a square with room for anything is empty: the drawing is found at a small
-/// scale, then measured where it is.
+/// scale, then measured there.
 template <typename Drawing>
 InkBox Measure(double room, Drawing draw) {
     const double scale = std::min(1.0, kLargestSide / room);
@@ -186,12 +186,12 @@ InkBox Measure(double room, Drawing draw) {
 }  // namespace ink
 /// @endcond
 
-/// Draws an element out of sight and looks how far it reaches, for texts may stand out
-/// from the rectangle that an element's size and aspect ratio describe. Of a title of 40
-/// units "Land cover of Olinda" the rectangle is 30 high, and its ink 8 lower than that.
+/// Draws an element off-screen and measures how far it reaches, for text may reach beyond
+/// the rectangle given by an element's size and aspect ratio. For a title of 40 units,
+/// "Land cover of Olinda", the rectangle is 30 high, and its ink 8 lower than that.
 ///
-/// Looks at scale 1, or at the scale at which the element has room in 3000 pixels. Throws
-/// std::bad_alloc without memory for that.
+/// Measures at scale 1, or at the scale at which the element fits in 3000 pixels. Throws
+/// std::bad_alloc when memory for that runs out.
 inline InkBox MeasureInk(CMapSurround& element) {
     return ink::Measure(ink::RoomFor(element), [&element](Gdiplus::Graphics* graphics,
                                                           CPoint centre, double scale) {
