@@ -25,10 +25,10 @@ constexpr int kHandleSide = 7;               // pixels
 
 int Pixel(double length) { return static_cast<int>(std::lround(length * kScale)); }
 
-/// An element on the page. A scale bar cannot be asked for its division, so that is kept.
+/// An element on the page. A scale bar has no getter for its division, so that is kept.
 struct Placed {
     CSurroundFrame frame;
-    double division = 200.0;  // page units; 500 m on a map of 1 : 25 000
+    double division = 200.0;  // page units; 500 m on a map at 1 : 25 000
 
     double Width() const {
         const CMapSurround& element = *frame.GetMapSurround();
@@ -38,7 +38,7 @@ struct Placed {
 };
 
 void SetDivision(CScaleAlternate& bar, double length) {
-    bar.SetPaper2DataScale(length * 2.5);  // metres in a page unit
+    bar.SetPaper2DataScale(length * 2.5);  // metres per page unit
     bar.SetScreen2PaperByOneScale(length);
     bar.SetPaper2ScreenScale(length * kScale);
     bar.ResetAspectRatio();
@@ -88,7 +88,7 @@ void Resize(Placed& placed, kit::Pull pulled, CPoint2D to) {
     Fit(placed, pulled, anchor);
 }
 
-/// Drags what lies under a point: by a handle it is resized, else moved.
+/// Drags what lies under a point: by a handle it is resized, otherwise moved.
 void Drag(Placed (&page)[3], CPoint2D from, CPoint2D to) {
     for (Placed& placed : page) {
         const SpatialTopoRelation hit = placed.frame.HitTest(from, kTolerance, false);

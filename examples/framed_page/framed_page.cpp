@@ -16,10 +16,10 @@ constexpr int kPageWidth = 1480;
 constexpr int kPageHeight = 1050;
 constexpr double kUnitsPerInch = 254.0;
 constexpr double kMargin = 70.0;        // around an element in its frame
-constexpr double kMetresPerUnit = 2.5;  // a map of 1 : 25 000
+constexpr double kMetresPerUnit = 2.5;  // a map at 1 : 25 000
 constexpr int kBorderWidth = 2;         // a fifth of a millimetre
 
-/// Page units, y upwards, to drawing units, which are as large but have y downwards.
+/// From page units, y upwards, to drawing units, which are as large but have y downwards.
 CRect ToDrawing(CBoundingBox extent) {
     const CPoint2D topLeft = extent.TopLeft();
     const int left = static_cast<int>(topLeft.x);

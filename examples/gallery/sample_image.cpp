@@ -49,7 +49,7 @@ void DrawLandscape(Gdiplus::Graphics* graphics) {
     }
 }
 
-/// No other process draws into it.
+/// A name that no other process uses.
 std::wstring NewFile() {
     const auto now = std::chrono::steady_clock::now().time_since_epoch().count();
     return (std::filesystem::temp_directory_path() /

@@ -57,7 +57,7 @@ Outlined Draw(Drawing& drawing, CPoint centre, Rasters rasters, CMapLegend legen
     return {topLeft, 2 * halfWidth};
 }
 
-/// The lengths from the top of a legend to its first entry, which it answers.
+/// Draws the lengths from the top of a legend to its first entry, and returns them.
 int NameHead(Drawing& drawing, CPoint at, int x, const Lengths& length) {
     const int title = at.y + 2 * length.gap + length.title;
     const int row = title + length.row;
