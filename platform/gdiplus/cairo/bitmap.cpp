@@ -52,7 +52,8 @@ bool IsWithin(const Bitmap& bitmap, INT x, INT y) {
     return x >= 0 && y >= 0 && x < bitmap.pixels->width && y < bitmap.pixels->height;
 }
 
-/// Memory of the caller's that Cairo, or a row of three bytes a pixel, can draw in place.
+/// Whether the caller's memory has a row length that Cairo can draw on in place, or that
+/// holds rows of three bytes per pixel.
 bool IsUsable(INT width, INT stride, PixelFormat format) {
     const std::int64_t bytes = (std::int64_t{width} * GetPixelFormatSize(format) + 7) / 8;
     return std::abs(std::int64_t{stride}) >= bytes && stride % 4 == 0;

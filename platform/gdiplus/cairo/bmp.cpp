@@ -98,7 +98,7 @@ bool ReadBmpHeader(const Numbers& numbers, BmpHeader& header, Bitmap& resolution
     return known && IsDecodable(header.width, header.height);
 }
 
-/// What a mask leaves of a pixel, brought to 8 bits.
+/// The masked part of a pixel, scaled to 8 bits.
 UINT Part(UINT pixel, UINT mask) {
     if (mask == 0) {
         return 0;
@@ -148,8 +148,8 @@ bool ReadPlain(const Numbers& numbers, const BmpHeader& header, const Pixels& pi
     return true;
 }
 
-/// Pixels as runs of one colour, or of colours in a row, with jumps between. What is
-/// jumped over has the palette's first colour.
+/// Pixels as runs of one colour, or of listed colours, with jumps between. Skipped pixels
+/// have the palette's first colour.
 bool ReadRuns(const Numbers& numbers, const BmpHeader& header, const Pixels& pixels) {
     const auto color = [&](UINT index) {
         return index < header.palette.size() ? header.palette[index] : 0xFF000000;

@@ -4,7 +4,7 @@
 
 namespace engine {
 
-/// A brush of one colour, the only kind that there is.
+/// A brush of one colour, the only kind.
 struct Brush : GpSolidFill {
     ARGB color = 0;
 };

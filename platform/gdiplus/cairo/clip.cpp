@@ -8,11 +8,11 @@ namespace {
 
 using Region = std::shared_ptr<cairo_region_t>;
 
-/// Far beyond every surface, and small enough to be added up.
+/// Far beyond every surface, yet small enough for sums.
 constexpr int kFar = 1 << 22;
 
 int Cell(double value) {
-    // A cell is within when its middle is.
+    // A cell is inside if its centre is.
     return static_cast<int>(
         std::clamp(std::ceil(value - 0.5), double(-kFar), double(kFar)));
 }
@@ -34,7 +34,7 @@ struct Corner {
     double y;
 };
 
-/// The cells within a turned rectangle, row by row.
+/// The cells within a rotated rectangle, row by row.
 Region Turned(const Corner (&corners)[4], int rows) {
     Region region = Adopt(cairo_region_create());
     double top = corners[0].y;

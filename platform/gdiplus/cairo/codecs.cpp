@@ -60,7 +60,7 @@ constexpr Signature kPng = {{0x89, 'P', 'N', 'G', 13, 10, 26, 10},
                             1};
 
 struct Codec {
-    DWORD encoder;  ///< the first part of its name; those that follow are the same
+    DWORD encoder;  ///< the first part of its name; the others are the same
     DWORD format;
     const FlatChar* name;
     const FlatChar* description;
@@ -183,7 +183,7 @@ bool HaveValues(const EncoderParameters* parameters) {
     return true;
 }
 
-/// The quality that the parameters ask for, or the usual one.
+/// The quality in the parameters, or the default.
 int QualityOf(const EncoderParameters* parameters) {
     constexpr int usual = 75;
     for (UINT i = 0; parameters != nullptr && i < parameters->Count; ++i) {
@@ -209,7 +209,7 @@ bool Encode(const Codec& codec, const Source& source, const EncoderParameters* p
                                         : EncodePng(source, bytes);
 }
 
-/// Writes a whole file or none: a regular one that could not be written is removed.
+/// Writes a whole file or none: a regular file that could not be completed is removed.
 GpStatus Write(const std::string& name, const std::vector<BYTE>& bytes) {
     std::FILE* const file = std::fopen(name.c_str(), "wbe");
     if (file == nullptr) {

@@ -15,7 +15,7 @@ struct FileBytes {
 
 constexpr double kMetresPerInch = 0.0254;
 
-/// The most pixels of an image in a file. Asked before memory is taken for them.
+/// The most pixels of an image in a file, checked before memory is allocated.
 constexpr std::int64_t kMostPixels = 1 << 29;
 
 inline bool IsDecodable(std::int64_t width, std::int64_t height) {
@@ -23,7 +23,7 @@ inline bool IsDecodable(std::int64_t width, std::int64_t height) {
            height <= kMostPixels / width;
 }
 
-// Each gives null for what it cannot decode, and for want of memory.
+// Each returns null for what it cannot decode, and when memory runs out.
 std::unique_ptr<Bitmap> DecodePng(FileBytes file);
 std::unique_ptr<Bitmap> DecodeJpeg(FileBytes file);
 std::unique_ptr<Bitmap> DecodeTiff(FileBytes file);
@@ -41,14 +41,14 @@ public:
     REAL Xdpi() const { return bitmap_.xdpi; }
     REAL Ydpi() const { return bitmap_.ydpi; }
     void Read(INT y, ARGB* colors) const;
-    /// Red, green and blue, and alpha where asked, a byte each.
+    /// Red, green and blue, and alpha if wanted, one byte each.
     void ReadBytes(INT y, bool alpha, BYTE* bytes) const;
 
 private:
     const Bitmap& bitmap_;
 };
 
-// Each appends a whole file; false where it cannot.
+// Each appends a whole file; false if it cannot.
 bool EncodePng(const Source& source, std::vector<BYTE>& file);
 bool EncodeJpeg(const Source& source, int quality, std::vector<BYTE>& file);
 bool EncodeTiff(const Source& source, std::vector<BYTE>& file);

@@ -20,7 +20,7 @@ ARGB* FirstOf(const Pixels& pixels, const cairo_rectangle_int_t& area, int row) 
     return reinterpret_cast<ARGB*>(pixels.Row(area.y + row)) + area.x;
 }
 
-/// Opaque and wholly clear pixels are the same either way; most rows have no others.
+/// Opaque and fully clear pixels are the same in both forms; most rows have no others.
 bool HasOthers(const ARGB* row, int count) {
     ARGB others = 0;
     for (int x = 0; x < count; ++x) {
@@ -93,7 +93,7 @@ Drawing::Drawing(Graphics& graphics, const Extents& extents) : graphics_(graphic
     if (pixels->format == PixelFormat32bppARGB && !pixels->opaque) {
         area_ = AreaOf(*pixels, extents);
         if (IsOpaque(*pixels, area_)) {
-            area_.width = 0;  // and stays so, whatever is drawn over it
+            area_.width = 0;  // and stays empty, whatever is drawn
             return;
         }
         Premultiply(*pixels, area_, graphics.straight);

@@ -12,8 +12,8 @@
 namespace engine {
 namespace {
 
-/// FreeType opens and closes faces one at a time; with its faces it works in any number
-/// of threads.
+/// FreeType opens and closes faces one at a time; its faces can be used in any number of
+/// threads.
 struct FreeType {
     std::mutex mutex;
     FT_Library library = nullptr;
@@ -22,7 +22,7 @@ struct FreeType {
 };
 
 FreeType& TheFreeType() {
-    // Never destroyed: Cairo may let go of a last face after everything else has ended.
+    // Never destroyed: Cairo may release a last face after everything else has ended.
     static auto* const freeType = new FreeType;
     return *freeType;
 }
@@ -43,7 +43,7 @@ FT_Face Open(const FaceFile& file) {
     freeType.released = false;
     FT_Face face = nullptr;
     if (FT_New_Face(freeType.library, file.path.c_str(), file.index, &face) != 0) {
-        throw std::bad_alloc();  // it was there when Fontconfig told of it
+        throw std::bad_alloc();  // it existed when Fontconfig listed it
     }
     ++freeType.faces;
     return face;
@@ -62,7 +62,7 @@ cairo_font_face_t* CairoFace(const FaceFile& file) {
     cairo_font_face_t* const made = cairo_ft_font_face_create_for_ft_face(
         face, file.hintStyle == FC_HINT_SLIGHT ? FT_LOAD_TARGET_LIGHT : FT_LOAD_DEFAULT);
     static const cairo_user_data_key_t key = {0};
-    // Cairo keeps faces longer than whoever made them.
+    // Cairo keeps faces longer than their creators.
     if (cairo_font_face_set_user_data(made, &key, face, Close) != CAIRO_STATUS_SUCCESS) {
         cairo_font_face_destroy(made);
         Close(face);

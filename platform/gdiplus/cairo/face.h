@@ -10,8 +10,8 @@
 
 namespace engine {
 
-/// One face as one thread has it: its characters and shapes for HarfBuzz, its glyphs for
-/// Cairo. No two threads share any of it, so none waits for another.
+/// One face in one thread: its characters and shapes for HarfBuzz, its glyphs for Cairo.
+/// Threads share none of it, so none waits for another.
 struct Face {
     explicit Face(std::shared_ptr<const FaceFile> from);
 
@@ -23,14 +23,14 @@ struct Face {
     double em = 1000.0;
 };
 
-/// HarfBuzz counts in whole numbers: so many to a pixel.
+/// HarfBuzz uses integers: this many to a pixel.
 constexpr double kUnit = 1024.0;
 
-/// The largest em, in pixels, of which Cairo makes glyphs; above, outlines are filled.
+/// The largest em, in pixels, for which Cairo makes glyphs; above, outlines are filled.
 constexpr double kLargestGlyphs = 400.0;
 
-/// A face in an em size of pixels. Fit to the pixels, each advance is a whole number of
-/// them and each line starts on one.
+/// A face at an em size in pixels. Fitted to the pixels, each advance is a whole number
+/// of them and each line starts on one.
 struct SizedFace {
     SizedFace(std::shared_ptr<Face> of, double emSize, bool fitToPixels, bool smooth);
 
@@ -41,7 +41,7 @@ struct SizedFace {
     Owned<cairo_scaled_font_t, cairo_scaled_font_destroy> glyphs;
     double ascent = 0.0;
     double descent = 0.0;
-    // Of the lines under and through a text, from the baseline down.
+    // For the lines under and through a text, downwards from the baseline.
     double underline = 0.0;
     double strikeout = 0.0;
     double thickness = 1.0;

@@ -1,6 +1,6 @@
 #pragma once
 
-// The flat functions are all that this library shows to the outside.
+// The library exports nothing but the flat functions.
 #pragma GCC visibility push(default)
 #include "gdiplus/codec.h"
 #include "gdiplus/flat.h"
@@ -15,7 +15,7 @@ namespace engine {
 
 using namespace Gdiplus;
 
-/// Runs the work of a flat function. What C++ throws for want of memory ends here.
+/// Runs the work of a flat function. C++ exceptions for lack of memory end here.
 template <typename Work>
 GpStatus Guarded(Work work) noexcept {
     try {
@@ -27,7 +27,7 @@ GpStatus Guarded(Work work) noexcept {
     }
 }
 
-/// Makes an object of what is valid, once GDI+ was started.
+/// Makes an object from valid arguments, if GDI+ is running.
 template <typename Native, typename Build>
 GpStatus Make(Native** place, bool valid, Build build) noexcept {
     if (!IsRunning()) {
@@ -42,7 +42,8 @@ GpStatus Make(Native** place, bool valid, Build build) noexcept {
     });
 }
 
-/// Tells a value of an object: InvalidParameter without the one or a place for the other.
+/// Returns a value of an object: InvalidParameter without the object or a place for the
+/// value.
 template <typename Object, typename Value, typename Read>
 GpStatus Tell(const Object* object, Value* value, Read read) {
     if (object == nullptr || value == nullptr) {

@@ -17,7 +17,7 @@ const FcChar8* Bytes(const std::string& text) {
     return reinterpret_cast<const FcChar8*>(text.c_str());
 }
 
-/// What Fontconfig is asked for: a family in a style, with the system's rules applied.
+/// The query to Fontconfig: a family in a style, with the system's rules applied.
 Pattern Question(const std::string& name, INT style) {
     Pattern pattern(FcPatternCreate());
     if (pattern == nullptr) {
@@ -44,8 +44,8 @@ bool IsGeneric(const std::string& name) {
                        });
 }
 
-/// Whether a face is what was meant: of a family that the question names as strongly as
-/// the name itself, as it does those of the same measures.
+/// Whether a face is what was meant: of a family that the query binds as strongly as the
+/// name itself, as it does those with the same metrics.
 bool IsMeant(const FcPattern* face, const FcPattern* question) {
     FcValue value;
     FcValueBinding binding = FcValueBindingWeak;
@@ -111,8 +111,8 @@ Pattern Match(const Pattern& question) {
     return Pattern(FcFontMatch(nullptr, question.get(), &result));
 }
 
-/// Fontconfig minds its threads itself, in ways that no checker of threads can follow;
-/// little is asked of it, so one may wait for the other.
+/// Fontconfig locks by itself, in ways that thread checkers cannot follow; it is called
+/// rarely, so threads may wait for each other here.
 std::mutex g_fontconfig;
 
 }  // namespace

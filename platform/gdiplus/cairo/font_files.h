@@ -14,21 +14,21 @@
 
 namespace engine {
 
-/// Where a face of a family is, and what it lacks of its style.
+/// The file of a face in a family, and what it lacks of the style.
 struct FaceFile {
     std::string path;
     int index = 0;
     bool embolden = false;
     bool slant = false;
-    int hintStyle = FC_HINT_SLIGHT;  ///< of Fontconfig's
+    int hintStyle = FC_HINT_SLIGHT;  ///< one of Fontconfig's
 };
 
-/// What is in the file of a face; throws std::bad_alloc where it cannot be read now,
-/// though Fontconfig told of it.
+/// The contents of a face's file; throws std::bad_alloc if it cannot be read now, though
+/// Fontconfig listed it.
 using FontBytes = Owned<hb_blob_t, hb_blob_destroy>;
 FontBytes BytesOf(const FaceFile& file);
 
-/// The measures of a family, in its own units.
+/// The metrics of a family, in its own units.
 struct FamilyMetrics {
     UINT16 em = 0;
     UINT16 ascent = 0;
@@ -36,16 +36,16 @@ struct FamilyMetrics {
     UINT16 spacing = 0;
 };
 
-/// A family of the system. Fontconfig takes longer to find a face than a line takes to
-/// write: those of the other styles are looked for when they are first needed, by
-/// whatever thread.
+/// A font family of the system. Fontconfig takes longer to find a face than a line takes
+/// to draw: the faces of other styles are looked up when first needed, by whichever
+/// thread.
 class Family {
 public:
     Family(std::u16string found, std::string asked,
            std::shared_ptr<const FaceFile> regular);
 
-    /// Of the style's bold and italic alone; throw std::bad_alloc where there is none
-    /// now.
+    /// For the style's bold and italic only; both throw std::bad_alloc if there is no
+    /// such face now.
     const std::shared_ptr<const FaceFile>& FaceOf(INT style) const;
     const FamilyMetrics& MetricsOf(INT style) const;
 
@@ -63,11 +63,11 @@ private:
     mutable Style styles_[4];
 };
 
-/// The family of a name, or one of the same measures that Fontconfig binds to it; null
-/// where there is none.
+/// The family with a name, or one with the same metrics that Fontconfig binds to it; null
+/// if there is none.
 std::shared_ptr<const Family> FindFamily(const FlatChar* name);
 
-/// The faces that Fontconfig would have after that of a family, in order, whatever
+/// The faces that Fontconfig would use after a family's own, in order, whatever
 /// characters they have; the first is the family's own.
 struct Fallback {
     std::vector<std::shared_ptr<const FaceFile>> faces;

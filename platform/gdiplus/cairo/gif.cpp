@@ -36,7 +36,7 @@ int WriteBytes(GifFileType* gif, const GifByteType* from, int count) {
 void EndReading(GifFileType* gif) { DGifCloseFile(gif, nullptr); }
 void EndWriting(GifFileType* gif) { EGifCloseFile(gif, nullptr); }
 
-/// Leads to the first image of the file, and finds which colour is clear, -1 for none.
+/// Advances to the first image of the file, and finds which colour is clear, -1 for none.
 bool FindImage(GifFileType* gif, int& clear) {
     GifRecordType record = UNDEFINED_RECORD_TYPE;
     while (DGifGetRecordType(gif, &record) == GIF_OK) {
@@ -77,7 +77,7 @@ ARGB ColorOf(const ColorMapObject& map, int index, int clear) {
            c.Blue;
 }
 
-/// Writes the image where it stands on the file's screen; what goes past it is left out.
+/// Writes the image at its place on the file's screen, clipped to it.
 bool ReadGifRows(GifFileType* gif, const ColorMapObject& map, int clear,
                  const Pixels& pixels) {
     const GifImageDesc& image = gif->Image;
@@ -96,7 +96,7 @@ bool ReadGifRows(GifFileType* gif, const ColorMapObject& map, int clear,
         }
         return true;
     };
-    // An interlaced image comes in four passes: its start and its step each.
+    // An interlaced image comes in four passes: start and step of each.
     constexpr int passes[][2] = {{0, 8}, {4, 8}, {2, 4}, {1, 2}};
     if (image.Interlace) {
         for (const auto& pass : passes) {
@@ -142,8 +142,8 @@ namespace {
 
 constexpr BYTE kClear = 255;  // the last index is kept for clear pixels
 
-/// The image as indices of up to 255 colours: its own where it has no more, else those
-/// that giflib finds nearest.
+/// The image as indices of up to 255 colours: its own if it has no more, else those that
+/// giflib finds nearest.
 class Reduced {
 public:
     Reduced(const Source& source, ColorMapObject& map)

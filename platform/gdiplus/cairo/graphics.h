@@ -16,7 +16,7 @@
 
 namespace engine {
 
-/// What Save keeps and Restore brings back.
+/// The state that Save keeps and Restore brings back.
 struct State {
     cairo_matrix_t world = kIdentity;
     Unit pageUnit = UnitDisplay;
@@ -28,25 +28,25 @@ struct State {
     std::shared_ptr<cairo_region_t> clip;
 };
 
-/// A pixel whose straight colour was replaced by the premultiplied one for a drawing.
+/// A pixel whose straight colour was premultiplied for one drawing.
 struct StraightPixel {
     ARGB* at;
     ARGB straight;
     ARGB premultiplied;
 };
 
-/// A surface to draw on. Cairo's own transform stays as it was found: points are
-/// transformed before Cairo sees them.
+/// A surface to draw on. Cairo's own transform stays as it was: points are transformed
+/// before Cairo sees them.
 struct Graphics : GpGraphics {
     ~Graphics();
 
-    /// Null on a surface of the host's own.
+    /// Null on a host's own surface.
     std::shared_ptr<Pixels> pixels;
-    /// Where the pixels have three bytes: what Cairo draws on instead, an area at a time.
+    /// For pixels of three bytes: what Cairo draws on instead, one area at a time.
     std::shared_ptr<Pixels> scratch;
     cairo_t* cairo = nullptr;
     cairo_matrix_t base = kIdentity;  ///< from page pixels to Cairo's units
-    bool ofPixels = true;             ///< and not of shapes, as a PDF's page
+    bool ofPixels = true;             ///< rather than shapes, as on a PDF page
     double clipCells = 1.0;           ///< a unit of Cairo's
     REAL xdpi = 96.0f;
     REAL ydpi = 96.0f;
@@ -60,7 +60,7 @@ struct Graphics : GpGraphics {
     };
     std::vector<Saved> saved;
     GraphicsState lastName = 0;
-    std::vector<StraightPixel> straight;  ///< of the drawing at work
+    std::vector<StraightPixel> straight;  ///< of the present drawing
 
     bool IsSmooth() const {
         return state.smoothing == SmoothingModeAntiAlias ||
@@ -68,10 +68,10 @@ struct Graphics : GpGraphics {
     }
     /// From world coordinates to Cairo's.
     cairo_matrix_t Device() const;
-    /// How far the middle of a pixel is from its whole coordinate, for lines and glyphs:
-    /// half a pixel where the world is only moved.
+    /// The distance from a whole coordinate to the pixel's centre, for lines and glyphs:
+    /// half a pixel if the world transform is only a translation.
     double PixelMiddle() const;
-    /// Lets Cairo know of the clip.
+    /// Sets the clip in Cairo.
     void ApplyClip();
 };
 
@@ -80,11 +80,11 @@ inline const Graphics* From(const GpGraphics* graphics) {
     return static_cast<const Graphics*>(graphics);
 }
 
-/// Pixels that a length of 1 in a unit takes; world units are pixels.
+/// The pixels in one unit of length; world units are pixels.
 REAL PixelsIn(Unit unit, REAL dpi);
 
-/// The time of one drawing within the extents. Straight colours are premultiplied
-/// meanwhile where they have to be; the untouched keep what they were.
+/// Brackets one drawing within the extents. Straight colours are premultiplied meanwhile
+/// if they have to be; untouched pixels keep theirs exactly.
 class Drawing {
 public:
     Drawing(Graphics& graphics, const Extents& extents);
@@ -92,7 +92,7 @@ public:
     Drawing(const Drawing&) = delete;
     Drawing& operator=(const Drawing&) = delete;
 
-    /// How the drawing went. A Cairo that fell into an error is replaced.
+    /// The result of the drawing. A Cairo context in an error state is replaced.
     GpStatus Finish();
 
 private:

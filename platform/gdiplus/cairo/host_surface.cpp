@@ -16,7 +16,7 @@ GpStatus MakeOn(cairo_t* cairo, REAL xdpi, REAL ydpi, GpGraphics** place) {
     graphics->ydpi = ydpi;
     graphics->ofPixels =
         cairo_surface_get_type(cairo_get_group_target(cairo)) == CAIRO_SURFACE_TYPE_IMAGE;
-    // Elsewhere a unit may be many pixels, and a clip has to be as fine.
+    // On other surfaces a unit may be many pixels, and the clip has to be finer.
     constexpr double finer = 32.0;
     graphics->clipCells = graphics->ofPixels ? 1.0 : finer;
     *place = graphics.release();

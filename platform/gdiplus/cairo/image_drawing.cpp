@@ -20,7 +20,7 @@ cairo_filter_t FilterOf(InterpolationMode mode) {
     }
 }
 
-/// Cairo's surfaces end here.
+/// The limit of Cairo's surfaces.
 constexpr INT kLongestSide = 32767;
 
 GpStatus DrawInto(Graphics& graphics, Bitmap& bitmap, double x, double y, double width,
@@ -49,7 +49,7 @@ GpStatus DrawInto(Graphics& graphics, Bitmap& bitmap, double x, double y, double
     cairo_matrix_invert(&back);
     cairo_pattern_set_matrix(pattern.get(), &back);
     cairo_pattern_set_filter(pattern.get(), FilterOf(graphics.state.interpolation));
-    // Pixels at the edge are not to fade; where there are none, there is the image alone.
+    // Edge pixels must not fade into what surrounds them.
     cairo_pattern_set_extend(pattern.get(),
                              graphics.ofPixels ? CAIRO_EXTEND_PAD : CAIRO_EXTEND_NONE);
     Drawing drawing(graphics, pencil.Reach(1.0));
@@ -68,7 +68,7 @@ GpStatus Draw(GpGraphics* graphics, GpImage* image, double x, double y, double w
         [&] { return DrawInto(*From(graphics), *From(image), x, y, width, height); });
 }
 
-/// As large as it is on paper.
+/// At its size on paper.
 GpStatus DrawOwnSize(GpGraphics* graphics, GpImage* image, double x, double y) {
     if (graphics == nullptr || image == nullptr) {
         return InvalidParameter;

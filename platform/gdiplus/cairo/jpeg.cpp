@@ -1,4 +1,4 @@
-// The library's header wants these before it.
+// Required by libjpeg's header.
 #include <csetjmp>
 #include <cstddef>
 #include <cstdio>
@@ -14,7 +14,7 @@
 namespace engine {
 namespace {
 
-// libjpeg leaves on an error by jumping. What it jumps over here has no destructors.
+// libjpeg leaves by a long jump on an error. What is skipped here has no destructors.
 
 struct Errors {
     jpeg_error_mgr manager;
@@ -32,7 +32,7 @@ jpeg_error_mgr* Watch(Errors& errors) {
     return manager;
 }
 
-/// A file of a few bytes may announce scans without end, each as long as the image.
+/// A file of a few bytes may announce endless scans, each as long as the image.
 void StopAfterManyScans(j_common_ptr jpeg) {
     constexpr int most = 200;
     if (jpeg->is_decompressor != 0 &&
@@ -72,7 +72,7 @@ bool ReadJpegRows(Decoding& d, const Pixels& pixels) {
         JSAMPROW row = pixels.Row(static_cast<INT>(d.jpeg.output_scanline));
         jpeg_read_scanlines(&d.jpeg, &row, 1);
         for (INT x = 0; inks && x < pixels.width; ++x) {
-            // How much of each colour the inks leave; Adobe's files hold just that.
+            // How much of each colour the inks leave, which is what Adobe's files hold.
             BYTE* const p = row + std::ptrdiff_t{x} * 4;
             const bool adobe = d.jpeg.saw_Adobe_marker != 0;
             const auto left = [&](int i) { return adobe ? p[i] : 255 - p[i]; };

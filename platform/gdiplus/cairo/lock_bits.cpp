@@ -9,7 +9,7 @@ BYTE* FirstPixel(const Pixels& pixels, const Rect& area) {
                                     8;
 }
 
-/// From the bitmap's pixels to rows in the format that was asked, or back.
+/// Converts the bitmap's pixels to rows in the requested format, or back.
 void Carry(Bitmap& bitmap, const BitmapData& data, bool back) {
     const Pixels& pixels = *bitmap.pixels;
     const Rect& area = bitmap.lockArea;

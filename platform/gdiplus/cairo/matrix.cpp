@@ -36,7 +36,7 @@ void Join(cairo_matrix_t& matrix, const cairo_matrix_t& step, MatrixOrder order)
 cairo_matrix_t Translation(REAL dx, REAL dy) { return {1, 0, 0, 1, dx, dy}; }
 
 cairo_matrix_t Rotation(REAL degrees) {
-    // Whole quarters of a turn keep lines on the pixels.
+    // Exact quarter turns keep lines on the pixels.
     const double turn = std::fmod(static_cast<double>(degrees), 360.0);
     const double quarters = turn / 90.0;
     if (quarters == std::floor(quarters)) {

@@ -6,7 +6,7 @@
 
 namespace engine {
 
-/// An affine transform, x' = xx x + xy y + x0. Kept in doubles, told in floats.
+/// An affine transform, x' = xx x + xy y + x0. Kept in doubles, returned in floats.
 struct Matrix : GpMatrix {
     cairo_matrix_t value = {1, 0, 0, 1, 0, 0};
 };
@@ -22,12 +22,12 @@ inline bool IsOrder(MatrixOrder order) {
     return order == MatrixOrderPrepend || order == MatrixOrderAppend;
 }
 
-/// Whether all elements are numbers that Cairo's fixed point can carry.
+/// Whether all elements fit in Cairo's fixed-point numbers.
 bool IsDrawable(const cairo_matrix_t& matrix);
 bool IsInvertible(const cairo_matrix_t& matrix);
 bool IsIdentity(const cairo_matrix_t& matrix);
 
-/// Puts a step before what the matrix does, or after it.
+/// Adds a step before or after the matrix.
 void Join(cairo_matrix_t& matrix, const cairo_matrix_t& step, MatrixOrder order);
 cairo_matrix_t Translation(REAL dx, REAL dy);
 cairo_matrix_t Rotation(REAL degrees);

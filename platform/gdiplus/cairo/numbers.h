@@ -7,8 +7,7 @@
 
 namespace engine {
 
-/// To the nearest whole number, halves up; what is beyond stays at the end, and what is
-/// no number is 0.
+/// To the nearest integer, halves up; clamped to the range, NaN gives 0.
 inline Gdiplus::INT Rounded(double value) {
     using Limits = std::numeric_limits<Gdiplus::INT>;
     const double rounded = std::floor(value + 0.5);
@@ -21,7 +20,7 @@ inline Gdiplus::INT Rounded(double value) {
     return std::isnan(rounded) ? 0 : static_cast<Gdiplus::INT>(rounded);
 }
 
-/// Without its fraction; what is beyond stays at the end, and what is no number is 0.
+/// Without its fraction; clamped to the range, NaN gives 0.
 inline Gdiplus::INT Truncated(double value) {
     return Rounded(value < 0.0 ? std::ceil(value) : std::floor(value));
 }

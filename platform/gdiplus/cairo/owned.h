@@ -12,7 +12,7 @@ struct DestroyWith {
     }
 };
 
-/// An object of a C library's, let go of with that library's function.
+/// An object of a C library, released with that library's function.
 template <typename Object, auto destroy>
 using Owned = std::unique_ptr<Object, DestroyWith<destroy>>;
 

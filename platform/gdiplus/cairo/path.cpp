@@ -7,7 +7,7 @@
 namespace engine {
 
 void Path::Reserve(std::size_t more) {
-    // In leaps, as they would grow one by one.
+    // Grows in large steps, as if points were added one by one.
     const std::size_t wanted = points.size() + more;
     if (wanted > points.capacity()) {
         points.reserve(std::max(wanted, 2 * points.capacity()));
@@ -37,7 +37,7 @@ PointF AsReal(Number x, Number y) {
     return PointF(static_cast<REAL>(x), static_cast<REAL>(y));
 }
 
-/// Goes on from the last point, which is not said twice.
+/// Continues from the last point, which is not repeated.
 template <typename AnyPoint>
 GpStatus AddLines(GpPath* to, const AnyPoint* points, INT count) {
     if (to == nullptr || points == nullptr || count < 1) {

@@ -8,17 +8,17 @@
 
 namespace engine {
 
-/// Points of figures. A figure begins with a Start; a Curve's points come in threes,
-/// after the point from which it goes.
+/// The points of figures. A figure begins with a Start; a Curve's points come in threes,
+/// after the point from which it starts.
 struct Path : GpPath {
     enum Kind : BYTE { Start = 0, Line = 1, Curve = 3, KindBits = 7, Closes = 0x80 };
 
     FillMode mode = FillModeAlternate;
     std::vector<PointF> points;
     std::vector<BYTE> kinds;
-    bool open = false;  ///< whether the last figure goes on
+    bool open = false;  ///< whether the last figure continues
 
-    /// Makes room, so that the points that follow are all added or none.
+    /// Reserves space, so that the points that follow are all added or none.
     void Reserve(std::size_t more);
     void Add(REAL x, REAL y, Kind kind);
     void Close();
@@ -27,8 +27,8 @@ struct Path : GpPath {
 inline Path* From(GpPath* path) { return static_cast<Path*>(path); }
 inline const Path* From(const GpPath* path) { return static_cast<const Path*>(path); }
 
-/// What the figures cover after a matrix, curves by their turning points; all zero for
-/// none.
+/// The area that the figures cover after a matrix, including the extremes of curves; all
+/// zero for none.
 struct Extents {
     double left = 0.0;
     double top = 0.0;

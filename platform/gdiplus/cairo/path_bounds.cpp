@@ -19,7 +19,7 @@ struct Reach {
         most = std::max(most, value);
     }
 
-    /// A curve from a to d turns where its slope, a parabola, is zero.
+    /// A curve from a to d has its extremes where its slope, a parabola, is zero.
     void IncludeCurve(double a, double b, double c, double d) {
         Include(d);
         if (std::min(b, c) >= least && std::max(b, c) <= most) {
@@ -90,7 +90,7 @@ Extents ExtentsOf(const Path& path, const cairo_matrix_t& matrix) {
 
 namespace {
 
-/// With half the pen's width on each side, as wide as the matrix makes it.
+/// Includes half the pen's width on each side, as scaled by the matrix.
 Extents WorldExtents(const GpPath& path, const GpMatrix* matrix, const GpPen* pen) {
     const cairo_matrix_t& world = matrix == nullptr ? kIdentity : From(matrix)->value;
     Extents extents = ExtentsOf(*From(&path), world);
@@ -124,7 +124,7 @@ GpStatus GdipGetPathWorldBounds(GpPath* path, GpRectF* bounds, const GpMatrix* m
 
 GpStatus GdipGetPathWorldBoundsI(GpPath* path, GpRect* bounds, const GpMatrix* matrix,
                                  const GpPen* pen) {
-    // Fractions are left out: pages have been laid out by such bounds.
+    // Fractions are cut off: pages have been laid out by such bounds.
     using engine::Truncated;
     return engine::Tell(path, bounds, [&](const GpPath& p) {
         const engine::Extents e = engine::WorldExtents(p, matrix, pen);

@@ -88,7 +88,7 @@ void SetColor(cairo_t* cairo, ARGB color) {
 
 namespace {
 
-/// Writes the colour into the pixels within a clip's part.
+/// Fills the pixels within part of a clip.
 void Flood(const Pixels& pixels, const cairo_rectangle_int_t& part, ARGB color) {
     const int left = std::max(part.x, 0);
     const int right = std::min(part.x + part.width, pixels.width);
@@ -99,7 +99,7 @@ void Flood(const Pixels& pixels, const cairo_rectangle_int_t& part, ARGB color) 
     }
     const std::vector<ARGB> colors(static_cast<std::size_t>(right - left), color);
     WriteColors(pixels.format, pixels.Row(top), left, right - left, colors.data());
-    // What is one byte throughout, as white is, can be written without being read first.
+    // A colour with all bytes equal, such as white, can be written without reading first.
     const int bytes = static_cast<int>(GetPixelFormatSize(pixels.format) / 8);
     const BYTE* const pixel = pixels.Row(top) + std::ptrdiff_t{left} * bytes;
     const bool plain =

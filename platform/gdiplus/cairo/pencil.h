@@ -4,12 +4,12 @@
 
 namespace engine {
 
-/// Traces figures in world coordinates into Cairo's path, and notes where they reach. A
-/// coordinate that Cairo cannot carry is brought to the last that it can, some 2 million
-/// units out; figures with one that is no number are not drawn.
+/// Traces figures in world coordinates into Cairo's path, and records their extents. A
+/// coordinate beyond Cairo's range is clamped to it, some 2 million units; figures with a
+/// NaN are not drawn.
 class Pencil {
 public:
-    /// @param offset by which everything is shifted after the transform
+    /// @param offset added to every point after the transform
     Pencil(Graphics& graphics, double offset);
 
     void MoveTo(double x, double y);
@@ -21,7 +21,7 @@ public:
     const cairo_matrix_t& Device() const { return device_; }
     bool IsEmpty() const { return !(extents_.left <= extents_.right) || bad_; }
 
-    /// Of all points, wider by a margin on each side.
+    /// The extents of all points, widened by a margin on each side.
     Extents Reach(double margin) const;
 
 private:

@@ -68,7 +68,7 @@ std::shared_ptr<Pixels> PixelsOver(BYTE* rows, INT width, INT height, INT stride
 
 namespace {
 
-/// c times a over 255, rounded, as Cairo does it.
+/// c times a over 255, rounded as in Cairo.
 UINT Scaled(UINT c, UINT a) {
     const UINT product = c * a + 128;
     return (product + (product >> 8)) >> 8;

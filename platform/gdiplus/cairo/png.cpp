@@ -44,7 +44,7 @@ std::unique_ptr<Bitmap> DecodePng(FileBytes file) {
                           SPNG_DECODE_TRNS | SPNG_DECODE_PROGRESSIVE) != 0) {
         return nullptr;
     }
-    // Interlaced rows come several times, each time with more of them.
+    // Interlaced rows come several times, more complete each time.
     std::vector<BYTE> bytes(std::size_t{header.width} * 4);
     for (;;) {
         spng_row_info row = {};

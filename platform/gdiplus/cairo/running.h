@@ -2,10 +2,10 @@
 
 namespace engine {
 
-/// Whether GDI+ was started and not yet shut down. Nothing is made before or after.
+/// Whether GDI+ is running. Nothing is created otherwise.
 bool IsRunning();
 
-/// How often GDI+ was shut down for good: what a thread has kept from before is stale.
+/// How often GDI+ was shut down for good: what a thread has cached from before is stale.
 unsigned Generation();
 
 }  // namespace engine

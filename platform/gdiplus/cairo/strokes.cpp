@@ -13,7 +13,7 @@ double StrokeOffset(const Graphics& graphics) {
 
 namespace {
 
-/// How a pen's line comes out on the surface.
+/// The width of a pen's line on the surface.
 struct Width {
     double units;           ///< of the matrix
     double device;          ///< at most
@@ -21,15 +21,14 @@ struct Width {
     bool thin;              ///< no wider than a unit
 };
 
-/// The thinnest line is as wide, in world units, as a pixel's diagonal is along x or y.
+/// The thinnest line is as wide, in world units, as a pixel's diagonal along x or y.
 double ThinnestOn(const cairo_matrix_t& device) {
     cairo_matrix_t back = device;
     cairo_matrix_invert(&back);
     return std::max(std::fabs(back.xx + back.xy), std::fabs(back.yx + back.yy));
 }
 
-/// A page pixel in Cairo's units: on a page of shapes, whose units are points, a
-/// fraction.
+/// A page pixel in Cairo's units: a fraction on a page of shapes, whose units are points.
 double PixelOf(const Graphics& graphics) {
     const cairo_matrix_t& base = graphics.base;
     const double area = std::fabs(base.xx * base.yy - base.xy * base.yx);
@@ -60,7 +59,7 @@ Width WidthOf(const Pen& pen, const Pencil& pencil) {
 }
 
 void SetDash(cairo_t* cairo, DashStyle style, double unit) {
-    // In widths of the pen: long and short, drawn and left out.
+    // Dashes and gaps, in pen widths.
     constexpr double pattern[] = {3, 1, 1, 1, 1, 1};
     double dashes[6];
     std::transform(std::begin(pattern), std::end(pattern), dashes,
@@ -103,7 +102,7 @@ cairo_line_cap_t CapOf(const Pen& pen, bool thin) {
         case LineCapRound:
             return CAIRO_LINE_CAP_ROUND;
         default:
-            // The thinnest line has its last pixel.
+            // The thinnest line includes its last pixel.
             return thin && pen.dash == DashStyleSolid ? CAIRO_LINE_CAP_SQUARE
                                                       : CAIRO_LINE_CAP_BUTT;
     }
@@ -124,8 +123,8 @@ void SetPen(cairo_t* cairo, const Graphics& graphics, const Pen& pen,
 /// How far from its points a stroke may reach: to the tips of its mitres.
 double MarginOf(const Width& width) { return width.device * 5.0 + 1.0; }
 
-/// An arrow with its tip at (x, y), pointing from (fromX, fromY). A pen narrower than 2
-/// carries the arrow of a pen of 2.
+/// An arrow with its tip at (x, y), pointing away from (fromX, fromY). A pen narrower
+/// than 2 carries the arrow of a pen of width 2.
 GpStatus DrawArrow(Graphics& graphics, const Pen& pen, const ArrowCap& cap, double fromX,
                    double fromY, double x, double y) {
     const double length = std::hypot(x - fromX, y - fromY);

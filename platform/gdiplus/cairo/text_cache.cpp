@@ -6,8 +6,8 @@
 namespace engine {
 namespace {
 
-// What a thread keeps at most. A label of ten characters takes some 700 bytes, and with
-// its outline 5,000.
+// The limits of a thread's cache. A label of ten characters takes some 700 bytes, and
+// with its outline 5,000.
 constexpr std::size_t kMostBytes = 4 << 20;
 constexpr std::size_t kMostFamilies = 256;
 constexpr std::size_t kMostFaces = 64;
@@ -94,7 +94,7 @@ std::shared_ptr<SizedFace> ThreadTexts::Sized(const std::shared_ptr<const FaceFi
     if (found != sized_.end()) {
         return found->second;
     }
-    // Texts that are kept hold on to those of theirs.
+    // Cached texts hold references to their own sizes.
     if (sized_.size() >= kMostSizes) {
         sized_.clear();
     }

@@ -10,11 +10,11 @@
 namespace engine {
 namespace {
 
-/// How a surface takes a text: laid out for its pixels where the world transform only
-/// moves and enlarges, in world units where it turns.
+/// How a text meets a surface: it is laid out for the pixels if the world transform only
+/// moves and scales, in world units if it rotates.
 struct Placing {
     bool upright = true;
-    double scale = 1.0;  ///< pixels of the layout to a world unit
+    double scale = 1.0;  ///< layout pixels per world unit
 };
 
 Placing PlacingOn(const Graphics& graphics) {
@@ -42,7 +42,7 @@ TextStyle StyleOf(const Family& family, double size, INT fontStyle, const RectF&
     return style;
 }
 
-/// The units of a text up to its end or its null; -1 where the length is none.
+/// The length of a text, or up to its null; -1 for an invalid length.
 std::ptrdiff_t LengthOf(const FlatChar* text, INT length) {
     if (length == -1) {
         return static_cast<std::ptrdiff_t>(std::char_traits<FlatChar>::length(text));
@@ -51,7 +51,7 @@ std::ptrdiff_t LengthOf(const FlatChar* text, INT length) {
 }
 
 constexpr double kLargestSize = 65535.0;
-/// The largest em of which a file, whose units are points, has glyphs.
+/// The largest em for which a file, whose units are points, has glyphs.
 constexpr double kLargestText = 10000.0;
 
 bool IsBox(const RectF& box) {
@@ -59,12 +59,12 @@ bool IsBox(const RectF& box) {
            !std::isnan(box.Height);
 }
 
-/// How much longer a matrix makes a length, at most.
+/// The most by which a matrix lengthens anything.
 double Enlargement(const cairo_matrix_t& matrix) {
     return std::max(std::hypot(matrix.xx, matrix.yx), std::hypot(matrix.xy, matrix.yy));
 }
 
-/// The glyphs of a run moved by (x, y), those left out that are nowhere near a surface.
+/// The glyphs of a run moved by (x, y), without those far outside the surface.
 /// @return whether all are there
 bool Move(const GlyphRun& run, double x, double y, std::vector<cairo_glyph_t>& moved) {
     constexpr double most = 1 << 21;
@@ -78,7 +78,7 @@ bool Move(const GlyphRun& run, double x, double y, std::vector<cairo_glyph_t>& m
     return moved.size() == run.glyphs.size();
 }
 
-/// With what they stand for, where the surface keeps texts.
+/// Draws them with the text that they stand for, where the surface keeps texts.
 void Show(cairo_t* cairo, const GlyphRun& run, const std::vector<cairo_glyph_t>& glyphs,
           bool isWhole) {
     const auto count = static_cast<int>(glyphs.size());
@@ -94,7 +94,7 @@ void Show(cairo_t* cairo, const GlyphRun& run, const std::vector<cairo_glyph_t>&
     }
 }
 
-/// With its corner at (x, y), under the matrix that Cairo has.
+/// Draws with the corner at (x, y), under Cairo's present matrix.
 void WriteGlyphs(Graphics& graphics, const TextLayout& layout, double x, double y,
                  bool upright) {
     cairo_t* const cairo = graphics.cairo;
@@ -123,7 +123,7 @@ void FillStrokes(cairo_t* cairo, const TextLayout& layout, double x, double y) {
 
 Extents ExtentsOf(const TextLayout& layout, const cairo_matrix_t& matrix, double x,
                   double y, double size) {
-    // Slanted and stacked characters go past what they take up.
+    // Slanted and stacked characters reach beyond their advances.
     double left = x + layout.left - size;
     double top = y + layout.top - size;
     double right = left + layout.width + 2.0 * size;
@@ -144,7 +144,7 @@ Extents ExtentsOf(const TextLayout& layout, const cairo_matrix_t& matrix, double
     return extents;
 }
 
-/// The rectangle of a text, in what Cairo has as its coordinates, cuts it off.
+/// Clips to the rectangle of a text, in Cairo's coordinates.
 void ClipTo(cairo_t* cairo, double x, double y, double width, double height) {
     constexpr double far = 1 << 20;
     cairo_save(cairo);
@@ -153,8 +153,9 @@ void ClipTo(cairo_t* cairo, double x, double y, double width, double height) {
     cairo_clip(cairo);
 }
 
-/// A text too large for glyphs to be kept: FreeType would give up on its face for good.
-/// @param scale units of the layout to a world unit
+/// Fills the outlines of a text too large for glyphs: FreeType would give up on its face
+/// for good.
+/// @param scale layout units per world unit
 GpStatus FillLarge(Graphics& graphics, TextLayout& layout, const TextStyle& style,
                    const RectF& box, double scale, ARGB color) {
     const Path& outline = OutlineOf(layout);
@@ -183,7 +184,7 @@ GpStatus FillLarge(Graphics& graphics, TextLayout& layout, const TextStyle& styl
     return drawing.Finish();
 }
 
-/// @param scale units of the layout to a world unit
+/// @param scale layout units per world unit
 void TellLines(const Graphics& graphics, const TextLayout& layout, const TextStyle& style,
                const FlatChar* text, std::size_t length, const RectF& box, double scale) {
     const std::u32string points = CodePoints(text, length);

@@ -44,7 +44,7 @@ bool IsIdeograph(char32_t c) {
            (c >= 0x20000 && c <= 0x3FFFF);
 }
 
-/// What no line starts with.
+/// Characters that never begin a line.
 bool Closes(char32_t c) {
     constexpr char32_t closing[] =
         U"!),.:;?]}\u2019\u201D\u2026\u3001\u3002\u3009\u300B\u300D\u300F\u3011\uFF01"
@@ -61,8 +61,8 @@ bool MayBreak(char32_t before, char32_t after) {
            IsIdeograph(before) || IsIdeograph(after);
 }
 
-/// The lines that a paragraph takes within a width: broken between words, and within a
-/// word that is wider.
+/// The lines of a paragraph within a width: broken between words, and within a word that
+/// is wider.
 void Wrap(const std::u32string& text, const Span& paragraph,
           const std::vector<double>& advances, double width, std::vector<Span>& lines) {
     std::size_t start = paragraph.start;
@@ -112,7 +112,7 @@ double Share(StringAlignment alignment) {
                                                 : 1.0;
 }
 
-/// Right to left, the near side is the right one.
+/// From right to left, the near side is the right one.
 double ShareAlong(const TextStyle& style) {
     const double share = Share(style.alignment);
     return (style.flags & StringFormatFlagsDirectionRightToLeft) != 0 ? 1.0 - share

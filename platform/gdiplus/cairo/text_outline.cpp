@@ -5,7 +5,7 @@
 namespace engine {
 namespace {
 
-/// A Cairo that draws nowhere, for its paths.
+/// A Cairo context that draws nowhere, for its paths.
 Owned<cairo_t, cairo_destroy> Nowhere() {
     cairo_surface_t* const surface = cairo_image_surface_create(CAIRO_FORMAT_A8, 1, 1);
     Owned<cairo_t, cairo_destroy> cairo(cairo_create(surface));
@@ -13,7 +13,7 @@ Owned<cairo_t, cairo_destroy> Nowhere() {
     return cairo;
 }
 
-/// Adds a traced outline, enlarged and moved.
+/// Adds a traced outline, scaled and moved.
 void Take(Path& path, const cairo_path_t& traced, double scale, double x, double y) {
     const auto add = [&](const cairo_path_data_t& data, Path::Kind kind) {
         path.Add(static_cast<REAL>(data.point.x * scale + x),
@@ -21,7 +21,7 @@ void Take(Path& path, const cairo_path_t& traced, double scale, double x, double
     };
     for (int i = 0; i < traced.num_data; i += traced.data[i].header.length) {
         const cairo_path_data_t* const data = &traced.data[i];
-        // Cairo moves on after closing; a figure has one point at least besides.
+        // Cairo adds a move after closing; a real figure has at least one more point.
         const bool figure = i + data->header.length < traced.num_data &&
                             data[data->header.length].header.type != CAIRO_PATH_MOVE_TO;
         switch (data->header.type) {

@@ -13,7 +13,7 @@ namespace {
 static_assert(sizeof(FriBidiChar) == sizeof(char32_t));
 static_assert(sizeof(FriBidiLevel) == sizeof(signed char));
 
-/// Nothing before the Hebrew letters is written from right to left.
+/// No character below the Hebrew letters is written from right to left.
 bool MayTurn(const std::u32string& text) {
     return std::any_of(text.begin(), text.end(), [](char32_t c) { return c >= 0x590; });
 }
@@ -39,7 +39,7 @@ std::vector<signed char> LevelsOf(const std::u32string& text, bool rightToLeft) 
     return turns ? levels : std::vector<signed char>();
 }
 
-/// What stands on the character before it, or between two to join them.
+/// Characters that combine with the one before, or join two.
 bool JoinsOn(char32_t c) {
     const hb_unicode_general_category_t kind =
         hb_unicode_general_category(hb_unicode_funcs_get_default(), c);
@@ -61,24 +61,24 @@ bool IsCommon(hb_script_t script) {
     return script == HB_SCRIPT_COMMON || script == HB_SCRIPT_INHERITED;
 }
 
-/// What has no shape and takes no room.
+/// Characters without a shape or width.
 bool IsSilent(char32_t c) { return c < 0x20 || c == 0x7F; }
 
-/// Which characters of an item are written with which glyphs: a cluster of some of the
-/// one with some of the other, as the font has them.
+/// Which characters of an item belong to which glyphs: clusters of some of each, as the
+/// font forms them.
 class Clusters {
 public:
     Clusters(std::size_t start, std::size_t end)
         : start_(start), glyphs_(end - start, -1) {}
 
-    /// One begins with a character.
+    /// Begins a cluster at a character.
     void Begin(std::size_t at) {
         int& glyphs = glyphs_[at - start_];
         glyphs = std::max(glyphs, 0);
     }
     void AddGlyph(std::size_t at) { ++glyphs_[at - start_]; }
 
-    /// Those that have glyphs.
+    /// Writes the clusters that have glyphs.
     void Write(const std::u32string& text, GlyphRun& run) const {
         for (std::size_t from = 0; from < glyphs_.size();) {
             std::size_t to = from + 1;
@@ -97,7 +97,7 @@ public:
     }
 
 private:
-    /// Which Cairo does not take for text.
+    /// Values that Cairo does not accept as text.
     static bool IsNoCharacter(char32_t c) {
         return (c & 0xFFFE) == 0xFFFE || (c >= 0xFDD0 && c <= 0xFDEF);
     }
@@ -228,7 +228,7 @@ ShapedLine Shaper::Shape(std::size_t start, std::size_t end,
         line.ascent = faces_.front()->ascent;
         line.descent = faces_.front()->descent;
     }
-    // From the innermost embedding out, what is written the other way is turned round.
+    // From the innermost embedding outwards, reverses what runs the other way.
     for (int level = highest; level > 0; --level) {
         for (auto from = items.begin(); from != items.end();) {
             from = std::find_if(from, items.end(),

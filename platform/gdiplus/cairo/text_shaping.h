@@ -12,14 +12,14 @@ struct ShapedLine {
     double descent = 0.0;
 };
 
-/// Writes texts in one style: finds a face for each character, orders what is written
+/// Shapes texts in one style: finds a face for each character, reorders text that runs
 /// from right to left, and shapes it.
 class Shaper {
 public:
     Shaper(ThreadTexts& texts, const TextStyle& style, const std::u32string& text);
 
-    /// A part of the text as one line. Advances tells, where asked, how wide each
-    /// character is.
+    /// A part of the text as one line. `advances`, if not null, receives the width of
+    /// each character.
     ShapedLine Shape(std::size_t start, std::size_t end, std::vector<double>* advances);
 
 private:
@@ -39,7 +39,7 @@ private:
     ThreadTexts& texts_;
     const TextStyle& style_;
     const std::u32string& text_;
-    std::vector<signed char> levels_;  ///< of embedding; empty where all is left to right
+    std::vector<signed char> levels_;  ///< embedding levels; empty if all left to right
     std::vector<std::shared_ptr<SizedFace>> faces_;
     double tab_ = 0.0;
 };

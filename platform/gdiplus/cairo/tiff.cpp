@@ -121,7 +121,7 @@ std::unique_ptr<Bitmap> DecodeTiff(FileBytes file) {
     }
     const std::size_t count = std::size_t{width} * height;
     for (std::size_t i = 0; i < count; ++i) {
-        // libtiff's are premultiplied, and red is in the lowest byte.
+        // libtiff's colours are premultiplied, with red in the lowest byte.
         const std::uint32_t abgr = colors[i];
         const ARGB color =
             (abgr & 0xFF00FF00) | (abgr & 0xFF) << 16 | (abgr >> 16 & 0xFF);

@@ -13,7 +13,7 @@ std::string Utf8(const std::u32string& text);
 
 std::string Utf8(const std::u32string& text);
 
-/// UTF-8 of a text that ends with a null, and back.
+/// A null-terminated text as UTF-8, and back.
 std::string Utf8(const FlatChar* text);
 std::u16string Utf16(const char* utf8);
 

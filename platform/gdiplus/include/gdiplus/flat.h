@@ -13,7 +13,7 @@ struct GdiplusStartupInput;
 struct GdiplusStartupOutput;
 struct EncoderParameters;
 
-/// The pixels that Bitmap::LockBits gives: rows from Scan0, Stride bytes apart. Use one
+/// The pixels that Bitmap::LockBits returns: rows from Scan0, Stride bytes apart. Use one
 /// per lock, and pass it to UnlockBits unchanged.
 class BitmapData {
 public:

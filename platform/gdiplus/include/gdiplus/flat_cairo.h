@@ -6,17 +6,17 @@
 
 namespace Gdiplus {
 
-/// A line of a text as it was drawn, for files that keep words beside their shapes.
+/// A line of text as it was drawn, for files that keep words beside their shapes.
 struct CairoLine {
     const char* text;       ///< UTF-8
     double size;            ///< of the em
     double x;               ///< where the line begins on the left
     double baseline;        ///< its y
     double width;           ///< with all its advances
-    cairo_matrix_t matrix;  ///< from these to the units of the Cairo surface
+    cairo_matrix_t matrix;  ///< from these coordinates to the Cairo surface's
 };
 
-/// Called with what the caller gave, for the time of the call.
+/// Called with the caller's context; the line is valid during the call.
 typedef void (*CairoLineDrawn)(void* context, const CairoLine* line);
 
 namespace DllExports {
@@ -25,7 +25,7 @@ extern "C" {
 GpStatus GdipGetCairoGraphicsContext(cairo_t* cairo, REAL xdpi, REAL ydpi,
                                      GpGraphics** graphics);
 
-/// Has each line of text told that GdipDrawString draws from now on; null for no more.
+/// Reports each line of text that GdipDrawString draws from now on; null ends it.
 GpStatus GdipTellCairoLines(GpGraphics* graphics, CairoLineDrawn told, void* context);
 
 }  // extern "C"

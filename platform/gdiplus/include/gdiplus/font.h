@@ -10,8 +10,9 @@ class FontCollection {
     FontCollection() = default;
 };
 
-/// A font family, by name. A family that is not there is FontFamilyNotFound; one that
-/// Fontconfig has a substitute of the same measures for, such as Arial, is.
+/// A font family, by name. For a missing family the status is FontFamilyNotFound; a
+/// family for which Fontconfig has a substitute with the same metrics, such as Arial,
+/// counts as found.
 class FontFamily : public detail::StatusKeeper {
 public:
     FontFamily() = default;

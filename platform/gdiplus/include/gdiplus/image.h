@@ -36,7 +36,8 @@ public:
     ImageType GetType() { return Query(DllExports::GdipGetImageType, native_); }
 
     /// Writes the image in the format of an encoder, whose Clsid comes from
-    /// GetImageEncoders. A file that cannot be written whole is Win32Error, and not left.
+    /// GetImageEncoders. A file that cannot be completed gives Win32Error, and is
+    /// removed.
     Status Save(const WCHAR* filename, const CLSID* encoder,
                 const EncoderParameters* parameters = nullptr) {
         const detail::Utf16Text text(filename);
@@ -64,8 +65,8 @@ public:
     Bitmap(INT width, INT height, PixelFormat format = PixelFormat32bppARGB)
         : Bitmap(width, height, 0, format, nullptr) {}
 
-    /// Over the caller's memory, which must outlive the bitmap, and is drawn on where it
-    /// is. The stride is the bytes from one row to the next, a multiple of 4 and at least
+    /// On the caller's memory, which must outlive the bitmap, and is drawn on in place.
+    /// The stride is the bytes from one row to the next, a multiple of 4 and at least
     /// those of a row's pixels; negative for rows that go upwards from scan0.
     Bitmap(INT width, INT height, INT stride, PixelFormat format, BYTE* scan0) {
         GpBitmap* bitmap = nullptr;
@@ -89,8 +90,8 @@ public:
         return SetStatus(
             DllExports::GdipBitmapSetPixel(Pixels(), x, y, color.GetValue()));
     }
-    /// Dots per inch: DrawImage draws the bitmap by them, and a Graphics on it answers
-    /// them. PNG, JPEG, TIFF and BMP files keep them.
+    /// Dots per inch: DrawImage draws the bitmap by them, and a Graphics on it reports
+    /// them. PNG, JPEG, TIFF and BMP files record them.
     Status SetResolution(REAL xdpi, REAL ydpi) {
         return SetStatus(DllExports::GdipBitmapSetResolution(Pixels(), xdpi, ydpi));
     }
