@@ -10,18 +10,17 @@
 namespace fuzz {
 namespace {
 
-/// Calls with the entry of the catalogue that a number stands for; an entry still knows
-/// its class.
-template <typename Visit, int... Numbers>
-void VisitEntry(int number, Visit visit, std::integer_sequence<int, Numbers...>) {
-    ((number == Numbers ? visit(std::get<Numbers>(host::kElements)) : void()), ...);
-}
-
 constexpr int kEntries = static_cast<int>(host::kCatalogue.size());
 
+/// Calls with the entry of the catalogue that a number stands for; an entry still knows
+/// its class.
 template <typename Visit>
 void VisitEntry(int number, Visit visit) {
-    VisitEntry(number, visit, std::make_integer_sequence<int, kEntries>());
+    host::VisitStyles<CMapSurround>([&](const auto& entry) {
+        if (number-- == 0) {
+            visit(entry);
+        }
+    });
 }
 
 // What an input plays with: one of two kinds of frame, or an element by itself. The

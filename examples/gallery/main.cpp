@@ -49,8 +49,11 @@ bool DrawElements(const std::wstring& folder) {
 
 bool DrawAnnotated(const std::wstring& folder) {
     bool all = true;
-    for (const annotated::Picture& picture : annotated::Pictures()) {
-        all &= picture.draw().Save(folder + picture.name + L".png");
+    for (const auto& family : {annotated::TitlePictureAndFrame, annotated::Legends,
+                               annotated::NorthArrows, annotated::ScaleBars}) {
+        for (const annotated::Picture& picture : family()) {
+            all &= picture.draw().Save(folder + picture.name + L".png");
+        }
     }
     return all;
 }

@@ -10,6 +10,7 @@
 #include <memory>
 #include <string_view>
 #include <tuple>
+#include <type_traits>
 #include <typeinfo>
 #include <vector>
 
@@ -121,6 +122,32 @@ inline std::vector<const CatalogueEntry*> StylesOf(MapSurroundType family) {
         }
     }
     return styles;
+}
+
+/// Calls with each entry whose class is of a family's; an entry still knows its class.
+template <class Family, class Visit>
+constexpr void VisitStyles(Visit visit) {
+    const auto visitThoseOfFamily = [&](const auto& entry) {
+        if constexpr (std::is_base_of_v<Family,
+                                        typename std::decay_t<decltype(entry)>::Class>) {
+            visit(entry);
+        }
+    };
+    std::apply([&](const auto&... entries) { (visitThoseOfFamily(entries), ...); },
+               kElements);
+}
+
+/// The entry of a class: StyleOf<CScaleLine2>(). Null for a class of somebody's own.
+template <class Element>
+constexpr const CatalogueEntry* StyleOf() {
+    const CatalogueEntry* next = kCatalogue.data();
+    const CatalogueEntry* found = nullptr;
+    VisitStyles<CMapSurround>([&](const auto& entry) {
+        using Class = typename std::decay_t<decltype(entry)>::Class;
+        found = std::is_same_v<Class, Element> ? next : found;
+        ++next;
+    });
+    return found;
 }
 
 /// The style of a family that a page has by default; null for none.

@@ -172,24 +172,24 @@ TEST(Changes, OfALegendAreMadeOrNot) {
 }
 
 template <typename Bar>
-class BarChanges : public ::testing::Test {};
-
-using Bars = ::testing::Types<CScaleLine, CSteppedScaleLine, CScaleLine2, CScaleLine3,
-                              CScaleAlternate, CScaleEquAltenate>;
-TYPED_TEST_SUITE(BarChanges, Bars);
-
-TYPED_TEST(BarChanges, AreMadeOrNot) {
-    const std::string family = host::FindEntry(TypeParam())->className + 1;
-    const auto other = Take<TypeParam>(family, "with long labels and the unit before");
+void ExpectBarAllOrNothing(const std::string& family) {
+    const auto other = Take<Bar>(family, "with long labels and the unit before");
     other->SetUnitsName(kLongText);
-    ExpectAllOrNothing<TypeParam>(
-        [&] { return Take<TypeParam>(family, "plain"); },
+    ExpectAllOrNothing<Bar>(
+        [&] { return Take<Bar>(family, "plain"); },
         CopiesOf(*other) +
-            std::vector<Change<TypeParam>>{
-                {"unit", [](TypeParam& bar) { bar.SetUnitsName(kLongText); }},
-                {"unit in Chinese",
-                 [](TypeParam& bar) { bar.SetUnitsName(L"Kilometre"); }},
-                {"asking", [](TypeParam& bar) { bar.GetUnitsName(); }}});
+            std::vector<Change<Bar>>{
+                {"unit", [](Bar& bar) { bar.SetUnitsName(kLongText); }},
+                {"unit in Chinese", [](Bar& bar) { bar.SetUnitsName(L"Kilometre"); }},
+                {"asking", [](Bar& bar) { bar.GetUnitsName(); }}});
+}
+
+TEST(Changes, OfABarAreMadeOrNot) {
+    host::VisitStyles<CScaleBarBase>([](const auto& style) {
+        SCOPED_TRACE(style.name);
+        ExpectBarAllOrNothing<typename std::decay_t<decltype(style)>::Class>(
+            style.className + 1);
+    });
 }
 
 const std::wstring kLongPath = L"a folder/a file name of some length.png";

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <limits>
 
+#include "page/catalogue.h"
 #include "recording/lines.h"
 
 namespace north_arrow_test {
@@ -153,10 +154,10 @@ std::vector<Named> EightAngleShapes(const Setting& s) {
 }
 
 template <typename Arrow>
-Style StyleOf(const char* name, NorthArrowType type, float aspectRatio,
+Style StyleOf(NorthArrowType type, float aspectRatio,
               std::vector<Named> (*shapes)(const Setting&)) {
     using Owner = std::unique_ptr<CNorthArrowBase>;
-    return {name,
+    return {host::StyleOf<Arrow>()->className + 1,
             type,
             aspectRatio,
             []() -> Owner { return std::make_unique<Arrow>(); },
@@ -186,11 +187,10 @@ std::ostream& operator<<(std::ostream& out, const Style& style) {
 
 const std::vector<Style>& Styles() {
     static const std::vector<Style> styles{
-        StyleOf<CNorthArrowOneAngle>("OneAngle", NorthArrowOne, 1.0f, OneAngleShapes),
-        StyleOf<CNorthArrowTwoAngle>("TwoAngle", NorthArrowTwo, 1.0f, TwoAngleShapes),
-        StyleOf<CNorthArrowFourAngle>("FourAngle", NorthArrowFour, 0.8f, FourAngleShapes),
-        StyleOf<CNorthArrowEightAngle>("EightAngle", NorthArrowEight, 1.0f,
-                                       EightAngleShapes),
+        StyleOf<CNorthArrowOneAngle>(NorthArrowOne, 1.0f, OneAngleShapes),
+        StyleOf<CNorthArrowTwoAngle>(NorthArrowTwo, 1.0f, TwoAngleShapes),
+        StyleOf<CNorthArrowFourAngle>(NorthArrowFour, 0.8f, FourAngleShapes),
+        StyleOf<CNorthArrowEightAngle>(NorthArrowEight, 1.0f, EightAngleShapes),
     };
     return styles;
 }

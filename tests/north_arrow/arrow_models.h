@@ -22,9 +22,9 @@ struct Setting {
 
 std::ostream& operator<<(std::ostream& out, const Setting& setting);
 
-/// One of the four styles.
+/// A style.
 struct Style {
-    std::string name;
+    std::string name;  ///< "NorthArrowOneAngle"
     NorthArrowType type;
     float aspectRatio;
     std::unique_ptr<CNorthArrowBase> (*make)();

@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "north_arrow/arrow_models.h"
+#include "page/catalogue.h"
 #include "recording/lines.h"
 
 namespace {
@@ -40,6 +41,14 @@ protected:
 
 INSTANTIATE_TEST_SUITE_P(NorthArrows, EachArrow, ::testing::ValuesIn(Styles()),
                          [](const auto& test) { return test.param.name; });
+
+TEST(NorthArrows, OfTheCatalogueAllHaveAModel) {
+    const auto styles = host::StylesOf(SurroundNorthArrow);
+    ASSERT_EQ(Styles().size(), styles.size());
+    for (std::size_t i = 0; i < styles.size(); ++i) {
+        EXPECT_EQ(Styles()[i].name, styles[i]->className + 1);
+    }
+}
 
 /// Every value of one list with every value of the others; the colours take turns.
 std::vector<Setting> Combine(const std::vector<int>& sizes,

@@ -2,27 +2,17 @@
 
 #include <sstream>
 
-#include "page/catalogue.h"
 #include "recording/lines.h"
 
 using namespace recording;
 
 namespace scale_bar_test {
 
-namespace {
-
-/// The catalogue has the styles in their order here.
-const host::CatalogueEntry& EntryOf(Style style) {
-    return *host::StylesOf(SurroundScaleBar).at(static_cast<std::size_t>(style));
-}
-
-}  // namespace
-
-const char* NameOf(Style style) { return EntryOf(style).name; }
+std::vector<Style> Styles() { return host::StylesOf(SurroundScaleBar); }
 
 std::string Describe(const BarRow& row) {
     std::ostringstream text;
-    text << NameOf(row.style) << ", paper to data " << row.paperToData << ", to screen "
+    text << row.style->name << ", paper to data " << row.paperToData << ", to screen "
          << row.paperToScreen << ", " << row.mainCount << " divisions, " << row.subCount
          << " sub-divisions, unit position " << row.unitPosition << ", size " << row.size
          << ", scale " << row.scale << ", aspect ratio " << row.aspectRatio << ", at ("
@@ -31,7 +21,7 @@ std::string Describe(const BarRow& row) {
 }
 
 std::unique_ptr<CScaleBarBase> NewBar(Style style) {
-    return host::NewElement<CScaleBarBase>(EntryOf(style));
+    return host::NewElement<CScaleBarBase>(*style);
 }
 
 void SetProperties(CScaleBarBase& bar, const BarRow& row) {

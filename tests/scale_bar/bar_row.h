@@ -5,22 +5,21 @@
 #include <vector>
 
 #include "map_surround/scale_bar.h"
+#include "page/catalogue.h"
 #include "recording/expect.h"
 #include "recording/recording.h"
 
 /// Scale bars as rows of a table, and what each must draw.
 namespace scale_bar_test {
 
-enum class Style { Line, Stepped, Line2, Line3, Alternate, EquAlternate };
+/// One of the catalogue's: host::StyleOf<CScaleLine2>().
+using Style = const host::CatalogueEntry*;
 
-constexpr Style kStyles[] = {Style::Line,  Style::Stepped,   Style::Line2,
-                             Style::Line3, Style::Alternate, Style::EquAlternate};
-
-const char* NameOf(Style style);
+std::vector<Style> Styles();
 
 /// One bar and one drawing of it; as it stands, the defaults at scale 1 about (200, 150).
 struct BarRow {
-    Style style = Style::Line;
+    Style style = host::StyleOf<CScaleLine>();
     double paperToData = 1.0;
     double paperToScreen = 25.0;
     int mainCount = 5;
@@ -47,6 +46,9 @@ std::vector<std::string> DrawingOf(const BarRow& row);
 
 /// The same from the formulas, in plain arithmetic: for lengths that fit 32 bits.
 std::vector<recording::Named> ExpectedDrawing(const BarRow& row);
+
+/// What a bar of a style answers when asked for it.
+ScaleBarType ExpectedType(Style style);
 
 // The looks of a black bar at scale 1, as traces write them.
 std::string BlackPen(float width = 1.0f);

@@ -53,12 +53,12 @@ TEST(BoxRows, AlternatingCountsSmallBoxesAndDivisionsInOneRow) {
             Label("3.0", 164),
             {"unit name", DefaultUnitName(168, 157)},
         },
-        DrawingOf(Row(Style::Alternate, 3, 3))));
+        DrawingOf(Row(host::StyleOf<CScaleAlternate>(), 3, 3))));
 }
 
 // Steps of 25 x 0.8 under boxes of 25.
 TEST(BoxRows, EqualBoxesOverlapWhereTheValueWasRoundedDown) {
-    BarRow row = Row(Style::EquAlternate, 3, 4);
+    BarRow row = Row(host::StyleOf<CScaleEquAltenate>(), 3, 4);
     row.paperToData = 2500.0;
     EXPECT_TRUE(Equal(
         {

@@ -68,10 +68,14 @@ Calls LineStyle(int baseLine, int subTop, int subFoot, float unitTop) {
 }
 
 TEST(CallOrder, OfTheLineStyles) {
-    EXPECT_TRUE(Equal(LineStyle(170, 162, 170, 157), LinesOf(Style::Line)));
-    EXPECT_TRUE(Equal(LineStyle(170, 162, 170, 157), LinesOf(Style::Stepped)));
-    EXPECT_TRUE(Equal(LineStyle(164, 161, 167, 158), LinesOf(Style::Line2)));
-    EXPECT_TRUE(Equal(LineStyle(156, 156, 162, 156), LinesOf(Style::Line3)));
+    EXPECT_TRUE(
+        Equal(LineStyle(170, 162, 170, 157), LinesOf(host::StyleOf<CScaleLine>())));
+    EXPECT_TRUE(Equal(LineStyle(170, 162, 170, 157),
+                      LinesOf(host::StyleOf<CSteppedScaleLine>())));
+    EXPECT_TRUE(
+        Equal(LineStyle(164, 161, 167, 158), LinesOf(host::StyleOf<CScaleLine2>())));
+    EXPECT_TRUE(
+        Equal(LineStyle(156, 156, 162, 156), LinesOf(host::StyleOf<CScaleLine3>())));
 }
 
 TEST(CallOrder, OfTheAlternatingStyle) {
@@ -88,7 +92,7 @@ TEST(CallOrder, OfTheAlternatingStyle) {
               BlackLine("closing line", 114, 156, 114, 169)} +
         LabelCalls("1.0", 109) + UnitName(118, 157) +
         Calls{DeleteFont(Times(10)), DeleteBrush(), DeletePen(), DeletePen()};
-    EXPECT_TRUE(Equal(expected, LinesOf(Style::Alternate)));
+    EXPECT_TRUE(Equal(expected, LinesOf(host::StyleOf<CScaleAlternate>())));
 }
 
 TEST(CallOrder, OfTheEqualAlternatingStyle) {
@@ -99,11 +103,11 @@ TEST(CallOrder, OfTheEqualAlternatingStyle) {
         Calls{{"filled", FillRectangleI(BlackBrush(), 89, 156, 25, 13)}} +
         LabelCalls("1", 109) + UnitName(118, 157) +
         Calls{DeleteFont(Times(10)), DeleteBrush(), DeletePen(), DeletePen()};
-    EXPECT_TRUE(Equal(expected, LinesOf(Style::EquAlternate)));
+    EXPECT_TRUE(Equal(expected, LinesOf(host::StyleOf<CScaleEquAltenate>())));
 }
 
 TEST(CallOrder, FamilyAndBrushLiveAsLongAsTheBar) {
-    for (const Style style : kStyles) {
+    for (const Style style : Styles()) {
         Recording recording;
         NewBar(style).reset();
         EXPECT_TRUE(Equal(
@@ -114,7 +118,7 @@ TEST(CallOrder, FamilyAndBrushLiveAsLongAsTheBar) {
                 {"delete family", "GdipDeleteFontFamily family[\"Times New Roman\"]"},
             },
             recording.Lines()))
-            << NameOf(style);
+            << style->name;
     }
 }
 
@@ -190,12 +194,10 @@ void ExpectIndependentCopies() {
 }
 
 TEST(CallOrder, CopiesOwnTheirFamilyAndBrushAndDrawTheSame) {
-    ExpectIndependentCopies<CScaleLine>();
-    ExpectIndependentCopies<CSteppedScaleLine>();
-    ExpectIndependentCopies<CScaleLine2>();
-    ExpectIndependentCopies<CScaleLine3>();
-    ExpectIndependentCopies<CScaleAlternate>();
-    ExpectIndependentCopies<CScaleEquAltenate>();
+    host::VisitStyles<CScaleBarBase>([](const auto& style) {
+        SCOPED_TRACE(style.name);
+        ExpectIndependentCopies<typename std::decay_t<decltype(style)>::Class>();
+    });
 }
 
 }  // namespace

@@ -135,14 +135,7 @@ TEST_P(EveryStyle, DrawsAlikeWhateverAngleTypeAndUnitAreStored) {
     EXPECT_TRUE(Equal(ExpectedDrawing(row), recording.Drawing()));
 }
 
-std::string TestName(const ::testing::TestParamInfo<Style>& style) {
-    std::string name = NameOf(style.param);
-    for (char& c : name) {
-        c = c == '-' ? '_' : c;
-    }
-    return name;
-}
-
-INSTANTIATE_TEST_SUITE_P(ScaleBar, EveryStyle, ::testing::ValuesIn(kStyles), TestName);
+INSTANTIATE_TEST_SUITE_P(ScaleBar, EveryStyle, ::testing::ValuesIn(Styles()),
+                         [](const auto& test) { return test.param->className + 1; });
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include <cmath>
 #include <limits>
+#include <stdexcept>
 
 #include "host/common_functions.h"
 #include "recording/lines.h"
@@ -127,55 +128,57 @@ struct Trace {
     }
 };
 
-std::vector<Named> ExpectedLine(const BarRow& row) {
-    const bool isLine = row.style == Style::Line || row.style == Style::Stepped;
-    const bool isLine3 = row.style == Style::Line3;
-    Trace trace(row, isLine ? 0.5 : 0.0, 0.0, false);
-    const int H = trace.H;
-    const int T = trace.T;
-    const int B = trace.B;
-    const int a = Trunc(H / 6.0);
-    const int M = B - H / 6;
+/// Of a style of ticks, from top to bottom: what differs between them.
+struct Heights {
+    int subTop;
+    int subFoot;
+    int baseLine;
+    int unitRise;  ///< of the unit name over the base line
+};
 
+template <Heights (*heights)(const Trace&)>
+void DrawTicks(Trace& trace) {
+    const BarRow& row = trace.row;
+    const Heights at = heights(trace);
     int lastX = 0;
-    int lastFoot = 0;
-    int lastTop = 0;
-    int lastMiddle = 0;
+    int lastBase = 0;
     for (int i = 0; i <= row.mainCount; ++i) {
         const int x = trace.x0 + i * trace.s;
-        trace.Add("tick " + std::to_string(i), DrawLine(trace.pen, x, T, x, B));
+        trace.Add("tick " + std::to_string(i),
+                  DrawLine(trace.pen, x, trace.T, x, trace.B));
         lastX = x;
-        lastFoot = B;
-        lastTop = T;
-        lastMiddle = M;
+        lastBase = at.baseLine;
         trace.AddLabel(i, x);
         if (i == row.mainCount || row.subCount < 0) {
             continue;
         }
         for (int j = 0; j <= row.subCount; ++j) {
             const int xs = Trunc(static_cast<double>(x) + j * trace.l);
-            const int top = isLine ? T + a : isLine3 ? T : M - a / 2;
-            const int foot = isLine ? B : isLine3 ? T + a : M + a / 2;
             trace.Add("sub tick " + std::to_string(i) + "." + std::to_string(j),
-                      DrawLine(trace.pen, xs, top, xs, foot));
+                      DrawLine(trace.pen, xs, at.subTop, xs, at.subFoot));
         }
     }
-    const int x0 = trace.x0;
-    if (isLine) {
-        trace.Add("base line", DrawLine(trace.pen, x0, B, lastX, lastFoot));
-        trace.AddUnitName(lastX + H / 10, lastFoot - H / 3);
-    } else if (isLine3) {
-        trace.Add("base line", DrawLine(trace.pen, x0, T, lastX, lastTop));
-        trace.AddUnitName(lastX + H / 10, lastTop);
-    } else {
-        trace.Add("base line", DrawLine(trace.pen, x0, M, lastX, lastMiddle));
-        trace.AddUnitName(lastX + H / 10, lastMiddle - H / 6);
-    }
-    return trace.calls;
+    trace.Add("base line", DrawLine(trace.pen, trace.x0, at.baseLine, lastX, lastBase));
+    trace.AddUnitName(lastX + trace.H / 10, lastBase - at.unitRise);
 }
 
-std::vector<Named> ExpectedAlternate(const BarRow& row) {
-    Trace trace(row, 0.0, 0.0, true);
+Heights OnBase(const Trace& trace) {
+    const int a = Trunc(trace.H / 6.0);
+    return {trace.T + a, trace.B, trace.B, trace.H / 3};
+}
+
+Heights ThroughBase(const Trace& trace) {
+    const int a = Trunc(trace.H / 6.0);
+    const int M = trace.B - trace.H / 6;
+    return {M - a / 2, M + a / 2, M, trace.H / 6};
+}
+
+Heights BelowBase(const Trace& trace) {
+    return {trace.T, trace.T + Trunc(trace.H / 6.0), trace.T, 0};
+}
+
+void DrawAlternating(Trace& trace) {
+    const BarRow& row = trace.row;
     const int T = trace.T;
     const int x0 = trace.x0;
     const int s = trace.s;
@@ -217,11 +220,10 @@ std::vector<Named> ExpectedAlternate(const BarRow& row) {
     }
     trace.AddLabel(row.mainCount, x);
     trace.AddUnitName(x + trace.H / 10, yb - trace.H / 3);
-    return trace.calls;
 }
 
-std::vector<Named> ExpectedEquAlternate(const BarRow& row) {
-    Trace trace(row, 0.0, 0.5, false);
+void DrawEqual(Trace& trace) {
+    const BarRow& row = trace.row;
     const int bw = Trunc(row.paperToScreen);
     const int bh = Trunc(trace.H / 3.0);
     int counter = 0;
@@ -241,7 +243,38 @@ std::vector<Named> ExpectedEquAlternate(const BarRow& row) {
     }
     trace.AddLabel(row.mainCount, x);
     trace.AddUnitName(x + trace.H / 10, yb - trace.H / 3);
-    return trace.calls;
+}
+
+/// A style as the formulas have it.
+struct Model {
+    Style style;
+    ScaleBarType type;
+    double addToHeight;
+    double addToHalves;
+    bool multiplyOne;
+    void (*draw)(Trace&);
+};
+
+const Model kModels[] = {
+    {host::StyleOf<CScaleLine>(), ScaleBarLine, 0.5, 0.0, false, DrawTicks<OnBase>},
+    {host::StyleOf<CSteppedScaleLine>(), ScaleBarLine, 0.5, 0.0, false,
+     DrawTicks<OnBase>},
+    {host::StyleOf<CScaleLine2>(), ScaleBarLine2, 0.0, 0.0, false,
+     DrawTicks<ThroughBase>},
+    {host::StyleOf<CScaleLine3>(), ScaleBarLine3, 0.0, 0.0, false, DrawTicks<BelowBase>},
+    {host::StyleOf<CScaleAlternate>(), ScaleBarAlternate, 0.0, 0.0, true,
+     DrawAlternating},
+    {host::StyleOf<CScaleEquAltenate>(), ScaleBarEquAlternate, 0.0, 0.5, false,
+     DrawEqual},
+};
+
+const Model& ModelOf(Style style) {
+    for (const Model& model : kModels) {
+        if (model.style == style) {
+            return model;
+        }
+    }
+    throw std::logic_error(std::string(style->name) + " has no model");
 }
 
 }  // namespace
@@ -250,18 +283,12 @@ std::vector<Named> ExpectedDrawing(const BarRow& row) {
     if (std::fabs(row.paperToData - 0.0) < 1e-8) {
         return {};
     }
-    switch (row.style) {
-        case Style::Line:
-        case Style::Stepped:
-        case Style::Line2:
-        case Style::Line3:
-            return ExpectedLine(row);
-        case Style::Alternate:
-            return ExpectedAlternate(row);
-        case Style::EquAlternate:
-            return ExpectedEquAlternate(row);
-    }
-    return {};
+    const Model& model = ModelOf(row.style);
+    Trace trace(row, model.addToHeight, model.addToHalves, model.multiplyOne);
+    model.draw(trace);
+    return trace.calls;
 }
+
+ScaleBarType ExpectedType(Style style) { return ModelOf(style).type; }
 
 }  // namespace scale_bar_test

@@ -20,7 +20,7 @@ constexpr int kHighest = std::numeric_limits<int>::max();
 // rectangle runs from there above the centre to as much below it.
 TEST(ScaleBarExtremes, LengthsStopAtTheLimits) {
     BarRow row;
-    row.style = Style::Line3;
+    row.style = host::StyleOf<CScaleLine3>();
     row.size = kHighest;
     row.aspectRatio = 0.0f;
     row.mainCount = 1;
@@ -39,7 +39,7 @@ TEST(ScaleBarExtremes, LengthsStopAtTheLimits) {
 // A bar 232 wide and 40 high about the corner of the plane begins there.
 TEST(ScaleBarExtremes, RectanglesStopAtTheLimits) {
     BarRow row;
-    row.style = Style::Line3;
+    row.style = host::StyleOf<CScaleLine3>();
     row.mainCount = 0;
     row.centre = CPoint(kLowest, kLowest);
     EXPECT_EQ(DrawingOf(row).front(),
@@ -50,7 +50,7 @@ TEST(ScaleBarExtremes, RectanglesStopAtTheLimits) {
 // thirds of it below 2^30 - 1 is past it.
 TEST(ScaleBarExtremes, BoxesStopAtTheLimits) {
     BarRow row;
-    row.style = Style::EquAlternate;
+    row.style = host::StyleOf<CScaleEquAltenate>();
     row.size = kHighest;
     row.aspectRatio = 0.0f;
     row.mainCount = 2;

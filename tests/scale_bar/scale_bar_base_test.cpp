@@ -1,3 +1,4 @@
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <limits>
@@ -13,6 +14,7 @@ namespace {
 
 using namespace recording;
 using namespace scale_bar_test;
+using ::testing::Contains;
 
 static_assert(std::is_abstract_v<CScaleBarBase>);
 static_assert(std::is_abstract_v<CSingleDivisionScaleBar>);
@@ -42,12 +44,10 @@ void ExpectDefaults(const CScaleBarBase& bar, ScaleBarType type) {
 }
 
 TEST(ScaleBarBase, StartsWithTheDefaultsOfItsStyle) {
-    ExpectDefaults(CScaleLine(), ScaleBarLine);
-    ExpectDefaults(CSteppedScaleLine(), ScaleBarLine);
-    ExpectDefaults(CScaleLine2(), ScaleBarLine2);
-    ExpectDefaults(CScaleLine3(), ScaleBarLine3);
-    ExpectDefaults(CScaleEquAltenate(), ScaleBarEquAlternate);
-    ExpectDefaults(CScaleAlternate(), ScaleBarAlternate);
+    for (const Style style : Styles()) {
+        SCOPED_TRACE(style->name);
+        ExpectDefaults(*NewBar(style), ExpectedType(style));
+    }
     ExpectDefaults(HostBar<CScaleBarBase>(), ScaleBarLine);
     ExpectDefaults(HostBar<CSingleDivisionScaleBar>(), ScaleBarLine);
 }
@@ -239,7 +239,7 @@ TEST(ScaleBarBase, AddsTheMarginsInOrder) {
 
 TEST(ScaleBarBase, KeepsTheAspectRatioAndDrawsNothingWithoutADivisionValue) {
     Surface surface;
-    for (const Style style : kStyles) {
+    for (const Style style : Styles()) {
         for (const double scale :
              {1e-9, 9.99e-9, -1e-9, 0.0, -0.0, -1e-8, -1.0, -2500.0, -1e300, kInfinity,
               -kInfinity, kNan, std::numeric_limits<double>::denorm_min(),
@@ -251,8 +251,8 @@ TEST(ScaleBarBase, KeepsTheAspectRatioAndDrawsNothingWithoutADivisionValue) {
             Recording recording;
             bar->ResetAspectRatio();
             bar->Draw(surface.Graphics(), CPoint(200, 150), 1.0);
-            EXPECT_EQ(bar->GetAspectRatio(), 3.25f) << NameOf(style) << ", " << scale;
-            EXPECT_EQ(recording.Count(), 0) << NameOf(style) << ", " << scale;
+            EXPECT_EQ(bar->GetAspectRatio(), 3.25f) << style->name << ", " << scale;
+            EXPECT_EQ(recording.Count(), 0) << style->name << ", " << scale;
         }
     }
 }
@@ -289,23 +289,19 @@ TEST(ScaleBarBase, RoundsTheDivisionValueDownToOneDigit) {
         {0.00025, "0.0002", "0.0002", 800},
     };
     for (const auto& row : rows) {
-        for (const Style style : kStyles) {
-            const bool alternates = style == Style::Alternate;
+        for (const Style style : Styles()) {
+            const bool alternates = style == host::StyleOf<CScaleAlternate>();
             BarRow bar;
             bar.style = style;
             bar.paperToData = row.paperToData;
             bar.paperToScreen = 1000.0;
             bar.mainCount = 1;
             bar.subCount = 0;
-            const std::vector<std::string> drawing = DrawingOf(bar);
-            // In every style the label of the last boundary is the second before the end,
-            // or the third where the base line follows; the first boundary is at x 89.
-            const bool hasBaseLine =
-                style != Style::Alternate && style != Style::EquAlternate;
-            const std::string& last = drawing[drawing.size() - (hasBaseLine ? 3 : 2)];
-            EXPECT_EQ(last, BlackLabel(alternates ? row.alternateLabel : row.label,
-                                       static_cast<float>(84 + row.step), 130))
-                << NameOf(style) << ", " << row.paperToData;
+            // The label of the last boundary; the first boundary is at x 89.
+            EXPECT_THAT(DrawingOf(bar),
+                        Contains(BlackLabel(alternates ? row.alternateLabel : row.label,
+                                            static_cast<float>(84 + row.step), 130)))
+                << style->name << ", " << row.paperToData;
         }
     }
 }

@@ -96,25 +96,4 @@ bool Drawing::Save(const std::wstring& file) {
     return SavePng(*m_bitmap, file);
 }
 
-const std::vector<Picture>& Pictures() {
-    static const std::vector<Picture> pictures = {
-        {L"title", DrawTitle},
-        {L"picture", DrawPicture},
-        {L"legend", DrawLegend},
-        {L"legend_ramp", DrawLegendRamp},
-        {L"legend_columns", DrawLegendColumns},
-        {L"frame", DrawFrame},
-        {L"north_arrow_one", DrawOneAngle},
-        {L"north_arrow_two", DrawTwoAngle},
-        {L"north_arrow_four", DrawFourAngle},
-        {L"north_arrow_eight", DrawEightAngle},
-        {L"scale_bar_line", DrawScaleLine},
-        {L"scale_bar_line2", DrawScaleLine2},
-        {L"scale_bar_line3", DrawScaleLine3},
-        {L"scale_bar_alternating", DrawScaleAlternate},
-        {L"scale_bar_equal_alternating", DrawScaleEquAltenate},
-    };
-    return pictures;
-}
-
 }  // namespace gallery::annotated

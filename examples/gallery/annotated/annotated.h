@@ -47,22 +47,9 @@ struct Picture {
     Drawing (*draw)();
 };
 
-const std::vector<Picture>& Pictures();
-
-Drawing DrawTitle();
-Drawing DrawPicture();
-Drawing DrawLegend();
-Drawing DrawLegendRamp();
-Drawing DrawLegendColumns();
-Drawing DrawFrame();
-Drawing DrawOneAngle();
-Drawing DrawTwoAngle();
-Drawing DrawFourAngle();
-Drawing DrawEightAngle();
-Drawing DrawScaleLine();
-Drawing DrawScaleLine2();
-Drawing DrawScaleLine3();
-Drawing DrawScaleAlternate();
-Drawing DrawScaleEquAltenate();
+std::vector<Picture> TitlePictureAndFrame();
+std::vector<Picture> Legends();
+std::vector<Picture> NorthArrows();
+std::vector<Picture> ScaleBars();
 
 }  // namespace gallery::annotated

@@ -70,8 +70,6 @@ int NameHead(Drawing& drawing, CPoint at, int x, const Lengths& length) {
     return row + length.gap;
 }
 
-}  // namespace
-
 Drawing DrawLegend() {
     Drawing drawing(640, 420);
     const Lengths length;
@@ -147,6 +145,16 @@ Drawing DrawLegendColumns() {
         }
     }
     return drawing;
+}
+
+}  // namespace
+
+std::vector<Picture> Legends() {
+    return {
+        {L"legend", DrawLegend},
+        {L"legend_ramp", DrawLegendRamp},
+        {L"legend_columns", DrawLegendColumns},
+    };
 }
 
 }  // namespace gallery::annotated

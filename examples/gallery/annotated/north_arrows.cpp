@@ -17,8 +17,6 @@ void Draw(Drawing& drawing, CPoint centre, int nameX = -60, int nameY = -9) {
     drawing.Mark(centre.x, centre.y, L"centre", nameX, nameY);
 }
 
-}  // namespace
-
 Drawing DrawOneAngle() {
     Drawing drawing(460, 360);
     const CPoint c{220, 200};
@@ -123,6 +121,17 @@ Drawing DrawEightAngle() {
         below += 24;
     }
     return drawing;
+}
+
+}  // namespace
+
+std::vector<Picture> NorthArrows() {
+    return {
+        {L"north_arrow_one", DrawOneAngle},
+        {L"north_arrow_two", DrawTwoAngle},
+        {L"north_arrow_four", DrawFourAngle},
+        {L"north_arrow_eight", DrawEightAngle},
+    };
 }
 
 }  // namespace gallery::annotated

@@ -102,8 +102,6 @@ void NameSub(Drawing& drawing, const Layout& at) {
     drawing.Guide(from + at.sub, at.bottom, from + at.sub, at.bottom + 50);
 }
 
-}  // namespace
-
 Drawing DrawScaleLine() {
     Drawing drawing(880, 350);
     const Layout at = Draw<CScaleLine>(drawing, kTicks, 1.0);
@@ -170,6 +168,18 @@ Drawing DrawScaleEquAltenate() {
     drawing.Down(at.stripTop, at.stripTop + kBarHeight / 3, at.first + at.step + 70,
                  L"H / 3");
     return drawing;
+}
+
+}  // namespace
+
+std::vector<Picture> ScaleBars() {
+    return {
+        {L"scale_bar_line", DrawScaleLine},
+        {L"scale_bar_line2", DrawScaleLine2},
+        {L"scale_bar_line3", DrawScaleLine3},
+        {L"scale_bar_alternating", DrawScaleAlternate},
+        {L"scale_bar_equal_alternating", DrawScaleEquAltenate},
+    };
 }
 
 }  // namespace gallery::annotated

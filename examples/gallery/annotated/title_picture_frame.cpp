@@ -43,8 +43,6 @@ void NameBox(Drawing& drawing, CPoint centre, int width, int height,
     drawing.Down(top, top + height, left + width + 24, down);
 }
 
-}  // namespace
-
 Drawing DrawTitle() {
     Drawing drawing(620, 330);
     const CPoint centre{250, 140};
@@ -159,6 +157,16 @@ Drawing DrawFrame() {
         drawing.Mark(handle.x, handle.y, std::to_wstring(number++), 5, 3);
     }
     return drawing;
+}
+
+}  // namespace
+
+std::vector<Picture> TitlePictureAndFrame() {
+    return {
+        {L"title", DrawTitle},
+        {L"picture", DrawPicture},
+        {L"frame", DrawFrame},
+    };
 }
 
 }  // namespace gallery::annotated
