@@ -5,6 +5,8 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <string>
 #include <vector>
 
@@ -35,6 +37,18 @@ public:
         }
         std::sort(names.begin(), names.end());
         return names;
+    }
+
+    /// The bytes of a file in it.
+    std::string Contents(const std::string& name) const {
+        std::ifstream file(Path(name), std::ios::binary);
+        return {std::istreambuf_iterator<char>(file), {}};
+    }
+
+    /// Writes a file; its path.
+    std::string Write(const std::string& name, const std::string& contents) const {
+        std::ofstream(Path(name), std::ios::binary) << contents;
+        return Path(name);
     }
 
 private:

@@ -4,7 +4,6 @@
 #include <sys/stat.h>
 
 #include <filesystem>
-#include <fstream>
 #include <string>
 
 #include "scratch_folder.h"
@@ -21,7 +20,7 @@ protected:
             fs::create_directory(folder.Path(name));
         }
         for (const char* name : {"maps/a.tif", "maps/tiles/c.tif", "maps-old/b.tif"}) {
-            std::ofstream(folder.Path(name)) << "x";
+            folder.Write(name, "x");
         }
         fs::create_symlink("tiles/c.tif", folder.Path("maps/inside.tif"));
         fs::create_symlink("../maps-old/b.tif", folder.Path("maps/outside.tif"));

@@ -8,8 +8,7 @@
 
 #include <csignal>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
+#include <functional>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -24,15 +23,20 @@ std::vector<std::uint8_t> BytesOf(const std::string& text) {
     return {text.begin(), text.end()};
 }
 
+/// How a child process ended that did this: as waitpid tells it.
+int EndOf(const std::function<void()>& work) {
+    const pid_t child = fork();
+    if (child == 0) {
+        work();
+        _exit(0);
+    }
+    int status = 0;
+    EXPECT_EQ(waitpid(child, &status, 0), child);
+    return status;
+}
+
 class OutputFile : public ::testing::Test {
 protected:
-    std::string Contents(const std::string& name) const {
-        std::ifstream file(folder.Path(name), std::ios::binary);
-        return {std::istreambuf_iterator<char>(file), {}};
-    }
-    void Write(const std::string& name, const std::string& text) const {
-        std::ofstream(folder.Path(name), std::ios::binary) << text;
-    }
     /// Writes a file through host::OutputFile.
     void Replace(const std::string& name, const std::string& text = "after") const {
         host::OutputFile output(folder.Path(name));
@@ -55,7 +59,7 @@ TEST_F(OutputFile, AppearsWhenItIsComplete) {
         EXPECT_FALSE(fs::exists(folder.Path("page.png")));
         output.Write(BytesOf("whole"));
         output.Commit();
-        EXPECT_EQ(Contents("page.png"), "whole");
+        EXPECT_EQ(folder.Contents("page.png"), "whole");
     }
     EXPECT_EQ(folder.Names(), std::vector<std::string>{"page.png"});
 }
@@ -63,15 +67,15 @@ TEST_F(OutputFile, AppearsWhenItIsComplete) {
 TEST_F(OutputFile, LeavesEverythingAsItWasWhenItIsGivenUp) {
     { const host::OutputFile output(folder.Path("page.png")); }
     EXPECT_TRUE(folder.Names().empty());
-    Write("page.png", "before");
+    folder.Write("page.png", "before");
     { const host::OutputFile output(folder.Path("page.png")); }
-    EXPECT_EQ(Contents("page.png"), "before");
+    EXPECT_EQ(folder.Contents("page.png"), "before");
     EXPECT_EQ(folder.Names().size(), 1u);
 }
 
 TEST_F(OutputFile, TakesThePermissionsOfWhatItReplacesButForItsOwnersRights) {
     for (const auto& [mode, taken] : {std::pair(0640u, 0640u), {06755u, 0755u}}) {
-        Write("page.png", "before");
+        folder.Write("page.png", "before");
         chmod(folder.Path("page.png").c_str(), mode);
         Replace("page.png");
         EXPECT_EQ(Status("page.png").st_mode & 07777, taken);
@@ -82,7 +86,7 @@ TEST_F(OutputFile, KeepsTheOwnerWhereItMay) {
     if (geteuid() != 0) {
         GTEST_SKIP() << "only root gives files away";
     }
-    Write("page.png", "before");
+    folder.Write("page.png", "before");
     ASSERT_EQ(chown(folder.Path("page.png").c_str(), 1234, 2345), 0);
     Replace("page.png");
     EXPECT_EQ(Status("page.png").st_uid, 1234u);
@@ -91,23 +95,19 @@ TEST_F(OutputFile, KeepsTheOwnerWhereItMay) {
     // then; their group is not the one that could read it.
     chmod(folder.Path("page.png").c_str(), 0666);
     chmod(folder.Path().c_str(), 0777);
-    const pid_t child = fork();
-    if (child == 0) {
-        if (setgid(3456) != 0 || setuid(3456) != 0) {
-            _exit(1);
-        }
-        Replace("page.png");
-        _exit(0);
-    }
-    int status = 0;
-    ASSERT_EQ(waitpid(child, &status, 0), child);
-    EXPECT_EQ(status, 0);
+    EXPECT_EQ(EndOf([&] {
+                  if (setgid(3456) != 0 || setuid(3456) != 0) {
+                      _exit(1);
+                  }
+                  Replace("page.png");
+              }),
+              0);
     EXPECT_EQ(Status("page.png").st_uid, 3456u);
     EXPECT_EQ(Status("page.png").st_mode & 07777, 0606u);
 }
 
 TEST_F(OutputFile, SaysThatAHardLinkParts) {
-    Write("page.png", "before");
+    folder.Write("page.png", "before");
     {
         const host::OutputFile output(folder.Path("page.png"));
         EXPECT_EQ(output.Remark(), "");
@@ -119,8 +119,8 @@ TEST_F(OutputFile, SaysThatAHardLinkParts) {
                   " has other names (hard links), under which it stays as it was");
     output.Write(BytesOf("after"));
     output.Commit();
-    EXPECT_EQ(Contents("page.png"), "after");
-    EXPECT_EQ(Contents("other.png"), "before");
+    EXPECT_EQ(folder.Contents("page.png"), "after");
+    EXPECT_EQ(folder.Contents("other.png"), "before");
 }
 
 TEST_F(OutputFile, IsWrittenInParts) {
@@ -129,7 +129,7 @@ TEST_F(OutputFile, IsWrittenInParts) {
     output.Write(BytesOf("script"));
     EXPECT_EQ(output.Size(), 10u);
     output.Commit();
-    EXPECT_EQ(Contents("page.pdf"), "postscript");
+    EXPECT_EQ(folder.Contents("page.pdf"), "postscript");
 }
 
 TEST_F(OutputFile, HasThePermissionsOfAnyNewFile) {
@@ -141,16 +141,16 @@ TEST_F(OutputFile, HasThePermissionsOfAnyNewFile) {
 
 TEST_F(OutputFile, FollowsALink) {
     fs::create_directory(folder.Path("real"));
-    Write("real/page.png", "before");
+    folder.Write("real/page.png", "before");
     fs::create_symlink("real/page.png", folder.Path("link.png"));
     Replace("link.png");
     EXPECT_TRUE(fs::is_symlink(folder.Path("link.png")));
-    EXPECT_EQ(Contents("real/page.png"), "after");
+    EXPECT_EQ(folder.Contents("real/page.png"), "after");
 }
 
 TEST_F(OutputFile, RefusesWhatCannotBeReplaced) {
-    Write("file", "");
-    Write("protected.png", "before");
+    folder.Write("file", "");
+    folder.Write("protected.png", "before");
     chmod(folder.Path("protected.png").c_str(), 0444);
     fs::create_directory(folder.Path("folder.png"));
     fs::create_symlink("nowhere", folder.Path("broken.png"));
@@ -169,13 +169,12 @@ TEST_F(OutputFile, RefusesWhatCannotBeReplaced) {
             << path;
     }
     EXPECT_EQ(folder.Names().size(), 4u);
-    EXPECT_EQ(Contents("protected.png"), "before");
+    EXPECT_EQ(folder.Contents("protected.png"), "before");
 }
 
 TEST_F(OutputFile, GoesWhenTheProgramIsEnded) {
     for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
-        const pid_t child = fork();
-        if (child == 0) {
+        const int status = EndOf([&] {
             std::signal(signal, SIG_DFL);
             host::RemoveUnfinishedOutputOnSignals();
             const host::OutputFile output(folder.Path("page.png"));
@@ -183,10 +182,7 @@ TEST_F(OutputFile, GoesWhenTheProgramIsEnded) {
             if (folder.Names().size() == 2) {
                 std::raise(signal);
             }
-            _exit(0);
-        }
-        int status = 0;
-        ASSERT_EQ(waitpid(child, &status, 0), child);
+        });
         EXPECT_TRUE(WIFSIGNALED(status));
         EXPECT_EQ(WTERMSIG(status), signal);
         EXPECT_TRUE(folder.Names().empty());
@@ -194,15 +190,12 @@ TEST_F(OutputFile, GoesWhenTheProgramIsEnded) {
 }
 
 TEST_F(OutputFile, LeavesAnIgnoredSignalIgnored) {
-    const pid_t child = fork();
-    if (child == 0) {
+    const int status = EndOf([] {
         std::signal(SIGHUP, SIG_IGN);
         host::RemoveUnfinishedOutputOnSignals();
         std::raise(SIGHUP);
         _exit(7);
-    }
-    int status = 0;
-    ASSERT_EQ(waitpid(child, &status, 0), child);
+    });
     EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 7);
 }
 

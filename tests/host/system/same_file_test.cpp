@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
 #include <optional>
 #include <string>
 
@@ -15,10 +14,8 @@ using host::InputReplacedBy;
 
 class SameFile : public ::testing::Test {
 protected:
-    SameFile() { std::ofstream(file) << "raster"; }
-
     ScratchFolder folder;
-    std::string file = folder.Path("a.tif");
+    std::string file = folder.Write("a.tif", "raster");
 };
 
 TEST_F(SameFile, IsFoundByAnyNameAndLink) {
