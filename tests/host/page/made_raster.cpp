@@ -1,8 +1,5 @@
 #include "page/made_raster.h"
 
-#include <gtest/gtest.h>
-#include <ogr_spatialref.h>
-
 #include "raster_data/make_raster.h"
 
 namespace {
@@ -12,18 +9,6 @@ GDALColorEntry ColorOf(unsigned argb) {
         return static_cast<short>((argb >> (8 * index)) & 0xFF);
     };
     return {byte(2), byte(1), byte(0), byte(3)};
-}
-
-void Place(GDALDataset& raster, std::array<double, 6> transform,
-           const std::string& projection) {
-    if (transform[1] != 0.0 || transform[2] != 0.0) {
-        raster.SetGeoTransform(transform.data());
-    }
-    if (!projection.empty()) {
-        OGRSpatialReference system;
-        EXPECT_EQ(system.SetFromUserInput(projection.c_str()), OGRERR_NONE);
-        raster.SetSpatialRef(&system);
-    }
 }
 
 }  // namespace
@@ -41,9 +26,9 @@ void WriteRaster(const std::string& path, const MadeRaster& made) {
         raster.noData = kHole;
     }
     raster.describe = [&](GDALRasterBand& band) {
-        raster_test::SetPalette(
-            band, {{kBody, ColorOf(made.argb)}, {kCorner, ColorOf(made.cornerArgb)}});
-        Place(*band.GetDataset(), made.transform, made.projection);
+        raster_test::Coloured(
+            {{kBody, ColorOf(made.argb)}, {kCorner, ColorOf(made.cornerArgb)}})(band);
+        raster_test::Placed(made.transform, made.projection)(band);
     };
     raster_test::Write(path, raster);
 }
@@ -59,9 +44,7 @@ void WriteScene(const std::string& path, int width, int height) {
             raster.bands[2].push_back((x + y) % 200);
         }
     }
-    raster.describe = [](GDALRasterBand& band) {
-        Place(*band.GetDataset(), {500000.0, 30.0, 0.0, 9000000.0, 0.0, -30.0},
-              "EPSG:32725");
-    };
+    raster.describe =
+        raster_test::Placed({500000.0, 30.0, 0.0, 9000000.0, 0.0, -30.0}, "EPSG:32725");
     raster_test::Write(path, raster);
 }

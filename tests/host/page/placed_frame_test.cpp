@@ -94,15 +94,12 @@ TEST(NorthArrowFrame, LooksTheSameAtEveryResolution) {
 }
 
 TEST(LegendFrame, ExplainsAPaletteThatIsARampByIt) {
-    raster_test::Raster values{100, {raster_test::Ramp(0, 99)}};
-    values.describe = [](GDALRasterBand& band) {
-        raster_test::Palette palette;
-        for (short value = 0; value < 100; ++value) {
-            palette.push_back({value, {value, 1, 2, 255}});
-        }
-        raster_test::SetPalette(band, palette);
-    };
-    const auto raster = raster_test::WriteAndOpen(values);
+    raster_test::Palette palette;
+    for (short value = 0; value < 100; ++value) {
+        palette.push_back({value, {value, 1, 2, 255}});
+    }
+    const auto raster = raster_test::WriteAndOpen(raster_test::With(
+        {100, {raster_test::Ramp(0, 99)}}, raster_test::Coloured(palette)));
     const auto rampOf = [&](bool explains, bool isShown) {
         host::LegendFrame frame(std::make_unique<CMapLegend>());
         frame.SetExplainsRamps(explains);

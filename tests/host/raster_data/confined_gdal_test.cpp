@@ -4,8 +4,6 @@
 #include <sys/stat.h>
 
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 #include <string>
 
 #include "raster_data/gdal_session.h"
@@ -45,8 +43,9 @@ protected:
         return folder.Path("other/" + name);
     }
 
-    void WriteText(const std::string& path, const std::string& text) const {
-        std::ofstream(path) << text;
+    /// Writes a file in maps; its path.
+    std::string Write(const std::string& name, const std::string& text) const {
+        return folder.Write("maps/" + name, text);
     }
 
     /// A copy of a.tif with a side file of that ending, which is a link to another's.
@@ -101,49 +100,51 @@ TEST_F(ConfinedGdal, ReadsPlainFilesBelowTheFolder) {
 
 TEST_F(ConfinedGdal, ReadsKindsThatNameNoOtherFile) {
     host::StartGdal();
-    const auto original = raster_test::Open(Maps("a.tif"));
-    for (const char* kind : {"PNG", "HFA", "AAIGrid", "NITF", "netCDF", "PCIDSK"}) {
-        GDALDataset* const from =
-            GDALDataset::Open(Maps("a.tif").c_str(), GDAL_OF_RASTER);
-        GDALClose(GetGDALDriverManager()->GetDriverByName(kind)->CreateCopy(
-            Maps(kind).c_str(), from, 0, nullptr, nullptr, nullptr));
-        GDALClose(from);
-        const bool isAllowed = kind != std::string("NITF") &&
-                               kind != std::string("netCDF") &&
-                               kind != std::string("PCIDSK");
-        EXPECT_EQ(Read(Maps(kind)),
-                  isAllowed ? "10"
-                            : "is no raster of the kinds that are read by themselves; "
-                              "--all allows it")
-            << kind;
+    const raster_test::Dataset original =
+        raster_test::Owned(GDALDataset::Open(Maps("a.tif").c_str(), GDAL_OF_RASTER));
+    const std::string refused =
+        "is no raster of the kinds that are read by themselves; --all allows it";
+    for (const auto& [kind, read] : {std::pair<const char*, std::string>{"PNG", "10"},
+                                     {"HFA", "10"},
+                                     {"AAIGrid", "10"},
+                                     {"NITF", refused},
+                                     {"netCDF", refused},
+                                     {"PCIDSK", refused}}) {
+        raster_test::Copy(original, kind, Maps(kind));
+        EXPECT_EQ(Read(Maps(kind)), read) << kind;
     }
 }
 
 TEST_F(ConfinedGdal, ReadsVrtsOfSuchFiles) {
-    WriteText(Maps("good.vrt"), VrtOf(SourceOf(Maps("a.tif"))));
-    EXPECT_EQ(Read(Maps("good.vrt")), "10");
-    WriteText(Maps("outside.vrt"), VrtOf(SourceOf(Other("a.tif"))));
-    EXPECT_EQ(Read(Maps("outside.vrt")),
-              "reads " + Other("a.tif") + ", which" + Outside(""));
-    WriteText(Maps("nested.vrt"), VrtOf(SourceOf(Maps("outside.vrt"))));
-    EXPECT_EQ(Read(Maps("nested.vrt")), Read(Maps("outside.vrt")));
-    WriteText(Maps("service.vrt"), VrtOf(SourceOf("/vsicurl/http://127.0.0.1:1/a.tif")));
-    EXPECT_EQ(Read(Maps("service.vrt")),
-              "reads /vsicurl/http://127.0.0.1:1/a.tif, which is not a plain file; "
-              "--remote allows it");
-    WriteText(Maps("raw.vrt"),
-              VrtOf("<SourceFilename>a.tif</SourceFilename><ImageOffset>0</ImageOffset>",
-                    " subClass=\"VRTRawRasterBand\""));
-    EXPECT_EQ(Read(Maps("raw.vrt")), "is a VRT of more than rasters");
-    WriteText(Maps("code.vrt"),
-              VrtOf("<PixelFunctionLanguage>Python</PixelFunctionLanguage>" +
-                        SourceOf(Maps("a.tif")),
-                    " subClass=\"VRTDerivedRasterBand\""));
-    EXPECT_EQ(Read(Maps("code.vrt")), "is a VRT of more than rasters");
-    EXPECT_EQ(Read(VrtOf(SourceOf(Maps("a.tif")))),
-              "is not a plain file; --remote allows it");
-    EXPECT_EQ(Read(Maps(VrtOf(SourceOf(Maps("a.tif"))))),
-              "is not a plain file; --remote allows it");
+    const std::string ofA = SourceOf(Maps("a.tif"));
+    const std::string outside = "reads " + Other("a.tif") + ", which" + Outside("");
+    const std::string more = "is a VRT of more than rasters";
+    const struct {
+        const char* name;
+        std::string vrt;
+        std::string read;
+    } rows[] = {
+        {"good.vrt", VrtOf(ofA), "10"},
+        {"outside.vrt", VrtOf(SourceOf(Other("a.tif"))), outside},
+        {"nested.vrt", VrtOf(SourceOf(Maps("outside.vrt"))), outside},
+        {"service.vrt", VrtOf(SourceOf("/vsicurl/http://127.0.0.1:1/a.tif")),
+         "reads /vsicurl/http://127.0.0.1:1/a.tif, which is not a plain file; "
+         "--remote allows it"},
+        {"raw.vrt",
+         VrtOf("<SourceFilename>a.tif</SourceFilename><ImageOffset>0</ImageOffset>",
+               " subClass=\"VRTRawRasterBand\""),
+         more},
+        {"code.vrt",
+         VrtOf("<PixelFunctionLanguage>Python</PixelFunctionLanguage>" + ofA,
+               " subClass=\"VRTDerivedRasterBand\""),
+         more},
+    };
+    for (const auto& row : rows) {
+        EXPECT_EQ(Read(Write(row.name, row.vrt)), row.read) << row.name;
+    }
+    for (const std::string& text : {VrtOf(ofA), Maps(VrtOf(ofA))}) {
+        EXPECT_EQ(Read(text), "is not a plain file; --remote allows it");
+    }
 }
 
 TEST_F(ConfinedGdal, FollowsNoSideFileThatIsALink) {
@@ -164,10 +165,9 @@ TEST_F(ConfinedGdal, FollowsNoSideFileThatIsALink) {
 
 TEST_F(ConfinedGdal, FollowsNoReferenceInMetadata) {
     const auto withOverviewsIn = [&](const std::string& file) {
-        WriteText(
-            Maps("a.tif.aux.xml"),
-            "<PAMDataset><Metadata domain=\"OVERVIEWS\"><MDI key=\"OVERVIEW_FILE\">" +
-                file + "</MDI></Metadata></PAMDataset>");
+        Write("a.tif.aux.xml",
+              "<PAMDataset><Metadata domain=\"OVERVIEWS\"><MDI key=\"OVERVIEW_FILE\">" +
+                  file + "</MDI></Metadata></PAMDataset>");
         return Maps("a.tif");
     };
     EXPECT_EQ(Read(withOverviewsIn(Other("a.tif"))), Outside(Other("a.tif")));
@@ -182,10 +182,8 @@ TEST_F(ConfinedGdal, LooksIntoArchives) {
     for (const char* place : {"maps", "other"}) {
         const std::string archive = folder.Path(std::string(place) + "/a.zip");
         VSILFILE* const file = VSIFOpenL(("/vsizip/" + archive + "/b.tif").c_str(), "wb");
-        const std::ifstream raster(Maps("a.tif"), std::ios::binary);
-        std::ostringstream bytes;
-        bytes << raster.rdbuf();
-        VSIFWriteL(bytes.str().data(), 1, bytes.str().size(), file);
+        const std::string bytes = folder.Contents("maps/a.tif");
+        VSIFWriteL(bytes.data(), 1, bytes.size(), file);
         VSIFCloseL(file);
     }
     EXPECT_EQ(Read("/vsizip/" + Maps("a.zip/b.tif")), "10");
@@ -193,19 +191,16 @@ TEST_F(ConfinedGdal, LooksIntoArchives) {
 }
 
 TEST_F(ConfinedGdal, WritesNothing) {
-    EXPECT_EQ(host::InSeparateProcess("writing",
-                                      [&](const host::Progress&) -> std::string {
-                                          host::ConfineGdal(Allowed());
-                                          for (const char* how : {"wb", "ab", "rb+"}) {
-                                              if (VSIFOpenL(Maps("a.tif").c_str(), how)) {
-                                                  return how;
-                                              }
-                                          }
-                                          return VSIUnlink(Maps("a.tif").c_str()) == 0
-                                                     ? "removed"
-                                                     : "";
-                                      }),
-              "");
+    const host::SeparateWork write = [&](const host::Progress&) -> std::string {
+        host::ConfineGdal(Allowed());
+        for (const char* how : {"wb", "ab", "rb+"}) {
+            if (VSIFOpenL(Maps("a.tif").c_str(), how)) {
+                return how;
+            }
+        }
+        return VSIUnlink(Maps("a.tif").c_str()) == 0 ? "removed" : "";
+    };
+    EXPECT_EQ(host::InSeparateProcess("writing", write), "");
 }
 
 }  // namespace

@@ -2,11 +2,49 @@
 
 #include <cpl_string.h>
 #include <gtest/gtest.h>
+#include <ogr_spatialref.h>
 
 #include <atomic>
 #include <numeric>
 
 namespace raster_test {
+
+Raster With(Raster raster, const std::vector<std::string>& options) {
+    raster.options = options;
+    return raster;
+}
+
+Raster With(Raster raster, const Describe& describe) {
+    raster.describe = describe;
+    return raster;
+}
+
+Describe Coloured(const Palette& entries) {
+    return [=](GDALRasterBand& band) {
+        GDALColorTable palette;
+        for (const auto& [index, colour] : entries) {
+            palette.SetColorEntry(index, &colour);
+        }
+        band.SetColorTable(&palette);
+    };
+}
+
+Describe Placed(std::array<double, 6> transform, const std::string& system) {
+    return [=](GDALRasterBand& band) mutable {
+        if (transform != std::array<double, 6>{}) {
+            band.GetDataset()->SetGeoTransform(transform.data());
+        }
+        if (!system.empty()) {
+            OGRSpatialReference read;
+            EXPECT_EQ(read.SetFromUserInput(system.c_str()), OGRERR_NONE);
+            band.GetDataset()->SetSpatialRef(&read);
+        }
+    };
+}
+
+Dataset Owned(GDALDataset* dataset) {
+    return {dataset, [](GDALDataset* opened) { GDALClose(opened); }};
+}
 
 Dataset Create(const std::string& path, int width, int height, int bands,
                GDALDataType type, const std::vector<std::string>& options) {
@@ -15,9 +53,8 @@ Dataset Create(const std::string& path, int width, int height, int bands,
     for (const std::string& option : options) {
         list.AddString(option.c_str());
     }
-    Dataset dataset(GetGDALDriverManager()->GetDriverByName("GTiff")->Create(
-                        path.c_str(), width, height, bands, type, list.List()),
-                    [](GDALDataset* opened) { GDALClose(opened); });
+    Dataset dataset = Owned(GetGDALDriverManager()->GetDriverByName("GTiff")->Create(
+        path.c_str(), width, height, bands, type, list.List()));
     EXPECT_NE(dataset, nullptr) << path;
     return dataset;
 }
@@ -49,12 +86,11 @@ void Set(GDALRasterBand& band, int x, int y, int width, int height,
               CE_None);
 }
 
-void SetPalette(GDALRasterBand& band, const Palette& entries) {
-    GDALColorTable palette;
-    for (const auto& [index, colour] : entries) {
-        palette.SetColorEntry(index, &colour);
-    }
-    band.SetColorTable(&palette);
+void Copy(const Dataset& raster, const char* format, const std::string& path) {
+    EXPECT_NE(Owned(GetGDALDriverManager()->GetDriverByName(format)->CreateCopy(
+                  path.c_str(), raster.get(), 0, nullptr, nullptr, nullptr)),
+              nullptr)
+        << path;
 }
 
 void AddOverviews(GDALDataset& dataset, std::vector<int> factors) {

@@ -2,6 +2,7 @@
 
 #include <gdal_priv.h>
 
+#include <array>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -16,6 +17,9 @@ namespace raster_test {
 
 using Dataset = std::unique_ptr<GDALDataset, void (*)(GDALDataset*)>;
 
+/// Gives a raster that is written what it has besides values; it is given the first band.
+using Describe = std::function<void(GDALRasterBand&)>;
+
 /// A GeoTIFF to be written: the same number of values for each band, row by row.
 struct Raster {
     int width = 0;
@@ -23,13 +27,25 @@ struct Raster {
     GDALDataType type = GDT_Byte;
     std::optional<double> noData = {};
     std::vector<std::string> options = {};
-
-    /// What else it has: palette, tables, colours of bands. It is given the first band.
-    std::function<void(GDALRasterBand&)> describe = {};
+    Describe describe = {};  ///< palette, tables, colours of bands
 };
+
+Raster With(Raster raster, const std::vector<std::string>& options);
+Raster With(Raster raster, const Describe& describe);
+
+/// That palette, of indexes and colours.
+using Palette = std::vector<std::pair<int, GDALColorEntry>>;
+Describe Coloured(const Palette& entries);
+
+/// That geotransform, of zeros for none, and unless it is empty that system,
+/// "EPSG:32725".
+Describe Placed(std::array<double, 6> transform, const std::string& system = "");
 
 /// Writes the raster; fails the test when that cannot be done.
 void Write(const std::string& path, const Raster& raster);
+
+/// A file or a dataset that is closed with the pointer.
+Dataset Owned(GDALDataset* dataset);
 
 /// An empty file of the raster's form, open for changes.
 Dataset Create(const std::string& path, int width, int height, int bands,
@@ -47,9 +63,8 @@ std::unique_ptr<host::GdalRaster> WriteAndOpen(const Raster& raster,
 void Set(GDALRasterBand& band, int x, int y, int width, int height,
          std::vector<double> values);
 
-/// Gives a band that palette, of indexes and colours.
-using Palette = std::vector<std::pair<int, GDALColorEntry>>;
-void SetPalette(GDALRasterBand& band, const Palette& entries);
+/// Copies a raster to a file of another format, by the name of its driver: "PNG".
+void Copy(const Dataset& raster, const char* format, const std::string& path);
 
 /// Adds smaller copies of a raster, a factor each.
 void AddOverviews(GDALDataset& dataset, std::vector<int> factors);

@@ -9,9 +9,9 @@
 
 namespace {
 
+using raster_test::Coloured;
 using raster_test::Pixels;
 using raster_test::Raster;
-using raster_test::SetPalette;
 using raster_test::WriteAndOpen;
 
 struct Class {
@@ -50,26 +50,29 @@ struct TableColumn {
 struct Table {
     std::vector<TableColumn> columns;
     std::vector<std::vector<const char*>> rows;
-    std::optional<std::pair<double, double>> binning;  ///< first value, size of a bin
+    /// The first value and the size of a bin.
+    std::optional<std::pair<double, double>> binning = {};
     GDALRATTableType type = GRTT_THEMATIC;
 };
 
-void SetTable(GDALRasterBand& band, const Table& table) {
-    GDALDefaultRasterAttributeTable attributes;
-    attributes.SetTableType(table.type);
-    for (const TableColumn& column : table.columns) {
-        attributes.CreateColumn(column.name, column.type, column.usage);
-    }
-    for (std::size_t row = 0; row < table.rows.size(); ++row) {
-        for (std::size_t column = 0; column < table.columns.size(); ++column) {
-            attributes.SetValue(static_cast<int>(row), static_cast<int>(column),
-                                table.rows[row][column]);
+raster_test::Describe Explained(const Table& table) {
+    return [=](GDALRasterBand& band) {
+        GDALDefaultRasterAttributeTable attributes;
+        attributes.SetTableType(table.type);
+        for (const TableColumn& column : table.columns) {
+            attributes.CreateColumn(column.name, column.type, column.usage);
         }
-    }
-    if (table.binning) {
-        attributes.SetLinearBinning(table.binning->first, table.binning->second);
-    }
-    ASSERT_EQ(band.SetDefaultRAT(&attributes), CE_None);
+        for (std::size_t row = 0; row < table.rows.size(); ++row) {
+            for (std::size_t column = 0; column < table.columns.size(); ++column) {
+                attributes.SetValue(static_cast<int>(row), static_cast<int>(column),
+                                    table.rows[row][column]);
+            }
+        }
+        if (table.binning) {
+            attributes.SetLinearBinning(table.binning->first, table.binning->second);
+        }
+        ASSERT_EQ(band.SetDefaultRAT(&attributes), CE_None);
+    };
 }
 
 const raster_test::Palette kFourColours = {{0, {0, 0, 0, 255}},
@@ -99,7 +102,7 @@ const struct {
     const char* name;
     GDALDataType type;
     std::vector<double> values;  ///< one row of pixels
-    std::function<void(GDALRasterBand&)> describe;
+    raster_test::Describe describe;
     std::vector<Class> classes;
     std::vector<unsigned int> drawn;
 } kRows[] = {
@@ -107,7 +110,7 @@ const struct {
      "listed",
      GDT_Byte,
      {3, 1, 3},
-     [](GDALRasterBand& band) { SetPalette(band, kFourColours); },
+     Coloured(kFourColours),
      {{L"1", 0xff0a141e}, {L"3", 0xff46505a}},
      {0xff46505a, 0xff0a141e, 0xff46505a}},
 
@@ -115,7 +118,7 @@ const struct {
      GDT_Byte,
      {0, 1, 2, 3},
      [](GDALRasterBand& band) {
-         SetPalette(band, kFourColours);
+         Coloured(kFourColours)(band);
          char nothing[] = "Nothing", empty[] = "", forest[] = "森林";
          char* names[] = {nothing, empty, forest, nullptr};
          band.SetCategoryNames(names);
@@ -130,7 +133,7 @@ const struct {
      GDT_Byte,
      {0, 1, 2, 3},
      [](GDALRasterBand& band) {
-         SetPalette(band, kFourColours);
+         Coloured(kFourColours)(band);
          band.SetNoDataValue(3);
      },
      {{L"0", 0xff000000}, {L"1", 0xff0a141e}, {L"2", 0xff28323c}},
@@ -139,56 +142,45 @@ const struct {
     {"an attribute table by the usage of its columns",
      GDT_Byte,
      {20, 10, 20},
-     [](GDALRasterBand& band) {
-         SetTable(band, {kByUsage,
-                         {{"20", "Trees", "1", "2", "3"},
-                          {"10", "Water", "4", "5", "255"},
-                          {"30", "Ice", "7", "8", "9"}},
-                         {}});
-     },
+     Explained({kByUsage,
+                {{"20", "Trees", "1", "2", "3"},
+                 {"10", "Water", "4", "5", "255"},
+                 {"30", "Ice", "7", "8", "9"}}}),
      {{L"Water", 0xff0405ff}, {L"Trees", 0xff010203}},
      {0xff010203, 0xff0405ff, 0xff010203}},
 
     {"an attribute table by the names of its columns",
      GDT_Int16,
      {-3, 200},
-     [](GDALRasterBand& band) {
-         SetTable(band, {kByName,
-                         {{"0", "-3", "5", "x", "Sea bed", "1", "2", "3"},
-                          {"1", "200", "6", "y", "Hill", "4", "5", "6"}},
-                         {}});
-     },
+     Explained({kByName,
+                {{"0", "-3", "5", "x", "Sea bed", "1", "2", "3"},
+                 {"1", "200", "6", "y", "Hill", "4", "5", "6"}}}),
      {{L"Sea bed", 0xff010203}, {L"Hill", 0xff040506}},
      {0xff010203, 0xff040506}},
 
     {"the rows of a table without values stand for 0, 1, 2; any text is a name",
      GDT_Byte,
      {2, 0},
-     [](GDALRasterBand& band) {
-         SetTable(band, {{{"Opacity", GFT_Integer, GFU_Alpha},
-                          {"Blue", GFT_Integer, GFU_Blue},
-                          {"Green", GFT_Integer, GFU_Green},
-                          {"Red", GFT_Integer, GFU_Red},
-                          {"Land Cover", GFT_String, GFU_Generic}},
-                         {{"255", "3", "2", "1", ""},
-                          {"255", "6", "5", "4", "Bog"},
-                          {"128", "9", "8", "7", "Fen"}},
-                         {}});
-     },
+     Explained({{{"Opacity", GFT_Integer, GFU_Alpha},
+                 {"Blue", GFT_Integer, GFU_Blue},
+                 {"Green", GFT_Integer, GFU_Green},
+                 {"Red", GFT_Integer, GFU_Red},
+                 {"Land Cover", GFT_String, GFU_Generic}},
+                {{"255", "3", "2", "1", ""},
+                 {"255", "6", "5", "4", "Bog"},
+                 {"128", "9", "8", "7", "Fen"}}}),
      {{L"0", 0xff010203}, {L"Fen", 0x80070809}},
      {0x80070809, 0xff010203}},
 
     {"bins of one size",
      GDT_Float32,
      {9.5, 10, 14.75, 15, 19.5, 20},
-     [](GDALRasterBand& band) {
-         SetTable(band, {{{"Name", GFT_String, GFU_Name},
-                          {"R", GFT_Integer, GFU_Red},
-                          {"G", GFT_Integer, GFU_Green},
-                          {"B", GFT_Integer, GFU_Blue}},
-                         {{"low", "1", "2", "3"}, {"high", "4", "5", "6"}},
-                         {{10.0, 5.0}}});
-     },
+     Explained({{{"Name", GFT_String, GFU_Name},
+                 {"R", GFT_Integer, GFU_Red},
+                 {"G", GFT_Integer, GFU_Green},
+                 {"B", GFT_Integer, GFU_Blue}},
+                {{"low", "1", "2", "3"}, {"high", "4", "5", "6"}},
+                {{10.0, 5.0}}}),
      {{L"9.5", 0xff808080},
       {L"low", 0xff010203},
       {L"high", 0xff040506},
@@ -198,39 +190,30 @@ const struct {
     {"ranges, of which the lower has the value where they meet",
      GDT_Float32,
      {10, 0, 15.5, 20, -0.25},
-     [](GDALRasterBand& band) {
-         SetTable(band, {{{"from", GFT_Real, GFU_Min},
-                          {"to", GFT_Real, GFU_Max},
-                          {"Name", GFT_String, GFU_Name},
-                          {"R", GFT_Integer, GFU_Red},
-                          {"G", GFT_Integer, GFU_Green},
-                          {"B", GFT_Integer, GFU_Blue}},
-                         {{"10", "20", "upper", "4", "5", "6"},
-                          {"0", "10", "lower", "1", "2", "3"}},
-                         {}});
-     },
+     Explained(
+         {{{"from", GFT_Real, GFU_Min},
+           {"to", GFT_Real, GFU_Max},
+           {"Name", GFT_String, GFU_Name},
+           {"R", GFT_Integer, GFU_Red},
+           {"G", GFT_Integer, GFU_Green},
+           {"B", GFT_Integer, GFU_Blue}},
+          {{"10", "20", "upper", "4", "5", "6"}, {"0", "10", "lower", "1", "2", "3"}}}),
      {{L"-0.25", 0xff808080}, {L"lower", 0xff010203}, {L"upper", 0xff040506}},
      {0xff010203, 0xff010203, 0xff040506, 0xff040506, 0xff808080}},
 
     {"colours as fractions of one",
      GDT_Byte,
      {1, 2},
-     [](GDALRasterBand& band) {
-         SetTable(band, {kRealColours,
-                         {{"1", "0", "0.5", "1", "1"}, {"2", "-3", "0.2", "1", "0.5"}},
-                         {}});
-     },
+     Explained(
+         {kRealColours, {{"1", "0", "0.5", "1", "1"}, {"2", "-3", "0.2", "1", "0.5"}}}),
      {{L"1", 0xff0080ff}, {L"2", 0x800033ff}},  // 0.5 * 255 + 0.5 is 128, 0.2 * 255 is 51
      {0xff0080ff, 0x800033ff}},
 
     {"real numbers that are no fractions of one",
      GDT_Byte,
      {1, 2},
-     [](GDALRasterBand& band) {
-         SetTable(band, {kRealColours,
-                         {{"1", "0", "0.75", "1", "255"}, {"2", "-3", "300", "64", "9"}},
-                         {}});
-     },
+     Explained(
+         {kRealColours, {{"1", "0", "0.75", "1", "255"}, {"2", "-3", "300", "64", "9"}}}),
      {{L"1", 0xff000101}, {L"2", 0x0900ff40}},
      {0xff000101, 0x0900ff40}},
 
@@ -238,11 +221,10 @@ const struct {
      GDT_Byte,
      {1, 2},
      [](GDALRasterBand& band) {
-         SetPalette(band, kFourColours);
-         SetTable(band, {{{"Value", GFT_Integer, GFU_MinMax},
-                          {"Class", GFT_String, GFU_Generic}},
-                         {{"1", "One"}, {"2", "Two"}},
-                         {}});
+         Coloured(kFourColours)(band);
+         Explained(
+             {{{"Value", GFT_Integer, GFU_MinMax}, {"Class", GFT_String, GFU_Generic}},
+              {{"1", "One"}, {"2", "Two"}}})(band);
      },
      {{L"One", 0xff0a141e}, {L"Two", 0xff28323c}},
      {0xff0a141e, 0xff28323c}},
@@ -250,9 +232,7 @@ const struct {
     {"values that no table has are grey",
      GDT_Byte,
      {10, 99},
-     [](GDALRasterBand& band) {
-         SetTable(band, {kByUsage, {{"10", "Water", "4", "5", "255"}}, {}});
-     },
+     Explained({kByUsage, {{"10", "Water", "4", "5", "255"}}}),
      {{L"Water", 0xff0405ff}, {L"99", 0xff808080}},
      {0xff0405ff, 0xff808080}},
 };
@@ -273,12 +253,9 @@ TEST(RasterClasses, HaveNamesAndColoursAndAreThoseThatOccur) {
 
 TEST(RasterClasses, OfATableWithoutColoursAreToldApart) {
     Raster raster{3, {{1, 2, 3}}};
-    raster.describe = [](GDALRasterBand& band) {
-        SetTable(band,
-                 {{{"Value", GFT_Integer, GFU_MinMax}, {"Name", GFT_String, GFU_Name}},
-                  {{"1", "One"}, {"2", "Two"}, {"3", "Three"}},
-                  {}});
-    };
+    raster.describe =
+        Explained({{{"Value", GFT_Integer, GFU_MinMax}, {"Name", GFT_String, GFU_Name}},
+                   {{"1", "One"}, {"2", "Two"}, {"3", "Three"}}});
     const auto opened = WriteAndOpen(raster);
     const std::vector<Class> classes = Classes(*opened);
     ASSERT_EQ(classes.size(), 3U);
@@ -295,19 +272,13 @@ TEST(RasterClasses, PalettesMayBeTransparent) {
     const std::string png = folder.Path("palette.png");
     // GeoTIFF keeps no alpha in palettes; PNG does.
     host::StartGdal();
-    {
-        GDALDriver* const memory = GetGDALDriverManager()->GetDriverByName("MEM");
-        GDALDataset* const source = memory->Create("", 3, 1, 1, GDT_Byte, nullptr);
-        SetPalette(*source->GetRasterBand(1),
-                   {{0, {1, 2, 3, 0}}, {1, {4, 5, 6, 128}}, {2, {7, 8, 9, 255}}});
-        raster_test::Set(*source->GetRasterBand(1), 0, 0, 3, 1, {0, 1, 2});
-        GDALDataset* const written =
-            GetGDALDriverManager()->GetDriverByName("PNG")->CreateCopy(
-                png.c_str(), source, FALSE, nullptr, nullptr, nullptr);
-        ASSERT_NE(written, nullptr);
-        GDALClose(written);
-        GDALClose(source);
-    }
+    const raster_test::Dataset source =
+        raster_test::Owned(GetGDALDriverManager()->GetDriverByName("MEM")->Create(
+            "", 3, 1, 1, GDT_Byte, nullptr));
+    Coloured({{0, {1, 2, 3, 0}}, {1, {4, 5, 6, 128}}, {2, {7, 8, 9, 255}}})(
+        *source->GetRasterBand(1));
+    raster_test::Set(*source->GetRasterBand(1), 0, 0, 3, 1, {0, 1, 2});
+    raster_test::Copy(source, "PNG", png);
     const auto raster = raster_test::Open(png);
     EXPECT_EQ(Classes(*raster),
               (std::vector<Class>{{L"1", 0x80040506}, {L"2", 0xff070809}}));
@@ -319,12 +290,10 @@ TEST(RasterClasses, PalettesMayBeTransparent) {
 
 TEST(RasterClasses, ATableThatIsOnlyAHistogramMakesNone) {
     Raster raster{3, {{0, 3, 10}}, GDT_Float32};
-    raster.describe = [](GDALRasterBand& band) {
-        SetTable(band, {{{"Histogram", GFT_Real, GFU_PixelCount}},
-                        {{"1"}, {"2"}},
-                        {{0.0, 5.0}},
-                        GRTT_ATHEMATIC});
-    };
+    raster.describe = Explained({{{"Histogram", GFT_Real, GFU_PixelCount}},
+                                 {{"1"}, {"2"}},
+                                 {{0.0, 5.0}},
+                                 GRTT_ATHEMATIC});
     const auto opened = WriteAndOpen(raster);
     EXPECT_EQ(opened->GetDisplayType(), DisplayGray);
     EXPECT_EQ(opened->GetClassifyDisplayTable()->GetClassesCount(), 0);
@@ -332,9 +301,7 @@ TEST(RasterClasses, ATableThatIsOnlyAHistogramMakesNone) {
 
 TEST(RasterClasses, AreOfTheBandThatIsShown) {
     Raster raster{1, {{1}, {1}}};
-    raster.describe = [](GDALRasterBand& band) {
-        SetTable(band, {kByUsage, {{"1", "One", "1", "2", "3"}}, {}});
-    };
+    raster.describe = Explained({kByUsage, {{"1", "One", "1", "2", "3"}}});
     EXPECT_EQ(WriteAndOpen(raster)->GetDisplayType(), DisplayClassified);
     host::RasterStyle style;
     style.bands = {2};
@@ -343,23 +310,13 @@ TEST(RasterClasses, AreOfTheBandThatIsShown) {
     EXPECT_EQ(WriteAndOpen(raster)->GetDisplayType(), DisplayRGB);
 }
 
-TEST(RasterClasses, AreDrawnFromTheNearestPixelAndNeverMixed) {
-    // Seven columns in three: the centres lie at 1.17, 3.5 and 5.83.
-    Raster raster{7, {{1, 2, 1, 3, 1, 2, 1}}};
-    raster.describe = [](GDALRasterBand& band) { SetPalette(band, kFourColours); };
-    EXPECT_EQ(Pixels(WriteAndOpen(raster)->Render(3, 1)),
-              (std::vector{0xff28323cU, 0xff46505aU, 0xff28323cU}));
-}
-
 TEST(RasterClasses, OfVeryManyTheLowestAreListed) {
     std::vector<double> values(300 * 100);
     for (std::size_t i = 0; i < values.size(); ++i) {
         values[i] = 0.5 + static_cast<double>(values.size() - i);
     }
     Raster raster{300, {values}, GDT_Float64};
-    raster.describe = [](GDALRasterBand& band) {
-        SetTable(band, {kByUsage, {{"-1", "None", "1", "2", "3"}}, {}});
-    };
+    raster.describe = Explained({kByUsage, {{"-1", "None", "1", "2", "3"}}});
     const auto opened = WriteAndOpen(raster);
     const std::vector<Class> classes = Classes(*opened);
     ASSERT_EQ(classes.size(), 10000U);
@@ -371,7 +328,7 @@ TEST(RasterClasses, OfARasterThatCannotBeReadAreNone) {
     const ScratchFolder folder;
     const std::string path = folder.Path("cut.tif");
     Raster raster{300, {std::vector<double>(300 * 300, 1.0)}};
-    raster.describe = [](GDALRasterBand& band) { SetPalette(band, kFourColours); };
+    raster.describe = Coloured(kFourColours);
     raster_test::Write(path, raster);
     const auto opened = raster_test::Open(path);
     std::filesystem::resize_file(path, 2000);
@@ -387,7 +344,7 @@ TEST(RasterClasses, OfALargeRasterAreSampled) {
     {
         const raster_test::Dataset dataset = raster_test::Create(
             path, 20000, 20000, 1, GDT_Byte, {"SPARSE_OK=TRUE", "TILED=YES"});
-        SetPalette(*dataset->GetRasterBand(1), kFourColours);
+        Coloured(kFourColours)(*dataset->GetRasterBand(1));
         raster_test::Set(*dataset->GetRasterBand(1), 10000, 10000, 512, 512,
                          std::vector<double>(512 * 512, 2));
     }

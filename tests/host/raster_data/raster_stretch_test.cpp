@@ -17,6 +17,7 @@ using raster_test::Dataset;
 using raster_test::Open;
 using raster_test::Pixel;
 using raster_test::Pixels;
+using raster_test::Placed;
 using raster_test::Ramp;
 using raster_test::RangeOf;
 using raster_test::Raster;
@@ -50,9 +51,11 @@ unsigned int ShadeOf(double value, const StretchRow& row) {
 }
 
 TEST(RasterStretch, IsWhatTheLegendSaysAndOneForEveryPart) {
-    for (const GDALDataType type : {GDT_Byte, GDT_Float32, GDT_Float64}) {
+    for (const GDALDataType type :
+         {GDT_Byte, GDT_UInt16, GDT_Int16, GDT_UInt32, GDT_Int32, GDT_UInt64, GDT_Int64,
+          GDT_Float32, GDT_Float64, GDT_CInt16, GDT_CInt32, GDT_CFloat32, GDT_CFloat64}) {
         for (const StretchRow& row : kStretches) {
-            SCOPED_TRACE(row.stretch);
+            SCOPED_TRACE(std::string(GDALGetDataTypeName(type)) + " " + row.stretch);
             const auto raster =
                 WriteAndOpen({101, {Ramp(0, 100)}, type}, Stretched(row.stretch));
             const auto part = raster->Part({20, 0, 30, 1});
@@ -196,17 +199,14 @@ TEST(RasterNoData, IsTheUsersInOverviewsAndOfClasses) {
         std::vector<double> values(64 * 64, 5.0);
         values.resize(64 * 128, 7.0);
         raster_test::Write(path, {64, {values}});
-        const Dataset dataset(GDALDataset::Open(path.c_str(), GDAL_OF_UPDATE),
-                              [](GDALDataset* opened) { GDALClose(opened); });
-        raster_test::AddOverviews(*dataset, {4});
+        raster_test::AddOverviews(
+            *raster_test::Owned(GDALDataset::Open(path.c_str(), GDAL_OF_UPDATE)), {4});
     }
     EXPECT_EQ(Pixels(Open(path, style)->Render(1, 2)), (Colours{0, 0xff808080}));
 
     Raster classes{3, {{4, 5, 6}}};
-    classes.describe = [](GDALRasterBand& band) {
-        raster_test::SetPalette(
-            band, {{4, {4, 4, 4, 255}}, {5, {5, 5, 5, 255}}, {6, {6, 6, 6, 255}}});
-    };
+    classes.describe = raster_test::Coloured(
+        {{4, {4, 4, 4, 255}}, {5, {5, 5, 5, 255}}, {6, {6, 6, 6, 255}}});
     const auto classified = WriteAndOpen(classes, style);
     EXPECT_EQ(Pixels(classified->Render(3, 1)), (Colours{0xff040404, 0, 0xff060606}));
     EXPECT_EQ(classified->GetClassifyDisplayTable()->GetClassesCount(), 2);
@@ -214,11 +214,8 @@ TEST(RasterNoData, IsTheUsersInOverviewsAndOfClasses) {
 
 TEST(RasterNorthUp, ShowsThePixelsWhereTheyAre) {
     // Rows run from north to south here, and columns from west to east: a quarter turn.
-    Raster raster{2, {{10, 20, 30, 40, 50, 60}}};
-    raster.describe = [](GDALRasterBand& band) {
-        std::array<double, 6> place{100.0, 0.0, 10.0, 500.0, -10.0, 0.0};
-        band.GetDataset()->SetGeoTransform(place.data());
-    };
+    const Raster raster = raster_test::With(
+        {2, {{10, 20, 30, 40, 50, 60}}}, Placed({100.0, 0.0, 10.0, 500.0, -10.0, 0.0}));
     const auto turned = WriteAndOpen(raster, Stretched("none"))->NorthUp();
     EXPECT_EQ(turned->Width(), 3);
     EXPECT_EQ(turned->Height(), 2);
@@ -242,10 +239,7 @@ TEST(RasterNorthUp, IsTransparentBesideTheRasterAndKeepsItsShades) {
         raster.bands[0][0] = noData.value_or(0.0);
         raster.bands[0][1] = 0.0;
         raster.bands[0][99] = 100.0;
-        raster.describe = [](GDALRasterBand& band) {
-            std::array<double, 6> place{0.0, 5.0, 5.0, 0.0, 5.0, -5.0};  // on its corner
-            band.GetDataset()->SetGeoTransform(place.data());
-        };
+        raster.describe = Placed({0.0, 5.0, 5.0, 0.0, 5.0, -5.0});  // on its corner
         const auto turned = WriteAndOpen(raster)->NorthUp();
         EXPECT_EQ(turned->GetDisplayType(), DisplayGray);
         const host::PixelImage image = turned->Render(turned->Width(), turned->Height());

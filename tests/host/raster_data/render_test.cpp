@@ -18,92 +18,13 @@ using raster_test::Pixels;
 using raster_test::Ramp;
 using raster_test::Raster;
 using raster_test::Stretched;
+using raster_test::With;
 using raster_test::WriteAndOpen;
 
 using raster_test::Colours;
 
 unsigned int Grey(unsigned int shade) {
     return 0xff000000U | shade << 16U | shade << 8U | shade;
-}
-
-/// Of the values 0 to 100, of which 2 % are 2 and 98 % are 98: black at 2, white at 98,
-/// and in between the nearest of 256 shades.
-unsigned int ShadeOfRamp(int value) {
-    const double shade = (value - 2) * 255.0 / 96.0;
-    return static_cast<unsigned int>(std::floor(std::clamp(shade, 0.0, 255.0) + 0.5));
-}
-
-TEST(RenderGrey, StretchesFrom2To98PercentWhateverTheType) {
-    EXPECT_EQ(ShadeOfRamp(1), 0U);
-    EXPECT_EQ(ShadeOfRamp(26), 64U);   // 24 / 96 of 255 is 63.75
-    EXPECT_EQ(ShadeOfRamp(50), 128U);  // 127.5
-    EXPECT_EQ(ShadeOfRamp(99), 255U);
-    for (const GDALDataType type :
-         {GDT_Byte, GDT_UInt16, GDT_Int16, GDT_UInt32, GDT_Int32, GDT_UInt64, GDT_Int64,
-          GDT_Float32, GDT_Float64, GDT_CInt16, GDT_CInt32, GDT_CFloat32, GDT_CFloat64}) {
-        SCOPED_TRACE(GDALGetDataTypeName(type));
-        const auto raster =
-            WriteAndOpen({101, {Ramp(0, 100)}, type}, Stretched("percent 2 98"));
-        const host::PixelImage image = raster->Render(101, 1);
-        ASSERT_EQ(image.width, 101);
-        ASSERT_EQ(image.height, 1);
-        for (int value = 0; value <= 100; ++value) {
-            EXPECT_EQ(Pixel(image, value, 0), Grey(ShadeOfRamp(value))) << value;
-        }
-    }
-}
-
-const struct {
-    const char* name;
-    GDALDataType type;
-    std::vector<double> values;
-    std::optional<double> noData;
-    Colours drawn;
-} kGreys[] = {
-    {"one pixel has no contrast", GDT_Byte, {7}, {}, {Grey(128)}},
-    {"nor has a constant band", GDT_Float32, {0, 0, 0}, {}, Colours(3, Grey(128))},
-    {"two values", GDT_Byte, {9, 10}, {}, {Grey(0), Grey(255)}},
-    {"30 % of the way", GDT_Byte, {100, 130, 200}, {}, {Grey(0), Grey(77), Grey(255)}},
-    {"downwards", GDT_Int16, {200, 130, -100}, {}, {Grey(255), Grey(196), Grey(0)}},
-    {"no-data", GDT_Byte, {0, 100, 130, 200}, 0, {0, Grey(0), Grey(77), Grey(255)}},
-    {"all no-data", GDT_Byte, {4, 4}, 4, {0, 0}},
-    {"NaN", GDT_Float32, {kNan, 100, 130, 200}, {}, {0, Grey(0), Grey(77), Grey(255)}},
-    {"NaN as no-data",
-     GDT_Float64,
-     {kNan, 100, 130, 200},
-     kNan,
-     {0, Grey(0), Grey(77), Grey(255)}},
-    {"all NaN", GDT_Float32, {kNan, kNan}, {}, {0, 0}},
-    {"infinite",
-     GDT_Float32,
-     {kInfinity, 0, 3, 10, -kInfinity},
-     {},
-     {0, Grey(0), Grey(77), Grey(255), 0}},
-    {"no-data that no float holds",
-     GDT_Float64,
-     {-1.7976931348623157e308, 0, 3, 10},
-     -1.7976931348623157e308,
-     {0, Grey(0), Grey(77), Grey(255)}},
-    {"as far apart as doubles are",
-     GDT_Float64,
-     {-1.7e308, 0, 1.7e308},
-     {},
-     {Grey(0), Grey(128), Grey(255)}},
-    {"as near as doubles are",
-     GDT_Float64,
-     {1e9, 1e9 + 0.375, 1e9 + 1.25},
-     {},
-     {Grey(0), Grey(77), Grey(255)}},
-};
-
-TEST(RenderGrey, DrawsEveryValueAndLeavesOutWhatIsNone) {
-    for (const auto& row : kGreys) {
-        SCOPED_TRACE(row.name);
-        const int width = static_cast<int>(row.values.size());
-        Raster raster{width, {row.values}, row.type};
-        raster.noData = row.noData;
-        EXPECT_EQ(Pixels(WriteAndOpen(raster)->Render(width, 1)), row.drawn);
-    }
 }
 
 TEST(RenderGrey, AnOutlierDoesNotDarkenTheRest) {
@@ -134,15 +55,10 @@ void SetMask(GDALRasterBand& band, bool inFile, std::vector<double> mask) {
     raster_test::Set(*band.GetMaskBand(), 0, 0, 4, 1, std::move(mask));
 }
 
-Raster With(Raster raster, const std::vector<std::string>& options) {
-    raster.options = options;
-    return raster;
-}
-
-Raster With(Raster raster, const std::function<void(GDALRasterBand&)>& describe) {
-    raster.describe = describe;
-    return raster;
-}
+// 30 % of the way from the least to the greatest value is 76.5 of 255.
+const Colours kThree = {Grey(0), Grey(77), Grey(255)};
+const Colours kNoneAndThree = {0, Grey(0), Grey(77), Grey(255)};
+constexpr double kLeast = std::numeric_limits<double>::lowest();
 
 const struct {
     const char* name;
@@ -150,9 +66,29 @@ const struct {
     Colours drawn;
     int rows = 1;
 } kDrawings[] = {
-    {"of two bands the first",
-     {3, {{100, 130, 200}, {0, 0, 9}}},
-     {Grey(0), Grey(77), Grey(255)}},
+    {"one pixel has no contrast", {1, {{7}}}, {Grey(128)}},
+    {"nor has a constant band", {3, {{0, 0, 0}}, GDT_Float32}, Colours(3, Grey(128))},
+    {"two values", {2, {{9, 10}}}, {Grey(0), Grey(255)}},
+    {"30 % of the way", {3, {{100, 130, 200}}}, kThree},
+    {"downwards", {3, {{200, 130, -100}}, GDT_Int16}, {Grey(255), Grey(196), Grey(0)}},
+    {"no-data", {4, {{0, 100, 130, 200}}, GDT_Byte, 0}, kNoneAndThree},
+    {"all no-data", {2, {{4, 4}}, GDT_Byte, 4}, {0, 0}},
+    {"NaN", {4, {{kNan, 100, 130, 200}}, GDT_Float32}, kNoneAndThree},
+    {"NaN as no-data", {4, {{kNan, 100, 130, 200}}, GDT_Float64, kNan}, kNoneAndThree},
+    {"all NaN", {2, {{kNan, kNan}}, GDT_Float32}, {0, 0}},
+    {"infinite",
+     {5, {{kInfinity, 0, 3, 10, -kInfinity}}, GDT_Float32},
+     {0, Grey(0), Grey(77), Grey(255), 0}},
+    {"no-data that no float holds",
+     {4, {{kLeast, 0, 3, 10}}, GDT_Float64, kLeast},
+     kNoneAndThree},
+    {"as far apart as doubles are",
+     {3, {{-1.7e308, 0, 1.7e308}}, GDT_Float64},
+     {Grey(0), Grey(128), Grey(255)}},
+    {"as near as doubles are",
+     {3, {{1e9, 1e9 + 0.375, 1e9 + 1.25}}, GDT_Float64},
+     kThree},
+    {"of two bands the first", {3, {{100, 130, 200}, {0, 0, 9}}}, kThree},
     {"a grey band's alpha is the alpha band's",  // 77 is 0x4d
      With({4, {{0, 100, 130, 200}, {0, 255, 128, 1}}}, {"ALPHA=YES"}),
      {0, 0xff000000, 0x804d4d4d, 0x01ffffff}},
@@ -165,7 +101,7 @@ const struct {
           [](GDALRasterBand& band) {
               SetMask(band, true, {0, 255, 255, 255});
           }),
-     {0, Grey(0), Grey(77), Grey(255)}},
+     kNoneAndThree},
     {"alpha of a mask beside the file",
      With({4, {{0, 100, 130, 200}}},
           [](GDALRasterBand& band) {
@@ -175,7 +111,7 @@ const struct {
     {"classes' alpha is the mask's too",
      With({4, {{1, 1, 1, 1}}},
           [](GDALRasterBand& band) {
-              raster_test::SetPalette(band, {{1, {16, 32, 48, 255}}});
+              raster_test::Coloured({{1, {16, 32, 48, 255}}})(band);
               SetMask(band, false, {0, 255, 100, 255});
           }),
      {0, 0xff102030, 0x64102030, 0xff102030}},
@@ -195,9 +131,20 @@ const struct {
     {"colours are transparent where a band has no value",
      {4, {{7, 0, 3, 10}, {0, 0, 3, 10}, {0, 7, 3, 10}}, GDT_UInt16, 7},
      {0, 0, 0xff000000, 0xffffffff}},
+    // Seven columns in three: the centres lie at 1.17, 3.5 and 5.83.
+    {"classes are drawn from the nearest pixel and never mixed",
+     With({7, {{1, 2, 1, 3, 1, 2, 1}}},
+          raster_test::Coloured(
+              {{1, {1, 1, 1, 255}}, {2, {2, 2, 2, 255}}, {3, {3, 3, 3, 255}}})),
+     {Grey(2), Grey(3), Grey(2)}},
     {"every pixel counts in one cell",  // cells begin at 0, 2, 5, 7: means 0, 30, 50, 100
      {10, {{0, 0, 0, 0, 90, 40, 60, 100, 0, 200}}},
      {Grey(0), Grey(38), Grey(64), Grey(128)}},
+    // 29.5 is 30 as a byte, 76.5 + 0.5 of 255; as a float 75.225.
+    {"means of bytes are rounded", {6, {{0, 0, 29, 30, 100, 100}}}, kThree},
+    {"those of numbers are not",
+     {6, {{0, 0, 29, 30, 100, 100}}, GDT_Float32},
+     {Grey(0), Grey(75), Grey(255)}},
     // Three of the second cell's four pixels have a value: their mean is 30, and 3 / 4 of
     // 255 is 191.25. Two of the third's: 100, and 127.5. White is 150.
     {"no-data is left out of the mean and thins the cell",
@@ -235,15 +182,6 @@ TEST(RenderSize, SmallerIsTheMeanOfEachCell) {
         const auto raster = WriteAndOpen({6, {values}, type});
         EXPECT_EQ(Pixels(raster->Render(3, 1)), (Colours{Grey(0), Grey(38), Grey(128)}));
     }
-}
-
-TEST(RenderSize, MeansOfBytesAreRounded) {
-    // 29.5 is 30 as a byte, 76.5 + 0.5 of 255; as a float 75.225.
-    const std::vector<double> values = {0, 0, 29, 30, 100, 100};
-    const auto bytes = WriteAndOpen({6, {values}});
-    EXPECT_EQ(Pixel(bytes->Render(3, 1), 1, 0), Grey(77));
-    const auto floats = WriteAndOpen({6, {values}, GDT_Float32});
-    EXPECT_EQ(Pixel(floats->Render(3, 1), 1, 0), Grey(75));
 }
 
 TEST(RenderSize, ThatIsNoneOrNoPictureIsRefused) {
