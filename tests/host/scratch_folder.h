@@ -10,6 +10,16 @@
 #include <string>
 #include <vector>
 
+namespace host_tests {
+
+/// The bytes of a file; none where there is no such file.
+inline std::string ContentsOf(const std::string& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+}  // namespace host_tests
+
 /// An empty folder for one test, gone after it.
 class ScratchFolder {
 public:
@@ -41,8 +51,7 @@ public:
 
     /// The bytes of a file in it.
     std::string Contents(const std::string& name) const {
-        std::ifstream file(Path(name), std::ios::binary);
-        return {std::istreambuf_iterator<char>(file), {}};
+        return host_tests::ContentsOf(Path(name));
     }
 
     /// Writes a file; its path.

@@ -22,11 +22,6 @@ Arguments operator+(Arguments first, const Arguments& second) {
     return first;
 }
 
-std::string ContentsOf(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
-
 void WriteFile(const std::string& path, const std::string& contents) {
     std::ofstream(path, std::ios::binary)
         .write(contents.data(), static_cast<std::streamsize>(contents.size()));

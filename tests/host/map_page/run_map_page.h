@@ -24,7 +24,6 @@ struct Result {
     std::string err;
 };
 
-std::string ContentsOf(const std::string& path);
 void WriteFile(const std::string& path, const std::string& contents);
 
 /// map_page, started in a folder.

@@ -5,8 +5,6 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
-#include <fstream>
-#include <iterator>
 #include <set>
 #include <string>
 
@@ -14,7 +12,6 @@
 #include "page/document/item_type.h"
 #include "page/document/map_on_page.h"
 #include "page/document/page_text.h"
-#include "page/document/raster_store.h"
 #include "page/element_of.h"
 #include "page/layout/layout.h"
 #include "page/placed_frame.h"
@@ -104,8 +101,6 @@ protected:
             items.begin());
     }
 
-    host::RasterStore store;
-
 private:
     std::string m_path;
 };
@@ -150,18 +145,9 @@ TEST(Catalogue, EveryEntryIsAnItemTypeInItsPlace) {
     }
 }
 
-/// An element in a frame that does not know what its kind needs, as somebody's own code
-/// might put it there.
-TEST(Catalogue, AnElementInTheWrongFrameIsOfNoType) {
-    auto frame = std::make_unique<host::PlacedFrame>(std::make_unique<CScaleLine>());
-    const PageItem item = std::unique_ptr<CSurroundFrame>(std::move(frame));
-    EXPECT_EQ(host::TypeOf(item), nullptr);
-}
-
 TEST(Catalogue, EveryEntryIsInTheDocumentation) {
     const auto contentsOf = [](const std::string& path) {
-        std::ifstream file(std::string(MAP_SURROUND_SOURCES) + path);
-        return std::string{std::istreambuf_iterator<char>(file), {}};
+        return host_tests::ContentsOf(MAP_SURROUND_SOURCES + path);
     };
     const std::string readme = contentsOf("/README.md");
     const std::string pageFile = contentsOf("/docs/page_file.md");

@@ -14,14 +14,14 @@
 #include "page/document/page_changes.h"
 #include "page/document/page_text.h"
 #include "page/document/unused_changes.h"
-#include "page/element_of.h"
-#include "page/layout/layout.h"
 #include "page/texts.h"
 #include "system/fonts.h"
+#include "system/separate_process.h"
 
 namespace {
 
 using host::Language;
+using host_tests::LaidOut;
 
 class InLanguage : public ::testing::TestWithParam<std::size_t> {
 protected:
@@ -75,8 +75,7 @@ TEST_P(InLanguage, WhatIsSpokenHasRoomForItsValues) {
 
 /// A page in a language, 12 km wide, so that a division of its bar is less than a
 /// kilometre.
-host::LaidOutPage PageIn(const Language& language, fakes::Raster& bands,
-                         fakes::Raster& ramp) {
+LaidOut PageIn(const Language& language, fakes::Raster& bands, fakes::Raster& ramp) {
     host::PageDesign design;
     host::ParsePaperSize("A4", design.paper);
     design.language = &language;
@@ -84,7 +83,7 @@ host::LaidOutPage PageIn(const Language& language, fakes::Raster& bands,
     host::MapOnPage map{nullptr, 4.0 / 3.0, host::Box{0.0, 0.0, 12000.0, 9000.0}};
     map.projection = R"(LOCAL_CS["site",UNIT["metre",1]])";
     map.sources = {&bands, &ramp};
-    return host::LayOut(design, map);
+    return {design, map};
 }
 
 std::vector<std::wstring> TextsOf(const host::Page& page) {
@@ -102,8 +101,8 @@ TEST_P(InLanguage, APageHasItsWordsAndItsFileKeepsThem) {
     using ::testing::HasSubstr;
     fakes::Raster bands(L"scene", DisplayRGB);
     fakes::Raster ramp(L"relief", DisplayGray);
-    const host::LaidOutPage laidOut = PageIn(language, bands, ramp);
-    const std::vector<std::wstring> texts = TextsOf(laidOut.page);
+    const LaidOut laid = PageIn(language, bands, ramp);
+    const std::vector<std::wstring> texts = TextsOf(laid.page);
     EXPECT_THAT(texts, Contains(std::wstring(language.legend)));
     EXPECT_THAT(texts, Contains(HasSubstr(language.source + std::wstring(L"scene") +
                                           language.source + L"relief")));
@@ -111,22 +110,15 @@ TEST_P(InLanguage, APageHasItsWordsAndItsFileKeepsThem) {
          {language.band, language.high, language.low, language.metre}) {
         EXPECT_THAT(texts, Contains(HasSubstr(word)));
     }
-    const auto* const frame = dynamic_cast<host::ScaleBarFrame*>(
-        host_tests::LaidOut(laidOut.page).Of(SurroundScaleBar));
-    ASSERT_NE(frame, nullptr);
-    EXPECT_EQ(host::ElementOf<CScaleBarBase>(*frame)->GetUnitsName(), language.metre);
-    EXPECT_THAT(host::RemarksOfTexts(laidOut.page), ::testing::IsEmpty())
+    EXPECT_EQ(laid.The<CScaleBarBase>(SurroundScaleBar).GetUnitsName(), language.metre);
+    EXPECT_THAT(host::RemarksOfTexts(laid.page), ::testing::IsEmpty())
         << "every word has its letters";
 
-    const std::string file = host::WritePage(laidOut.page, {});
-    const host::Page read = host::ReadPage(file, {});
-    EXPECT_EQ(host::WritePage(read, {}), file);
-    const host_tests::LaidOut found(read);
-    const auto* const bar =
-        dynamic_cast<host::ScaleBarFrame*>(found.Of(SurroundScaleBar));
-    EXPECT_EQ(&bar->GetLanguage(), &language);
-    const auto& legend =
-        dynamic_cast<CMapLegend&>(*found.Of(SurroundLegend)->GetMapSurround());
+    const std::string file = host::WritePage(laid.page, {});
+    const LaidOut read(host::ReadPage(file, {}));
+    EXPECT_EQ(host::WritePage(read.page, {}), file);
+    EXPECT_EQ(&read.Of<host::ScaleBarFrame>(SurroundScaleBar)->GetLanguage(), &language);
+    const auto& legend = read.The<CMapLegend>(SurroundLegend);
     EXPECT_EQ(legend.GetBandCaption(), language.band);
     EXPECT_EQ(legend.GetLowCaption(), language.low);
 }
@@ -145,18 +137,16 @@ TEST_P(InLanguage, APageOfAnotherIsChangedButForWhatSomebodyWrote) {
     fakes::Raster bands(L"scene", DisplayRGB);
     fakes::Raster ramp(L"relief", DisplayGray);
     const Language& another = *host::FindLanguage("zh");
-    host::LaidOutPage changed = PageIn(another, bands, ramp);
+    LaidOut changed = PageIn(another, bands, ramp);
     host::PageChanges changes;
     changes.language = &language;
     host::Change(changed.page, host::Merged({}, changes));
     EXPECT_THAT(host::RemarksOfUnused(changes, changed.page), ::testing::IsEmpty());
     EXPECT_EQ(TextsOf(changed.page), TextsOf(PageIn(language, bands, ramp).page));
 
-    host::LaidOutPage own = PageIn(another, bands, ramp);
-    const host_tests::LaidOut found(own.page);
-    auto& legend = dynamic_cast<CMapLegend&>(*found.Of(SurroundLegend)->GetMapSurround());
-    auto& bar =
-        dynamic_cast<CScaleBarBase&>(*found.Of(SurroundScaleBar)->GetMapSurround());
+    LaidOut own = PageIn(another, bands, ramp);
+    auto& legend = own.The<CMapLegend>(SurroundLegend);
+    auto& bar = own.The<CScaleBarBase>(SurroundScaleBar);
     legend.SetTitleValue(L"What it shows");
     legend.SetHighCaption(L"Peak ");
     bar.SetUnitsNameVerbatim(L"paces");
@@ -181,21 +171,16 @@ TEST(Languages, AreKnownByTheirLocales) {
         {"", "", "zh-TW", "zh"},           {"C.UTF-8", "fr_FR", "de_DE", "en"},
         {"POSIX", nullptr, nullptr, "en"}, {nullptr, nullptr, "tlh_AQ", "en"},
         {nullptr, nullptr, "d", "en"}};
-    constexpr const char* kNames[] = {"LC_ALL", "LC_MESSAGES", "LANG"};
-    std::vector<std::string> before;
-    for (const char* const name : kNames) {
-        const char* const value = getenv(name);
-        before.emplace_back(value == nullptr ? "" : value);
-    }
     for (const auto& row : rows) {
-        const char* const values[] = {row.all, row.messages, row.lang};
-        for (int i = 0; i < 3; ++i) {
-            values[i] == nullptr ? unsetenv(kNames[i]) : setenv(kNames[i], values[i], 1);
-        }
-        EXPECT_STREQ(host::LanguageOfLocale().code, row.code);
-    }
-    for (int i = 0; i < 3; ++i) {
-        setenv(kNames[i], before[static_cast<std::size_t>(i)].c_str(), 1);
+        const std::pair<const char*, const char*> values[] = {
+            {"LC_ALL", row.all}, {"LC_MESSAGES", row.messages}, {"LANG", row.lang}};
+        const auto ask = [&](const host::Progress&) -> std::string {
+            for (const auto& [name, value] : values) {
+                value == nullptr ? unsetenv(name) : setenv(name, value, 1);
+            }
+            return host::LanguageOfLocale().code;
+        };
+        EXPECT_EQ(host::InSeparateProcess("asking", ask), row.code);
     }
 }
 

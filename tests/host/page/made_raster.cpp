@@ -2,17 +2,6 @@
 
 #include "raster_data/make_raster.h"
 
-namespace {
-
-GDALColorEntry ColorOf(unsigned argb) {
-    const auto byte = [argb](unsigned index) {
-        return static_cast<short>((argb >> (8 * index)) & 0xFF);
-    };
-    return {byte(2), byte(1), byte(0), byte(3)};
-}
-
-}  // namespace
-
 void WriteRaster(const std::string& path, const MadeRaster& made) {
     constexpr int kBody = 1, kCorner = 2, kHole = 3;
     raster_test::Raster raster;
@@ -26,8 +15,8 @@ void WriteRaster(const std::string& path, const MadeRaster& made) {
         raster.noData = kHole;
     }
     raster.describe = [&](GDALRasterBand& band) {
-        raster_test::Coloured(
-            {{kBody, ColorOf(made.argb)}, {kCorner, ColorOf(made.cornerArgb)}})(band);
+        raster_test::Coloured({{kBody, raster_test::EntryOf(made.argb)},
+                               {kCorner, raster_test::EntryOf(made.cornerArgb)}})(band);
         raster_test::Placed(made.transform, made.projection)(band);
     };
     raster_test::Write(path, raster);

@@ -8,21 +8,22 @@
 #include "page/catalogue.h"
 #include "page/element_drawing.h"
 #include "page/element_of.h"
+#include "page/page_pixels.h"
 #include "raster_data/make_raster.h"
 
 namespace {
 
+using host_tests::PagePixels;
+
 /// The longest level run of dark pixels.
-int LongestRun(Gdiplus::Bitmap& bitmap, int width, int height) {
+int LongestRun(const PagePixels& drawn) {
     int longest = 0;
-    for (int y = 0; y < height; ++y) {
-        int run = 0;
-        for (int x = 0; x < width; ++x) {
-            Gdiplus::Color pixel;
-            bitmap.GetPixel(x, y, &pixel);
-            run = pixel.GetGreen() < 128 ? run + 1 : 0;
-            longest = std::max(longest, run);
-        }
+    int run = 0;
+    for (int i = 0; i < drawn.width * drawn.height; ++i) {
+        const int x = i % drawn.width;
+        const bool isDark = drawn.At(x, i / drawn.width).GetGreen() < 128;
+        run = !isDark ? 0 : x == 0 ? 1 : run + 1;
+        longest = std::max(longest, run);
     }
     return longest;
 }
@@ -43,15 +44,11 @@ TEST(ScaleBarFrame, AWholeBarIsTrueToAPixel) {
                 frame.SetDivisionValue(1.0);
                 frame.SetDivisionLength(length);
                 frame.GetMapSurround()->ResetAspectRatio();
-                Gdiplus::Bitmap bitmap(kWidth, kHeight, PixelFormat32bppRGB);
-                {
-                    Gdiplus::Graphics graphics(&bitmap);
-                    graphics.Clear(Gdiplus::Color(0xFFFFFFFF));
+                const PagePixels drawn(kWidth, kHeight, [&](Gdiplus::Graphics& graphics) {
                     host::DrawElement(graphics, frame, {kWidth / 2, kHeight / 2}, 1.0);
-                }
+                });
                 // Of the pen, which is a pixel wide, half is outside at each end.
-                EXPECT_NEAR(LongestRun(bitmap, kWidth, kHeight) - 1.0, length * divisions,
-                            1.0)
+                EXPECT_NEAR(LongestRun(drawn) - 1.0, length * divisions, 1.0)
                     << style->name << ": " << divisions << " of " << length;
             }
         }
@@ -60,36 +57,25 @@ TEST(ScaleBarFrame, AWholeBarIsTrueToAPixel) {
 
 // As the element draws it, 300 units at 300 dpi are a head of 900 pixels, and no shaft.
 TEST(NorthArrowFrame, LooksTheSameAtEveryResolution) {
-    struct Row {
-        int size;
-        double scale;
-    };
     const auto inkOf = [](int size, double scale) {
         auto arrow = std::make_unique<CNorthArrowOneAngle>();
         arrow->SetSize(size);
         host::NorthArrowFrame frame(std::move(arrow));
         const int side = static_cast<int>(3 * size * scale);
-        Gdiplus::Bitmap bitmap(side, side, PixelFormat32bppRGB);
-        {
-            Gdiplus::Graphics graphics(&bitmap);
-            graphics.Clear(Gdiplus::Color(0xFFFFFFFF));
+        const PagePixels drawn(side, side, [&](Gdiplus::Graphics& graphics) {
             host::DrawElement(graphics, frame, {side / 2, side / 2}, scale);
-        }
+        });
         double dark = 0.0;
-        for (int y = 0; y < side; ++y) {
-            for (int x = 0; x < side; ++x) {
-                Gdiplus::Color pixel;
-                bitmap.GetPixel(x, y, &pixel);
-                dark += 255 - pixel.GetGreen();
-            }
+        for (const std::uint32_t pixel : drawn.pixels) {
+            dark += 255 - Gdiplus::Color(pixel).GetGreen();
         }
         return dark / 255.0 / (size * scale * size * scale);
     };
     const double asItIs = inkOf(200, 1.0);
     EXPECT_GT(asItIs, 0.01);
-    for (const Row& row : {Row{100, 1.0}, Row{80, 4.0}, Row{200, 3.0}, Row{300, 2.0}}) {
-        EXPECT_NEAR(inkOf(row.size, row.scale), asItIs, 0.1 * asItIs)
-            << row.size << " at " << row.scale;
+    for (const auto& [size, scale] :
+         {std::pair(100, 1.0), {80, 4.0}, {200, 3.0}, {300, 2.0}}) {
+        EXPECT_NEAR(inkOf(size, scale), asItIs, 0.1 * asItIs) << size << " at " << scale;
     }
 }
 

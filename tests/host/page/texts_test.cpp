@@ -7,8 +7,6 @@
 #include <algorithm>
 
 #include "page/document/document_test.h"
-#include "page/document/page_error.h"
-#include "page/document/raster_store.h"
 #include "recording/recording.h"
 #include "recording/session.h"
 #include "system/errors.h"
@@ -36,7 +34,7 @@ class TextsOfAPage : public host_tests::DocumentTest {
 protected:
     PageItem Item(const std::string& type) {
         PageItem item = MakeVisible(*host::FindItemType(type), folder.Path());
-        host::OpenRasters(item, m_rasters);
+        host::OpenRasters(item, store);
         return item;
     }
     host::Page PageOf(PageItem item) {
@@ -44,8 +42,6 @@ protected:
         page.Items().push_back(std::move(item));
         return page;
     }
-
-    host::RasterStore m_rasters;
 };
 
 TEST_F(TextsOfAPage, AreAllThatIsWritten) {
@@ -128,7 +124,7 @@ TEST_F(TextsOfAPage, OfALegendHaveItsNamesAndAreToldWhereTheyAreCut) {
         host::FrameAs<host::LegendFrame>(item)->SetName("legend");
         host::FrameAs<host::LegendFrame>(item)->SetNames(row.names);
         host::ElementOf<CMapLegend>(item)->SetMostWidth(row.width);
-        host::OpenRasters(item, m_rasters);
+        host::OpenRasters(item, store);
         EXPECT_NE(host::TextsOf(item)[1].characters.find(row.written),
                   std::wstring::npos);
         EXPECT_EQ(host::RemarksOfTexts(PageOf(std::move(item))), row.remarks);

@@ -1,32 +1,21 @@
 #include "page/twelve_elements.h"
 
-#include <cstdint>
 #include <utility>
 
 #include "map_surround/map_surround.h"
+#include "page/made_picture.h"
 #include "page/placed_frame.h"
 
 namespace host_tests {
 namespace {
 
-class Checkered : public host::MapPicture {
-public:
-    host::PixelImage Render(int width, int height, const host::Progress&) override {
-        host::PixelImage image;
-        image.width = width;
-        image.height = height;
-        for (int y = 0; y < height; ++y) {
-            for (int x = 0; x < width; ++x) {
-                const bool hole = x / 20 + y / 20 == 7;
-                image.bgra.push_back(static_cast<std::uint8_t>(x / 20 % 2 * 90 + 60));
-                image.bgra.push_back(static_cast<std::uint8_t>(y / 20 % 2 * 120 + 100));
-                image.bgra.push_back(120);
-                image.bgra.push_back(hole ? 0 : 255);
-            }
-        }
-        return image;
-    }
-};
+/// Squares, with a hole along a diagonal.
+Gdiplus::ARGB Checkered(int x, int y) {
+    const int alpha = x / 20 + y / 20 == 7 ? 0 : 255;
+    return Gdiplus::Color::MakeARGB(static_cast<BYTE>(alpha), 120,
+                                    static_cast<BYTE>(y / 20 % 2 * 120 + 100),
+                                    static_cast<BYTE>(x / 20 % 2 * 90 + 60));
+}
 
 void Frame(host::Page& page, std::unique_ptr<CMapSurround> element, CBoundingBox extent) {
     element->ResetAspectRatio();
@@ -81,7 +70,7 @@ host::Page TwelveElements() {
     host::MapFrame map;
     map.frame.SetExtent(CBoundingBox(60.0, 60.0, 800.0, 660.0));
     map.frame.DrawBorder = true;
-    map.picture = std::make_shared<Checkered>();
+    map.picture = std::make_shared<MadePicture>(Checkered);
     page.Add(std::move(map));
 
     Frame(page, Title(L"Land cover of Olinda", 40.0, 0.0f), {200.0, 690.0, 740.0, 770.0});

@@ -19,6 +19,13 @@ Raster With(Raster raster, const Describe& describe) {
     return raster;
 }
 
+GDALColorEntry EntryOf(unsigned argb) {
+    const auto byte = [argb](unsigned index) {
+        return static_cast<short>((argb >> (8 * index)) & 0xFF);
+    };
+    return {byte(2), byte(1), byte(0), byte(3)};
+}
+
 Describe Coloured(const Palette& entries) {
     return [=](GDALRasterBand& band) {
         GDALColorTable palette;

@@ -33,6 +33,9 @@ struct Raster {
 Raster With(Raster raster, const std::vector<std::string>& options);
 Raster With(Raster raster, const Describe& describe);
 
+/// A colour of a palette, of 0xAARRGGBB.
+GDALColorEntry EntryOf(unsigned argb);
+
 /// That palette, of indexes and colours.
 using Palette = std::vector<std::pair<int, GDALColorEntry>>;
 Describe Coloured(const Palette& entries);

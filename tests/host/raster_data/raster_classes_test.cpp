@@ -12,6 +12,7 @@ namespace {
 using raster_test::Coloured;
 using raster_test::Pixels;
 using raster_test::Raster;
+using raster_test::With;
 using raster_test::WriteAndOpen;
 
 struct Class {
@@ -98,157 +99,119 @@ const std::vector<TableColumn> kRealColours = {{"Value", GFT_Integer, GFU_MinMax
                                                {"Blue", GFT_Real, GFU_Generic},
                                                {"Alpha", GFT_Real, GFU_Generic}};
 
-const struct {
-    const char* name;
-    GDALDataType type;
-    std::vector<double> values;  ///< one row of pixels
-    raster_test::Describe describe;
-    std::vector<Class> classes;
-    std::vector<unsigned int> drawn;
-} kRows[] = {
-    {"a palette's classes are called by their values, and only those that occur are "
-     "listed",
-     GDT_Byte,
-     {3, 1, 3},
-     Coloured(kFourColours),
-     {{L"1", 0xff0a141e}, {L"3", 0xff46505a}},
-     {0xff46505a, 0xff0a141e, 0xff46505a}},
+/// Fails unless a raster of one row has just these classes and is drawn in these colours.
+void ExpectClasses(const Raster& raster, const std::vector<Class>& classes,
+                   const raster_test::Colours& drawn) {
+    SCOPED_TRACE(::testing::PrintToString(classes));
+    const auto opened = WriteAndOpen(raster);
+    EXPECT_EQ(opened->GetDisplayType(), DisplayClassified);
+    EXPECT_EQ(Classes(*opened), classes);
+    EXPECT_EQ(Pixels(opened->Render(raster.width, 1)), drawn);
+    EXPECT_EQ(opened->GetClassifyDisplayTable(), opened->GetClassifyDisplayTable());
+}
 
-    {"category names name a palette's classes, values those without",
-     GDT_Byte,
-     {0, 1, 2, 3},
-     [](GDALRasterBand& band) {
-         Coloured(kFourColours)(band);
-         char nothing[] = "Nothing", empty[] = "", forest[] = "森林";
-         char* names[] = {nothing, empty, forest, nullptr};
-         band.SetCategoryNames(names);
-     },
-     {{L"Nothing", 0xff000000},
-      {L"1", 0xff0a141e},
-      {L"森林", 0xff28323c},
-      {L"3", 0xff46505a}},
-     {0xff000000, 0xff0a141e, 0xff28323c, 0xff46505a}},
+TEST(RasterClasses, OfAPaletteAreThoseThatOccurCalledByTheirNamesOrValues) {
+    ExpectClasses(With({3, {{3, 1, 3}}}, Coloured(kFourColours)),
+                  {{L"1", 0xff0a141e}, {L"3", 0xff46505a}},
+                  {0xff46505a, 0xff0a141e, 0xff46505a});
+    const auto named = [](GDALRasterBand& band) {
+        Coloured(kFourColours)(band);
+        char nothing[] = "Nothing", empty[] = "", forest[] = "森林";
+        char* names[] = {nothing, empty, forest, nullptr};
+        band.SetCategoryNames(names);
+    };
+    ExpectClasses(With({4, {{0, 1, 2, 3}}}, named),
+                  {{L"Nothing", 0xff000000},
+                   {L"1", 0xff0a141e},
+                   {L"森林", 0xff28323c},
+                   {L"3", 0xff46505a}},
+                  {0xff000000, 0xff0a141e, 0xff28323c, 0xff46505a});
+    // No-data is no class.
+    ExpectClasses(With({4, {{0, 1, 2, 3}}, GDT_Byte, 3}, Coloured(kFourColours)),
+                  {{L"0", 0xff000000}, {L"1", 0xff0a141e}, {L"2", 0xff28323c}},
+                  {0xff000000, 0xff0a141e, 0xff28323c, 0});
+}
 
-    {"no-data is no class",
-     GDT_Byte,
-     {0, 1, 2, 3},
-     [](GDALRasterBand& band) {
-         Coloured(kFourColours)(band);
-         band.SetNoDataValue(3);
-     },
-     {{L"0", 0xff000000}, {L"1", 0xff0a141e}, {L"2", 0xff28323c}},
-     {0xff000000, 0xff0a141e, 0xff28323c, 0}},
+TEST(RasterClasses, OfATableAreFoundByTheUsageOrTheNamesOfItsColumns) {
+    const auto byUsage = Explained({kByUsage,
+                                    {{"20", "Trees", "1", "2", "3"},
+                                     {"10", "Water", "4", "5", "255"},
+                                     {"30", "Ice", "7", "8", "9"}}});
+    ExpectClasses(With({3, {{20, 10, 20}}}, byUsage),
+                  {{L"Water", 0xff0405ff}, {L"Trees", 0xff010203}},
+                  {0xff010203, 0xff0405ff, 0xff010203});
+    // Values that no table has are grey.
+    ExpectClasses(With({2, {{10, 99}}}, byUsage),
+                  {{L"Water", 0xff0405ff}, {L"99", 0xff808080}},
+                  {0xff0405ff, 0xff808080});
+    ExpectClasses(With({2, {{-3, 200}}, GDT_Int16},
+                       Explained({kByName,
+                                  {{"0", "-3", "5", "x", "Sea bed", "1", "2", "3"},
+                                   {"1", "200", "6", "y", "Hill", "4", "5", "6"}}})),
+                  {{L"Sea bed", 0xff010203}, {L"Hill", 0xff040506}},
+                  {0xff010203, 0xff040506});
+    // Rows without values stand for 0, 1, 2; any text is a name.
+    ExpectClasses(
+        With({2, {{2, 0}}}, Explained({{{"Opacity", GFT_Integer, GFU_Alpha},
+                                        {"Blue", GFT_Integer, GFU_Blue},
+                                        {"Green", GFT_Integer, GFU_Green},
+                                        {"Red", GFT_Integer, GFU_Red},
+                                        {"Land Cover", GFT_String, GFU_Generic}},
+                                       {{"255", "3", "2", "1", ""},
+                                        {"255", "6", "5", "4", "Bog"},
+                                        {"128", "9", "8", "7", "Fen"}}})),
+        {{L"0", 0xff010203}, {L"Fen", 0x80070809}}, {0x80070809, 0xff010203});
+    // Names of the table, colours of the palette.
+    const auto both = [](GDALRasterBand& band) {
+        Coloured(kFourColours)(band);
+        Explained(
+            {{{"Value", GFT_Integer, GFU_MinMax}, {"Class", GFT_String, GFU_Generic}},
+             {{"1", "One"}, {"2", "Two"}}})(band);
+    };
+    ExpectClasses(With({2, {{1, 2}}}, both), {{L"One", 0xff0a141e}, {L"Two", 0xff28323c}},
+                  {0xff0a141e, 0xff28323c});
+}
 
-    {"an attribute table by the usage of its columns",
-     GDT_Byte,
-     {20, 10, 20},
-     Explained({kByUsage,
-                {{"20", "Trees", "1", "2", "3"},
-                 {"10", "Water", "4", "5", "255"},
-                 {"30", "Ice", "7", "8", "9"}}}),
-     {{L"Water", 0xff0405ff}, {L"Trees", 0xff010203}},
-     {0xff010203, 0xff0405ff, 0xff010203}},
+TEST(RasterClasses, MayBeBinsOfOneSizeAndRanges) {
+    ExpectClasses(
+        With({6, {{9.5, 10, 14.75, 15, 19.5, 20}}, GDT_Float32},
+             Explained({{{"Name", GFT_String, GFU_Name},
+                         {"R", GFT_Integer, GFU_Red},
+                         {"G", GFT_Integer, GFU_Green},
+                         {"B", GFT_Integer, GFU_Blue}},
+                        {{"low", "1", "2", "3"}, {"high", "4", "5", "6"}},
+                        {{10.0, 5.0}}})),
+        {{L"9.5", 0xff808080},
+         {L"low", 0xff010203},
+         {L"high", 0xff040506},
+         {L"20", 0xff808080}},
+        {0xff808080, 0xff010203, 0xff010203, 0xff040506, 0xff040506, 0xff808080});
+    // The lower range has the value where they meet.
+    ExpectClasses(
+        With({5, {{10, 0, 15.5, 20, -0.25}}, GDT_Float32},
+             Explained({{{"from", GFT_Real, GFU_Min},
+                         {"to", GFT_Real, GFU_Max},
+                         {"Name", GFT_String, GFU_Name},
+                         {"R", GFT_Integer, GFU_Red},
+                         {"G", GFT_Integer, GFU_Green},
+                         {"B", GFT_Integer, GFU_Blue}},
+                        {{"10", "20", "upper", "4", "5", "6"},
+                         {"0", "10", "lower", "1", "2", "3"}}})),
+        {{L"-0.25", 0xff808080}, {L"lower", 0xff010203}, {L"upper", 0xff040506}},
+        {0xff010203, 0xff010203, 0xff040506, 0xff040506, 0xff808080});
+}
 
-    {"an attribute table by the names of its columns",
-     GDT_Int16,
-     {-3, 200},
-     Explained({kByName,
-                {{"0", "-3", "5", "x", "Sea bed", "1", "2", "3"},
-                 {"1", "200", "6", "y", "Hill", "4", "5", "6"}}}),
-     {{L"Sea bed", 0xff010203}, {L"Hill", 0xff040506}},
-     {0xff010203, 0xff040506}},
-
-    {"the rows of a table without values stand for 0, 1, 2; any text is a name",
-     GDT_Byte,
-     {2, 0},
-     Explained({{{"Opacity", GFT_Integer, GFU_Alpha},
-                 {"Blue", GFT_Integer, GFU_Blue},
-                 {"Green", GFT_Integer, GFU_Green},
-                 {"Red", GFT_Integer, GFU_Red},
-                 {"Land Cover", GFT_String, GFU_Generic}},
-                {{"255", "3", "2", "1", ""},
-                 {"255", "6", "5", "4", "Bog"},
-                 {"128", "9", "8", "7", "Fen"}}}),
-     {{L"0", 0xff010203}, {L"Fen", 0x80070809}},
-     {0x80070809, 0xff010203}},
-
-    {"bins of one size",
-     GDT_Float32,
-     {9.5, 10, 14.75, 15, 19.5, 20},
-     Explained({{{"Name", GFT_String, GFU_Name},
-                 {"R", GFT_Integer, GFU_Red},
-                 {"G", GFT_Integer, GFU_Green},
-                 {"B", GFT_Integer, GFU_Blue}},
-                {{"low", "1", "2", "3"}, {"high", "4", "5", "6"}},
-                {{10.0, 5.0}}}),
-     {{L"9.5", 0xff808080},
-      {L"low", 0xff010203},
-      {L"high", 0xff040506},
-      {L"20", 0xff808080}},
-     {0xff808080, 0xff010203, 0xff010203, 0xff040506, 0xff040506, 0xff808080}},
-
-    {"ranges, of which the lower has the value where they meet",
-     GDT_Float32,
-     {10, 0, 15.5, 20, -0.25},
-     Explained(
-         {{{"from", GFT_Real, GFU_Min},
-           {"to", GFT_Real, GFU_Max},
-           {"Name", GFT_String, GFU_Name},
-           {"R", GFT_Integer, GFU_Red},
-           {"G", GFT_Integer, GFU_Green},
-           {"B", GFT_Integer, GFU_Blue}},
-          {{"10", "20", "upper", "4", "5", "6"}, {"0", "10", "lower", "1", "2", "3"}}}),
-     {{L"-0.25", 0xff808080}, {L"lower", 0xff010203}, {L"upper", 0xff040506}},
-     {0xff010203, 0xff010203, 0xff040506, 0xff040506, 0xff808080}},
-
-    {"colours as fractions of one",
-     GDT_Byte,
-     {1, 2},
-     Explained(
-         {kRealColours, {{"1", "0", "0.5", "1", "1"}, {"2", "-3", "0.2", "1", "0.5"}}}),
-     {{L"1", 0xff0080ff}, {L"2", 0x800033ff}},  // 0.5 * 255 + 0.5 is 128, 0.2 * 255 is 51
-     {0xff0080ff, 0x800033ff}},
-
-    {"real numbers that are no fractions of one",
-     GDT_Byte,
-     {1, 2},
-     Explained(
-         {kRealColours, {{"1", "0", "0.75", "1", "255"}, {"2", "-3", "300", "64", "9"}}}),
-     {{L"1", 0xff000101}, {L"2", 0x0900ff40}},
-     {0xff000101, 0x0900ff40}},
-
-    {"names of the table, colours of the palette",
-     GDT_Byte,
-     {1, 2},
-     [](GDALRasterBand& band) {
-         Coloured(kFourColours)(band);
-         Explained(
-             {{{"Value", GFT_Integer, GFU_MinMax}, {"Class", GFT_String, GFU_Generic}},
-              {{"1", "One"}, {"2", "Two"}}})(band);
-     },
-     {{L"One", 0xff0a141e}, {L"Two", 0xff28323c}},
-     {0xff0a141e, 0xff28323c}},
-
-    {"values that no table has are grey",
-     GDT_Byte,
-     {10, 99},
-     Explained({kByUsage, {{"10", "Water", "4", "5", "255"}}}),
-     {{L"Water", 0xff0405ff}, {L"99", 0xff808080}},
-     {0xff0405ff, 0xff808080}},
-};
-
-TEST(RasterClasses, HaveNamesAndColoursAndAreThoseThatOccur) {
-    for (const auto& row : kRows) {
-        SCOPED_TRACE(row.name);
-        const int width = static_cast<int>(row.values.size());
-        Raster raster{width, {row.values}, row.type};
-        raster.describe = row.describe;
-        const auto opened = WriteAndOpen(raster);
-        EXPECT_EQ(opened->GetDisplayType(), DisplayClassified);
-        EXPECT_EQ(Classes(*opened), row.classes);
-        EXPECT_EQ(Pixels(opened->Render(width, 1)), row.drawn);
-        EXPECT_EQ(opened->GetClassifyDisplayTable(), opened->GetClassifyDisplayTable());
-    }
+TEST(RasterClasses, HaveColoursAsFractionsOfOneWhereAllAreReal) {
+    // 0.5 * 255 + 0.5 is 128, 0.2 * 255 is 51.
+    ExpectClasses(
+        With({2, {{1, 2}}},
+             Explained({kRealColours,
+                        {{"1", "0", "0.5", "1", "1"}, {"2", "-3", "0.2", "1", "0.5"}}})),
+        {{L"1", 0xff0080ff}, {L"2", 0x800033ff}}, {0xff0080ff, 0x800033ff});
+    ExpectClasses(With({2, {{1, 2}}}, Explained({kRealColours,
+                                                 {{"1", "0", "0.75", "1", "255"},
+                                                  {"2", "-3", "300", "64", "9"}}})),
+                  {{L"1", 0xff000101}, {L"2", 0x0900ff40}}, {0xff000101, 0x0900ff40});
 }
 
 TEST(RasterClasses, OfATableWithoutColoursAreToldApart) {

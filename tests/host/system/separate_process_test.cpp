@@ -55,15 +55,6 @@ TEST(SeparateProcess, ReportsHoweverItEnds) {
     }
 }
 
-TEST(SeparateProcess, KeepsItsChangesToItself) {
-    int value = 1;
-    EXPECT_EQ(
-        host::InSeparateProcess(
-            "counting", [&](const host::Progress&) { return std::to_string(++value); }),
-        "2");
-    EXPECT_EQ(value, 1);
-}
-
 TEST(SeparateProcess, TellsHowFarTheWorkHasCome) {
     std::vector<double> told;
     const std::string bytes(300'000, '%');  // as the messages of progress begin

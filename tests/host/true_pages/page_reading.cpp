@@ -54,16 +54,12 @@ double WrittenPage::WidthOf(const nlohmann::json& item) const {
     return ToDevice(item["frame"]["width"]);
 }
 
-double WrittenPage::CentreX(const nlohmann::json& item) const {
+std::pair<double, double> WrittenPage::CentreOf(const nlohmann::json& item) const {
     const Area frame = FrameOf(item);
-    const int middle = frame.left + (frame.right - frame.left) / 2;
-    return middle + std::round(ToDevice(item["offsetX"]));
-}
-
-double WrittenPage::CentreY(const nlohmann::json& item) const {
-    const Area frame = FrameOf(item);
-    const int middle = frame.top + (frame.bottom - frame.top) / 2;
-    return middle - std::round(ToDevice(item["offsetY"]));
+    return {frame.left + (frame.right - frame.left) / 2 +
+                std::round(ToDevice(item["offsetX"])),
+            frame.top + (frame.bottom - frame.top) / 2 -
+                std::round(ToDevice(item["offsetY"]))};
 }
 
 void WrittenPage::WriteArrows(const nlohmann::json& arrow,

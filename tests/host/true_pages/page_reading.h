@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <nlohmann/json.hpp>
@@ -27,9 +28,8 @@ public:
     /// The width of an item's frame on paper, in pixels and parts of them.
     double WidthOf(const nlohmann::json& item) const;
 
-    /// The device point of an element's centre.
-    double CentreX(const nlohmann::json& item) const;
-    double CentreY(const nlohmann::json& item) const;
+    /// The device point of an element's centre: x and y.
+    std::pair<double, double> CentreOf(const nlohmann::json& item) const;
 
     /// Writes a page file of nothing but the arrow, the map that it follows, and the same
     /// arrow pointing up beside it, called "upright".

@@ -1,16 +1,12 @@
 #include "true_pages/random_page.h"
 
-#include <gdal_priv.h>
-#include <gtest/gtest.h>
-#include <ogr_spatialref.h>
-
 #include <cmath>
 #include <iterator>
-#include <memory>
 #include <optional>
 #include <random>
 
 #include "page/catalogue.h"
+#include "raster_data/make_raster.h"
 #include "system/number_text.h"
 #include "true_pages/earth.h"
 
@@ -83,9 +79,8 @@ std::optional<host::Box> BoxAround(const Earth& earth, const Earth::Place& place
     if (!middle) {
         return std::nullopt;
     }
-    double unit = 1.0;
-    const auto length = earth.Distance({middle->x - unit * 1e-3, middle->y},
-                                       {middle->x + unit * 1e-3, middle->y});
+    const auto length =
+        earth.Distance({middle->x - 1e-3, middle->y}, {middle->x + 1e-3, middle->y});
     if (!length || !(*length > 0.0)) {
         return std::nullopt;
     }
@@ -100,46 +95,26 @@ void WriteRaster(const RandomPage& page) {
     constexpr int kColumns = 64;
     constexpr int kRows = 16;
     constexpr int kClasses = static_cast<int>(std::size(kClassColours));
-    GDALDriver* const driver = GetGDALDriverManager()->GetDriverByName("GTiff");
-    const std::unique_ptr<GDALDataset> file(
-        driver->Create(page.raster.c_str(), kColumns, kRows, 1,
-                       page.isGrey ? GDT_Float32 : GDT_Byte, nullptr));
-    ASSERT_NE(file, nullptr);
-    double geotransform[6] = {page.extent.left,
-                              page.extent.Width() / kColumns,
-                              0.0,
-                              page.extent.top,
-                              0.0,
-                              -page.extent.Height() / kRows};
-    file->SetGeoTransform(geotransform);
-    OGRSpatialReference system;
-    ASSERT_EQ(system.SetFromUserInput(page.system.c_str()), OGRERR_NONE);
-    file->SetSpatialRef(&system);
-    GDALRasterBand* const band = file->GetRasterBand(1);
-    std::vector<float> values;
-    for (int column = 0; column < kColumns; ++column) {
+    raster_test::Raster raster{kColumns, {{}}, page.isGrey ? GDT_Float32 : GDT_Byte};
+    for (int i = 0; i < kColumns * kRows; ++i) {
+        const int column = i % kColumns;
         const double part = column / (kColumns - 1.0);
-        values.push_back(static_cast<float>(page.isGrey
-                                                ? page.low + part * (page.high - page.low)
-                                                : 1 + column * kClasses / kColumns));
+        raster.bands[0].push_back(page.isGrey ? page.low + part * (page.high - page.low)
+                                              : 1 + column * kClasses / kColumns);
     }
-    for (int row = 0; row < kRows; ++row) {
-        ASSERT_EQ(band->RasterIO(GF_Write, 0, row, kColumns, 1, values.data(), kColumns,
-                                 1, GDT_Float32, 0, 0, nullptr),
-                  CE_None);
+    raster_test::Palette colours;
+    for (int i = 0; i < kClasses; ++i) {
+        colours.emplace_back(i + 1, raster_test::EntryOf(0xFF000000 | kClassColours[i]));
     }
-    if (!page.isGrey) {
-        GDALColorTable colours;
-        for (int i = 0; i < kClasses; ++i) {
-            const std::uint32_t colour = kClassColours[i];
-            const auto part = [&](int shift) {
-                return static_cast<short>(colour >> shift & 0xFF);
-            };
-            const GDALColorEntry entry = {part(16), part(8), part(0), 255};
-            colours.SetColorEntry(i + 1, &entry);
+    raster.describe = [&](GDALRasterBand& band) {
+        raster_test::Placed({page.extent.left, page.extent.Width() / kColumns, 0.0,
+                             page.extent.top, 0.0, -page.extent.Height() / kRows},
+                            page.system)(band);
+        if (!page.isGrey) {
+            raster_test::Coloured(colours)(band);
         }
-        band->SetColorTable(&colours);
-    }
+    };
+    raster_test::Write(page.raster, raster);
 }
 
 /// A part of an extent, half of it or more, all around a place somewhere in it.
@@ -161,7 +136,6 @@ std::string Text(double value) {
 }  // namespace
 
 RandomPage MakeRandomPage(std::uint32_t seed, const std::string& folder) {
-    GDALAllRegister();
     Chance chance(seed);
     RandomPage page;
     const System& system = chance.OneOf(kSystems);
@@ -184,24 +158,17 @@ RandomPage MakeRandomPage(std::uint32_t seed, const std::string& folder) {
     page.dpi = chance.OneOf(kResolutions);
     const auto styles = host::StylesOf(SurroundScaleBar);
     const auto arrows = host::StylesOf(SurroundNorthArrow);
-    page.arguments = {page.raster,
-                      "--size",
-                      chance.OneOf(kSheets),
-                      "--dpi",
-                      Text(page.dpi),
-                      "--units",
-                      chance.OneOf(kUnits),
-                      "--scale-bar",
-                      chance.OneOf(styles)->Style(),
-                      "--divisions",
-                      Text(chance.Whole(1, 8)),
-                      "--north-arrow",
-                      chance.OneOf(arrows)->Style(),
-                      "--numeric-scale",
-                      "--border",
-                      "off",
-                      "--shadow",
-                      "off"};
+    const auto add = [&](const char* option, const std::string& value) {
+        page.arguments.insert(page.arguments.end(), {option, value});
+    };
+    page.arguments = {page.raster, "--numeric-scale", "--border",
+                      "off",       "--shadow",        "off"};
+    add("--size", chance.OneOf(kSheets));
+    add("--dpi", Text(page.dpi));
+    add("--units", chance.OneOf(kUnits));
+    add("--scale-bar", chance.OneOf(styles)->Style());
+    add("--divisions", Text(chance.Whole(1, 8)));
+    add("--north-arrow", chance.OneOf(arrows)->Style());
     if (chance.Happens(0.4)) {
         page.arguments.emplace_back("--portrait");
     }
@@ -217,7 +184,7 @@ RandomPage MakeRandomPage(std::uint32_t seed, const std::string& folder) {
     if (chance.Happens(0.3)) {
         // As large as the map is on about 100 mm, so that most of it is shown.
         page.scale = std::round(metres / 0.1 / 1000.0 + 1.0) * 1000.0;
-        page.arguments.insert(page.arguments.end(), {"--scale", "1:" + Text(page.scale)});
+        add("--scale", "1:" + Text(page.scale));
     }
     return page;
 }

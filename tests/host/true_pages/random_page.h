@@ -2,8 +2,8 @@
 
 #include <cstdint>
 #include <string>
-#include <vector>
 
+#include "map_page/run_map_page.h"
 #include "page/box.h"
 
 namespace true_pages {
@@ -14,14 +14,14 @@ struct RandomPage {
     std::string raster;  ///< its file
     host::Box extent;    ///< of the raster
     host::Box shown;     ///< the part asked for
-    bool isGrey =
-        false;  ///< values from `low` to `high`, growing to the right; else classes
+    /// Whether it has values from `low` to `high`, growing to the right; else classes.
+    bool isGrey = false;
     double low = 0.0;
     double high = 0.0;
     double dpi = 0.0;
     double scale = 0.0;  ///< asked for; 0 for none
     /// map_page's, but for the page to be written and the arrow's angle.
-    std::vector<std::string> arguments;
+    host_tests::Arguments arguments;
 };
 
 /// The colours of a page's classes, left to right in equal strips.

@@ -1,7 +1,7 @@
 // Draws random pages with map_page and reads back from the pixels what they say: the
 // length of the bar, the numeric scale, the turn of the north arrow, the colours.
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <algorithm>
 #include <cmath>
@@ -12,6 +12,7 @@
 #include <string>
 #include <vector>
 
+#include "given.h"
 #include "map_page/run_map_page.h"
 #include "true_pages/earth.h"
 #include "true_pages/page_reading.h"
@@ -22,6 +23,8 @@
 
 namespace {
 
+using host_tests::Arguments;
+using host_tests::Given;
 using true_pages::Area;
 using true_pages::Earth;
 using true_pages::Picture;
@@ -44,13 +47,12 @@ struct DrawnPage {
     const RandomPage& asked;
     const WrittenPage& written;
     const Picture& picture;
-    Earth earth;
+    Earth earth = Earth(asked.system);
+    Area map = written.FrameOf(*written.Find("map"));      ///< its frame
+    double width = written.WidthOf(*written.Find("map"));  ///< and that on paper
 
     /// Map units in a pixel of the map.
-    double MapUnitsPerPixel() const {
-        const Area frame = written.FrameOf(*written.Find("map"));
-        return Shown().Width() / (frame.right - frame.left);
-    }
+    double MapUnitsPerPixel() const { return Shown().Width() / (map.right - map.left); }
 
     /// The part of the map that is shown: all of it, or at a scale what the frame holds
     /// of it. A scale is measured over a quarter of the frame.
@@ -58,8 +60,6 @@ struct DrawnPage {
         if (!(asked.scale > 0.0)) {
             return asked.shown;
         }
-        const Area frame = written.FrameOf(*written.Find("map"));
-        const double width = written.WidthOf(*written.Find("map"));
         const double metres = width / 4.0 / asked.dpi * kInch * asked.scale;
         const double x = asked.shown.MiddleX();
         const double y = asked.shown.MiddleY();
@@ -71,7 +71,7 @@ struct DrawnPage {
             (length && *length < metres ? less : more) = span;
         }
         const double half = more * 2.0;
-        const double halfHeight = half * (frame.bottom - frame.top) / width;
+        const double halfHeight = half * (map.bottom - map.top) / width;
         return {x - half, y - halfHeight, x + half, y + halfHeight};
     }
 
@@ -79,7 +79,6 @@ struct DrawnPage {
     /// frame ends with a pixel.
     std::optional<double> Metres(double pixels) const {
         const host::Box shown = Shown();
-        const double width = written.WidthOf(*written.Find("map"));
         const double half = pixels * shown.Width() / width / 2.0;
         return earth.Distance({shown.MiddleX() - half, shown.MiddleY()},
                               {shown.MiddleX() + half, shown.MiddleY()});
@@ -176,10 +175,7 @@ void CheckBar(const DrawnPage& page) {
 }
 
 /// Draws a page with map_page.
-host_tests::Result Draw(const std::vector<std::string>& asked,
-                        const std::vector<std::string>& more) {
-    host_tests::Arguments arguments(asked.begin(), asked.end());
-    arguments.insert(arguments.end(), more.begin(), more.end());
+host_tests::Result Draw(const Arguments& arguments) {
     const ScratchFolder scratch;
     const host_tests::Result result = host_tests::RunMapPage(scratch, arguments);
     EXPECT_EQ(result.status, 0) << result.err;
@@ -196,7 +192,7 @@ public:
         const std::string file = folder + "arrows.json";
         const std::string image = folder + "arrows.png";
         page.WriteArrows(arrow, file);
-        Draw({file}, {"--dpi", std::to_string(dpi), "-o", image});
+        Draw({file, "--dpi", std::to_string(dpi), "-o", image});
         m_written.emplace(file, dpi);
         m_picture.emplace(image);
     }
@@ -214,7 +210,8 @@ public:
 private:
     static true_pages::Drawing DrawingOf(const Picture& picture, const WrittenPage& page,
                                          const nlohmann::json& arrow) {
-        return {picture, page.FrameOf(arrow), page.CentreX(arrow), page.CentreY(arrow)};
+        const auto [x, y] = page.CentreOf(arrow);
+        return {picture, page.FrameOf(arrow), x, y};
     }
 
     double m_radius;
@@ -255,7 +252,7 @@ void CheckArrow(const DrawnPage& page, const std::string& folder) {
     }
 }
 
-/// The value or class of the raster under a pixel of the map, counted from its left.
+/// Where a pixel of the map lies in the raster, from 0 at its left to 1 at its right.
 double PartOfRaster(const DrawnPage& page, int pixel) {
     const host::Box shown = page.Shown();
     const double x = shown.left + (pixel + 0.5) * page.MapUnitsPerPixel();
@@ -289,7 +286,7 @@ std::vector<int> RampIn(const Picture& picture, const Area& legend) {
 }
 
 void CheckColours(const DrawnPage& page) {
-    const Area map = page.written.FrameOf(*page.written.Find("map"));
+    const Area& map = page.map;
     const nlohmann::json* const legend = page.written.Find("legend");
     ASSERT_NE(legend, nullptr);
     const Area inLegend = page.written.FrameOf(*legend);
@@ -326,28 +323,11 @@ void CheckColours(const DrawnPage& page) {
         EXPECT_GE(ramp.front(), 255 - 3 * 255 / static_cast<int>(ramp.size()) - 4);
         EXPECT_LE(ramp.back(), 3 * 255 / static_cast<int>(ramp.size()) + 4);
         const std::vector<std::string> texts = page.written.TextsOf(*legend);
-        const auto says = [&](double value) {
-            const std::string number = std::to_string(std::lround(value));
-            for (const std::string& text : texts) {
-                if (text.size() >= number.size() &&
-                    text.compare(text.size() - number.size(), number.size(), number) ==
-                        0) {
-                    return true;
-                }
-            }
-            return false;
-        };
-        EXPECT_TRUE(says(page.asked.low)) << page.asked.low;
-        EXPECT_TRUE(says(page.asked.high)) << page.asked.high;
+        for (const double value : {page.asked.low, page.asked.high}) {
+            EXPECT_THAT(texts, ::testing::Contains(::testing::EndsWith(
+                                   std::to_string(std::lround(value)))));
+        }
     }
-}
-
-std::string CommandOf(const std::vector<std::string>& arguments) {
-    std::string command = "map_page";
-    for (const std::string& argument : arguments) {
-        command += " " + argument;
-    }
-    return command;
 }
 
 /// The pages that say what is not so stay there, with their rasters, to be looked at.
@@ -356,9 +336,14 @@ void TryPage(std::uint32_t seed, bool isPrinted) {
     const std::string folder = TRUE_PAGES_FOLDER "/" + std::to_string(seed) + "/";
     std::filesystem::create_directories(folder);
     const RandomPage asked = true_pages::MakeRandomPage(seed, folder);
-    SCOPED_TRACE("page " + std::to_string(seed) + ": " + CommandOf(asked.arguments));
-    const host_tests::Result drawn = Draw(
-        asked.arguments, {"-o", folder + "page.png", "--save", folder + "page.json"});
+    std::string command = "page " + std::to_string(seed) + ": map_page";
+    for (const std::string& argument : asked.arguments) {
+        command += " " + argument;
+    }
+    SCOPED_TRACE(command);
+    const host_tests::Result drawn =
+        Draw(asked.arguments +
+             Arguments{"-o", folder + "page.png", "--save", folder + "page.json"});
     // What is small on a small sheet is told; the layout lays nothing over another.
     for (const char* const place : {" lies ", " leaves ", " covered "}) {
         EXPECT_EQ(drawn.err.find(place), std::string::npos) << drawn.err;
@@ -368,22 +353,15 @@ void TryPage(std::uint32_t seed, bool isPrinted) {
     }
     const WrittenPage written(folder + "page.json", asked.dpi);
     const Picture picture(folder + "page.png");
-    const DrawnPage page{asked, written, picture, Earth(asked.system)};
+    const DrawnPage page{asked, written, picture};
     CheckBar(page);
     CheckArrow(page, folder);
     CheckColours(page);
     if (isPrinted) {
         const std::string file = folder + "page.pdf";
-        ASSERT_EQ(Draw(asked.arguments, {"-o", file}).status, 0);
+        ASSERT_EQ(Draw(asked.arguments + Arguments{"-o", file}).status, 0);
         true_pages::CheckPrint(file, asked.dpi, picture);
     }
-}
-
-/// What a variable of the environment says.
-std::uint32_t Given(const char* name, std::uint32_t otherwise) {
-    const char* const text = std::getenv(name);
-    return text == nullptr ? otherwise
-                           : static_cast<std::uint32_t>(std::strtoul(text, nullptr, 10));
 }
 
 /// A tenth of the pages each, so that they can be tried beside one another.

@@ -308,4 +308,8 @@ std::vector<Change> ChangesOf(const std::string& type, const std::string& folder
     return {};
 }
 
+std::vector<Change> AllChangesOf(const std::string& type, const std::string& folder) {
+    return FrameChanges() + ChangesOf(type, folder);
+}
+
 }  // namespace host_tests

@@ -23,4 +23,7 @@ std::vector<Change> FrameChanges();
 /// @param folder where scene.tif and logo.png lie
 std::vector<Change> ChangesOf(const std::string& type, const std::string& folder);
 
+/// Both.
+std::vector<Change> AllChangesOf(const std::string& type, const std::string& folder);
+
 }  // namespace host_tests

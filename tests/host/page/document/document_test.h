@@ -3,17 +3,18 @@
 #include <gdiplus.h>
 #include <gtest/gtest.h>
 
-#include <cstdint>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "page/document/item_type.h"
+#include "page/document/page_error.h"
+#include "page/document/raster_store.h"
 #include "page/element_of.h"
 #include "page/made_raster.h"
 #include "page/numeric_scale.h"
-#include "page/output/page_image.h"
 #include "page/page.h"
+#include "page/page_pixels.h"
 #include "page/placed_frame.h"
 #include "png_encoder.h"
 #include "scratch_folder.h"
@@ -26,21 +27,34 @@ inline std::string PageText(const std::string& elements, int version = 3) {
            R"(, "width": 400, "height": 300, "elements": [)" + elements + "]}";
 }
 
-/// The pixels of a page at 96 dpi.
-inline std::vector<std::uint8_t> PixelsOf(const host::Page& page) {
-    host::PageImage image(host::PixelSize(page, 96.0));
-    {
-        Gdiplus::Graphics graphics(&image.Bitmap());
-        page.Draw(graphics, 96.0);
+/// What a page is refused with; empty for none.
+template <class Work>
+std::string PageErrorOf(const Work& work) {
+    try {
+        work();
+        return "";
+    } catch (const host::PageError& error) {
+        return error.what();
     }
-    return host::EncodePng(image.Rows(), 96.0);
 }
 
+/// A page of 400 x 300 units with an item of every type, as it is by itself.
+inline host::Page PageOfEveryType() {
+    host::Page page(400.0, 300.0);
+    for (const host::ItemType& type : host::ItemTypes()) {
+        page.Items().push_back(type.make());
+    }
+    return page;
+}
+
+/// The pixels of a page at 96 dpi.
+inline PagePixels PixelsOf(const host::Page& page) { return {page, 96.0}; }
+
 /// The pixels of a page with this item alone.
-inline std::vector<std::uint8_t> PixelsOf(host::PageItem& item) {
+inline PagePixels PixelsOf(host::PageItem& item) {
     host::Page page(300.0, 200.0);
     page.Items().push_back(std::move(item));
-    std::vector<std::uint8_t> pixels = PixelsOf(page);
+    PagePixels pixels = PixelsOf(page);
     item = std::move(page.Items().front());
     return pixels;
 }
@@ -67,7 +81,7 @@ inline host::PageItem MakeVisible(const host::ItemType& type, const std::string&
     return item;
 }
 
-/// A folder with a raster, scene.tif, and an image, logo.png.
+/// A folder with a raster, scene.tif, and an image, logo.png, and rasters once opened.
 class DocumentTest : public ::testing::Test {
 protected:
     DocumentTest() {
@@ -82,6 +96,7 @@ protected:
     }
 
     ScratchFolder folder;
+    host::RasterStore store;
 };
 
 }  // namespace host_tests

@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <cmath>
 #include <memory>
 #include <nlohmann/json.hpp>
@@ -13,7 +14,6 @@
 #include "page/document/item_type.h"
 #include "page/document/page_error.h"
 #include "page/document/page_text.h"
-#include "page/document/raster_store.h"
 #include "page/element_of.h"
 #include "system/errors.h"
 
@@ -22,6 +22,7 @@ namespace {
 using host::ItemType;
 using host::ItemTypes;
 using host::PageItem;
+using host_tests::AllChangesOf;
 using host_tests::Change;
 using host_tests::ChangesOf;
 using host_tests::FrameChanges;
@@ -60,7 +61,6 @@ bool Differs(const std::string& a, const std::string& b, const std::string& obje
 TEST_F(PropertyTable, HasAChangeForEveryPropertyAndAPropertyForEveryChange) {
     EXPECT_THAT(NamesOf(FrameChanges()),
                 ::testing::UnorderedElementsAreArray(NamesOf(host::FrameProperties())));
-    ASSERT_EQ(ItemTypes().size(), host::kCatalogue.size() + 3);
     for (const ItemType& type : ItemTypes()) {
         EXPECT_THAT(NamesOf(ChangesOf(type.name, folder.Path())),
                     ::testing::UnorderedElementsAreArray(NamesOf(type.properties)))
@@ -93,38 +93,32 @@ TEST_F(PropertyTable, EveryChangeComesBackAndTakesTheSameBytes) {
 }
 
 TEST_F(PropertyTable, AllChangesAtOnceComeBack) {
+    // Changes of one box or one offset undo each other.
+    const auto isOfABox = [](const Change& change) {
+        return change.property == "left" || change.property == "top" ||
+               change.property == "width" || change.property.rfind("offset", 0) == 0;
+    };
     for (const ItemType& type : ItemTypes()) {
         PageItem item = type.make();
-        for (const Change& change : ChangesOf(type.name, folder.Path())) {
-            if (change.property.rfind("offset", 0) != 0) {
-                change.make(item);
-            }
-        }
-        for (const Change& change : FrameChanges()) {
-            if (change.property != "left" && change.property != "top" &&
-                change.property != "width") {
-                change.make(item);
-            }
+        std::vector<Change> changes = AllChangesOf(type.name, folder.Path());
+        changes.erase(std::remove_if(changes.begin(), changes.end(), isOfABox),
+                      changes.end());
+        for (const Change& change : changes) {
+            change.make(item);
         }
         const PageItem again = host::ReadItem(WriteItem(item));
-        for (const Change& change : ChangesOf(type.name, folder.Path())) {
-            EXPECT_TRUE(change.isMade(again) || change.property.rfind("offset", 0) == 0)
-                << type.name << " " << change.property;
+        for (const Change& change : changes) {
+            EXPECT_TRUE(change.isMade(again)) << type.name << " " << change.property;
         }
         EXPECT_EQ(WriteItem(again), WriteItem(item));
     }
 }
 
 TEST_F(PropertyTable, WhatIsReadBackIsDrawnTheSame) {
-    host::RasterStore store;
     for (const ItemType& type : ItemTypes()) {
-        std::vector<Change> changes = FrameChanges();
-        for (Change& change : ChangesOf(type.name, folder.Path())) {
-            if (type.name != std::string("map")) {  // of files that do not exist
-                changes.push_back(std::move(change));
-            }
-        }
-        for (const Change& change : changes) {
+        const bool isMap = type.name == std::string("map");  // of files that do not exist
+        for (const Change& change :
+             isMap ? FrameChanges() : AllChangesOf(type.name, folder.Path())) {
             PageItem item = MakeVisible(type, folder.Path());
             OpenRasters(item, store);
             change.make(item);
@@ -139,7 +133,6 @@ TEST_F(PropertyTable, WhatIsReadBackIsDrawnTheSame) {
 }
 
 TEST_F(PropertyTable, EveryNumberAtTheEndsOfItsRangeIsDrawnUnlessItIsNoFontsSize) {
-    host::RasterStore store;
     std::vector<std::string> refused;
     for (const ItemType& type : ItemTypes()) {
         std::vector<host::Property> properties = type.properties;
@@ -160,7 +153,7 @@ TEST_F(PropertyTable, EveryNumberAtTheEndsOfItsRangeIsDrawnUnlessItIsNoFontsSize
                 OpenRasters(again, store);
                 EXPECT_EQ(WriteItem(host::ReadItem(WriteItem(again))), WriteItem(again));
                 try {
-                    EXPECT_FALSE(PixelsOf(again).empty());
+                    PixelsOf(again);
                 } catch (const host::NamedError&) {
                     refused.push_back(std::string(type.name) + " " + property.name + " " +
                                       std::to_string(end));
@@ -191,10 +184,9 @@ TEST_F(PropertyTable, ABoxOfAnyNumbersKeepsEveryDigit) {
         const CBoundingBox box(left, bottom, left + std::pow(10.0, exponent(random)),
                                bottom + std::pow(10.0, exponent(random)));
         PageItem item = host::FindItemType("frame")->make();
-        std::get<std::unique_ptr<CSurroundFrame>>(item)->SetExtent(box);
+        host::FrameOf(item).SetExtent(box);
         const PageItem again = host::ReadItem(WriteItem(item));
-        const CBoundingBox read =
-            std::get<std::unique_ptr<CSurroundFrame>>(again)->GetExtent();
+        const CBoundingBox read = host::FrameOf(again).GetExtent();
         ASSERT_EQ(read.TopLeft().x, box.TopLeft().x);
         ASSERT_EQ(read.TopLeft().y, box.TopLeft().y);
         ASSERT_EQ(read.GetWidth(), box.GetWidth()) << left;
@@ -208,15 +200,20 @@ TEST_F(PropertyTable, ATitleOfNothingHasUnknownProportions) {
     const std::string text = WriteItem(item);
     EXPECT_THAT(text, ::testing::HasSubstr("\"aspectRatio\":null"));
     const PageItem again = host::ReadItem(text);
-    const auto& frame = std::get<std::unique_ptr<CSurroundFrame>>(again);
-    EXPECT_TRUE(std::isnan(frame->GetMapSurround()->GetAspectRatio()));
+    EXPECT_TRUE(std::isnan(host::ElementOf<CMapTitle>(again)->GetAspectRatio()));
     EXPECT_EQ(WriteItem(again), text);
 }
 
-TEST_F(PropertyTable, AFrameOfAnotherClassIsNotWritten) {
-    const PageItem item = std::make_unique<CSurroundFrame>();
-    EXPECT_EQ(host::TypeOf(item), nullptr);
-    EXPECT_THROW(WriteItem(item), host::PageError);
+/// Frames that somebody's own code might put there: of no class that a page file knows,
+/// or of one that does not know what its element needs.
+TEST_F(PropertyTable, AFrameOfAnotherClassIsOfNoTypeAndNotWritten) {
+    auto wrong = std::make_unique<host::PlacedFrame>(std::make_unique<CScaleLine>());
+    for (const PageItem& item :
+         {PageItem(std::make_unique<CSurroundFrame>()),
+          PageItem(std::unique_ptr<CSurroundFrame>(std::move(wrong)))}) {
+        EXPECT_EQ(host::TypeOf(item), nullptr);
+        EXPECT_THROW(WriteItem(item), host::PageError);
+    }
 }
 
 }  // namespace

@@ -1,8 +1,5 @@
-#include "page/document/raster_store.h"
-
 #include <gmock/gmock.h>
 
-#include <memory>
 #include <tuple>
 
 #include "map_surround/legend.h"
@@ -16,7 +13,6 @@
 
 namespace {
 
-using host::Box;
 using host::MapFrame;
 using host::PageItem;
 using ::testing::ThrowsMessage;
@@ -37,24 +33,24 @@ PageItem LegendOf(const std::vector<std::string>& paths) {
 CMapLegend& LegendIn(PageItem& item) { return *host::ElementOf<CMapLegend>(item); }
 
 TEST_F(OpeningRasters, AnItemReadAgainSharesItsMap) {
-    host::RasterStore store;
     PageItem item = MapOf({folder.Path("scene.tif")});
     OpenRasters(item, store);
     PageItem again = host::ReadItem(WriteItem(item));
-    EXPECT_EQ(std::get<MapFrame>(again).picture, nullptr) << "before it is opened";
+    const auto& map = std::get<MapFrame>(item);
+    auto& mapAgain = std::get<MapFrame>(again);
+    EXPECT_EQ(mapAgain.picture, nullptr) << "before it is opened";
     OpenRasters(again, store);
-    EXPECT_NE(std::get<MapFrame>(item).picture, nullptr);
-    EXPECT_EQ(std::get<MapFrame>(item).picture, std::get<MapFrame>(again).picture);
+    EXPECT_NE(map.picture, nullptr);
+    EXPECT_EQ(map.picture, mapAgain.picture);
     EXPECT_EQ(store.Raster(folder.Path("scene.tif")),
               store.Raster(folder.Path("scene.tif")));
 
-    std::get<MapFrame>(again).extent = Box{500000.0, 8999700.0, 500300.0, 9000000.0};
+    mapAgain.extent = host::Box{500000.0, 8999700.0, 500300.0, 9000000.0};
     OpenRasters(again, store);
-    EXPECT_NE(std::get<MapFrame>(item).picture, std::get<MapFrame>(again).picture);
+    EXPECT_NE(map.picture, mapAgain.picture);
 }
 
 TEST_F(OpeningRasters, ALegendIsMeasuredButKeepsItsSize) {
-    host::RasterStore store;
     PageItem natural = LegendOf({folder.Path("scene.tif")});
     OpenRasters(natural, store);
     EXPECT_GT(LegendIn(natural).GetSize(), 40);
@@ -69,7 +65,6 @@ TEST_F(OpeningRasters, ALegendIsMeasuredButKeepsItsSize) {
 }
 
 TEST_F(OpeningRasters, MeasuringAgainDoesNotMultiplyTheFontsOfALegendAgain) {
-    host::RasterStore store;
     PageItem item = LegendOf({folder.Path("scene.tif")});
     host::FrameAs<host::LegendFrame>(item)->SetSizeFactor(2.0f);
     OpenRasters(item, store);
@@ -80,7 +75,6 @@ TEST_F(OpeningRasters, MeasuringAgainDoesNotMultiplyTheFontsOfALegendAgain) {
 }
 
 TEST_F(OpeningRasters, WhatIsMissingIsToldWithItsPlace) {
-    host::RasterStore store;
     host::Page page(400.0, 300.0);
     page.Items().push_back(host::FindItemType("frame")->make());
     page.Items().push_back(MapOf({folder.Path("scene.tif"), folder.Path("none.tif")}));
@@ -92,10 +86,8 @@ TEST_F(OpeningRasters, WhatIsMissingIsToldWithItsPlace) {
 }
 
 std::vector<std::string> Explained(const PageItem& legend) {
-    const auto& frame = *std::get<std::unique_ptr<CSurroundFrame>>(legend);
     std::vector<std::string> said;
-    for (CGISDataSource* source :
-         dynamic_cast<const host::LegendFrame&>(frame).Sources()) {
+    for (CGISDataSource* source : host::FrameAs<host::LegendFrame>(legend)->Sources()) {
         const auto& raster = dynamic_cast<const host::GdalRaster&>(*source);
         said.push_back(raster.Path() + " " + raster.Style().stretch.Text());
     }
@@ -103,13 +95,12 @@ std::vector<std::string> Explained(const PageItem& legend) {
 }
 
 TEST_F(OpeningRasters, ALegendExplainsWhatTheMapsShow) {
-    MadeRaster plain;  // without georeference
-    WriteRaster(folder.Path("plain.tif"), plain);
-    WriteRaster(folder.Path("alone.tif"), plain);
     const std::string scene = folder.Path("scene.tif");
     const std::string lost = folder.Path("plain.tif");
     const std::string alone = folder.Path("alone.tif");
-    host::RasterStore store;
+    for (const std::string& plain : {lost, alone}) {
+        WriteRaster(plain, {});  // without georeference
+    }
     host::Page page(400.0, 300.0);
     page.Items().push_back(LegendOf({scene, lost, alone}));
     page.Items().push_back(MapOf({scene, lost}));
@@ -132,7 +123,6 @@ TEST_F(OpeningRasters, ALegendExplainsWhatTheMapsShow) {
 }
 
 TEST_F(OpeningRasters, BandsThatThereAreNotAreToldWithTheirFile) {
-    host::RasterStore store;
     WriteRaster(folder.Path("one.tif"), MadeRaster());
     for (const auto& [name, bands, why] :
          {std::tuple{"scene.tif", std::vector{1, 2, 7}, "has no band 7 (it has 3)"},
@@ -167,13 +157,7 @@ TEST_F(OpeningRasters, FilesAndFontsThatCannotBeUsedAreTold) {
     for (const auto& row : rows) {
         const host::Page page = host::ReadPage(host_tests::PageText(row.element),
                                                host::FilePaths(folder.Path("page.json")));
-        std::string error;
-        try {
-            CheckFilesAndFonts(page);
-        } catch (const host::PageError& caught) {
-            error = caught.what();
-        }
-        EXPECT_EQ(error, row.error);
+        EXPECT_EQ(host_tests::PageErrorOf([&] { CheckFilesAndFonts(page); }), row.error);
     }
 }
 

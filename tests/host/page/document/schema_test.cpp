@@ -1,7 +1,5 @@
 #include "page/document/schema.h"
 
-#include <fstream>
-#include <iterator>
 #include <nlohmann/json.hpp>
 #include <set>
 #include <valijson/adapters/nlohmann_json_adapter.hpp>
@@ -12,7 +10,6 @@
 #include "page/document/changes.h"
 #include "page/document/document_test.h"
 #include "page/document/item_type.h"
-#include "page/document/page_error.h"
 #include "page/document/page_text.h"
 
 namespace {
@@ -20,12 +17,9 @@ namespace {
 using nlohmann::json;
 using valijson::adapters::NlohmannJsonAdapter;
 
-std::string ContentsOf(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
+json SchemaInTheTree() {
+    return json::parse(host_tests::ContentsOf(MAP_SURROUND_PAGE_SCHEMA));
 }
-
-json SchemaInTheTree() { return json::parse(ContentsOf(MAP_SURROUND_PAGE_SCHEMA)); }
 
 class PageSchema : public host_tests::DocumentTest {
 protected:
@@ -49,16 +43,11 @@ json PageWith(const json& element) {
 }
 
 bool IsRead(const json& page) {
-    try {
-        host::ReadPage(page.dump(), {});
-        return true;
-    } catch (const host::PageError&) {
-        return false;
-    }
+    return host_tests::PageErrorOf([&] { host::ReadPage(page.dump(), {}); }).empty();
 }
 
 TEST_F(PageSchema, InTheTreeIsTheOneOfTheTables) {
-    EXPECT_TRUE(ContentsOf(MAP_SURROUND_PAGE_SCHEMA) == host::PageSchema())
+    EXPECT_TRUE(host_tests::ContentsOf(MAP_SURROUND_PAGE_SCHEMA) == host::PageSchema())
         << "map_page --schema > docs/page.schema.json brings it up to date";
 }
 
@@ -82,12 +71,8 @@ TEST_F(PageSchema, HasThePropertiesThatAreWritten) {
 
 TEST_F(PageSchema, EveryItemThatIsWrittenIsValid) {
     for (const host::ItemType& type : host::ItemTypes()) {
-        std::vector<host_tests::Change> changes =
-            host_tests::ChangesOf(type.name, folder.Path());
-        for (host_tests::Change& change : host_tests::FrameChanges()) {
-            changes.push_back(std::move(change));
-        }
-        for (const host_tests::Change& change : changes) {
+        for (const host_tests::Change& change :
+             host_tests::AllChangesOf(type.name, folder.Path())) {
             host::PageItem item = type.make();
             change.make(item);
             EXPECT_TRUE(IsValid(PageWith(json::parse(WriteItem(item)))))

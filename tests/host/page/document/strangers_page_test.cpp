@@ -1,11 +1,9 @@
 // What a page file may have read, and how much of it.
 
-#include <gdal_priv.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
 #include <filesystem>
-#include <fstream>
 #include <string>
 
 #include "page/document/document_test.h"
@@ -13,7 +11,7 @@
 #include "page/document/page_text.h"
 #include "page/document/picture_file.h"
 #include "page/document/property.h"
-#include "page/made_raster.h"
+#include "raster_data/make_raster.h"
 #include "system/allowed_sources.h"
 #include "system/separate_process.h"
 
@@ -37,9 +35,7 @@ protected:
 
     /// What is said of a page file with the element, in a process that must not hang.
     std::string Loading(const std::string& element) const {
-        std::ofstream(Page()) << "{\"version\": 2, \"width\": 800, \"height\": 600, "
-                                 "\"elements\": [{"
-                              << element << "}]}";
+        folder.Write("maps/page.json", PageText("{" + element + "}", 2));
         const host::AllowedSources allowed(Page(), {"--out", "--net", "--all"});
         try {
             return host::InSeparateProcess("loading",
@@ -85,28 +81,23 @@ TEST_F(StrangersPage, MayNameAPipe) {
 }
 
 TEST_F(StrangersPage, MayNameAPictureThatTakesAllMemory) {
+    const std::string large = folder.Path("maps/large.tif");
     const auto write = [&](int width, int height) {
-        const char* const options[] = {"SPARSE_OK=YES", "COMPRESS=DEFLATE", nullptr};
-        GDALAllRegister();
-        GDALClose(GetGDALDriverManager()->GetDriverByName("GTiff")->Create(
-            folder.Path("maps/large.tif").c_str(), width, height, 3, GDT_Byte,
-            const_cast<char**>(options)));
+        raster_test::Create(large, width, height, 3, GDT_Byte,
+                            {"SPARSE_OK=YES", "COMPRESS=DEFLATE"});
     };
     const std::string atMost = " pixels; at most 100 million are drawn";
     write(16000, 16000);
     EXPECT_EQ(Loading(R"("type": "picture", "path": "large.tif")"),
-              "elements[0].path: " + folder.Path("maps/large.tif") +
-                  ": has 16000 x 16000" + atMost);
-    EXPECT_EQ(host::CheckImageFile(folder.Path("maps/large.tif")),
-              folder.Path("maps/large.tif") + ": has 16000 x 16000" + atMost);
+              "elements[0].path: " + large + ": has 16000 x 16000" + atMost);
+    EXPECT_EQ(host::CheckImageFile(large), large + ": has 16000 x 16000" + atMost);
     write(10000, 10001);
-    EXPECT_EQ(host::WhyNotOpened(folder.Path("maps/large.tif")),
-              "has 10000 x 10001" + atMost);
+    EXPECT_EQ(host::WhyNotOpened(large), "has 10000 x 10001" + atMost);
     write(32768, 1);
-    EXPECT_EQ(host::WhyNotOpened(folder.Path("maps/large.tif")),
+    EXPECT_EQ(host::WhyNotOpened(large),
               "has 32768 x 1 pixels; at most 32767 a side are drawn");
     write(10000, 10000);
-    EXPECT_EQ(host::WhyNotOpened(folder.Path("maps/large.tif")), "");
+    EXPECT_EQ(host::WhyNotOpened(large), "");
 }
 
 TEST_F(StrangersPage, HasTextsOfAThousandLines) {

@@ -4,13 +4,14 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <tuple>
 
 #include "map_surround/north_arrow.h"
 #include "map_surround/scale_bar.h"
 #include "page/document/document_test.h"
 #include "page/document/page_text.h"
-#include "page/document/raster_store.h"
 #include "page/element_of.h"
+#include "page/expect_box.h"
 #include "page/map/map_layers.h"
 #include "page/numeric_scale.h"
 #include "page/placed_frame.h"
@@ -34,11 +35,8 @@ TEST(WidenedExtent, HasTheProportionsOfTheFrame) {
         {{0, 0, 10, 10}, std::nan(""), {0, 0, 10, 10}},
     };
     for (const auto& row : rows) {
-        const Box extent = host::Widened(row.given, row.aspectRatio);
-        EXPECT_DOUBLE_EQ(extent.left, row.expected.left) << row.aspectRatio;
-        EXPECT_DOUBLE_EQ(extent.bottom, row.expected.bottom) << row.aspectRatio;
-        EXPECT_DOUBLE_EQ(extent.right, row.expected.right) << row.aspectRatio;
-        EXPECT_DOUBLE_EQ(extent.top, row.expected.top) << row.aspectRatio;
+        SCOPED_TRACE(row.aspectRatio);
+        host_tests::ExpectBox(host::Widened(row.given, row.aspectRatio), row.expected);
     }
 }
 
@@ -63,7 +61,6 @@ protected:
         return *host::FrameAs<host::ScaleBarFrame>(Fit(bar, extent));
     }
 
-    host::RasterStore store;
     host::Page page{1.0, 1.0};
     std::vector<std::string> remarks;
 };
@@ -78,34 +75,27 @@ TEST_F(FitToMap, DivisionsAreTrueToTheMap) {
         double length;
     } rows[] = {
         // True, and so left alone, though 75 is not round.
-        {R"("distances": "map", "divisionValue": 75, "divisionLength": 25)", "null", 75,
-         25},
+        {R"("distances": "map", "divisionValue": 75)", "null", 75, 25},
         // 25 units are 75 m; 50 m are 16.7 units.
-        {R"("distances": "map", "divisionValue": 100, "divisionLength": 25)", "null", 50,
-         50.0 / 3.0},
+        {R"("distances": "map", "divisionValue": 100)", "null", 50, 50.0 / 3.0},
         // There is room for four times as much: 300 m, of which 200 are round.
-        {R"("distances": "map", "divisionValue": 100, "divisionLength": 25,
-            "longest": 100)",
-         "null", 200, 200.0 / 3.0},
+        {R"("distances": "map", "divisionValue": 100, "longest": 100)", "null", 200,
+         200.0 / 3.0},
         // Half the map on the same frame: 1.5 m a unit, and 37.5 m.
-        {R"("distances": "map", "divisionValue": 75, "divisionLength": 25)", half, 20,
-         20.0 / 1.5},
-        {R"("distances": "fixed", "divisionValue": 75, "divisionLength": 25)", half, 75,
-         25},
+        {R"("distances": "map", "divisionValue": 75)", half, 20, 20.0 / 1.5},
+        {R"("distances": "fixed", "divisionValue": 75)", half, 75, 25},
         // As version 1 does: any one digit, 70 and 30.
-        {R"("distances": "map", "exact": false, "divisionValue": 100,
-            "divisionLength": 25)",
-         "null", 70, 70.0 / 3.0},
-        {R"("distances": "map", "exact": false, "divisionValue": 75,
-            "divisionLength": 25)",
-         half, 30, 20},
+        {R"("distances": "map", "exact": false, "divisionValue": 100)", "null", 70,
+         70.0 / 3.0},
+        {R"("distances": "map", "exact": false, "divisionValue": 75)", half, 30, 20},
         // 75 m are 246.06 feet.
-        {R"("distances": "map", "unit": "ft", "divisionValue": 1, "divisionLength": 25)",
-         "null", 200, 200.0 * 0.3048 / 3.0},
+        {R"("distances": "map", "unit": "ft", "divisionValue": 1)", "null", 200,
+         200.0 * 0.3048 / 3.0},
     };
     for (const auto& row : rows) {
         const host::ScaleBarFrame& frame =
-            FitBar(R"({"type": "scale-bar-line", "divisions": 1, "units": "m", )" +
+            FitBar(R"({"type": "scale-bar-line", "divisions": 1, "units": "m",
+                       "divisionLength": 25, )" +
                        row.properties + "}",
                    row.extent);
         EXPECT_DOUBLE_EQ(frame.DivisionValue(), row.value) << row.properties;
@@ -114,23 +104,18 @@ TEST_F(FitToMap, DivisionsAreTrueToTheMap) {
 }
 
 TEST_F(FitToMap, KeepsWhatIsToStay) {
-    struct Row {
-        std::string fit;
-        int divisions;
-        double value;
-    };
     // 400 units of 3 m are to be no longer than 100, which are 300 m: 3 of 100 m are as
     // long, 4 of 50 m are 200 m, and there are ten times 30 m.
-    const Row rows[] = {{"width", 3, 100.0}, {"count", 4, 50.0}, {"value", 10, 30.0}};
-    for (const Row& row : rows) {
+    for (const auto& [fit, divisions, value] :
+         {std::tuple("width", 3, 100.0), {"count", 4, 50.0}, {"value", 10, 30.0}}) {
         host::ScaleBarFrame& frame = FitBar(
             R"({"type": "scale-bar-line", "distances": "map", "divisions": 4, "units": "m",
                 "divisionValue": 30, "divisionLength": 25, "fit": ")" +
-                row.fit + "\"}",
+                std::string(fit) + "\"}",
             "null");
-        EXPECT_EQ(host::ElementOf<CScaleBarBase>(frame)->GetMainDivCount(), row.divisions)
-            << row.fit;
-        EXPECT_DOUBLE_EQ(frame.DivisionValue(), row.value) << row.fit;
+        EXPECT_EQ(host::ElementOf<CScaleBarBase>(frame)->GetMainDivCount(), divisions)
+            << fit;
+        EXPECT_DOUBLE_EQ(frame.DivisionValue(), value) << fit;
     }
 }
 

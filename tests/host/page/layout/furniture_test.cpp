@@ -1,4 +1,4 @@
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <cmath>
 #include <optional>
@@ -13,13 +13,14 @@
 #include "map_surround/scale_bar.h"
 #include "page/element_of.h"
 #include "page/layout/laid_out.h"
-#include "page/layout/layout.h"
 #include "page/placed_frame.h"
 #include "recording/expect.h"
 
 namespace {
 
 using host_tests::LaidOut;
+using ::testing::AnyOf;
+using ::testing::DoubleNear;
 
 host::MapOnPage MapOf(double width, double height) {
     host::MapOnPage map;
@@ -61,20 +62,16 @@ TEST(Furniture, DivisionsAreTrueToTheMap) {
                 design.scaleBar.divisions = divisions;
                 design.scaleBar.distances = host::BarDistances::Map;
                 design.scaleBar.unit = host::DistanceUnit::Metre;
-                const host::LaidOutPage laidOut =
-                    host::LayOut(design, MapOf(width, width * 0.8));
-                const LaidOut found(laidOut.page);
-                const auto* const frame =
-                    dynamic_cast<const host::ScaleBarFrame*>(found.Of(SurroundScaleBar));
+                const LaidOut found(design, MapOf(width, width * 0.8));
+                auto* const frame = found.Of<host::ScaleBarFrame>(SurroundScaleBar);
                 ASSERT_NE(frame, nullptr);
-                EXPECT_NEAR(frame->DivisionLength() / found.map.GetWidth() * width /
+                EXPECT_NEAR(frame->DivisionLength() / found.map.Width() * width /
                                 frame->DivisionValue(),
                             1.0, 1e-12)
                     << "of a map " << width << " wide";
                 recording::Surface surface(8, 8);
                 recording::Recording recording(recording::Mode::RecordOnly);
-                found.Of(SurroundScaleBar)
-                    ->Draw(surface.Graphics(), CPoint(500, 500), 3.0);
+                frame->Draw(surface.Graphics(), CPoint(500, 500), 3.0);
                 const std::vector<Label> labels = LabelsOf(recording.Drawing());
                 const int count =
                     host::ElementOf<CScaleBarBase>(*frame)->GetMainDivCount();
@@ -90,15 +87,14 @@ TEST(Furniture, DivisionsAreTrueToTheMap) {
 }
 
 TEST(Furniture, CountsWhatItIsAskedToCount) {
-    struct Row {
-        std::optional<host::DistanceUnit> unit;
-        std::wstring name;
-        double metres;
-    };
     using host::DistanceUnit;
     // Less than a third of the 6 km of the map: a division is below a kilometre or a
     // mile.
-    const Row rows[] = {
+    const struct {
+        std::optional<DistanceUnit> unit;
+        std::wstring name;
+        double metres;
+    } rows[] = {
         {std::nullopt, L"m", 1.0},
         {DistanceUnit::Kilometre, L"km", 1000.0},
         {DistanceUnit::Foot, L"ft", 0.3048},
@@ -108,23 +104,21 @@ TEST(Furniture, CountsWhatItIsAskedToCount) {
         {DistanceUnit::Imperial, L"ft", 0.3048},
         {DistanceUnit::NauticalMile, L"nmi", 1852.0},
     };
-    for (const Row& row : rows) {
+    for (const auto& row : rows) {
         host::PageDesign design;
         design.scaleBar.distances = host::BarDistances::Map;
         design.scaleBar.unit = row.unit;
-        const host::LaidOutPage laidOut = host::LayOut(design, MapOf(6000.0, 4500.0));
-        const LaidOut found(laidOut.page);
-        const auto* const frame =
-            dynamic_cast<const host::ScaleBarFrame*>(found.Of(SurroundScaleBar));
+        const LaidOut found(design, MapOf(6000.0, 4500.0));
+        const auto* const frame = found.Of<host::ScaleBarFrame>(SurroundScaleBar);
         ASSERT_NE(frame, nullptr);
         EXPECT_EQ(host::ElementOf<CScaleBarBase>(*frame)->GetUnitsName(), row.name);
-        EXPECT_NEAR(frame->DivisionLength() / found.map.GetWidth() * 6000.0,
+        EXPECT_NEAR(frame->DivisionLength() / found.map.Width() * 6000.0,
                     frame->DivisionValue() * row.metres, 1e-6);
         const double digit =
             frame->DivisionValue() /
             std::pow(10.0, std::floor(std::log10(frame->DivisionValue()) + 1e-9));
-        EXPECT_TRUE(std::fabs(digit - 1.0) < 1e-9 || std::fabs(digit - 2.0) < 1e-9 ||
-                    std::fabs(digit - 5.0) < 1e-9)
+        EXPECT_THAT(digit, AnyOf(DoubleNear(1.0, 1e-9), DoubleNear(2.0, 1e-9),
+                                 DoubleNear(5.0, 1e-9)))
             << frame->DivisionValue();
     }
 }
@@ -136,16 +130,15 @@ const host::CatalogueEntry* StyleOf() {
 
 TEST(Furniture, IsLeftOutWhereTheMapHasNoCoordinates) {
     host::PageDesign design;
-    const host::LaidOutPage bare = host::LayOut(design, {nullptr, 1.5});
-    const LaidOut found(bare.page);
+    const LaidOut found(design, {nullptr, 1.5});
     EXPECT_EQ(found.Of(SurroundScaleBar), nullptr);
     EXPECT_EQ(found.Of(SurroundNorthArrow), nullptr);
     EXPECT_EQ(found.Of(SurroundLegend), nullptr);
 
     design.northArrow.style = StyleOf<CNorthArrowTwoAngle>();
     design.northArrow.angle = 0.0;
-    const host::LaidOutPage withArrow = host::LayOut(design, {nullptr, 1.5});
-    EXPECT_NE(LaidOut(withArrow.page).Of(SurroundNorthArrow), nullptr) << "as asked for";
+    EXPECT_NE(LaidOut(design, {nullptr, 1.5}).Of(SurroundNorthArrow), nullptr)
+        << "as asked for";
 }
 
 TEST(Furniture, TakesWhatTheDesignSays) {
@@ -162,36 +155,28 @@ TEST(Furniture, TakesWhatTheDesignSays) {
     design.legend.title = L"What it shows";
     host::MapOnPage map = MapOf(1000.0, 900.0);
     map.sources = {&source};
-    const host::LaidOutPage laidOut = host::LayOut(design, map);
-    const LaidOut found(laidOut.page);
+    const LaidOut found(design, map);
 
-    const auto* bar =
-        dynamic_cast<CScaleLine3*>(found.Of(SurroundScaleBar)->GetMapSurround());
-    ASSERT_NE(bar, nullptr);
-    EXPECT_EQ(bar->GetMainDivCount(), 4);
-    EXPECT_EQ(bar->GetSubDivCount(), 3);
-    EXPECT_EQ(bar->GetUnitPos(), UnitPosBefore);
-    EXPECT_EQ(bar->GetUnitsName(), L"Kilometre");
-    const auto* arrow = dynamic_cast<CNorthArrowFourAngle*>(
-        found.Of(SurroundNorthArrow)->GetMapSurround());
-    ASSERT_NE(arrow, nullptr);
-    EXPECT_FLOAT_EQ(arrow->GetAngle(), 12.5f);
-    const auto* legend =
-        dynamic_cast<CMapLegend*>(found.Of(SurroundLegend)->GetMapSurround());
-    ASSERT_NE(legend, nullptr);
-    EXPECT_EQ(legend->GetTitleValue(), L"What it shows");
+    const auto& bar = found.The<CScaleLine3>(SurroundScaleBar);
+    EXPECT_EQ(bar.GetMainDivCount(), 4);
+    EXPECT_EQ(bar.GetSubDivCount(), 3);
+    EXPECT_EQ(bar.GetUnitPos(), UnitPosBefore);
+    EXPECT_EQ(bar.GetUnitsName(), L"Kilometre");
+    EXPECT_FLOAT_EQ(found.The<CNorthArrowFourAngle>(SurroundNorthArrow).GetAngle(),
+                    12.5f);
+    EXPECT_EQ(found.The<CMapLegend>(SurroundLegend).GetTitleValue(), L"What it shows");
 
     design.legend.shown = false;
-    EXPECT_EQ(LaidOut(host::LayOut(design, map).page).Of(SurroundLegend), nullptr);
+    EXPECT_EQ(LaidOut(design, map).Of(SurroundLegend), nullptr);
 }
 
 TEST(Furniture, LeavesOutWhatItDoesNotKnowAndTells) {
     host::PageDesign design;
     design.scaleBar.numeric = true;
-    const host::LaidOutPage laidOut = host::LayOut(design, MapOf(10.0, 10.0));
-    EXPECT_EQ(laidOut.remarks.size(), 3u) << "north, the bar and the scale";
-    EXPECT_EQ(LaidOut(laidOut.page).Of(SurroundScaleBar), nullptr);
-    EXPECT_EQ(LaidOut(laidOut.page).Of(SurroundNorthArrow), nullptr);
+    const LaidOut found(design, MapOf(10.0, 10.0));
+    EXPECT_EQ(found.remarks.size(), 3u) << "north, the bar and the scale";
+    EXPECT_EQ(found.Of(SurroundScaleBar), nullptr);
+    EXPECT_EQ(found.Of(SurroundNorthArrow), nullptr);
     design.map.scale = 1000.0;
     EXPECT_THROW(host::LayOut(design, MapOf(10.0, 10.0)), std::runtime_error);
 }

@@ -2,36 +2,60 @@
 
 #include <map>
 #include <memory>
+#include <string>
+#include <utility>
 #include <variant>
+#include <vector>
 
-#include "page/page.h"
+#include "page/box.h"
+#include "page/layout/layout.h"
 
 namespace host_tests {
 
 /// What a layout has put on a page.
 struct LaidOut {
-    CBoundingBox map;
-    std::map<MapSurroundType, CSurroundFrame*> frames;  ///< of the elements
+    host::Page page;
+    std::vector<std::string> remarks;
+    host::Box map;
 
-    explicit LaidOut(const host::Page& page) {
+    explicit LaidOut(host::Page laid, std::vector<std::string> told = {})
+        : page(std::move(laid)), remarks(std::move(told)) {
         for (const host::PageItem& item : page.Items()) {
             if (const auto* found = std::get_if<host::MapFrame>(&item)) {
-                map = found->frame.GetExtent();
+                map = host::BoxOf(found->frame.GetExtent());
                 continue;
             }
             CSurroundFrame* const frame =
                 std::get<std::unique_ptr<CSurroundFrame>>(item).get();
             if (const CMapSurround* const element = frame->GetMapSurround()) {
-                frames[element->GetItemType()] = frame;
+                m_frames[element->GetItemType()] = frame;
             }
         }
     }
+    explicit LaidOut(host::LaidOutPage laid)
+        : LaidOut(std::move(laid.page), std::move(laid.remarks)) {}
+    LaidOut(const host::PageDesign& design, const host::MapOnPage& shown)
+        : LaidOut(host::LayOut(design, shown)) {}
 
-    /// Null where the page has none.
-    CSurroundFrame* Of(MapSurroundType type) const {
-        const auto found = frames.find(type);
-        return found == frames.end() ? nullptr : found->second;
+    /// Null where the page has none, or one of another class.
+    template <class Frame = CSurroundFrame>
+    Frame* Of(MapSurroundType type) const {
+        const auto found = m_frames.find(type);
+        return found == m_frames.end() ? nullptr : dynamic_cast<Frame*>(found->second);
     }
+
+    /// Fails the test where the page has none, or one of another class.
+    template <class Element>
+    Element& The(MapSurroundType type) const {
+        return dynamic_cast<Element&>(*m_frames.at(type)->GetMapSurround());
+    }
+
+    host::Box BoxOf(MapSurroundType type) const {
+        return host::BoxOf(m_frames.at(type)->GetExtent());
+    }
+
+private:
+    std::map<MapSurroundType, CSurroundFrame*> m_frames;  ///< of the elements
 };
 
 }  // namespace host_tests

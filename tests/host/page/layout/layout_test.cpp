@@ -1,6 +1,3 @@
-#include "page/layout/layout.h"
-#include "png_encoder.h"
-
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -12,26 +9,23 @@
 #include "map_surround/title.h"
 #include "page/layout/laid_out.h"
 #include "page/units.h"
+#include "png_encoder.h"
 #include "recording/expect.h"
 #include "scratch_folder.h"
 
 namespace {
 
+using host::Box;
 using host_tests::LaidOut;
 
-double Left(const CBoundingBox& box) { return box.TopLeft().x; }
-double Right(const CBoundingBox& box) { return box.TopLeft().x + box.GetWidth(); }
-double Top(const CBoundingBox& box) { return box.TopLeft().y; }
-double Bottom(const CBoundingBox& box) { return box.TopLeft().y - box.GetHeight(); }
-
-bool AreApart(const CBoundingBox& a, const CBoundingBox& b) {
-    return Right(a) <= Left(b) || Right(b) <= Left(a) || Bottom(a) >= Top(b) ||
-           Bottom(b) >= Top(a);
+bool AreApart(const Box& a, const Box& b) {
+    return a.right <= b.left || b.right <= a.left || a.bottom >= b.top ||
+           b.bottom >= a.top;
 }
 
-bool IsOnPage(const CBoundingBox& box, const host::Page& page) {
-    return Left(box) >= 0.0 && Bottom(box) >= 0.0 && Right(box) <= page.Width() &&
-           Top(box) <= page.Height() && box.GetWidth() > 0.0 && box.GetHeight() > 0.0;
+bool IsOnPage(const Box& box, const host::Page& page) {
+    return box.left >= 0.0 && box.bottom >= 0.0 && box.right <= page.Width() &&
+           box.top <= page.Height() && box.Width() > 0.0 && box.Height() > 0.0;
 }
 
 class Layout : public ::testing::Test {
@@ -60,22 +54,17 @@ TEST_F(Layout, KeepsEverythingApartAndOnThePage) {
                     design.title.points = points;
                 }
                 design.picture.path = logo;
-                const host::LaidOutPage laidOut =
-                    host::LayOut(design, {nullptr, aspectRatio});
-                const LaidOut laid(laidOut.page);
-                const std::string what = std::string(paperText) + " " +
-                                         std::to_string(aspectRatio) + " " +
-                                         std::to_string(points);
-                ASSERT_NE(laid.Of(SurroundMapTitle), nullptr) << what;
-                ASSERT_NE(laid.Of(SurroundPicture), nullptr) << what;
-                const CBoundingBox title = laid.Of(SurroundMapTitle)->GetExtent();
-                const CBoundingBox picture = laid.Of(SurroundPicture)->GetExtent();
-                EXPECT_TRUE(IsOnPage(laid.map, laidOut.page)) << what;
-                EXPECT_TRUE(AreApart(laid.map, title)) << what;
-                EXPECT_TRUE(AreApart(laid.map, picture)) << what;
-                EXPECT_TRUE(AreApart(title, picture)) << what;
+                const LaidOut laid(design, {nullptr, aspectRatio});
+                SCOPED_TRACE(std::string(paperText) + " " + std::to_string(aspectRatio) +
+                             " " + std::to_string(points));
+                const Box title = laid.BoxOf(SurroundMapTitle);
+                const Box picture = laid.BoxOf(SurroundPicture);
+                EXPECT_TRUE(IsOnPage(laid.map, laid.page));
+                EXPECT_TRUE(AreApart(laid.map, title));
+                EXPECT_TRUE(AreApart(laid.map, picture));
+                EXPECT_TRUE(AreApart(title, picture));
                 if (std::string(paperText).find("20") != 0) {
-                    EXPECT_TRUE(IsOnPage(picture, laidOut.page)) << what;
+                    EXPECT_TRUE(IsOnPage(picture, laid.page));
                 }
             }
         }
@@ -87,62 +76,52 @@ TEST_F(Layout, KeepsTheProportionsOfMapAndPicture) {
         host::PageDesign design;
         design.title.text = L"Title";
         design.picture.path = logo;
-        const host::LaidOutPage laidOut = host::LayOut(design, {nullptr, aspectRatio});
-        const LaidOut laid(laidOut.page);
-        EXPECT_NEAR(laid.map.GetWidth() / laid.map.GetHeight(), aspectRatio, 1.0e-9);
-        EXPECT_FLOAT_EQ(laid.Of(SurroundPicture)->GetMapSurround()->GetAspectRatio(),
-                        2.0f);
+        const LaidOut laid(design, {nullptr, aspectRatio});
+        EXPECT_NEAR(laid.map.Width() / laid.map.Height(), aspectRatio, 1.0e-9);
+        EXPECT_FLOAT_EQ(laid.The<CDrawPicture>(SurroundPicture).GetAspectRatio(), 2.0f);
     }
 }
 
 TEST_F(Layout, GivesThePanelsRoomToTheMapWhenThereIsNone) {
     host::PageDesign design;
-    const double bare = LaidOut(host::LayOut(design, {nullptr, 1.6}).page).map.GetWidth();
+    const LaidOut bare(design, {nullptr, 1.6});
     design.picture.path = logo;
-    const double beside =
-        LaidOut(host::LayOut(design, {nullptr, 1.6}).page).map.GetWidth();
-    EXPECT_GT(bare, beside);
+    EXPECT_GT(bare.map.Width(), LaidOut(design, {nullptr, 1.6}).map.Width());
 }
 
 TEST_F(Layout, PutsThePanelWhereTheMapStaysLarger) {
     host::PageDesign design;
     design.picture.path = logo;
-    const host::LaidOutPage square = host::LayOut(design, {nullptr, 1.0});
-    const CBoundingBox squareMap = LaidOut(square.page).map;
-    const CBoundingBox beside = LaidOut(square.page).Of(SurroundPicture)->GetExtent();
-    EXPECT_GT(Left(beside), Right(squareMap));
-    EXPECT_NEAR(Bottom(beside), Bottom(squareMap), 1.0e-9);
+    const LaidOut square(design, {nullptr, 1.0});
+    const Box beside = square.BoxOf(SurroundPicture);
+    EXPECT_GT(beside.left, square.map.right);
+    EXPECT_NEAR(beside.bottom, square.map.bottom, 1.0e-9);
 
-    const host::LaidOutPage wide = host::LayOut(design, {nullptr, 3.0});
-    const CBoundingBox wideMap = LaidOut(wide.page).map;
-    const CBoundingBox below = LaidOut(wide.page).Of(SurroundPicture)->GetExtent();
-    EXPECT_LT(Top(below), Bottom(wideMap));
-    EXPECT_NEAR(Right(below), Right(wideMap), 1.0e-9);
+    const LaidOut wide(design, {nullptr, 3.0});
+    const Box below = wide.BoxOf(SurroundPicture);
+    EXPECT_LT(below.top, wide.map.bottom);
+    EXPECT_NEAR(below.right, wide.map.right, 1.0e-9);
 }
 
 TEST_F(Layout, PlacesTheTitleInTheMiddleOnTop) {
     host::PageDesign design;
     design.title.text = L"Title";
-    const host::LaidOutPage laidOut = host::LayOut(design, {nullptr, 1.0});
-    const CBoundingBox title = LaidOut(laidOut.page).Of(SurroundMapTitle)->GetExtent();
-    EXPECT_NEAR(Left(title) + Right(title), laidOut.page.Width(), 1.0e-6);
-    EXPECT_GT(Bottom(title), Top(LaidOut(laidOut.page).map));
+    const LaidOut laid(design, {nullptr, 1.0});
+    const Box title = laid.BoxOf(SurroundMapTitle);
+    EXPECT_NEAR(title.left + title.right, laid.page.Width(), 1.0e-6);
+    EXPECT_GT(title.bottom, laid.map.top);
 }
-
-const std::vector<std::string> kOfNoGeoreference = {
-    "the scale bar is left out: the map has no georeference",
-    "the north arrow is left out: the map has no georeference"};
 
 TEST_F(Layout, SetsTheTitleInItsSize) {
     host::PageDesign design;
     design.title.text = L"Title";
     design.title.points = 36.0;
-    const host::LaidOutPage laidOut = host::LayOut(design, {nullptr, 1.0});
-    const auto* title = dynamic_cast<const CMapTitle*>(
-        LaidOut(laidOut.page).Of(SurroundMapTitle)->GetMapSurround());
-    ASSERT_NE(title, nullptr);
-    EXPECT_DOUBLE_EQ(title->GetFontSize(), 48.0);
-    EXPECT_EQ(laidOut.remarks, kOfNoGeoreference);
+    const LaidOut laid(design, {nullptr, 1.0});
+    EXPECT_DOUBLE_EQ(laid.The<CMapTitle>(SurroundMapTitle).GetFontSize(), 48.0);
+    EXPECT_THAT(laid.remarks,
+                ::testing::ElementsAre(
+                    "the scale bar is left out: the map has no georeference",
+                    "the north arrow is left out: the map has no georeference"));
 }
 
 TEST_F(Layout, SetsATitleSmallerThatWouldNotFit) {
@@ -151,34 +130,30 @@ TEST_F(Layout, SetsATitleSmallerThatWouldNotFit) {
     design.title.points = 100.0;
     design.scaleBar.style = nullptr;
     design.northArrow.style = nullptr;
-    const host::LaidOutPage laidOut = host::LayOut(design, {nullptr, 1.0});
-    const CSurroundFrame* title = LaidOut(laidOut.page).Of(SurroundMapTitle);
-    EXPECT_TRUE(IsOnPage(title->GetExtent(), laidOut.page));
-    const auto isToldOf = [](const host::LaidOutPage& page, const std::string& points) {
-        ASSERT_EQ(page.remarks.size(), 1u);
-        EXPECT_THAT(
-            page.remarks.front(),
+    const LaidOut laid(design, {nullptr, 1.0});
+    EXPECT_TRUE(IsOnPage(laid.BoxOf(SurroundMapTitle), laid.page));
+    const auto isSetSmallerThan = [](const std::string& points) {
+        return ::testing::ElementsAre(
             ::testing::MatchesRegex("the title is set in .* points to fit the page, "
                                     "instead of " +
                                     points + " points"));
     };
-    isToldOf(laidOut, "100.0");
+    EXPECT_THAT(laid.remarks, isSetSmallerThan("100.0"));
 
     // What suits the page is as large as it fits, but not half as large in silence.
     design.title.points.reset();
-    EXPECT_TRUE(host::LayOut(design, {nullptr, 1.0}).remarks.empty());
+    EXPECT_TRUE(LaidOut(design, {nullptr, 1.0}).remarks.empty());
     for (int i = 0; i < 6; ++i) {
         design.title.text.append(L" ").append(design.title.text);
     }
-    isToldOf(host::LayOut(design, {nullptr, 1.0}), "18.0");
+    EXPECT_THAT(LaidOut(design, {nullptr, 1.0}).remarks, isSetSmallerThan("18.0"));
 }
 
 TEST_F(Layout, HasNoFrameForATitleWithoutInk) {
     for (const wchar_t* text : {L"", L"   "}) {
         host::PageDesign design;
         design.title.text = text;
-        EXPECT_EQ(LaidOut(host::LayOut(design, {nullptr, 1.0}).page).Of(SurroundMapTitle),
-                  nullptr);
+        EXPECT_EQ(LaidOut(design, {nullptr, 1.0}).Of(SurroundMapTitle), nullptr);
     }
 }
 
@@ -188,8 +163,8 @@ TEST_F(Layout, DecoratesFramesAsAskedFor) {
     design.frames.border.reset();
     design.frames.shadow = Gdiplus::Color(0xFF112233);
     design.frames.background = Gdiplus::Color(0x80445566);
-    const host::LaidOutPage laidOut = host::LayOut(design, {nullptr, 1.0});
-    const CSurroundFrame* title = LaidOut(laidOut.page).Of(SurroundMapTitle);
+    const LaidOut laid(design, {nullptr, 1.0});
+    const CSurroundFrame* title = laid.Of(SurroundMapTitle);
     EXPECT_FALSE(title->DrawBorder);
     EXPECT_TRUE(title->DrawShadow);
     EXPECT_EQ(title->ShadowColor.GetValue(), 0xFF112233u);

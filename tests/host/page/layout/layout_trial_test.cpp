@@ -5,14 +5,13 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdlib>
 #include <random>
 #include <sstream>
 #include <string>
 
+#include "given.h"
 #include "legend/fake_sources.h"
 #include "page/layout/laid_out.h"
-#include "page/layout/layout.h"
 #include "page/layout/page_remarks.h"
 #include "page/layout/text_size.h"
 #include "system/utf8.h"
@@ -20,6 +19,7 @@
 namespace {
 
 using host::LayoutDesign;
+using host_tests::Given;
 using host_tests::LaidOut;
 
 constexpr const char* kProjection =
@@ -110,12 +110,6 @@ double LeastShare(const Case& page) {
     return 0.0;
 }
 
-std::uint32_t Given(const char* name, std::uint32_t otherwise) {
-    const char* const text = std::getenv(name);
-    return text == nullptr ? otherwise
-                           : static_cast<std::uint32_t>(std::strtoul(text, nullptr, 10));
-}
-
 /// The page of a case, with the sources that its legend explains.
 struct MadePage {
     explicit MadePage(const Case& page)
@@ -158,12 +152,12 @@ void Check(std::uint32_t seed) {
     told << "LAYOUT_PAGES_FIRST=" << seed << ": " << page;
     SCOPED_TRACE(told.str());
     MadePage made(page);
-    const host::LaidOutPage laidOut = host::LayOut(made.design, made.map);
+    const LaidOut laid(made.design, made.map);
 
-    EXPECT_THAT(host::RemarksOf(laidOut.page), ::testing::IsEmpty());
+    EXPECT_THAT(host::RemarksOf(laid.page), ::testing::IsEmpty());
     double mapArea = 0.0;
     bool hasLegend = false;
-    for (const host::PageItem& item : laidOut.page.Items()) {
+    for (const host::PageItem& item : laid.page.Items()) {
         const host::Box box = host::BoxOf(host::FrameOf(item).GetExtent());
         if (std::holds_alternative<host::MapFrame>(item)) {
             mapArea = box.Width() * box.Height();
@@ -173,7 +167,6 @@ void Check(std::uint32_t seed) {
             EXPECT_GE(*points, 5.99) << host::NameOf(item);
         }
     }
-    const LaidOut laid(laidOut.page);
     const CSurroundFrame* const arrow = laid.Of(SurroundNorthArrow);
     const CSurroundFrame* const picture = laid.Of(SurroundPicture);
     ASSERT_TRUE(arrow != nullptr && picture != nullptr);
@@ -181,19 +174,15 @@ void Check(std::uint32_t seed) {
 
     // Only a legend may be too long for its sheet, and that is told.
     const bool isLeftOut = page.rows > 0 && !hasLegend;
-    EXPECT_EQ(laidOut.remarks.size(), isLeftOut ? 1u : 0u)
-        << ::testing::PrintToString(laidOut.remarks);
+    EXPECT_EQ(laid.remarks.size(), isLeftOut ? 1u : 0u)
+        << ::testing::PrintToString(laid.remarks);
     const bool isLong = page.rows > (page.hasLongNames ? 14 : 24);
     EXPECT_FALSE(isLeftOut && !isLong);
 
     const double width =
-        std::min(laidOut.page.Width(), laidOut.page.Height() * page.aspectRatio);
+        std::min(laid.page.Width(), laid.page.Height() * page.aspectRatio);
     const double share = mapArea / (width * width / page.aspectRatio);
     EXPECT_GE(share, LeastShare(page));
-    if (std::getenv("LAYOUT_PAGES_TOLD") != nullptr) {
-        std::printf("%.3f %.3f %s%s\n", share / LeastShare(page), share,
-                    told.str().c_str(), isLeftOut ? ", no legend" : "");
-    }
 }
 
 constexpr int kParts = 4;

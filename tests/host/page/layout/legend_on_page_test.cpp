@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <cstdlib>
 #include <memory>
 #include <set>
@@ -9,9 +8,11 @@
 #include "legend/fake_sources.h"
 #include "map_surround/legend.h"
 #include "page/page.h"
-#include "recording/expect.h"
+#include "page/page_pixels.h"
 
 namespace {
+
+using host_tests::PagePixels;
 
 constexpr double kSide = 320.0;  // page units
 
@@ -37,55 +38,25 @@ host::Page LegendPage(const std::vector<CGISDataSource*>& sources, int size) {
     return page;
 }
 
-/// The grey values of a page, row by row; -1 for what is no grey.
-struct Greys {
-    int width;
-    int height;
-    std::vector<int> values;
-    int At(int x, int y) const {
-        return values[static_cast<std::size_t>(y) * static_cast<std::size_t>(width) +
-                      static_cast<std::size_t>(x)];
-    }
-};
-
-Greys Read(Gdiplus::Bitmap& bitmap, int width, int height, bool mix) {
-    Greys greys = {width, height, {}};
-    for (int y = 0; y < height; ++y) {
-        for (int x = 0; x < width; ++x) {
-            Gdiplus::Color pixel;
-            bitmap.GetPixel(x, y, &pixel);
-            const bool isGrey =
-                pixel.GetR() == pixel.GetG() && pixel.GetG() == pixel.GetB();
-            const int mixed = (pixel.GetR() + pixel.GetG() + pixel.GetB()) / 3;
-            greys.values.push_back(mix || isGrey ? mixed : -1);
-        }
-    }
-    return greys;
-}
-
-std::unique_ptr<Gdiplus::Bitmap> Draw(const host::Page& page, double dpi) {
-    const Gdiplus::Size size = host::PixelSize(page, dpi);
-    auto bitmap = std::make_unique<Gdiplus::Bitmap>(size.Width, size.Height);
-    Gdiplus::Graphics graphics(bitmap.get());
-    page.Draw(graphics, dpi);
-    return bitmap;
+/// A pixel's grey; -1 where it is none.
+int GreyAt(const PagePixels& drawn, int x, int y) {
+    const Gdiplus::Color pixel = drawn.At(x, y);
+    const bool isGrey = pixel.GetR() == pixel.GetG() && pixel.GetG() == pixel.GetB();
+    return isGrey ? pixel.GetR() : -1;
 }
 
 TEST(LegendOnPage, RampRunsFromLightToBlack) {
     fakes::Raster source = Source(DisplayGray);
     for (const double dpi : {96.0, 150.0, 300.0}) {
-        const host::Page page = LegendPage({&source}, 150);
-        const Gdiplus::Size size = host::PixelSize(page, dpi);
-        const auto bitmap = Draw(page, dpi);
-        const Greys greys = Read(*bitmap, size.Width, size.Height, false);
+        const PagePixels drawn(LegendPage({&source}, 150), dpi);
 
         // The column with the most different greys goes through the ramp, not the texts.
         int rampColumn = 0;
         std::size_t most = 0;
-        for (int x = 0; x < greys.width; ++x) {
+        for (int x = 0; x < drawn.width; ++x) {
             std::set<int> different;
-            for (int y = 0; y < greys.height; ++y) {
-                different.insert(greys.At(x, y));
+            for (int y = 0; y < drawn.height; ++y) {
+                different.insert(GreyAt(drawn, x, y));
             }
             if (different.size() > most) {
                 most = different.size();
@@ -98,54 +69,52 @@ TEST(LegendOnPage, RampRunsFromLightToBlack) {
         int begin = 0;
         int length = 0;
         int run = 0;
-        for (int y = 0; y < greys.height; ++y) {
-            run = greys.At(x, y) == 255 ? 0 : run + 1;
+        for (int y = 0; y < drawn.height; ++y) {
+            run = GreyAt(drawn, x, y) == 255 ? 0 : run + 1;
             if (run > length) {
                 length = run;
                 begin = y - run + 1;
             }
         }
         ASSERT_GT(length, 20);
-        EXPECT_GE(greys.At(x, begin), 235) << "starts light, at " << dpi;
+        EXPECT_GE(GreyAt(drawn, x, begin), 235) << "starts light, at " << dpi;
         for (int y = begin + 1; y < begin + length; ++y) {
-            EXPECT_LE(greys.At(x, y), greys.At(x, y - 1)) << "gets darker, at " << dpi;
+            EXPECT_LE(GreyAt(drawn, x, y), GreyAt(drawn, x, y - 1))
+                << "gets darker, at " << dpi;
         }
-        EXPECT_LE(greys.At(x, begin + length - 1), 2) << "ends in black, at " << dpi;
+        EXPECT_LE(GreyAt(drawn, x, begin + length - 1), 2) << "ends in black, at " << dpi;
     }
 }
 
-/// A page brought to a coarse grid, in which hinting and smoothing no longer show.
-Greys Coarse(const host::Page& page, double dpi) {
+/// The mean shade in each field of a coarse grid, in which hinting and smoothing no
+/// longer show.
+std::vector<long> Coarse(const host::Page& page, double dpi) {
     constexpr int kGrid = 80;
-    const auto bitmap = Draw(page, dpi);
-    const Gdiplus::Size size = host::PixelSize(page, dpi);
-    const Greys all = Read(*bitmap, size.Width, size.Height, true);
-    Greys coarse = {kGrid, kGrid, {}};
-    for (int row = 0; row < kGrid; ++row) {
-        for (int column = 0; column < kGrid; ++column) {
-            long sum = 0;
-            long count = 0;
-            for (int y = row * all.height / kGrid; y < (row + 1) * all.height / kGrid;
-                 ++y) {
-                for (int x = column * all.width / kGrid;
-                     x < (column + 1) * all.width / kGrid; ++x) {
-                    sum += all.At(x, y);
-                    ++count;
-                }
-            }
-            coarse.values.push_back(static_cast<int>(sum / std::max(1L, count)));
+    const PagePixels all(page, dpi);
+    std::vector<long> sums(std::size_t{kGrid} * kGrid);
+    std::vector<long> counts(sums.size());
+    for (int y = 0; y < all.height; ++y) {
+        for (int x = 0; x < all.width; ++x) {
+            const auto field = static_cast<std::size_t>(y * kGrid / all.height * kGrid +
+                                                        x * kGrid / all.width);
+            const Gdiplus::Color pixel = all.At(x, y);
+            sums[field] += (pixel.GetR() + pixel.GetG() + pixel.GetB()) / 3;
+            ++counts[field];
         }
     }
-    return coarse;
+    for (std::size_t i = 0; i < sums.size(); ++i) {
+        sums[i] /= counts[i];
+    }
+    return sums;
 }
 
 /// How far two pictures are from each other, as a part of their ink.
-double Difference(const Greys& a, const Greys& b) {
+double Difference(const std::vector<long>& a, const std::vector<long>& b) {
     double difference = 0.0;
     double ink = 0.0;
-    for (std::size_t i = 0; i < a.values.size(); ++i) {
-        difference += std::abs(a.values[i] - b.values[i]);
-        ink += 255 - a.values[i];
+    for (std::size_t i = 0; i < a.size(); ++i) {
+        difference += static_cast<double>(std::abs(a[i] - b[i]));
+        ink += static_cast<double>(255 - a[i]);
     }
     return difference / ink;
 }
@@ -154,9 +123,9 @@ TEST(LegendOnPage, IsTheSamePictureAtAnyResolution) {
     fakes::Raster rgb = Source(DisplayRGB);
     fakes::Raster grey = Source(DisplayGray);
     const std::vector<CGISDataSource*> sources = {&rgb, &grey};
-    const Greys screen = Coarse(LegendPage(sources, 240), 96.0);
-    const Greys print = Coarse(LegendPage(sources, 240), 300.0);
-    const Greys other = Coarse(LegendPage(sources, 228), 300.0);
+    const std::vector<long> screen = Coarse(LegendPage(sources, 240), 96.0);
+    const std::vector<long> print = Coarse(LegendPage(sources, 240), 300.0);
+    const std::vector<long> other = Coarse(LegendPage(sources, 228), 300.0);
     EXPECT_LT(Difference(screen, print), 0.5 * Difference(screen, other))
         << "the same legend is nearer than one that is 5 % smaller";
 }

@@ -9,7 +9,6 @@
 #include "page/catalogue.h"
 #include "page/document/document_test.h"
 #include "page/document/page_text.h"
-#include "page/document/raster_store.h"
 #include "page/layout/text_size.h"
 
 namespace {
@@ -34,8 +33,14 @@ TEST_F(PageRemarks, TellOfEachElementWhatAReaderWouldStumbleOver) {
         Item("map", At(50, 250, 200, 200), R"("rasters": ["scene.tif"], )");
     const std::string neatLine =
         Item("frame", At(10, 290, 380, 280), R"("name": "neat line", )");
-    const std::string text = R"("text": "Olinda", "font": "Arial", "fontSize": 20, )";
-    const std::string title = Item("title", At(100, 280, 100, 28), text);
+    const auto titleAt = [](int left, int top, const std::string& text = "Olinda",
+                            const std::string& size = "20",
+                            const std::string& name = "title") {
+        return Item("title", At(left, top, 100, 28),
+                    R"("font": "Arial", "text": ")" + text + R"(", "fontSize": )" + size +
+                        R"(, "name": ")" + name + "\", ");
+    };
+    const std::string title = titleAt(100, 280);
     const std::string logo = R"("path": "logo.png", "size": 48, )";
     const std::string opaque = R"("fill": true, "fillColor": "#FFFFFF", )";
     const auto bar = [](int divisions, int subdivisions, double length) {
@@ -52,35 +57,29 @@ TEST_F(PageRemarks, TellOfEachElementWhatAReaderWouldStumbleOver) {
     } rows[] = {
         {"a page as it should be", neatLine + "," + map + "," + title, {}},
         {"drawn in another order", title + "," + map + "," + neatLine, {}},
-        {"within the map", map + "," + Item("title", At(60, 240, 100, 28), text), {}},
-        {"before the map",
-         Item("title", At(60, 240, 100, 28), text) + "," + map,
-         {"title: is covered by map"}},
+        {"within the map", map + "," + titleAt(60, 240), {}},
+        {"before the map", titleAt(60, 240) + "," + map, {"title: is covered by map"}},
         {"over the map's edge",
-         map + "," + Item("title", At(200, 240, 100, 28), text),
+         map + "," + titleAt(200, 240),
          {"title: lies over the edge of map"}},
-        {"under the map's edge",
-         Item("title", At(200, 240, 100, 28), text) + "," + map,
-         {"map: lies over title"}},
+        {"under the map's edge", titleAt(200, 240) + "," + map, {"map: lies over title"}},
         {"over the neat line",
-         neatLine + "," + Item("title", At(300, 280, 98, 28), text),
+         neatLine + "," + titleAt(295, 280),
          {"title: lies over the edge of neat line"}},
         {"under a neat line's edge",
-         Item("title", At(300, 280, 98, 28), text) + "," + neatLine,
+         titleAt(295, 280) + "," + neatLine,
          {"title: lies over the edge of neat line"}},
         {"two titles",
-         title + "," + Item("title", At(150, 270, 100, 28), text + R"("name": "sub", )"),
+         title + "," + titleAt(150, 270, "Olinda", "20", "sub"),
          {"sub: lies over title"}},
-        {"side by side", title + "," + Item("title", At(200, 280, 100, 28), text), {}},
+        {"side by side", title + "," + titleAt(200, 280), {}},
         {"on a panel", Item("frame", At(90, 290, 150, 60), "", opaque) + "," + title, {}},
         {"under a panel",
          title + "," +
              Item("frame", At(90, 290, 150, 60), R"("name": "panel", )", opaque),
          {"title: is covered by panel"}},
         {"a title that was made longer",
-         Item(
-             "title", At(100, 280, 100, 28),
-             R"("text": "Olinda and its surroundings", "font": "Arial", "fontSize": 20, )"),
+         titleAt(100, 280, "Olinda and its surroundings"),
          {"title: leaves its frame by "}},
         {"a title without a frame",
          R"({"type": "title", "text": "Olinda", "frame": {"left": 200, "top": 200}})",
@@ -95,13 +94,9 @@ TEST_F(PageRemarks, TellOfEachElementWhatAReaderWouldStumbleOver) {
          Item("picture", At(100, 100, 40, 40), logo),
          {"picture: leaves its frame by 3.2 mm"}},
         {"small type",
-         Item("title", At(100, 280, 100, 28),
-              R"("text": "a", "font": "Arial", "fontSize": 6, )"),
+         titleAt(100, 280, "a", "6"),
          {"title: is written in 4.5 points, smaller than 5"}},
-        {"type that is large enough",
-         Item("title", At(100, 280, 100, 28),
-              R"("text": "a", "font": "Arial", "fontSize": 6.7, )"),
-         {}},
+        {"type that is large enough", titleAt(100, 280, "a", "6.7"), {}},
         {"a bar", bar(4, 2, 40.0), {}},
         {"a bar whose numbers meet",
          bar(10, 0, 20.0),
@@ -129,11 +124,10 @@ TEST_F(PageRemarks, TellOfEachElementWhatAReaderWouldStumbleOver) {
 
 /// The em sizes in which an element of 100 units writes, as its manual says.
 TEST_F(PageRemarks, KnowTheSmallestTextOfEveryElement) {
-    struct Row {
+    const struct {
         const char* item;
         double units;
-    };
-    const Row rows[] = {
+    } rows[] = {
         {R"("title", "text": "a", "fontSize": 40)", 40.0},
         {R"("numeric-scale", "fontSize": 24)", 24.0},
         {R"("scale-bar-alternating", "size": 100)", 25.0},
@@ -142,7 +136,7 @@ TEST_F(PageRemarks, KnowTheSmallestTextOfEveryElement) {
         {R"("north-arrow-four", "size": 100)", 20.0},
         {R"("north-arrow-eight", "size": 100)", 10.0},
     };
-    for (const Row& row : rows) {
+    for (const auto& row : rows) {
         const auto points = host::SmallestText(
             host::ReadItem(R"({"type": )" + std::string(row.item) + "}"));
         ASSERT_TRUE(points.has_value()) << row.item;
@@ -157,7 +151,6 @@ TEST_F(PageRemarks, KnowTheSmallestTextOfEveryElement) {
 
 /// A legend's rows are as high as the ink of "Band_1", and so is what it writes.
 TEST_F(PageRemarks, KnowHowSmallALegendIs) {
-    host::RasterStore store;
     const auto points = [&](const std::string& more) {
         host::PageItem item = host::ReadItem(
             R"({"type": "legend", "fileNameSize": 40, "titleSize": 60, "rasters": [")" +

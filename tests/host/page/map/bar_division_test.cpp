@@ -1,12 +1,11 @@
 #include "page/map/bar_division.h"
 
 #include <gtest/gtest.h>
-#include <ogr_spatialref.h>
 
 #include <cmath>
-#include <string>
 
 #include "map_surround/scale_bar.h"
+#include "page/map/wkt.h"
 
 namespace {
 
@@ -35,24 +34,23 @@ TEST(DistanceUnits, ChooseTheLargerAsSoonAsADivisionIsOneOfIt) {
 TEST(BarDivision, CountsCoordinatesInTheUnitThatIsAskedFor) {
     // A bar of at most 10 000 map units, which are metres.
     const BarMeasure metres = BarMeasure::OfCoordinates(1.0);
-    const auto division = host::LargestDivision(metres, DistanceUnit::Metric, 4, 10000.0);
-    ASSERT_TRUE(division.has_value());
-    EXPECT_EQ(division->unit, DistanceUnit::Kilometre);
-    EXPECT_EQ(division->value, 2.0);
-    EXPECT_DOUBLE_EQ(division->mapUnits, 2000.0);
+    const auto kilometres =
+        host::LargestDivision(metres, DistanceUnit::Metric, 4, 10000.0).value();
+    EXPECT_EQ(kilometres.unit, DistanceUnit::Kilometre);
+    EXPECT_EQ(kilometres.value, 2.0);
+    EXPECT_DOUBLE_EQ(kilometres.mapUnits, 2000.0);
 
-    const auto miles = host::LargestDivision(metres, DistanceUnit::Mile, 3, 10000.0);
-    ASSERT_TRUE(miles.has_value());
-    EXPECT_EQ(miles->value, 2.0);
-    EXPECT_DOUBLE_EQ(miles->mapUnits, 3218.688);
+    const auto miles =
+        host::LargestDivision(metres, DistanceUnit::Mile, 3, 10000.0).value();
+    EXPECT_EQ(miles.value, 2.0);
+    EXPECT_DOUBLE_EQ(miles.mapUnits, 3218.688);
 
     // Feet over coordinates in US survey feet: 2 000 000 of one are 2 000 004 of the
     // other.
     const BarMeasure survey = BarMeasure::OfCoordinates(1200.0 / 3937.0);
     const auto feet =
-        host::DivisionOfValue(survey, DistanceUnit::Foot, 2000004.0, 1, 1e9);
-    ASSERT_TRUE(feet.has_value());
-    EXPECT_NEAR(feet->mapUnits, 2000000.0, 1e-3);
+        host::DivisionOfValue(survey, DistanceUnit::Foot, 2000004.0, 1, 1e9).value();
+    EXPECT_NEAR(feet.mapUnits, 2000000.0, 1e-3);
 }
 
 TEST(BarDivision, IsNoneWhereNothingFits) {
@@ -65,21 +63,15 @@ TEST(BarDivision, IsNoneWhereNothingFits) {
 
 TEST(BarDivision, MakesTheWholeBarTrueOnTheGround) {
     // Europe on a map in degrees: the ends of a bar of 30 degrees at 50 degrees north.
-    OGRSpatialReference system;
-    system.importFromEPSG(4326);
-    char* text = nullptr;
-    system.exportToWkt(&text);
-    const std::string wkt = text;
-    CPLFree(text);
-    const auto ground = host::MapGround::Of(wkt, {-20.0, 30.0, 40.0, 70.0});
-    ASSERT_TRUE(ground.has_value());
-    const BarMeasure measure = BarMeasure::OfGround(*ground);
-    const auto division = host::LargestDivision(measure, DistanceUnit::Metric, 4, 30.0);
-    ASSERT_TRUE(division.has_value());
-    EXPECT_EQ(division->unit, DistanceUnit::Kilometre);
-    EXPECT_EQ(division->value, 500.0);
+    const auto ground =
+        host::MapGround::Of(host_tests::Wkt(4326), {-20.0, 30.0, 40.0, 70.0}).value();
+    const auto division =
+        host::LargestDivision(BarMeasure::OfGround(ground), DistanceUnit::Metric, 4, 30.0)
+            .value();
+    EXPECT_EQ(division.unit, DistanceUnit::Kilometre);
+    EXPECT_EQ(division.value, 500.0);
     // On a sphere of the Earth's mean radius, within the flattening.
-    const double half = division->mapUnits * 2.0 * std::acos(-1.0) / 180.0;
+    const double half = division.mapUnits * 2.0 * std::acos(-1.0) / 180.0;
     const double latitude = 50.0 * std::acos(-1.0) / 180.0;
     const double chord = std::cos(latitude) * std::sin(half);
     EXPECT_NEAR(2.0 * 6371.0 * std::asin(chord), 2000.0, 2000.0 / 298.0);

@@ -5,8 +5,9 @@
 
 #include <cmath>
 #include <memory>
-#include <optional>
 #include <string>
+
+#include "page/map/wkt.h"
 
 namespace {
 
@@ -18,15 +19,7 @@ constexpr double kSemiMajor = 6378137.0;
 constexpr double kFlattening = 1.0 / 298.257223563;
 constexpr double kEccentricity2 = kFlattening * (2.0 - kFlattening);
 
-std::string Wkt(int epsg) {
-    OGRSpatialReference system;
-    EXPECT_EQ(system.importFromEPSG(epsg), OGRERR_NONE);
-    char* text = nullptr;
-    system.exportToWkt(&text);
-    std::string wkt = text;
-    CPLFree(text);
-    return wkt;
-}
+using host_tests::Wkt;
 
 /// A small map around a place, in the map's own coordinates.
 host::Box Around(int epsg, double longitude, double latitude, double size) {
@@ -61,20 +54,19 @@ double Convergence(double fromCentralMeridian, double latitude) {
            kRadians;
 }
 
-std::optional<host::MapGround> GroundAt(int epsg, double longitude, double latitude,
-                                        double size) {
-    return host::MapGround::Of(Wkt(epsg), Around(epsg, longitude, latitude, size));
+host::MapGround GroundAt(int epsg, double longitude, double latitude, double size) {
+    return host::MapGround::Of(Wkt(epsg), Around(epsg, longitude, latitude, size))
+        .value();
 }
 
 TEST(MapGeometry, KnowsWhatCoordinatesCount) {
     using Kind = host::CoordinateUnit::Kind;
-    struct Row {
+    const struct {
         std::string projection;
         Kind kind;
         double size;
         std::string name;
-    };
-    const Row rows[] = {
+    } rows[] = {
         {Wkt(32725), Kind::Length, 1.0, "metre"},
         {Wkt(3857), Kind::Length, 1.0, "metre"},
         {Wkt(4326), Kind::Angle, 1.0, "degree"},
@@ -84,7 +76,7 @@ TEST(MapGeometry, KnowsWhatCoordinatesCount) {
         {"", Kind::Unknown, 0.0, ""},
         {"no WKT", Kind::Unknown, 0.0, ""},
     };
-    for (const Row& row : rows) {
+    for (const auto& row : rows) {
         const host::CoordinateUnit unit = host::UnitOf(row.projection);
         EXPECT_EQ(unit.kind, row.kind) << row.projection;
         EXPECT_NEAR(unit.size, row.size, 1e-12) << row.projection;
@@ -93,92 +85,73 @@ TEST(MapGeometry, KnowsWhatCoordinatesCount) {
 }
 
 TEST(MapGeometry, TurnsTowardsTrueNorth) {
-    struct Row {
+    const struct {
         int epsg;
         double centralMeridian;
         double longitude;
         double latitude;
-    };
-    const Row rows[] = {
+    } rows[] = {
         {32725, -33.0, -34.9, -8.0},  // the west of a zone south of the equator
         {32633, 15.0, 17.9, 52.0},    // the east of one north of it
         {32633, 15.0, 12.1, 70.0},
         {32633, 15.0, 15.0, 52.0},
     };
-    for (const Row& row : rows) {
+    for (const auto& row : rows) {
         const auto ground = GroundAt(row.epsg, row.longitude, row.latitude, 1000.0);
-        ASSERT_TRUE(ground.has_value());
-        const std::optional<double> angle = ground->TrueNorth();
-        ASSERT_TRUE(angle.has_value());
-        EXPECT_NEAR(*angle,
+        EXPECT_NEAR(ground.TrueNorth().value(),
                     -Convergence(row.longitude - row.centralMeridian, row.latitude), 0.01)
             << row.epsg << " at " << row.longitude << " " << row.latitude;
     }
     // Around the South Pole, the meridian of 90 degrees east lies level, the pole left.
-    const auto polar = GroundAt(3031, 90.0, -75.0, 1000.0);
-    ASSERT_TRUE(polar.has_value());
-    EXPECT_NEAR(polar->TrueNorth().value(), 90.0, 1e-6);
-    const auto geographic = GroundAt(4326, 10.0, 45.0, 0.5);
-    ASSERT_TRUE(geographic.has_value());
-    EXPECT_NEAR(geographic->TrueNorth().value(), 0.0, 1e-6);
+    EXPECT_NEAR(GroundAt(3031, 90.0, -75.0, 1000.0).TrueNorth().value(), 90.0, 1e-6);
+    EXPECT_NEAR(GroundAt(4326, 10.0, 45.0, 0.5).TrueNorth().value(), 0.0, 1e-6);
 }
 
 TEST(MapGeometry, MeasuresOnTheGround) {
     for (const double latitude : {0.0, 45.0, 70.0, -45.0}) {
         const double metres = DegreeOfLongitude(latitude);
         const auto inDegrees = GroundAt(4326, 10.0, latitude, 0.5);
-        ASSERT_TRUE(inDegrees.has_value());
-        EXPECT_NEAR(inDegrees->Metres(0.01).value() / metres, 0.01, 1e-5) << latitude;
+        EXPECT_NEAR(inDegrees.Metres(0.01).value() / metres, 0.01, 1e-5) << latitude;
 
         // Mercator's unit is a metre at the equator only.
         const auto mercator = GroundAt(3857, 10.0, latitude, 5000.0);
-        ASSERT_TRUE(mercator.has_value());
-        EXPECT_NEAR(mercator->Metres(100.0).value() / (metres / DegreeOfLongitude(0.0)),
+        EXPECT_NEAR(mercator.Metres(100.0).value() / (metres / DegreeOfLongitude(0.0)),
                     100.0, 0.1)
             << latitude;
     }
     // A UTM zone's central meridian is drawn at 0.9996 of its length.
-    const auto utm = GroundAt(32633, 15.0, 45.0, 1000.0);
-    ASSERT_TRUE(utm.has_value());
-    EXPECT_NEAR(utm->Metres(100.0).value(), 100.0 / 0.9996, 1e-4);
+    EXPECT_NEAR(GroundAt(32633, 15.0, 45.0, 1000.0).Metres(100.0).value(), 100.0 / 0.9996,
+                1e-4);
 }
 
 TEST(MapGeometry, FindsTheWayBack) {
     const auto ground = GroundAt(4326, 10.0, 45.0, 20.0);
-    ASSERT_TRUE(ground.has_value());
     for (const double metres : {1.0, 1000.0, 1.0e6}) {
-        const std::optional<double> units = ground->MapUnits(metres, 40.0);
-        ASSERT_TRUE(units.has_value()) << metres;
-        EXPECT_NEAR(ground->Metres(*units).value() / metres, 1.0, 1e-9);
+        const double units = ground.MapUnits(metres, 40.0).value();
+        EXPECT_NEAR(ground.Metres(units).value() / metres, 1.0, 1e-9);
     }
-    EXPECT_FALSE(ground->MapUnits(1.0e7, 40.0).has_value()) << "longer than the map";
-    EXPECT_FALSE(ground->MapUnits(-1.0, 40.0).has_value());
+    EXPECT_FALSE(ground.MapUnits(1.0e7, 40.0).has_value()) << "longer than the map";
+    EXPECT_FALSE(ground.MapUnits(-1.0, 40.0).has_value());
 }
 
 TEST(MapGeometry, GoesNoFurtherThanDistancesGrow) {
     // Half around the equator is as far as anything is.
-    const host::Box world = {-180.0, -90.0, 180.0, 90.0};
-    const auto ground = host::MapGround::Of(Wkt(4326), world);
-    ASSERT_TRUE(ground.has_value());
-    EXPECT_LE(ground->Reach(360.0), 180.0);
-    EXPECT_GT(ground->Reach(360.0), 160.0);
-    EXPECT_EQ(ground->Reach(90.0), 90.0);
+    const auto world =
+        host::MapGround::Of(Wkt(4326), {-180.0, -90.0, 180.0, 90.0}).value();
+    EXPECT_LE(world.Reach(360.0), 180.0);
+    EXPECT_GT(world.Reach(360.0), 160.0);
+    EXPECT_EQ(world.Reach(90.0), 90.0);
     // What is drawn around the disc of the Earth is nowhere on it.
-    const host::Box disc = {-2.0e7, -2.0e7, 2.0e7, 2.0e7};
-    const auto lambert = host::MapGround::Of(Wkt(3035), disc);
-    ASSERT_TRUE(lambert.has_value());
-    EXPECT_GT(lambert->Reach(4.0e7), 1.0e6);
+    const auto disc =
+        host::MapGround::Of(Wkt(3035), {-2.0e7, -2.0e7, 2.0e7, 2.0e7}).value();
+    EXPECT_GT(disc.Reach(4.0e7), 1.0e6);
 }
 
 TEST(MapGeometry, TellsWhereUpwardsIsAnotherScale) {
     // A degree of latitude at 45 degrees is 111 132 m on WGS 84.
-    const auto degrees = GroundAt(4326, 10.0, 45.0, 0.5);
-    ASSERT_TRUE(degrees.has_value());
-    EXPECT_NEAR(degrees->UpwardStretch().value(), DegreeOfLongitude(45.0) / 111132.0,
-                1e-5);
-    const auto utm = GroundAt(32633, 15.0, 45.0, 1000.0);
-    ASSERT_TRUE(utm.has_value());
-    EXPECT_NEAR(utm->UpwardStretch().value(), 1.0, 1e-6);
+    EXPECT_NEAR(GroundAt(4326, 10.0, 45.0, 0.5).UpwardStretch().value(),
+                DegreeOfLongitude(45.0) / 111132.0, 1e-5);
+    EXPECT_NEAR(GroundAt(32633, 15.0, 45.0, 1000.0).UpwardStretch().value(), 1.0, 1e-6);
 }
 
 TEST(MapGeometry, SaysNothingOfWhatItDoesNotKnow) {

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <fstream>
 #include <string>
 #include <vector>
 
@@ -88,14 +87,12 @@ double ResolutionIn(const Bytes& file, OutputFormat format, bool across) {
     }
 }
 
-struct EncodingRow {
-    OutputFormat format;
-    Bytes magic;
-    double within;  ///< of the resolution, dots an inch
-};
-
 TEST(ImageFile, IsEncodedInItsFormatAndRecordsTheResolution) {
-    const EncodingRow rows[] = {
+    const struct {
+        OutputFormat format;
+        Bytes magic;
+        double within;  ///< of the resolution, dots an inch
+    } rows[] = {
         {OutputFormat::Png, {0x89, 'P', 'N', 'G', '\r', '\n', 0x1A, '\n'}, 0.02},
         {OutputFormat::Jpeg, {0xFF, 0xD8, 0xFF}, 0.5},
         {OutputFormat::Bmp, {'B', 'M'}, 0.02},
@@ -103,7 +100,7 @@ TEST(ImageFile, IsEncodedInItsFormatAndRecordsTheResolution) {
     };
     host::PageImage image(Gdiplus::Size(60, 40));
     Gdiplus::Graphics(&image.Bitmap()).Clear(Gdiplus::Color(0xFFFFFFFF));
-    for (const EncodingRow& row : rows) {
+    for (const auto& row : rows) {
         for (const double dpi : {72.0, 96.5, 300.0, 2400.0}) {
             const Bytes bytes = host::Encode(image, row.format, dpi);
             ASSERT_GT(bytes.size(), 64u);
@@ -130,10 +127,7 @@ TEST(ImageFile, OfTiffIsPackedAndHasNoAlpha) {
     EXPECT_LT(bytes.size(), 900u * 500u * 3u / 50u);
 
     const ScratchFolder folder;
-    const std::string path = folder.Path("page.tif");
-    std::ofstream(path, std::ios::binary)
-        .write(reinterpret_cast<const char*>(bytes.data()),
-               static_cast<std::streamsize>(bytes.size()));
+    const std::string path = folder.Write("page.tif", {bytes.begin(), bytes.end()});
     Gdiplus::Bitmap read(std::wstring(path.begin(), path.end()).c_str());
     Gdiplus::Color colour;
     read.GetPixel(150, 60, &colour);

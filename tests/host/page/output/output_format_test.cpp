@@ -1,6 +1,6 @@
 #include "page/output/output_format.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <stdexcept>
 #include <string>
@@ -10,12 +10,11 @@ namespace {
 using host::OutputFormat;
 
 TEST(OutputFormat, IsTheOneOfTheEnding) {
-    struct Row {
+    const struct {
         std::string path;
         OutputFormat format;
         bool isForPrint;
-    };
-    const Row rows[] = {
+    } rows[] = {
         {"page.png", OutputFormat::Png, false},
         {"a.b/page.PNG", OutputFormat::Png, false},
         {"page.jpg", OutputFormat::Jpeg, false},
@@ -27,7 +26,7 @@ TEST(OutputFormat, IsTheOneOfTheEnding) {
         {"page.pdf", OutputFormat::Pdf, true},
         {"a/page.SVG", OutputFormat::Svg, true},
     };
-    for (const Row& row : rows) {
+    for (const auto& row : rows) {
         EXPECT_EQ(host::OutputFormatOf(row.path), row.format) << row.path;
         EXPECT_EQ(host::IsForPrint(row.format), row.isForPrint) << row.path;
     }
@@ -36,13 +35,10 @@ TEST(OutputFormat, IsTheOneOfTheEnding) {
 TEST(OutputFormat, IsNoneForOtherEndings) {
     for (const char* path : {"", "page", "png", ".png", "page.gif", "page.png ",
                              "page.png/", "page.svgz", "page.pngx"}) {
-        try {
-            host::OutputFormatOf(path);
-            ADD_FAILURE() << path;
-        } catch (const std::runtime_error& error) {
-            EXPECT_STREQ(error.what(),
-                         "ends in none of .png .jpg .jpeg .bmp .tif .tiff .pdf .svg .ps");
-        }
+        EXPECT_THAT([&] { host::OutputFormatOf(path); },
+                    ::testing::ThrowsMessage<std::runtime_error>(
+                        "ends in none of .png .jpg .jpeg .bmp .tif .tiff .pdf .svg .ps"))
+            << path;
     }
 }
 

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <fstream>
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -29,22 +29,14 @@ Bytes Pattern(int width, int height) {
     return pixels;
 }
 
-std::string Write(const ScratchFolder& folder, const Bytes& bytes) {
-    const std::string path = folder.Path("image.png");
-    std::ofstream(path, std::ios::binary)
-        .write(reinterpret_cast<const char*>(bytes.data()),
-               static_cast<std::streamsize>(bytes.size()));
-    return path;
-}
-
 TEST(PngImage, HoldsEveryPixel) {
     const ScratchFolder folder;
     for (const Gdiplus::Size size :
          {Gdiplus::Size(1, 1), Gdiplus::Size(3, 2), Gdiplus::Size(257, 64)}) {
         const Bytes pixels = Pattern(size.Width, size.Height);
-        const std::string path = Write(
-            folder, host::EncodePng(
-                        {pixels.data(), size.Width, size.Height, size.Width * 4}, 96.0));
+        const Bytes file = host::EncodePng(
+            {pixels.data(), size.Width, size.Height, size.Width * 4}, 96.0);
+        const std::string path = folder.Write("image.png", {file.begin(), file.end()});
 
         Gdiplus::Bitmap read(std::wstring(path.begin(), path.end()).c_str());
         ASSERT_EQ(read.GetWidth(), static_cast<UINT>(size.Width));
@@ -73,20 +65,18 @@ TEST(PngImage, ReadsRowsUpwardsToo) {
               host::EncodePng({pixels.data(), 5, 4, 20}, 96.0));
 }
 
-struct ResolutionRow {
-    double dpi;
-    Bytes density;   // pixels a metre
-    Bytes checksum;  // as published files of that resolution have it
-};
-
 TEST(PngImage, RecordsItsResolution) {
-    const ResolutionRow rows[] = {
+    const struct {
+        double dpi;
+        Bytes density;   // pixels a metre
+        Bytes checksum;  // as published files of that resolution have it
+    } rows[] = {
         {72.0, {0x00, 0x00, 0x0B, 0x13}, {0x00, 0x9A, 0x9C, 0x18}},
         {96.0, {0x00, 0x00, 0x0E, 0xC4}, {0x95, 0x2B, 0x0E, 0x1B}},
         {300.0, {0x00, 0x00, 0x2E, 0x23}, {0x78, 0xA5, 0x3F, 0x76}},
     };
     const Bytes pixels = Pattern(2, 2);
-    for (const ResolutionRow& row : rows) {
+    for (const auto& row : rows) {
         Bytes chunk = {0, 0, 0, 9, 'p', 'H', 'Y', 's'};
         chunk.insert(chunk.end(), row.density.begin(), row.density.end());
         chunk.insert(chunk.end(), row.density.begin(), row.density.end());
@@ -133,9 +123,9 @@ TEST(PngImage, IsAtMostAFifthLargerThanTheOneOfGdiplus) {
     ASSERT_EQ(image.Bitmap().Save(std::wstring(path.begin(), path.end()).c_str(),
                                   &host_tests::kPngEncoder),
               Gdiplus::Ok);
-    std::ifstream file(path, std::ios::binary | std::ios::ate);
     const Bytes ours = host::Encode(image, host::OutputFormat::Png, 96.0);
-    EXPECT_LE(static_cast<double>(ours.size()), 1.2 * static_cast<double>(file.tellg()));
+    EXPECT_LE(static_cast<double>(ours.size()),
+              1.2 * static_cast<double>(std::filesystem::file_size(path)));
 }
 
 }  // namespace

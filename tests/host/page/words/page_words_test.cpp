@@ -10,6 +10,7 @@
 #include "legend/fake_sources.h"
 #include "page/document/item_type.h"
 #include "page/element_of.h"
+#include "page/made_picture.h"
 #include "page/numeric_scale.h"
 #include "page/placed_frame.h"
 #include "page/words/colour_words.h"
@@ -174,16 +175,13 @@ TEST(PageWords, AreReadInTheOrderOfThePage) {
         In<CMapTitle>(item).SetFontSize(size);
         host::FrameOf(item).SetExtent({0.0, top - 20.0, 100.0, top});
     };
-    class Blank : public host::MapPicture {
-        host::PixelImage Render(int, int, const host::Progress&) override { return {}; }
-    };
     Add(page, "north-arrow-one");
     text(L"Sources", 8.0, 20.0);
     text(L"Subtitle", 12.0, 260.0);
     In<host::NumericScale>(Add(page, "numeric-scale")).SetDenominator(25000.0);
     auto& map = std::get<host::MapFrame>(Add(page, "map"));
     map.frame.SetExtent({0.0, 20.0, 300.0, 200.0});
-    map.picture = std::make_shared<Blank>();
+    map.picture = std::make_shared<host_tests::MadePicture>([](int, int) { return 0U; });
     map.name = "Harbour";
     text(L"Title", 20.0, 300.0);
     EXPECT_THAT(Read(page),
