@@ -245,7 +245,8 @@ class Finder:
         counts = re.compile(r"(?:\+\+|--)?([\w.]+)(?:;$| [-+*/]= [\w.]+;$)")
         a, b = counts.match(one), counts.match(other)
         return bool(sets.match(one) and sets.match(other)
-                    or a and b and a.group(1) not in other and b.group(1) not in one)
+                    or a and b and not re.search(rf"\b{a.group(1)}\b", other)
+                    and not re.search(rf"\b{b.group(1)}\b", one))
 
     @staticmethod
     def can_go(statement):

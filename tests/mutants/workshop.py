@@ -3,6 +3,7 @@ import collections
 import filecmp
 import hashlib
 import json
+import math
 import os
 import pathlib
 import re
@@ -40,10 +41,10 @@ class Workshop:
         self.link = self._read_link()
         self.headers = {part: self._compile_headers(part, headers) for part, headers in
                         (("src", LIBRARY_HEADERS), ("tests", TEST_HEADERS))}
-        self.seconds = 60.0
         self.filters = self._filters()
         self.killers = collections.defaultdict(collections.Counter)
         self.unchanged = {}
+        self.seconds = collections.defaultdict(lambda: 60)
         self._try_unchanged()
 
     # Making it
@@ -138,15 +139,17 @@ class Workshop:
         return {family: ":".join(sorted(names)) for family, names in found.items() if names}
 
     def _try_unchanged(self):
+        """How long the tests of a family may take, and all of them."""
         folder = self.folder / "unchanged"
         folder.mkdir(exist_ok=True)
         program = self._link(folder, {}, self.units)
-        before = resource.getrusage(resource.RUSAGE_CHILDREN).ru_utime
-        killer = self._run(folder, program, "*")
-        if killer:
-            raise SystemExit(f"The tests fail without any change: {killer}")
-        used = resource.getrusage(resource.RUSAGE_CHILDREN).ru_utime - before
-        self.seconds = max(10.0, 4 * used)
+        for family, names in [("", "*"), *self.filters.items()]:
+            before = resource.getrusage(resource.RUSAGE_CHILDREN).ru_utime
+            killer = self._run(folder, program, names)
+            if killer:
+                raise SystemExit(f"The tests fail without any change: {killer}")
+            used = resource.getrusage(resource.RUSAGE_CHILDREN).ru_utime - before
+            self.seconds[family] = math.ceil(2 + 4 * used)
 
     # Trying a change
 
@@ -193,7 +196,7 @@ class Workshop:
         """The tests of the family, those first that noticed most in this file so far."""
         for names in [":".join(test for test, _ in self.killers[name].most_common(5)),
                       self.filters[family]]:
-            killer = self._run(folder, program, names) if names else ""
+            killer = self._run(folder, program, names, family) if names else ""
             if killer:
                 if not killer.startswith("ended"):
                     self.killers[name][killer] += 1
@@ -246,10 +249,11 @@ class Workshop:
         done = subprocess.run(command, cwd=self.tree, capture_output=True)
         return program if done.returncode == 0 else None
 
-    def _run(self, folder, program, names):
+    def _run(self, folder, program, names, family=""):
         """The test that failed first, or how the program ended; empty when all passed."""
+        seconds = self.seconds[family]
+
         def limit():
-            seconds = int(self.seconds) + 1
             resource.setrlimit(resource.RLIMIT_CPU, (seconds, seconds))
             resource.setrlimit(resource.RLIMIT_AS, (LIMIT, LIMIT))
             resource.setrlimit(resource.RLIMIT_FSIZE, (LIMIT // 64, LIMIT // 64))
@@ -262,7 +266,7 @@ class Workshop:
                 code = subprocess.run(
                     command, cwd=folder, stdin=subprocess.DEVNULL, stdout=output,
                     stderr=subprocess.DEVNULL, preexec_fn=limit,
-                    timeout=10 * self.seconds).returncode
+                    timeout=10 * seconds).returncode
             except subprocess.TimeoutExpired:
                 return "ended by no end"
         if code == 0:
