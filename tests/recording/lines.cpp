@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstdint>
 #include <cstdio>
+#include <cstdlib>
 
 namespace recording {
 namespace {
@@ -164,5 +165,20 @@ std::string RotateWorld(float angle) {
 }
 
 std::string ResetWorld() { return "GdipResetWorldTransform"; }
+
+std::vector<Written> WrittenIn(const std::vector<std::string>& drawing) {
+    const std::string call = "GdipDrawString \"";
+    std::vector<Written> written;
+    for (const std::string& line : drawing) {
+        if (line.compare(0, call.size(), call) == 0) {
+            const std::size_t end = line.find("\" (", call.size());
+            char* comma = nullptr;
+            const float x = std::strtof(line.c_str() + end + 3, &comma);
+            written.push_back({line.substr(call.size(), end - call.size()), x,
+                               std::strtof(comma + 1, nullptr)});
+        }
+    }
+    return written;
+}
 
 }  // namespace recording

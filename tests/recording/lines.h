@@ -46,4 +46,13 @@ std::string TranslateWorld(float dx, float dy);
 std::string RotateWorld(float angle);
 std::string ResetWorld();
 
+/// What a line of DrawString writes, and where.
+struct Written {
+    std::string text;
+    float x, y;
+};
+
+/// What a drawing writes, in its order.
+std::vector<Written> WrittenIn(const std::vector<std::string>& drawing);
+
 }  // namespace recording

@@ -8,21 +8,10 @@
 #include <fstream>
 
 #include "page/document/opened_page.h"
+#include "recording/lines.h"
 #include "recording/recording.h"
 
 namespace true_pages {
-namespace {
-
-/// What a trace's line writes: GdipDrawString "12" (10, 4) ...
-std::optional<std::string> TextIn(const std::string& line) {
-    const std::string call = "GdipDrawString \"";
-    if (line.compare(0, call.size(), call) != 0) {
-        return std::nullopt;
-    }
-    return line.substr(call.size(), line.find("\" (", call.size()) - call.size());
-}
-
-}  // namespace
 
 WrittenPage::WrittenPage(const std::string& path, double dpi) : m_path(path), m_dpi(dpi) {
     std::ifstream file(path);
@@ -93,10 +82,8 @@ std::vector<std::string> WrittenPage::TextsOf(const nlohmann::json& item) const 
     const recording::Recording recording;
     opened.page.DrawItems(graphics, m_dpi, {index}, maps);
     std::vector<std::string> texts;
-    for (const std::string& line : recording.Drawing()) {
-        if (const std::optional<std::string> text = TextIn(line)) {
-            texts.push_back(*text);
-        }
+    for (const recording::Written& written : recording::WrittenIn(recording.Drawing())) {
+        texts.push_back(written.text);
     }
     return texts;
 }

@@ -2,7 +2,6 @@
 
 #include <cmath>
 #include <optional>
-#include <regex>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -15,6 +14,7 @@
 #include "page/layout/laid_out.h"
 #include "page/placed_frame.h"
 #include "recording/expect.h"
+#include "recording/lines.h"
 
 namespace {
 
@@ -38,16 +38,12 @@ struct Label {
 };
 
 std::vector<Label> LabelsOf(const std::vector<std::string>& drawing) {
-    const std::regex label("GdipDrawString \"([0-9.]+)\" \\((-?[0-9.]+), .*");
     std::vector<Label> labels;
-    for (const std::string& line : drawing) {
-        std::smatch match;
+    for (const recording::Written& written : recording::WrittenIn(drawing)) {
         // A box that is filled has its label written twice at the same place.
-        if (std::regex_match(line, match, label)) {
-            const Label read = {std::stod(match[1]), std::stod(match[2])};
-            if (labels.empty() || labels.back().x != read.x) {
-                labels.push_back(read);
-            }
+        if (written.text.find_first_not_of("0123456789.") == std::string::npos &&
+            (labels.empty() || labels.back().x != written.x)) {
+            labels.push_back({std::stod(written.text), written.x});
         }
     }
     return labels;
