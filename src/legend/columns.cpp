@@ -67,14 +67,11 @@ struct Ways {
     std::size_t LastEnd() const { return firstEnd + costs.size() - 1; }
 };
 
-/// The same with one more column.
-/// @param lastEnd the end beyond which too little would be left for the columns after it
-Ways WithOneMore(const Ways& before, const Roll& roll, Length limit,
-                 std::size_t lastEnd) {
+/// The same with one column more.
+Ways WithOneMore(const Ways& before, const Roll& roll, Length limit) {
     Ways ways;
     ways.firstEnd = before.firstEnd + 1;
-    lastEnd = std::min(lastEnd, roll.LastEnd(before.LastEnd(), limit));
-    const std::size_t count = lastEnd - before.firstEnd;
+    const std::size_t count = roll.LastEnd(before.LastEnd(), limit) - before.firstEnd;
     ways.costs.assign(count, std::numeric_limits<double>::infinity());
     ways.lastStarts.assign(count, 0);
     std::size_t step = 1;
@@ -124,9 +121,8 @@ Columns SetInColumns(const std::vector<RowsTogether>& pieces, Length gap, int co
         {static_cast<std::size_t>(std::max(1, columns)), kMostColumns, pieces.size()});
     const Length limit = roll.LowestLimit(count);
     std::vector<Ways> ways(1);
-    for (std::size_t column = 1; column <= count; ++column) {
-        ways.push_back(
-            WithOneMore(ways.back(), roll, limit, pieces.size() - (count - column)));
+    while (ways.size() <= count) {
+        ways.push_back(WithOneMore(ways.back(), roll, limit));
     }
 
     // The starts as pieces, from the last one up, then as the rows above them.

@@ -142,7 +142,7 @@ void Cursor::DrawRamp(CRasterSource& source, const std::vector<Gdiplus::Color>& 
     brush.SetColor(kBlack);
     const map_surround::RampValues values = map_surround::ValuesOf(source, alignedLabels);
     Label(highCaption + values.highest, ValueLabelAt(),
-          y + (alignedLabels ? -legend::kHighAbove : 0.5f) * rowHeight);
+          y + (alignedLabels ? -legend::kHighAbove : legend::kHighBelow) * rowHeight);
 
     // The strips overlap, and the first starts one step down.
     for (int k = 1; k <= kRampStrips; ++k) {
@@ -214,13 +214,11 @@ void CMapLegend::Draw(Gdiplus::Graphics* graphics, CPoint centre, double scale) 
     Ruler ruler;
     // The title's ink in this font, which is smaller than the one the layout measured.
     const int titleHeight = ruler.Measure(m_titleText, title).Height;
-    std::optional<Lettering> measured;
     std::optional<TextRoom> room;
     if (m_mostWidth > 0.0f) {
-        measured.emplace(m_fileNameFamily, m_fileNameSize, m_fileNameStyle);
-        room.emplace(m_mostWidth, m_mostLines, ruler, *measured);
-        room->SetSample(
-            ruler.Measure(legend::kSampleText, title.family, measured->font).Width);
+        room.emplace(m_mostWidth, m_mostLines, ruler, m_fileNameFamily, m_fileNameSize,
+                     m_fileNameStyle);
+        room->MeasureSample(title.family);
         if (IsMeasuredAsDrawn()) {
             room->MeasureAsDrawn(m_fileNameSize, m_fileNameStyle);
         }

@@ -33,7 +33,7 @@ struct Layout {
     Length gap;
     Length width;
     Length height;
-    std::vector<RowsTogether> pieces = {};  // none unless measured as drawn
+    std::vector<RowsTogether> pieces = {};  // names alone unless measured as drawn
     bool isAfterName = false;
 
     void Widen(Length least) { width = std::max(width, least); }
@@ -55,6 +55,9 @@ struct Layout {
                         ((legend::kLineTenths * rowHeight + 9) / 10));
     }
     void AddPiece(Length pieceHeight) {
+        if (!room.IsMeasuredAsDrawn()) {
+            return;
+        }
         if (isAfterName) {
             pieces.back().height += gap + pieceHeight;
             ++pieces.back().rows;
@@ -68,11 +71,8 @@ struct Layout {
         height += rowHeight;
         const std::vector<std::wstring> lines = room.LinesOfName(name);
         WidenForLines(lines, 0, room.Name());
-        if (room.IsMeasuredAsDrawn()) {
-            isAfterName = false;
-            AddPiece(rowHeight + FurtherLines(lines.size()));
-            isAfterName = true;
-        }
+        pieces.push_back({rowHeight + FurtherLines(lines.size()), 1});
+        isAfterName = true;
     }
     void AddBands(CRasterSource& source, const CMapLegend& legend);
     void AddRamp(CRasterSource& source, const CMapLegend& legend);
@@ -81,8 +81,8 @@ struct Layout {
 
 void Layout::AddBands(CRasterSource& source, const CMapLegend& legend) {
     height += SwatchesAndGaps(legend::kBandRows, legend::kBandRows);
+    AddPiece(SwatchesAndGaps(legend::kBandRows, legend::kBandRows - 1));
     if (room.IsMeasuredAsDrawn()) {
-        AddPiece(SwatchesAndGaps(legend::kBandRows, legend::kBandRows - 1));
         for (const int band : {source.GetRedBandNum(), source.GetGreenBandNum(),
                                source.GetBlueBandNum()}) {
             WidenForLines({legend.GetBandCaption() + map_surround::BandNumber(band)},
@@ -93,8 +93,8 @@ void Layout::AddBands(CRasterSource& source, const CMapLegend& legend) {
 
 void Layout::AddRamp(CRasterSource& source, const CMapLegend& legend) {
     height += SwatchesAndGaps(legend::kRampSwatches, 1);
+    AddPiece(SwatchesAndGaps(legend::kRampSwatches, 0));
     if (room.IsMeasuredAsDrawn()) {
-        AddPiece(SwatchesAndGaps(legend::kRampSwatches, 0));
         const map_surround::RampValues values =
             map_surround::ValuesOf(source, legend.GetAlignedLabels());
         WidenForLines({legend.GetHighCaption() + values.highest,
@@ -117,9 +117,7 @@ void Layout::AddClasses(CClassifyDisplayTable* table) {
             WidenForLines(lines, room.LabelAt(), room.Entry());
             pieceHeight += FurtherLines(lines.size());
         }
-        if (room.IsMeasuredAsDrawn()) {
-            AddPiece(pieceHeight);
-        }
+        AddPiece(pieceHeight);
     }
 }
 
@@ -164,14 +162,12 @@ void CMapLegend::ResetAspectRatio() {
 
     // The sample is in the title's family at the size of the file names.
     const ScaledSize fileNameSize(m_fileNameSize, m_sizeFactor);
-    const Lettering fileName(m_fileNameFamily, m_fileNameSize, m_fileNameStyle);
-    const Gdiplus::Rect sample =
-        ruler.Measure(legend::kSampleText, title.family, fileName.font);
+    TextRoom room(m_mostWidth, m_mostLines, ruler, m_fileNameFamily, m_fileNameSize,
+                  m_fileNameStyle);
+    const Gdiplus::Rect sample = room.MeasureSample(title.family);
     const Length rowHeight = sample.Height;
 
     const Length leastWidth = Length{legend::kLeastSwatches} * sample.Width;
-    TextRoom room(m_mostWidth, m_mostLines, ruler, fileName);
-    room.SetSample(sample.Width);
     if (IsMeasuredAsDrawn()) {
         room.MeasureAsDrawn(m_fileNameSize, m_fileNameStyle);
     }

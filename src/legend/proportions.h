@@ -19,6 +19,9 @@ constexpr int kLeastSwatches = 3;   ///< the width that leaves room for any band
 constexpr int kLineTenths = 12;     ///< from a line to the next, in tenths of a row
 constexpr int kColumnGapShare = 2;  ///< of a swatch's width: half of it between columns
 
+/// Where the highest value is written, in rows below the top of a ramp.
+constexpr float kHighBelow = 0.5f;
+
 /// Where labels are aligned, in rows: above the top of a swatch, above the top of a ramp
 /// and above its end. The capitals of Arial begin a fifth of an em below the top of a
 /// line, and its base line is nine tenths below.

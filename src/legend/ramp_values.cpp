@@ -1,6 +1,5 @@
 #include "legend/ramp_values.h"
 
-#include <algorithm>
 #include <cmath>
 
 #include "element/numbers.h"
@@ -10,16 +9,17 @@ namespace map_surround {
 namespace {
 
 // As many as distinguish any two doubles.
-constexpr int kMostDecimals = 17;
+constexpr double kMostDecimals = 17.0;
 
 int DecimalsFor(double lowest, double highest) {
     const double between = std::fabs(highest - lowest);
     const double range = between > 0.0 ? between : std::fabs(highest);
-    if (!(range > 0.0) || !std::isfinite(range)) {
+    if (range == 0.0) {
         return 0;
     }
-    return std::clamp(2 - static_cast<int>(std::floor(std::log10(range))), 0,
-                      kMostDecimals);
+    // None for what is not a number.
+    return static_cast<int>(
+        std::fmin(std::fmax(0.0, 2.0 - std::floor(std::log10(range))), kMostDecimals));
 }
 
 RampValues WithDecimals(double lowest, double highest, int decimals) {

@@ -12,9 +12,12 @@ std::wstring Cut(const std::wstring& text, float width, Ruler& ruler,
     const auto ended = [&text](std::size_t length) {
         constexpr wchar_t kEllipsis = L'\u2026';
         constexpr unsigned kFirstOfTwo = 0xD800;  // never leave half a character
-        const bool isHalf = length > 0 && (static_cast<unsigned>(text[length - 1]) &
-                                           ~0x3FFU) == kFirstOfTwo;
-        return text.substr(0, isHalf ? length - 1 : length) + kEllipsis;
+        std::wstring cut = text.substr(0, length);
+        if (!cut.empty() &&
+            (static_cast<unsigned>(cut.back()) & ~0x3FFU) == kFirstOfTwo) {
+            cut.pop_back();
+        }
+        return cut + kEllipsis;
     };
     if (fits(text)) {
         return text;

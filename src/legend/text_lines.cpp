@@ -51,10 +51,10 @@ bool IsOneOf(std::wstring_view characters, std::uint32_t character) {
 }
 bool IsSpace(std::uint32_t c) { return IsOneOf(L" \t\r\n\u3000", c); }
 
-/// The character at an index, two code units where it is a surrogate pair; 0 at the end.
+/// The character at an index before the end, two code units where it is a surrogate pair.
 std::uint32_t CharacterAt(const std::wstring& text, std::size_t at, std::size_t& length) {
     const auto unit = [&text](std::size_t i) {
-        return i < text.size() ? static_cast<std::uint32_t>(text[i]) : 0;
+        return static_cast<std::uint32_t>(text[i]);
     };
     length = 1;
     if (IsIn(kFirstHalves, unit(at)) && IsIn(kSecondHalves, unit(at + 1))) {

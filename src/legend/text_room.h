@@ -17,16 +17,27 @@ namespace map_surround {
 class TextRoom {
 public:
     /// @param mostWidth any width when not above 0
-    /// @param name the lettering of names, and of labels unless they are measured as
+    /// @param nameFamily the font of names, and of labels unless they are measured as
     /// drawn
-    TextRoom(float mostWidth, int mostLines, Ruler& ruler, const Lettering& name)
-        : m_mostWidth(mostWidth), m_mostLines(mostLines), m_ruler(ruler), m_name(name) {}
+    TextRoom(float mostWidth, int mostLines, Ruler& ruler, const std::wstring& nameFamily,
+             float emSize, Gdiplus::FontStyle style)
+        : m_mostWidth(mostWidth),
+          m_mostLines(mostLines),
+          m_ruler(ruler),
+          m_name(nameFamily, emSize, style) {}
 
     /// Has labels measured in the font in which they are drawn.
     void MeasureAsDrawn(float emSize, Gdiplus::FontStyle style) {
         m_entry.emplace(legend::kEntryFamily, emSize, style);
     }
-    void SetSample(Length width) { m_sample = width; }
+    /// Measures the sample, by which labels are placed, in this family at the size of
+    /// names.
+    Gdiplus::Rect MeasureSample(const Gdiplus::FontFamily& family) {
+        const Gdiplus::Rect sample =
+            m_ruler.Measure(legend::kSampleText, family, m_name.font);
+        m_sample = sample.Width;
+        return sample;
+    }
 
     /// Where the layout puts the labels of classes, and of bands and values.
     Length LabelAt() const {
@@ -64,7 +75,7 @@ private:
     float m_mostWidth;
     int m_mostLines;
     Ruler& m_ruler;
-    const Lettering& m_name;
+    Lettering m_name;
     std::optional<Lettering> m_entry;
     Length m_sample = 0;
     bool m_hasCut = false;

@@ -1,124 +1,20 @@
-// Legends in columns: rows of 13, swatches of 7 and samples of 40, gaps of 12.
+// Legends in columns.
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <bitset>
-#include <cmath>
-#include <cstdlib>
-#include <deque>
 #include <limits>
+#include <string>
 #include <utility>
+#include <vector>
 
-#include "legend/fake_sources.h"
-#include "legend/scripted_ink.h"
-#include "map_surround/legend.h"
-#include "recording/expect.h"
-#include "recording/lines.h"
+#include "legend/legend_columns.h"
 
 namespace {
 
-using fakes::Raster;
+using namespace legend_columns;
 using namespace recording;
-
-constexpr int kGap = 12;
-constexpr int kTitle = 13 + 2 * kGap;
-
-/// Every character is 10 wide, in Arial; half as wide in any other family.
-ink::Size ColumnInk(const std::string& text, const std::string& family, float) {
-    const auto characters = static_cast<int>(std::count_if(
-        text.begin(), text.end(), [](char c) { return (c & 0xC0) != 0x80; }));
-    return text == "Band_1" ? ink::Size{40, 13}
-                            : ink::Size{(family == "Arial" ? 10 : 5) * characters, 13};
-}
-
-/// Sources by letters: a name and bands (r), a ramp (g), nothing (u), so many classes.
-class Sources {
-public:
-    explicit Sources(const std::string& letters) {
-        for (const char letter : letters) {
-            m_rasters.emplace_back(L"name", letter == 'r'   ? DisplayRGB
-                                            : letter == 'g' ? DisplayGray
-                                            : letter == 'u' ? fakes::kUnknown
-                                                            : DisplayClassified);
-            const int classes = letter >= '0' && letter <= '9' ? letter - '0' : 0;
-            m_rasters.back().table.items.assign(static_cast<std::size_t>(classes),
-                                                {L"class", 1, 2, 3});
-        }
-    }
-    std::vector<CGISDataSource*> All() {
-        std::vector<CGISDataSource*> all;
-        for (Raster& raster : m_rasters) {
-            all.push_back(&raster);
-        }
-        return all;
-    }
-    Raster& operator[](std::size_t i) { return m_rasters[i]; }
-
-private:
-    std::deque<Raster> m_rasters;
-};
-
-int WidthOf(const CMapLegend& legend) {
-    return static_cast<int>(
-        std::lround(static_cast<float>(legend.GetSize()) * legend.GetAspectRatio()));
-}
-
-struct Text {
-    std::string text;
-    int x, y;  ///< from the legend's top left corner
-};
-
-/// What is written below the title.
-std::vector<Text> TextsOf(CMapLegend& legend) {
-    Surface surface;
-    Recording recording(Mode::RecordOnly);
-    ink::Script(recording, ColumnInk);
-    const CPoint middle((WidthOf(legend) + 1) / 2, (legend.GetSize() + 1) / 2);
-    legend.Draw(surface.Graphics(), middle, 1.0);
-    std::vector<Text> texts;
-    for (const std::string& line : recording.Drawing()) {
-        const std::size_t quote = line.find('"');
-        const std::size_t at = line.find("\" (");
-        if (line.rfind("GdipDrawString", 0) == 0) {
-            char* end = nullptr;
-            const float x = std::strtof(line.c_str() + at + 3, &end);
-            const float y = std::strtof(end + 1, nullptr);
-            texts.push_back({line.substr(quote + 1, at - quote - 1),
-                             static_cast<int>(std::lround(x)),
-                             static_cast<int>(std::lround(y))});
-        }
-    }
-    texts.erase(texts.begin());
-    return texts;
-}
-
-/// The rows of each column, by their texts' first letters: names, bands, highs and lows,
-/// classes.
-std::string RowsOf(CMapLegend& legend) {
-    std::string rows;
-    int y = 0;
-    for (const Text& text : TextsOf(legend)) {
-        if (text.text[0] != 'l' && text.y <= y) {
-            rows += '|';
-            EXPECT_NEAR(text.y, kTitle, 1) << rows;
-        }
-        y = text.y;
-        rows += text.text[0];
-    }
-    return rows;
-}
-
-struct Legend : CMapLegend {
-    Legend() {
-        SetTitleValue(L"T");
-        SetTitle(L"Arial");
-        SetSourceCaption(L"");
-        SetBandCaption(L"b");
-        SetHighCaption(L"h");
-        SetLowCaption(L"l");
-    }
-};
 
 TEST(LegendColumns, AreAsLowAndAsEqualAsTheyCanBe) {
     const struct {
@@ -131,7 +27,6 @@ TEST(LegendColumns, AreAsLowAndAsEqualAsTheyCanBe) {
         {"9", 1, "nccccccccc", 32 + 8 * 19},
         {"9", 2, "ncccc|ccccc", 32 + 3 * 19},
         {"9", 3, "ncc|cccc|ccc", 7 + 3 * 19},
-        {"9", 0, "nccccccccc", 32 + 8 * 19},
         {"9", -5, "nccccccccc", 32 + 8 * 19},
         {"9", 9, "nc|c|c|c|c|c|c|c|c", 32},
         {"9", 2147483647, "nc|c|c|c|c|c|c|c|c", 32},
@@ -174,24 +69,62 @@ TEST(LegendColumns, AreSixtyFourAtMost) {
     EXPECT_EQ(legend.GetSize(), kTitle + 13 + kGap + 13);
 }
 
+// Also where there may be lines, for which all is measured as with columns.
+TEST(LegendColumns, FewerThanOneAreOne) {
+    for (const int columns : {0, -5}) {
+        Sources sources("9");
+        Legend legend;
+        legend.SetDataSouce(sources.All());
+        legend.SetMostWidth(1000.0f);
+        legend.SetMostLines(2);
+        legend.SetColumns(columns);
+        ink::Measure(legend, ColumnInk);
+        EXPECT_EQ(RowsOf(legend), "nccccccccc");
+    }
+}
+
+/// How many texts stand in the first column.
+std::size_t InTheFirst(CMapLegend& legend) {
+    const std::vector<Written> texts = TextsBelowTitle(legend);
+    return static_cast<std::size_t>(
+        std::count_if(texts.begin(), texts.end(),
+                      [&](const Written& text) { return text.x == texts.front().x; }));
+}
+
 // Where the font has no ink, the gaps are left.
 TEST(LegendColumns, OfRowsWithoutInkShareTheGaps) {
-    for (const int row : {0, -1000}) {
+    for (const auto& [row, halfRow] : {std::pair(0, 0), {-1000, -499}}) {
         Sources sources("uuuu");
         Legend legend;
         legend.SetDataSouce(sources.All());
         legend.SetColumns(2);
-        Recording recording(Mode::RecordOnly);
-        ink::Script(recording, ink::Of({{"Band_1", {40, row}}}));
-        legend.ResetAspectRatio();
+        ink::Measure(legend, ink::Of({{"Band_1", {40, row}}}));
         EXPECT_EQ(legend.GetSize(), 2 * kGap + kGap);
 
-        recording.Clear();
-        ink::Script(recording, ink::Of({{"Band_1", {40, row}}, {"T", {10, 13}}}));
+        const ink::Rule titled = ink::Of({{"Band_1", {40, row}}, {"T", {10, 13}}});
         legend.SetGap(0.0001f);
-        legend.ResetAspectRatio();
+        ink::Measure(legend, titled);
         EXPECT_EQ(legend.GetSize(), 13) << "without gaps nothing is left";
+        EXPECT_EQ(InTheFirst(legend), 3U) << "no column is empty";
+
+        legend.SetGap(0.5f);
+        ink::Measure(legend, titled);
+        EXPECT_EQ(legend.GetSize(), 13 + 2 * halfRow) << "a column is never less";
     }
+}
+
+// The squares of their heights go beyond any whole number.
+TEST(LegendColumns, OfHugeRowsAreAsEqualAsOthers) {
+    Sources sources("uuuuuuu");
+    Legend legend;
+    legend.SetDataSouce(sources.All());
+    legend.SetColumns(3);
+    ink::Measure(legend, ink::Of({{"Band_1", {40, 1500000000}}}));
+    EXPECT_EQ(InTheFirst(legend), 3U);
+    const std::vector<Written> texts = TextsBelowTitle(legend);
+    EXPECT_EQ(texts[3].x, texts[4].x);
+    EXPECT_EQ(texts[5].x, texts[6].x);
+    EXPECT_LT(texts[4].x, texts[5].x);
 }
 
 /// Whether columns of pieces are lower, or else more equal, than others.
@@ -342,14 +275,28 @@ TEST(LegendColumns, AreAsWideAsTheWidest) {
         ink::Measure(legend, ColumnInk);
         EXPECT_EQ(WidthOf(legend), row.width);
         // The second column begins as far right as it is wide and half a swatch.
-        const std::vector<Text> texts = TextsOf(legend);
+        const std::vector<Written> texts = TextsBelowTitle(legend);
         EXPECT_NEAR(texts.back().x,
                     row.columns == 1   ? 0
                     : row.width == 310 ? 140
                                        : (row.width - 20) / 2 + 20,
                     1);
-        EXPECT_EQ(texts.front().x, 0);
+        EXPECT_NEAR(texts.front().x, 0, 0.5);
     }
+}
+
+// 18 tenths of 41 are 73.8.
+TEST(LegendColumns, LabelsBeginAtAWholePixelToTheRight) {
+    Sources sources("r");
+    sources[0].blue = 12344;
+    Legend legend;
+    legend.SetDataSouce(sources.All());
+    legend.SetColumns(2);
+    ink::Measure(
+        legend, [](const std::string& text, const std::string& family, float em) {
+            return text == "Band_1" ? ink::Size{41, 13} : ColumnInk(text, family, em);
+        });
+    EXPECT_EQ(WidthOf(legend), 74 + 60);
 }
 
 // What is drawn later than it was measured begins its columns at the same rows.
@@ -371,6 +318,16 @@ TEST(LegendColumns, SourcesThatChangeAreDrawnInTheColumnsMeasured) {
     ink::Measure(legend, ColumnInk);
     sources[0].table.items.resize(4, {L"class", 1, 2, 3});
     EXPECT_EQ(RowsOf(legend), "ncccc");
+}
+
+TEST(LegendColumns, BandsBeginAColumnWhereANameDidWhenItWasMeasured) {
+    Sources sources("uu");
+    Legend legend;
+    legend.SetDataSouce(sources.All());
+    legend.SetColumns(2);
+    ink::Measure(legend, ColumnInk);
+    sources[0].displayType = DisplayRGB;
+    EXPECT_EQ(RowsOf(legend), "n|bbbn");
 }
 
 }  // namespace

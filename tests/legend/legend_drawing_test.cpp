@@ -273,6 +273,11 @@ TEST(LegendDrawing, ValuesAtTheEndsOfTheRampHaveTheDecimalsThatTheyNeed) {
                 {0.0, 1e-300, "0", "0"},
                 {1e16, 0.0, "10000000000000000", "0"},
                 {-infinity, infinity, "-inf", "inf"},
+                {0.0, 1.26e-16, "0.00000000000000000", "0.00000000000000013"},
+                {-infinity, 5.25, "-inf", "5"},
+                {std::nan(""), 5.25, "nan", "5.25"},
+                {5.25, std::nan(""), "5", "nan"},
+                {std::nan(""), 0.0, "nan", "0"},
                 {std::nan(""), std::nan(""), "nan", "nan"}};
     for (const auto& row : rows) {
         SCOPED_TRACE(row.high);
@@ -342,14 +347,18 @@ TEST(LegendDrawing, TheRampAsksTheFirstBandForAnEstimate) {
 }
 
 TEST(LegendDrawing, ABandThatCannotTellItsValuesHasNought) {
-    Square nought;
-    nought.gray.band.lowest = nought.gray.band.highest = 0.0;
-    const std::vector<std::string> drawing = nought.Draw(CPoint(300, 200), 1.0);
-    Square square;
-    square.gray.band.computable = false;
-    EXPECT_EQ(square.Draw(CPoint(300, 200), 1.0), drawing);
-    square.gray.hasBand = false;
-    EXPECT_EQ(square.Draw(CPoint(300, 200), 1.0), drawing);
+    for (const bool aligned : {false, true}) {
+        Square nought;
+        nought.legend.SetAlignedLabels(aligned);
+        nought.gray.band.lowest = nought.gray.band.highest = 0.0;
+        const std::vector<std::string> drawing = nought.Draw(CPoint(300, 200), 1.0);
+        Square square;
+        square.legend.SetAlignedLabels(aligned);
+        square.gray.band.computable = false;
+        EXPECT_EQ(square.Draw(CPoint(300, 200), 1.0), drawing);
+        square.gray.hasBand = false;
+        EXPECT_EQ(square.Draw(CPoint(300, 200), 1.0), drawing);
+    }
 }
 
 TEST(LegendDrawing, AClassThatTellsNoColourIsBlack) {

@@ -173,9 +173,14 @@ TEST_P(EachArrow, DrawsAtTheLimitsOfEverything) {
     const double nan = std::numeric_limits<double>::quiet_NaN();
     ExpectDrawn(Combine(
         {kLeast, kLeast + 1, -1000000, -100, -7, -1, 0, 1, 100, kMost - 1, kMost},
-        {0.0, -0.5, -1.0, -3.125, 1e-300, 1e300, -1e300, infinity, -infinity, nan},
+        {0.0, -0.5, 1.0, -1.0, -3.125, 1e-300, 1e300, -1e300, infinity, -infinity, nan},
         {0.0f, static_cast<float>(infinity), static_cast<float>(nan), -1e38f},
-        {{0, 0}, {kLeast, kLeast}, {kMost, kMost}, {kLeast, kMost}, {-5, 7}}));
+        {{0, 0},
+         {kLeast, kLeast},
+         {kMost, kMost},
+         {kLeast, kMost},
+         {-5, 7},
+         {0, 1073741823}}));  // where what is left tells how exactly it is divided
 }
 
 TEST_P(EachArrow, DrawsTheSameThroughGdiPlus) {

@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <limits>
 #include <string>
 #include <type_traits>
@@ -185,6 +186,7 @@ TEST(ScaleBarBase, ResetsTheAspectRatioToTheDivisionsAndMargins) {
         {"f 1: 50 + margins", 0.5, 10.0, 5, 40, 2.1666667f},
         {"f 1: 50 + margins", 1000.0, 10.0, 5, 40, 2.1666667f},
         {"f 0.9/0.999", 0.999, 99.9, 1, 40, 3.1666667f},
+        {"the least value, f 1: 50 + margins", 1e-8, 10.0, 5, 40, 2.1666667f},
         {"size 80: 50 + 16 + 2 + 53.3333 + 2 = 123.3333", 1.0, 10.0, 5, 80, 1.5416667f},
         {"a negative count shortens: -10 + margins", 1.0, 10.0, -1, 40, 0.6666667f},
     };
@@ -219,6 +221,11 @@ TEST(ScaleBarBase, AddsTheMarginsInOrder) {
          -(double{1.0f / 5.0f} + double{1.0f / 40.0f} + double{2.0f / 3.0f} +
            double{1.0f / 40.0f}),
          1, 0.0f},
+        // 1.4 + 0.175 + 14 / 3 + 0.175; two thirds as a float, times 7, would be more
+        {"the margins of size 7", 7,
+         -(double{7.0f / 5.0f} + double{7.0f / 40.0f} + double{14.0f / 3.0f} +
+           double{7.0f / 40.0f}),
+         1, 0.0f},
         // 42 below: 9, 1.125, 30 and 1.125 come to 10, 12, 42 and 44
         {"a fifth before a fortieth", 45, halfway - 42.0, 1, above / 45.0f},
         // 34 below: 8, 1, 26.67 and 1 come to 8, 10, 36 and 38
@@ -240,10 +247,10 @@ TEST(ScaleBarBase, AddsTheMarginsInOrder) {
 TEST(ScaleBarBase, KeepsTheAspectRatioAndDrawsNothingWithoutADivisionValue) {
     Surface surface;
     for (const Style style : Styles()) {
-        for (const double scale :
-             {1e-9, 9.99e-9, -1e-9, 0.0, -0.0, -1e-8, -1.0, -2500.0, -1e300, kInfinity,
-              -kInfinity, kNan, std::numeric_limits<double>::denorm_min(),
-              std::numeric_limits<double>::min()}) {
+        for (const double scale : {1e-9, std::nextafter(1e-8, 0.0), -1e-9, 0.0, -0.0,
+                                   -1e-8, -1.0, -2500.0, -1e300, kInfinity, -kInfinity,
+                                   kNan, std::numeric_limits<double>::denorm_min(),
+                                   std::numeric_limits<double>::min()}) {
             const std::unique_ptr<CScaleBarBase> bar = NewBar(style);
             bar->SetPaper2DataScale(scale);
             bar->SetScreen2PaperByOneScale(10.0);

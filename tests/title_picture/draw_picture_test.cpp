@@ -238,6 +238,7 @@ TEST(DrawPicture, MovesTheImage) {
         CDrawPicture picture;
         Turn(picture);
         CDrawPicture assigned;
+        recording.ScriptImageSize(100, 100);
         assigned.Open(L"b");
         recording.Clear();
 

@@ -225,6 +225,9 @@ TEST(MapTitle, SetsLinesWhereTheyAreWanted) {
                   "GdipSetStringFormatAlign " + std::to_string(row.alignment));
         recording.Clear();
         CMapTitle(title).Draw(surface.Graphics(), CPoint(200, 150), 2.0);
+        const std::vector<std::string> lines = recording.Lines();
+        EXPECT_EQ(std::count(lines.begin(), lines.end(), "GdipCreateStringFormat 0 0"),
+                  1);
         EXPECT_EQ(recording.Drawing().at(3),
                   DrawString("Land cover\nOlinda", FontLook("Arial", 30, 1), row.x, 130,
                              BrushLook(0xFF000000), 0, 0, FormatLook(0, row.alignment)));
