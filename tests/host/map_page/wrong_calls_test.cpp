@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "map_page/page_file_folder.h"
+#include "page/catalogue.h"
 
 namespace {
 
@@ -38,6 +39,14 @@ protected:
     }
 };
 
+std::string NotIn(MapSurroundType family) {
+    std::string why = "@ not in {";
+    for (const host::CatalogueEntry* const style : host::StylesOf(family)) {
+        why += style->Style() + std::string(",");
+    }
+    return why + "none}";
+}
+
 TEST_F(WrongCall, OfAValueTellsWhatItMayBe) {
     const std::string seeHelp = ": see map_page --help";
     const std::string noColour =
@@ -65,12 +74,9 @@ TEST_F(WrongCall, OfAValueTellsWhatItMayBe) {
         {"--background", {"#GGGGGG"}, noColour},
         {"--divisions", {"101", "4.5"}, "Value @ not in range 1 to 100" + seeHelp},
         {"--subdivisions", {"few"}, "Value @ not in range 0 to 100" + seeHelp},
-        {"--scale-bar",
-         {"wavy"},
-         "@ not in {line,stepped,line2,line3,alternating,equal-alternating,none}" +
-             seeHelp},
+        {"--scale-bar", {"wavy"}, NotIn(SurroundScaleBar) + seeHelp},
         {"--unit-position", {"above"}, "@ not in {after,before}" + seeHelp},
-        {"--north-arrow", {"six"}, "@ not in {one,two,four,eight,none}" + seeHelp},
+        {"--north-arrow", {"six"}, NotIn(SurroundNorthArrow) + seeHelp},
         {"--north-angle",
          {"361"},
          R"(("@" is no number from -360 to 360) OR (@ not in {true}))" + seeHelp},

@@ -145,16 +145,38 @@ TEST(Catalogue, EveryEntryIsAnItemTypeInItsPlace) {
     }
 }
 
+std::string Document(const std::string& path) {
+    return host_tests::ContentsOf(MAP_SURROUND_SOURCES "/" + path);
+}
+
+auto HasWord(const std::string& word) { return HasSubstr("`" + word + "`"); }
+
 TEST(Catalogue, EveryEntryIsInTheDocumentation) {
-    const auto contentsOf = [](const std::string& path) {
-        return host_tests::ContentsOf(MAP_SURROUND_SOURCES + path);
-    };
-    const std::string readme = contentsOf("/README.md");
-    const std::string pageFile = contentsOf("/docs/page_file.md");
+    const std::string readme = Document("README.md");
+    const std::string pageFile = Document("docs/page_file.md");
+    std::string elements;
+    for (const char* const page :
+         {"title", "picture", "legend", "north_arrows", "scale_bars"}) {
+        elements += Document(std::string("docs/elements/") + page + ".md");
+    }
     for (const CatalogueEntry& entry : kCatalogue) {
-        EXPECT_THAT(readme, HasSubstr("`" + std::string(entry.className) + "`"));
-        EXPECT_THAT(pageFile, AnyOf(HasSubstr("`" + std::string(entry.name) + "`"),
-                                    HasSubstr("`-" + std::string(entry.Style()) + "`")));
+        EXPECT_THAT(readme, HasWord(entry.className));
+        EXPECT_THAT(pageFile, AnyOf(HasWord(entry.name),
+                                    HasWord(std::string("-") + entry.Style())));
+        EXPECT_THAT(elements, HasSubstr(entry.className));
+    }
+}
+
+TEST(Catalogue, EveryPropertyIsInTheDocumentation) {
+    const std::string pageFile = Document("docs/page_file.md");
+    const auto expectIn = [&](const std::vector<host::Property>& properties) {
+        for (const host::Property& property : properties) {
+            EXPECT_THAT(pageFile, HasWord(property.name));
+        }
+    };
+    expectIn(host::FrameProperties());
+    for (const host::ItemType& type : host::ItemTypes()) {
+        expectIn(type.properties);
     }
 }
 

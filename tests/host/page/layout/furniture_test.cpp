@@ -119,11 +119,6 @@ TEST(Furniture, CountsWhatItIsAskedToCount) {
     }
 }
 
-template <class Element>
-const host::CatalogueEntry* StyleOf() {
-    return host::FindEntry(Element());
-}
-
 TEST(Furniture, IsLeftOutWhereTheMapHasNoCoordinates) {
     host::PageDesign design;
     const LaidOut found(design, {nullptr, 1.5});
@@ -131,7 +126,7 @@ TEST(Furniture, IsLeftOutWhereTheMapHasNoCoordinates) {
     EXPECT_EQ(found.Of(SurroundNorthArrow), nullptr);
     EXPECT_EQ(found.Of(SurroundLegend), nullptr);
 
-    design.northArrow.style = StyleOf<CNorthArrowTwoAngle>();
+    design.northArrow.style = host::StyleOf<CNorthArrowTwoAngle>();
     design.northArrow.angle = 0.0;
     EXPECT_NE(LaidOut(design, {nullptr, 1.5}).Of(SurroundNorthArrow), nullptr)
         << "as asked for";
@@ -141,12 +136,12 @@ TEST(Furniture, TakesWhatTheDesignSays) {
     fakes::Raster source(L"a_scene_with_quite_a_long_name.tif", DisplayRGB);
     source.hasBand = source.hasTable = false;
     host::PageDesign design;
-    design.scaleBar.style = StyleOf<CScaleLine3>();
+    design.scaleBar.style = host::StyleOf<CScaleLine3>();
     design.scaleBar.subdivisions = 3;
     design.scaleBar.unitPosition = UnitPosBefore;
     design.scaleBar.distances = host::BarDistances::Map;
     design.scaleBar.unitName = L"Kilometre";
-    design.northArrow.style = StyleOf<CNorthArrowFourAngle>();
+    design.northArrow.style = host::StyleOf<CNorthArrowFourAngle>();
     design.northArrow.angle = 12.5;
     design.legend.title = L"What it shows";
     host::MapOnPage map = MapOf(1000.0, 900.0);
