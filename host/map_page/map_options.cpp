@@ -45,14 +45,6 @@ std::string UnitsHelp() {
     return help + "\n(metric; imperial where the coordinates are feet)";
 }
 
-Words<host::DistanceUnit> Units() {
-    Words<host::DistanceUnit> words;
-    for (const host::DistanceUnitFacts& facts : host::DistanceUnits()) {
-        words.emplace_back(facts.word, facts.unit);
-    }
-    return words;
-}
-
 }  // namespace
 
 void DeclareMap(CLI::App& app, Options& options) {
@@ -90,7 +82,8 @@ void DeclareScaleBar(CLI::App& app, Options& options) {
         ->check(CLI::Range(0, 100, "0 to 100"))
         ->type_name("COUNT")
         ->group(kScaleBar);
-    AddChoice(app, "--units", bar.unit, Units(), UnitsHelp())
+    AddChoice(app, "--units", bar.unit, ChoicesOfBars<host::DistanceUnit>("unit"),
+              UnitsHelp())
         ->type_name("UNIT")
         ->group(kScaleBar);
     app.add_option_function<std::string>(
@@ -101,7 +94,8 @@ void DeclareScaleBar(CLI::App& app, Options& options) {
            "What the unit is called on the page (its sign); converts nothing")
         ->type_name("TEXT")
         ->group(kScaleBar);
-    AddChoice(app, "--unit-position", bar.unitPosition, UnitPositions(),
+    AddChoice(app, "--unit-position", bar.unitPosition,
+              ChoicesOfBars<ScaleBarPostion>("unitPosition"),
               "The unit beside the numbers (after)")
         ->type_name("WHERE")
         ->group(kScaleBar);
@@ -112,10 +106,7 @@ void DeclareScaleBar(CLI::App& app, Options& options) {
               "ellipsoid, or the map's coordinates (ground)")
         ->type_name("WHAT")
         ->group(kScaleBar);
-    const Words<host::BarFit> fits = {{"count", host::BarFit::Count},
-                                      {"width", host::BarFit::Width},
-                                      {"value", host::BarFit::Value}};
-    AddChoice(app, "--fit", bar.fit, fits,
+    AddChoice(app, "--fit", bar.fit, ChoicesOfBars<host::BarFit>("fit"),
               "What of it stays when a page file's map is another: the count of its\n"
               "divisions, its width, or the value of one (count)")
         ->type_name("WHAT")

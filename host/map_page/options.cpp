@@ -86,12 +86,14 @@ std::string Footer() {
     return footer.replace(footer.find(kPlace), kPlace.size(), names.substr(1));
 }
 
-std::vector<std::string> LanguageCodes() {
-    std::vector<std::string> codes;
-    for (const host::Language& language : host::Languages()) {
-        codes.emplace_back(language.code);
-    }
-    return codes;
+std::string EndingsOfImages() {
+    return host::EndingsOfThose(
+        [](const host::OutputFormatFacts& facts) { return !facts.isForPrint; });
+}
+
+std::string EndingsForPrint() {
+    return host::EndingsOfThose(
+        [](const host::OutputFormatFacts& facts) { return facts.isForPrint; });
 }
 
 void DeclareTitle(CLI::App& app, Given& given, host::TitleDesign& title) {
@@ -199,8 +201,8 @@ void Declare(CLI::App& app, Given& given, Options& options) {
         ->required()
         ->type_name("");
     app.add_option("-o,--output", options.output,
-                   "File to write: .png .jpg .bmp .tif, or\n.pdf, .svg or .ps, whose "
-                   "texts and shapes are no pixels")
+                   "File to write: " + EndingsOfImages() + ", or\n" + EndingsForPrint() +
+                       ", whose texts and shapes are no pixels")
         ->type_name("FILE");
     app.add_option("--save", options.save, "Page file to write, .json; needs no --output")
         ->type_name("FILE");
@@ -208,7 +210,7 @@ void Declare(CLI::App& app, Given& given, Options& options) {
     AddChoice(app, "--map-images", options.print.mapImages,
               Words<host::MapImages>{{"lossless", host::MapImages::Lossless},
                                      {"jpeg", host::MapImages::Jpeg}},
-              "How maps are kept in .pdf, .svg and .ps (lossless)")
+              "How maps are kept in " + EndingsForPrint() + " (lossless)")
         ->type_name("KIND");
     app.add_flag("--world-file", options.hasWorldFile,
                  "Also write where the picture's pixels lie on the map: page.pgw of\n"
@@ -245,12 +247,11 @@ void Declare(CLI::App& app, Given& given, Options& options) {
     app.add_option("--language", given.language,
                    "Of the words of legend and scale bar (the locale's, else en;\nof a "
                    "page file its own)")
-        ->check(CLI::IsMember(LanguageCodes()))
+        ->check(CLI::IsMember(ChoicesOfBars<std::int32_t>("language")))
         ->type_name("CODE")
         ->group("Page");
     app.add_option("--size", given.size,
-                   "A0 to A6, B0 to B5, Letter, Legal, Tabloid, or millimetres as "
-                   "WIDTHxHEIGHT (A4)")
+                   host::PaperNames() + ", or millimetres as WIDTHxHEIGHT (A4)")
         ->type_name("SIZE")
         ->group("Page");
     app.add_flag("--portrait", given.portrait, "Stand the page upright")->group("Page");
@@ -311,7 +312,12 @@ host::OutputFormat FormatOf(const std::string& output) {
 
 void CheckWorldFile(const std::string& output) {
     if (output.empty() || host::WorldFilesOf(output).world.empty()) {
-        throw UsageError("--world-file", "goes with an output in .png or .jpg");
+        throw UsageError(
+            "--world-file",
+            "goes with an output in " +
+                host::EndingsOfThose([](const host::OutputFormatFacts& facts) {
+                    return facts.worldFile[0] != '\0';
+                }));
     }
 }
 
@@ -331,7 +337,7 @@ void Complete(const CLI::App& app, const Given& given, Options& options) {
     }
     if (options.print.mapImages == host::MapImages::Jpeg &&
         !(options.format && host::IsForPrint(*options.format))) {
-        throw UsageError("--map-images", "goes with an output in .pdf, .svg or .ps");
+        throw UsageError("--map-images", "goes with an output in " + EndingsForPrint());
     }
     if (options.jobs > 1 && IsAtlas(options.output)) {
         throw UsageError("--jobs", "goes with an output for each page");

@@ -1,7 +1,6 @@
 #include "map_page/series_list.h"
 
 #include <algorithm>
-#include <array>
 #include <map>
 #include <stdexcept>
 #include <string_view>
@@ -11,6 +10,7 @@
 #include "map_page/error.h"
 #include "map_page/template_options.h"
 #include "page/document/file_paths.h"
+#include "page/document/item_type.h"
 #include "system/file_ending.h"
 #include "system/input_file.h"
 #include "system/number_text.h"
@@ -22,14 +22,15 @@ constexpr const char* kRastersColumn = "rasters";
 constexpr const char* kExtentColumn = "extent";
 constexpr const char* kNameColumn = "name";
 constexpr const char* kPictureColumn = "picture";
-// Properties of every map.
-constexpr std::array<std::string_view, 3> kMapColumns = {"stretch", "bands", "noData"};
 constexpr char kBetweenRasters = ';';
 constexpr std::size_t kMostBytes = std::size_t{1} << 30;
 constexpr std::size_t kNoColumn = static_cast<std::size_t>(-1);
 
+/// Whether it is a property of every map, and of how its rasters are drawn.
 bool IsMapColumn(const std::string& column) {
-    return std::find(kMapColumns.begin(), kMapColumns.end(), column) != kMapColumns.end();
+    const host::Property* const property =
+        host::FindProperty(host::FindItemType(host::kMapType)->properties, column);
+    return property != nullptr && property->checkText != nullptr;
 }
 
 /// A piece of an output's name: text, or the value of a column.

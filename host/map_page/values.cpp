@@ -22,14 +22,9 @@ Words<host::LayoutDesign> LayoutDesigns() {
 }
 
 Words<FontProcess> FontStyles() {
-    return {{"regular", FontProcessRegular},
-            {"bold", FontProcessBold},
-            {"italic", FontProcessItalic},
-            {"bold-italic", FontProcessBoldItalic}};
-}
-
-Words<ScaleBarPostion> UnitPositions() {
-    return {{"after", UnitPosAfter}, {"before", UnitPosBefore}};
+    Words<FontProcess> words = ChoicesOf<FontProcess>("title", "fontStyle");
+    words.resize(FontProcessBoldItalic + 1);
+    return words;
 }
 
 Words<const host::CatalogueEntry*> Styles(MapSurroundType family) {

@@ -13,6 +13,7 @@
 
 #include "map_surround/title.h"
 #include "page/catalogue.h"
+#include "page/document/item_type.h"
 #include "page/layout/page_design.h"
 
 namespace map_page {
@@ -21,9 +22,26 @@ namespace map_page {
 template <typename Value>
 using Words = std::vector<std::pair<std::string, Value>>;
 
+/// What a property of page files may be, by their words.
+template <typename Value>
+Words<Value> ChoicesOf(const char* type, const char* property) {
+    Words<Value> words;
+    for (const host::Choice& choice :
+         host::FindProperty(host::FindItemType(type)->properties, property)->choices) {
+        words.emplace_back(choice.name, static_cast<Value>(choice.value));
+    }
+    return words;
+}
+
+/// The same of a scale bar's.
+template <typename Value>
+Words<Value> ChoicesOfBars(const char* property) {
+    return ChoicesOf<Value>(host::UsualStyle(SurroundScaleBar)->name, property);
+}
+
+/// Those of a page file that do not underline or strike out.
 Words<FontProcess> FontStyles();
 Words<host::LayoutDesign> LayoutDesigns();
-Words<ScaleBarPostion> UnitPositions();
 
 /// The styles of a family; "none" is null.
 Words<const host::CatalogueEntry*> Styles(MapSurroundType family);

@@ -1,6 +1,7 @@
 #include "page/paper.h"
 
 #include <algorithm>
+#include <iterator>
 #include <string_view>
 
 #include "system/number_text.h"
@@ -15,12 +16,12 @@ struct NamedPaper {
 };
 
 constexpr NamedPaper kPapers[] = {
-    {"a0", 1189.0, 841.0},    {"a1", 841.0, 594.0},     {"a2", 594.0, 420.0},
-    {"a3", 420.0, 297.0},     {"a4", 297.0, 210.0},     {"a5", 210.0, 148.0},
-    {"a6", 148.0, 105.0},     {"b0", 1414.0, 1000.0},   {"b1", 1000.0, 707.0},
-    {"b2", 707.0, 500.0},     {"b3", 500.0, 353.0},     {"b4", 353.0, 250.0},
-    {"b5", 250.0, 176.0},     {"letter", 279.4, 215.9}, {"legal", 355.6, 215.9},
-    {"tabloid", 431.8, 279.4}};
+    {"A0", 1189.0, 841.0},    {"A1", 841.0, 594.0},     {"A2", 594.0, 420.0},
+    {"A3", 420.0, 297.0},     {"A4", 297.0, 210.0},     {"A5", 210.0, 148.0},
+    {"A6", 148.0, 105.0},     {"B0", 1414.0, 1000.0},   {"B1", 1000.0, 707.0},
+    {"B2", 707.0, 500.0},     {"B3", 500.0, 353.0},     {"B4", 353.0, 250.0},
+    {"B5", 250.0, 176.0},     {"Letter", 279.4, 215.9}, {"Legal", 355.6, 215.9},
+    {"Tabloid", 431.8, 279.4}};
 
 std::string Lower(std::string text) {
     std::transform(text.begin(), text.end(), text.begin(), [](char c) {
@@ -34,12 +35,37 @@ bool IsPaperSide(double millimetres) {
            millimetres <= kLargestPaperMillimetres;
 }
 
+/// Whether a sheet is the next smaller one of a series: A5 of A4.
+bool Follows(std::string_view name, std::string_view larger) {
+    return larger.size() == 2 && name.size() == 2 && name[0] == larger[0] &&
+           name[1] == larger[1] + 1;
+}
+
 }  // namespace
+
+std::string PaperNames() {
+    std::string names;
+    const NamedPaper* last = nullptr;
+    for (const NamedPaper* first = kPapers; first != std::end(kPapers);
+         first = last + 1) {
+        for (last = first;
+             last + 1 != std::end(kPapers) && Follows(last[1].name, last->name);) {
+            ++last;
+        }
+        names += names.empty() ? "" : ", ";
+        names += first->name;
+        if (last != first) {
+            names += " to ";
+            names += last->name;
+        }
+    }
+    return names;
+}
 
 bool ParsePaperSize(const std::string& text, PaperSize& paper) {
     const std::string lower = Lower(text);
     for (const NamedPaper& named : kPapers) {
-        if (named.name == lower) {
+        if (Lower(std::string(named.name)) == lower) {
             paper = {UnitsFromMillimetres(named.longSide),
                      UnitsFromMillimetres(named.shortSide)};
             return true;

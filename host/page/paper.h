@@ -15,8 +15,11 @@ struct PaperSize {
 constexpr double kSmallestPaperMillimetres = 20.0;
 constexpr double kLargestPaperMillimetres = 5000.0;
 
-/// Reads a sheet's name (A0 to A6, B0 to B5, Letter, Legal, Tabloid, in any case; all in
-/// landscape) or its width and height in millimetres (`297x210`), each from 20 to 5000.
+/// The names of sheets: "A0 to A6, B0 to B5, Letter, …".
+std::string PaperNames();
+
+/// Reads a sheet's name (in any case; all in landscape) or its width and height in
+/// millimetres (`297x210`), each from 20 to 5000.
 /// @return false when the text is neither, leaving `paper` alone
 bool ParsePaperSize(const std::string& text, PaperSize& paper);
 

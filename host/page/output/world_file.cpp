@@ -8,23 +8,8 @@
 #include "system/number_text.h"
 
 namespace host {
-namespace {
-
-std::string EndingFor(OutputFormat format) {
-    switch (format) {
-        case OutputFormat::Png:
-            return ".pgw";
-        case OutputFormat::Jpeg:
-            return ".jgw";
-        default:
-            return {};
-    }
-}
-
-}  // namespace
-
 WorldFiles WorldFilesOf(const std::string& picture) {
-    const std::string ending = EndingFor(OutputFormatOf(picture));
+    const std::string ending = FactsOf(OutputFormatOf(picture)).worldFile;
     if (ending.empty()) {
         return {};
     }

@@ -209,9 +209,8 @@ void EditorWindow::EditProperties() {
 void EditorWindow::SetUpSheet() {
     bool isGiven = false;
     const QString paper = QInputDialog::getText(
-        this, "Sheet",
-        "A0 to A6, B0 to B5, Letter, Legal, Tabloid, or millimetres:", QLineEdit::Normal,
-        "297x210", &isGiven);
+        this, "Sheet", QString::fromStdString(host::PaperNames() + ", or millimetres:"),
+        QLineEdit::Normal, "297x210", &isGiven);
     if (isGiven) {
         SetSheet(paper);
     }

@@ -13,6 +13,7 @@
 #include <utility>
 #include <vector>
 
+#include "page/output/output_format.h"
 #include "page/paper.h"
 #include "page_editor/editing/file_stamp.h"
 #include "page_editor/editing/page_export.h"
@@ -30,16 +31,24 @@ namespace {
 constexpr const char* kOpenFilter =
     "Pages and rasters (*.json *.tif *.tiff *.img *.vrt *.png *.jpg);;All files (*)";
 const SavedKind kPage = {"Page files (*.json)", ".json"};
-const QList<SavedKind> kImages = {
-    {"By the ending (*.png *.pdf *.svg *.ps *.jpg *.jpeg *.tif *.tiff *.bmp)", ""},
-    {"PNG (*.png)", ".png"},
-    {"PDF (*.pdf)", ".pdf"},
-    {"SVG (*.svg)", ".svg"},
-    {"PostScript (*.ps)", ".ps"},
-    {"JPEG (*.jpg *.jpeg)", ".jpg"},
-    {"TIFF (*.tif *.tiff)", ".tif"},
-    {"BMP (*.bmp)", ".bmp"}};
 constexpr int kExportPatience = 500;  // milliseconds
+
+/// By the ending of the name, then each kind by itself.
+QList<SavedKind> ExportKinds() {
+    QList<SavedKind> kinds = {{}};
+    QStringList all;
+    for (const host::OutputFormatFacts& facts : host::OutputFormats()) {
+        QStringList patterns;
+        for (const char* const ending : facts.endings) {
+            patterns.append(QString("*") + ending);
+        }
+        kinds.append({QString("%1 (%2)").arg(facts.name, patterns.join(' ')),
+                      facts.endings.front()});
+        all += patterns;
+    }
+    kinds.front().text = "By the ending (" + all.join(' ') + ")";
+    return kinds;
+}
 
 /// Shows a busy pointer while it lives.
 class WaitCursor {
@@ -203,7 +212,8 @@ void FileCommands::Export() {
     const QString path = AskForFile(
         m_window, "Export the page",
         m_path.isEmpty() ? QString() : page.path() + '/' + page.completeBaseName(),
-        kImages, ExportFileName, [this](const QString& file) { return WhyNot(file); });
+        ExportKinds(), ExportFileName,
+        [this](const QString& file) { return WhyNot(file); });
     if (path.isEmpty()) {
         return;
     }

@@ -73,6 +73,10 @@ TEST(Paper, IsReadByNameOrByItsSides) {
     }
 }
 
+TEST(Paper, HasItsSeriesNamedByTheirEnds) {
+    EXPECT_EQ(host::PaperNames(), "A0 to A6, B0 to B5, Letter, Legal, Tabloid");
+}
+
 TEST(Paper, RefusesWhatIsNone) {
     for (const char* text :
          {"", "A7", "A", "x", "100x", "x50", "100", "100x50x20", "100 x 50", "19.9x50",

@@ -42,4 +42,15 @@ TEST(OutputFormat, IsNoneForOtherEndings) {
     }
 }
 
+TEST(OutputFormat, IsListedByItsUsualEnding) {
+    EXPECT_EQ(host::EndingsOfThose([](const auto& facts) { return facts.isForPrint; }),
+              ".pdf, .svg or .ps");
+    EXPECT_EQ(host::EndingsOfThose(
+                  [](const auto& facts) { return facts.worldFile[0] != '\0'; }),
+              ".png or .jpg");
+    EXPECT_EQ(host::EndingsOfThose(
+                  [](const auto& facts) { return facts.format == OutputFormat::Tiff; }),
+              ".tif");
+}
+
 }  // namespace
