@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <stdexcept>
+#include <tuple>
 
 #include "raster_data/make_raster.h"
 #include "raster_data/sample_terrain.h"
@@ -17,13 +18,12 @@ TEST(SampleRasters, AreASceneAnElevationModelAndALandCoverMapOfOneArea) {
     const auto scene = raster_test::Open(samples.scene);
     const auto elevation = raster_test::Open(samples.elevation);
     const auto landCover = raster_test::Open(samples.landCover);
-    EXPECT_EQ(scene->GetFileName(), L"landscape.tif");
-    EXPECT_EQ(scene->GetDisplayType(), DisplayRGB);
-    EXPECT_EQ(elevation->GetFileName(), L"elevation.tif");
-    EXPECT_EQ(elevation->GetDisplayType(), DisplayGray);
-    EXPECT_EQ(landCover->GetFileName(), L"land_cover.tif");
-    EXPECT_EQ(landCover->GetDisplayType(), DisplayClassified);
-    for (host::GdalRaster* raster : {scene.get(), elevation.get(), landCover.get()}) {
+    for (const auto& [raster, name, type] :
+         {std::tuple(scene.get(), L"landscape.tif", DisplayRGB),
+          {elevation.get(), L"elevation.tif", DisplayGray},
+          {landCover.get(), L"land_cover.tif", DisplayClassified}}) {
+        EXPECT_EQ(raster->GetFileName(), name);
+        EXPECT_EQ(raster->GetDisplayType(), type);
         EXPECT_EQ(raster->Width(), 600);
         EXPECT_EQ(raster->Height(), 450);
         EXPECT_TRUE(raster->HasGeoTransform());
