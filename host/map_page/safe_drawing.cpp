@@ -75,7 +75,6 @@ std::optional<host::AllowedSources> AllowedBy(const Options& options) {
 void Confine(const Options& options) {
     const std::optional<host::AllowedSources> allowed = AllowedBy(options);
     host::Kept kept;
-    kept.temporaryFiles = options.format == host::OutputFormat::PostScript;
     if (allowed) {
         host::ConfineGdal(*allowed);
         kept.network = allowed->IsNetworkAllowed();

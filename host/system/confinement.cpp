@@ -11,7 +11,6 @@
 
 #include <cerrno>
 #include <cstdint>
-#include <cstdio>
 #include <limits>
 #include <memory>
 
@@ -72,17 +71,6 @@ constexpr int kRefusedNetwork[] = {
     SCMP_SYS(socket), SCMP_SYS(socketpair), SCMP_SYS(connect), SCMP_SYS(bind),
     SCMP_SYS(listen), SCMP_SYS(accept),     SCMP_SYS(accept4)};
 
-constexpr const char* kTemporaryFolder = P_tmpdir;  // tmpfile() knows no other
-
-bool HasUnnamedFiles() {
-    const int file =
-        open(kTemporaryFolder, O_RDWR | O_EXCL | O_TMPFILE | O_CLOEXEC, 0600);
-    if (file >= 0) {
-        close(file);
-    }
-    return file >= 0;
-}
-
 /// The version of Landlock that this kernel has; 0 for none.
 long LandlockVersion() {
     const long version =
@@ -142,10 +130,6 @@ bool ConfineFiles(const Kept& kept) {
                           (version >= 3 ? kTruncate : 0) |
                           (kept.readable ? kReading : 0));
     rules.Allow("/dev/null", kReading | LANDLOCK_ACCESS_FS_WRITE_FILE | kTruncate);
-    if (kept.temporaryFiles) {
-        // The system calls that remain can only make unnamed files there.
-        rules.Allow(kTemporaryFolder, LANDLOCK_ACCESS_FS_WRITE_FILE);
-    }
     if (kept.readable) {
         for (const std::string& path : *kept.readable) {
             rules.Allow(path, kReading);
@@ -177,23 +161,6 @@ bool ConfineCalls(const Kept& kept) {
             refuse(call);
         }
     }
-    if (kept.temporaryFiles) {
-        // Opening existing files for writing. Unnamed files are allowed; truncating and
-        // creating are left to the file rules.
-        const auto refuseToOpen = [&](int call, unsigned flags) {
-            held = held &&
-                   seccomp_rule_add(
-                       filter.get(), SCMP_ACT_ERRNO(EACCES), call, 1,
-                       SCMP_CMP(flags, SCMP_CMP_MASKED_EQ,
-                                O_ACCMODE | (O_TMPFILE & ~O_DIRECTORY), O_RDWR)) == 0 &&
-                   seccomp_rule_add(filter.get(), SCMP_ACT_ERRNO(EACCES), call, 1,
-                                    SCMP_CMP(flags, SCMP_CMP_MASKED_EQ,
-                                             O_ACCMODE | O_TRUNC, O_WRONLY)) == 0;
-        };
-        refuseToOpen(SCMP_SYS(open), 1);
-        refuseToOpen(SCMP_SYS(openat), 2);
-        refuse(SCMP_SYS(openat2));
-    }
     return held && seccomp_load(filter.get()) == 0;
 }
 
@@ -205,7 +172,7 @@ bool Confine(const Kept& kept) {
     if (prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) != 0) {
         return false;
     }
-    const bool files = (!kept.temporaryFiles || HasUnnamedFiles()) && ConfineFiles(kept);
+    const bool files = ConfineFiles(kept);
     return ConfineCalls(kept) && files;
 }
 

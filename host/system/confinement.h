@@ -12,9 +12,6 @@ struct Kept {
     /// without a value, whatever it may open already.
     std::optional<std::vector<std::string>> readable;
     bool network = false;  ///< whether it may still connect to anything
-    /// Whether it may still make unnamed files in /tmp, with tmpfile(), as Cairo does for
-    /// PostScript. Where /tmp cannot have unnamed files, files are not restricted at all.
-    bool temporaryFiles = false;
 };
 
 /// Takes from this process and its children, for good, what reading and drawing do not

@@ -1,6 +1,7 @@
 #include "page/output/postscript_file.h"
 
 #include <cairo-ps.h>
+#include <sys/mman.h>
 
 #include <algorithm>
 #include <cmath>
@@ -12,6 +13,13 @@
 #include "page/output/cairo_page.h"
 #include "page/units.h"
 #include "page/words/page_words.h"
+
+// Cairo writes PostScript through tmpfile(). A confined process may not open files in a
+// folder that others use, so here it is a file in memory.
+extern "C" [[gnu::visibility("default")]] std::FILE* tmpfile() {
+    const int descriptor = memfd_create("page", MFD_CLOEXEC);
+    return descriptor < 0 ? nullptr : fdopen(descriptor, "w+b");
+}
 
 namespace host {
 namespace {

@@ -207,8 +207,11 @@ TEST_F(Print, GivesTheSamePostScriptEachTime) {
     EXPECT_TRUE(Holds(file,
                       "\n841.889764 595.275591 cairo_set_page_size\n"
                       "0 -0.724409 translate\n"));
-    ASSERT_EQ(Draw("plain.ps", {}, "Harbour").status, 0);
+    ASSERT_EQ(Draw("plain.ps", {"--save", "page.json"}, "Harbour").status, 0);
     EXPECT_TRUE(Holds(ContentsOf(folder.Path("plain.ps")), "\n%%Title: Harbour\n"));
+    ASSERT_EQ(RunMapPage(folder, "page.json -o confined.ps").status, 0);
+    EXPECT_EQ(ContentsOf(folder.Path("confined.ps")),
+              ContentsOf(folder.Path("plain.ps")));
 }
 
 TEST_F(Print, GivesTheSamePdfEachTimeAndDatesItByTheEnvironment) {

@@ -170,29 +170,6 @@ TEST_F(Confinement, LeavesToReadWhatIsNamed) {
         kept);
 }
 
-TEST_F(Confinement, LeavesFilesWithoutANameWhereTheyAreKept) {
-    if (folder.Path().rfind(P_tmpdir, 0) != 0) {
-        GTEST_SKIP() << "the test's folder is not below " << P_tmpdir;
-    }
-    host::Kept kept;
-    kept.temporaryFiles = true;
-    const std::string in = In("a");
-    Try({{"without a name", [] { return std::tmpfile() != nullptr; }, true},
-         {"in memory",
-          [] {
-              const host::MemoryFile file;
-              return std::fopen(file.Name().c_str(), "wb") != nullptr;
-          },
-          true},
-         {"write", [&] { return Opens(in, O_WRONLY); }, false},
-         {"write and read", [&] { return Opens(in, O_RDWR); }, false},
-         {"append", [&] { return Opens(in, O_WRONLY | O_APPEND); }, false},
-         {"empty", [&] { return Opens(in, O_WRONLY | O_TRUNC); }, false},
-         {"make", [&] { return Opens(In("new"), O_WRONLY | O_CREAT | O_TRUNC); }, false},
-         {"remove", [&] { return unlink(in.c_str()) == 0; }, false}},
-        kept);
-}
-
 TEST_F(Confinement, LeavesTheNetworkWhereItIsKept) {
     host::Kept kept;
     kept.network = true;
