@@ -16,8 +16,7 @@ struct PagePixels {
     explicit PagePixels(const host::PageImage& image);
     PagePixels(const host::Page& page, double dpi);
     /// Drawn on white.
-    PagePixels(int width, int height,
-               const std::function<void(Gdiplus::Graphics&)>& draw);
+    PagePixels(int across, int down, const std::function<void(Gdiplus::Graphics&)>& draw);
 
     Gdiplus::Color At(int x, int y) const;
     bool operator==(const PagePixels& other) const { return pixels == other.pixels; }
