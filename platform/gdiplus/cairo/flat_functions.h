@@ -62,6 +62,17 @@ GpStatus Set(Object* object, bool valid, Change change) {
     return Ok;
 }
 
+/// Whether a value of an enumeration that begins at 0 is one of those up to the last.
+template <typename Enumeration>
+bool IsUpTo(Enumeration value, Enumeration last) {
+    return value >= 0 && value <= last;
+}
+
+/// Whether a pen or a font can be measured in a unit.
+inline bool IsUnit(Unit unit) {
+    return IsUpTo(unit, UnitMillimeter) && unit != UnitDisplay;
+}
+
 template <typename Object>
 GpStatus Delete(Object* object) {
     delete object;

@@ -88,7 +88,7 @@ GpStatus GdipGetLineSpacing(const GpFontFamily* family, INT style, UINT16* spaci
 GpStatus GdipCreateFont(const GpFontFamily* family, REAL emSize, INT style, Unit unit,
                         GpFont** font) {
     const bool valid = family != nullptr && emSize > 0.0f && engine::IsStyle(style) &&
-                       unit >= UnitWorld && unit <= UnitMillimeter && unit != UnitDisplay;
+                       engine::IsUnit(unit);
     return engine::Make(font, valid, [&] {
         auto* made = new engine::Font;
         made->family = From(family)->family;

@@ -84,7 +84,7 @@ GpStatus Step(GpGraphics* graphics, const cairo_matrix_t& step, MatrixOrder orde
 
 template <typename Mode>
 GpStatus SetMode(GpGraphics* graphics, Mode State::*mode, Mode value, Mode last) {
-    return Set(From(graphics), value >= 0 && value <= last,
+    return Set(From(graphics), IsUpTo(value, last),
                [&](Graphics& g) { g.state.*mode = value; });
 }
 

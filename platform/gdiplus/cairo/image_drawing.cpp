@@ -38,11 +38,7 @@ GpStatus DrawInto(Graphics& graphics, Bitmap& bitmap, double x, double y, double
     }
     const SurfacePointer source = SourceOf(bitmap);
     Pencil pencil(graphics, 0.0);
-    pencil.MoveTo(x, y);
-    pencil.LineTo(x + width, y);
-    pencil.LineTo(x + width, y + height);
-    pencil.LineTo(x, y + height);
-    pencil.Close();
+    TraceRectangle(pencil, x, y, width, height);
     const Owned<cairo_pattern_t, cairo_pattern_destroy> pattern(
         cairo_pattern_create_for_surface(source.get()));
     cairo_matrix_t back = matrix;

@@ -61,6 +61,19 @@ GpStatus Step(GpMatrix* matrix, const cairo_matrix_t& step, MatrixOrder order) {
                [&](Matrix& m) { Join(m.value, step, order); });
 }
 
+/// @param point makes a point of the transformed coordinates
+template <typename AnyPoint, typename Build>
+GpStatus TransformPoints(GpMatrix* matrix, AnyPoint* points, INT count, Build point) {
+    return Set(From(matrix), points != nullptr && count > 0, [&](const Matrix& m) {
+        for (INT i = 0; i < count; ++i) {
+            double x = points[i].X;
+            double y = points[i].Y;
+            cairo_matrix_transform_point(&m.value, &x, &y);
+            points[i] = point(x, y);
+        }
+    });
+}
+
 }  // namespace
 }  // namespace engine
 
@@ -116,28 +129,15 @@ GpStatus GdipSetMatrixElements(GpMatrix* matrix, REAL m11, REAL m12, REAL m21, R
 }
 
 GpStatus GdipTransformMatrixPoints(GpMatrix* matrix, GpPointF* points, INT count) {
-    return engine::Set(engine::From(matrix), points != nullptr && count > 0,
-                       [&](const engine::Matrix& m) {
-                           for (INT i = 0; i < count; ++i) {
-                               double x = points[i].X;
-                               double y = points[i].Y;
-                               cairo_matrix_transform_point(&m.value, &x, &y);
-                               points[i] =
-                                   PointF(static_cast<REAL>(x), static_cast<REAL>(y));
-                           }
-                       });
+    return engine::TransformPoints(matrix, points, count, [](double x, double y) {
+        return PointF(static_cast<REAL>(x), static_cast<REAL>(y));
+    });
 }
 
 GpStatus GdipTransformMatrixPointsI(GpMatrix* matrix, GpPoint* points, INT count) {
-    return engine::Set(engine::From(matrix), points != nullptr && count > 0,
-                       [&](const engine::Matrix& m) {
-                           for (INT i = 0; i < count; ++i) {
-                               double x = points[i].X;
-                               double y = points[i].Y;
-                               cairo_matrix_transform_point(&m.value, &x, &y);
-                               points[i] = Point(engine::Rounded(x), engine::Rounded(y));
-                           }
-                       });
+    return engine::TransformPoints(matrix, points, count, [](double x, double y) {
+        return Point(engine::Rounded(x), engine::Rounded(y));
+    });
 }
 
 GpStatus GdipGetMatrixElements(const GpMatrix* matrix, REAL* elements) {

@@ -20,11 +20,6 @@ bool IsCap(LineCap cap) {
     }
 }
 
-template <typename Enumeration>
-bool IsUpTo(Enumeration value, Enumeration last) {
-    return value >= 0 && value <= last;
-}
-
 GpStatus SetCap(GpPen* pen, LineCap cap, LineCap Pen::*end,
                 std::optional<ArrowCap> Pen::*arrow) {
     return Set(From(pen), IsCap(cap), [&](Pen& p) {
@@ -52,8 +47,7 @@ using engine::Set;
 using engine::Tell;
 
 GpStatus GdipCreatePen1(ARGB color, REAL width, GpUnit unit, GpPen** pen) {
-    const bool valid = unit >= UnitWorld && unit <= UnitMillimeter && unit != UnitDisplay;
-    return engine::Make(pen, valid, [&] {
+    return engine::Make(pen, engine::IsUnit(unit), [&] {
         auto* made = new engine::Pen;
         made->color = color;
         made->width = width;

@@ -56,6 +56,14 @@ Extents Pencil::Reach(double margin) const {
             extents_.bottom + margin};
 }
 
+void TraceRectangle(Pencil& pencil, double x, double y, double width, double height) {
+    pencil.MoveTo(x, y);
+    pencil.LineTo(x + width, y);
+    pencil.LineTo(x + width, y + height);
+    pencil.LineTo(x, y + height);
+    pencil.Close();
+}
+
 void TracePath(Pencil& pencil, const Path& path, const PointF& origin, double scale) {
     const auto at = [&](std::size_t i) {
         return PointF(static_cast<REAL>(path.points[i].X * scale + origin.X),

@@ -35,6 +35,8 @@ private:
     Extents extents_;
 };
 
+void TraceRectangle(Pencil& pencil, double x, double y, double width, double height);
+
 /// Traces a path, scaled and then moved to an origin.
 void TracePath(Pencil& pencil, const Path& path, const PointF& origin = PointF(),
                double scale = 1.0);

@@ -23,14 +23,6 @@ void TracePoints(Pencil& pencil, const AnyPoint* points, INT count, bool closed)
     }
 }
 
-void TraceRectangle(Pencil& pencil, double x, double y, double width, double height) {
-    pencil.MoveTo(x, y);
-    pencil.LineTo(x + width, y);
-    pencil.LineTo(x + width, y + height);
-    pencil.LineTo(x, y + height);
-    pencil.Close();
-}
-
 template <typename Trace>
 GpStatus Fill(GpGraphics* graphics, GpBrush* brush, FillMode mode, Trace trace) {
     if (graphics == nullptr || brush == nullptr) {

@@ -21,8 +21,7 @@ GpStatus GdipDeleteStringFormat(GpStringFormat* format) {
 }
 
 GpStatus GdipSetStringFormatAlign(GpStringFormat* format, StringAlignment alignment) {
-    return Set(From(format),
-               alignment >= StringAlignmentNear && alignment <= StringAlignmentFar,
+    return Set(From(format), engine::IsUpTo(alignment, StringAlignmentFar),
                [&](auto& f) { f.alignment = alignment; });
 }
 
@@ -31,8 +30,7 @@ GpStatus GdipGetStringFormatAlign(GpStringFormat* format, StringAlignment* align
 }
 
 GpStatus GdipSetStringFormatLineAlign(GpStringFormat* format, StringAlignment alignment) {
-    return Set(From(format),
-               alignment >= StringAlignmentNear && alignment <= StringAlignmentFar,
+    return Set(From(format), engine::IsUpTo(alignment, StringAlignmentFar),
                [&](auto& f) { f.lineAlignment = alignment; });
 }
 
@@ -50,8 +48,7 @@ GpStatus GdipGetStringFormatFlags(GpStringFormat* format, INT* flags) {
 }
 
 GpStatus GdipSetStringFormatTrimming(GpStringFormat* format, StringTrimming trimming) {
-    return Set(From(format),
-               trimming >= StringTrimmingNone && trimming <= StringTrimmingEllipsisPath,
+    return Set(From(format), engine::IsUpTo(trimming, StringTrimmingEllipsisPath),
                [&](auto& f) { f.trimming = trimming; });
 }
 
