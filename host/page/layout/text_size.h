@@ -11,7 +11,6 @@ namespace host {
 
 /// Smaller type is guessed rather than read.
 constexpr double kSmallestPoints = 5.0;
-constexpr double kSmallestEm = UnitsFromPoints(kSmallestPoints);  ///< page units
 
 /// "12.5 points"
 std::string PointsText(double points);

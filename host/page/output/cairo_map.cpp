@@ -10,6 +10,7 @@
 #include "page/output/cairo_page.h"
 #include "page/output/image_file.h"
 #include "page/output/png_image.h"
+#include "page/units.h"
 
 namespace host {
 namespace {
@@ -97,7 +98,7 @@ void DrawMapImage(cairo_surface_t* surface, const MapFrame& map, const CRect& fr
     }
     const std::unique_ptr<cairo_t, void (*)(cairo_t*)> cairo(cairo_create(surface),
                                                              cairo_destroy);
-    cairo_scale(cairo.get(), 72.0 / dpi, 72.0 / dpi);
+    cairo_scale(cairo.get(), kPointsPerInch / dpi, kPointsPerInch / dpi);
     cairo_translate(cairo.get(), frame.left, frame.top);
     cairo_set_source_surface(cairo.get(), colours.get(), 0.0, 0.0);
     cairo_pattern_set_filter(cairo_get_source(cairo.get()), CAIRO_FILTER_NEAREST);

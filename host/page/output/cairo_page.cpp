@@ -7,6 +7,7 @@
 
 #include "page/device_view.h"
 #include "page/output/cairo_map.h"
+#include "page/units.h"
 
 namespace host {
 namespace {
@@ -53,7 +54,7 @@ std::vector<std::size_t> DrawOnCairo(cairo_surface_t* surface, const Page& page,
     std::vector<std::size_t> tags;
     const std::unique_ptr<cairo_t, void (*)(cairo_t*)> cairo(cairo_create(surface),
                                                              cairo_destroy);
-    const double pixel = 72.0 / dpi;
+    const double pixel = kPointsPerInch / dpi;
     cairo_scale(cairo.get(), pixel, pixel);
     const DeviceView view(page.Height(), dpi);
     {

@@ -11,6 +11,7 @@
 #include <qpdf/QPDFObjectHandle.hh>
 #include <string>
 
+#include "page/units.h"
 #include "raster_data/gdal_session.h"
 
 namespace host {
@@ -117,7 +118,7 @@ bool AddViewports(PdfObjects& objects, QPDFObjectHandle page,
                   const std::vector<GeoreferencedMap>& maps, double dpi) {
     const QuietGdal messages;
     const double height = page.getKey("/MediaBox").getArrayItem(3).getNumericValue();
-    const double pixel = 72.0 / dpi;
+    const double pixel = kPointsPerInch / dpi;
     QPDFObjectHandle viewports = QPDFObjectHandle::newArray();
     for (const GeoreferencedMap& map : maps) {
         const std::optional<QPDFObjectHandle> measure = MeasureOf(map);
