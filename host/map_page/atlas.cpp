@@ -66,7 +66,7 @@ void AddRow(const Options& options, const SeriesPage& row, const Quiet* quiet,
         host::CheckWritten(opened.page);
         remarks.Tell(host::RemarksOfMaps(opened.page));
         if (options.isStrict && remarks.Count() > 0) {
-            throw Error("is not drawn, for --strict allows no warnings");
+            throw Error("is not drawn: --strict allows no warnings");
         }
     } catch (...) {
         file.DropLast();

@@ -165,7 +165,7 @@ std::string DrawPage(const Options& options, const OutputFiles& files,
     }
     if (options.isStrict && remarks.Count() > 0) {
         throw Error(options.output.empty() ? options.save : options.output,
-                    "is not written, for --strict allows no warnings");
+                    "is not written: --strict allows no warnings");
     }
     return told;
 }
@@ -204,9 +204,10 @@ void CheckSeries(const Options& options, const std::vector<std::string>& columns
     });
     for (const std::string& column : columns) {
         if (!host::HasText(page, column)) {
-            throw Error(options.series,
-                        "the column \"" + column + "\" is no element with a text in " +
-                            options.pageFile + ", and not in the output's name");
+            throw Error(options.series, "the column \"" + column +
+                                            "\" is not an element with a text in " +
+                                            options.pageFile +
+                                            ", and not in the output's name");
         }
     }
 }

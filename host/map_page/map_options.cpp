@@ -32,13 +32,13 @@ std::optional<double> ScaleIn(const std::string& text) {
 
 CLI::Validator IsScale() {
     return {[](std::string& text) -> std::string {
-                return ScaleIn(text) ? "" : text + " is no scale such as 1:25000";
+                return ScaleIn(text) ? "" : text + " is not a scale such as 1:25000";
             },
             ""};
 }
 
 std::string UnitsHelp() {
-    std::string help = "What the bar counts in:";
+    std::string help = "Unit of the bar:";
     for (const host::DistanceUnitFacts& facts : host::DistanceUnits()) {
         help += std::string("\n") + facts.word + ": " + facts.about;
     }
@@ -54,13 +54,13 @@ void DeclareMap(CLI::App& app, Options& options) {
            [&map](const std::vector<double>& sides) {
                map.extent = host::Box{sides[0], sides[1], sides[2], sides[3]};
            },
-           "The part that is shown, in map coordinates (all of it)")
+           "The part to show, in map coordinates (all of it)")
         ->expected(4)
         ->type_name("LEFT BOTTOM RIGHT TOP")
         ->group(kMap);
     app.add_option_function<std::string>(
            "--scale", [&map](const std::string& given) { map.scale = ScaleIn(given); },
-           "1:25000: the scale on paper (as large as there is room)")
+           "1:25000: the scale on paper (as large as fits)")
         ->check(IsScale())
         ->type_name("1:N")
         ->group(kMap);
@@ -68,59 +68,44 @@ void DeclareMap(CLI::App& app, Options& options) {
 
 void DeclareScaleBar(CLI::App& app, Options& options) {
     host::ScaleBarDesign& bar = options.design.scaleBar;
-    AddChoice(app, "--scale-bar", bar.style, Styles(SurroundScaleBar),
-              "Style " + UsualStyle(SurroundScaleBar))
-        ->type_name("STYLE")
-        ->group(kScaleBar);
-    app.add_option("--divisions", bar.divisions,
-                   "Main divisions (4, or as many as there is room for)")
-        ->check(CLI::Range(1, 100, "1 to 100"))
-        ->type_name("COUNT")
-        ->group(kScaleBar);
-    app.add_option("--subdivisions", bar.subdivisions,
-                   "Ticks or boxes within a division (2)")
-        ->check(CLI::Range(0, 100, "0 to 100"))
-        ->type_name("COUNT")
-        ->group(kScaleBar);
-    AddChoice(app, "--units", bar.unit, ChoicesOfBars<host::DistanceUnit>("unit"),
-              UnitsHelp())
-        ->type_name("UNIT")
-        ->group(kScaleBar);
+    AddChoice(app, kScaleBar, "--scale-bar", bar.style, "STYLE", Styles(SurroundScaleBar),
+              "Style " + UsualStyle(SurroundScaleBar));
+    AddOption(app, kScaleBar, "--divisions", bar.divisions, "COUNT",
+              "Main divisions (4, or as many as fit)")
+        ->check(CLI::Range(1, 100, "1 to 100"));
+    AddOption(app, kScaleBar, "--subdivisions", bar.subdivisions, "COUNT",
+              "Ticks or boxes within a division (2)")
+        ->check(CLI::Range(0, 100, "0 to 100"));
+    AddChoice(app, kScaleBar, "--units", bar.unit, "UNIT",
+              ChoicesOfBars<host::DistanceUnit>("unit"), UnitsHelp());
     app.add_option_function<std::string>(
            "--unit-name",
            [&bar](const std::string& given) {
                bar.unitName = ReadText("--unit-name", given);
            },
-           "What the unit is called on the page (its sign); converts nothing")
+           "The name of the unit on the page (its symbol); converts nothing")
         ->type_name("TEXT")
         ->group(kScaleBar);
-    AddChoice(app, "--unit-position", bar.unitPosition,
+    AddChoice(app, kScaleBar, "--unit-position", bar.unitPosition, "WHERE",
               ChoicesOfBars<ScaleBarPostion>("unitPosition"),
-              "The unit beside the numbers (after)")
-        ->type_name("WHERE")
-        ->group(kScaleBar);
+              "The unit beside the numbers (after)");
     const Words<host::BarDistances> distances = {{"ground", host::BarDistances::Ground},
                                                  {"map", host::BarDistances::Map}};
-    AddChoice(app, "--distances", bar.distances, distances,
+    AddChoice(app, kScaleBar, "--distances", bar.distances, "WHAT", distances,
               "What is measured: the ground in the middle of the map, along the "
-              "ellipsoid, or the map's coordinates (ground)")
-        ->type_name("WHAT")
-        ->group(kScaleBar);
-    AddChoice(app, "--fit", bar.fit, ChoicesOfBars<host::BarFit>("fit"),
-              "What of it stays when a page file's map is another: the count of its\n"
-              "divisions, its width, or the value of one (count)")
-        ->type_name("WHAT")
-        ->group(kScaleBar);
+              "ellipsoid, or the map's coordinates (ground)");
+    AddChoice(app, kScaleBar, "--fit", bar.fit, "WHAT",
+              ChoicesOfBars<host::BarFit>("fit"),
+              "What it keeps when a page file gets another map: the number of its\n"
+              "divisions, its width, or the value of one (count)");
     app.add_flag("--numeric-scale", bar.numeric, "Write the scale in figures, too")
         ->group(kScaleBar);
 }
 
 void DeclareNorthArrow(CLI::App& app, Options& options) {
     host::NorthArrowDesign& arrow = options.design.northArrow;
-    AddChoice(app, "--north-arrow", arrow.style, Styles(SurroundNorthArrow),
-              "Style " + UsualStyle(SurroundNorthArrow))
-        ->type_name("STYLE")
-        ->group("North arrow");
+    AddChoice(app, "North arrow", "--north-arrow", arrow.style, "STYLE",
+              Styles(SurroundNorthArrow), "Style " + UsualStyle(SurroundNorthArrow));
     const auto turn = [&arrow](const std::string& given) {
         double angle = 0.0;
         arrow.angle =

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "map_page/error.h"
+#include "map_page/values.h"
 #include "system/number_text.h"
 
 namespace map_page {
@@ -20,22 +21,15 @@ void Check(const char* option, const std::optional<std::string>& text,
 }  // namespace
 
 void DeclareStyle(CLI::App& app, GivenStyle& given) {
-    app.add_option("--stretch", given.stretch,
-                   "Which values are black and white: none (0 and 255), minmax,\npercent "
-                   "LOW HIGH, stddev COUNT, or auto: none for bytes that\nare red, green "
-                   "and blue, percent 2 98 for three other bands,\nminmax for one (auto)")
-        ->type_name("HOW")
-        ->group("Map");
-    app.add_option(
-           "--bands", given.bands,
-           "Numbers of the bands shown: RED,GREEN,BLUE, or one as grey\n(what the "
-           "raster says)")
-        ->type_name("NUMBERS")
-        ->group("Map");
-    app.add_option("--nodata", given.noData,
-                   "Value of pixels that are not drawn, or none (what the raster says)")
-        ->type_name("VALUE")
-        ->group("Map");
+    AddOption(app, "Map", "--stretch", given.stretch, "HOW",
+              "Which values are black and white: none (0 and 255), minmax,\npercent "
+              "LOW HIGH, stddev COUNT, or auto: none for bytes that\nare red, green "
+              "and blue, percent 2 98 for three other bands,\nminmax for one (auto)");
+    AddOption(app, "Map", "--bands", given.bands, "NUMBERS",
+              "Numbers of the bands shown: RED,GREEN,BLUE, or one as grey\n(those that "
+              "the raster marks as such)");
+    AddOption(app, "Map", "--nodata", given.noData, "VALUE",
+              "Value of pixels that are not drawn, or none (the raster's own)");
 }
 
 host::RasterStyle ReadStyle(const GivenStyle& given) {

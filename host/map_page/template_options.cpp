@@ -135,10 +135,11 @@ void ChangePaper(const Given& given, const host::PageDesign& design, Changes& ch
 void CheckGoesWithPageFile(const CLI::App& app, const Given& given) {
     if (app.get_option("--save")->count() > 0 &&
         app.get_option("--series")->count() > 0) {
-        throw UsageError("--save", "does not go with --series, whose pages are many");
+        throw UsageError("--save", "cannot be used with --series");
     }
     if (app.get_option("--layout")->count() > 0) {
-        throw UsageError("--layout", "does not go with a page file, which is laid out");
+        throw UsageError("--layout",
+                         "cannot be used with a page file, which has its layout");
     }
     const auto second =
         std::find_if(given.rasters.begin() + 1, given.rasters.end(), host::IsPageFile);

@@ -48,7 +48,7 @@ CLI::Validator NumberIn(double lowest, double highest) {
         double value = 0.0;
         const bool isIn =
             host::ParseNumber(text, value) && value >= lowest && value <= highest;
-        return isIn ? "" : Quoted(text) + " is no number from " + range;
+        return isIn ? "" : Quoted(text) + " is not a number from " + range;
     };
     return {whyNot, range};
 }

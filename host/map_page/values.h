@@ -49,19 +49,29 @@ Words<const host::CatalogueEntry*> Styles(MapSurroundType family);
 /// The default style, for the help: "(two, where the map has coordinates)".
 std::string UsualStyle(MapSurroundType family);
 
-/// An option with a few words to choose from, each standing for a value.
+/// An option in a group of the help, which calls its value `value`.
+template <typename Target>
+CLI::Option* AddOption(CLI::App& app, const char* group, const char* name, Target& target,
+                       const char* value, const std::string& about) {
+    return app.add_option(name, target, about)->type_name(value)->group(group);
+}
+
+/// The same with a few words to choose from, each standing for a value.
 template <typename Target, typename Value>
-CLI::Option* AddChoice(CLI::App& app, const std::string& name, Target& target,
-                       const Words<Value>& words, const std::string& about) {
+CLI::Option* AddChoice(CLI::App& app, const char* group, const char* name, Target& target,
+                       const char* value, const Words<Value>& words,
+                       const std::string& about) {
     const auto take = [&target, words](const std::string& given) {
-        for (const auto& [word, value] : words) {
+        for (const auto& [word, meaning] : words) {
             if (word == given) {
-                target = value;
+                target = meaning;
             }
         }
     };
     return app.add_option_function<std::string>(name, take, about)
-        ->check(CLI::IsMember(words));
+        ->check(CLI::IsMember(words))
+        ->type_name(value)
+        ->group(group);
 }
 
 /// Accepts a finite number from `lowest` to `highest`. (CLI::Range accepts "nan" too.)

@@ -38,9 +38,9 @@ std::optional<Options> ReadCommandLine(int argc, char** argv) {
     Options options;
     CLI::App app("Lays out the page around a map by hand.", "page_editor");
     app.add_option("FILE", options.files,
-                   "A page file (.json), or rasters to lay a page out around");
+                   "A page file (.json), or rasters to lay out a page around");
     app.add_option("--screenshot", options.screenshot,
-                   "Draw the window into this image file and end");
+                   "Save an image of the window into this file and exit");
     app.add_option("--select", options.select,
                    "Select the elements with these numbers, from 0");
     app.set_version_flag("--version", MAP_SURROUND_VERSION_STRING);

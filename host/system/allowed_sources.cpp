@@ -104,7 +104,7 @@ std::string AllowedSources::WhyNotFile(const std::string& path) const {
 }
 
 std::string AllowedSources::WhyNotOfThisKind() const {
-    return "is no raster of the kinds that are read by themselves" +
+    return "is not a raster in a format that page files may name" +
            Hint(m_options.all, "");
 }
 

@@ -182,12 +182,13 @@ std::string ConfinementHere() {
         return "no new files, no programs, no network";
     }
     if (HasSeccomp()) {
-        return "no programs, no network; files are not held back, for this kernel has no "
+        return "no programs, no network; files are not confined, since this kernel has "
+               "no "
                "Landlock";
     }
-    return files ? "no new files; programs and the network are not held back, for this "
+    return files ? "no new files; programs and the network are not confined, since this "
                    "kernel has no seccomp"
-                 : "not held back, for this kernel has neither Landlock nor seccomp";
+                 : "not confined, since this kernel has neither Landlock nor seccomp";
 }
 
 }  // namespace host

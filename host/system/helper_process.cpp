@@ -180,7 +180,7 @@ private:
 
 void StartHelper(const Jobs& jobs) {
     if (g_helper >= 0) {
-        throw std::logic_error("there is a helper already");
+        throw std::logic_error("the helper has already been started");
     }
     const Ends ends = Connected("starting the helper");
     const pid_t process = StartChild([&] {

@@ -11,7 +11,7 @@ namespace host {
 
 MemoryFile::MemoryFile() : m_descriptor(memfd_create("page", MFD_CLOEXEC)) {
     if (m_descriptor < 0) {
-        throw std::runtime_error("no file in memory");
+        throw std::runtime_error("cannot make a file in memory");
     }
 }
 

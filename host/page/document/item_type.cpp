@@ -57,7 +57,7 @@ static_assert(AllHaveAFamily(), "a family of the catalogue has no properties");
 
 ItemType Map() {
     return {kMapType,
-            "The map: rasters on each other",
+            "The map: rasters on top of each other",
             tables::MapProperties(),
             nullptr,
             [] { return PageItem(MapFrame()); },
@@ -66,7 +66,7 @@ ItemType Map() {
 
 ItemType EmptyFrame() {
     return {"frame",
-            "A frame with nothing in it",
+            "An empty frame",
             tables::PlacedFrameProperties(),
             nullptr,
             [] { return PageItem(Frame(std::make_unique<PlacedFrame>())); },

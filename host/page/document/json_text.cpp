@@ -138,7 +138,7 @@ json ParseJson(const std::string& text) {
     } catch (const json::parse_error& error) {
         throw PageError(LineAndColumn(text, error.byte), ReasonIn(error.what()));
     } catch (const json::out_of_range&) {
-        throw PageError(watch.PlaceOfNext(), "is a number that no double can hold");
+        throw PageError(watch.PlaceOfNext(), "is a number beyond the range of a double");
     }
 }
 

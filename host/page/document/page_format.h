@@ -24,12 +24,14 @@ struct AboutKey {
 };
 
 constexpr AboutKey kAboutKeys[] = {
-    {"title", "In the properties of files; empty for the largest line of text",
+    {"title", "Title in the properties of files; empty for the largest line of text",
      &PageAbout::title},
-    {"author", "Who made the page, in the properties of files", &PageAbout::author},
-    {"subject", "What it is about, in the properties of files", &PageAbout::subject},
-    {"keywords", "To find it by, in the properties of files", &PageAbout::keywords},
-    {"language", "Of what is read aloud, by its code; else that of the scale bar",
+    {"author", "Author, in the properties of files", &PageAbout::author},
+    {"subject", "Subject, in the properties of files", &PageAbout::subject},
+    {"keywords", "Keywords for searching, in the properties of files",
+     &PageAbout::keywords},
+    {"language",
+     "Code of the language in which it is read aloud; else that of the scale bar",
      &PageAbout::language},
 };
 

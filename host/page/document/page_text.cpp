@@ -36,7 +36,7 @@ ordered_json ItemToJson(const PageItem& item, const FilePaths& paths,
                         const std::string& place) {
     const ItemType* const type = TypeOf(item);
     if (type == nullptr) {
-        throw PageError(place, "is of a type that no page file knows");
+        throw PageError(place, "has a type that page files do not have");
     }
     ordered_json object;
     object[kTypeKey] = type->name;
@@ -142,7 +142,7 @@ PageAbout AboutIn(const json& page) {
         }
     }
     if (!about.language.empty() && FindLanguage(about.language) == nullptr) {
-        throw PageError("language", "must be the code of a language that pages have");
+        throw PageError("language", "must be the code of a supported language");
     }
     return about;
 }

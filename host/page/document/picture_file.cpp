@@ -57,7 +57,7 @@ std::string CheckImageFile(const std::string& path) {
         Gdiplus::Image image(wide.c_str());
         const ImageSize size = {image.GetWidth(), image.GetHeight()};
         why = image.GetLastStatus() != Gdiplus::Ok || size.width == 0 || size.height == 0
-                  ? "is no image that can be read"
+                  ? "is not an image that can be read"
                   : WhyTooLarge(size);
     }
     return why.empty() ? "" : path + ": " + why;

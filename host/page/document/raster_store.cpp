@@ -43,8 +43,8 @@ Box ShownOf(const MapFrame& map, const MapLayers& layers) {
         layers.Projection(), layers.Extent(), map.scale, box.GetWidth(), box.GetHeight());
     if (!shown) {
         throw PageError("",
-                        "no scale can be kept, for no coordinate system is known for the "
-                        "middle of the map");
+                        "no scale can be kept: the coordinate system in the middle of "
+                        "the map is unknown");
     }
     return *shown;
 }
@@ -123,8 +123,7 @@ std::shared_ptr<MapLayers> RasterStore::Map(const std::vector<std::string>& path
         if (!style.bands.empty() &&
             std::all_of(rasters.begin(), rasters.end(),
                         [](const auto& raster) { return raster->BandCount() == 1; })) {
-            throw PageError(paths.front(),
-                            "has one band only, so that none can be chosen");
+            throw PageError(paths.front(), "has only one band, so none can be chosen");
         }
         map = std::make_shared<MapLayers>(std::move(rasters), extent);
     }

@@ -34,8 +34,8 @@ std::optional<Plan> PlanBar(const CatalogueEntry& style, const ScaleBarDesign& d
     const std::optional<BarMeasure> measure =
         MeasureFor(map, design.distances, unit, why);
     if (!measure) {
-        remarks.push_back("the scale bar is left out: it cannot count " +
-                          std::string(FactsOf(unit).about) + ", for " + why);
+        remarks.push_back("the scale bar is left out: it cannot be in " +
+                          std::string(FactsOf(unit).about) + ": " + why);
         return std::nullopt;
     }
     auto bar = NewElement<CScaleBarBase>(style);

@@ -43,7 +43,7 @@ const std::vector<DistanceUnitFacts>& DistanceUnits() {
         {DistanceUnit::Degree, "deg", "degrees, where the map's coordinates are degrees",
          1.0, MeasureDegree},
         {DistanceUnit::Coordinate, "map-units",
-         "the map's coordinates, whatever they count", 1.0, MeasureUnknown},
+         "the map's coordinates, whatever their unit", 1.0, MeasureUnknown},
     };
     return units;
 }

@@ -21,7 +21,7 @@ std::shared_ptr<GdalRaster> Straight(std::shared_ptr<GdalRaster> raster,
     try {
         return raster->NorthUp();
     } catch (const std::runtime_error& error) {
-        why = std::string("is turned against north: ") + error.what();
+        why = std::string("is rotated: ") + error.what();
         return raster;
     }
 }
@@ -78,7 +78,7 @@ MapLayers::MapLayers(std::vector<std::shared_ptr<GdalRaster>> rasters,
         m_projection = first->Projection();
     }
     if (!whyTurned.empty()) {
-        m_remarks.push_back(first->Path() + ": shown as it is stored, for it " +
+        m_remarks.push_back(first->Path() + ": shown as it is stored, since it " +
                             whyTurned);
     }
     Box all = m_layers.front().extent;
@@ -110,8 +110,8 @@ std::vector<std::string> MapLayers::Remarks() const {
     std::vector<std::string> remarks = m_remarks;
     if (m_asked && !m_isPlaced) {
         remarks.push_back(m_onMap.front()->Path() +
-                          ": the map's extent is of no use without a georeference, and "
-                          "all of it is shown");
+                          ": the map's extent is ignored without a georeference, and all "
+                          "of it is shown");
     }
     if (m_layers.empty()) {
         remarks.push_back(m_onMap.front()->Path() + ": the map's extent lies beside " +

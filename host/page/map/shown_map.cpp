@@ -84,7 +84,7 @@ std::optional<BarMeasure> MeasureFor(const ShownMap& map, BarDistances distances
         IsLength(unit) ? CoordinateUnit::Kind::Length : CoordinateUnit::Kind::Angle;
     if (own.kind != kind) {
         why = own.kind == CoordinateUnit::Kind::Unknown
-                  ? "nobody knows what the map's coordinates count"
+                  ? "the unit of the map's coordinates is unknown"
                   : "the map's coordinates are in " + own.name + "s";
         return std::nullopt;
     }

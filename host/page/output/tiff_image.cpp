@@ -84,7 +84,7 @@ std::vector<std::uint8_t> EncodeTiff(const PixelRows& pixels, double dpi,
     const QuietGdal messages;
     GDALDriver* const driver = GetGDALDriverManager()->GetDriverByName("GTiff");
     if (driver == nullptr) {
-        throw std::runtime_error("GDAL writes no TIFF files here");
+        throw std::runtime_error("this GDAL writes no TIFF files");
     }
     const GdalFile file;
     Write(pixels, dpi, georeference, *driver, file.Name());

@@ -118,7 +118,8 @@ void EditorWindow::Insert(const QString& type, QStringList files) {
         }
         const host::ItemType* const found = host::FindItemType(type.toStdString());
         if (found == nullptr) {
-            throw std::invalid_argument(type.toStdString() + ": is no type of element");
+            throw std::invalid_argument(type.toStdString() +
+                                        ": is not a type of element");
         }
         std::vector<std::string> remarks;
         host::PageItem item = NewItem(*found, m_document.Page(), m_document.Rasters(),
@@ -220,7 +221,7 @@ bool EditorWindow::SetSheet(const QString& paper) {
     host::PaperSize size;
     if (!host::ParsePaperSize(paper.trimmed().toStdString(), size)) {
         ShowFailure(paper +
-                    ": is no sheet; a name or a width and a height from 20 to "
+                    ": is not a sheet size: give a name, or width and height from 20 to "
                     "5000 mm, as 297x210");
         return false;
     }

@@ -24,7 +24,7 @@ std::optional<ExportChoices> AskHowToExport(QWidget& window, host::OutputFormat 
     dpi->setDecimals(1);
     dpi->setRange(kLeastDpi, kMostDpi);
     dpi->setValue(ExportChoices().dpi);
-    form->addRow("Pixels an inch:", dpi);
+    form->addRow("Pixels per inch:", dpi);
 
     auto* const maps = new QComboBox(&dialog);
     maps->setObjectName("maps");

@@ -151,12 +151,13 @@ bool FileCommands::Show(const std::function<host::OpenedPage()>& open) {
 }
 
 bool FileCommands::MayRead(const std::string& what) {
-    QMessageBox box(QMessageBox::Warning, "Files of others",
-                    "This page has more read than the rasters and pictures beside it:",
-                    QMessageBox::Yes | QMessageBox::No, &m_window);
-    box.setInformativeText(QString::fromStdString(host::OneLine(what)) +
-                           "\n\nAllow it to have anything read? Say no to a page that "
-                           "you do not trust.");
+    QMessageBox box(
+        QMessageBox::Warning, "Files of others",
+        "This page reads more than the rasters and pictures below its folder:",
+        QMessageBox::Yes | QMessageBox::No, &m_window);
+    box.setInformativeText(
+        QString::fromStdString(host::OneLine(what)) +
+        "\n\nAllow it to read anything? Answer No for a page that you do not trust.");
     box.setTextFormat(Qt::PlainText);
     box.setDefaultButton(QMessageBox::No);
     return box.exec() == QMessageBox::Yes;
@@ -175,7 +176,7 @@ bool FileCommands::Save() {
                         " has been changed by another program or window since it was "
                         "opened or saved here.",
                     QMessageBox::Cancel, &m_window);
-    box.setInformativeText("Replace what it holds now?");
+    box.setInformativeText("Replace its present contents?");
     const QAbstractButton* const replace =
         box.addButton("&Replace", QMessageBox::DestructiveRole);
     const QAbstractButton* const other =

@@ -23,7 +23,7 @@ std::optional<host::OutputFormat> FormatOf(const QString& file) {
 bool MayReplace(QWidget& window, const QString& title, const QString& file) {
     return QMessageBox::question(
                &window, title,
-               QFileInfo(file).fileName() + " is there already. Replace it?",
+               QFileInfo(file).fileName() + " already exists. Replace it?",
                QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
 }
 

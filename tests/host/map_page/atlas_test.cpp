@@ -125,7 +125,7 @@ TEST_F(Atlas, TakesAWarningForAFailureWhereThatIsAsked) {
     const Result result =
         Draw("name,title\nshort,\nlong," + longTitle + "\nend,\n", "--strict");
     EXPECT_EQ(result.status, 1);
-    EXPECT_THAT(result.err, HasSubstr("list.csv: line 3: is not drawn, for --strict"));
+    EXPECT_THAT(result.err, HasSubstr("list.csv: line 3: is not drawn: --strict"));
     EXPECT_THAT(Bookmarks(), ElementsAre("1: short", "2: end"));
 }
 

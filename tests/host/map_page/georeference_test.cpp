@@ -188,8 +188,8 @@ TEST_F(Georeference, IsLeftOutWhereThePageHasNoMapOrSeveral) {
     } rows[] = {
         {"plain.tif", "a.png", 1, "--world-file: the page's map has no coordinates"},
         {"two.json", "a.png", 1, "--world-file: the page has 2 maps"},
-        {"map.tif", "a.tif", 2, "--world-file: goes with an output in .png or .jpg"},
-        {"map.tif", "a.pdf", 2, "--world-file: goes with an output in .png or .jpg"},
+        {"map.tif", "a.tif", 2, "--world-file: needs an output in .png or .jpg"},
+        {"map.tif", "a.pdf", 2, "--world-file: needs an output in .png or .jpg"},
         {"own.jpg", "own.jpeg", 1, "own.jgw: would replace "},
     };
     RunWell("map.tif -o own.jpg --world-file");

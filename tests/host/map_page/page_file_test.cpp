@@ -264,7 +264,7 @@ TEST_F(PageFile, IsNotDrawnStrictlyWhereSomethingIsToBeSaidOfIt) {
         EXPECT_EQ(strict.out, "") << call;
         EXPECT_THAT(strict.err, StartsWith(warnings));
         EXPECT_THAT(strict.err,
-                    HasSubstr(".png: is not written, for --strict allows no warnings\n"));
+                    HasSubstr(".png: is not written: --strict allows no warnings\n"));
         EXPECT_EQ(folder.Names(), names) << call;
     }
     RunWell("good.json -o good.png --dpi 50 --strict");

@@ -233,7 +233,7 @@ TEST_F(Print, GivesTheSamePdfEachTimeAndDatesItByTheEnvironment) {
     EXPECT_TRUE(Holds(Said("pdfinfo -meta " + folder.Path("dated.pdf")),
                       "<xmp:CreateDate>1970-01-02T00:00:00Z</xmp:CreateDate>"));
     EXPECT_EQ(drawnAt("yesterday").err,
-              "map_page: dated.pdf: SOURCE_DATE_EPOCH is no number of seconds\n");
+              "map_page: dated.pdf: SOURCE_DATE_EPOCH is not a number of seconds\n");
 }
 
 TEST_F(Print, IsReadAloudInThePagesLanguage) {

@@ -78,12 +78,12 @@ TEST_F(Series, HasColumnsForWhatOptionsSay) {
         "outside,,,,,,,/etc/passwd\n");
     const Result result = Draw();
     EXPECT_EQ(result.status, 1);
-    EXPECT_THAT(
-        result.err,
-        ::testing::AllOf(HasSubstr("list.csv: line 5: --scale: none is no scale such as "
-                                   "1:25000\n"),
-                         HasSubstr("list.csv: line 6: /etc/passwd: is outside "),
-                         HasSubstr("3 drawn, 0 already there, 2 failed\n")));
+    EXPECT_THAT(result.err,
+                ::testing::AllOf(
+                    HasSubstr("list.csv: line 5: --scale: none is not a scale such as "
+                              "1:25000\n"),
+                    HasSubstr("list.csv: line 6: /etc/passwd: is outside "),
+                    HasSubstr("3 drawn, 0 already there, 2 failed\n")));
     const std::vector<std::pair<std::string, Arguments>> rows = {
         {"same", {}},
         {"scaled", "--scale 1:50000"},
@@ -193,7 +193,8 @@ TEST_F(Series, TellsAListThatIsNoneBeforeDrawing) {
         {"name\na/b\na_b\n", "out/{name}.png",
          "list.csv: lines 2 and 3: have one output, out/a_b.png"},
         {"name,titel\na,b\n", "out/{name}.png",
-         "list.csv: the column \"titel\" is no element with a text in page.json, and not "
+         "list.csv: the column \"titel\" is not an element with a text in page.json, and "
+         "not "
          "in the output's name"},
     };
     for (const auto& row : rows) {

@@ -58,10 +58,10 @@ TEST_F(WrongCall, OfAValueTellsWhatItMayBe) {
     } rows[] = {
         {"--dpi",
          {"abc", "-150", "0", "9.99", "nan", "1e999", "150dpi", ""},
-         R"("@" is no number from 10 to 2400)" + seeHelp},
+         R"("@" is not a number from 10 to 2400)" + seeHelp},
         {"--title-size",
          {"big", "0.5", ""},
-         R"("@" is no number from 1 to 1000)" + seeHelp},
+         R"("@" is not a number from 1 to 1000)" + seeHelp},
         {"--title-style",
          {"fat"},
          "@ not in {regular,bold,italic,bold-italic}" + seeHelp},
@@ -79,7 +79,7 @@ TEST_F(WrongCall, OfAValueTellsWhatItMayBe) {
         {"--north-arrow", {"six"}, NotIn(SurroundNorthArrow) + seeHelp},
         {"--north-angle",
          {"361"},
-         R"(("@" is no number from -360 to 360) OR (@ not in {true}))" + seeHelp},
+         R"(("@" is not a number from -360 to 360) OR (@ not in {true}))" + seeHelp},
         {"--bands",
          {"1,2"},
          "must be the number of a band, or three with commas between, such as 3,2,1"},
@@ -106,14 +106,14 @@ TEST_F(WrongCall, IsToldInOneLine) {
     const std::string wide = folder.Path("wide.png");
     Gdiplus::Bitmap(40000, 2, PixelFormat24bppRGB)
         .Save(std::wstring(wide.begin(), wide.end()).c_str(), &host_tests::kPngEncoder);
-    const std::string noImage = ": is no image that can be read";
+    const std::string noImage = ": is not an image that can be read";
     const std::string noEnding =
         ": ends in none of .png .jpg .jpeg .bmp .tif .tiff .pdf .svg .ps";
     const std::string noOutput = "--output or --save is required: see map_page --help";
     ExpectErrors({
-        {2, "--map-images: goes with an output in .pdf, .svg or .ps",
+        {2, "--map-images: needs an output in .pdf, .svg or .ps",
          kDraw + "--map-images jpeg"},
-        {2, "--pdf-standard: goes with an output in .pdf", kDraw + "--pdf-standard a-2u"},
+        {2, "--pdf-standard: needs an output in .pdf", kDraw + "--pdf-standard a-2u"},
         {1, "missing.tif: *", "missing.tif -o page.png"},
         {1, "text.tif: *", "text.tif -o page.png"},
         {1, "folder: *", "folder -o page.png"},
@@ -143,7 +143,7 @@ TEST_F(WrongCall, IsToldInOneLine) {
         {2, "--jobs: Value 0 not in range 1 to 256: see map_page --help",
          kDraw + "--series list.csv --jobs 0"},
         {2, "--jobs requires --series: see map_page --help", kDraw + "--jobs 2"},
-        {2, "--series: goes with a page file only", kDraw + "--series list.csv"},
+        {2, "--series: needs a page file", kDraw + "--series list.csv"},
         {2,
          "--stretch: must be auto, none, minmax, percent LOW HIGH (from 0 to 100) or "
          "stddev COUNT (above 0)",
@@ -200,9 +200,9 @@ TEST_F(WrongCall, OfAPageFileIsToldWithItsPlace) {
          "empty.json -o page.png"},
         {1, "none.json: No such file or directory", "none.json -o page.png"},
         {1, "folder.json: is not a file", "folder.json -o page.png"},
-        {2, "--save: does not go with --series, whose pages are many",
+        {2, "--save: cannot be used with --series",
          "good.json --series a.csv -o page.png --save other.json"},
-        {2, "--jobs: goes with an output for each page",
+        {2, "--jobs: needs an output for each page",
          "good.json --series a.csv -o atlas.pdf --jobs 2"},
         {2, "size.json: is a second page file",
          "good.json data/scene.tif size.json -o page.png"},

@@ -103,7 +103,7 @@ TEST_F(ConfinedGdal, ReadsKindsThatNameNoOtherFile) {
     const raster_test::Dataset original =
         raster_test::Owned(GDALDataset::Open(Maps("a.tif").c_str(), GDAL_OF_RASTER));
     const std::string refused =
-        "is no raster of the kinds that are read by themselves; --all allows it";
+        "is not a raster in a format that page files may name; --all allows it";
     for (const auto& [kind, read] : {std::pair<const char*, std::string>{"PNG", "10"},
                                      {"HFA", "10"},
                                      {"AAIGrid", "10"},

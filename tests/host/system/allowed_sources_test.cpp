@@ -109,7 +109,7 @@ TEST_F(AllowedSources, AreMoreWhereTheCallerSaysSo) {
     allowed.AllowNetwork();
     EXPECT_EQ(
         allowed.WhyNotOfThisKind(),
-        "is no raster of the kinds that are read by themselves; --allow-all allows it");
+        "is not a raster in a format that page files may name; --allow-all allows it");
     for (const std::string& name : names) {
         EXPECT_EQ(allowed.WhyNot(name), "") << name;
     }

@@ -20,10 +20,7 @@ Choices FamilyChoices() {
 
 template <double CPoint2D::*Side>
 Property OfOffset(const char* name, const char* about) {
-    Property property{};
-    property.name = name;
-    property.about = about;
-    property.kind = PropertyKind::Number;
+    Property property = Named<double>(name, about, PropertyKind::Number);
     property.range = kPositions;
     property.read = [](const PageItem& item) {
         return PropertyValue(SubjectOf<PlacedFrame>(item).ElementOffset().*Side);
@@ -61,15 +58,15 @@ std::vector<Property> TypeProperties() {
 
 std::vector<Property> PlacedFrameProperties() {
     return {
-        Of<&PlacedFrame::Name, &PlacedFrame::SetName>(
-            "name", "What people call it; drawn nowhere", PropertyKind::Text),
+        Of<&PlacedFrame::Name, &PlacedFrame::SetName>("name", "Its name; not drawn",
+                                                      PropertyKind::Text),
         Of<&PlacedFrame::AlternativeText, &PlacedFrame::SetAlternativeText>(
             "alternativeText", kAlternativeText, PropertyKind::Text),
-        OfOffset<&CPoint2D::x>("offsetX",
-                               "How far right of the frame's middle the element stands, "
-                               "page units"),
+        OfOffset<&CPoint2D::x>(
+            "offsetX",
+            "Offset of the element to the right of the frame's middle, page units"),
         OfOffset<&CPoint2D::y>(
-            "offsetY", "How far above the frame's middle the element stands, page units"),
+            "offsetY", "Offset of the element above the frame's middle, page units"),
     };
 }
 
@@ -89,20 +86,19 @@ std::vector<Property> ElementProperties() {
         Of<&CMapSurround::GetFrontColor, &CMapSurround::SetFrontColor>(
             "color", "Main colour; legends have none", PropertyKind::Colour),
         OneOf(Of<&CMapSurround::GetItemType, &CMapSurround::SetItemType>(
-                  "itemType", "What the element answers when asked for its kind",
-                  PropertyKind::Choice),
+                  "itemType", "Kind that the element reports", PropertyKind::Choice),
               FamilyChoices()),
     };
 }
 
 std::vector<Property> TitleProperties() {
-    return Join({{WithLines(Of<&CMapTitle::GetFontValue, &CMapTitle::SetFontValue>(
-                      "text", "The text", PropertyKind::Text)),
-                  OneOf(Of<&CMapTitle::GetLineAlignment, &CMapTitle::SetLineAlignment>(
-                            "lineAlignment", "Where lines of different length stand",
-                            PropertyKind::Choice),
-                        kLineAlignments)},
-                 TypeProperties()});
+    return Join(
+        {{WithLines(Of<&CMapTitle::GetFontValue, &CMapTitle::SetFontValue>(
+              "text", "The text", PropertyKind::Text)),
+          OneOf(Of<&CMapTitle::GetLineAlignment, &CMapTitle::SetLineAlignment>(
+                    "lineAlignment", "Alignment of its lines", PropertyKind::Choice),
+                kLineAlignments)},
+         TypeProperties()});
 }
 
 std::vector<Property> NumericScaleProperties() {
@@ -115,10 +111,7 @@ std::vector<Property> NumericScaleProperties() {
 }
 
 std::vector<Property> PictureProperties() {
-    Property path{};
-    path.name = "path";
-    path.about = "Image file";
-    path.kind = PropertyKind::File;
+    Property path = Named<std::wstring>("path", "Image file", PropertyKind::File);
     path.read = [](const PageItem& item) {
         return PropertyValue(Narrow(SubjectOf<CDrawPicture>(item).GetPath()));
     };
@@ -132,12 +125,11 @@ std::vector<Property> NorthArrowProperties() {
             "trueNorth", "Whether it is turned to true north in the middle of the map",
             PropertyKind::Switch),
         Of<&NorthArrowFrame::IsExact, &NorthArrowFrame::SetExact>(
-            "exact", "Whether one of one angle looks the same at every resolution",
+            "exact", "Whether a one-angle arrow looks the same at every resolution",
             PropertyKind::Switch),
         OneOf(
             Of<&CNorthArrowBase::GetNorthArrowType, &CNorthArrowBase::SetNorthArrowType>(
-                "northArrowType", "What the arrow answers when asked for its style",
-                PropertyKind::Choice),
+                "northArrowType", "Style that the arrow reports", PropertyKind::Choice),
             TypeChoices<&CNorthArrowBase::GetNorthArrowType>())};
 }
 

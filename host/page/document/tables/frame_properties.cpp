@@ -44,10 +44,7 @@ void SetBox(CFrameBase& frame, const Box& box) {
 
 template <double Box::*Side>
 Property OfBox(const char* name, const char* about) {
-    Property property{};
-    property.name = name;
-    property.about = about;
-    property.kind = PropertyKind::Number;
+    Property property = Named<double>(name, about, PropertyKind::Number);
     property.read = [](const PageItem& item) {
         return PropertyValue(BoxOf(SubjectOf<CFrameBase>(item)).*Side);
     };
@@ -58,6 +55,12 @@ Property OfBox(const char* name, const char* about) {
         SetBox(frame, box);
     };
     return property;
+}
+
+template <std::int32_t CFrameBase::*Field>
+Property OfReserved(const char* name) {
+    return Within(OfField<Field>(name, "Kept; has no effect", PropertyKind::Integer),
+                  kWords);
 }
 
 }  // namespace
@@ -84,29 +87,28 @@ std::vector<Property> FrameProperties() {
         OfField<&CFrameBase::BorderColor>("borderColor", "Colour of the border", kColour),
         OfField<&CFrameBase::DashedBorder>("borderDashed", "Whether the border is dashed",
                                            kSwitch),
-        Within(OfField<&CFrameBase::BorderGapX>(
-                   "borderGapX",
-                   "How far border and shadow stand out left and right, page units",
-                   kInteger),
+        Within(OfField<&CFrameBase::BorderGapX>("borderGapX",
+                                                "Gap between the frame and its border "
+                                                "and shadow, left and right, page units",
+                                                kInteger),
                kPixels),
-        Within(OfField<&CFrameBase::BorderGapY>(
-                   "borderGapY",
-                   "How far border and shadow stand out above and below, page units",
-                   kInteger),
+        Within(OfField<&CFrameBase::BorderGapY>("borderGapY",
+                                                "Gap between the frame and its border "
+                                                "and shadow, above and below, page units",
+                                                kInteger),
                kPixels),
         OfField<&CFrameBase::DrawFill>("fill", "Whether the background is drawn",
                                        kSwitch),
         OfField<&CFrameBase::FillColor>("fillColor", "Colour of the background", kColour),
-        Within(
-            OfField<&CFrameBase::FillGapX>(
-                "fillGapX",
-                "How far the background stands out left and right, page units", kInteger),
-            kPixels),
-        Within(OfField<&CFrameBase::FillGapY>(
-                   "fillGapY",
-                   "How far the background stands out above and below, page units",
-                   kInteger),
+        Within(OfField<&CFrameBase::FillGapX>(
+                   "fillGapX",
+                   "How far the background extends left and right, page units", kInteger),
                kPixels),
+        Within(
+            OfField<&CFrameBase::FillGapY>(
+                "fillGapY", "How far the background extends above and below, page units",
+                kInteger),
+            kPixels),
         OfField<&CFrameBase::DrawShadow>("shadow", "Whether the shadow is drawn",
                                          kSwitch),
         OfField<&CFrameBase::ShadowColor>("shadowColor", "Colour of the shadow", kColour),
@@ -118,21 +120,11 @@ std::vector<Property> FrameProperties() {
                    "shadowRatioY", "How far the shadow falls, in heights of the frame",
                    kNumber),
                kPositions),
-        Within(OfField<&CFrameBase::Reserved1>("reserved1", "Kept, and drawn by nothing",
-                                               kInteger),
-               kWords),
-        Within(OfField<&CFrameBase::Reserved2>("reserved2", "Kept, and drawn by nothing",
-                                               kInteger),
-               kWords),
-        Within(OfField<&CFrameBase::Reserved3>("reserved3", "Kept, and drawn by nothing",
-                                               kInteger),
-               kWords),
-        Within(OfField<&CFrameBase::Reserved4>("reserved4", "Kept, and drawn by nothing",
-                                               kInteger),
-               kWords),
-        Within(OfField<&CFrameBase::Reserved5>("reserved5", "Kept, and drawn by nothing",
-                                               kInteger),
-               kWords),
+        OfReserved<&CFrameBase::Reserved1>("reserved1"),
+        OfReserved<&CFrameBase::Reserved2>("reserved2"),
+        OfReserved<&CFrameBase::Reserved3>("reserved3"),
+        OfReserved<&CFrameBase::Reserved4>("reserved4"),
+        OfReserved<&CFrameBase::Reserved5>("reserved5"),
     };
 }
 

@@ -7,21 +7,22 @@ namespace host::tables {
 std::vector<Property> LegendProperties() {
     return {
         Of<&LegendFrame::RasterPaths, &LegendFrame::SetRasterPaths>(
-            "rasters", "Files that it explains, in order; others are left out",
+            "rasters", "Files that it explains, in order; no others",
             PropertyKind::Rasters),
         WithLines(Of<&LegendFrame::Names, &LegendFrame::SetNames>(
             "names",
-            "What they are called, a line each; an empty one is by its file's name",
+            "Names of the rasters, one per line; an empty line stands for the file's "
+            "name",
             PropertyKind::Text)),
         Of<&LegendFrame::JoinsTiles, &LegendFrame::SetJoinsTiles>(
             "joinTiles",
-            "Whether rasters called alike but for their digits, side by side and shown "
-            "alike, are one entry",
+            "Whether rasters side by side that are shown alike, with names that differ "
+            "only in digits, are one entry",
             PropertyKind::Switch),
         Of<&LegendFrame::ExplainsRamps, &LegendFrame::SetExplainsRamps>(
             "paletteRamps",
-            "Whether a raster whose palette is a ramp is explained by it, not by a class "
-            "for each value",
+            "Whether a palette that is a ramp is explained as a ramp, not by a class for "
+            "each value",
             PropertyKind::Switch),
         Of<&CMapLegend::GetTitleValue, &CMapLegend::SetTitleValue>("title", "First line",
                                                                    PropertyKind::Text),
@@ -60,32 +61,30 @@ std::vector<Property> LegendProperties() {
         Of<&CMapLegend::GetAlignedLabels, &CMapLegend::SetAlignedLabels>(
             "alignedLabels",
             "Whether labels are level with their swatches, and the values of a ramp with "
-            "its ends, with the decimals they need",
+            "its ends and as precise as necessary",
             PropertyKind::Switch),
         Within(Of<&CMapLegend::GetGap, &CMapLegend::SetGap>(
-                   "gap", "Between its rows, in heights of one; 0: 12 page units",
+                   "gap", "Gap between rows, in row heights; 0: 12 page units",
                    PropertyKind::Number),
                {0.0, 100.0}),
         Within(Of<&CMapLegend::GetMostWidth, &CMapLegend::SetMostWidth>(
                    "mostWidth",
-                   "How wide names and labels may be when they are measured; what is "
-                   "wider ends in an ellipsis; 0: any",
+                   "Greatest width of names and labels when measured, page units; wider "
+                   "ones are broken or end in an ellipsis; 0: any",
                    PropertyKind::Number),
                kLengths),
         Within(Of<&CMapLegend::GetMostLines, &CMapLegend::SetMostLines>(
                    "mostLines",
-                   "In how many lines a name or label may stand that is wider than that",
+                   "Greatest number of lines of a name or label that is wider than that",
                    PropertyKind::Integer),
                {1.0, 100.0}),
         Within(Of<&CMapLegend::GetColumns, &CMapLegend::SetColumns>(
-                   "columns", "How many columns its entries stand in",
-                   PropertyKind::Integer),
+                   "columns", "Number of columns", PropertyKind::Integer),
                {1.0, 64.0}),
-        Within(
-            Of<&LegendFrame::SizeFactor, &LegendFrame::SetSizeFactor>(
-                "sizeFactor", "What both em sizes are multiplied by when it is measured",
-                PropertyKind::Number),
-            {0.0, 1000.0}),
+        Within(Of<&LegendFrame::SizeFactor, &LegendFrame::SetSizeFactor>(
+                   "sizeFactor", "Factor for both em sizes when it is measured",
+                   PropertyKind::Number),
+               {0.0, 1000.0}),
     };
 }
 

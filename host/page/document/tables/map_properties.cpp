@@ -31,8 +31,7 @@ Property OfStyle(const char* name, const char* about, Read read, Write write, Ch
 
 std::vector<Property> MapProperties() {
     return {
-        OfField<&MapFrame::name>("name", "What people call it; drawn nowhere",
-                                 PropertyKind::Text),
+        OfField<&MapFrame::name>("name", "Its name; not drawn", PropertyKind::Text),
         OfField<&MapFrame::alternativeText>("alternativeText", kAlternativeText,
                                             PropertyKind::Text),
         OfField<&MapFrame::rasterPaths>("rasters", "Files on the map, the first on top",
@@ -61,8 +60,8 @@ std::vector<Property> MapProperties() {
             "^(auto|none|minmax|percent [0-9.eE+-]+ [0-9.eE+-]+|stddev [0-9.eE+-]+)$"),
         OfStyle(
             "bands",
-            "Numbers of the bands shown: RED,GREEN,BLUE, or one; empty for those "
-            "that the raster says",
+            "Numbers of the bands shown: RED,GREEN,BLUE, or one; empty for those that "
+            "the raster marks as such",
             [](const PageItem& item) { return PropertyValue(StyleOf(item).BandsText()); },
             [](PageItem& item, const PropertyValue& value) {
                 StyleOf(item).ParseBands(std::get<std::string>(value));
@@ -71,8 +70,7 @@ std::vector<Property> MapProperties() {
             "^([0-9]+(,[0-9]+,[0-9]+)?)?$"),
         OfStyle(
             "noData",
-            "Value of pixels that are not drawn, or none; empty for what the "
-            "files say",
+            "Value of pixels that are not drawn, or none; empty for the files' own",
             [](const PageItem& item) {
                 return PropertyValue(StyleOf(item).NoDataText());
             },

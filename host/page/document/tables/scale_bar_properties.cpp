@@ -52,34 +52,35 @@ constexpr Choice kUnits[] = {
 
 std::vector<Property> ScaleBarProperties() {
     return {
-        OneOf(
-            Of<&ScaleBarFrame::GetBarDistances, &ScaleBarFrame::SetBarDistances>(
-                "distances",
-                "What it is kept true to: nothing, the map, or the ground in its middle",
-                PropertyKind::Choice),
-            kBarDistances),
+        OneOf(Of<&ScaleBarFrame::GetBarDistances, &ScaleBarFrame::SetBarDistances>(
+                  "distances",
+                  "Distances that it is kept true to: none, the map's, or those on the "
+                  "ground in its middle",
+                  PropertyKind::Choice),
+              kBarDistances),
         OneOf(Of<&ScaleBarFrame::Unit, &ScaleBarFrame::SetUnit>(
-                  "unit", "What it counts in; metric and imperial choose by length",
+                  "unit", "Its unit; metric and imperial choose by length",
                   PropertyKind::Choice),
               DistanceUnitChoices()),
-        OneOf(
-            Of<&ScaleBarFrame::Fit, &ScaleBarFrame::SetFit>(
-                "fit",
-                "What stays when the map changes: the count of the divisions, the width "
-                "of the bar, or the value of a division",
-                PropertyKind::Choice),
-            kFits),
-        Within(Of<&ScaleBarFrame::Longest, &ScaleBarFrame::SetLongest>(
-                   "longest", "How long it may become then, page units; 0: as it is",
-                   PropertyKind::Number),
-               kLengths),
+        OneOf(Of<&ScaleBarFrame::Fit, &ScaleBarFrame::SetFit>(
+                  "fit",
+                  "What it keeps when the map changes: the number of divisions, the "
+                  "width of the bar, or the value of a division",
+                  PropertyKind::Choice),
+              kFits),
+        Within(
+            Of<&ScaleBarFrame::Longest, &ScaleBarFrame::SetLongest>(
+                "longest", "Its greatest length then, page units; 0: its present length",
+                PropertyKind::Number),
+            kLengths),
         Of<&ScaleBarFrame::IsExact, &ScaleBarFrame::SetExact>(
-            "exact", "Whether it counts 1, 2 or 5 and is true as a whole",
+            "exact",
+            "Whether its divisions are 1, 2 or 5 times a power of ten and the whole bar "
+            "is true",
             PropertyKind::Switch),
         Within(Of<&ScaleBarFrame::DivisionValue, &ScaleBarFrame::SetDivisionValue>(
                    "divisionValue",
-                   "What a division stands for, before the bar rounds it down to one "
-                   "digit",
+                   "Value of a division, before the bar rounds it down to one digit",
                    PropertyKind::Number),
                kDistances),
         Within(Of<&ScaleBarFrame::DivisionLength, &ScaleBarFrame::SetDivisionLength>(
@@ -94,23 +95,22 @@ std::vector<Property> ScaleBarProperties() {
                    PropertyKind::Integer),
                kCounts),
         OneOf(Of<&CScaleBarBase::GetUnitPos, &CScaleBarBase::SetUnitPos>(
-                  "unitPosition", "Where the name of the unit stands",
-                  PropertyKind::Choice),
+                  "unitPosition", "Place of the unit's name", PropertyKind::Choice),
               kUnitPositions),
         Of<&CScaleBarBase::GetUnitsName, &CScaleBarBase::SetUnitsNameVerbatim>(
-            "units", "Name of the unit; one that is chosen by length names itself",
+            "units", "Name of the unit; follows a unit that is chosen by length",
             PropertyKind::Text),
         OneOf(Of<&ScaleBarFrame::LanguagePlace, &ScaleBarFrame::SetLanguagePlace>(
-                  "language", "In which it does that", PropertyKind::Choice),
+                  "language", "Language of a unit that is chosen by length",
+                  PropertyKind::Choice),
               LanguageChoices()),
         OneOf(Of<&CScaleBarBase::GetDestUnitType, &CScaleBarBase::SetDestUnitType>(
                   "unitType",
-                  "What it counts on the ground; names and converts nothing else",
+                  "Unit on the ground of a bar that is not exact; has no other effect",
                   PropertyKind::Choice),
               kUnits),
         OneOf(Of<&CScaleBarBase::GetScaleBarType, &CScaleBarBase::SetScaleBarType>(
-                  "scaleBarType", "What the bar answers when asked for its style",
-                  PropertyKind::Choice),
+                  "scaleBarType", "Style that the bar reports", PropertyKind::Choice),
               TypeChoices<&CScaleBarBase::GetScaleBarType>()),
     };
 }

@@ -29,12 +29,12 @@ std::string StandardColours() {
         cmsSetProfileVersion(profile.get(), kVersion);
     }
     if (profile == nullptr || cmsSaveProfileToMem(profile.get(), nullptr, &size) == 0) {
-        throw std::runtime_error("no profile of colours can be made");
+        throw std::runtime_error("no colour profile can be made");
     }
     std::string bytes(size, '\0');
     if (cmsSaveProfileToMem(profile.get(), bytes.data(), &size) == 0 ||
         size < kDate + kDateBytes) {
-        throw std::runtime_error("no profile of colours can be made");
+        throw std::runtime_error("no colour profile can be made");
     }
     // Dated the first of January 2000.
     const unsigned char date[kDateBytes] = {0x07, 0xD0, 0, 1, 0, 1};

@@ -40,7 +40,7 @@ std::optional<std::tm> Moment() {
             return moment;
         }
     }
-    throw std::runtime_error("SOURCE_DATE_EPOCH is no number of seconds");
+    throw std::runtime_error("SOURCE_DATE_EPOCH is not a number of seconds");
 }
 
 std::string Written(const std::optional<std::tm>& moment, const char* format) {

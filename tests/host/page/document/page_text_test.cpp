@@ -53,8 +53,8 @@ TEST_F(PageTexts, WrongPagesAreToldInOneLineThatNamesThePlace) {
         {PageText(R"({"type": "frame"}, {"frame": {"left": 1, "left": 2}})"),
          "elements[1].frame.left: is given twice"},
         {PageText(R"({"type": "title", "size": 1e999})"),
-         "elements[0].size: is a number that no double can hold"},
-        {"[1, 2, 1e999]", "[2]: is a number that no double can hold"},
+         "elements[0].size: is a number beyond the range of a double"},
+        {"[1, 2, 1e999]", "[2]: is a number beyond the range of a double"},
         // No page.
         {"[]", "must be an object"},
         {"5", "must be an object"},
@@ -79,7 +79,7 @@ TEST_F(PageTexts, WrongPagesAreToldInOneLineThatNamesThePlace) {
         {R"({"version": 3, "width": 400, "height": 300, "title": "a\u0000"})",
          "title: must be text without zero characters"},
         {R"({"version": 3, "width": 400, "height": 300, "language": "tlh"})",
-         "language: must be the code of a language that pages have"},
+         "language: must be the code of a supported language"},
         {R"({"version": 1, "width": 400, "height": 300, "elements": {}})",
          "elements: must be a list"},
         // No element.

@@ -126,7 +126,7 @@ TEST_F(OpeningRasters, BandsThatThereAreNotAreToldWithTheirFile) {
     WriteRaster(folder.Path("one.tif"), MadeRaster());
     for (const auto& [name, bands, why] :
          {std::tuple{"scene.tif", std::vector{1, 2, 7}, "has no band 7 (it has 3)"},
-          {"one.tif", std::vector{1}, "has one band only, so that none can be chosen"}}) {
+          {"one.tif", std::vector{1}, "has only one band, so none can be chosen"}}) {
         PageItem item = MapOf({folder.Path(name)});
         std::get<MapFrame>(item).style.bands = bands;
         EXPECT_THAT(

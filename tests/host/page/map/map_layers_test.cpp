@@ -244,16 +244,16 @@ TEST_F(MapLayers, TellWhenATurnedRasterCannotBeTurnedBack) {
     const host::MapLayers map = Layers({raster});
     EXPECT_FALSE(map.IsPlaced());
     ASSERT_EQ(map.Remarks().size(), 1U);
-    EXPECT_EQ(map.Remarks().front().rfind(
-                  folder.Path("raster0.tif") +
-                      ": shown as it is stored, for it is turned against north: ",
-                  0),
-              0U)
+    EXPECT_EQ(
+        map.Remarks().front().rfind(
+            folder.Path("raster0.tif") + ": shown as it is stored, since it is rotated: ",
+            0),
+        0U)
         << map.Remarks().front();
     count = 0;
     EXPECT_EQ(Layers({raster}, host::Box{1.0, 1.0, 2.0, 2.0}).Remarks().back(),
               folder.Path("raster0.tif") +
-                  ": the map's extent is of no use without a georeference, and all of it "
+                  ": the map's extent is ignored without a georeference, and all of it "
                   "is shown");
 }
 

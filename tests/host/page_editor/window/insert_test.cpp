@@ -150,7 +150,7 @@ TEST_F(Insert, TellsWhichFileCannotBeUsed) {
     window.Insert("picture", {Path("none.png")});
     EXPECT_THAT(LastFailure(), HasSubstr("none.png: No such file"));
     window.Insert("compass");
-    EXPECT_EQ(window.LastFailure(), "compass: is no type of element");
+    EXPECT_EQ(window.LastFailure(), "compass: is not a type of element");
     EXPECT_EQ(document.Count(), 0u);
     EXPECT_FALSE(document.CanUndo());
 }
