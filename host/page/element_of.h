@@ -44,4 +44,11 @@ const Element* ElementOf(const PageItem& item) {
     return frame == nullptr ? nullptr : ElementOf<Element>(*frame);
 }
 
+/// The picture of an item, if it is a map and its picture of a class; else null.
+template <class Picture>
+std::shared_ptr<Picture> PictureAs(const PageItem& item) {
+    const auto* const map = std::get_if<MapFrame>(&item);
+    return map == nullptr ? nullptr : std::dynamic_pointer_cast<Picture>(map->picture);
+}
+
 }  // namespace host

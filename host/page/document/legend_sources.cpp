@@ -8,8 +8,8 @@
 #include <vector>
 
 #include "map_surround/legend.h"
-#include "page/document/map_on_page.h"
 #include "page/element_of.h"
+#include "page/layout/map_on_page.h"
 #include "page/placed_frame.h"
 
 namespace host {

@@ -2,10 +2,10 @@
 
 #include <utility>
 
-#include "page/document/map_on_page.h"
 #include "page/document/page_text.h"
 #include "page/document/unused_changes.h"
 #include "page/layout/layout.h"
+#include "page/layout/map_on_page.h"
 #include "page/layout/page_remarks.h"
 #include "page/map/map_layers.h"
 #include "page/texts.h"

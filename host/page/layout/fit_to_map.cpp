@@ -12,9 +12,9 @@
 #include "page/element_of.h"
 #include "page/ink.h"
 #include "page/layout/bar_on_map.h"
+#include "page/layout/map_on_page.h"
 #include "page/layout/scale_division.h"
 #include "page/map/map_geometry.h"
-#include "page/map/map_layers.h"
 #include "page/map/shown_map.h"
 #include "page/numeric_scale.h"
 #include "page/placed_frame.h"
@@ -37,12 +37,11 @@ struct SpokenOf {
 
 std::optional<SpokenOf> MapOf(const Page& page) {
     for (const PageItem& item : page.Items()) {
-        const auto* const map = std::get_if<MapFrame>(&item);
-        const auto* const layers =
-            map == nullptr ? nullptr : dynamic_cast<const MapLayers*>(map->picture.get());
-        const double width = map == nullptr ? 0.0 : map->frame.GetExtent().GetWidth();
+        const std::shared_ptr<MapLayers> layers = LayersOf(item);
+        const double width = FrameOf(item).GetExtent().GetWidth();
         if (layers != nullptr && layers->IsPlaced() && width > 0.0) {
-            return SpokenOf{map, {layers->Projection(), layers->Extent(), width}};
+            return SpokenOf{&std::get<MapFrame>(item),
+                            {layers->Projection(), layers->Extent(), width}};
         }
     }
     return std::nullopt;

@@ -4,7 +4,7 @@
 #include <variant>
 
 #include "page/device_view.h"
-#include "page/document/map_on_page.h"
+#include "page/layout/map_on_page.h"
 
 namespace host {
 

@@ -6,9 +6,9 @@
 
 #include "map_surround/north_arrow.h"
 #include "map_surround/picture.h"
-#include "page/document/map_on_page.h"
 #include "page/element_of.h"
 #include "page/layout/fit_to_map.h"
+#include "page/layout/map_on_page.h"
 #include "page/map/map_geometry.h"
 #include "page/numeric_scale.h"
 #include "page/words/legend_words.h"

@@ -9,6 +9,7 @@
 #include "page/document/item_type.h"
 #include "page/document/legend_sources.h"
 #include "page/document/page_error.h"
+#include "page/element_of.h"
 
 namespace page_editor {
 namespace {
@@ -107,10 +108,7 @@ std::vector<std::string> OpenOrHatch(host::Page& page, host::RasterStore& raster
 std::vector<std::string> RemarksOfHatched(const host::Page& page) {
     std::vector<std::string> remarks;
     for (const host::PageItem& item : page.Items()) {
-        const auto* const map = std::get_if<host::MapFrame>(&item);
-        const auto* const hatched =
-            map == nullptr ? nullptr : dynamic_cast<HatchedMap*>(map->picture.get());
-        if (hatched != nullptr) {
+        if (const auto hatched = host::PictureAs<HatchedMap>(item)) {
             remarks.push_back("the map is hatched: " + hatched->Why());
         }
     }

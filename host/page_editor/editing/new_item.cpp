@@ -7,10 +7,10 @@
 #include <utility>
 
 #include "map_surround/map_surround.h"
-#include "page/document/map_on_page.h"
 #include "page/document/picture_file.h"
 #include "page/element_of.h"
 #include "page/layout/legend_draft.h"
+#include "page/layout/map_on_page.h"
 #include "page/layout/steps.h"
 #include "page_editor/editing/arrange.h"
 #include "page_editor/editing/page_document.h"

@@ -6,10 +6,10 @@
 #include <vector>
 
 #include "page/document/legend_sources.h"
-#include "page/document/map_on_page.h"
 #include "page/document/page_error.h"
 #include "page/document/page_text.h"
 #include "page/layout/fit_to_map.h"
+#include "page/layout/map_on_page.h"
 #include "page/paper.h"
 #include "page_editor/editing/missing_files.h"
 #include "page_editor/editing/separate_reading.h"

@@ -10,10 +10,10 @@
 
 #include "page/document/document_test.h"
 #include "page/document/item_type.h"
-#include "page/document/map_on_page.h"
 #include "page/document/page_text.h"
 #include "page/element_of.h"
 #include "page/layout/layout.h"
+#include "page/layout/map_on_page.h"
 #include "page/placed_frame.h"
 
 namespace {

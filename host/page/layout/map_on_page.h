@@ -4,9 +4,9 @@
 #include <string>
 #include <vector>
 
-#include "page/document/raster_store.h"
 #include "page/layout/layout.h"
 #include "page/map/map_layers.h"
+#include "page/page.h"
 
 namespace host {
 

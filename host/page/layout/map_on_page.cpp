@@ -1,4 +1,6 @@
-#include "page/document/map_on_page.h"
+#include "page/layout/map_on_page.h"
+
+#include "page/element_of.h"
 
 namespace host {
 
@@ -17,8 +19,7 @@ MapOnPage DescribeMap(const std::shared_ptr<MapLayers>& map) {
 }
 
 std::shared_ptr<MapLayers> LayersOf(const PageItem& item) {
-    const auto* const map = std::get_if<MapFrame>(&item);
-    return map == nullptr ? nullptr : std::dynamic_pointer_cast<MapLayers>(map->picture);
+    return PictureAs<MapLayers>(item);
 }
 
 std::vector<std::string> RemarksOfMaps(const Page& page) {
