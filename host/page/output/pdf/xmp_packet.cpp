@@ -1,5 +1,9 @@
 #include "page/output/pdf/xmp_packet.h"
 
+#include <cpl_string.h>
+
+#include <memory>
+
 namespace host {
 namespace {
 
@@ -25,23 +29,11 @@ constexpr const char* kArchive = R"(<pdfaid:part>2</pdfaid:part>
 )";
 
 std::string Escaped(const std::string& text) {
-    std::string escaped;
-    for (const char c : text) {
-        switch (c) {
-            case '&':
-                escaped += "&amp;";
-                break;
-            case '<':
-                escaped += "&lt;";
-                break;
-            case '>':
-                escaped += "&gt;";
-                break;
-            default:
-                escaped += c;
-        }
-    }
-    return escaped;
+    const std::unique_ptr<char, decltype(&VSIFree)> escaped(
+        CPLEscapeString(text.c_str(), static_cast<int>(text.size()),
+                        CPLES_XML_BUT_QUOTES),
+        &VSIFree);
+    return escaped.get();
 }
 
 /// A property, with its text in nested containers: {"rdf:Seq", "rdf:li"}.
