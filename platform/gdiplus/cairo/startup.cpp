@@ -4,7 +4,7 @@
 
 #include "cairo/flat_functions.h"
 #include "cairo/running.h"
-#include "cairo/text_cache.h"
+#include "cairo/text/text_cache.h"
 
 namespace engine {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "cairo/font_files.h"
+#include "cairo/text/font_files.h"
 
 namespace engine {
 

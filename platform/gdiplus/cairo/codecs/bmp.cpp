@@ -2,7 +2,7 @@
 #include <cmath>
 #include <cstdlib>
 
-#include "cairo/codecs.h"
+#include "cairo/codecs/codecs.h"
 
 namespace engine {
 namespace {

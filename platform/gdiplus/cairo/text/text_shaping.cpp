@@ -1,4 +1,4 @@
-#include "cairo/text_shaping.h"
+#include "cairo/text/text_shaping.h"
 
 #include <fribidi.h>
 

@@ -1,4 +1,4 @@
-#include "cairo/codecs.h"
+#include "cairo/codecs/codecs.h"
 
 #include <sys/stat.h>
 

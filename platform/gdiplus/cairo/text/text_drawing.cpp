@@ -4,7 +4,7 @@
 #include "cairo/brush.h"
 #include "cairo/graphics.h"
 #include "cairo/pencil.h"
-#include "cairo/text_cache.h"
+#include "cairo/text/text_cache.h"
 #include "cairo/unicode.h"
 
 namespace engine {

@@ -1,4 +1,4 @@
-#include "cairo/font.h"
+#include "cairo/text/font.h"
 
 namespace Gdiplus::DllExports {
 extern "C" {

@@ -5,7 +5,7 @@
 #include <tuple>
 #include <unordered_map>
 
-#include "cairo/text_layout.h"
+#include "cairo/text/text_layout.h"
 
 namespace engine {
 

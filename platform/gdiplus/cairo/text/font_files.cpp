@@ -1,4 +1,4 @@
-#include "cairo/font_files.h"
+#include "cairo/text/font_files.h"
 
 #include <hb-ot.h>
 

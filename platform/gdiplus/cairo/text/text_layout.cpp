@@ -1,10 +1,10 @@
-#include "cairo/text_layout.h"
+#include "cairo/text/text_layout.h"
 
 #include <algorithm>
 #include <cmath>
 #include <tuple>
 
-#include "cairo/text_shaping.h"
+#include "cairo/text/text_shaping.h"
 #include "cairo/unicode.h"
 
 namespace engine {

@@ -4,9 +4,9 @@
 #include <string>
 #include <vector>
 
-#include "cairo/face.h"
-#include "cairo/font.h"
 #include "cairo/path.h"
+#include "cairo/text/face.h"
+#include "cairo/text/font.h"
 
 namespace engine {
 

@@ -3,7 +3,7 @@
 #include <cmath>
 #include <cstring>
 
-#include "cairo/codecs.h"
+#include "cairo/codecs/codecs.h"
 
 namespace engine {
 namespace {

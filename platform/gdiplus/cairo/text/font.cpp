@@ -1,9 +1,9 @@
-#include "cairo/font.h"
+#include "cairo/text/font.h"
 
 #include <algorithm>
 
 #include "cairo/graphics.h"
-#include "cairo/text_cache.h"
+#include "cairo/text/text_cache.h"
 
 namespace engine {
 namespace {

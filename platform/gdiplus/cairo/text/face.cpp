@@ -1,4 +1,4 @@
-#include "cairo/face.h"
+#include "cairo/text/face.h"
 
 #include <cairo-ft.h>
 #include <ft2build.h>

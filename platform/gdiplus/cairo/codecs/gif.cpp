@@ -4,7 +4,7 @@
 #include <cstring>
 #include <map>
 
-#include "cairo/codecs.h"
+#include "cairo/codecs/codecs.h"
 
 namespace engine {
 namespace {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "cairo/text_cache.h"
+#include "cairo/text/text_cache.h"
 
 namespace engine {
 

@@ -5,8 +5,8 @@
 
 #include <memory>
 
-#include "cairo/font_files.h"
 #include "cairo/owned.h"
+#include "cairo/text/font_files.h"
 
 namespace engine {
 

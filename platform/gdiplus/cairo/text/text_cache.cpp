@@ -1,4 +1,4 @@
-#include "cairo/text_cache.h"
+#include "cairo/text/text_cache.h"
 
 #include <cstring>
 #include <string_view>
