@@ -3,20 +3,20 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
+#include <QFile>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QProgressDialog>
 #include <QTimer>
+#include <QWheelEvent>
 #include <QtTest>
 #include <algorithm>
 #include <cstdlib>
-#include <fstream>
-#include <iterator>
-#include <optional>
-#include <utility>
+#include <set>
 
 #include "page/document/item_type.h"
+#include "page/made_raster.h"
 #include "page/output/page_image.h"
 
 namespace editor_tests {
@@ -56,19 +56,19 @@ std::size_t EditorTest::Add(const char* type, const host::Box& box,
     window.Insert(type, named);
     EXPECT_EQ(window.LastFailure().toStdString(), "");
     const std::size_t item = document.Count() - 1;
-    document.ChangeItems({item}, "Place", [&](host::PageItem& added) {
-        host::FrameOf(added).SetExtent(BoundingBoxOf(box));
-    });
+    Place(item, box);
     document.Select({});
     return item;
 }
 
-host::Box EditorTest::BoxOf(std::size_t item) {
-    return host::BoxOf(document.Extent(item));
+void EditorTest::Place(std::size_t item, const host::Box& box) {
+    document.ChangeItems({item}, "Place", [&](host::PageItem& placed) {
+        host::FrameOf(placed).SetExtent(BoundingBoxOf(box));
+    });
 }
 
-host::Box EditorTest::BoxOf(std::size_t item, const host::Page& page) {
-    return host::BoxOf(host::FrameOf(page.Items()[item]).GetExtent());
+host::Box EditorTest::BoxOf(std::size_t item) {
+    return host::BoxOf(document.Extent(item));
 }
 
 host::PropertyValue EditorTest::ValueOf(std::size_t index, const char* name) {
@@ -122,45 +122,65 @@ void EditorTest::DragTo(CPoint2D from, CPoint2D to, Qt::KeyboardModifiers modifi
     Release(to, modifiers);
 }
 
+void EditorTest::TurnTheWheel(QWidget& widget, QPointF at, bool up,
+                              Qt::KeyboardModifiers modifiers) {
+    QWheelEvent turn(at, widget.mapToGlobal(at), {}, QPoint(0, up ? 120 : -120),
+                     Qt::NoButton, modifiers, Qt::NoScrollPhase, false);
+    QSpontaneKeyEvent::setSpontaneous(&turn);
+    qApp->notify(&widget, &turn);
+}
+
 void EditorTest::Key(Qt::Key key, Qt::KeyboardModifiers modifiers) {
     QTest::keyClick(&canvas, key, modifiers);
 }
 
 void EditorTest::Command(const char* name, std::vector<Answers::Answer> answers) {
-    std::optional<Answers> given;
-    if (!answers.empty()) {
-        given.emplace(std::move(answers));
-    }
+    const Answers given(std::move(answers));
     auto* const action = window.findChild<QAction*>(name);
     ASSERT_NE(action, nullptr) << name;
     EXPECT_TRUE(action->isEnabled()) << name;
     action->trigger();
 }
 
-std::string EditorTest::Bytes(const char* name) const {
-    std::ifstream file(folder.Path(name), std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
+QString EditorTest::Scene(const char* name) const {
+    WriteScene(folder.Path(name), 60, 40);
+    return Path(name);
 }
 
-void EditorTest::Write(const char* name, const std::string& text) const {
-    std::ofstream(folder.Path(name)) << text;
+QString EditorTest::Logo(const char* name) const {
+    QFile::copy(MAP_SURROUND_PICTURE, Path(name));
+    return Path(name);
+}
+
+QStringList EditorTest::FilesFor(const std::string& type) const {
+    return type == "map"       ? QStringList(Scene())
+           : type == "picture" ? QStringList(Logo())
+                               : QStringList();
+}
+
+bool EditorTest::IsHatched(std::size_t item) {
+    const host::Box box = BoxOf(item);
+    // Where nothing lies on it.
+    const QPoint place(static_cast<int>(box.left + box.Width() / 8.0),
+                       static_cast<int>(document.Page().Height() - box.MiddleY()));
+    constexpr int kPeriod = 16;  // two stripes along the other diagonal
+    std::set<QRgb> colours;
+    for (int x = 0; x < kPeriod; ++x) {
+        const auto pixel = [&](int dx, int dy) {
+            return canvas.Image().pixel(place + QPoint(x + dx, dy));
+        };
+        if (pixel(kPeriod, 0) != pixel(0, 0) ||
+            pixel(kPeriod / 2, kPeriod / 2) != pixel(0, 0)) {
+            return false;
+        }
+        colours.insert(pixel(0, 0));
+    }
+    return colours.size() > 1;
 }
 
 void EditorTest::ExpectImageIsThePage() {
     const double dpi = canvas.Zoom() * 96.0;
     EXPECT_LE(MostDifference(canvas.Image(), DrawnWhole(document.Page(), dpi)), kHair);
-}
-
-void AnswerLater(QMessageBox::StandardButton button) {
-    auto* const timer = new QTimer(qApp);
-    QObject::connect(timer, &QTimer::timeout, timer, [timer, button] {
-        auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-        if (box != nullptr) {
-            timer->deleteLater();
-            box->button(button)->click();
-        }
-    });
-    timer->start(20);
 }
 
 Answers::Answers(std::vector<Answer> answers) : m_answers(std::move(answers)) {

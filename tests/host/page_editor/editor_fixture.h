@@ -4,14 +4,15 @@
 
 #include <QEvent>
 #include <QImage>
-#include <QMessageBox>
 #include <QTimer>
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "page_editor/window/editor_window.h"
 #include "scratch_folder.h"
+#include "system/helper_process.h"
 
 namespace editor_tests {
 
@@ -40,6 +41,13 @@ private:
     QTimer m_timer;
 };
 
+/// What comes of an action during whose dialogs these answers are given.
+template <class Action>
+auto Answering(std::vector<Answers::Answer> answers, Action action) {
+    const Answers given(std::move(answers));
+    return action();
+}
+
 /// An editor's window at 100 % with an empty A4 sheet, and what a person does to it.
 class EditorTest : public ::testing::Test {
 protected:
@@ -49,8 +57,8 @@ protected:
     std::size_t Add(const char* type, const host::Box& box,
                     const QStringList& named = {});
 
+    void Place(std::size_t item, const host::Box& box);
     host::Box BoxOf(std::size_t item);
-    host::Box BoxOf(std::size_t item, const host::Page& page);
     template <class Type>
     Type Value(std::size_t item, const char* property) {
         return std::get<Type>(ValueOf(item, property));
@@ -67,6 +75,10 @@ protected:
     /// Presses, moves there in a few steps, and lets go.
     void DragTo(CPoint2D from, CPoint2D to, Qt::KeyboardModifiers modifiers = {});
 
+    /// As the window system sends it, to whatever is there; upwards, or down.
+    static void TurnTheWheel(QWidget& widget, QPointF at, bool up,
+                             Qt::KeyboardModifiers modifiers = {});
+
     void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = {});
     /// Runs the command of a menu; the dialogs that come get these answers.
     void Command(const char* name, std::vector<Answers::Answer> answers = {});
@@ -75,10 +87,20 @@ protected:
     QString Path(const char* name) const {
         return QString::fromStdString(folder.Path(name));
     }
-    std::string Bytes(const char* name) const;
-    void Write(const char* name, const std::string& text) const;
+    /// A raster of 60 x 40 pixels and a picture, written there.
+    QString Scene(const char* name = "scene.tif") const;
+    QString Logo(const char* name = "logo.png") const;
+    /// Those that an element of a type is made with.
+    QStringList FilesFor(const std::string& type) const;
+    std::string Bytes(const char* name) const { return folder.Contents(name); }
+    void Write(const char* name, const std::string& text) const {
+        folder.Write(name, text);
+    }
 
     std::string LastFailure() const { return window.LastFailure().toStdString(); }
+
+    /// Whether an item's place is hatched, as that of a map that cannot be read.
+    bool IsHatched(std::size_t item);
 
     /// Fails unless the canvas shows what drawing the whole page gives.
     void ExpectImageIsThePage();
@@ -95,10 +117,10 @@ private:
               Qt::MouseButtons buttons, Qt::KeyboardModifiers modifiers);
 };
 
-/// Presses a button of the next question, whenever it is asked.
-void AnswerLater(QMessageBox::StandardButton button);
-
 void ExpectBox(const host::Box& box, const host::Box& expected);
+
+/// Jobs of the tests' helper that end in every way (see helper_process_test.cpp).
+host::Jobs TestJobs();
 
 /// Drawn anew, without anything of an editor.
 QImage DrawnWhole(const host::Page& page, double dpi);

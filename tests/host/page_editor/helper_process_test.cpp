@@ -15,9 +15,7 @@
 #include <string>
 #include <vector>
 
-#include "page/made_raster.h"
 #include "page_editor/editor_fixture.h"
-#include "page_editor/test_jobs.h"
 
 namespace {
 
@@ -111,21 +109,16 @@ class EditorsProcess : public editor_tests::EditorTest {};
 /// One with windows has threads, whose locks a copy of it may wait for.
 TEST_F(EditorsProcess, IsNeverCopied) {
     pthread_atfork([] { ++g_forks; }, nullptr, nullptr);
-    WriteScene(folder.Path("scene.tif"), 60, 40);
-    const QString scene = Path("scene.tif");
-    Add("map", {100.0, 100.0, 400.0, 300.0}, {scene});
-    const QString logo = Path("logo.png");
-    ASSERT_TRUE(QFile::copy(MAP_SURROUND_PICTURE, logo));
-    Add("picture", {500.0, 100.0, 600.0, 200.0}, {logo});
+    Add("map", {100.0, 100.0, 400.0, 300.0}, {Scene()});
+    Add("picture", {500.0, 100.0, 600.0, 200.0}, {Logo()});
     Command("selectAll");
     Command("copy");
     Command("paste");
     const QString page = Path("page.json");
     ASSERT_TRUE(files.SaveTo(page));
     ASSERT_TRUE(files.OpenFiles({page}));
-    for (const char* name : {"page.png", "page.pdf"}) {
-        EXPECT_TRUE(files.ExportTo(QString::fromStdString(folder.Path(name)), 50.0));
-    }
+    EXPECT_TRUE(files.ExportTo(Path("page.png"), 50.0));
+    EXPECT_TRUE(files.ExportTo(Path("page.pdf"), 50.0));
     EXPECT_EQ(g_forks, 0);
 }
 

@@ -1,5 +1,4 @@
 #include <cpl_error.h>
-#include <gdiplus.h>
 #include <gtest/gtest.h>
 
 #include <QApplication>
@@ -7,9 +6,10 @@
 #include <QTemporaryDir>
 
 #include "page_editor/editing/file_jobs.h"
-#include "page_editor/test_jobs.h"
+#include "page_editor/editor_fixture.h"
 #include "page_editor/trap_raster.h"
 #include "raster_data/gdal_session.h"
+#include "system/gdiplus_session.h"
 #include "system/helper_process.h"
 
 int main(int argc, char** argv) {
@@ -26,12 +26,6 @@ int main(int argc, char** argv) {
     jobs.merge(page_editor::FileJobs());
     host::StartHelper(jobs);
     const QApplication application(argc, argv);
-    const Gdiplus::GdiplusStartupInput input;
-    ULONG_PTR token = 0;
-    if (Gdiplus::GdiplusStartup(&token, &input, nullptr) != Gdiplus::Ok) {
-        return 1;
-    }
-    const int failed = RUN_ALL_TESTS();
-    Gdiplus::GdiplusShutdown(token);
-    return failed;
+    const host::GdiplusSession gdiplus;
+    return RUN_ALL_TESTS();
 }

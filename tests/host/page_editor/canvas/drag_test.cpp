@@ -20,16 +20,22 @@ protected:
     }
 };
 
-TEST_F(Dragging, Moves) {
-    DragTo(CPoint2D(150.0, 150.0), CPoint2D(187.0, 223.0));
-    ExpectBox(BoxOf(0), {137.0, 173.0, 237.0, 273.0});
+TEST_F(Dragging, MovesAndShowsEveryStep) {
+    Press(CPoint2D(150.0, 150.0));
+    for (const double x : {170.0, 250.0, 420.0}) {
+        MoveTo(CPoint2D(x, 223.0));
+        EXPECT_TRUE(canvas.IsDragging());
+        ExpectImageIsThePage();
+    }
+    EXPECT_EQ(document.UndoLabel(), "Place");  // no command until it ends
+    Release(CPoint2D(420.0, 223.0));
     EXPECT_EQ(document.UndoLabel(), "Move");
-    ExpectImageIsThePage();
+    ExpectBox(BoxOf(0), {370.0, 173.0, 470.0, 273.0});
     Command("undo");
     ExpectBox(BoxOf(0), {100.0, 100.0, 200.0, 200.0});
     ExpectImageIsThePage();
     Command("redo");
-    ExpectBox(BoxOf(0), {137.0, 173.0, 237.0, 273.0});
+    ExpectBox(BoxOf(0), {370.0, 173.0, 470.0, 273.0});
     ExpectImageIsThePage();
 }
 
@@ -39,18 +45,6 @@ TEST_F(Dragging, MovesByWholeUnitsUnlessFree) {
     ExpectBox(BoxOf(0), {138.0, 173.0, 238.0, 273.0});
     DragTo(CPoint2D(150.0, 180.0), CPoint2D(150.5, 190.0), Qt::AltModifier);
     ExpectBox(BoxOf(0), {138.5, 183.0, 238.5, 283.0});
-}
-
-TEST_F(Dragging, ShowsEveryStep) {
-    Press(CPoint2D(150.0, 150.0));
-    for (const double x : {170.0, 250.0, 420.0}) {
-        MoveTo(CPoint2D(x, 160.0));
-        EXPECT_TRUE(canvas.IsDragging());
-        ExpectImageIsThePage();
-    }
-    EXPECT_EQ(document.UndoLabel(), "Place");  // no command until it ends
-    Release(CPoint2D(420.0, 160.0));
-    EXPECT_EQ(document.UndoLabel(), "Move");
 }
 
 TEST_F(Dragging, EndsWhereTheButtonWasLetGoUnseen) {

@@ -1,7 +1,6 @@
 #include "page_editor/editing/resize.h"
 
 #include "kit/pulls.h"
-#include "page/made_raster.h"
 #include "page_editor/editor_fixture.h"
 
 namespace {
@@ -26,43 +25,26 @@ Box BoxOfEdges(const kit_tests::Edges& edges) {
     return {edges.left, edges.bottom, edges.right, edges.top};
 }
 
-TEST_F(Resizing, PullsEachHandleOfAFreeFrame) {
-    const std::size_t arrow = Add("north-arrow-four", kBox);
-    for (const kit_tests::PullRow& row : kit_tests::kPulls) {
-        SCOPED_TRACE(row.handle);
-        Pull(arrow, row.handle, 30.0, 20.0);
-        ExpectBox(BoxOf(arrow), BoxOfEdges(row.free));
-        EXPECT_EQ(document.UndoLabel(), "Resize");
-        ExpectImageIsThePage();
-        Command("undo");
-        ExpectBox(BoxOf(arrow), kBox);
-        ExpectImageIsThePage();
-    }
-}
-
-TEST_F(Resizing, KeepsTheProportionsOfWhatHasThem) {
-    for (const char* type : {"title", "scale-bar-line", "legend"}) {
+TEST_F(Resizing, PullsEachHandleAndKeepsTheProportionsOfWhatHasThem) {
+    for (const char* type : {"north-arrow-four", "title", "scale-bar-line", "legend"}) {
+        const bool isFree = type == std::string("north-arrow-four");
         const std::size_t item = Add(type, kBox);
         for (const kit_tests::PullRow& row : kit_tests::kPulls) {
             SCOPED_TRACE(type + std::to_string(row.handle));
             Pull(item, row.handle, 30.0, 20.0);
-            ExpectBox(BoxOf(item), BoxOfEdges(row.proportioned));
+            ExpectBox(BoxOf(item), BoxOfEdges(isFree ? row.free : row.proportioned));
+            EXPECT_EQ(document.UndoLabel(), "Resize");
             ExpectImageIsThePage();
             Command("undo");
             ExpectBox(BoxOf(item), kBox);
         }
+        // Shift turns it round.
+        Pull(item, 2, 30.0, 20.0, Qt::AltModifier | Qt::ShiftModifier);
+        ExpectBox(BoxOf(item), BoxOfEdges(isFree ? kit_tests::kPulls[2].proportioned
+                                                 : kit_tests::kPulls[2].free));
         document.Select({item});
         Command("delete");
     }
-}
-
-TEST_F(Resizing, ShiftTurnsTheProportionsRound) {
-    const std::size_t arrow = Add("north-arrow-four", kBox);
-    Pull(arrow, 2, 30.0, 20.0, Qt::AltModifier | Qt::ShiftModifier);
-    ExpectBox(BoxOf(arrow), BoxOfEdges(kit_tests::kPulls[2].proportioned));
-    const std::size_t title = Add("title", kBox);
-    Pull(title, 2, 30.0, 20.0, Qt::AltModifier | Qt::ShiftModifier);
-    ExpectBox(BoxOf(title), BoxOfEdges(kit_tests::kPulls[2].free));
 }
 
 TEST_F(Resizing, LetsTheElementGrow) {
@@ -73,8 +55,7 @@ TEST_F(Resizing, LetsTheElementGrow) {
 }
 
 TEST_F(Resizing, ReadsAMapOnlyOnceItEnds) {
-    WriteScene(folder.Path("scene.tif"), 120, 60);
-    const std::size_t map = Add("map", kBox, {Path("scene.tif")});
+    const std::size_t map = Add("map", kBox, {Scene()});
     document.Select({map});
     Press(CPoint2D(420.0, 300.0));
     MoveTo(CPoint2D(480.0, 270.0), Qt::AltModifier);

@@ -17,13 +17,15 @@ double NumberOf(const host::PageItem& item, const char* name) {
     return integer != nullptr ? *integer : std::get<double>(value);
 }
 
-constexpr const char* kFrame =
-    R"("frame":{"left":0,"top":100,"width":200,"height":100}})";
+/// An item of 200 by 100.
+host::PageItem Item(const std::string& properties) {
+    return host::ReadItem("{" + properties +
+                          R"(,"frame":{"left":0,"top":100,"width":200,"height":100}})");
+}
 
 TEST(ElementScale, GivesATitleLargerType) {
-    host::PageItem title = host::ReadItem(
-        std::string(R"({"type":"title","text":"Abc","font":"Arial","fontSize":20,)") +
-        R"("offsetX":4,)" + kFrame);
+    host::PageItem title =
+        Item(R"("type":"title","text":"Abc","font":"Arial","fontSize":20,"offsetX":4)");
     const double size = NumberOf(title, "size");
     const ElementScale scale(title);
     EXPECT_TRUE(scale.HasProportions());
@@ -37,10 +39,8 @@ TEST(ElementScale, GivesATitleLargerType) {
 }
 
 TEST(ElementScale, LeavesAScaleBarTrue) {
-    host::PageItem bar = host::ReadItem(
-        std::string(
-            R"({"type":"scale-bar-line","divisionLength":40,"divisionValue":2000,)") +
-        R"("size":30,)" + kFrame);
+    host::PageItem bar = Item(
+        R"("type":"scale-bar-line","divisionLength":40,"divisionValue":2000,"size":30)");
     ElementScale(bar).Apply(bar, {0.0, 0.0, 300.0, 150.0});
     EXPECT_EQ(NumberOf(bar, "divisionLength"), 60.0);
     EXPECT_EQ(NumberOf(bar, "divisionValue"), 3000.0);
@@ -48,8 +48,7 @@ TEST(ElementScale, LeavesAScaleBarTrue) {
 }
 
 TEST(ElementScale, LeavesNorthArrowsTheSmallerFactor) {
-    host::PageItem arrow =
-        host::ReadItem(std::string(R"({"type":"north-arrow-one","size":80,)") + kFrame);
+    host::PageItem arrow = Item(R"("type":"north-arrow-one","size":80)");
     const ElementScale scale(arrow);
     EXPECT_FALSE(scale.HasProportions());
     scale.Apply(arrow, {0.0, 0.0, 600.0, 150.0});
@@ -59,7 +58,7 @@ TEST(ElementScale, LeavesNorthArrowsTheSmallerFactor) {
 }
 
 TEST(ElementScale, OnlyStretchesAnEmptyFrame) {
-    host::PageItem frame = host::ReadItem(std::string(R"({"type":"frame",)") + kFrame);
+    host::PageItem frame = Item(R"("type":"frame")");
     const ElementScale scale(frame);
     EXPECT_FALSE(scale.HasElement());
     scale.Apply(frame, {1.0, 2.0, 30.0, 40.0});

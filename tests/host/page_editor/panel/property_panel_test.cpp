@@ -14,7 +14,6 @@
 #include "page/document/item_type.h"
 #include "page/document/page_text.h"
 #include "page/element_of.h"
-#include "page/made_raster.h"
 #include "page_editor/editor_fixture.h"
 #include "page_editor/panel/number_field.h"
 
@@ -78,15 +77,12 @@ protected:
 };
 
 TEST_F(PropertyPanel, HasAFieldForEveryPropertyOfEveryType) {
-    WriteScene(folder.Path("scene.tif"), 60, 40);
     for (const host::ItemType& type : host::ItemTypes()) {
-        const std::string name = type.name;
-        Select(type.name, name == "map"       ? QStringList(Path("scene.tif"))
-                          : name == "picture" ? QStringList(MAP_SURROUND_PICTURE)
-                                              : QStringList());
+        SCOPED_TRACE(type.name);
+        Select(type.name, FilesFor(type.name));
         for (const auto* properties : {&type.properties, &host::FrameProperties()}) {
             for (const host::Property& property : *properties) {
-                EXPECT_NE(panel.Field(property.name), nullptr) << name << property.name;
+                EXPECT_NE(panel.Field(property.name), nullptr) << property.name;
             }
         }
     }
@@ -94,31 +90,32 @@ TEST_F(PropertyPanel, HasAFieldForEveryPropertyOfEveryType) {
     EXPECT_EQ(panel.Field("left"), nullptr);
 }
 
-TEST_F(PropertyPanel, ChangesEveryKindOfValue) {
+TEST_F(PropertyPanel, IsTakenByACommandAsFarAsItIsTyped) {
+    const std::string raster = folder.Path("b.tif");
+    const QString picture = Logo("copy.png");
+    Scene("b.tif");
     const struct {
         const char* type;
         const char* property;
+        bool isTyped;  ///< and not told before something else happens
         std::function<void()> change;
-        const char* value;  ///< as page files have it
+        std::string value;  ///< as page files have it
     } rows[] = {
-        {"title", "text",
+        {"title", "text", true,
          [&] {
-             TypeLines("text", {"Olinda", "and Recife"});
+             BeginLines("text", {"Olinda", "and Recife"});
          },
          R"("Olinda\nand Recife")"},
-        {"north-arrow-four", "angle", [&] { Type("angle", "30"); }, "30.0"},
-        {"scale-bar-alternating", "divisions",
-         [&] { In<QSpinBox>("divisions")->setValue(7); }, "7"},
-        {"title", "border", [&] { In<QCheckBox>("border")->click(); }, "false"},
-        {"title", "color", [&] { Type("color", "#ff001080"); }, R"("#FF001080")"},
-        {"title", "fillColor", [&] { Type("fillColor", "#00FF00"); }, R"("#00FF00")"},
-        {"title", "font",
-         [&] {
-             In<QComboBox>("font")->setEditText("Liberation Serif");
-             QTest::keyClick(In<QComboBox>("font")->lineEdit(), Qt::Key_Return);
-         },
+        {"title", "fontSize", true, [&] { Begin("fontSize", "12.5"); }, "12.5"},
+        {"title", "size", true, [&] { Begin("size", "77", "qt_spinbox_lineedit"); },
+         "77"},
+        {"title", "border", false, [&] { In<QCheckBox>("border")->click(); }, "false"},
+        {"title", "color", true, [&] { Begin("color", "#ff001080"); }, R"("#FF001080")"},
+        {"title", "fillColor", true, [&] { Begin("fillColor", "#00FF00"); },
+         R"("#00FF00")"},
+        {"title", "font", true, [&] { Begin("font", "Liberation Serif"); },
          R"("Liberation Serif")"},
-        {"title", "fontStyle",
+        {"title", "fontStyle", false,
          [&] {
              auto* const box = In<QComboBox>("fontStyle");
              const int italic = box->findText("italic");
@@ -126,15 +123,29 @@ TEST_F(PropertyPanel, ChangesEveryKindOfValue) {
              Q_EMIT box->activated(italic);
          },
          R"("italic")"},
+        {"north-arrow-four", "angle", true, [&] { Begin("angle", "30"); }, "30.0"},
+        {"scale-bar-alternating", "divisions", false,
+         [&] { In<QSpinBox>("divisions")->setValue(7); }, "7"},
+        {"picture", "path", true, [&] { Begin("path", picture); },
+         '"' + picture.toStdString() + '"'},
+        {"map", "rasters", true,
+         [&] { BeginLines("rasters", {QString::fromStdString(raster)}); },
+         "[\"" + raster + "\"]"},
     };
+    ASSERT_TRUE(files.SaveTo(Path("page.json")));
     for (const auto& row : rows) {
         SCOPED_TRACE(row.property);
-        const std::size_t item = Select(row.type);
+        const std::size_t item = Select(row.type, FilesFor(row.type));
         const std::string before = host::WriteItem(document.Item(item));
         const std::string after = "\"" + std::string(row.property) + "\":" + row.value;
         EXPECT_THAT(before, Not(HasSubstr(after)));
         row.change();
+        EXPECT_EQ(host::WriteItem(document.Item(item)) == before, row.isTyped);
+        Command("save");
+        EXPECT_EQ(LastFailure(), "");
         EXPECT_THAT(host::WriteItem(document.Item(item)), HasSubstr(after));
+        const host::Page saved = host::LoadPage(folder.Path("page.json"));
+        EXPECT_THAT(host::WriteItem(saved.Items()[item]), HasSubstr(after));
         ExpectImageIsThePage();
         Command("undo");
         EXPECT_EQ(host::WriteItem(document.Item(item)), before);
@@ -152,6 +163,9 @@ TEST_F(PropertyPanel, ShowsWhatIsChanged) {
     EXPECT_TRUE(In<QCheckBox>("border")->isChecked());
     Command("undo");
     Command("undo");
+    EXPECT_EQ(In<QPlainTextEdit>("text")->toPlainText(), "Title");
+    BeginLines("text", {"Recife"});
+    Command("undo");  // of what is being typed
     EXPECT_EQ(In<QPlainTextEdit>("text")->toPlainText(), "Title");
 }
 
@@ -211,23 +225,18 @@ TEST_F(PropertyPanel, ChangesARatioAndLeavesItUnknown) {
     EXPECT_TRUE(std::isnan(Value<double>(title, "aspectRatio")));
 }
 
-TEST_F(PropertyPanel, ChangesAFile) {
-    const std::size_t picture = Select("picture", {MAP_SURROUND_PICTURE});
+TEST_F(PropertyPanel, LeavesAFileWhereAnotherIsNotThere) {
+    const QString logo = Logo();
+    const std::size_t picture = Select("picture", {logo});
     Type("path", "no such.png");
     EXPECT_THAT(LastFailure(), HasSubstr("no such.png: No such file"));
-    EXPECT_EQ(Value<std::string>(picture, "path"), MAP_SURROUND_PICTURE);
-    EXPECT_EQ(In<QLineEdit>("path")->text(), MAP_SURROUND_PICTURE);
-    const QString copy = Path("copy.png");
-    ASSERT_TRUE(QFile::copy(MAP_SURROUND_PICTURE, copy));
-    Type("path", copy);
-    EXPECT_EQ(Value<std::string>(picture, "path"), copy.toStdString());
-    ExpectImageIsThePage();
+    EXPECT_EQ(Value<std::string>(picture, "path"), logo.toStdString());
+    EXPECT_EQ(In<QLineEdit>("path")->text(), logo);
 }
 
 TEST_F(PropertyPanel, ChangesRasters) {
-    WriteScene(folder.Path("a.tif"), 60, 40);
-    WriteScene(folder.Path("b.tif"), 60, 40);
-    const std::size_t map = Select("map", {Path("a.tif")});
+    Scene("b.tif");
+    const std::size_t map = Select("map", {Scene("a.tif")});
     const auto leave = [this] {
         QFocusEvent out(QEvent::FocusOut);
         QCoreApplication::sendEvent(In<QPlainTextEdit>("rasters"), &out);
@@ -245,8 +254,8 @@ TEST_F(PropertyPanel, ChangesRasters) {
 }
 
 TEST_F(PropertyPanel, ChangesTheOrderTheNamesAndTheChoiceOfALegendsRasters) {
-    WriteScene(folder.Path("a.tif"), 60, 40);
-    WriteScene(folder.Path("b.tif"), 60, 40);
+    const QString a = Scene("a.tif");
+    const QString b = Scene("b.tif");
     const std::size_t legend = Select("legend");
     const auto namesShown = [&] {
         std::vector<std::wstring> names;
@@ -256,8 +265,6 @@ TEST_F(PropertyPanel, ChangesTheOrderTheNamesAndTheChoiceOfALegendsRasters) {
         }
         return names;
     };
-    const QString a = Path("a.tif");
-    const QString b = Path("b.tif");
     TypeLines("rasters", {a, b});
     EXPECT_THAT(namesShown(), ElementsAre(L"", L""));
     TypeLines("names", {"", "Relief"});
@@ -273,23 +280,21 @@ TEST_F(PropertyPanel, ChangesTheOrderTheNamesAndTheChoiceOfALegendsRasters) {
 }
 
 TEST_F(PropertyPanel, ChangesTheExtentOfAMap) {
-    MadeRaster raster;
-    raster.transform = {100.0, 1.0, 0.0, 200.0, 0.0, -1.0};
-    raster.projection = "EPSG:32725";
-    WriteRaster(folder.Path("a.tif"), raster);
-    const std::size_t map = Select("map", {Path("a.tif")});
+    const std::size_t map = Select("map", {Scene()});
     In<QCheckBox>("extent")->click();
-    Type("extent", "100", "left");
-    Type("extent", "192", "bottom");
-    Type("extent", "104", "right");
+    Type("extent", "500100", "left");
+    Type("extent", "8999500", "bottom");
+    Type("extent", "500400", "right");
     EXPECT_FALSE(Value<std::optional<host::Box>>(map, "extent"));
-    Type("extent", "200", "top");
+    Begin("extent", "8999900", "top");
+    Command("copy");  // takes what is typed
     const auto extent = Value<std::optional<host::Box>>(map, "extent");
     ASSERT_TRUE(extent);
-    EXPECT_EQ(extent->right, 104.0);
-    EXPECT_EQ(extent->bottom, 192.0);
+    EXPECT_EQ(extent->right, 500400.0);
+    EXPECT_EQ(extent->bottom, 8999500.0);
+    EXPECT_EQ(extent->top, 8999900.0);
     ExpectImageIsThePage();
-    Type("extent", "90", "right");
+    Type("extent", "500000", "right");
     EXPECT_THAT(LastFailure(), HasSubstr("extent: must have its left below its right"));
     In<QCheckBox>("extent")->click();
     EXPECT_FALSE(Value<std::optional<host::Box>>(map, "extent"));
@@ -315,66 +320,12 @@ TEST_F(PropertyPanel, RefusesWhatIsOutOfRangeOrNoValue) {
     ExpectImageIsThePage();
 }
 
-TEST_F(PropertyPanel, IsTakenByACommandAsFarAsItIsTyped) {
-    ASSERT_TRUE(files.SaveTo(Path("page.json")));
-    const std::size_t title = Select("title");
-    const auto saved = [&](const char* property) {
-        Command("save");
-        EXPECT_FALSE(document.IsModified());
-        EXPECT_EQ(LastFailure(), "");
-        const host::Page page = host::LoadPage(folder.Path("page.json"));
-        const host::PageItem& item = page.Items()[title];
-        return host::FindProperty(host::TypeOf(item)->properties, property)->read(item);
-    };
-    BeginLines("text", {"Olinda"});
-    EXPECT_EQ(Value<std::string>(title, "text"), "Title");
-    EXPECT_EQ(std::get<std::string>(saved("text")), "Olinda");
-    Begin("fontSize", "12.5");
-    EXPECT_EQ(std::get<double>(saved("fontSize")), 12.5);
-    Begin("color", "#102030");
-    EXPECT_EQ(std::get<Gdiplus::ARGB>(saved("color")), 0xFF102030u);
-    Begin("size", "77", "qt_spinbox_lineedit");
-    EXPECT_EQ(std::get<std::int32_t>(saved("size")), 77);
-    Begin("font", "Liberation Serif");
-    EXPECT_EQ(std::get<std::string>(saved("font")), "Liberation Serif");
-    BeginLines("text", {"Recife"});
-    Command("undo");  // of the text
-    EXPECT_EQ(Value<std::string>(title, "text"), "Olinda");
-}
-
-TEST_F(PropertyPanel, TakesPathsAndExtentsAsFarAsTheyAreTyped) {
-    WriteScene(folder.Path("a.tif"), 60, 40);
-    WriteScene(folder.Path("b.tif"), 60, 40);
-    const std::size_t map = Select("map", {Path("a.tif")});
-    BeginLines("rasters", {Path("b.tif")});
-    Command("copy");
-    EXPECT_THAT(Value<std::vector<std::string>>(map, "rasters"),
-                ElementsAre(folder.Path("b.tif")));
-    In<QCheckBox>("extent")->click();
-    Type("extent", "10", "left");
-    Type("extent", "20", "bottom");
-    Type("extent", "30", "right");
-    Begin("extent", "40", "top");
-    Command("copy");
-    EXPECT_EQ(LastFailure(), "");
-    const auto extent = Value<std::optional<host::Box>>(map, "extent");
-    ASSERT_TRUE(extent);
-    EXPECT_EQ(extent->top, 40.0);
-
-    const std::size_t picture = Select("picture", {MAP_SURROUND_PICTURE});
-    const QString copy = Path("copy.png");
-    ASSERT_TRUE(QFile::copy(MAP_SURROUND_PICTURE, copy));
-    Begin("path", copy);
-    Command("copy");
-    EXPECT_EQ(Value<std::string>(picture, "path"), copy.toStdString());
-}
-
 TEST_F(PropertyPanel, IsUnsavedWorkWhileOneTypes) {
     Select("title");
     ASSERT_TRUE(files.SaveTo(Path("page.json")));
     BeginLines("text", {"Olinda"});
-    const Answers answers({Answers::Press("Cancel")});
-    EXPECT_FALSE(window.close());
+    EXPECT_FALSE(editor_tests::Answering({Answers::Press("Cancel")},
+                                         [this] { return window.close(); }));
 }
 
 TEST_F(PropertyPanel, ChangesAllThatAreSelected) {

@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QClipboard>
 #include <QGuiApplication>
+#include <array>
 
 #include "page/document/page_text.h"
 #include "page_editor/editor_fixture.h"
@@ -14,33 +15,48 @@ using editor_tests::ExpectBox;
 using host::Box;
 using ::testing::ElementsAre;
 
+constexpr std::array<host::Box, 3> kBoxes = {{{100.0, 100.0, 200.0, 200.0},
+                                              {150.0, 300.0, 210.0, 360.0},
+                                              {600.0, 400.0, 700.0, 450.0}}};
+
+host::Box Moved(const host::Box& box, double dx, double dy) {
+    return {box.left + dx, box.bottom + dy, box.right + dx, box.top + dy};
+}
+
 class ArrangeCommands : public EditorTest {
 protected:
     ArrangeCommands() {
-        Add("north-arrow-four", {100.0, 100.0, 200.0, 200.0});
-        Add("north-arrow-one", {150.0, 300.0, 210.0, 360.0});
-        Add("title", {600.0, 400.0, 700.0, 450.0});
+        Add("north-arrow-four", kBoxes[0]);
+        Add("north-arrow-one", kBoxes[1]);
+        Add("title", kBoxes[2]);
     }
 };
 
-TEST_F(ArrangeCommands, Align) {
+TEST_F(ArrangeCommands, AlignWithTheBoxAroundAll) {
+    // Around all: from 100 to 700 across, its middle at 400; from 100 to 450 upwards.
     const struct {
         const char* command;
-        double x;  // how far the second of the three moves
-        double y;
+        std::array<double, 3> by;
+        bool isAcross;
     } rows[] = {
-        {"alignLeft", -50.0, 0.0},   {"alignCentre", 220.0, 0.0},
-        {"alignRight", 490.0, 0.0},  {"alignTop", 0.0, 90.0},
-        {"alignMiddle", 0.0, -55.0}, {"alignBottom", 0.0, -200.0},
+        {"alignLeft", {0.0, -50.0, -500.0}, true},
+        {"alignCentre", {250.0, 220.0, -250.0}, true},
+        {"alignRight", {500.0, 490.0, 0.0}, true},
+        {"alignTop", {250.0, 90.0, 0.0}, false},
+        {"alignMiddle", {125.0, -55.0, -150.0}, false},
+        {"alignBottom", {0.0, -200.0, -300.0}, false},
     };
     document.Select({0, 1, 2});
     for (const auto& row : rows) {
         SCOPED_TRACE(row.command);
         Command(row.command);
-        ExpectBox(BoxOf(1), {150.0 + row.x, 300.0 + row.y, 210.0 + row.x, 360.0 + row.y});
+        for (std::size_t i = 0; i < kBoxes.size(); ++i) {
+            ExpectBox(BoxOf(i), Moved(kBoxes[i], row.isAcross ? row.by[i] : 0.0,
+                                      row.isAcross ? 0.0 : row.by[i]));
+        }
         ExpectImageIsThePage();
         Command("undo");
-        ExpectBox(BoxOf(1), {150.0, 300.0, 210.0, 360.0});
+        ExpectBox(BoxOf(1), kBoxes[1]);
     }
 }
 
@@ -58,7 +74,15 @@ TEST_F(ArrangeCommands, Distribute) {
     ExpectBox(BoxOf(1), {370.0, 300.0, 430.0, 360.0});
     Command("distributeUpwards");  // 200 between, less 60: 70 each
     ExpectBox(BoxOf(1), {370.0, 270.0, 430.0, 330.0});
+    ExpectBox(BoxOf(0), kBoxes[0]);
+    ExpectBox(BoxOf(2), kBoxes[2]);
     ExpectImageIsThePage();
+    // By their middles, at 150, 190 and 195: from 200 back to 145, less 60, are two gaps
+    // of -57.5.
+    Place(1, {160.0, 300.0, 220.0, 360.0});
+    Place(2, {145.0, 400.0, 245.0, 450.0});
+    Command("distributeAcross");
+    ExpectBox(BoxOf(1), {142.5, 300.0, 202.5, 360.0});
 }
 
 TEST_F(ArrangeCommands, ChangeTheOrder) {
@@ -87,16 +111,6 @@ TEST_F(ArrangeCommands, RotateByAQuarter) {
     }
     EXPECT_EQ(Value<double>(2, "angle"), 0.0);
     ExpectBox(BoxOf(2), {600.0, 400.0, 700.0, 450.0});
-}
-
-TEST_F(ArrangeCommands, SelectAllAndDelete) {
-    Command("selectAll");
-    Command("delete");
-    EXPECT_EQ(document.Count(), 0u);
-    ExpectImageIsThePage();
-    Command("undo");
-    EXPECT_EQ(document.Count(), 3u);
-    ExpectImageIsThePage();
 }
 
 TEST_F(ArrangeCommands, CutCopyAndPaste) {

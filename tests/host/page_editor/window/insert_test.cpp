@@ -6,7 +6,6 @@
 #include "page/document/item_type.h"
 #include "page/document/page_text.h"
 #include "page/element_of.h"
-#include "page/made_raster.h"
 #include "page/placed_frame.h"
 #include "page_editor/editor_fixture.h"
 
@@ -19,20 +18,6 @@ using ::testing::HasSubstr;
 
 class Insert : public EditorTest {
 protected:
-    QString Scene() {
-        MadeRaster raster;
-        raster.transform = {290000.0, 30.0, 0.0, 9120000.0, 0.0, -30.0};
-        raster.projection = "EPSG:32725";
-        WriteRaster(folder.Path("scene.tif"), raster);
-        return Path("scene.tif");
-    }
-
-    QStringList FilesFor(const std::string& type) {
-        return type == "map"       ? QStringList(Scene())
-               : type == "picture" ? QStringList(MAP_SURROUND_PICTURE)
-                                   : QStringList();
-    }
-
     /// What a frame's name says that it holds, as page files write it.
     static QString Family(const host::PageItem& item) {
         const auto& name = host::FrameAs<host::PlacedFrame>(item)->Name();
@@ -96,25 +81,21 @@ TEST_F(Insert, EveryElementIsInTheMenuAndLaidOutForTheMap) {
     }
 }
 
-TEST_F(Insert, ScaleBarsAreTrueToTheMap) {
+TEST_F(Insert, ScaleBarsAreTrueToTheMapWhateverItsSize) {
     window.Insert("map", {Scene()});
     window.Insert("scale-bar-line");
-    // 8 pixels of 30 m across the map's frame. Bars are true to the ground, which differs
-    // from the map by less than half a thousandth in the middle of a UTM zone.
-    const double perUnit = 8.0 * 30.0 / BoxOf(0).Width();
-    const double value = Value<double>(1, "divisionValue");
-    const double length = Value<double>(1, "divisionLength");
-    EXPECT_NEAR(value / length, perUnit, 5e-4 * perUnit);
-}
-
-TEST_F(Insert, ScaleBarsFollowTheMap) {
-    window.Insert("map", {Scene()});
-    window.Insert("scale-bar-line");
-    document.ChangeItems({0}, "Resize", [](host::PageItem& item) {
-        host::FrameOf(item).SetExtent({100.0, 100.0, 200.0, 200.0});
-    });
-    EXPECT_NEAR(Value<double>(1, "divisionValue") / Value<double>(1, "divisionLength"),
-                8.0 * 30.0 / 100.0, 5e-4 * 2.4);
+    // 60 pixels of 30 m across the map's frame. Bars are true to the ground, which
+    // differs from the map by less than half a thousandth at the middle meridian of a UTM
+    // zone.
+    const auto expectTrue = [this] {
+        const double perUnit = 60.0 * 30.0 / BoxOf(0).Width();
+        EXPECT_NEAR(
+            Value<double>(1, "divisionValue") / Value<double>(1, "divisionLength"),
+            perUnit, 5e-4 * perUnit);
+    };
+    expectTrue();
+    Place(0, {100.0, 100.0, 250.0, 200.0});
+    expectTrue();
     ExpectImageIsThePage();
 }
 

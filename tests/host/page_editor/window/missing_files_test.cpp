@@ -3,7 +3,6 @@
 #include <gmock/gmock.h>
 
 #include <QFile>
-#include <set>
 
 #include "page/document/page_text.h"
 #include "page/made_raster.h"
@@ -16,28 +15,10 @@ using ::testing::HasSubstr;
 class MissingFiles : public editor_tests::EditorTest {
 protected:
     std::string Told() { return window.Remarks().Text().toStdString(); }
-    bool IsHatched(std::size_t item) {
-        const host::Box box = BoxOf(item);
-        // Where nothing lies on it.
-        const QPoint place(static_cast<int>(box.left + box.Width() / 8.0),
-                           static_cast<int>(document.Page().Height() - box.MiddleY()));
-        constexpr int kPeriod = 16;
-        std::set<QRgb> colours;
-        for (int x = 0; x < kPeriod; ++x) {
-            const QRgb one = canvas.Image().pixel(place + QPoint(x, 0));
-            if (one != canvas.Image().pixel(place + QPoint(x + kPeriod, 0))) {
-                return false;
-            }
-            colours.insert(one);
-        }
-        return colours.size() > 1;
-    }
     /// A page around a raster, with a legend, whose raster and picture are then gone.
     void OpenMoved() {
-        WriteScene(folder.Path("scene.tif"), 60, 40);
-        ASSERT_TRUE(QFile::copy(MAP_SURROUND_PICTURE, Path("logo.png")));
-        ASSERT_TRUE(files.OpenFiles({Path("scene.tif")}));
-        window.Insert("picture", {Path("logo.png")});
+        ASSERT_TRUE(files.OpenFiles({Scene()}));
+        window.Insert("picture", {Logo()});
         ASSERT_TRUE(files.SaveTo(Path("page.json")));
         ASSERT_TRUE(QFile::rename(Path("scene.tif"), Path("moved.tif")));
         ASSERT_TRUE(QFile::rename(Path("logo.png"), Path("moved.png")));
@@ -130,7 +111,6 @@ TEST_F(RemarksBar, OfWhatCannotBeTrueAreShownAsLongAsTheyHold) {
     raster.transform = {1.0e300, 1.0, 0.0, 1.0e300, 0.0, -1.0};
     raster.projection = "EPSG:32725";
     WriteRaster(folder.Path("far.tif"), raster);
-    WriteScene(folder.Path("scene.tif"), 60, 40);
     EXPECT_FALSE(window.Remarks().isVisible());
     const std::size_t bar = Add("scale-bar-alternating", {100.0, 20.0, 400.0, 60.0});
     document.ChangeItems({bar}, "Fit", [](host::PageItem& item) {
@@ -138,10 +118,9 @@ TEST_F(RemarksBar, OfWhatCannotBeTrueAreShownAsLongAsTheyHold) {
             host::FindProperty(host::TypeOf(item)->properties, "distances");
         property->write(item, std::int32_t{1});
     });
-    const std::size_t two = Add("map", {500.0, 100.0, 700.0, 300.0}, {Path("scene.tif")});
+    const std::size_t two = Add("map", {500.0, 100.0, 700.0, 300.0}, {Scene()});
     document.Select({two});
-    MadeRaster plain;
-    WriteRaster(folder.Path("plain.tif"), plain);
+    WriteRaster(folder.Path("plain.tif"), {});
     panel.Field("rasters")->changed(
         std::vector<std::string>{folder.Path("scene.tif"), folder.Path("plain.tif")});
     EXPECT_THAT(Told(), HasSubstr("plain.tif: left off the map: it has no georeference"));

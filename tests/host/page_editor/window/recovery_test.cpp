@@ -14,6 +14,7 @@
 
 namespace {
 
+using editor_tests::Answering;
 using editor_tests::Answers;
 using page_editor::EditorWindow;
 using page_editor::Recovery;
@@ -37,6 +38,13 @@ protected:
     std::unique_ptr<EditorWindow> Window() {
         auto window = std::make_unique<EditorWindow>(Kept());
         window->show();
+        return window;
+    }
+    /// A window to which lost work was offered, and that answer given.
+    std::unique_ptr<EditorWindow> Offered(const char* answer) {
+        auto window = Window();
+        Answering({Answers::Press(answer)},
+                  [&] { page_editor::OfferLostWork(*window, Kept()); });
         return window;
     }
     /// An editor that saves a page with a map, changes it, and is killed.
@@ -80,17 +88,11 @@ TEST_F(LostWork, IsOfferedAgain) {
     const host::Page saved = host::LoadPage(Path("page.json").toStdString());
     ASSERT_EQ(work.Items().size(), saved.Items().size() + 1);
     {
-        const auto window = Window();
-        Answers answers({Answers::Press("Later")});
-        page_editor::OfferLostWork(*window, Kept());
+        const auto window = Offered("Later");
         EXPECT_EQ(window->Document().Count(), 0u);
         EXPECT_TRUE(window->close());
     }
-    const auto window = Window();
-    {
-        Answers answers({Answers::Press("Recover")});
-        page_editor::OfferLostWork(*window, Kept());
-    }
+    const auto window = Offered("Recover");
     EXPECT_EQ(host::WritePage(window->Document().Page(), {}), host::WritePage(work, {}));
     EXPECT_EQ(window->Files().Path(), Path("page.json"));
     EXPECT_TRUE(window->isWindowModified());
@@ -105,18 +107,15 @@ TEST_F(LostWork, IsOfferedAgain) {
 TEST_F(LostWork, ReplacesNothingThatWasSavedMeanwhile) {
     KillOne();
     std::ofstream(Path("page.json").toStdString()) << "{}";
-    const auto window = Window();
-    Answers answers({Answers::Press("Recover"), Answers::Press("Cancel")});
-    page_editor::OfferLostWork(*window, Kept());
-    EXPECT_FALSE(window->Files().Save());
+    const auto window = Offered("Recover");
+    EXPECT_FALSE(
+        Answering({Answers::Press("Cancel")}, [&] { return window->Files().Save(); }));
     window->Document().MarkSaved();
 }
 
 TEST_F(LostWork, CanBeDiscarded) {
     KillOne();
-    const auto window = Window();
-    Answers answers({Answers::Press("Discard")});
-    page_editor::OfferLostWork(*window, Kept());
+    const auto window = Offered("Discard");
     ASSERT_THAT(QDir(Kept()).entryList(QDir::Files), IsEmpty());
     page_editor::OfferLostWork(*window, Kept());
 }
@@ -134,8 +133,7 @@ TEST_F(LostWork, IsNoWorkOfAWindowThatLives) {
     EXPECT_THAT(QDir(Kept()).entryList(QDir::Files), IsEmpty());
     one->Redo();
     ASSERT_TRUE(IsKept(1));
-    editor_tests::AnswerLater(QMessageBox::Discard);
-    EXPECT_TRUE(one->close());
+    EXPECT_TRUE(Answering({Answers::Press("Discard")}, [&] { return one->close(); }));
     EXPECT_THAT(QDir(Kept()).entryList(QDir::Files), IsEmpty());
 }
 

@@ -4,15 +4,14 @@
 #include <unistd.h>
 
 #include <QFile>
-#include <QFileInfo>
 
 #include "page/document/page_text.h"
-#include "page/made_raster.h"
 #include "page_editor/editor_fixture.h"
 #include "page_editor/window/save_dialog.h"
 
 namespace {
 
+using editor_tests::Answering;
 using editor_tests::Answers;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
@@ -67,10 +66,8 @@ TEST_F(Saving, ExportsTheFormatThatIsChosen) {
 }
 
 TEST_F(Saving, ReplacesNothingThatThePageIsDrawnFrom) {
-    WriteScene(folder.Path("scan.png"), 60, 40);
-    ASSERT_TRUE(QFile::copy(MAP_SURROUND_PICTURE, Path("logo.png")));
-    Add("map", {100.0, 100.0, 400.0, 300.0}, {Path("scan.png")});
-    Add("picture", {500.0, 100.0, 600.0, 200.0}, {Path("logo.png")});
+    Add("map", {100.0, 100.0, 400.0, 300.0}, {Scene("scan.png")});
+    Add("picture", {500.0, 100.0, 600.0, 200.0}, {Logo()});
     ASSERT_TRUE(files.SaveTo(Path("page.json")));
     ASSERT_EQ(symlink("scan.png", folder.Path("link.png").c_str()), 0);
     ASSERT_EQ(link(folder.Path("scan.png").c_str(), folder.Path("hard.png").c_str()), 0);
@@ -100,16 +97,12 @@ TEST_F(Saving, AsksBeforeItReplacesWhatOthersSaved) {
     Command("save");  // and nobody is asked
     const std::string saved = Bytes("page.json");
     other.Insert("title");
-    {
-        Answers answers({Answers::Press("Cancel")});
-        EXPECT_FALSE(other.Files().Save());
-    }
+    const auto save = [&other] { return other.Files().Save(); };
+    EXPECT_FALSE(Answering({Answers::Press("Cancel")}, save));
     EXPECT_EQ(Bytes("page.json"), saved);
     EXPECT_TRUE(other.isWindowModified());
-    {
-        Answers answers({Answers::Press("Save as…"), Answers::Name(Path("mine"))});
-        EXPECT_TRUE(other.Files().Save());
-    }
+    EXPECT_TRUE(
+        Answering({Answers::Press("Save as…"), Answers::Name(Path("mine"))}, save));
     EXPECT_EQ(Bytes("page.json"), saved);
     EXPECT_FALSE(other.isWindowModified());
 
@@ -117,10 +110,7 @@ TEST_F(Saving, AsksBeforeItReplacesWhatOthersSaved) {
     Command("undo");
     Command("save");
     Write("page.json", "{}");
-    {
-        Answers answers({Answers::Press("Replace")});
-        EXPECT_TRUE(files.Save());
-    }
+    Command("save", {Answers::Press("Replace")});
     EXPECT_EQ(host::LoadPage(folder.Path("page.json")).Items().size(), 1u);
     QFile::remove(Path("page.json"));
     EXPECT_TRUE(files.Save());
@@ -136,10 +126,7 @@ TEST_F(Saving, ShowsWhereItFailed) {
     EXPECT_THAT(window.Failures().Text().toStdString(),
                 HasSubstr(folder.Path("page.json") + ": "));
     EXPECT_TRUE(window.isWindowModified());
-    {
-        Answers answers({Answers::Press("Save")});
-        EXPECT_FALSE(window.close());
-    }
+    EXPECT_FALSE(Answering({Answers::Press("Save")}, [this] { return window.close(); }));
     EXPECT_TRUE(window.isVisible());
     ASSERT_TRUE(QFile::setPermissions(Path("page.json"), before));
     EXPECT_TRUE(files.Save());

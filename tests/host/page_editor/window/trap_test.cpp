@@ -7,7 +7,6 @@
 #include <QLineEdit>
 #include <QProgressDialog>
 #include <QTimer>
-#include <QWheelEvent>
 #include <QtTest>
 #include <fstream>
 #include <functional>
@@ -19,6 +18,8 @@
 
 namespace {
 
+using editor_tests::Answering;
+using editor_tests::Answers;
 using editor_tests::EditorTest;
 using editor_tests::Trap;
 using editor_tests::WriteTrap;
@@ -53,18 +54,13 @@ protected:
         return folder.Path(name) + ": reading failed: " + kAborted;
     }
     std::string Text() { return host::WritePage(document.Page(), {}); }
-    void TurnTheWheel() {
-        const QPointF at(50.0, 50.0);
-        QWheelEvent wheel(at, canvas.viewport()->mapToGlobal(at), {}, QPoint(0, 120),
-                          Qt::NoButton, Qt::ControlModifier, Qt::NoScrollPhase, false);
-        QApplication::sendEvent(canvas.viewport(), &wheel);
+    /// Types an angle into the panel, and does not tell it yet.
+    QLineEdit* TypeAngle() {
+        auto* const field = panel.Field("angle")->findChild<QLineEdit*>();
+        field->selectAll();
+        QTest::keyClicks(field, "45");
+        return field;
     }
-    QRgb PixelAt(CPoint2D point) {
-        const QPoint pixel(static_cast<int>(point.x),
-                           static_cast<int>(document.Page().Height() - point.y));
-        return canvas.Image().pixel(pixel);
-    }
-
     /// Cancels every dialog that shows how far something has come, after a look at it.
     void GiveUp(std::function<void(QWidget&)> look = {}) {
         QObject::connect(&cancel, &QTimer::timeout, [this, look] {
@@ -92,15 +88,30 @@ private:
 TEST_F(TrapFiles, AreShownWhereNothingIsWrong) {
     Add("map", {100.0, 100.0, 300.0, 300.0}, {Path("well.trap")});
     ExpectImageIsThePage();
-    EXPECT_NE(PixelAt(CPoint2D(200.0, 200.0)), PixelAt(CPoint2D(500.0, 200.0)));
+    const int y = canvas.Image().height() - 200;
+    EXPECT_NE(canvas.Image().pixel(200, y), canvas.Image().pixel(500, y));
 }
 
-TEST_F(TrapFiles, AreNotOpenedWhereOpeningThemCrashes) {
-    window.Insert("map", {Path("open.trap")});
-    EXPECT_EQ(LastFailure(), Died("open.trap"));
-    EXPECT_FALSE(files.OpenFiles({Path("open.trap")}));
-    EXPECT_THAT(LastFailure(), EndsWith(Died("open.trap")));
-    EXPECT_EQ(Text(), before);
+TEST_F(TrapFiles, AreNotOpenedWhereOpeningThemCrashesOrHangs) {
+    document.Select({Add("map", {100.0, 100.0, 300.0, 300.0}, {Path("well.trap")})});
+    const std::string now = Text();
+    for (const auto& [trap, failure] :
+         {std::pair(Trap::DiesWhenOpened, Died("open.trap")),
+          {Trap::HangsWhenOpened, folder.Path("open.trap") + ": reading was stopped"}}) {
+        WriteTrap(folder.Path("open.trap"), trap);
+        if (trap == Trap::HangsWhenOpened) {
+            GiveUp();
+        } else {
+            panel.Field("rasters")->changed(std::vector{folder.Path("open.trap")});
+            EXPECT_EQ(LastFailure(), failure);
+        }
+        window.Insert("map", {Path("open.trap")});
+        EXPECT_EQ(LastFailure(), failure);
+        EXPECT_FALSE(files.OpenFiles({Path("open.trap")}));
+        EXPECT_THAT(LastFailure(), EndsWith(failure));
+        EXPECT_EQ(Text(), now);
+        ExpectImageIsThePage();
+    }
 }
 
 TEST_F(TrapFiles, AreNotOpenedWithAPage) {
@@ -109,22 +120,11 @@ TEST_F(TrapFiles, AreNotOpenedWithAPage) {
     const std::string now = Text();
     WriteTrap(folder.Path("well.trap"), Trap::DiesWhenOpened);
     page_editor::EditorWindow other;
-    editor_tests::AnswerLater(QMessageBox::Yes);  // for it is of no plain kind
-    EXPECT_FALSE(other.Files().OpenFiles({Path("page.json")}));
+    EXPECT_FALSE(Answering({Answers::Press("Yes")},  // for it is of no plain kind
+                           [&] { return other.Files().OpenFiles({Path("page.json")}); }));
     EXPECT_EQ(other.LastFailure().toStdString(),
               folder.Path("page.json") + ": " + Died("well.trap"));
     EXPECT_EQ(other.Document().Count(), 0u);
-    EXPECT_EQ(Text(), now);
-}
-
-TEST_F(TrapFiles, AreNotTakenByAProperty) {
-    const std::size_t map = Add("map", {100.0, 100.0, 300.0, 300.0}, {Path("well.trap")});
-    const std::string now = Text();
-    document.Select({map});
-    page_editor::PropertyField* const field = panel.Field("rasters");
-    ASSERT_NE(field, nullptr);
-    field->changed(std::vector<std::string>{folder.Path("open.trap")});
-    EXPECT_EQ(LastFailure(), Died("open.trap"));
     EXPECT_EQ(Text(), now);
 }
 
@@ -132,15 +132,7 @@ TEST_F(TrapFiles, AreHatchedWhereReadingThemCrashes) {
     window.Insert("map", {Path("read.trap")});
     EXPECT_EQ(LastFailure(), std::string("reading the rasters failed: ") + kAborted);
     ASSERT_EQ(document.Count(), 2u);
-    ASSERT_FALSE(canvas.Image().isNull());
-    const host::Box box = BoxOf(1);
-    const CPoint2D middle(box.MiddleX(), box.MiddleY());
-    // Stripes of eight pixels along the other diagonal, in two light greys.
-    const QRgb one = PixelAt(middle);
-    const QRgb other = PixelAt(CPoint2D(middle.x + 8.0, middle.y));
-    EXPECT_NE(one, other);
-    EXPECT_EQ(PixelAt(CPoint2D(middle.x + 16.0, middle.y)), one);
-    EXPECT_EQ(PixelAt(CPoint2D(middle.x + 8.0, middle.y - 8.0)), one);
+    EXPECT_TRUE(IsHatched(1));
     // The rest of the page can be worked on.
     document.Select({1});
     Command("delete");
@@ -154,7 +146,7 @@ TEST_F(TrapFiles, AreReadWhenTheWheelRestsWhereThatTakesTime) {
     canvas.SetZoom(1.0);
     const QSize size = canvas.Image().size();
     for (int turn = 0; turn < 3; ++turn) {
-        TurnTheWheel();
+        TurnTheWheel(*canvas.viewport(), {50.0, 50.0}, true, Qt::ControlModifier);
     }
     EXPECT_NEAR(canvas.Zoom(), 1.728, 1e-9);  // 1.2 to the third
     EXPECT_EQ(canvas.Image().size(), size);
@@ -165,56 +157,34 @@ TEST_F(TrapFiles, AreReadWhenTheWheelRestsWhereThatTakesTime) {
               canvas.Image().pixel(150, size.height() - 600));
     ASSERT_TRUE(QTest::qWaitFor([&] { return canvas.Image().size() != size; }));
     ExpectImageIsThePage();
-}
-
-TEST_F(TrapFiles, AreReadAtOnceWhenThePageIsClickedBefore) {
-    WriteTrap(folder.Path("slow.trap"), Trap::IsSlowToRead);
-    Add("map", {100.0, 100.0, 300.0, 300.0}, {Path("slow.trap")});
-    canvas.SetZoom(1.0);
-    TurnTheWheel();
-    Click(CPoint2D(200.0, 200.0));
+    TurnTheWheel(*canvas.viewport(), {50.0, 50.0}, true, Qt::ControlModifier);
+    Click(CPoint2D(150.0, 600.0));  // before that
     ExpectImageIsThePage();
 }
 
-TEST_F(TrapFiles, EndAnExportThatCrashes) {
-    window.Insert("map", {Path("read.trap")});
-    const std::vector<std::string> names = folder.Names();
-    for (const char* name : {"page.png", "page.ps"}) {
-        EXPECT_FALSE(files.ExportTo(Path(name), 96.0));
-        EXPECT_EQ(LastFailure(), folder.Path(name) + ": drawing failed: " + kAborted);
-    }
-    EXPECT_EQ(folder.Names(), names);
-}
-
-TEST_F(TrapFiles, EndAnExportThatIsGivenUp) {
+TEST_F(TrapFiles, EndAnExportThatCrashesOrIsGivenUp) {
     window.Insert("map", {Path("well.trap")});
-    WriteTrap(folder.Path("well.trap"), Trap::HangsWhenRead);
-    const std::vector<std::string> names = folder.Names();
-    GiveUp();
-    EXPECT_FALSE(files.ExportTo(Path("page.png"), 96.0));
-    EXPECT_EQ(LastFailure(), folder.Path("page.png") + ": drawing was stopped");
-    EXPECT_EQ(folder.Names(), names);
-}
-
-TEST_F(TrapFiles, AreGivenUpWhereOpeningThemHangs) {
-    WriteTrap(folder.Path("stuck.trap"), Trap::HangsWhenOpened);
-    GiveUp();
-    window.Insert("map", {Path("stuck.trap")});
-    EXPECT_EQ(LastFailure(), folder.Path("stuck.trap") + ": reading was stopped");
-    EXPECT_FALSE(files.OpenFiles({Path("stuck.trap")}));
-    EXPECT_THAT(LastFailure(),
-                EndsWith(folder.Path("stuck.trap") + ": reading was stopped"));
-    EXPECT_EQ(Text(), before);
-    ExpectImageIsThePage();
+    for (const auto& [trap, end] :
+         {std::pair(Trap::DiesWhenRead, std::string("failed: ") + kAborted),
+          {Trap::HangsWhenRead, "was stopped"}}) {
+        WriteTrap(folder.Path("well.trap"), trap);
+        if (trap == Trap::HangsWhenRead) {
+            GiveUp();
+        }
+        const std::vector<std::string> names = folder.Names();
+        for (const char* name : {"page.png", "page.ps"}) {
+            EXPECT_FALSE(files.ExportTo(Path(name), 96.0));
+            EXPECT_EQ(LastFailure(), folder.Path(name) + ": drawing " + end);
+        }
+        EXPECT_EQ(folder.Names(), names);
+    }
 }
 
 TEST_F(TrapFiles, AreHatchedWhereReadingThemIsGivenUp) {
     const std::size_t map = Add("map", {100.0, 100.0, 300.0, 300.0}, {Path("well.trap")});
     WriteTrap(folder.Path("well.trap"), Trap::HangsWhenRead);
     document.Select({0});
-    auto* const field = panel.Field("angle")->findChild<QLineEdit*>();
-    field->selectAll();
-    QTest::keyClicks(field, "45");
+    QLineEdit* const field = TypeAngle();
     const QImage& image = canvas.Image();
     int dialogs = 0;
     GiveUp([&](QWidget& dialog) {
@@ -247,9 +217,7 @@ TEST_F(TrapFiles, DoNotChangeWhatIsSelectedLater) {
     Add("map", {100.0, 100.0, 300.0, 300.0}, {Path("well.trap")});
     WriteTrap(folder.Path("well.trap"), Trap::HangsWhenRead);
     document.Select({0});
-    auto* const field = panel.Field("angle")->findChild<QLineEdit*>();
-    field->selectAll();
-    QTest::keyClicks(field, "45");
+    QLineEdit* const field = TypeAngle();
     GiveUp([&](QWidget&) { Q_EMIT field->editingFinished(); });
     canvas.SetZoom(1.5);
     document.Select({1});
