@@ -111,8 +111,8 @@ public:
               "the title is not shown");
         CheckStructure();
         CheckFonts();
-        for (const std::string& warning : Warnings()) {
-            Check(false, warning);
+        for (const QPDFExc& warning : m_pdf.getWarnings()) {
+            m_wrong.emplace_back(warning.what());
         }
         return m_wrong;
     }
@@ -144,14 +144,15 @@ public:
     }
 
     Lines Read() {
-        Walk(m_root.getKey("/StructTreeRoot").getKey("/K"), [this](Handle element) {
+        Lines read;
+        Walk(m_root.getKey("/StructTreeRoot").getKey("/K"), [&read](Handle element) {
             const std::string tag = element.getKey("/S").getName();
             if (element.hasKey("/Pg")) {
                 const char* const key = element.hasKey("/Alt") ? "/Alt" : "/ActualText";
-                m_read.push_back(tag.substr(1) + ": " + TextAt(element, key));
+                read.push_back(tag.substr(1) + ": " + TextAt(element, key));
             }
         });
-        return m_read;
+        return read;
     }
 
     Lines Bookmarks() {
@@ -188,13 +189,6 @@ private:
     std::string Xmp() {
         Handle metadata = m_root.getKey("/Metadata");
         return metadata.isStream() ? ContentsOf(metadata) : "";
-    }
-    Lines Warnings() {
-        Lines lines;
-        for (const QPDFExc& warning : m_pdf.getWarnings()) {
-            lines.emplace_back(warning.what());
-        }
-        return lines;
     }
 
     /// Every element below one, a parent before its children.
@@ -304,7 +298,6 @@ private:
     QPDF m_pdf;
     Handle m_root;
     Lines m_wrong;
-    Lines m_read;
 };
 
 }  // namespace
