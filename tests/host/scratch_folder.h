@@ -39,10 +39,10 @@ public:
     const std::string& Path() const { return m_path; }
     std::string Path(const std::string& name) const { return m_path + "/" + name; }
 
-    /// What lies in it, sorted.
-    std::vector<std::string> Names() const {
+    /// What lies in it, or in a folder within it, sorted.
+    std::vector<std::string> Names(const std::string& within = "") const {
         std::vector<std::string> names;
-        for (const auto& entry : std::filesystem::directory_iterator(m_path)) {
+        for (const auto& entry : std::filesystem::directory_iterator(Path(within))) {
             names.push_back(entry.path().filename().string());
         }
         std::sort(names.begin(), names.end());

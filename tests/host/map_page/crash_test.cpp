@@ -1,51 +1,37 @@
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sys/prctl.h>
-#include <sys/resource.h>
 #include <sys/wait.h>
-#include <unistd.h>
 
-#include <array>
 #include <csignal>
 #include <cstdlib>
-#include <fstream>
 #include <string>
-#include <vector>
 
-#include "map_page/run_map_page.h"
-#include "page/made_raster.h"
-#include "scratch_folder.h"
+#include "map_page/page_file_folder.h"
 
 namespace {
 
 using host_tests::Result;
 using host_tests::RunningMapPage;
 
-/// Has the program's input be a pipe that nobody writes to.
-void GiveEndlessInput() {
-    std::array<int, 2> ends{};
-    if (pipe(ends.data()) == 0) {
-        dup2(ends[0], STDIN_FILENO);  // and the other end stays open
-    }
-}
-
 /// A page whose raster is an input that never ends: map_page reads it until it is ended
 /// from outside, as a decoder that crashes would end it.
-class MapPageThatEndsEarly : public ::testing::Test {
+class MapPageThatEndsEarly : public host_tests::PageFileTest {
 protected:
-    MapPageThatEndsEarly() {
-        WriteScene(folder.Path("scene.tif"), 120, 120);
-        std::ofstream(folder.Path("page.png")) << "what was here before";
-        names = folder.Names();
-    }
+    MapPageThatEndsEarly() { Write("page.png", "what was here before"); }
     ~MapPageThatEndsEarly() override {
-        EXPECT_EQ(host_tests::ContentsOf(folder.Path("page.png")),
-                  "what was here before");
-        EXPECT_EQ(folder.Names(), names);
+        EXPECT_EQ(Contents("page.png"), "what was here before");
+        EXPECT_THAT(folder.Names(),
+                    ::testing::ElementsAre("data", "logo.png", "page.png"));
     }
 
-    ScratchFolder folder;
+    static void ExpectEnd(const Result& result, int status, const std::string& said) {
+        EXPECT_EQ(result.status, status);
+        EXPECT_EQ(result.out, "");
+        EXPECT_EQ(result.err, said);
+    }
+
     const host_tests::Arguments endless = "/vsistdin/ -o page.png";
-    std::vector<std::string> names;
 };
 
 TEST_F(MapPageThatEndsEarly, SaysWhatTheDrawingDiedOf) {
@@ -59,15 +45,12 @@ TEST_F(MapPageThatEndsEarly, SaysWhatTheDrawingDiedOf) {
         // AddressSanitizer would otherwise take the signal and exit.
         const RunningMapPage running(folder, endless, [] {
             setenv("ASAN_OPTIONS", "handle_segv=0:handle_sigfpe=0", 1);
-            GiveEndlessInput();
+            host_tests::GiveEndlessInput();
         });
         const pid_t drawing = running.DrawingProcess();
         ASSERT_GT(drawing, 0);
         kill(drawing, signal);
-        const Result result = running.Wait();
-        EXPECT_EQ(result.status, 1);
-        EXPECT_EQ(result.out, "");
-        EXPECT_EQ(result.err, "map_page: page.png: drawing failed: " + why + "\n");
+        ExpectEnd(running.Wait(), 1, "map_page: page.png: drawing failed: " + why + "\n");
     }
 }
 
@@ -75,32 +58,22 @@ TEST_F(MapPageThatEndsEarly, TakesTheDrawingWithIt) {
     // So that the orphan is told to this process.
     ASSERT_EQ(prctl(PR_SET_CHILD_SUBREAPER, 1), 0);
     for (const int signal : {SIGINT, SIGTERM, SIGHUP, SIGKILL}) {
-        const RunningMapPage running(folder, endless, GiveEndlessInput);
+        const RunningMapPage running(folder, endless, host_tests::GiveEndlessInput);
         const pid_t drawing = running.DrawingProcess();
         ASSERT_GT(drawing, 0);
         kill(running.Process(), signal);
-        const Result result = running.Wait();
-        EXPECT_EQ(result.status, 128 + signal);
-        EXPECT_EQ(result.out, "");
-        EXPECT_EQ(result.err, "");
+        ExpectEnd(running.Wait(), 128 + signal, "");
         int status = 0;
         ASSERT_EQ(waitpid(drawing, &status, 0), drawing);
         EXPECT_TRUE(WIFSIGNALED(status));
-        EXPECT_EQ(folder.Names(), names) << signal;
+        EXPECT_EQ(folder.Names().size(), 3U) << signal;
     }
     prctl(PR_SET_CHILD_SUBREAPER, 0);
 }
 
 TEST_F(MapPageThatEndsEarly, LeavesNothingOfAPageThatIsHalfWritten) {
-    const RunningMapPage running(folder, "scene.tif -o page.png", [] {
-        const rlimit limit = {1000, 1000};
-        setrlimit(RLIMIT_FSIZE, &limit);
-    });
-    const Result result = running.Wait();
-    EXPECT_EQ(result.status, 1);
-    EXPECT_EQ(result.err,
-              "map_page: page.png: drawing failed: File size limit exceeded (signal "
-              "25)\n");
+    ExpectError(1, "page.png: drawing failed: File size limit exceeded (signal 25)",
+                "data/scene.tif -o page.png", [] { host_tests::LimitFilesTo(1000); });
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include "map_page/csv.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <string>
@@ -59,13 +60,9 @@ TEST(Csv, TellsTheLineOfWhatIsWrong) {
         {std::string("a\n\nb\0c\n", 7), "line 3: has a zero byte"},
     };
     for (const auto& row : rows) {
-        std::string error;
-        try {
-            map_page::ReadCsv(row.text);
-        } catch (const map_page::Error& caught) {
-            error = caught.what();
-        }
-        EXPECT_EQ(error, row.error) << row.text;
+        EXPECT_THAT([&row] { map_page::ReadCsv(row.text); },
+                    ::testing::ThrowsMessage<map_page::Error>(row.error))
+            << row.text;
     }
 }
 

@@ -8,7 +8,6 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <cstdint>
 #include <filesystem>
 #include <memory>
 #include <string>
@@ -17,11 +16,11 @@
 
 #include "map_page/page_file_folder.h"
 #include "page/output/world_file.h"
+#include "true_pages/picture.h"
 
 namespace {
 
 using host_tests::Arguments;
-using host_tests::Result;
 using ::testing::HasSubstr;
 
 using Opened = std::unique_ptr<GDALDataset>;
@@ -31,31 +30,16 @@ Opened Open(const std::string& path) {
     return Opened(GDALDataset::Open(path.c_str(), GDAL_OF_RASTER));
 }
 
-/// Columns and rows, the last after the last pixel.
-struct PixelRange {
-    int left = 1 << 30;
-    int top = 1 << 30;
-    int right = 0;
-    int bottom = 0;
-};
-
 /// Around the pixels that are blue.
-PixelRange BluePart(GDALDataset& page) {
-    const int width = page.GetRasterXSize();
-    const int height = page.GetRasterYSize();
-    const std::size_t count =
-        static_cast<std::size_t>(width) * static_cast<std::size_t>(height);
-    std::vector<std::uint8_t> rgb(3 * count);
-    EXPECT_EQ(page.RasterIO(GF_Read, 0, 0, width, height, rgb.data(), width, height,
-                            GDT_Byte, 3, nullptr, 0, 0, 0),
-              CE_None);
-    PixelRange part;
-    for (std::size_t i = 0; i < count; ++i) {
-        if (rgb[i + 2 * count] > rgb[i] + 60) {
-            const int x = static_cast<int>(i) % width;
-            const int y = static_cast<int>(i) / width;
-            part = {std::min(part.left, x), std::min(part.top, y),
-                    std::max(part.right, x + 1), std::max(part.bottom, y + 1)};
+true_pages::Area BluePart(const true_pages::Picture& page) {
+    true_pages::Area part = {page.Width(), page.Height(), 0, 0};
+    for (int y = 0; y < page.Height(); ++y) {
+        for (int x = 0; x < page.Width(); ++x) {
+            const true_pages::Pixel pixel = page.At(x, y);
+            if (pixel.blue > pixel.red + 60) {
+                part = {std::min(part.left, x), std::min(part.top, y),
+                        std::max(part.right, x + 1), std::max(part.bottom, y + 1)};
+            }
         }
     }
     return part;
@@ -84,12 +68,6 @@ protected:
 };
 
 TEST_F(Georeference, IsThatOfWhatThePageShows) {
-    struct Row {
-        const char* output;
-        Arguments options;
-        std::array<double, 4> map;  ///< of its first pixel: x, y, across, down
-        const char* projection;
-    };
     const std::array<double, 4> metres = {500000.0, 9000000.0, 450.0, -450.0};
     const std::array<double, 4> degrees = {10.25, 48.5, 0.002, -0.002};
     const Arguments world = "--world-file --dpi 96";
@@ -119,7 +97,8 @@ TEST_F(Georeference, IsThatOfWhatThePageShows) {
         ASSERT_NE(page, nullptr);
         std::array<double, 6> transform{};
         ASSERT_EQ(page->GetGeoTransform(transform.data()), CE_None) << row.output;
-        const PixelRange blue = BluePart(*page);
+        const true_pages::Area blue =
+            BluePart(true_pages::Picture(folder.Path(row.output)));
         ASSERT_GT(blue.right, blue.left) << row.output;
         // One that is stored from the south begins below.
         const double top = std::max(y, y + down);
@@ -196,7 +175,8 @@ TEST_F(Georeference, IsLeftOutWhereThePageHasNoMapOrSeveral) {
     EXPECT_THAT(Run("map.tif -o own.jpg").err,
                 HasSubstr("own.jgw is not of this page; --world-file renews it"));
     for (const auto& row : rows) {
-        const Result result = Run({row.input, "-o", row.output, "--world-file"});
+        const host_tests::Result result =
+            Run({row.input, "-o", row.output, "--world-file"});
         EXPECT_EQ(result.status, row.status) << row.input;
         EXPECT_THAT(result.err, HasSubstr(row.why));
         EXPECT_FALSE(std::filesystem::exists(folder.Path(row.output)));

@@ -1,12 +1,14 @@
 // What map_page cannot draw or write as asked, it tells; a page is whole or there is
 // none.
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 
 #include <algorithm>
 #include <cstdlib>
 #include <filesystem>
+#include <regex>
 #include <string>
 
 #include "map_page/page_file_folder.h"
@@ -16,61 +18,49 @@ namespace {
 namespace fs = std::filesystem;
 using host_tests::Arguments;
 using host_tests::Result;
-using host_tests::RunningMapPage;
 
 class HonestStatus : public host_tests::PageFileTest {
 protected:
-    /// That a refused page is told in one line and leaves nothing.
-    void ExpectRefused(const Result& result, const std::string& line) {
-        EXPECT_EQ(result.status, 1);
-        EXPECT_EQ(result.err, "map_page: " + line + "\n");
-        EXPECT_FALSE(fs::exists(folder.Path("page.png")));
-    }
-
-    /// A configuration of fonts, in which map_page runs.
-    Result RunWithFonts(const std::string& configuration, const Arguments& arguments) {
+    /// Has map_page run with a configuration of fonts.
+    host_tests::Preparation Fonts(const std::string& configuration) const {
         Write("fonts.conf",
               "<?xml version=\"1.0\"?><!DOCTYPE fontconfig SYSTEM "
               "\"fonts.dtd\"><fontconfig>" +
                   configuration + "</fontconfig>");
-        const RunningMapPage running(folder, arguments, [this] {
-            setenv("FONTCONFIG_FILE", folder.Path("fonts.conf").c_str(), 1);
-        });
-        return running.Wait();
+        return
+            [this] { setenv("FONTCONFIG_FILE", folder.Path("fonts.conf").c_str(), 1); };
     }
 };
 
 TEST_F(HonestStatus, OfTextsThatAreTooLargeOrTooSmall) {
     RunWell("data/scene.tif --title Olinda --save page.json");
-    std::string page = Contents("page.json");
-    const std::size_t size = page.find("\"fontSize\": ");
-    page.replace(size, page.find(',', size) - size, "\"fontSize\": 20000");
-    Write("page.json", page);
-    ExpectRefused(Run("page.json -o page.png --dpi 400"),
-                  "title: is 83333 pixels high, and texts of at most 65535 are drawn");
-    ExpectRefused(Run("data/scene.tif --size A6 --dpi 10 -o page.png"),
-                  "scale bar: is 3 pixels high, too little for its text");
+    Write("page.json",
+          std::regex_replace(Contents("page.json"), std::regex("\"fontSize\": [^,]*"),
+                             "\"fontSize\": 20000"));
+    ExpectError(1, "title: is 83333 pixels high, and texts of at most 65535 are drawn",
+                "page.json -o page.png --dpi 400");
+    ExpectError(1, "scale bar: is 3 pixels high, too little for its text",
+                "data/scene.tif --size A6 --dpi 10 -o page.png");
 }
 
 TEST_F(HonestStatus, OfFontsThatAreNotThere) {
     const Arguments draw = "data/scene.tif -o page.png";
-    ExpectRefused(RunWithFonts("", draw),
-                  "--title-font: no font family \"Arial\" is installed");
+    ExpectError(1, "--title-font: no font family \"Arial\" is installed", draw,
+                Fonts(""));
     // Sans, but no serif for the numbers of the bar, and no Chinese for the captions.
     const std::string sans =
         "<dir>/usr/share/fonts/truetype/liberation</dir><selectfont><rejectfont>"
         "<glob>*Serif*</glob></rejectfont></selectfont>"
         "<include>/etc/fonts/conf.d</include>";
     const std::string why = "scale bar: no font family \"Times New Roman\" is installed";
-    ExpectRefused(RunWithFonts(sans, draw), why);
     RunWell("data/scene.tif --save page.json");
-    ExpectRefused(RunWithFonts(sans, "page.json -o page.png"), "page.json: " + why);
-    const Result boxes =
-        RunWithFonts(sans, "data/scene.tif -o page.png --scale-bar none --language zh");
+    const host_tests::Preparation fonts = Fonts(sans);
+    ExpectError(1, why, draw, fonts);
+    ExpectError(1, "page.json: " + why, "page.json -o page.png", fonts);
+    const Result boxes = Run(draw + "--scale-bar none --language zh", fonts);
     EXPECT_EQ(boxes.status, 0);
-    EXPECT_EQ(boxes.err.rfind("map_page: warning: legend: no font has \"图例影像名：", 0),
-              0u)
-        << boxes.err;
+    EXPECT_THAT(boxes.err, ::testing::StartsWith(
+                               "map_page: warning: legend: no font has \"图例影像名："));
 }
 
 #ifndef __SANITIZE_ADDRESS__      // which takes memory and descriptors itself
@@ -83,12 +73,11 @@ TEST_F(HonestStatus, OfDescriptorsAndMemoryThatRunOut) {
     const std::string whole = Contents("page.png");
     const auto tryWith = [&](int resource, rlim_t most) {
         fs::remove(folder.Path("page.png"));
-        const RunningMapPage running(folder, draw, [resource, most] {
+        const Result result = Run(draw, [resource, most] {
             const rlimit limit = {most, most};
             alarm(60);  // seconds; a page takes a fraction of one
             setrlimit(static_cast<__rlimit_resource>(resource), &limit);
         });
-        const Result result = running.Wait();
         const bool drawn = result.status == 0;
         EXPECT_TRUE(drawn || result.status == 1 || result.status == kNotStarted)
             << most << " ends with " << result.status;

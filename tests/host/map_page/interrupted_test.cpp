@@ -8,49 +8,40 @@
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
 #include <random>
 #include <string>
 
+#include "given.h"
 #include "map_page/run_map_page.h"
 #include "page/made_raster.h"
 #include "scratch_folder.h"
 
 namespace {
 
-using host_tests::ContentsOf;
 using host_tests::Result;
 using host_tests::RunningMapPage;
 
 const host_tests::Arguments kDraw = "scene.tif -o page.png --title Scene";
 
-/// How often it is killed: a few times with the other tests, more when asked.
-int HowOften() {
-    const char* const asked = std::getenv("INTERRUPTIONS");
-    return asked == nullptr ? 12 : std::atoi(asked);
-}
+class Interrupted : public host_tests::MapPageTest {
+protected:
+    Interrupted() { WriteScene(folder.Path("scene.tif"), 400, 300); }
+};
 
-/// Drawn once to know it; every drawing of it is the same.
-std::string WholePage(const ScratchFolder& folder) {
-    EXPECT_EQ(host_tests::RunMapPage(folder, kDraw).status, 0);
-    return ContentsOf(folder.Path("page.png"));
-}
-
-TEST(Interrupted, LeavesTheOlderPageOrTheWholeNewOne) {
-    const ScratchFolder folder;
-    WriteScene(folder.Path("scene.tif"), 400, 300);
-    const std::string whole = WholePage(folder);
+TEST_F(Interrupted, LeavesTheOlderPageOrTheWholeNewOne) {
+    RunWell(kDraw);  // every drawing of it is the same
+    const std::string whole = Contents("page.png");
     const std::string older = "an older page";
     std::mt19937 random(1);
     std::uniform_int_distribution<unsigned> delay(0, 500'000);
     int killed = 0;
     int drawn = 0;
-    const int often = HowOften();
-    for (int i = 0; i < often; ++i) {
+    const std::size_t often = host_tests::Given("INTERRUPTIONS", 12);
+    for (std::size_t i = 0; i < often; ++i) {
         const bool hasOlder = i % 4 != 0;
         std::filesystem::remove(folder.Path("page.png"));
         if (hasOlder) {
-            std::ofstream(folder.Path("page.png")) << older;
+            Write("page.png", older);
         }
         const int signal = std::array{SIGKILL, SIGTERM, SIGINT, SIGHUP}[i / 4 % 4];
         const RunningMapPage running(folder, kDraw);
@@ -58,7 +49,7 @@ TEST(Interrupted, LeavesTheOlderPageOrTheWholeNewOne) {
         kill(running.Process(), signal);
         const Result result = running.Wait();
 
-        const std::string page = ContentsOf(folder.Path("page.png"));
+        const std::string page = Contents("page.png");
         if (result.status == 0) {
             ++drawn;
             EXPECT_EQ(page, whole) << "time " << i;
@@ -76,7 +67,7 @@ TEST(Interrupted, LeavesTheOlderPageOrTheWholeNewOne) {
             }
         }
     }
-    std::printf("%d interruptions: %d killed, %d had drawn the page\n", often, killed,
+    std::printf("%zu interruptions: %d killed, %d had drawn the page\n", often, killed,
                 drawn);
 }
 
@@ -103,9 +94,7 @@ private:
     bool m_mounted;
 };
 
-TEST(Interrupted, ByAFullDiskLeavesTheOlderPage) {
-    const ScratchFolder rasters;
-    WriteScene(rasters.Path("scene.tif"), 400, 300);
+TEST_F(Interrupted, ByAFullDiskLeavesTheOlderPage) {
     const ScratchFolder out;
     const SmallDisk disk(out.Path(), "16k");
     if (!disk.IsThere()) {
@@ -113,13 +102,13 @@ TEST(Interrupted, ByAFullDiskLeavesTheOlderPage) {
         GTEST_SKIP() << "this system lets nobody mount a file system";
     }
     for (const std::string name : {"page.png", "page.jpg", "page.bmp", "page.tif"}) {
-        std::ofstream(out.Path(name)) << "an older page";
+        out.Write(name, "an older page");
         const Result result =
-            host_tests::RunMapPage(out, {rasters.Path("scene.tif"), "-o", name});
+            host_tests::RunMapPage(out, {folder.Path("scene.tif"), "-o", name});
         EXPECT_EQ(result.status, 1);
         EXPECT_EQ(result.out, "");
         EXPECT_EQ(result.err, "map_page: " + name + ": No space left on device\n");
-        EXPECT_EQ(ContentsOf(out.Path(name)), "an older page");
+        EXPECT_EQ(out.Contents(name), "an older page");
         std::filesystem::remove(out.Path(name));
         EXPECT_TRUE(out.Names().empty());
     }

@@ -4,62 +4,53 @@
 
 #include <algorithm>
 #include <cmath>
-#include <fstream>
-#include <memory>
 #include <string>
 #include <tuple>
 
 #include "map_page/page_file_folder.h"
+#include "true_pages/picture.h"
 
 namespace {
 
 using host_tests::Arguments;
-using host_tests::Result;
 
 // data/scene.tif has 120 x 120 pixels of 30 m, the first at 500000, 9000000. At column x
 // and row y its red is x * 200 / 120, its green y * 200 / 120, its blue (x + y) % 200.
 constexpr int kSide = 120;
 
+unsigned Colour(long red, long green, long blue) {
+    return static_cast<unsigned>(red << 16 | green << 8 | blue);
+}
+
 class MapColours : public host_tests::PageFileTest {
 protected:
     /// A page that is nothing but a map, at 96 dpi three pixels for each of the scene's.
     void WritePage(const std::string& properties) const {
-        std::ofstream(folder.Path("page.json"))
-            << R"({"version": 2, "width": 360, "height": 360, "elements": [{"type": "map",)"
-            << R"("rasters": ["data/scene.tif"], )" << properties
-            << R"("frame": {"left": 0, "top": 360, "width": 360, "height": 360}}]})";
+        Write("page.json",
+              R"({"version": 2, "width": 360, "height": 360, "elements": [{"type": )"
+              R"("map", "rasters": ["data/scene.tif"], )" +
+                  properties +
+                  R"("frame": {"left": 0, "top": 360, "width": 360, "height": 360}}]})");
     }
 
-    /// Draws page.json and reads the picture.
-    Result Draw(const Arguments& options, const std::string& output = "map.png") {
-        const Result result =
-            Run(options + Arguments{"page.json", "-o", output, "--dpi", "96"});
-        if (result.status == 0) {
-            Read(output);
-        }
-        return result;
+    /// What is said of drawing page.json.
+    std::string Draw(const Arguments& options) {
+        return RunWell(options + "page.json -o map.png --dpi 96").err;
     }
 
-    void Read(const std::string& output) {
-        const std::string path = folder.Path(output);
-        picture = std::make_unique<Gdiplus::Bitmap>(
-            std::wstring(path.begin(), path.end()).c_str());
-        ASSERT_EQ(picture->GetWidth(), 360U);
+    /// The colour of a pixel of an image file, without its alpha.
+    unsigned ColourIn(const char* name, int x, int y) const {
+        const true_pages::Picture picture(folder.Path(name));
+        EXPECT_EQ(picture.Width(), 360);
+        const true_pages::Pixel pixel = picture.At(x, y);
+        return Colour(pixel.red, pixel.green, pixel.blue);
     }
 
-    /// The colour of the scene's pixel where the whole scene is drawn, without its alpha.
+    /// That of the scene's pixel where the whole scene is drawn.
     unsigned At(int column, int row) const {
-        Gdiplus::Color colour;
-        picture->GetPixel(3 * column + 1, 3 * row + 1, &colour);
-        return colour.GetValue() & 0xFFFFFFU;
+        return ColourIn("map.png", 3 * column + 1, 3 * row + 1);
     }
-
-    std::unique_ptr<Gdiplus::Bitmap> picture;
 };
-
-unsigned Colour(long red, long green, long blue) {
-    return static_cast<unsigned>(red << 16 | green << 8 | blue);
-}
 
 unsigned Grey(double part) {
     const long shade = std::lround(255.0 * std::min(1.0, std::max(0.0, part)));
@@ -71,7 +62,7 @@ int Green(int row) { return row * 200 / kSide; }
 
 TEST_F(MapColours, OfFinishedRasterAreItsOwn) {
     WritePage("");
-    ASSERT_EQ(Draw({}).err, "");
+    ASSERT_EQ(Draw({}), "");
     for (const int column : {1, 17, 60, 118}) {
         for (const int row : {2, 59, 117}) {
             EXPECT_EQ(At(column, row),
@@ -84,7 +75,7 @@ TEST_F(MapColours, OfFinishedRasterAreItsOwn) {
 TEST_F(MapColours, AreTheSameOnEverySheetAndAtEverySize) {
     // One band is stretched from its least value, 0, to its greatest, 198.
     WritePage(R"("bands": "1", )");
-    ASSERT_EQ(Draw({}).err, "");
+    ASSERT_EQ(Draw({}), "");
     EXPECT_EQ(At(60, 60), Grey(100.0 / 198.0));
     EXPECT_EQ(At(118, 60), Grey(196.0 / 198.0));
     // 20 x 20 pixels of the scene, column 50 to 69, row 50 to 69: 18 pixels for each.
@@ -95,11 +86,8 @@ TEST_F(MapColours, AreTheSameOnEverySheetAndAtEverySize) {
     RunWell("page.json --series list.csv -o {name}.png --dpi 96");
     for (const auto& [output, black, white] :
          {std::tuple{"a.png", 0.0, 198.0}, {"b.png", 20.0, 178.0}}) {
-        Read(output);
         for (const int column : {50, 57, 69}) {
-            Gdiplus::Color colour;
-            picture->GetPixel(18 * (column - 50) + 9, 100, &colour);
-            EXPECT_EQ(colour.GetValue() & 0xFFFFFFU,
+            EXPECT_EQ(ColourIn(output, 18 * (column - 50) + 9, 100),
                       Grey((Red(column) - black) / (white - black)))
                 << output << " " << column;
         }
@@ -126,7 +114,7 @@ TEST_F(MapColours, FollowTheOptions) {
     };
     WritePage("");
     for (const auto& row : rows) {
-        ASSERT_EQ(Draw(row.options).err, "");
+        ASSERT_EQ(Draw(row.options), "");
         EXPECT_EQ(At(60, 30), row.at) << row.options[0] << " " << row.options[1];
     }
 }
@@ -134,16 +122,16 @@ TEST_F(MapColours, FollowTheOptions) {
 TEST_F(MapColours, OfNothingAreTold) {
     WritePage(R"("extent": {"left": 0, "bottom": 0, "right": 9, "top": 9}, )");
     EXPECT_EQ(
-        Draw({}).err,
+        Draw({}),
         "map_page: warning: data/scene.tif: the map's extent lies beside it, so that "
         "the map is blank\n");
     // All of the first column and row are 0 in one band or the other.
     WritePage(
         R"("extent": {"left": 500005, "bottom": 8999975, "right": 500025, "top": 8999995}, )");
-    EXPECT_EQ(Draw("--nodata 0").err,
+    EXPECT_EQ(Draw("--nodata 0"),
               "map_page: warning: data/scene.tif: it has no data in the map's extent, so "
               "that the map is blank\n");
-    EXPECT_EQ(Draw({}).err, "");
+    EXPECT_EQ(Draw({}), "");
 }
 
 }  // namespace

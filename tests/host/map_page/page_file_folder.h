@@ -1,6 +1,5 @@
 #pragma once
 
-#include <gdiplus.h>
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -9,7 +8,7 @@
 #include "map_page/run_map_page.h"
 #include "page/made_raster.h"
 #include "png_encoder.h"
-#include "scratch_folder.h"
+#include "system/gdiplus_session.h"
 
 namespace host_tests {
 
@@ -23,14 +22,11 @@ protected:
         classes.transform = {500000.0, 450.0, 0.0, 9000000.0, 0.0, -450.0};
         classes.projection = "EPSG:32725";
         WriteRaster(folder.Path("data/classes.tif"), classes);
-        Gdiplus::Bitmap logo(64, 48, PixelFormat32bppARGB);
-        {
-            Gdiplus::Graphics graphics(&logo);
-            graphics.Clear(Gdiplus::Color(0, 128, 0));
-        }
-        const std::string path = folder.Path("logo.png");
-        logo.Save(std::wstring(path.begin(), path.end()).c_str(), &kPngEncoder);
+        WriteLogo(folder.Path("logo.png"));
     }
+
+private:
+    host::GdiplusSession m_gdiplus;
 };
 
 }  // namespace host_tests

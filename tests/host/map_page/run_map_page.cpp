@@ -1,8 +1,10 @@
 #include "map_page/run_map_page.h"
 
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <array>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
@@ -22,13 +24,20 @@ Arguments operator+(Arguments first, const Arguments& second) {
     return first;
 }
 
-void WriteFile(const std::string& path, const std::string& contents) {
-    std::ofstream(path, std::ios::binary)
-        .write(contents.data(), static_cast<std::streamsize>(contents.size()));
+void GiveEndlessInput() {
+    std::array<int, 2> ends{};
+    if (pipe(ends.data()) == 0) {
+        dup2(ends[0], STDIN_FILENO);  // and the other end stays open
+    }
+}
+
+void LimitFilesTo(unsigned long bytes) {
+    const rlimit most = {bytes, bytes};
+    setrlimit(RLIMIT_FSIZE, &most);
 }
 
 RunningMapPage::RunningMapPage(const ScratchFolder& folder, const Arguments& arguments,
-                               const std::function<void()>& prepare)
+                               const Preparation& prepare)
     : m_out(::testing::TempDir() + "map_page_out." + std::to_string(getpid())),
       m_err(::testing::TempDir() + "map_page_err." + std::to_string(getpid())),
       m_process(fork()) {
@@ -99,11 +108,12 @@ Result MapPageTest::RunWell(const Arguments& arguments) const {
 }
 
 void MapPageTest::ExpectError(int status, const std::string& line,
-                              const Arguments& arguments) const {
+                              const Arguments& arguments,
+                              const Preparation& prepare) const {
     SCOPED_TRACE(::testing::PrintToString(arguments));
     const std::vector<std::string> names = folder.Names();
     const std::string page = Contents("page.png");
-    const Result result = Run(arguments);
+    const Result result = Run(arguments, prepare);
     EXPECT_EQ(result.status, status);
     EXPECT_EQ(result.out, "");
     const bool isWhole = line.back() != '*';

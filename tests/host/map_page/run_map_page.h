@@ -24,14 +24,20 @@ struct Result {
     std::string err;
 };
 
-void WriteFile(const std::string& path, const std::string& contents);
+/// Done in a new process, before the program takes over.
+using Preparation = std::function<void()>;
+
+/// Has the program's input be a pipe that nobody writes to.
+void GiveEndlessInput();
+
+/// Has every file that grows beyond so many bytes be too large.
+void LimitFilesTo(unsigned long bytes);
 
 /// map_page, started in a folder.
 class RunningMapPage {
 public:
-    /// @param prepare done in the new process, before the program takes over
     RunningMapPage(const ScratchFolder& folder, const Arguments& arguments,
-                   const std::function<void()>& prepare = {});
+                   const Preparation& prepare = {});
     RunningMapPage(const RunningMapPage&) = delete;
     RunningMapPage& operator=(const RunningMapPage&) = delete;
 
@@ -52,14 +58,17 @@ private:
 /// What a command of the shell prints; it has to succeed.
 std::string Said(const std::string& command);
 
-inline Result RunMapPage(const ScratchFolder& folder, const Arguments& arguments) {
-    return RunningMapPage(folder, arguments).Wait();
+inline Result RunMapPage(const ScratchFolder& folder, const Arguments& arguments,
+                         const Preparation& prepare = {}) {
+    return RunningMapPage(folder, arguments, prepare).Wait();
 }
 
 /// A folder in which map_page runs, with files by their names there.
 class MapPageTest : public ::testing::Test {
 protected:
-    Result Run(const Arguments& arguments) const { return RunMapPage(folder, arguments); }
+    Result Run(const Arguments& arguments, const Preparation& prepare = {}) const {
+        return RunMapPage(folder, arguments, prepare);
+    }
 
     /// Fails unless it ends well.
     Result RunWell(const Arguments& arguments) const;
@@ -67,14 +76,12 @@ protected:
     /// Fails unless it ends so, says nothing but that line, and leaves the folder and its
     /// page.png as they are.
     /// @param line after "map_page: "; a "*" at its end stands for anything
-    void ExpectError(int status, const std::string& line,
-                     const Arguments& arguments) const;
+    void ExpectError(int status, const std::string& line, const Arguments& arguments,
+                     const Preparation& prepare = {}) const;
 
-    std::string Contents(const std::string& name) const {
-        return ContentsOf(folder.Path(name));
-    }
+    std::string Contents(const std::string& name) const { return folder.Contents(name); }
     void Write(const std::string& name, const std::string& contents) const {
-        WriteFile(folder.Path(name), contents);
+        folder.Write(name, contents);
     }
 
     ScratchFolder folder;

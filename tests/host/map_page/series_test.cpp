@@ -16,6 +16,7 @@ namespace {
 namespace fs = std::filesystem;
 using host_tests::Arguments;
 using host_tests::Result;
+using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 
 class Series : public host_tests::PageFileTest {
@@ -25,38 +26,28 @@ protected:
         fs::create_directory(folder.Path("out"));
     }
 
-    void WriteList(const std::string& text) const { Write("list.csv", text); }
-
-    Result Draw(const std::string& output = "out/{name}.png",
-                const std::string& jobs = "2") const {
-        return Run({"page.json", "--series", "list.csv", "-o", output, "--dpi", "50",
-                    "--jobs", jobs});
+    Result Draw(const std::string& list, const Arguments& jobs = "--jobs 2") const {
+        Write("list.csv", list);
+        return Run("page.json --series list.csv -o out/{name}.png --dpi 50" + jobs);
     }
 
-    std::vector<std::string> Outputs() const {
-        std::vector<std::string> names;
-        for (const auto& entry : fs::directory_iterator(folder.Path("out"))) {
-            names.push_back(entry.path().filename().string());
-        }
-        std::sort(names.begin(), names.end());
-        return names;
-    }
+    std::vector<std::string> Outputs() const { return folder.Names("out"); }
 };
 
 TEST_F(Series, DrawsAPageForEachRow) {
-    WriteList(
+    const std::string list =
         "name,title,rasters,extent\r\n"
         "same,,,\r\n"
         "titled,\"Another, \"\"longer\"\" title\",,\r\n"
         "classes,,data/classes.tif;data/scene.tif,\r\n"
-        "part,,,500300 8998200 500900 8998800\r\n");
-    for (const char* jobs : {"1", "4"}) {
-        const Result result = Draw("out/{name}.png", jobs);
+        "part,,,500300 8998200 500900 8998800\r\n";
+    for (const char* jobs : {"--jobs 1", "--jobs 4"}) {
+        const Result result = Draw(list, jobs);
         EXPECT_EQ(result.status, 0);
         EXPECT_EQ(result.err, "");
         EXPECT_EQ(result.out, "list.csv: 4 drawn, 0 already there, 0 failed\n");
-        EXPECT_EQ(Outputs(), (std::vector<std::string>{"classes.png", "part.png",
-                                                       "same.png", "titled.png"}));
+        EXPECT_THAT(Outputs(),
+                    ElementsAre("classes.png", "part.png", "same.png", "titled.png"));
         RunWell("page.json -o one.png --dpi 50");
         const std::string one = Contents("one.png");
         EXPECT_TRUE(Contents("out/same.png") == one);
@@ -69,14 +60,13 @@ TEST_F(Series, DrawsAPageForEachRow) {
 }
 
 TEST_F(Series, HasColumnsForWhatOptionsSay) {
-    WriteList(
+    const Result result = Draw(
         "name,scale,units,title-size,scale-bar,size,north-angle,picture\n"
         "same,,,,,,,\n"
         "scaled,1:50000,,,,,,\n"
         "other,1:40000,mi,9,line2,A5,-30,\n"
         "wrong,none,,,,,,\n"
         "outside,,,,,,,/etc/passwd\n");
-    const Result result = Draw();
     EXPECT_EQ(result.status, 1);
     EXPECT_THAT(result.err,
                 ::testing::AllOf(
@@ -96,26 +86,8 @@ TEST_F(Series, HasColumnsForWhatOptionsSay) {
     }
 }
 
-TEST_F(Series, KeepsOfABarWhatItsFitSays) {
-    const auto partOf = [](const std::string& page, const char* name) {
-        const std::size_t from = page.find(name);
-        return page.substr(from, page.find('\n', from) - from);
-    };
-    const std::pair<const char*, const char*> rows[] = {{"count", "\"divisions\": "},
-                                                        {"value", "\"divisionValue\": "}};
-    for (const auto& [fit, kept] : rows) {
-        const std::string before = partOf(Contents("page.json"), kept);
-        for (const char* scale : {"1:10000", "1:20000"}) {
-            RunWell({"page.json", "--units", "m", "--scale", scale, "--fit", fit,
-                     "--save", "kept.json"});
-            EXPECT_EQ(partOf(Contents("kept.json"), kept), before) << fit;
-            fs::rename(folder.Path("kept.json"), folder.Path("page.json"));
-        }
-    }
-}
-
 TEST_F(Series, TellsAFailingRowByItsLineAndGoesOn) {
-    WriteList(
+    const Result result = Draw(
         "name,title,rasters,extent\n"
         "a,\"two\nlines\",,\n"
         "b,,data/none.tif,\n"
@@ -125,7 +97,6 @@ TEST_F(Series, TellsAFailingRowByItsLineAndGoesOn) {
         ",x,,\n"
         "f,,data/scene.tif;,\n"
         "g,,,\n");
-    const Result result = Draw();
     EXPECT_EQ(result.status, 1);
     EXPECT_EQ(result.out, "");
     const std::string notFour =
@@ -150,24 +121,21 @@ TEST_F(Series, TellsAFailingRowByItsLineAndGoesOn) {
             ::testing::EndsWith(
                 "map_page: list.csv: 2 drawn, 0 already there, 6 failed\n")));
     EXPECT_EQ(std::count(result.err.begin(), result.err.end(), '\n'), 8);
-    EXPECT_EQ(Outputs(), (std::vector<std::string>{"a.png", "g.png"}));
+    EXPECT_THAT(Outputs(), ElementsAre("a.png", "g.png"));
 }
 
 TEST_F(Series, LeavesWhatIsThereAndDrawsTheRest) {
-    WriteList("name,title\na,A\nb,B\n");
     Write("out/a.png", "what was drawn before");
-    const Result result = Draw();
+    const Result result = Draw("name,title\na,A\nb,B\n");
     EXPECT_EQ(result.status, 0) << result.err;
     EXPECT_EQ(result.out, "list.csv: 1 drawn, 1 already there, 0 failed\n");
     EXPECT_EQ(Contents("out/a.png"), "what was drawn before");
 }
 
 TEST_F(Series, NoValueLeadsIntoAnotherFolder) {
-    WriteList("name,title\n../../a/b,A\n..,B\n/etc/c,C\n");
-    const Result result = Draw();
+    const Result result = Draw("name,title\n../../a/b,A\n..,B\n/etc/c,C\n");
     EXPECT_EQ(result.status, 0) << result.err;
-    EXPECT_EQ(Outputs(),
-              (std::vector<std::string>{"_..png", "_._.._a_b.png", "_etc_c.png"}));
+    EXPECT_THAT(Outputs(), ElementsAre("_..png", "_._.._a_b.png", "_etc_c.png"));
 }
 
 TEST_F(Series, TellsAListThatIsNoneBeforeDrawing) {
@@ -198,7 +166,7 @@ TEST_F(Series, TellsAListThatIsNoneBeforeDrawing) {
          "in the output's name"},
     };
     for (const auto& row : rows) {
-        WriteList(row.list);
+        Write("list.csv", row.list);
         ExpectError(1, row.error,
                     {"page.json", "--series", "list.csv", "-o", row.output});
         EXPECT_THAT(Outputs(), ::testing::IsEmpty());

@@ -27,8 +27,6 @@ namespace {
 namespace fs = std::filesystem;
 using host_tests::Arguments;
 using host_tests::Result;
-using host_tests::RunMapPage;
-using host_tests::WriteFile;
 
 /// A server that answers nobody, and knows whether it was called.
 class Server {
@@ -88,7 +86,7 @@ private:
 };
 
 /// A folder `maps` for the page file, with a.tif, and a folder `other` with the canary.
-class StrangersPage : public ::testing::Test {
+class StrangersPage : public host_tests::MapPageTest {
 protected:
     StrangersPage() {
         GDALAllRegister();
@@ -97,41 +95,35 @@ protected:
         }
         WriteScene(folder.Path("maps/a.tif"), 40, 30);
         WriteScene(Canary(), 40, 30);
-        WriteArchive();
+        const std::string zipped =
+            "/vsizip/" + folder.Path("other/a.zip") + "/canary.tif";
+        EXPECT_EQ(CPLCopyFile(zipped.c_str(), Canary().c_str()), 0);
         WriteReferences();
     }
 
     std::string Canary() const { return folder.Path("other/canary.tif"); }
     std::string Url() const { return "http://" + server.Place() + "/canary.tif"; }
 
-    void WriteArchive() const {
-        const std::string bytes = host_tests::ContentsOf(Canary());
-        VSILFILE* const file = VSIFOpenL(
-            ("/vsizip/" + folder.Path("other/a.zip") + "/canary.tif").c_str(), "wb");
-        VSIFWriteL(bytes.data(), 1, bytes.size(), file);
-        VSIFCloseL(file);
-    }
-
     /// Files below the folder that lead out of it.
     void WriteReferences() {
-        const auto vrt = [](const std::string& source) {
+        const auto vrt = [](const std::string& inside) {
             return "<VRTDataset rasterXSize=\"40\" rasterYSize=\"30\"><VRTRasterBand "
-                   "dataType=\"Byte\" band=\"1\"><SimpleSource><SourceFilename>" +
-                   source +
-                   "</SourceFilename></SimpleSource></VRTRasterBand></VRTDataset>";
+                   "dataType=\"Byte\" band=\"1\"" +
+                   inside + "</VRTRasterBand></VRTDataset>";
+        };
+        const auto simple = [&vrt](const std::string& source) {
+            return vrt("><SimpleSource><SourceFilename>" + source +
+                       "</SourceFilename></SimpleSource>");
         };
         const auto add = [this](const std::string& name, const std::string& text) {
-            WriteFile(folder.Path("maps/" + name), text);
+            Write("maps/" + name, text);
             references.push_back(name);
         };
-        add("file.vrt", vrt(Canary()));
-        add("service.vrt", vrt("/vsicurl/" + Url()));
-        add("nested.vrt", vrt("file.vrt"));
-        add("raw.vrt",
-            "<VRTDataset rasterXSize=\"40\" rasterYSize=\"30\"><VRTRasterBand "
-            "dataType=\"Byte\" band=\"1\" "
-            "subClass=\"VRTRawRasterBand\"><SourceFilename>" +
-                Canary() + "</SourceFilename></VRTRasterBand></VRTDataset>");
+        add("file.vrt", simple(Canary()));
+        add("service.vrt", simple("/vsicurl/" + Url()));
+        add("nested.vrt", simple("file.vrt"));
+        add("raw.vrt", vrt(" subClass=\"VRTRawRasterBand\"><SourceFilename>" + Canary() +
+                           "</SourceFilename>"));
         add("wms.xml",
             "<GDAL_WMS><Service name=\"TMS\"><ServerUrl>http://" + server.Place() +
                 "/${z}/${x}/${y}.png</ServerUrl></Service><DataWindow><UpperLeftX>0"
@@ -142,10 +134,9 @@ protected:
                 "<Cache><Path>" +
                 folder.Path("other") + "</Path></Cache></GDAL_WMS>");
         fs::copy_file(folder.Path("maps/a.tif"), folder.Path("maps/overviews.tif"));
-        WriteFile(
-            folder.Path("maps/overviews.tif.aux.xml"),
-            "<PAMDataset><Metadata domain=\"OVERVIEWS\"><MDI key=\"OVERVIEW_FILE\">" +
-                Canary() + "</MDI></Metadata></PAMDataset>");
+        Write("maps/overviews.tif.aux.xml",
+              "<PAMDataset><Metadata domain=\"OVERVIEWS\"><MDI key=\"OVERVIEW_FILE\">" +
+                  Canary() + "</MDI></Metadata></PAMDataset>");
         fs::create_symlink(Canary(), folder.Path("maps/link.tif"));
         fs::copy_file(folder.Path("maps/a.tif"), folder.Path("maps/side.tif"));
         fs::create_symlink(Canary(), folder.Path("maps/side.tif.ovr"));
@@ -158,17 +149,14 @@ protected:
     /// Whatever a name can be.
     std::vector<std::string> Names() const {
         std::vector<std::string> names = references;
-        for (const std::string& name :
-             {Canary(), std::string("../other/canary.tif"), std::string("/etc/passwd"),
-              std::string("/proc/self/environ"), std::string("/dev/zero"), Url(),
-              "ftp://" + server.Place() + "/canary.tif",
-              "<VRTDataset><SourceFilename>" + Canary() +
-                  "</SourceFilename></VRTDataset>",
-              "/vsizip/" + folder.Path("other/a.zip") + "/canary.tif",
-              "/vsigzip//vsizip/" + folder.Path("other/a.zip") + "/canary.tif",
-              "/vsisubfile/0_100," + Canary()}) {
-            names.push_back(name);
-        }
+        const std::string zip = folder.Path("other/a.zip") + "/canary.tif";
+        names.insert(
+            names.end(),
+            {Canary(), "../other/canary.tif", "/etc/passwd", "/proc/self/environ",
+             "/dev/zero", Url(), "ftp://" + server.Place() + "/canary.tif",
+             "<VRTDataset><SourceFilename>" + Canary() + "</SourceFilename></VRTDataset>",
+             "/vsizip/" + zip, "/vsigzip//vsizip/" + zip,
+             "/vsisubfile/0_100," + Canary()});
         GDALDriverManager& drivers = *GetGDALDriverManager();
         for (int i = 0; i < drivers.GetDriverCount(); ++i) {
             GDALDriver* const driver = drivers.GetDriver(i);
@@ -220,38 +208,30 @@ protected:
         return names;
     }
 
-    /// With double quotes doubled, as in a list.
-    static std::string QuotedInList(const std::string& name) {
-        std::string quoted;
-        for (const char c : name) {
-            quoted += c == '"' ? "\"\"" : std::string(1, c);
-        }
-        return quoted;
+    /// As a JSON text or as a field of a list has it.
+    static std::string Escaped(const std::string& name, int scheme) {
+        char* const text = CPLEscapeString(name.c_str(), -1, scheme);
+        std::string escaped = text;
+        CPLFree(text);
+        return escaped;
     }
-
     static std::string Quoted(const std::string& name) {
-        std::string quoted = "\"";
-        for (const char c : name) {
-            quoted += c == '"' || c == '\\' ? std::string("\\") + c : std::string(1, c);
-        }
-        return quoted + "\"";
+        return '"' + Escaped(name, CPLES_BackslashQuotable) + '"';
     }
 
     void WritePage(const std::string& element) const {
-        WriteFile(folder.Path("maps/page.json"),
-                  R"({"version": 2, "width": 200, "height": 150, "elements": [)" +
-                      element + "]}");
+        Write("maps/page.json",
+              R"({"version": 2, "width": 200, "height": 150, "elements": [)" + element +
+                  "]}");
     }
     Arguments Draw(const Arguments& more = {}) const {
-        Arguments arguments = "maps/page.json -o page.png --dpi 20 --limit-time 20";
-        arguments.insert(arguments.end(), more.begin(), more.end());
-        return arguments;
+        return "maps/page.json -o page.png --dpi 20 --limit-time 20" + more;
     }
 
     /// Draws it and fails unless that is refused, in one line.
     void ExpectRefused(const Arguments& arguments, const std::string& what) const {
         fs::remove(folder.Path("page.png"));
-        const Result result = RunMapPage(folder, arguments);
+        const Result result = Run(arguments);
         EXPECT_EQ(result.status, 1) << what;
         EXPECT_EQ(result.out, "") << what;
         EXPECT_EQ(result.err.find("limit of"), std::string::npos) << result.err;
@@ -259,7 +239,6 @@ protected:
     }
 
     Server server;
-    ScratchFolder folder;
     std::vector<std::string> references;
 };
 
@@ -273,7 +252,7 @@ TEST_F(StrangersPage, HasNoOverviewsElsewhere) {
         WritePage(R"({"type": "map", "rasters": [")" + std::string(name) + "\"]}");
         ExpectRefused(Draw(), name);
         WritePage(R"({"type": "picture", "path": ")" + std::string(name) + "\"}");
-        EXPECT_EQ(RunMapPage(folder, Draw()).status, 0) << name;
+        EXPECT_EQ(Run(Draw()).status, 0) << name;
     }
     EXPECT_FALSE(other.WasTouched());
 }
@@ -302,8 +281,7 @@ TEST_P(StrangersPagePart, ReachesNobodyAndReadsNothingElsewhere) {
             ++tried;
         }
         WritePage(R"({"type": "map"})");
-        WriteFile(folder.Path("maps/list.csv"),
-                  "name,rasters\nx,\"" + QuotedInList(names[i]) + "\"\n");
+        Write("maps/list.csv", "name,rasters\nx," + Escaped(names[i], CPLES_CSV) + "\n");
         Arguments series = Draw("--series maps/list.csv");
         series[2] = "{name}.png";
         ExpectRefused(series, names[i]);
@@ -321,33 +299,43 @@ INSTANTIATE_TEST_SUITE_P(Part, StrangersPagePart,
 
 // That the trial would notice.
 TEST_F(StrangersPage, DoesSoWhereTheCallerAllowsIt) {
-    const std::string map = R"({"type": "map", "frame": {"width": 90, "height": 60}, )"
-                            R"("rasters": [)";
     const WatchedFolder other(folder.Path("other"));
-    WritePage(map + "\"link.tif\"]}");
-    EXPECT_EQ(RunMapPage(folder, Draw("--allow-outside other")).status, 0);
-    EXPECT_TRUE(other.WasTouched());
-    WritePage(map + "\"file.vrt\"]}");
-    EXPECT_EQ(RunMapPage(folder, Draw("--allow-outside other/canary.tif")).status, 0);
-    EXPECT_TRUE(other.WasTouched());
-    WritePage(map + "\"raw.vrt\"]}");
-    ExpectRefused(Draw("--allow-outside other"), "raw.vrt");
-    EXPECT_EQ(RunMapPage(folder, Draw("--allow-all")).status, 0);
-    EXPECT_TRUE(other.WasTouched());
+    const auto write = [this](const std::string& raster) {
+        WritePage(
+            R"({"type": "map", "frame": {"width": 90, "height": 60}, "rasters": [)" +
+            Quoted(raster) + "]}");
+    };
+    const struct {
+        const char* raster;
+        Arguments allowed;
+        bool isDrawn;
+    } rows[] = {
+        {"link.tif", "--allow-outside other", true},
+        {"file.vrt", "--allow-outside other/canary.tif", true},
+        {"raw.vrt", "--allow-outside other", false},
+        {"raw.vrt", "--allow-all", true},
+        // Services do not open files elsewhere either.
+        {"link.tif", "--allow-remote", false},
+    };
+    for (const auto& row : rows) {
+        write(row.raster);
+        if (row.isDrawn) {
+            RunWell(Draw(row.allowed));
+        } else {
+            ExpectRefused(Draw(row.allowed), row.raster);
+        }
+        EXPECT_EQ(other.WasTouched(), row.isDrawn) << row.raster << row.allowed.front();
+    }
 
     Arguments briefly = Draw("--allow-remote");
     briefly[6] = "1";
-    WritePage(map + Quoted("/vsicurl/" + Url()) + "]}");
-    EXPECT_EQ(RunMapPage(folder, briefly).status, 1);
+    write("/vsicurl/" + Url());
+    EXPECT_EQ(Run(briefly).status, 1);
     EXPECT_TRUE(server.WasCalled());
     while (server.WasCalled()) {
     }
     ExpectRefused(Draw(), "/vsicurl/");
     EXPECT_FALSE(server.WasCalled());
-    // Services do not open files elsewhere either.
-    WritePage(map + "\"link.tif\"]}");
-    ExpectRefused(Draw("--allow-remote"), "link.tif");
-    EXPECT_FALSE(other.WasTouched());
 }
 
 }  // namespace

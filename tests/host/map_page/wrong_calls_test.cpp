@@ -103,9 +103,8 @@ TEST_F(WrongCall, IsToldInOneLine) {
     Write("text.png", "not a picture");
     Write("empty.png", "");
     Write("cut.png", Contents("logo.png").substr(0, 60));
-    const std::string wide = folder.Path("wide.png");
-    Gdiplus::Bitmap(40000, 2, PixelFormat24bppRGB)
-        .Save(std::wstring(wide.begin(), wide.end()).c_str(), &host_tests::kPngEncoder);
+    Gdiplus::Bitmap wide(40000, 2, PixelFormat24bppRGB);
+    host_tests::SavePng(wide, folder.Path("wide.png"));
     const std::string noImage = ": is not an image that can be read";
     const std::string noEnding =
         ": ends in none of .png .jpg .jpeg .bmp .tif .tiff .pdf .svg .ps";

@@ -86,13 +86,7 @@ class DocumentTest : public ::testing::Test {
 protected:
     DocumentTest() {
         WriteScene(folder.Path("scene.tif"), 40, 30);
-        Gdiplus::Bitmap logo(64, 48, PixelFormat32bppARGB);
-        {
-            Gdiplus::Graphics graphics(&logo);
-            graphics.Clear(Gdiplus::Color(0, 128, 0));
-        }
-        const std::string path = folder.Path("logo.png");
-        logo.Save(std::wstring(path.begin(), path.end()).c_str(), &kPngEncoder);
+        WriteLogo(folder.Path("logo.png"));
     }
 
     ScratchFolder folder;

@@ -1,12 +1,18 @@
 #include "page/output/image_file.h"
 
+#include <gdal_priv.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <filesystem>
+#include <memory>
 #include <string>
 #include <vector>
 
 #include "page/output/image_resolution.h"
+#include "page/output/png_image.h"
+#include "page/twelve_elements.h"
+#include "png_encoder.h"
 #include "scratch_folder.h"
 
 namespace {
@@ -14,10 +20,22 @@ namespace {
 using host::OutputFormat;
 using Bytes = std::vector<std::uint8_t>;
 
-Bytes Sub(const Bytes& bytes, std::size_t from, std::size_t count) {
-    return {bytes.begin() + static_cast<std::ptrdiff_t>(from),
-            bytes.begin() + static_cast<std::ptrdiff_t>(from + count)};
-}
+/// The bytes of an image file, read back.
+struct ImageReadBack {
+    explicit ImageReadBack(const Bytes& bytes)
+        : path(folder.Write("image", {bytes.begin(), bytes.end()})),
+          bitmap(std::wstring(path.begin(), path.end()).c_str()) {}
+
+    Gdiplus::ARGB At(int x, int y) {
+        Gdiplus::Color color;
+        bitmap.GetPixel(x, y, &color);
+        return color.GetValue();
+    }
+
+    ScratchFolder folder;
+    std::string path;
+    Gdiplus::Bitmap bitmap;
+};
 
 /// A file of zeros but for how it begins.
 Bytes FileOf(Bytes magic) {
@@ -36,77 +54,21 @@ TEST(ImageFile, LeavesOtherBytesAsTheyAre) {
     }
 }
 
-std::uint32_t Number(const Bytes& bytes, std::size_t at, int size, bool bigEndian) {
-    std::uint32_t number = 0;
-    for (int i = 0; i < size; ++i) {
-        const int index = bigEndian ? i : size - 1 - i;
-        number = number << 8 | bytes.at(at + static_cast<std::size_t>(index));
-    }
-    return number;
-}
-
-/// The place of a tag's value in a TIFF file; 0 where it has none.
-std::size_t TagIn(const Bytes& tiff, std::uint32_t tag) {
-    const std::size_t directory = Number(tiff, 4, 4, false);
-    const std::uint32_t count = Number(tiff, directory, 2, false);
-    for (std::size_t i = 0; i < count; ++i) {
-        const std::size_t entry = directory + 2 + 12 * i;
-        if (Number(tiff, entry, 2, false) == tag) {
-            const bool isRational = Number(tiff, entry + 2, 2, false) == 5;
-            return isRational ? Number(tiff, entry + 8, 4, false) : entry + 8;
-        }
-    }
-    return 0;
-}
-
-/// Dots an inch, as the bytes of a file say.
-double ResolutionIn(const Bytes& file, OutputFormat format, bool across) {
-    constexpr double kMetresInAnInch = 0.0254;
-    const std::size_t which = across ? 0 : 1;
-    switch (format) {
-        case OutputFormat::Png: {
-            const std::string chunk = "pHYs";
-            const auto at =
-                std::search(file.begin(), file.end(), chunk.begin(), chunk.end());
-            return Number(file,
-                          static_cast<std::size_t>(at - file.begin()) + 4 + 4 * which, 4,
-                          true) *
-                   kMetresInAnInch;
-        }
-        case OutputFormat::Jpeg:
-            return file.at(13) == 1 ? Number(file, 14 + 2 * which, 2, true) : 0;
-        case OutputFormat::Bmp:
-            return Number(file, 38 + 4 * which, 4, false) * kMetresInAnInch;
-        default: {
-            const std::size_t at = TagIn(file, across ? 282 : 283);
-            const bool isInch = Number(file, TagIn(file, 296), 2, false) == 2;
-            return isInch
-                       ? 1.0 * Number(file, at, 4, false) / Number(file, at + 4, 4, false)
-                       : 0.0;
-        }
-    }
-}
-
-TEST(ImageFile, IsEncodedInItsFormatAndRecordsTheResolution) {
-    const struct {
-        OutputFormat format;
-        Bytes magic;
-        double within;  ///< of the resolution, dots an inch
-    } rows[] = {
-        {OutputFormat::Png, {0x89, 'P', 'N', 'G', '\r', '\n', 0x1A, '\n'}, 0.02},
-        {OutputFormat::Jpeg, {0xFF, 0xD8, 0xFF}, 0.5},
-        {OutputFormat::Bmp, {'B', 'M'}, 0.02},
-        {OutputFormat::Tiff, {'I', 'I', 42, 0}, 1e-5},
+TEST(ImageFile, RecordsTheResolution) {
+    const std::pair<OutputFormat, double> rows[] = {
+        // and how far off, in dots an inch
+        {OutputFormat::Png, 0.02},
+        {OutputFormat::Jpeg, 0.5},
+        {OutputFormat::Bmp, 0.02},
+        {OutputFormat::Tiff, 1e-5},
     };
     host::PageImage image(Gdiplus::Size(60, 40));
     Gdiplus::Graphics(&image.Bitmap()).Clear(Gdiplus::Color(0xFFFFFFFF));
-    for (const auto& row : rows) {
+    for (const auto& [format, within] : rows) {
         for (const double dpi : {72.0, 96.5, 300.0, 2400.0}) {
-            const Bytes bytes = host::Encode(image, row.format, dpi);
-            ASSERT_GT(bytes.size(), 64u);
-            EXPECT_EQ(Sub(bytes, 0, row.magic.size()), row.magic);
-            EXPECT_NEAR(ResolutionIn(bytes, row.format, true), dpi, row.within);
-            EXPECT_NEAR(ResolutionIn(bytes, row.format, false), dpi, row.within);
+            ImageReadBack read(host::Encode(image, format, dpi));
+            EXPECT_NEAR(read.bitmap.GetHorizontalResolution(), dpi, within);
+            EXPECT_NEAR(read.bitmap.GetVerticalResolution(), dpi, within);
         }
     }
 }
@@ -120,20 +82,106 @@ TEST(ImageFile, OfTiffIsPackedAndHasNoAlpha) {
         graphics.FillRectangle(&brush, 100, 50, 300, 200);
     }
     const Bytes bytes = host::Encode(image, OutputFormat::Tiff, 150.0);
-    EXPECT_EQ(Number(bytes, TagIn(bytes, 277), 2, false), 3u) << "samples a pixel";
-    EXPECT_EQ(Number(bytes, TagIn(bytes, 262), 2, false), 2u) << "RGB";
-    EXPECT_EQ(Number(bytes, TagIn(bytes, 259), 2, false), 8u) << "deflated";
-    EXPECT_EQ(TagIn(bytes, 338), 0u) << "extra samples";
     EXPECT_LT(bytes.size(), 900u * 500u * 3u / 50u);
+    ImageReadBack read(bytes);
+    EXPECT_EQ(read.At(150, 60), 0xFF205080);
+    EXPECT_EQ(read.At(150, 40), 0xFFFFFFFF);
+    GDALAllRegister();
+    const std::unique_ptr<GDALDataset> tiff(
+        GDALDataset::Open(read.path.c_str(), GDAL_OF_RASTER));
+    ASSERT_EQ(tiff->GetRasterCount(), 3);
+    EXPECT_EQ(tiff->GetRasterBand(1)->GetColorInterpretation(), GCI_RedBand);
+    EXPECT_STREQ(tiff->GetMetadataItem("COMPRESSION", "IMAGE_STRUCTURE"), "DEFLATE");
+}
 
+/// Pixels of which each byte tells where it is; the fourth one must not matter.
+Bytes Pattern(int width, int height) {
+    Bytes pixels;
+    for (int y = 0; y < height; ++y) {
+        for (int x = 0; x < width; ++x) {
+            for (const int byte : {x * 7, y * 11, x + y * 3, x ^ y}) {
+                pixels.push_back(static_cast<std::uint8_t>(byte));
+            }
+        }
+    }
+    return pixels;
+}
+
+TEST(PngImage, HoldsEveryPixel) {
+    for (const Gdiplus::Size size :
+         {Gdiplus::Size(1, 1), Gdiplus::Size(3, 2), Gdiplus::Size(257, 64)}) {
+        const Bytes pixels = Pattern(size.Width, size.Height);
+        ImageReadBack read(host::EncodePng(
+            {pixels.data(), size.Width, size.Height, size.Width * 4}, 96.0));
+        ASSERT_EQ(read.bitmap.GetWidth(), static_cast<UINT>(size.Width));
+        ASSERT_EQ(read.bitmap.GetHeight(), static_cast<UINT>(size.Height));
+        for (int y = 0; y < size.Height; ++y) {
+            for (int x = 0; x < size.Width; ++x) {
+                const std::uint8_t* pixel =
+                    &pixels[static_cast<std::size_t>((y * size.Width + x) * 4)];
+                ASSERT_EQ(read.At(x, y),
+                          Gdiplus::Color(255, pixel[2], pixel[1], pixel[0]).GetValue())
+                    << "at " << x << ", " << y;
+            }
+        }
+    }
+}
+
+TEST(PngImage, ReadsRowsUpwardsToo) {
+    const Bytes pixels = Pattern(5, 4);
+    Bytes upsideDown;
+    for (std::size_t y = 4; y-- > 0;) {
+        upsideDown.insert(upsideDown.end(), &pixels[y * 20], &pixels[y * 20] + 20);
+    }
+    EXPECT_EQ(host::EncodePng({&upsideDown[60], 5, 4, -20}, 96.0),
+              host::EncodePng({pixels.data(), 5, 4, 20}, 96.0));
+}
+
+struct ResolutionRow {
+    double dpi;
+    Bytes density;   // pixels a metre
+    Bytes checksum;  // as published files of that resolution have it
+};
+
+TEST(PngImage, RecordsItsResolution) {
+    const ResolutionRow rows[] = {
+        {72.0, {0x00, 0x00, 0x0B, 0x13}, {0x00, 0x9A, 0x9C, 0x18}},
+        {96.0, {0x00, 0x00, 0x0E, 0xC4}, {0x95, 0x2B, 0x0E, 0x1B}},
+        {300.0, {0x00, 0x00, 0x2E, 0x23}, {0x78, 0xA5, 0x3F, 0x76}},
+    };
+    const Bytes pixels = Pattern(2, 2);
+    for (const ResolutionRow& row : rows) {
+        Bytes chunk = {0, 0, 0, 9, 'p', 'H', 'Y', 's'};
+        chunk.insert(chunk.end(), row.density.begin(), row.density.end());
+        chunk.insert(chunk.end(), row.density.begin(), row.density.end());
+        chunk.push_back(1);
+        chunk.insert(chunk.end(), row.checksum.begin(), row.checksum.end());
+        const Bytes file = host::EncodePng({pixels.data(), 2, 2, 8}, row.dpi);
+        EXPECT_NE(std::search(file.begin(), file.end(), chunk.begin(), chunk.end()),
+                  file.end())
+            << row.dpi << " dpi";
+    }
+}
+
+TEST(PngImage, RefusesAnImageWithoutPixels) {
+    EXPECT_THROW(host::EncodePng({nullptr, 0, 0, 0}, 96.0), std::runtime_error);
+    EXPECT_THROW(host::EncodePng({nullptr, 5, 0, 20}, 96.0), std::runtime_error);
+}
+
+TEST(PngImage, IsAtMostAFifthLargerThanTheOneOfGdiplus) {
+    const host::Page page = host_tests::TwelveElements();
+    host::PageImage image(host::PixelSize(page, 96.0));
+    {
+        Gdiplus::Graphics graphics(&image.Bitmap());
+        page.Draw(graphics, 96.0);
+    }
     const ScratchFolder folder;
-    const std::string path = folder.Write("page.tif", {bytes.begin(), bytes.end()});
-    Gdiplus::Bitmap read(std::wstring(path.begin(), path.end()).c_str());
-    Gdiplus::Color colour;
-    read.GetPixel(150, 60, &colour);
-    EXPECT_EQ(colour.GetValue(), 0xFF205080);
-    read.GetPixel(150, 40, &colour);
-    EXPECT_EQ(colour.GetValue(), 0xFFFFFFFF);
+    ASSERT_EQ(host_tests::SavePng(image.Bitmap(), folder.Path("gdiplus.png")),
+              Gdiplus::Ok);
+    const Bytes ours = host::Encode(image, OutputFormat::Png, 96.0);
+    EXPECT_LE(static_cast<double>(ours.size()),
+              1.2 * static_cast<double>(
+                        std::filesystem::file_size(folder.Path("gdiplus.png"))));
 }
 
 }  // namespace

@@ -1,8 +1,8 @@
 #include "page/output/pdf/pdf_file.h"
 
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 
-#include <fstream>
 #include <string>
 
 #include "page/twelve_elements.h"
@@ -12,17 +12,6 @@
 #include "system/separate_process.h"
 
 namespace {
-
-/// What this process has held in memory at most, in kB.
-std::string Peak() {
-    std::ifstream status("/proc/self/status");
-    for (std::string line; std::getline(status, line);) {
-        if (line.rfind("VmHWM:", 0) == 0) {
-            return line.substr(6);
-        }
-    }
-    return "0";
-}
 
 /// What a process that writes a file of so many pages holds at most, in kB.
 int PeakOfPages(int count) {
@@ -37,7 +26,9 @@ int PeakOfPages(int count) {
             file.Add(page);
         }
         file.Finish(about, [](const std::vector<std::uint8_t>&) {});
-        return Peak();
+        rusage used = {};
+        getrusage(RUSAGE_SELF, &used);
+        return std::to_string(used.ru_maxrss);
     }));
 }
 
