@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <filesystem>
 #include <string>
 
@@ -189,6 +190,31 @@ TEST_F(MapPage, TellsItsOptionsAndItsVersion) {
     EXPECT_EQ(RunWell("--version").out, "map_page " MAP_PAGE_VERSION
                                         "\nThe process that draws a page file: " +
                                             host::ConfinementHere() + "\n");
+}
+
+// The real rasters, where a folder with them is named.
+TEST_F(MapPage, DrawsRealRasters) {
+    const char* const rasters = std::getenv("MAP_SURROUND_RASTERS");
+    if (rasters == nullptr) {
+        GTEST_SKIP() << "MAP_SURROUND_RASTERS names no folder";
+    }
+    const std::string in = std::string(rasters) + "/";
+    const Result result =
+        RunWell({in + "L7_ETMs.tif", in + "olinda_dem_utm25s.tif", in + "lc.tif", "-o",
+                 "page.png", "--title", "Olinda", "--picture", "logo.png"});
+    EXPECT_EQ(result.err, "map_page: warning: " + in +
+                              "lc.tif: left off the map: its coordinate system is not "
+                              "that of the first raster\n");
+    const Picture page = PictureOf("page.png");
+    EXPECT_GT(Ink(page, 0.4, 0.06, 0.6, 0.13), 0.1) << "the title";
+    EXPECT_GT(Ink(page, 0.25, 0.25, 0.6, 0.9), 0.95) << "the map";
+    EXPECT_GT(Ink(page, 0.69, 0.17, 0.88, 0.65), 0.05) << "the legend";
+    EXPECT_GT(Ink(page, 0.69, 0.71, 0.86, 0.77), 0.05) << "the scale bar";
+    EXPECT_GT(Ink(page, 0.69, 0.83, 0.76, 0.93), 0.03) << "the north arrow";
+    EXPECT_GT(Ink(page, 0.8, 0.83, 0.88, 0.95), 0.4) << "the picture";
+    for (const char* raster : {"olinda_dem_utm25s.tif", "lc.tif"}) {
+        RunWell({in + raster, "-o", "page.png"});
+    }
 }
 
 }  // namespace

@@ -63,6 +63,16 @@ TEST_F(PageFile, DrawsThePixelsOfThePageThatWasSaved) {
     }
 }
 
+TEST_F(PageFile, SaysHowItsRasterIsShown) {
+    RunWell(
+        "data/scene.tif --save page.json --stretch percent 5 95 --bands 3,2,1 --nodata "
+        "7");
+    EXPECT_THAT(Contents("page.json"),
+                ::testing::AllOf(HasSubstr(R"("stretch": "percent 5 95")"),
+                                 HasSubstr(R"("bands": "3,2,1")"),
+                                 HasSubstr(R"("noData": "7")")));
+}
+
 TEST_F(PageFile, EveryStyleOfTheCatalogueIsAWordASavedTypeAndADrawing) {
     const std::string help = Run("--help").out;
     for (const auto& [family, option] : {std::pair(SurroundScaleBar, "--scale-bar"),
