@@ -1,6 +1,7 @@
 #pragma once
 
-/// @file The eight handles of a frame: their positions, and what dragging one does.
+/// @file
+/// The eight handles of a frame: their positions, and what dragging one does.
 
 #include <gdiplus.h>
 
