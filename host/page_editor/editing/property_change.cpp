@@ -114,7 +114,7 @@ void TurnByQuarter(host::PageItem& item, host::RasterStore& rasters) {
         return;
     }
     const double turned = std::fmod(std::get<double>(angle->read(item)) + 90.0, 360.0);
-    SetProperty(item, *angle, turned, rasters);
+    SetProperty(item, *angle, turned, rasters, {});
     const host::Box box = host::BoxOf(FrameOf(item).GetExtent());
     const double half = (box.Width() - box.Height()) / 2.0;
     FrameOf(item).SetExtent(host::BoundingBoxOf(

@@ -11,7 +11,7 @@ namespace page_editor {
 /// @param reading called while a file takes long to read; may cancel the reading
 void SetProperty(host::PageItem& item, const host::Property& property,
                  const host::PropertyValue& value, host::RasterStore& rasters,
-                 const host::Progress& reading = {});
+                 const host::Progress& reading);
 
 /// host::MeasureItem, except for pictures: rotated, they would take the proportions of
 /// their bounding box.

@@ -153,7 +153,8 @@ void PropertyPanel::Change(const host::Property& property,
     const std::string label = "Change " + LabelFor(property).toLower().toStdString();
     try {
         m_document.ChangeItems(m_document.Selection(), label, [&](host::PageItem& item) {
-            SetProperty(item, property, value, m_document.Rasters());
+            SetProperty(item, property, value, m_document.Rasters(),
+                        m_document.Reading());
         });
         ShowValues();
     } catch (const std::exception& error) {

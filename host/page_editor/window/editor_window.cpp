@@ -194,7 +194,8 @@ void EditorWindow::SetLanguage(const host::Language& language) {
         m_document.ChangeItems(
             Everything(m_document), "Language", [this, &language](host::PageItem& item) {
                 for (const auto& [property, value] : host::WordsIn(language, item)) {
-                    SetProperty(item, *property, value, m_document.Rasters());
+                    SetProperty(item, *property, value, m_document.Rasters(),
+                                m_document.Reading());
                 }
             });
     });
