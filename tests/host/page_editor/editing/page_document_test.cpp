@@ -78,6 +78,8 @@ TEST_F(PageDocumentTest, ChangesAndUndoesItems) {
 TEST_F(PageDocumentTest, MakesNoCommandOfNoChange) {
     const std::string label = document.UndoLabel();
     Move({1}, 0.0);
+    document.Rearrange({0, 1, 2, 3});
+    document.SetSheet(document.Page().Width(), document.Page().Height());
     EXPECT_EQ(document.UndoLabel(), label);
     EXPECT_THAT(changed, IsEmpty());
 }

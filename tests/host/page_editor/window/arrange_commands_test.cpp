@@ -139,6 +139,7 @@ TEST_F(ArrangeCommands, CutCopyAndPaste) {
 TEST_F(ArrangeCommands, ChangeTheSheet) {
     EXPECT_TRUE(window.SetSheet("200x100"));
     EXPECT_NEAR(document.Page().Width(), 755.9, 0.1);
+    EXPECT_NEAR(document.Page().Height(), 378.0, 0.1);
     ExpectImageIsThePage();
     EXPECT_TRUE(window.SetSheet("250x100"));  // only as wide
     ExpectImageIsThePage();
